@@ -1,0 +1,24 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace orb::model {
+
+/// The whole contents of a file. Throws FileError with the system's reason.
+std::string ReadFile(const std::filesystem::path& path);
+
+/// Replaces a file whole or not at all: writes beside it, flushes to disk, renames over it. On
+/// failure throws FileError with the system's reason; the old file stays and nothing lies beside
+/// it. A link is followed; anything that is no ordinary file is refused.
+void ReplaceFile(const std::filesystem::path& path, std::string_view bytes);
+
+/// The path of a file named by a user who may not know of letter case: the file's own name in
+/// small letters, unless only the name as given exists. Directories stay as given.
+std::filesystem::path LowerCaseName(const std::filesystem::path& path);
+
+/// The directory of the running program's file, links resolved.
+std::filesystem::path ProgramDirectory();
+
+}  // namespace orb::model

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "model/game_state.h"
+#include "model/messages.h"
+
+namespace orb::model {
+
+// A game file, record by record: the header "ORB v5.5"; title, season, year, stage; the unit count
+// and the units; the location count and the locations' live state; the order count and the lines
+// of the moves stage; the text count and the texts; the power count and the players' names. Older
+// versions lack some fields; the last two sections may be missing.
+
+/// The bytes of the game file of this situation. Throws FatalError when a text cannot be stored.
+std::string FormatGameFile(const GameState& game);
+
+/// Reads a game file of any version from memory into the situation. What the file's version does
+/// not hold stays as it was. Returns the first location name that is not on the map, or nothing
+/// when the game was read. Throws FileError or IndexOutOfRange for a broken file. The situation
+/// changes only when the game was read whole; `FileName` is left to the caller.
+std::optional<std::string> ParseGameFile(std::string_view bytes, const std::string& fileName,
+                                         GameState& game);
+
+/// Writes the situation to `game.FileName`, whole or not at all.
+void WriteGameFile(const GameState& game);
+
+/// Reads the named file into the situation and makes it the current file name. An unknown location
+/// is reported in a message and leaves the starting position instead: false. Throws as
+/// ParseGameFile does, the situation unchanged.
+bool ReadGameFile(GameState& game, const std::filesystem::path& file,
+                  const std::filesystem::path& dataDirectory, Messages& messages);
+
+}  // namespace orb::model

@@ -1,0 +1,35 @@
+#include "model/game_state.h"
+
+#include <utility>
+
+#include "model/messages.h"
+
+namespace orb::model {
+
+GameState EmptyGame(std::shared_ptr<const Map> map) {
+  GameState game;
+  game.Provinces.SetCount(map->Provinces.Count());
+  game.Map = std::move(map);
+  return game;
+}
+
+std::string Caption(const GameState& game) {
+  std::string caption(ProgramName);
+  if (game.Title != DefaultTitle) caption.append(" ").append(game.Title);
+  return caption;
+}
+
+void SetCentreOwnersFromUnits(GameState& game) {
+  for (const Unit& unit : game.Units) {
+    const int province = FindProvince(*game.Map, std::string_view(unit.Location).substr(0, 3));
+    if (province == 0) {
+      throw IndexOutOfRange("A unit stands in an unknown province: " + unit.Power + " " +
+                            unit.UnitType + "(" + unit.Location + ").");
+    }
+    if (game.Map->Provinces[province].IsSupplyCentre != 0) {
+      game.Provinces[province].Owner = unit.Power;
+    }
+  }
+}
+
+}  // namespace orb::model

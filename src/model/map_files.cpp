@@ -1,0 +1,102 @@
+#include "model/map_files.h"
+
+#include "model/errors.h"
+#include "model/files.h"
+#include "model/record_file.h"
+#include "model/text.h"
+
+namespace orb::model {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t FixLength = 3;
+
+[[noreturn]] void FailAtLine(const std::string& fileName, int line, const std::string& problem) {
+  throw IndexOutOfRange(fileName + ", line " + std::to_string(line) + ": " + problem);
+}
+
+void LoadAdjacencyLine(std::string_view line, const Map& map, Adjacency& adjacency,
+                       const std::string& fileName, int lineNumber) {
+  std::string fixed(line);
+  FixNames(map, fixed);
+  std::string_view rest = fixed;
+  const std::string_view name = NextField(rest);
+  const int row = FindProvince(map, name);
+  if (row == 0) {
+    FailAtLine(fileName, lineNumber,
+               "expected a location of prov.dat, found \"" + std::string(name) + "\".");
+  }
+  auto& neighbours = adjacency[static_cast<std::size_t>(row - 1)];
+  for (std::size_t k = 0; !rest.empty(); ++k) {
+    const std::string_view neighbour = NextField(rest);
+    if (k == neighbours.size()) {
+      FailAtLine(fileName, lineNumber,
+                 "expected at most " + std::to_string(NeighbourBound) + " neighbours of " +
+                     std::string(name) + ", found more.");
+    }
+    neighbours[k] = static_cast<std::int16_t>(FindProvince(map, neighbour));
+  }
+}
+
+}  // namespace
+
+void LoadNameFixes(std::string_view bytes, const std::string& fileName, Map& map) {
+  RecordReader reader(bytes, fileName);
+  while (!reader.AtEnd() && map.NameFixes.Count() < NameFixBound) {
+    const std::string_view from = reader.Text("an old abbreviation");
+    if (reader.AtEnd()) break;
+    const std::string_view to = reader.Text("a new abbreviation");
+    if (from.size() == FixLength && to.size() == FixLength) {
+      map.NameFixes.Append({std::string(from), std::string(to)});
+    }
+  }
+}
+
+void LoadProvinces(std::string_view bytes, const std::string& fileName, Map& map) {
+  RecordReader reader(bytes, fileName);
+  do {
+    if (map.Provinces.Count() == ProvinceBound) {
+      throw IndexOutOfRange(fileName + ": expected at most " + std::to_string(ProvinceBound) +
+                            " locations, found more.");
+    }
+    Province& province = map.Provinces.Append();
+    province.Name = reader.Text("a location's abbreviation");
+    FixNames(map, province.Name);
+    province.HomeCountry = reader.Text("a home power");
+    province.IsSupplyCentre = reader.Number("a supply centre flag");
+    province.LabelX = reader.Fraction("a label's x");
+    province.LabelY = reader.Fraction("a label's y");
+    province.UnitX = reader.Fraction("a unit's x");
+    province.UnitY = reader.Fraction("a unit's y");
+    province.FullName = reader.Text("a location's full name");
+    map.Names.Insert(map.Provinces, map.Provinces.Count());
+  } while (!reader.AtEnd());
+}
+
+void LoadAdjacency(std::string_view bytes, const std::string& fileName, const Map& map,
+                   Adjacency& adjacency) {
+  adjacency = {};
+  if (bytes.empty()) {
+    throw FileError(fileName + ": expected the connections of a location, found an empty file.");
+  }
+  for (int line = 1; !bytes.empty(); ++line) {
+    LoadAdjacencyLine(NextLine(bytes), map, adjacency, fileName, line);
+  }
+}
+
+std::shared_ptr<const Map> LoadMap(const fs::path& directory) {
+  auto map = std::make_shared<Map>();
+  const fs::path fixes = directory / "fixnames.dat";
+  std::error_code ignored;
+  if (fs::exists(fixes, ignored)) LoadNameFixes(ReadFile(fixes), fixes.string(), *map);
+  const fs::path provinces = directory / "prov.dat";
+  LoadProvinces(ReadFile(provinces), provinces.string(), *map);
+  const fs::path armies = directory / "conna.dat";
+  LoadAdjacency(ReadFile(armies), armies.string(), *map, map->ArmyAdjacency);
+  const fs::path fleets = directory / "connf.dat";
+  LoadAdjacency(ReadFile(fleets), fleets.string(), *map, map->FleetAdjacency);
+  return map;
+}
+
+}  // namespace orb::model

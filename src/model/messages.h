@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace orb::model {
+
+/// The caption of every message box.
+constexpr std::string_view ProgramName = "ORB v5.5";
+
+enum class Icon { None, Exclamation, Information, Stop };
+
+enum class Answer { Yes, No, YesToAll };
+
+/// The port for message boxes: a window shows them, a terminal prints them, a test answers from a
+/// script. Lines of a text are parted by a lone carriage return.
+class Messages {
+ public:
+  Messages() = default;
+  Messages(const Messages&) = delete;
+  Messages& operator=(const Messages&) = delete;
+  virtual ~Messages() = default;
+
+  /// Yes or No with the exclamation icon; true for Yes.
+  virtual bool Warn(const std::string& text) = 0;
+
+  /// Yes, No or Yes to all.
+  virtual Answer Ask(const std::string& text) = 0;
+
+  /// A box with OK only that offers no choice. The command may go on after it.
+  virtual void Show(const std::string& text, Icon icon) = 0;
+};
+
+/// "Warning: ", the subject, the problem and "Continue?", one below the other.
+std::string WarningText(std::string_view subject, std::string_view problem);
+
+/// "Warning: ", the subject and "Continue?" below it.
+std::string WarningText(std::string_view subject);
+
+}  // namespace orb::model

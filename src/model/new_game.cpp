@@ -1,0 +1,78 @@
+#include "model/new_game.h"
+
+#include <utility>
+
+#include "model/files.h"
+#include "model/record_file.h"
+
+namespace orb::model {
+namespace {
+
+/// start.dat: a record of season and year, then one of power, unit type and location a unit.
+class StartFile {
+ public:
+  explicit StartFile(const std::filesystem::path& dataDirectory)
+      : path_(dataDirectory / "start.dat"), bytes_(ReadFile(path_)), reader_(bytes_, path_) {}
+  RecordReader& Reader() { return reader_; }
+
+ private:
+  std::filesystem::path path_;
+  std::string bytes_;
+  RecordReader reader_;
+};
+
+void ReadSeason(GameState& game, RecordReader& reader) {
+  game.Title = DefaultTitle;
+  game.Season = reader.Text("a season");
+  game.Year = reader.Number("a year");
+  game.Stage = "moves";
+}
+
+void ReadUnits(GameState& game, RecordReader& reader) {
+  while (!reader.AtEnd()) {
+    Unit& unit = game.Units.Append();
+    unit = {};
+    unit.Power = reader.Text("a unit's power");
+    unit.UnitType = reader.Text("a unit's type");
+    unit.Location = reader.Text("a unit's location");
+    FixNames(*game.Map, unit.Location);
+  }
+}
+
+void ClearTexts(GameState& game) {
+  game.TextLines.SetCount(0);
+  game.OrdersList.clear();
+  game.RetreatsList.clear();
+  game.AdjustmentsList.clear();
+  game.ReportLines.SetCount(0);
+  game.FileName.clear();
+  for (Country& country : game.Countries) country.PlayerName.clear();
+}
+
+}  // namespace
+
+void NewGame(GameState& game, const std::filesystem::path& dataDirectory) {
+  GameState next = game;
+  StartFile start(dataDirectory);
+  ReadSeason(next, start.Reader());
+  next.Units.SetCount(0);
+  ReadUnits(next, start.Reader());
+  ClearTexts(next);
+  for (ProvinceState& province : next.Provinces) province = {{}, {}, true};
+  SetCentreOwnersFromUnits(next);
+  game = std::move(next);
+}
+
+void BlankGame(GameState& game, const std::filesystem::path& dataDirectory) {
+  GameState next = game;
+  StartFile start(dataDirectory);
+  ReadSeason(next, start.Reader());
+  next.Units.SetCount(0);
+  ClearTexts(next);
+  for (int i = 1; i <= next.Provinces.Count(); ++i) {
+    next.Provinces[i] = {next.Map->Provinces[i].HomeCountry, {}, true};
+  }
+  game = std::move(next);
+}
+
+}  // namespace orb::model

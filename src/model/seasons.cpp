@@ -1,0 +1,70 @@
+#include "model/seasons.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "model/errors.h"
+
+namespace orb::model {
+namespace {
+
+bool HasNoStart(const Unit& unit) {
+  return unit.PreviousLocation.empty() || unit.PreviousLocation == Unknown;
+}
+
+void RestoreUnits(GameState& game) {
+  for (int i = game.Units.Count(); i >= 1; --i) {
+    if (HasNoStart(game.Units[i])) game.Units.Remove(i);
+  }
+  for (Unit& unit : game.Units) {
+    unit.Location = unit.PreviousLocation;
+    unit.Status.clear();
+    unit.DislodgedFrom.clear();
+    unit.PreviousLocation.clear();
+  }
+}
+
+}  // namespace
+
+void NextSeason(GameState& game) {
+  if (game.Season != "Spring") {
+    if (game.Year == std::numeric_limits<std::int16_t>::max()) {
+      throw FatalError("The year " + std::to_string(game.Year) + " is the last one possible.");
+    }
+    game.Season = "Spring";
+    ++game.Year;
+  } else {
+    game.Season = "Autumn";
+  }
+  game.Stage = "moves";
+  game.OrdersList.clear();
+  game.TextLines.SetCount(0);
+  game.ReportLines.SetCount(0);
+  game.FileName.clear();
+}
+
+bool UndoSeason(GameState& game, Messages& messages) {
+  const bool ownersKnown =
+      std::none_of(game.Provinces.begin(), game.Provinces.end(),
+                   [](const ProvinceState& p) { return p.PreviousOwner == Unknown; });
+  if (game.Stage == "finished" && game.Season == "Autumn") {
+    messages.Show("Original supply centre ownerships unknown;\rcan't undo.", Icon::None);
+    return false;
+  }
+  const auto lost = std::count_if(game.Units.begin(), game.Units.end(), HasNoStart);
+  if (lost > 0 && !messages.Warn(std::to_string(lost) +
+                                 " units do not have original locations recorded.\rContinue?")) {
+    return false;
+  }
+  RestoreUnits(game);
+  if (ownersKnown) {
+    for (ProvinceState& province : game.Provinces) province.Owner = province.PreviousOwner;
+  }
+  game.Stage = "moves";
+  game.RetreatsList.clear();
+  game.AdjustmentsList.clear();
+  game.ReportLines.SetCount(0);
+  return true;
+}
+
+}  // namespace orb::model

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "model/game_state.h"
+#include "model/messages.h"
+
+namespace orb::model {
+
+/// Starts the season that follows: Spring comes after anything but Spring and begins a new year.
+/// Orders, free text, report and current file name are dropped. Throws FatalError past year 32767.
+void NextSeason(GameState& game);
+
+/// Puts the season back to its start from the positions and owners that the last moves recorded.
+/// False, nothing changed, for a finished Autumn season or when the user declines to lose the
+/// units whose start is not recorded.
+bool UndoSeason(GameState& game, Messages& messages);
+
+}  // namespace orb::model

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "model/game_state.h"
+
+namespace orb::orders {
+
+/// "ENG A(Lon)": a unit as order lines begin.
+std::string UnitText(const model::Unit& unit);
+
+/// The last unit, in index order, that stands in the same place as the location; 0 if none.
+int FindUnitAt(const model::GameState& game, std::string_view location);
+
+/// Whether a unit of the type ("A" or "F") can move from one location to the other; both are
+/// whole abbreviations, so a fleet's coast matters. False for unknown locations and other types.
+bool IsAdjacent(const model::Map& map, std::string_view unitType, std::string_view from,
+                std::string_view to);
+
+/// Whether a unit of the type can stand in the location: it has a connection of that type there.
+bool CanStandIn(const model::Map& map, std::string_view unitType, std::string_view location);
+
+/// Whether the unit can move into the target's province or any of its coasts.
+bool CanSupportInto(const model::Map& map, const model::Unit& unit, std::string_view target);
+
+}  // namespace orb::orders
