@@ -1,10 +1,10 @@
 #pragma once
 
+#include "model/table.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
-
-#include "model/table.h"
 
 namespace orb::model {
 

@@ -1,17 +1,16 @@
 #include "model/files.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "model/errors.h"
+#include "model/text.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <system_error>
+#include <unistd.h>
 #include <utility>
-
-#include "model/errors.h"
-#include "model/text.h"
 
 // Standard C++ cannot flush a file to disk; this file alone speaks to the operating system.
 
@@ -98,10 +97,9 @@ void ReplaceFile(const fs::path& path, std::string_view bytes) {
   std::string beside = target.string() + ".XXXXXX";
   Descriptor file(::mkostemp(beside.data(), O_CLOEXEC));
   if (file.Number() < 0) Fail("write", path, errno);
-  const bool written = WriteAll(file.Number(), bytes) &&
-                       ::fchmod(file.Number(), FileMode(target)) == 0 &&
-                       ::fsync(file.Number()) == 0 && file.Close() &&
-                       ::rename(beside.c_str(), target.c_str()) == 0;
+  const bool written =
+      WriteAll(file.Number(), bytes) && ::fchmod(file.Number(), FileMode(target)) == 0 &&
+      ::fsync(file.Number()) == 0 && file.Close() && ::rename(beside.c_str(), target.c_str()) == 0;
   if (!written) {
     const int error = errno;
     ::unlink(beside.c_str());

@@ -1,14 +1,14 @@
 #include "model/game_file.h"
 
-#include <algorithm>
-#include <charconv>
-#include <utility>
-
 #include "model/errors.h"
 #include "model/files.h"
 #include "model/new_game.h"
 #include "model/record_file.h"
 #include "model/text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <utility>
 
 namespace orb::model {
 namespace {
@@ -106,12 +106,14 @@ void ReadTexts(RecordReader& reader, GameState& game) {
   game.TextLines.SetCount(0);
   if (reader.AtEnd()) return;
   game.TextLines.SetCount(reader.CountUpTo(TextLineBound, "the number of text lines"));
-  for (std::string& line : game.TextLines) ReadFixed(reader, *game.Map, "a text line", line);
+  for (std::string& line : game.TextLines)
+    ReadFixed(reader, *game.Map, "a text line", line);
 }
 
 void ReadPlayers(RecordReader& reader, GameState& game) {
   if (reader.AtEnd()) {
-    for (Country& country : game.Countries) country.PlayerName.clear();
+    for (Country& country : game.Countries)
+      country.PlayerName.clear();
     return;
   }
   const int count = reader.Number("the number of powers");
@@ -175,9 +177,11 @@ std::string FormatGameFile(const GameState& game) {
     writer.Text(province.PreviousOwner).EndRecord();
   }
   writer.Number(static_cast<int>(game.OrdersList.size())).EndRecord();
-  for (const std::string& line : game.OrdersList) writer.Text(line).EndRecord();
+  for (const std::string& line : game.OrdersList)
+    writer.Text(line).EndRecord();
   writer.Number(game.TextLines.Count()).EndRecord();
-  for (const std::string& line : game.TextLines) writer.Text(line).EndRecord();
+  for (const std::string& line : game.TextLines)
+    writer.Text(line).EndRecord();
   writer.Number(game.Countries.Count()).EndRecord();
   for (const Country& country : game.Countries) {
     writer.Text(country.Abbreviation).Text(country.PlayerName).EndRecord();
@@ -185,7 +189,9 @@ std::string FormatGameFile(const GameState& game) {
   return writer.Bytes();
 }
 
-void WriteGameFile(const GameState& game) { ReplaceFile(game.FileName, FormatGameFile(game)); }
+void WriteGameFile(const GameState& game) {
+  ReplaceFile(game.FileName, FormatGameFile(game));
+}
 
 bool ReadGameFile(GameState& game, const std::filesystem::path& file,
                   const std::filesystem::path& dataDirectory, Messages& messages) {

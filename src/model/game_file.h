@@ -1,12 +1,12 @@
 #pragma once
 
+#include "model/game_state.h"
+#include "model/messages.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
-
-#include "model/game_state.h"
-#include "model/messages.h"
 
 namespace orb::model {
 

@@ -1,8 +1,8 @@
 #include "model/game_state.h"
 
-#include <utility>
-
 #include "model/messages.h"
+
+#include <utility>
 
 namespace orb::model {
 

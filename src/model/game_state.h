@@ -1,14 +1,14 @@
 #pragma once
 
+#include "model/country.h"
+#include "model/map.h"
+#include "model/table.h"
+
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "model/country.h"
-#include "model/map.h"
-#include "model/table.h"
 
 namespace orb::model {
 
@@ -18,9 +18,9 @@ constexpr int ReportLineBound = 100;
 
 /// The live state of a location; its row is that of the map's Province.
 struct ProvinceState {
-  std::string Owner;           ///< abbreviation of the power owning the centre; else unowned
-  std::string PreviousOwner;   ///< Owner before the last moves; "unknown" when not recorded
-  bool Uncontested = false;    ///< no move with positive strength was aimed at it last
+  std::string Owner;          ///< abbreviation of the power owning the centre; else unowned
+  std::string PreviousOwner;  ///< Owner before the last moves; "unknown" when not recorded
+  bool Uncontested = false;   ///< no move with positive strength was aimed at it last
 };
 
 /// One army or fleet.

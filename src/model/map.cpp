@@ -6,7 +6,8 @@ namespace {
 std::size_t Hash(std::string_view name) {
   // FNV-1a, 32 bits.
   std::uint32_t hash = 2166136261U;
-  for (const char c : name) hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;
+  for (const char c : name)
+    hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;
   return (hash ^ hash >> 16) & 0xFF;
 }
 
@@ -15,7 +16,8 @@ std::size_t Hash(std::string_view name) {
 void NameIndex::Insert(const Table<Province, ProvinceBound>& provinces, int row) {
   if (Find(provinces, provinces[row].Name) != 0) return;
   std::size_t slot = Hash(provinces[row].Name);
-  while (slots_[slot] != 0) slot = (slot + 1) & 0xFF;
+  while (slots_[slot] != 0)
+    slot = (slot + 1) & 0xFF;
   slots_[slot] = static_cast<std::uint8_t>(row);
 }
 

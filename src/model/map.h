@@ -1,11 +1,11 @@
 #pragma once
 
+#include "model/table.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
-
-#include "model/table.h"
 
 namespace orb::model {
 

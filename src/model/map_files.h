@@ -1,11 +1,11 @@
 #pragma once
 
+#include "model/map.h"
+
 #include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
-
-#include "model/map.h"
 
 namespace orb::model {
 

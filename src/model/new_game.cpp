@@ -1,9 +1,9 @@
 #include "model/new_game.h"
 
-#include <utility>
-
 #include "model/files.h"
 #include "model/record_file.h"
+
+#include <utility>
 
 namespace orb::model {
 namespace {
@@ -46,7 +46,8 @@ void ClearTexts(GameState& game) {
   game.AdjustmentsList.clear();
   game.ReportLines.SetCount(0);
   game.FileName.clear();
-  for (Country& country : game.Countries) country.PlayerName.clear();
+  for (Country& country : game.Countries)
+    country.PlayerName.clear();
 }
 
 }  // namespace
@@ -58,7 +59,8 @@ void NewGame(GameState& game, const std::filesystem::path& dataDirectory) {
   next.Units.SetCount(0);
   ReadUnits(next, start.Reader());
   ClearTexts(next);
-  for (ProvinceState& province : next.Provinces) province = {{}, {}, true};
+  for (ProvinceState& province : next.Provinces)
+    province = {{}, {}, true};
   SetCentreOwnersFromUnits(next);
   game = std::move(next);
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <filesystem>
-
 #include "model/game_state.h"
+
+#include <filesystem>
 
 namespace orb::model {
 

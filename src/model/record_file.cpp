@@ -1,19 +1,21 @@
 #include "model/record_file.h"
 
+#include "model/errors.h"
+#include "model/text.h"
+
 #include <array>
 #include <charconv>
 #include <limits>
 #include <utility>
-
-#include "model/errors.h"
-#include "model/text.h"
 
 namespace orb::model {
 namespace {
 
 constexpr std::string_view LineEnds = "\r\n";
 
-bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
+bool IsLineEnd(char c) {
+  return c == '\r' || c == '\n';
+}
 
 /// The field as it is shown in an error text: short, and without bytes that are no text.
 std::string Shown(std::string_view field) {
@@ -45,12 +47,14 @@ void RecordReader::Fail(std::string_view expected, std::string_view found) const
 }
 
 std::string_view RecordReader::Text(std::string_view expected) {
-  while (position_ < bytes_.size() && bytes_[position_] == ' ') ++position_;
+  while (position_ < bytes_.size() && bytes_[position_] == ' ')
+    ++position_;
   fieldLine_ = line_;
   if (position_ == bytes_.size()) Fail(expected, "the end of the file");
   if (bytes_[position_] == '"') return QuotedField(expected);
   std::size_t end = position_;
-  while (end < bytes_.size() && bytes_[end] != ',' && !IsLineEnd(bytes_[end])) ++end;
+  while (end < bytes_.size() && bytes_[end] != ',' && !IsLineEnd(bytes_[end]))
+    ++end;
   const std::string_view field = Trim(bytes_.substr(position_, end - position_));
   position_ = end;
   EndField(expected);
@@ -60,7 +64,8 @@ std::string_view RecordReader::Text(std::string_view expected) {
 std::string_view RecordReader::QuotedField(std::string_view expected) {
   const std::size_t start = position_ + 1;
   std::size_t end = start;
-  while (end < bytes_.size() && bytes_[end] != '"' && !IsLineEnd(bytes_[end])) ++end;
+  while (end < bytes_.size() && bytes_[end] != '"' && !IsLineEnd(bytes_[end]))
+    ++end;
   if (end == bytes_.size() || bytes_[end] != '"') {
     Fail(expected, "a text without its closing quote");
   }
@@ -70,7 +75,8 @@ std::string_view RecordReader::QuotedField(std::string_view expected) {
 }
 
 void RecordReader::EndField(std::string_view expected) {
-  while (position_ < bytes_.size() && bytes_[position_] == ' ') ++position_;
+  while (position_ < bytes_.size() && bytes_[position_] == ' ')
+    ++position_;
   if (position_ == bytes_.size()) return;
   if (bytes_[position_] == ',') {
     ++position_;

@@ -1,9 +1,9 @@
 #include "model/seasons.h"
 
+#include "model/errors.h"
+
 #include <algorithm>
 #include <limits>
-
-#include "model/errors.h"
 
 namespace orb::model {
 namespace {
@@ -58,7 +58,8 @@ bool UndoSeason(GameState& game, Messages& messages) {
   }
   RestoreUnits(game);
   if (ownersKnown) {
-    for (ProvinceState& province : game.Provinces) province.Owner = province.PreviousOwner;
+    for (ProvinceState& province : game.Provinces)
+      province.Owner = province.PreviousOwner;
   }
   game.Stage = "moves";
   game.RetreatsList.clear();

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "model/errors.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <utility>
-
-#include "model/errors.h"
 
 namespace orb::model {
 
@@ -44,7 +44,8 @@ class Table {
   /// Removes row 1..Count(): every later row moves down one place, order kept.
   void Remove(int index) {
     if (index < 1 || index > count_) ThrowIndexOutOfRange(index, count_);
-    for (int i = index; i < count_; ++i) (*this)[i] = (*this)[i + 1];
+    for (int i = index; i < count_; ++i)
+      (*this)[i] = (*this)[i + 1];
     SetCount(count_ - 1);
   }
 

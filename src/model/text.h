@@ -19,7 +19,8 @@ std::string LowerCase(std::string_view text);
 /// such locations are the same place.
 inline std::uint32_t PlaceCode(std::string_view location) {
   std::uint32_t code = location.size() < 3 ? static_cast<std::uint32_t>(location.size()) : 3U;
-  for (const char c : location.substr(0, 3)) code = code << 8 | static_cast<unsigned char>(c);
+  for (const char c : location.substr(0, 3))
+    code = code << 8 | static_cast<unsigned char>(c);
   return code;
 }
 

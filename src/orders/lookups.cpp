@@ -1,9 +1,9 @@
 #include "orders/lookups.h"
 
+#include "model/text.h"
+
 #include <array>
 #include <cstdint>
-
-#include "model/text.h"
 
 namespace orb::orders {
 namespace {
@@ -57,9 +57,8 @@ bool CanStandIn(const model::Map& map, std::string_view unitType, std::string_vi
 
 bool CanSupportInto(const model::Map& map, const model::Unit& unit, std::string_view target) {
   const Row* row = NeighbourRow(map, unit.UnitType, unit.Location);
-  return AnyNeighbour(row, [&](int neighbour) {
-    return model::SamePlace(map.Provinces[neighbour].Name, target);
-  });
+  return AnyNeighbour(
+      row, [&](int neighbour) { return model::SamePlace(map.Provinces[neighbour].Name, target); });
 }
 
 }  // namespace orb::orders

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "model/game_state.h"
+
 #include <string>
 #include <string_view>
-
-#include "model/game_state.h"
 
 namespace orb::orders {
 

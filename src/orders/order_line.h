@@ -1,10 +1,10 @@
 #pragma once
 
+#include "model/table.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
-
-#include "model/table.h"
 
 namespace orb::orders {
 
@@ -19,9 +19,9 @@ struct OrderLine {
   std::string Kind;      ///< "-", "HOLD", "S", "C"; "RETREAT", "DISBAND", "BUILD" later in the year
   std::string Power2;    ///< power of the supported or convoyed unit
   std::string UnitType2;
-  std::string Target;   ///< destination; for "S" and "C" the location of the other unit
-  std::string Kind2;    ///< what the other unit does: "-" or "HOLD"
-  std::string Target2;  ///< destination of the supported or convoyed move
+  std::string Target;            ///< destination; for "S" and "C" the location of the other unit
+  std::string Kind2;             ///< what the other unit does: "-" or "HOLD"
+  std::string Target2;           ///< destination of the supported or convoyed move
   std::int16_t UnitIndex = 0;    ///< the unit the order belongs to, 0: none
   std::int16_t LinkedOrder = 0;  ///< order of the supported or convoyed unit, 0: none
   bool ViaConvoy = false;        ///< the move is carried by a convoy
@@ -33,9 +33,15 @@ struct OrderLine {
 
 using OrderTable = model::Table<OrderLine, OrderBound>;
 
-inline bool IsMove(const OrderLine& order) { return order.Kind == "-"; }
-inline bool IsSupport(const OrderLine& order) { return order.Kind == "S"; }
-inline bool IsConvoy(const OrderLine& order) { return order.Kind == "C"; }
+inline bool IsMove(const OrderLine& order) {
+  return order.Kind == "-";
+}
+inline bool IsSupport(const OrderLine& order) {
+  return order.Kind == "S";
+}
+inline bool IsConvoy(const OrderLine& order) {
+  return order.Kind == "C";
+}
 
 /// Marks an order as rejected or lost with its result word: it takes no further part.
 void Reject(OrderLine& order, std::string_view result);

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "adjudication/resolution.h"
+#include "model/game_state.h"
+#include "model/messages.h"
+
+namespace orb::adjudication {
+
+// An adjustment order: POWER BUILD TYPE(LOC), or POWER DISBAND TYPE(LOC); power and verb in any
+// case.
+
+/// What a power owns and has on the board.
+struct PowerCount {
+  int Centres = 0;
+  int Units = 0;
+};
+
+/// Counts the supply centres and units of a power, by its abbreviation.
+PowerCount CountPower(const model::GameState& game, std::string_view power);
+
+/// Resolves the adjustments stage in place: builds and removals are carried out, the report block
+/// is added, the season is finished. Not completed when a question was answered No or a power has
+/// too many units; then, and on a throw, the situation must be dropped.
+Resolution ResolveAdjustments(model::GameState& game, model::Messages& messages);
+
+/// Parses and checks adjustment orders as ResolveAdjustments does, up to the first No or error;
+/// the orders carry the result words.
+bool CheckAdjustments(const model::GameState& game, Resolution& resolution,
+                      model::Messages& messages);
+
+}  // namespace orb::adjudication

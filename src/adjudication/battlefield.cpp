@@ -1,0 +1,115 @@
+#include "adjudication/battlefield.h"
+
+#include "model/text.h"
+
+namespace orb::adjudication {
+
+using orders::IsMove;
+using orders::IsSupport;
+using orders::OrderLine;
+
+Battlefield::Battlefield(model::GameState& game, Resolution& resolution)
+    : game_(game), resolution_(resolution) {
+  for (int u = game.Units.Count(); u >= 1; --u) {
+    units_.Prepend(PlaceNumber(model::PlaceCode(game.Units[u].Location)), u);
+  }
+  for (int k = Orders().Count(); k >= 1; --k) {
+    if (!IsMove(Order(k))) continue;
+    const int place = PlaceNumber(model::PlaceCode(Order(k).Target));
+    aims_[static_cast<std::size_t>(k)] = static_cast<std::int8_t>(place);
+    if (Order(k).Active) movers_.Prepend(place, k);
+  }
+  CountForces();
+}
+
+int Battlefield::PlaceNumber(std::uint32_t code) {
+  for (int i = 1; i <= placeCount_; ++i) {
+    if (placeCodes_[static_cast<std::size_t>(i)] == code) return i;
+  }
+  placeCodes_[static_cast<std::size_t>(++placeCount_)] = code;
+  return placeCount_;
+}
+
+void Battlefield::CountForces() {
+  resolution_.Force.SetCount(game_.Units.Count());
+  for (std::int16_t& force : resolution_.Force)
+    force = 1;
+  for (int k = Orders().Count(); k >= 1; --k) {
+    const OrderLine& order = Order(k);
+    if (!order.Active || !IsSupport(order) || order.LinkedOrder == 0) continue;
+    const int unit = Order(order.LinkedOrder).UnitIndex;
+    if (unit == 0) continue;
+    ++resolution_.Force[unit];
+    supports_.Prepend(unit, k);
+  }
+}
+
+Opposition Battlefield::RaisedByRivals(int m, Opposition opposition) const {
+  for (int k = movers_.First(Aim(m)); k != 0; k = movers_.Next(k)) {
+    if (k == m) continue;
+    const int force = Force(resolution_.Orders[k].UnitIndex);
+    if (force > opposition.Strength) opposition = {force, k};
+  }
+  return opposition;
+}
+
+int Battlefield::AttackStrength(int m, int defender) const {
+  int strength = 1;
+  const int attacker = resolution_.Orders[m].UnitIndex;
+  for (int k = supports_.First(attacker); k != 0; k = supports_.Next(k)) {
+    const int supporter = resolution_.Orders[k].UnitIndex;
+    if (game_.Units[supporter].Power != game_.Units[defender].Power) ++strength;
+  }
+  return strength;
+}
+
+void Battlefield::MarkDislodged(int unit, int m) {
+  game_.Units[unit].Status = model::Dislodged;
+  game_.Units[unit].DislodgedFrom = Order(m).Location;
+  ReasonOf(OrderOf(unit)).Dislodger = static_cast<std::int16_t>(m);
+}
+
+void Battlefield::Dislodge(int unit, int m) {
+  MarkDislodged(unit, m);
+  const int k = OrderOf(unit);
+  Order(k).Failed = true;
+  resolution_.Force[unit] = 0;
+  if (!IsSupport(Order(k)) || !model::SamePlace(Order(k).Target2, Order(m).Location)) return;
+  if (Order(k).LinkedOrder == 0) return;
+  const int supported = Order(Order(k).LinkedOrder).UnitIndex;
+  if (supported == 0) return;
+  --resolution_.Force[supported];
+  ReasonOf(k).SupportWithdrawn = true;
+}
+
+OrderSet Battlefield::SupportsOf(int unit) const {
+  OrderSet supports;
+  for (int k = supports_.First(unit); k != 0; k = supports_.Next(k)) {
+    if (!resolution_.Reasons[k].SupportWithdrawn) supports.set(static_cast<std::size_t>(k));
+  }
+  return supports;
+}
+
+void Battlefield::Record(int m, Ruling ruling, int strength, Opposition opposition, int occupant,
+                         int defender) {
+  Reason& reason = ReasonOf(m);
+  reason.Ruling = ruling;
+  reason.Strength = static_cast<std::int16_t>(strength);
+  reason.Against = static_cast<std::int16_t>(opposition.Strength);
+  reason.Occupant = static_cast<std::int16_t>(occupant == 0 ? 0 : OrderOf(occupant));
+  reason.Opponent = static_cast<std::int16_t>(opposition.Order);
+  const int attacker = Order(m).UnitIndex;
+  if (defender == 0) {
+    reason.Behind = SupportsOf(attacker);
+  } else {
+    for (int k = supports_.First(attacker); k != 0; k = supports_.Next(k)) {
+      const bool counts = UnitOf(Order(k)).Power != Unit(defender).Power;
+      (counts ? reason.Behind : reason.Discounted).set(static_cast<std::size_t>(k));
+    }
+  }
+  if (opposition.Strength > 1) {
+    reason.BehindOpponent = SupportsOf(Order(opposition.Order).UnitIndex);
+  }
+}
+
+}  // namespace orb::adjudication

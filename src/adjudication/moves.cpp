@@ -1,0 +1,165 @@
+#include "adjudication/moves.h"
+
+#include "adjudication/move_resolution.h"
+#include "adjudication/stages.h"
+#include "adjudication/support_cutting.h"
+#include "model/text.h"
+#include "orders/binding.h"
+#include "orders/lookups.h"
+#include "orders/parser.h"
+
+#include <algorithm>
+
+namespace orb::adjudication {
+namespace {
+
+using model::GameState;
+using orders::IsConvoy;
+using orders::IsMove;
+using orders::OrderLine;
+
+void SavePreviousPositions(GameState& game) {
+  for (model::Unit& unit : game.Units)
+    unit.PreviousLocation = unit.Location;
+  for (model::ProvinceState& province : game.Provinces)
+    province.PreviousOwner = province.Owner;
+}
+
+void CutByMovesOnLandAndSea(GameState& game, Resolution& resolution) {
+  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
+    const OrderLine& order = resolution.Orders[k];
+    if (order.Active && IsMove(order) && !order.ViaConvoy) CutSupports(game, resolution, k);
+  }
+}
+
+void CutByConvoyedMoves(GameState& game, Resolution& resolution) {
+  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
+    const OrderLine& order = resolution.Orders[k];
+    if (order.Active && !order.Failed && IsMove(order) && order.ViaConvoy) {
+      CutSupports(game, resolution, k);
+    }
+  }
+}
+
+/// A move to where no army could stand, against a unit ordered to convoy.
+bool AttacksConvoyingFleet(const GameState& game, const Resolution& resolution,
+                           const OrderLine& order) {
+  if (!IsMove(order) || orders::CanStandIn(*game.Map, "A", order.Target)) return false;
+  const int unit = orders::FindUnitAt(game, order.Target);
+  return unit != 0 && IsConvoy(resolution.Orders[game.Units[unit].OrderIndex]);
+}
+
+void ResolveConvoyAttacks(GameState& game, Resolution& resolution) {
+  for (OrderLine& order : resolution.Orders) {
+    order.Pending = AttacksConvoyingFleet(game, resolution, order) && order.Active;
+  }
+  ResolveMoves(game, resolution);
+}
+
+void ResolveOtherMoves(GameState& game, Resolution& resolution) {
+  for (OrderLine& order : resolution.Orders) {
+    order.Pending = order.Active && !AttacksConvoyingFleet(game, resolution, order);
+  }
+  ResolveMoves(game, resolution);
+}
+
+/// Losing any one of its fleets breaks a convoy. Returns whether there is an active convoy order.
+bool DisruptConvoys(GameState& game, Resolution& resolution) {
+  bool convoyExists = false;
+  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
+    const OrderLine& order = resolution.Orders[k];
+    if (!order.Active || !IsConvoy(order)) continue;
+    convoyExists = true;
+    if (game.Units[order.UnitIndex].Status != model::Dislodged) continue;
+    OrderLine& convoyed = resolution.Orders[order.LinkedOrder];
+    orders::Reject(convoyed, "convoy failed");
+    resolution.Reasons[order.LinkedOrder].LostFleet = static_cast<std::int16_t>(k);
+    if (convoyed.UnitIndex != 0) resolution.Force[convoyed.UnitIndex] = 0;
+  }
+  return convoyExists;
+}
+
+void ApplyMoves(GameState& game, Resolution& resolution) {
+  for (const model::Unit& unit : game.Units) {
+    if (unit.Status == model::Dislodged) {
+      resolution.Orders[unit.OrderIndex].Result = model::Dislodged;
+    }
+  }
+  for (const OrderLine& order : resolution.Orders) {
+    if (order.Active && IsMove(order) && !order.Failed) {
+      game.Units[order.UnitIndex].Location = order.Target;
+    }
+  }
+}
+
+void MarkStandoffs(GameState& game, const Resolution& resolution) {
+  for (model::ProvinceState& province : game.Provinces)
+    province.Uncontested = true;
+  for (const OrderLine& order : resolution.Orders) {
+    if (!IsMove(order) || !order.Active || resolution.Force[order.UnitIndex] <= 0) continue;
+    for (int p = 1; p <= game.Provinces.Count(); ++p) {
+      if (model::SamePlace(game.Map->Provinces[p].Name, order.Target)) {
+        game.Provinces[p].Uncontested = false;
+      }
+    }
+  }
+}
+
+std::string ReportLine(const OrderLine& order) {
+  std::string line;
+  line.reserve(order.Text.size() + order.Result.size() + 6);
+  line.append(order.Failed ? "[ " : "  ").append(order.Text).append(order.Failed ? " ]" : "");
+  return line.append("  ").append(order.Result);
+}
+
+void BuildMoveReport(GameState& game, Resolution& resolution) {
+  game.ReportLines.SetCount(0);
+  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
+    game.ReportLines.Append(ReportLine(resolution.Orders[k]));
+    resolution.Entries.push_back({k, k});
+  }
+  game.OrdersList.clear();
+}
+
+void AdvanceStage(GameState& game) {
+  const bool retreats =
+      std::any_of(game.Units.begin(), game.Units.end(),
+                  [](const model::Unit& unit) { return unit.Status == model::Dislodged; });
+  if (retreats) {
+    game.Stage = "retreats";
+  } else {
+    EndMovement(game);
+  }
+}
+
+}  // namespace
+
+bool CheckOrders(GameState& game, Resolution& resolution, model::Messages& messages) {
+  orders::OrderTable& table = resolution.Orders;
+  orders::ParseOrders(table);
+  return orders::CheckOrderSyntax(*game.Map, table, messages) &&
+         orders::BindOrdersToUnits(game, table, messages) &&
+         orders::CheckImpossibleOrders(game, table, messages);
+}
+
+Resolution Resolve(GameState& game, model::Messages& messages) {
+  Resolution resolution = StartResolution(ResolvedStage::Moves, game, game.OrdersList);
+  SavePreviousPositions(game);
+  if (!CheckOrders(game, resolution, messages)) return resolution;
+  resolution.Reasons.SetCount(resolution.Orders.Count());
+  CutByMovesOnLandAndSea(game, resolution);
+  ResolveConvoyAttacks(game, resolution);
+  if (DisruptConvoys(game, resolution)) {
+    messages.Show("Convoys are not fully checked.", model::Icon::Information);
+  }
+  CutByConvoyedMoves(game, resolution);
+  ResolveOtherMoves(game, resolution);
+  ApplyMoves(game, resolution);
+  MarkStandoffs(game, resolution);
+  BuildMoveReport(game, resolution);
+  AdvanceStage(game);
+  resolution.Completed = true;
+  return resolution;
+}
+
+}  // namespace orb::adjudication

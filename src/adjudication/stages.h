@@ -1,0 +1,21 @@
+#pragma once
+
+#include "adjudication/resolution.h"
+#include "model/game_state.h"
+#include "model/messages.h"
+
+namespace orb::adjudication {
+
+/// Resolves the stage that the game is in: moves, retreats or adjustments. Throws FatalError in any
+/// other stage. When the result is not completed, or on a throw, the situation is as before.
+Resolution ResolveStage(model::GameState& game, model::Messages& messages);
+
+/// Starts a resolution: takes over the list's lines as orders and the units as they stand.
+Resolution StartResolution(ResolvedStage stage, const model::GameState& game,
+                           const std::vector<std::string>& lines);
+
+/// The stage that follows moves or retreats: "finished" in Spring; otherwise "adjustments", with
+/// the centres now owned by the units that stand in them.
+void EndMovement(model::GameState& game);
+
+}  // namespace orb::adjudication
