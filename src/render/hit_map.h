@@ -1,0 +1,42 @@
+#pragma once
+
+#include "model/map.h"
+#include "render/surface.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orb::render {
+
+/// Tells the location under a point of the map: from a picture whose pixel values are rows of the
+/// province table (0: none), or without one by the nearest unit point.
+class HitMap {
+ public:
+  /// Without a picture; the aspect is the map's width divided by its height.
+  explicit HitMap(double aspect) : aspect_(aspect) {}
+
+  /// From an uncompressed bitmap of 8 bits a pixel. Throws FileError, naming the file, for
+  /// anything else and for a value past provinceCount.
+  HitMap(std::string_view bytes, const std::string& fileName, int provinceCount);
+
+  /// The row of the location under the point (fractions of the map's width and height), or 0
+  /// for none. In a province with coasts a fleet ("F") gets the coast whose unit point is nearest,
+  /// anything else the province itself.
+  int LocationAt(const model::Map& map, Point point, std::string_view unitType) const;
+
+ private:
+  int PixelAt(Point point) const;
+
+  double aspect_ = 1;
+  int width_ = 0, height_ = 0;
+  std::vector<std::uint8_t> pixels_;
+};
+
+/// Reads maphit.bmp from the directory; where it is missing, a map without a picture. Throws
+/// FileError for a broken one.
+HitMap LoadHitMap(const std::filesystem::path& dataDirectory, const model::Map& map, double aspect);
+
+}  // namespace orb::render

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "model/game_state.h"
+#include "render/surface.h"
+
+#include <filesystem>
+
+namespace orb::render {
+
+enum class MapMode { Colour3D, Colour, Grey, BlackWhite };
+
+/// How the map is shown.
+struct MapOptions {
+  MapMode Mode = MapMode::Colour3D;
+  bool ShowCentreCount = false;
+  bool ColourBordersByOwner = false;
+  bool ShowCentreOwners = false;
+};
+
+constexpr bool InColour(MapMode mode) {
+  return mode == MapMode::Colour3D || mode == MapMode::Colour;
+}
+
+/// The background bitmap of the mode in the directory: map.bmp, mapgrey.bmp or mapbw.bmp.
+std::filesystem::path BackgroundFile(const std::filesystem::path& dataDirectory, MapMode mode);
+
+/// Draws the whole situation; what was on the surface is painted over. Throws FileError for a
+/// missing or broken bitmap before anything is drawn, IndexOutOfRange for a unit whose location or
+/// power is unknown.
+void RenderMap(const model::GameState& game, const MapOptions& options,
+               const std::filesystem::path& dataDirectory, Surface& surface);
+
+}  // namespace orb::render

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "model/game_state.h"
+#include "render/map_view.h"
+#include "render/qt/picture_cache.h"
+
+#include <QImage>
+
+#include <filesystem>
+#include <optional>
+
+namespace orb::render {
+
+enum class MapFormat { Bmp, Png, Svg, Pdf };
+
+/// The widest picture that is drawn, in pixels.
+constexpr int MaxPixelWidth = 16384;
+
+/// The format that belongs to a file name's extension, in any letter case; nothing for others.
+std::optional<MapFormat> FormatOf(const std::filesystem::path& file);
+
+/// The map as a picture of the given width in pixels (0: the background's own). The width scales
+/// the whole drawing, symbols and texts with it. Throws what RenderMap throws, FileError also for
+/// a width outside 0..MaxPixelWidth.
+QImage MapImage(const model::GameState& game, const MapOptions& options,
+                const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures);
+
+/// Saves the map in a format, whatever the file's extension: Bmp is uncompressed, Svg and Pdf hold
+/// vectors over the bitmap. The file is replaced whole or not at all. Throws as MapImage does,
+/// FileError also when it cannot be written.
+void SaveMap(const model::GameState& game, const MapOptions& options,
+             const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures,
+             const std::filesystem::path& file, MapFormat format);
+
+}  // namespace orb::render

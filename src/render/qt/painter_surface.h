@@ -1,0 +1,49 @@
+#pragma once
+
+#include "render/qt/picture_cache.h"
+#include "render/surface.h"
+
+#include <QFont>
+#include <QPainter>
+#include <QRectF>
+#include <QSizeF>
+
+namespace orb::render {
+
+/// The surface made with a painter: image, screen, printer, PDF or SVG. The painter must outlive
+/// it and is left as it was found.
+class PainterSurface : public Surface {
+ public:
+  /// Lays a surface of the given size in twips over a rectangle of the painter's coordinates.
+  /// Pictures come from the cache.
+  PainterSurface(QPainter& painter, const QRectF& target, QSizeF twips, PictureCache& pictures);
+  PainterSurface(const PainterSurface&) = delete;
+  PainterSurface& operator=(const PainterSurface&) = delete;
+  ~PainterSurface() override;
+
+  double ScaleWidth() const override { return twips_.width(); }
+  double ScaleHeight() const override { return twips_.height(); }
+  void LoadPicture(const std::filesystem::path& file) override;
+  double TextWidth(std::string_view text) const override;
+  double TextHeight(std::string_view text) const override;
+  void Line(Point from, Point to) override;
+  void Box(Point corner, double width, double height) override;
+  void Circle(Point centre, double radius) override;
+  void Arc(Point centre, double radius, double start, double end) override;
+  void Polygon(std::span<const Point> corners) override;
+
+ protected:
+  void PaintWhite() override;
+  void DrawText(Point corner, std::string_view text) override;
+
+ private:
+  QPen CurrentPen() const;
+  void SetPenAndBrush();
+  QFont CurrentFont() const;
+
+  QPainter& painter_;
+  QSizeF twips_;
+  PictureCache& pictures_;
+};
+
+}  // namespace orb::render

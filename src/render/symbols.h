@@ -1,0 +1,34 @@
+#pragma once
+
+#include "model/game_state.h"
+#include "render/map_view.h"
+#include "render/surface.h"
+
+// The symbols of the map. Points are fractions of the surface's width and height; a power is its
+// row 1..7. Each leaves pen width 1, black pen and solid black filling behind.
+
+namespace orb::render {
+
+/// What a unit's looks depend on beside its power.
+struct SymbolStyle {
+  const model::CountryTable& Countries;
+  MapMode Mode;
+};
+
+/// An army: a disc of 115 twips radius times the scale.
+void DrawArmy(Surface& surface, const SymbolStyle& style, Point at, int power, double scale);
+
+/// A fleet: a ship reaching 160 twips times the scale to either side.
+void DrawFleet(Surface& surface, const SymbolStyle& style, Point at, int power, double scale);
+
+/// The way of an attack.
+void DrawMoveLine(Surface& surface, Point from, Point to, model::Colour colour);
+
+/// A clash that left a province empty, reaching 90 twips to each side.
+void DrawStandoffMarker(Surface& surface, Point at);
+
+/// A shield in the owner's colour over the dot of a supply centre; nothing for a neutral one.
+void DrawCentreOwnerMarker(Surface& surface, const model::GameState& game, MapMode mode,
+                           int province);
+
+}  // namespace orb::render
