@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QString>
+
+#include "shape.h"
+
+namespace mapmaker {
+
+/// The object a JSON file holds; throws std::runtime_error where it cannot be read.
+QJsonObject ReadJson(const QString& path);
+
+/// An array of [x, y] pairs.
+Line ToLine(const QJsonArray& points);
+
+}  // namespace mapmaker

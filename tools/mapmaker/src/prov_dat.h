@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+#include "tables.h"
+
+namespace mapmaker {
+
+/// Writes the locations in the record format of the program: CR LF, texts in double quotes.
+void WriteProvDat(const QString& path, const Tables& tables);
+
+}  // namespace mapmaker
