@@ -1,0 +1,229 @@
+#include "map_data/hit_picture.h"
+
+#include "model/country.h"
+#include "model/files.h"
+#include "model/game_state.h"
+#include "model/map_files.h"
+#include "model/new_game.h"
+#include "model/text.h"
+#include "orders/lookups.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace orb::tests {
+namespace {
+
+using testing::AllOf;
+using testing::ContainerEq;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+/// Connections as texts "from-to", those both ways as two.
+using Links = std::set<std::string>;
+
+std::filesystem::path DataDirectory() {
+  return std::filesystem::path(ORB_SOURCE_DIR) / "data";
+}
+
+std::string ProvinceOf(const std::string& location) {
+  return location.substr(0, 3);
+}
+
+class MapDataTest : public testing::Test {
+ protected:
+  const std::string& Name(int row) const { return map_->Provinces[row].Name; }
+  bool Water(int row) const { return IsWater(*map_, row); }
+
+  void Connect(Links& links, int a, int b) const {
+    links.insert(Name(a) + "-" + Name(b));
+    links.insert(Name(b) + "-" + Name(a));
+  }
+
+  /// Calls with the rows on both sides of every pixel edge where two rows meet, 0 left out.
+  template <class Visitor>
+  static void ForContacts(const HitPicture& picture, Visitor visit);
+
+  Links Shores(const HitPicture& picture) const;
+  Links LinksOf(const model::Adjacency& adjacency) const;
+
+  const std::shared_ptr<const model::Map> map_ = model::LoadMap(DataDirectory());
+};
+
+template <class Visitor>
+void MapDataTest::ForContacts(const HitPicture& picture, Visitor visit) {
+  const auto contact = [&](int a, int b) {
+    if (a != b && a != 0 && b != 0) visit(a, b);
+  };
+  for (int y = 0; y < picture.Height; ++y) {
+    for (int x = 0; x < picture.Width; ++x) {
+      if (x + 1 < picture.Width) contact(picture.At(x, y), picture.At(x + 1, y));
+      if (y + 1 < picture.Height) contact(picture.At(x, y), picture.At(x, y + 1));
+    }
+  }
+}
+
+/// Lands whose border reaches the water: two pixels side by side in a square of four that holds
+/// water as well.
+Links MapDataTest::Shores(const HitPicture& picture) const {
+  Links shores;
+  for (int y = 0; y + 1 < picture.Height; ++y) {
+    for (int x = 0; x + 1 < picture.Width; ++x) {
+      const std::array<int, 4> square = {picture.At(x, y), picture.At(x + 1, y),
+                                         picture.At(x + 1, y + 1), picture.At(x, y + 1)};
+      if (std::set<int>(square.begin(), square.end()).size() < 3) continue;
+      if (!Water(square[0]) && !Water(square[1]) && !Water(square[2]) && !Water(square[3]))
+        continue;
+      for (std::size_t i = 0; i < square.size(); ++i) {
+        const int a = square.at(i);
+        const int b = square.at((i + 1) % square.size());
+        if (a == 0 || b == 0 || Water(a) || Water(b)) continue;
+        if (!model::SamePlace(Name(a), Name(b))) Connect(shores, a, b);
+      }
+    }
+  }
+  return shores;
+}
+
+Links MapDataTest::LinksOf(const model::Adjacency& adjacency) const {
+  Links links;
+  for (int row = 1; row <= map_->Provinces.Count(); ++row) {
+    for (const int neighbour : adjacency.at(static_cast<std::size_t>(row - 1))) {
+      if (neighbour != 0) links.insert(Name(row) + "-" + Name(neighbour));
+    }
+  }
+  return links;
+}
+
+TEST_F(MapDataTest, ArmiesMoveBetweenLandsThatTouchAndNowhereElse) {
+  Links touching;
+  ForContacts(ReadHitPicture(DataDirectory() / "maphit.bmp", *map_), [&](int a, int b) {
+    if (!Water(a) && !Water(b)) Connect(touching, a, b);
+  });
+  EXPECT_THAT(LinksOf(map_->ArmyAdjacency), ContainerEq(touching));
+}
+
+TEST_F(MapDataTest, FleetsMoveWhereWatersAndCoastsTouchAndAlongCommonShores) {
+  const HitPicture picture =
+      SplitCoasts(ReadHitPicture(DataDirectory() / "maphit.bmp", *map_), *map_);
+  Links touching = Shores(picture);
+  ForContacts(picture, [&](int a, int b) {
+    if (Water(a) || Water(b)) Connect(touching, a, b);
+  });
+  EXPECT_THAT(LinksOf(map_->FleetAdjacency), ContainerEq(touching));
+}
+
+TEST_F(MapDataTest, UnitsStandInTheirOwnProvinceOrOffTheirCoast) {
+  const HitPicture picture = ReadHitPicture(DataDirectory() / "maphit.bmp", *map_);
+  for (const model::Province& location : map_->Provinces) {
+    const int row =
+        picture.At(static_cast<int>(location.UnitX * static_cast<float>(picture.Width)),
+                   static_cast<int>(location.UnitY * static_cast<float>(picture.Height)));
+    ASSERT_NE(row, 0) << location.Name;
+    const bool offCoast =
+        location.Name.size() > 3 && orders::IsAdjacent(*map_, "F", location.Name, Name(row));
+    EXPECT_TRUE(offCoast || Name(row) == ProvinceOf(location.Name))
+        << location.Name << " is drawn in " << Name(row);
+  }
+}
+
+TEST_F(MapDataTest, TheBoardHasItsNumberOfPlacesAndConnections) {
+  int centres = 0;
+  int homeCentres = 0;
+  std::map<std::string, int> kinds;
+  for (int row = 1; row <= map_->Provinces.Count(); ++row) {
+    const model::Province& location = map_->Provinces[row];
+    if (location.IsSupplyCentre != 0) {
+      ++centres;
+      if (!location.HomeCountry.empty()) ++homeCentres;
+    }
+    ++kinds[location.Name.size() > 3 ? "coast" : Water(row) ? "water" : "land"];
+  }
+  EXPECT_EQ(centres, 34);
+  EXPECT_EQ(homeCentres, 22);
+  EXPECT_THAT(kinds,
+              ContainerEq(std::map<std::string, int>{{"land", 56}, {"water", 19}, {"coast", 6}}));
+
+  Links links = LinksOf(map_->ArmyAdjacency);
+  links.merge(LinksOf(map_->FleetAdjacency));
+  std::set<std::pair<std::string, std::string>> pairs;
+  for (const std::string& link : links) {
+    const std::string from = ProvinceOf(link);
+    const std::string to = ProvinceOf(link.substr(link.find('-') + 1));
+    if (from < to) pairs.emplace(from, to);
+  }
+  EXPECT_EQ(pairs.size(), 206U);
+}
+
+TEST_F(MapDataTest, ConnectionRowsNameKnownLocationsOnceAndEndInCrLf) {
+  for (const std::string_view file : {"conna.dat", "connf.dat"}) {
+    const std::string bytes = model::ReadFile(DataDirectory() / file);
+    EXPECT_THAT(bytes, AllOf(Not(HasSubstr(" ")), Not(HasSubstr("\"")), Not(HasSubstr(",\r"))));
+    std::set<std::string_view> rows;
+    for (std::string_view rest = bytes; !rest.empty();) {
+      const std::string_view before = rest;
+      const std::string_view line = model::NextLine(rest);
+      EXPECT_TRUE(before.substr(line.size()).starts_with("\r\n")) << line;
+      EXPECT_TRUE(rows.insert(line.substr(0, line.find(','))).second) << "two rows: " << line;
+      std::set<std::string_view> fields;
+      for (std::string_view fieldsLeft = line; !fieldsLeft.empty();) {
+        const std::string_view field = model::NextField(fieldsLeft);
+        EXPECT_NE(model::FindProvince(*map_, field), 0) << field << " in " << line;
+        EXPECT_TRUE(fields.insert(field).second) << field << " twice in " << line;
+      }
+    }
+  }
+}
+
+TEST_F(MapDataTest, EveryHomeCentreStartsWithAUnitOfItsPower) {
+  model::GameState game = model::EmptyGame(map_);
+  model::NewGame(game, DataDirectory());
+  EXPECT_EQ(game.Season + " " + std::to_string(game.Year), "Spring 1901");
+  std::map<std::string, std::string> units;
+  std::vector<std::string> fleets;
+  for (const model::Unit& unit : game.Units) {
+    EXPECT_TRUE(orders::CanStandIn(*map_, unit.UnitType, unit.Location)) << unit.Location;
+    EXPECT_TRUE(units.emplace(ProvinceOf(unit.Location), unit.Power).second) << unit.Location;
+    if (unit.UnitType == "F") fleets.push_back(unit.Location);
+  }
+  std::map<std::string, std::string> homes;
+  for (const model::Province& location : map_->Provinces) {
+    if (location.IsSupplyCentre != 0 && !location.HomeCountry.empty()) {
+      homes.emplace(location.Name, location.HomeCountry);
+    }
+  }
+  EXPECT_THAT(units, ContainerEq(homes));
+  EXPECT_THAT(fleets, ElementsAre("Lon", "Edi", "Bre", "Kie", "Sev", "Stp.s", "Ank", "Tri", "Nap"));
+}
+
+TEST_F(MapDataTest, NameFixesGiveLocationsAndLeaveTheMapsOwnTextsAlone) {
+  ASSERT_GT(map_->NameFixes.Count(), 0);
+  std::vector<std::string> texts;
+  for (const model::Country& country : model::FixedCountries()) {
+    texts.push_back(country.Abbreviation);
+    texts.push_back(country.Name);
+  }
+  for (const model::Province& location : map_->Provinces) {
+    texts.push_back(location.Name);
+    texts.push_back(location.FullName);
+  }
+  for (const model::NameFix& fix : map_->NameFixes) {
+    EXPECT_NE(model::FindProvince(*map_, fix.To), 0) << fix.From << " gives " << fix.To;
+    for (const std::string& text : texts)
+      EXPECT_THAT(text, Not(HasSubstr(fix.From)));
+  }
+}
+
+}  // namespace
+}  // namespace orb::tests
