@@ -20,8 +20,9 @@ bool IsBuild(const OrderLine& order) {
 }
 
 void ParseAdjustmentOrders(OrderTable& table) {
+  std::string work;
   for (OrderLine& order : table) {
-    orders::FieldCutter fields(order.Text);
+    orders::FieldCutter fields(order.Text, work);
     order.Power = model::UpperCase(fields.UpTo(' '));
     order.Kind = model::UpperCase(fields.UpTo(' '));
     order.UnitType = fields.UpTo('(');

@@ -3,6 +3,8 @@
 #include "adjudication/battlefield.h"
 #include "model/text.h"
 
+#include <array>
+
 namespace orb::adjudication {
 namespace {
 
@@ -114,32 +116,56 @@ bool StayingUnitsPass(Battlefield& field) {
   return changed;
 }
 
-void MoveIntoEmptyPlace(Battlefield& field, int m) {
-  const Opposition best = field.RaisedByRivals(m, {});
-  const int force = field.Force(field.Order(m).UnitIndex);
-  field.Record(m, Ruling::EmptyPlace, force, best, 0, 0);
+/// What a move meets in the last phase. Nothing changes the forces there and nobody moves yet, so
+/// it is looked up once for all passes.
+struct Contest {
+  int Move = 0;
+  int Occupant = 0;  ///< the last unit in the place aimed at, whatever its order; 0: none
+  int Force = 0;
+  Opposition Rivals;
+};
+
+class Contests {
+ public:
+  explicit Contests(Battlefield& field) {
+    for (int m = 1; m <= field.Orders().Count(); ++m) {
+      if (!InPlay(field.Order(m))) continue;
+      list_[count_++] = {m, LastUnitAt(field, m), field.Force(field.Order(m).UnitIndex),
+                         field.RaisedByRivals(m, {})};
+    }
+  }
+  const Contest* begin() const { return list_.data(); }
+  const Contest* end() const { return list_.data() + count_; }
+
+ private:
+  std::array<Contest, orders::OrderBound> list_;
+  std::size_t count_ = 0;
+};
+
+void MoveIntoEmptyPlace(Battlefield& field, const Contest& contest) {
+  const int m = contest.Move;
+  field.Record(m, Ruling::EmptyPlace, contest.Force, contest.Rivals, 0, 0);
   field.Order(m).Pending = false;
-  if (force <= best.Strength) field.Order(m).Failed = true;
+  if (contest.Force <= contest.Rivals.Strength) field.Order(m).Failed = true;
 }
 
 /// The occupant may still leave: only a move that cannot win is decided now.
-void MoveBehindUndecidedUnit(Battlefield& field, int m, int occupant) {
-  const Opposition best = field.RaisedByRivals(m, {});
-  const int force = field.Force(field.Order(m).UnitIndex);
-  if (force > best.Strength) return;
-  field.Record(m, Ruling::LeavingUnit, force, best, occupant, 0);
-  Fail(field.Order(m));
+void MoveBehindUndecidedUnit(Battlefield& field, const Contest& contest) {
+  if (contest.Force > contest.Rivals.Strength) return;
+  field.Record(contest.Move, Ruling::LeavingUnit, contest.Force, contest.Rivals, contest.Occupant,
+               0);
+  Fail(field.Order(contest.Move));
 }
 
 /// Unlike in the passes before, one's own unit may be dislodged here, it keeps its force, and a
 /// support that it gives is not withdrawn.
-void MoveBehindDecidedUnit(Battlefield& field, int m, int occupant) {
+void MoveBehindDecidedUnit(Battlefield& field, const Contest& contest) {
+  const int m = contest.Move;
+  const int occupant = contest.Occupant;
   const int occupantOrder = field.OrderOf(occupant);
   const bool stays = field.Order(occupantOrder).Failed;
-  const Opposition best =
-      field.RaisedByRivals(m, stays ? Opposition{1, occupantOrder} : Opposition{});
-  const int strength =
-      stays ? field.AttackStrength(m, occupant) : field.Force(field.Order(m).UnitIndex);
+  const Opposition best = stays ? field.RaisedByRivals(m, {1, occupantOrder}) : contest.Rivals;
+  const int strength = stays ? field.AttackStrength(m, occupant) : contest.Force;
   field.Record(m, stays ? Ruling::BouncedUnit : Ruling::LeftPlace, strength, best, occupant,
                stays ? occupant : 0);
   field.Order(m).Pending = false;
@@ -150,29 +176,28 @@ void MoveBehindDecidedUnit(Battlefield& field, int m, int occupant) {
   }
 }
 
-bool RemainingMovesPass(Battlefield& field) {
+bool RemainingMovesPass(Battlefield& field, const Contests& contests) {
   bool found = false;
-  for (int m = 1; m <= field.Orders().Count(); ++m) {
-    if (!InPlay(field.Order(m))) continue;
+  for (const Contest& contest : contests) {
+    if (!field.Order(contest.Move).Pending) continue;
     found = true;
-    const int occupant = LastUnitAt(field, m);
-    if (occupant == 0) {
-      MoveIntoEmptyPlace(field, m);
-    } else if (field.Order(field.OrderOf(occupant)).Pending) {
-      MoveBehindUndecidedUnit(field, m, occupant);
+    if (contest.Occupant == 0) {
+      MoveIntoEmptyPlace(field, contest);
+    } else if (field.Order(field.OrderOf(contest.Occupant)).Pending) {
+      MoveBehindUndecidedUnit(field, contest);
     } else {
-      MoveBehindDecidedUnit(field, m, occupant);
+      MoveBehindDecidedUnit(field, contest);
     }
   }
   return found;
 }
 
 /// What is still undecided after so many passes moves in a ring, and succeeds.
-void LetRingsMove(Battlefield& field) {
-  for (int m = 1; m <= field.Orders().Count(); ++m) {
-    OrderLine& move = field.Order(m);
-    if (!InPlay(move)) continue;
-    field.Record(m, Ruling::Ring, field.Force(move.UnitIndex), {}, LastUnitAt(field, m), 0);
+void LetRingsMove(Battlefield& field, const Contests& contests) {
+  for (const Contest& contest : contests) {
+    OrderLine& move = field.Order(contest.Move);
+    if (!move.Pending) continue;
+    field.Record(contest.Move, Ruling::Ring, contest.Force, {}, contest.Occupant, 0);
     move.Pending = false;
   }
 }
@@ -185,10 +210,11 @@ void ResolveMoves(model::GameState& game, Resolution& resolution) {
   }
   while (StayingUnitsPass(field)) {
   }
+  const Contests contests(field);
   const int passLimit = field.Orders().Count() + 1;
-  for (int pass = 0; pass < passLimit && RemainingMovesPass(field); ++pass) {
+  for (int pass = 0; pass < passLimit && RemainingMovesPass(field, contests); ++pass) {
   }
-  LetRingsMove(field);
+  LetRingsMove(field, contests);
 }
 
 }  // namespace orb::adjudication

@@ -49,16 +49,27 @@ bool AttacksConvoyingFleet(const GameState& game, const Resolution& resolution,
   return unit != 0 && IsConvoy(resolution.Orders[game.Units[unit].OrderIndex]);
 }
 
-void ResolveConvoyAttacks(GameState& game, Resolution& resolution) {
-  for (OrderLine& order : resolution.Orders) {
-    order.Pending = AttacksConvoyingFleet(game, resolution, order) && order.Active;
+OrderSet FindConvoyAttacks(const GameState& game, const Resolution& resolution) {
+  OrderSet attacks;
+  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
+    attacks.set(static_cast<std::size_t>(k),
+                AttacksConvoyingFleet(game, resolution, resolution.Orders[k]));
+  }
+  return attacks;
+}
+
+void ResolveConvoyAttacks(GameState& game, Resolution& resolution, const OrderSet& attacks) {
+  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
+    OrderLine& order = resolution.Orders[k];
+    order.Pending = order.Active && attacks.test(static_cast<std::size_t>(k));
   }
   ResolveMoves(game, resolution);
 }
 
-void ResolveOtherMoves(GameState& game, Resolution& resolution) {
-  for (OrderLine& order : resolution.Orders) {
-    order.Pending = order.Active && !AttacksConvoyingFleet(game, resolution, order);
+void ResolveOtherMoves(GameState& game, Resolution& resolution, const OrderSet& attacks) {
+  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
+    OrderLine& order = resolution.Orders[k];
+    order.Pending = order.Active && !attacks.test(static_cast<std::size_t>(k));
   }
   ResolveMoves(game, resolution);
 }
@@ -97,10 +108,9 @@ void MarkStandoffs(GameState& game, const Resolution& resolution) {
     province.Uncontested = true;
   for (const OrderLine& order : resolution.Orders) {
     if (!IsMove(order) || !order.Active || resolution.Force[order.UnitIndex] <= 0) continue;
+    const std::uint32_t aim = model::PlaceCode(order.Target);
     for (int p = 1; p <= game.Provinces.Count(); ++p) {
-      if (model::SamePlace(game.Map->Provinces[p].Name, order.Target)) {
-        game.Provinces[p].Uncontested = false;
-      }
+      if (game.Map->PlaceCodes[p] == aim) game.Provinces[p].Uncontested = false;
     }
   }
 }
@@ -148,12 +158,13 @@ Resolution Resolve(GameState& game, model::Messages& messages) {
   if (!CheckOrders(game, resolution, messages)) return resolution;
   resolution.Reasons.SetCount(resolution.Orders.Count());
   CutByMovesOnLandAndSea(game, resolution);
-  ResolveConvoyAttacks(game, resolution);
+  const OrderSet convoyAttacks = FindConvoyAttacks(game, resolution);
+  ResolveConvoyAttacks(game, resolution, convoyAttacks);
   if (DisruptConvoys(game, resolution)) {
     messages.Show("Convoys are not fully checked.", model::Icon::Information);
   }
   CutByConvoyedMoves(game, resolution);
-  ResolveOtherMoves(game, resolution);
+  ResolveOtherMoves(game, resolution, convoyAttacks);
   ApplyMoves(game, resolution);
   MarkStandoffs(game, resolution);
   BuildMoveReport(game, resolution);

@@ -21,8 +21,9 @@ bool IsRetreat(const OrderLine& order) {
 }
 
 void ParseRetreatOrders(OrderTable& table) {
+  std::string work;
   for (OrderLine& order : table) {
-    orders::FieldCutter fields(order.Text);
+    orders::FieldCutter fields(order.Text, work);
     order.Power = fields.UpTo(' ');
     order.UnitType = fields.UpTo('(');
     order.Location = fields.UpTo(')');
@@ -70,7 +71,7 @@ bool FindDislodgedUnits(const GameState& game, OrderTable& table, Messages& mess
 }
 
 void AppendDisband(Unit& unit, int unitIndex, OrderTable& table) {
-  OrderLine& order = table.Append({});
+  OrderLine& order = table.Append();
   order.Text = orders::UnitText(unit) + " disband";
   order.Power = unit.Power;
   order.UnitType = unit.UnitType;

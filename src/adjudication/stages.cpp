@@ -9,6 +9,16 @@
 #include <utility>
 
 namespace orb::adjudication {
+namespace {
+
+Resolution ResolveInPlace(model::GameState& game, model::Messages& messages) {
+  if (game.Stage == "moves") return Resolve(game, messages);
+  if (game.Stage == "retreats") return ResolveRetreats(game, messages);
+  if (game.Stage == "adjustments") return ResolveAdjustments(game, messages);
+  throw model::FatalError("There is nothing to resolve in the stage \"" + game.Stage + "\".");
+}
+
+}  // namespace
 
 Resolution StartResolution(ResolvedStage stage, const model::GameState& game,
                            const std::vector<std::string>& lines) {
@@ -30,16 +40,7 @@ void EndMovement(model::GameState& game) {
 
 Resolution ResolveStage(model::GameState& game, model::Messages& messages) {
   model::GameState next = game;
-  Resolution resolution;
-  if (game.Stage == "moves") {
-    resolution = Resolve(next, messages);
-  } else if (game.Stage == "retreats") {
-    resolution = ResolveRetreats(next, messages);
-  } else if (game.Stage == "adjustments") {
-    resolution = ResolveAdjustments(next, messages);
-  } else {
-    throw model::FatalError("There is nothing to resolve in the stage \"" + game.Stage + "\".");
-  }
+  Resolution resolution = ResolveInPlace(next, messages);
   if (resolution.Completed) game = std::move(next);
   return resolution;
 }

@@ -12,14 +12,16 @@ struct Power {
   model::Colour TextColour;
 };
 
+// Chosen so that every two fill colours differ by at least 17 (CIEDE2000) in the eyes of everybody,
+// also of people without the red, the green or the blue cone.
 constexpr std::array<Power, CountryCount> Powers = {{
-    {"ENG", "England", Rgb(200, 50, 75), Rgb(120, 15, 40)},
-    {"FRA", "France", Rgb(47, 111, 208), Rgb(16, 52, 120)},
-    {"GER", "Germany", Rgb(74, 74, 74), Rgb(30, 30, 30)},
-    {"RUS", "Russia", Rgb(244, 241, 228), Rgb(90, 84, 70)},
-    {"TUR", "Turkey", Rgb(242, 195, 24), Rgb(112, 84, 0)},
-    {"AUS", "Austria-Hungary", Rgb(224, 116, 42), Rgb(130, 56, 8)},
-    {"ITA", "Italy", Rgb(46, 158, 87), Rgb(10, 84, 40)},
+    {"ENG", "England", Rgb(178, 50, 99), Rgb(112, 18, 56)},
+    {"FRA", "France", Rgb(40, 109, 204), Rgb(12, 52, 122)},
+    {"GER", "Germany", Rgb(46, 45, 41), Rgb(16, 16, 16)},
+    {"RUS", "Russia", Rgb(246, 244, 236), Rgb(84, 78, 64)},
+    {"TUR", "Turkey", Rgb(255, 216, 30), Rgb(100, 74, 0)},
+    {"AUS", "Austria-Hungary", Rgb(220, 121, 31), Rgb(120, 52, 4)},
+    {"ITA", "Italy", Rgb(85, 183, 136), Rgb(8, 80, 48)},
 }};
 
 }  // namespace

@@ -46,6 +46,7 @@ class NameIndex {
 /// The map that games are played on: loaded once, never changed by play.
 struct Map {
   Table<Province, ProvinceBound> Provinces;
+  Table<std::uint32_t, ProvinceBound> PlaceCodes;  ///< of the provinces' names; see PlaceCode
   Adjacency ArmyAdjacency{};
   Adjacency FleetAdjacency{};
   Table<NameFix, NameFixBound> NameFixes;

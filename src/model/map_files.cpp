@@ -70,6 +70,7 @@ void LoadProvinces(std::string_view bytes, const std::string& fileName, Map& map
     province.UnitX = reader.Fraction("a unit's x");
     province.UnitY = reader.Fraction("a unit's y");
     province.FullName = reader.Text("a location's full name");
+    map.PlaceCodes.Append(PlaceCode(province.Name));
     map.Names.Insert(map.Provinces, map.Provinces.Count());
   } while (!reader.AtEnd());
 }

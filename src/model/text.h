@@ -26,7 +26,8 @@ inline std::uint32_t PlaceCode(std::string_view location) {
 
 /// Whether two abbreviations name the same place (a province and its coasts are one place).
 inline bool SamePlace(std::string_view a, std::string_view b) {
-  return a.substr(0, 3) == b.substr(0, 3);
+  if (a.size() < 3 || b.size() < 3) return PlaceCode(a) == PlaceCode(b);
+  return a[0] == b[0] && a[1] == b[1] && a[2] == b[2];
 }
 
 /// Cuts the text before the first "," off the line and returns it; the line keeps what follows.

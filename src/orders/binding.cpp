@@ -1,6 +1,10 @@
 #include "orders/binding.h"
 
+#include "model/text.h"
 #include "orders/lookups.h"
+
+#include <array>
+#include <cstdint>
 
 namespace orb::orders {
 namespace {
@@ -9,6 +13,18 @@ using model::GameState;
 using model::Messages;
 using model::Unit;
 
+/// The place codes of a table's locations. Every order is held against every unit, and comparing
+/// these numbers first rules out nearly all of them at no cost.
+template <class Row, int Bound>
+std::array<std::uint32_t, Bound + 1> PlaceCodes(const model::Table<Row, Bound>& table) {
+  std::array<std::uint32_t, Bound + 1> codes{};
+  for (int i = 1; i <= table.Count(); ++i) {
+    codes[static_cast<std::size_t>(i)] = model::PlaceCode(table[i].Location);
+  }
+  return codes;
+}
+
+/// Whole texts are compared, so coasts must match.
 bool IsFor(const OrderLine& order, const Unit& unit) {
   return order.Location == unit.Location && order.Power == unit.Power &&
          order.UnitType == unit.UnitType;
@@ -20,10 +36,13 @@ bool RejectWithWarning(OrderLine& order, const std::string& result, Messages& me
 }
 
 bool FindUnitsOfOrders(const GameState& game, OrderTable& orders, Messages& messages) {
+  const auto places = PlaceCodes(game.Units);
   for (OrderLine& order : orders) {
     if (!order.Active) continue;
     order.UnitIndex = 0;
+    const std::uint32_t place = model::PlaceCode(order.Location);
     for (int u = 1; u <= game.Units.Count(); ++u) {
+      if (places[static_cast<std::size_t>(u)] != place) continue;
       if (IsFor(order, game.Units[u])) order.UnitIndex = static_cast<std::int16_t>(u);
     }
     if (order.UnitIndex == 0 && !RejectWithWarning(order, "no such unit", messages)) return false;
@@ -32,7 +51,7 @@ bool FindUnitsOfOrders(const GameState& game, OrderTable& orders, Messages& mess
 }
 
 void AppendHold(const std::string& unitText, Unit& unit, int unitIndex, OrderTable& orders) {
-  OrderLine& order = orders.Append({});
+  OrderLine& order = orders.Append();
   order.Text = unitText + " unordered; hold";
   order.Power = unit.Power;
   order.UnitType = unit.UnitType;
@@ -45,15 +64,19 @@ void AppendHold(const std::string& unitText, Unit& unit, int unitIndex, OrderTab
 
 bool FindOrdersOfUnits(GameState& game, OrderTable& orders, Messages& messages) {
   model::Answer answer = model::Answer::Yes;
+  auto places = PlaceCodes(orders);
   for (int u = 1; u <= game.Units.Count(); ++u) {
     Unit& unit = game.Units[u];
     unit.OrderIndex = 0;
+    const std::uint32_t place = model::PlaceCode(unit.Location);
     for (int k = 1; k <= orders.Count(); ++k) {
+      if (places[static_cast<std::size_t>(k)] != place) continue;
       if (IsFor(orders[k], unit)) unit.OrderIndex = static_cast<std::int16_t>(k);
     }
     if (unit.OrderIndex != 0) continue;
     const std::string unitText = UnitText(unit);
     AppendHold(unitText, unit, u, orders);
+    places[static_cast<std::size_t>(orders.Count())] = place;
     if (answer == model::Answer::YesToAll) continue;
     answer = messages.Ask(model::WarningText(unitText + " unordered."));
     if (answer == model::Answer::No) return false;
@@ -89,8 +112,8 @@ bool IsPossibleMove(const model::Map& map, const Unit& unit, const OrderLine& or
 }  // namespace
 
 bool RefersTo(const OrderLine& order, const OrderLine& other) {
-  return order.Target == other.Location && order.Power2 == other.Power &&
-         order.UnitType2 == other.UnitType;
+  return model::SamePlace(order.Target, other.Location) && order.Target == other.Location &&
+         order.Power2 == other.Power && order.UnitType2 == other.UnitType;
 }
 
 bool BindOrdersToUnits(GameState& game, OrderTable& orders, Messages& messages) {

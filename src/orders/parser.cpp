@@ -30,8 +30,8 @@ void ParseConvoy(FieldCutter& fields, OrderLine& order) {
   order.Target2 = fields.UpTo(' ');
 }
 
-void ParseOrder(OrderLine& order) {
-  FieldCutter fields(order.Text);
+void ParseOrder(OrderLine& order, std::string& work) {
+  FieldCutter fields(order.Text, work);
   order.Power = fields.UpTo(' ');
   order.UnitType = fields.UpTo('(');
   order.Location = fields.UpTo(')');
@@ -75,10 +75,9 @@ std::string_view ConvoyFault(const model::Map& map, const OrderLine& order) {
 
 }  // namespace
 
-FieldCutter::FieldCutter(std::string_view text) {
-  line_.reserve(text.size() + Filler.size());
-  line_.append(text).append(Filler);
-  rest_ = line_;
+FieldCutter::FieldCutter(std::string_view text, std::string& work) {
+  work.assign(text).append(Filler);
+  rest_ = work;
 }
 
 std::string_view FieldCutter::UpTo(char separator) {
@@ -94,15 +93,16 @@ bool FieldCutter::BracketBeforeBlank() const {
 
 void SetOrderTexts(const std::vector<std::string>& lines, OrderTable& orders) {
   for (const std::string& line : lines) {
-    OrderLine& order = orders.Append({});
+    OrderLine& order = orders.Append();
     order.Text = model::Trim(line);
     order.Active = true;
   }
 }
 
 void ParseOrders(OrderTable& orders) {
+  std::string work;
   for (OrderLine& order : orders)
-    ParseOrder(order);
+    ParseOrder(order, work);
 }
 
 std::string_view SyntaxFault(const model::Map& map, const OrderLine& order) {

@@ -23,9 +23,8 @@ namespace orb::orders {
 /// a part that is not written comes out as a token that no check accepts.
 class FieldCutter {
  public:
-  explicit FieldCutter(std::string_view text);
-  FieldCutter(const FieldCutter&) = delete;
-  FieldCutter& operator=(const FieldCutter&) = delete;
+  /// `work` holds the line with its filler; it must outlive the cutter and may serve many in turn.
+  FieldCutter(std::string_view text, std::string& work);
 
   /// The text before the next separator; what follows it, trimmed, remains.
   std::string_view UpTo(char separator);
@@ -34,12 +33,11 @@ class FieldCutter {
   bool BracketBeforeBlank() const;
 
  private:
-  std::string line_;
   std::string_view rest_;
 };
 
-/// Sets up an empty table of orders from list lines: each order's Text is its line, trimmed; all
-/// else is empty, Active is true. Throws IndexOutOfRange beyond 80 lines.
+/// Fills a fresh table of orders from list lines: each order's Text is its line, trimmed, and it is
+/// active; all else is empty. Throws IndexOutOfRange beyond 80 lines.
 void SetOrderTexts(const std::vector<std::string>& lines, OrderTable& orders);
 
 /// Fills the fields of every order of the moves stage from its text.
