@@ -1,0 +1,34 @@
+#pragma once
+
+#include "cli/options.h"
+
+#include <span>
+#include <string_view>
+
+namespace orb::cli {
+
+class Console;
+
+/// How many GAME arguments a command takes.
+enum class Games { None, One, Several };
+
+/// One command of the program.
+struct Command {
+  std::string_view Name;
+  std::string_view Summary;
+  Games Takes = Games::Several;
+  std::span<const OptionId> Options;  ///< those it knows beside the ones that all know
+
+  /// Does it; the exit status. Throws UsageError when the command line is wrong, nothing done.
+  int (*Execute)(const CommandLine& line, Console& console) = nullptr;
+};
+
+extern const Command NewCommand;
+extern const Command ResolveCommand;
+extern const Command NextCommand;
+extern const Command UndoCommand;
+extern const Command CheckCommand;
+extern const Command ShowCommand;
+extern const Command MapCommand;
+
+}  // namespace orb::cli

@@ -1,0 +1,65 @@
+#include "cli/console.h"
+
+#include <algorithm>
+
+namespace orb::cli {
+namespace {
+
+/// Fewer games are done before anybody could read it.
+constexpr std::size_t ShortRun = 50;
+
+std::string OnOneLine(std::string_view text) {
+  std::string line;
+  line.reserve(text.size());
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text.substr(i, 2) == "\r\n") ++i;
+    line += text[i] == '\r' || text[i] == '\n' ? ' ' : text[i];
+  }
+  return line;
+}
+
+}  // namespace
+
+void Console::Print(std::string_view bytes) {
+  ClearProgress();
+  out_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+}
+
+void Console::Say(std::string_view subject, std::string_view text) {
+  ClearProgress();
+  std::string line(subject);
+  line.append(": ").append(OnOneLine(text)).append("\n");
+  err_.write(line.data(), static_cast<std::streamsize>(line.size()));
+  err_.flush();
+}
+
+void Console::ShowProgress(std::size_t done, std::size_t total) {
+  if (!showProgress_ || total <= ShortRun) return;
+  // A hundred updates are enough for the eye; the terminal is slower than the work.
+  if (done % std::max<std::size_t>(total / 100, 1) != 0) return;
+  const std::string line = std::to_string(done) + " of " + std::to_string(total) + " games";
+  err_ << '\r' << line << std::flush;
+  progressWidth_ = line.size();
+}
+
+void Console::ClearProgress() {
+  if (progressWidth_ == 0) return;
+  err_ << '\r' << std::string(progressWidth_, ' ') << '\r' << std::flush;
+  progressWidth_ = 0;
+}
+
+bool ConsoleMessages::Warn(const std::string& text) {
+  console_.Say(subject_, text);
+  return yes_;
+}
+
+model::Answer ConsoleMessages::Ask(const std::string& text) {
+  console_.Say(subject_, text);
+  return yes_ ? model::Answer::YesToAll : model::Answer::No;
+}
+
+void ConsoleMessages::Show(const std::string& text, model::Icon /*icon*/) {
+  console_.Say(subject_, text);
+}
+
+}  // namespace orb::cli

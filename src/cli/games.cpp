@@ -1,0 +1,91 @@
+#include "cli/games.h"
+
+#include "model/files.h"
+#include "model/game_file.h"
+#include "model/map_files.h"
+
+#include <exception>
+#include <memory>
+#include <system_error>
+
+namespace orb::cli {
+namespace {
+
+bool ReadGame(Console& console, const std::string& path, model::GameState& game) {
+  const auto unknown = model::ParseGameFile(model::ReadFile(path), path, game);
+  if (unknown) console.Say(path, "Unknown province: " + *unknown);
+  return !unknown;
+}
+
+}  // namespace
+
+bool Attempt(Console& console, std::string_view subject, const std::function<bool()>& work) {
+  try {
+    return work();
+  } catch (const UsageError&) {
+    throw;
+  } catch (const std::exception& error) {
+    console.Say(subject, error.what());
+    return false;
+  }
+}
+
+int ForEachGame(const CommandLine& line, Console& console, const std::vector<GamePaths>& plan,
+                const GameWork& work) {
+  const std::filesystem::path data = DataDirectory(line);
+  std::shared_ptr<const model::Map> map;
+  std::size_t done = 0;
+  bool allDone = true;
+  for (const GamePaths& paths : plan) {
+    allDone &= Attempt(console, paths.Game, [&] {
+      if (!map) map = model::LoadMap(data);
+      model::GameState game = model::EmptyGame(map);
+      return ReadGame(console, paths.Game, game) && work(game, paths);
+    });
+    console.ShowProgress(++done, plan.size());
+  }
+  return allDone ? ExitDone : ExitRefused;
+}
+
+std::vector<std::string>& StageList(model::GameState& game) {
+  if (game.Stage == "retreats") return game.RetreatsList;
+  if (game.Stage == "adjustments") return game.AdjustmentsList;
+  return game.OrdersList;
+}
+
+std::vector<std::string> OrderLines(std::string_view text) {
+  std::vector<std::string> lines;
+  while (!text.empty()) {
+    const std::size_t end = text.find('\n');
+    std::string_view line = text.substr(0, end);
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
+    if (line.find_first_not_of(" \t") != std::string_view::npos) lines.emplace_back(line);
+  }
+  return lines;
+}
+
+void TakeOrders(model::GameState& game, const GamePaths& paths) {
+  if (paths.Orders.empty()) return;
+  std::error_code ignored;
+  if (paths.OrdersMayLack && !std::filesystem::exists(paths.Orders, ignored)) {
+    StageList(game).clear();
+  } else {
+    StageList(game) = OrderLines(model::ReadFile(paths.Orders));
+  }
+}
+
+std::string JoinLines(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const std::string& line : lines)
+    text.append(line).append("\n");
+  return text;
+}
+
+void PrintUnderHeading(Console& console, const std::vector<GamePaths>& plan, const GamePaths& paths,
+                       std::string_view text) {
+  if (plan.size() > 1) console.Print("== " + paths.Game + "\n");
+  console.Print(text);
+}
+
+}  // namespace orb::cli

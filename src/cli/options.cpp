@@ -1,0 +1,149 @@
+#include "cli/options.h"
+
+#include "cli/command.h"
+
+#include <algorithm>
+
+namespace orb::cli {
+namespace {
+
+constexpr std::array<Option, OptionCount> Table{{
+    {OptionId::Data, "--data", "DIR", "the directory of the data files; else the program's own"},
+    {OptionId::Help, "--help", "", "print this help and end"},
+    {OptionId::Version, "--version", "", "print the version and end"},
+    {OptionId::Blank, "--blank", "", "the blank position: no units, every province at home"},
+    {OptionId::Title, "--title", "TEXT", "the title of the game"},
+    {OptionId::Orders, "--orders", "PATH", "the orders, one a line; a directory: NAME.txt in it"},
+    {OptionId::Report, "--report", "PATH", "write the report there; a directory: NAME.txt in it"},
+    {OptionId::Reasons, "--reasons", "PATH", "write there why each order came out as it did"},
+    {OptionId::Yes, "--yes", "", "answer every question Yes; else No, which abandons the game"},
+    {OptionId::Mode, "--mode", "MODE", "colour3d (the default), colour, grey or bw"},
+    {OptionId::CentreCount, "--centre-count", "", "show how many centres each power owns"},
+    {OptionId::Borders, "--borders", "", "colour the borders by owner"},
+    {OptionId::CentreOwners, "--centre-owners", "", "mark the centres with their owners"},
+    {OptionId::Width, "--width", "PIXELS", "the width of the picture; else that of the map"},
+    {OptionId::Output, "-o", "PATH", "what to write; a directory: NAME.orb in it"},
+    {OptionId::InPlace, "--in-place", "", "write over the game file that was read"},
+}};
+
+bool Knows(const Command* command, OptionId id) {
+  if (command == nullptr) return IsCommonOption(id);
+  return IsCommonOption(id) ||
+         std::find(command->Options.begin(), command->Options.end(), id) != command->Options.end();
+}
+
+const Command& FindCommand(const std::string& name, std::span<const Command* const> commands) {
+  for (const Command* command : commands) {
+    if (command->Name == name) return *command;
+  }
+  throw UsageError("There is no command \"" + name + "\".");
+}
+
+/// Goes through the arguments from left to right.
+class Reader {
+ public:
+  Reader(std::span<const std::string> arguments, std::span<const Command* const> commands)
+      : arguments_(arguments), commands_(commands) {}
+
+  CommandLine Read() {
+    while (next_ < arguments_.size()) {
+      const std::string& argument = arguments_[next_++];
+      if (!optionsEnded_ && argument == "--") {
+        optionsEnded_ = true;
+      } else if (!optionsEnded_ && argument.size() > 1 && argument.front() == '-') {
+        ReadOption(argument);
+      } else if (line_.Verb == nullptr) {
+        line_.Verb = &FindCommand(argument, commands_);
+      } else {
+        line_.Games.push_back(argument);
+      }
+    }
+    return std::move(line_);
+  }
+
+ private:
+  void ReadOption(const std::string& argument) {
+    const std::size_t equals = argument.starts_with("--") ? argument.find('=') : std::string::npos;
+    const std::string_view name = std::string_view(argument).substr(0, equals);
+    const auto* const option =
+        std::find_if(Table.begin(), Table.end(), [&](const Option& o) { return o.Name == name; });
+    if (option == Table.end() || !Knows(line_.Verb, option->Id)) {
+      const std::string command = line_.Verb == nullptr ? "" : std::string(line_.Verb->Name) + ": ";
+      throw UsageError(command + "There is no option " + std::string(name) + ".");
+    }
+    if (option->Value.empty()) {
+      if (equals != std::string::npos) {
+        throw UsageError("The option " + std::string(name) + " takes no value.");
+      }
+      line_.Set(*option, {});
+    } else if (equals != std::string::npos) {
+      line_.Set(*option, argument.substr(equals + 1));
+    } else if (next_ < arguments_.size()) {
+      line_.Set(*option, arguments_[next_++]);
+    } else {
+      throw UsageError("The option " + std::string(name) + " needs its value.");
+    }
+  }
+
+  std::span<const std::string> arguments_;
+  std::span<const Command* const> commands_;
+  std::size_t next_ = 0;
+  bool optionsEnded_ = false;
+  CommandLine line_;
+};
+
+void CheckOutput(const CommandLine& line) {
+  const std::string name(line.Verb->Name);
+  if (!Knows(line.Verb, OptionId::Output)) return;
+  const bool mayReplace = Knows(line.Verb, OptionId::InPlace);
+  if (line.Has(OptionId::Output) && line.Has(OptionId::InPlace)) {
+    throw UsageError(name + ": -o and --in-place cannot go together.");
+  }
+  if (!line.Has(OptionId::Output) && !line.Has(OptionId::InPlace)) {
+    throw UsageError(
+        name + (mayReplace ? ": -o PATH or --in-place is missing." : ": -o PATH is missing."));
+  }
+}
+
+void CheckGames(const CommandLine& line) {
+  const std::string name(line.Verb->Name);
+  const std::size_t count = line.Games.size();
+  if (line.Verb->Takes == Games::None) {
+    if (count > 0)
+      throw UsageError(name + ": There is nothing to do with \"" + line.Games[0] + "\".");
+  } else if (count == 0) {
+    throw UsageError(name + ": The game file is missing.");
+  } else if (line.Verb->Takes == Games::One && count > 1) {
+    throw UsageError(name + ": One game file at a time.");
+  }
+}
+
+}  // namespace
+
+std::span<const Option, OptionCount> AllOptions() {
+  return Table;
+}
+
+bool IsCommonOption(OptionId id) {
+  return id == OptionId::Data || id == OptionId::Help || id == OptionId::Version;
+}
+
+void CommandLine::Set(const Option& option, std::string value) {
+  auto& slot = values_[Index(option.Id)];
+  if (slot && *slot != value) {
+    throw UsageError("The option " + std::string(option.Name) + " is given twice.");
+  }
+  slot = std::move(value);
+}
+
+CommandLine ParseCommandLine(std::span<const std::string> arguments,
+                             std::span<const Command* const> commands) {
+  CommandLine line = Reader(arguments, commands).Read();
+  if (line.Has(OptionId::Help) || line.Has(OptionId::Version)) return line;
+  if (line.Verb == nullptr) throw UsageError("The command is missing.");
+  CheckOutput(line);
+  CheckGames(line);
+  return line;
+}
+
+}  // namespace orb::cli

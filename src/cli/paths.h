@@ -1,0 +1,28 @@
+#pragma once
+
+#include "cli/options.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace orb::cli {
+
+/// The files of one game; empty where the command line asks for none.
+struct GamePaths {
+  std::string Game;  ///< as given
+  std::filesystem::path Output;
+  std::filesystem::path Orders;
+  std::filesystem::path Report;
+  std::filesystem::path Reasons;
+  bool OrdersMayLack = false;  ///< no file in a directory of orders: no orders
+};
+
+/// The files of every game. Throws UsageError where several games share a path that is no
+/// directory, and where a file would be written twice or over another one that is read.
+std::vector<GamePaths> PlanPaths(const CommandLine& line);
+
+/// Where the data files lie. Throws UsageError when --data names no directory.
+std::filesystem::path DataDirectory(const CommandLine& line);
+
+}  // namespace orb::cli

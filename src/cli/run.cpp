@@ -1,0 +1,44 @@
+#include "cli/run.h"
+
+#include "cli/command.h"
+#include "cli/console.h"
+#include "cli/help.h"
+#include "model/messages.h"
+
+#include <array>
+
+namespace orb::cli {
+namespace {
+
+constexpr std::array Commands{&NewCommand, &ResolveCommand, &NextCommand, &UndoCommand};
+
+int Execute(const CommandLine& line, Console& console) {
+  if (line.Has(OptionId::Version)) {
+    console.Print(std::string(model::ProgramName) + ", orbctl\n");
+    return ExitDone;
+  }
+  if (line.Has(OptionId::Help)) {
+    console.Print(line.Verb == nullptr ? ProgramHelp(Commands) : CommandHelp(*line.Verb));
+    return ExitDone;
+  }
+  return line.Verb->Execute(line, console);
+}
+
+}  // namespace
+
+int Run(std::span<const std::string> arguments, std::ostream& out, std::ostream& err,
+        bool errIsTerminal) {
+  Console console(out, err, errIsTerminal);
+  try {
+    const int status = Execute(ParseCommandLine(arguments, Commands), console);
+    if (out.flush()) return status;
+    console.Say("orbctl", "The standard output could not be written.");
+    return ExitRefused;
+  } catch (const UsageError& error) {
+    console.Say("orbctl", error.what());
+    console.Say("orbctl", "\"orbctl --help\" tells how it is used.");
+    return ExitUsage;
+  }
+}
+
+}  // namespace orb::cli
