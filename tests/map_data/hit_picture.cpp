@@ -1,8 +1,8 @@
 #include "map_data/hit_picture.h"
 
+#include "model/errors.h"
 #include "model/files.h"
 #include "orders/lookups.h"
-#include "render/hit_map.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -85,15 +85,17 @@ bool IsWater(const model::Map& map, int row) {
   return row != 0 && !orders::CanStandIn(map, "A", map.Provinces[row].Name.substr(0, 3));
 }
 
-HitPicture ReadHitPicture(const std::filesystem::path& path, const model::Map& map) {
+HitPicture ReadHitPicture(const std::filesystem::path& path) {
   const std::string bytes = model::ReadFile(path);
-  const render::HitMap hitMap(bytes, path.string(), map.Provinces.Count());
-  HitPicture picture{LittleEndian(bytes, 18), std::abs(LittleEndian(bytes, 22)), {}};
-  for (int y = 0; y < picture.Height; ++y) {
-    for (int x = 0; x < picture.Width; ++x) {
-      const render::Point middle{(x + 0.5) / picture.Width, (y + 0.5) / picture.Height};
-      picture.Rows.push_back(static_cast<std::uint8_t>(hitMap.LocationAt(map, middle, "A")));
-    }
+  HitPicture picture{LittleEndian(bytes, 18), LittleEndian(bytes, 22), {}};
+  const auto width = static_cast<std::size_t>(picture.Width);
+  const auto lines = static_cast<std::size_t>(picture.Height);
+  const std::size_t stride = (width + 3) / 4 * 4;
+  const auto start = static_cast<std::size_t>(LittleEndian(bytes, 10));
+  if (bytes.size() < start + stride * lines) throw model::FileError(path.string() + " is cut off");
+  for (std::size_t line = lines; line-- > 0;) {
+    const std::string pixels = bytes.substr(start + line * stride, width);
+    picture.Rows.insert(picture.Rows.end(), pixels.begin(), pixels.end());
   }
   return picture;
 }

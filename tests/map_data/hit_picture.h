@@ -22,8 +22,9 @@ struct HitPicture {
   int At(int x, int y) const { return Rows[Index(x, y)]; }
 };
 
-/// Every pixel of the bitmap as the hit test answers for its middle. Throws model::FileError.
-HitPicture ReadHitPicture(const std::filesystem::path& path, const model::Map& map);
+/// The pixels of a bottom-up bitmap of 8 bits a pixel; asking the hit test for each would take
+/// seconds. Throws model::FileError.
+HitPicture ReadHitPicture(const std::filesystem::path& path);
 
 /// The same picture as a fleet sees it: the shore of a province with coasts falls into pieces that
 /// hang together, and each piece gets the row of the coast whose unit point is nearest to it. What

@@ -7,6 +7,7 @@
 #include "model/new_game.h"
 #include "model/text.h"
 #include "orders/lookups.h"
+#include "render/hit_map.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -108,15 +109,14 @@ Links MapDataTest::LinksOf(const model::Adjacency& adjacency) const {
 
 TEST_F(MapDataTest, ArmiesMoveBetweenLandsThatTouchAndNowhereElse) {
   Links touching;
-  ForContacts(ReadHitPicture(DataDirectory() / "maphit.bmp", *map_), [&](int a, int b) {
+  ForContacts(ReadHitPicture(DataDirectory() / "maphit.bmp"), [&](int a, int b) {
     if (!Water(a) && !Water(b)) Connect(touching, a, b);
   });
   EXPECT_THAT(LinksOf(map_->ArmyAdjacency), ContainerEq(touching));
 }
 
 TEST_F(MapDataTest, FleetsMoveWhereWatersAndCoastsTouchAndAlongCommonShores) {
-  const HitPicture picture =
-      SplitCoasts(ReadHitPicture(DataDirectory() / "maphit.bmp", *map_), *map_);
+  const HitPicture picture = SplitCoasts(ReadHitPicture(DataDirectory() / "maphit.bmp"), *map_);
   Links touching = Shores(picture);
   ForContacts(picture, [&](int a, int b) {
     if (Water(a) || Water(b)) Connect(touching, a, b);
@@ -125,15 +125,14 @@ TEST_F(MapDataTest, FleetsMoveWhereWatersAndCoastsTouchAndAlongCommonShores) {
 }
 
 TEST_F(MapDataTest, UnitsStandInTheirOwnProvinceOrOffTheirCoast) {
-  const HitPicture picture = ReadHitPicture(DataDirectory() / "maphit.bmp", *map_);
+  const std::filesystem::path path = DataDirectory() / "maphit.bmp";
+  const render::HitMap hitMap(model::ReadFile(path), path.string(), map_->Provinces.Count());
   for (const model::Province& location : map_->Provinces) {
-    const int row =
-        picture.At(static_cast<int>(location.UnitX * static_cast<float>(picture.Width)),
-                   static_cast<int>(location.UnitY * static_cast<float>(picture.Height)));
+    const bool coast = location.Name.size() > 3;
+    const int row = hitMap.LocationAt(*map_, {location.UnitX, location.UnitY}, coast ? "F" : "A");
     ASSERT_NE(row, 0) << location.Name;
-    const bool offCoast =
-        location.Name.size() > 3 && orders::IsAdjacent(*map_, "F", location.Name, Name(row));
-    EXPECT_TRUE(offCoast || Name(row) == ProvinceOf(location.Name))
+    const bool offCoast = coast && orders::IsAdjacent(*map_, "F", location.Name, Name(row));
+    EXPECT_TRUE(offCoast || Name(row) == location.Name)
         << location.Name << " is drawn in " << Name(row);
   }
 }
