@@ -4,9 +4,11 @@
 #include "render/surface.h"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QRectF>
 #include <QSizeF>
+#include <QTransform>
 
 namespace orb::render {
 
@@ -37,13 +39,16 @@ class PainterSurface : public Surface {
   void DrawText(Point corner, std::string_view text) override;
 
  private:
-  QPen CurrentPen() const;
   void SetPenAndBrush();
-  QFont CurrentFont() const;
+  const QFontMetricsF& UseFont() const;
 
   QPainter& painter_;
+  QRectF target_;
+  QTransform outer_;
   QSizeF twips_;
   PictureCache& pictures_;
+  mutable QFont font_;
+  mutable QFontMetricsF metrics_;
 };
 
 }  // namespace orb::render

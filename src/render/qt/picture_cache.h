@@ -32,6 +32,9 @@ class PictureCache {
   std::map<std::filesystem::path, Entry> entries_;
 };
 
+/// A picture's own resolution in whole pixels an inch.
+double Resolution(const QImage& picture);
+
 /// The size in twips at which a picture is meant to be seen, by its own resolution.
 QSizeF NaturalSize(const QImage& picture);
 

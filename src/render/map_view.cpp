@@ -1,0 +1,250 @@
+#include "render/map_view.h"
+
+#include "model/text.h"
+#include "orders/lookups.h"
+#include "render/symbols.h"
+
+#include <string>
+
+namespace orb::render {
+namespace {
+
+using model::GameState;
+using model::Unit;
+
+constexpr model::Colour Black = model::Rgb(0, 0, 0);
+constexpr model::Colour White = model::Rgb(255, 255, 255);
+
+/// A supply centre's dot, in twips.
+constexpr double DotRadius = 45;
+
+Point LabelPoint(const model::Province& province) {
+  return {province.LabelX, province.LabelY};
+}
+Point UnitPoint(const model::Province& province) {
+  return {province.UnitX, province.UnitY};
+}
+
+/// A coast shows its letter only.
+std::string_view LabelText(std::string_view name) {
+  return name.find('.') == std::string_view::npos ? name : name.substr(name.size() - 1);
+}
+
+void SetPens(Surface& surface) {
+  surface.ForeColour = Black;
+  surface.FillColour = Black;
+  surface.FillStyle = Fill::Solid;
+  surface.DrawWidth = 1;
+  surface.FontSize = 8;
+  surface.FontBold = false;
+  surface.FontUnderline = false;
+}
+
+void DrawOwnerBox(Surface& surface, std::string_view label, model::Colour colour) {
+  const double height = surface.TextHeight(label);
+  const Point corner = {surface.CurrentX - surface.TextWidth(" ") / 2,
+                        surface.CurrentY + 0.1 * height};
+  surface.FillStyle = Fill::Transparent;
+  surface.DrawWidth = 2;
+  surface.ForeColour = colour;
+  surface.Box(corner, surface.TextWidth(std::string(" ").append(label)), 0.8 * height);
+  SetPens(surface);
+}
+
+void DrawLabel(Surface& surface, const GameState& game, const MapOptions& options, int row) {
+  const model::Province& province = game.Map->Provinces[row];
+  const std::string_view label = LabelText(province.Name);
+  const double height = surface.TextHeight(label);
+  const Point centre = {province.LabelX * surface.ScaleWidth(),
+                        province.LabelY * surface.ScaleHeight()};
+  const Point corner = {centre.X - surface.TextWidth(label) / 2, centre.Y - height / 2};
+  surface.CurrentX = corner.X;
+  surface.CurrentY = corner.Y;
+  surface.Print(label);
+  if (province.IsSupplyCentre == 0) return;
+  const int owner = model::FindCountry(game.Provinces[row].Owner);
+  if (owner != 0 && options.ColourBordersByOwner) {
+    surface.CurrentX = corner.X;
+    surface.CurrentY = corner.Y;
+    DrawOwnerBox(surface, label, game.Countries[owner].Colour);
+  }
+  surface.Circle({centre.X, centre.Y + 0.6 * height}, DotRadius);
+}
+
+void DrawLabelsAndCentres(Surface& surface, const GameState& game, const MapOptions& options) {
+  for (int row = 1; row <= game.Map->Provinces.Count(); ++row) {
+    DrawLabel(surface, game, options, row);
+  }
+}
+
+std::string_view StageCaption(std::string_view stage) {
+  if (stage == "moves") return "before moves";
+  if (stage == "retreats") return "before retreats";
+  if (stage == "adjustments") return "before adjustments";
+  return "end";
+}
+
+void DrawCaptions(Surface& surface, const GameState& game) {
+  const double left = surface.TextWidth("O");
+  const double height = surface.TextHeight("O");
+  const auto caption = [&](double lines, std::string_view text) {
+    surface.CurrentX = left;
+    surface.CurrentY = lines * height;
+    surface.Print(text);
+  };
+  surface.FontBold = true;
+  caption(0.5, game.Title);
+  caption(1.5, game.Season + " " + std::to_string(game.Year));
+  surface.FontBold = false;
+  caption(2.5, StageCaption(game.Stage));
+}
+
+/// Where a move was aimed at a province that is empty now, nobody came through.
+void DrawStandoffMarkers(Surface& surface, const GameState& game) {
+  for (int row = 1; row <= game.Map->Provinces.Count(); ++row) {
+    const model::Province& province = game.Map->Provinces[row];
+    if (game.Provinces[row].Uncontested || province.Name.size() != 3) continue;
+    if (orders::FindUnitAt(game, province.Name) == 0) {
+      DrawStandoffMarker(surface, UnitPoint(province));
+    }
+  }
+}
+
+/// The last unit that stands undislodged in the dislodged unit's province, or nothing.
+const Unit* FindAttacker(const GameState& game, const Unit& dislodged) {
+  const Unit* attacker = nullptr;
+  for (const Unit& unit : game.Units) {
+    if (unit.Status != model::Dislodged && model::SamePlace(unit.Location, dislodged.Location)) {
+      attacker = &unit;
+    }
+  }
+  return attacker;
+}
+
+const model::Province& ProvinceOf(const GameState& game, std::string_view location) {
+  return game.Map->Provinces[model::FindProvince(*game.Map, location)];
+}
+
+/// Old game files do not tell where a unit was dislodged from: no line then.
+void DrawAttackLines(Surface& surface, const GameState& game, MapMode mode) {
+  for (const Unit& unit : game.Units) {
+    if (unit.Status != model::Dislodged || unit.DislodgedFrom.empty()) continue;
+    if (orders::FindUnitAt(game, unit.DislodgedFrom) != 0) continue;
+    const Unit* attacker = FindAttacker(game, unit);
+    if (attacker == nullptr) continue;
+    const int power = model::FindCountry(attacker->Power);
+    DrawMoveLine(surface, UnitPoint(ProvinceOf(game, unit.DislodgedFrom)),
+                 UnitPoint(ProvinceOf(game, attacker->Location)),
+                 InColour(mode) ? game.Countries[power].Colour : Black);
+  }
+}
+
+void DrawUnits(Surface& surface, const GameState& game, MapMode mode, bool dislodged) {
+  const SymbolStyle style{game.Countries, mode};
+  for (const Unit& unit : game.Units) {
+    const int power = model::FindCountry(unit.Power);
+    const model::Province& province = ProvinceOf(game, unit.Location);
+    if (unit.Status != (dislodged ? model::Dislodged : std::string_view{})) continue;
+    const auto draw = unit.UnitType == "A" ? DrawArmy : DrawFleet;
+    draw(surface, style, dislodged ? LabelPoint(province) : UnitPoint(province), power,
+         dislodged ? 0.75 : 1.0);
+  }
+}
+
+void DrawCentreOwners(Surface& surface, const GameState& game, MapMode mode) {
+  for (int row = 1; row <= game.Map->Provinces.Count(); ++row) {
+    if (game.Map->Provinces[row].IsSupplyCentre != 0) {
+      DrawCentreOwnerMarker(surface, game, mode, row);
+    }
+  }
+}
+
+int CountCentres(const GameState& game, std::string_view power) {
+  int count = 0;
+  for (int row = 1; row <= game.Map->Provinces.Count(); ++row) {
+    if (game.Map->Provinces[row].IsSupplyCentre != 0 && game.Provinces[row].Owner == power) ++count;
+  }
+  return count;
+}
+
+int CountUnits(const GameState& game, std::string_view power) {
+  int count = 0;
+  for (const Unit& unit : game.Units)
+    count += unit.Power == power ? 1 : 0;
+  return count;
+}
+
+/// "5", or before adjustments "5(+2)": what may be built or must be disbanded.
+std::string CountText(const GameState& game, std::string_view power) {
+  const int centres = CountCentres(game, power);
+  std::string text = std::to_string(centres);
+  const int surplus = centres - CountUnits(game, power);
+  if (game.Stage != "adjustments" || surplus == 0) return text;
+  return text.append(surplus > 0 ? "(+" : "(").append(std::to_string(surplus)).append(")");
+}
+
+/// Rows of the powers' abbreviations and counts on white.
+void DrawPlainLegend(Surface& surface, const GameState& game) {
+  const double letter = surface.TextWidth("O");
+  const double height = surface.TextHeight("O");
+  const double width = 5.5 * letter;
+  const double left = surface.ScaleWidth() - width - 0.4 * letter;
+  SetPens(surface);
+  surface.FillColour = White;
+  surface.Box({left, 0.2 * height}, width, (model::CountryCount + 0.4) * height);
+  for (int power = 1; power <= model::CountryCount; ++power) {
+    const std::string& name = game.Countries[power].Abbreviation;
+    surface.CurrentX = left + 0.5 * letter;
+    surface.CurrentY = (0.4 + power - 1) * height;
+    surface.Print(name + ": " + std::to_string(CountCentres(game, name)));
+  }
+  SetPens(surface);
+}
+
+/// Rows of the powers' colours and counts; the little boxes stand left of the column.
+void DrawColourLegend(Surface& surface, const GameState& game) {
+  const double letter = surface.TextWidth("O");
+  const double height = surface.TextHeight("O");
+  const double width = (game.Stage == "adjustments" ? 4.5 : 2.5) * letter;
+  const double left = surface.ScaleWidth() - width;
+  SetPens(surface);
+  for (int power = 1; power <= model::CountryCount; ++power) {
+    const model::Country& country = game.Countries[power];
+    const double top = (0.4 + power - 1) * height;
+    surface.ForeColour = Black;
+    surface.FillColour = country.Colour;
+    surface.Box({left - 1.4 * letter, top + 0.15 * height}, 1.1 * letter, 0.7 * height);
+    surface.ForeColour = country.TextColour;
+    surface.CurrentX = left;
+    surface.CurrentY = top;
+    surface.Print(CountText(game, country.Abbreviation));
+  }
+  SetPens(surface);
+}
+
+}  // namespace
+
+std::filesystem::path BackgroundFile(const std::filesystem::path& dataDirectory, MapMode mode) {
+  if (InColour(mode)) return dataDirectory / "map.bmp";
+  return dataDirectory / (mode == MapMode::Grey ? "mapgrey.bmp" : "mapbw.bmp");
+}
+
+void RenderMap(const GameState& game, const MapOptions& options,
+               const std::filesystem::path& dataDirectory, Surface& surface) {
+  surface.LoadPicture(BackgroundFile(dataDirectory, options.Mode));
+  SetPens(surface);
+  DrawLabelsAndCentres(surface, game, options);
+  DrawCaptions(surface, game);
+  if (game.Stage == "retreats") {
+    DrawStandoffMarkers(surface, game);
+    DrawAttackLines(surface, game, options.Mode);
+  }
+  DrawUnits(surface, game, options.Mode, false);
+  DrawUnits(surface, game, options.Mode, true);
+  if (options.ShowCentreOwners) DrawCentreOwners(surface, game, options.Mode);
+  if (options.ShowCentreCount) {
+    InColour(options.Mode) ? DrawColourLegend(surface, game) : DrawPlainLegend(surface, game);
+  }
+}
+
+}  // namespace orb::render

@@ -1,0 +1,142 @@
+#include "render/qt/map_file.h"
+
+#include "model/errors.h"
+#include "model/files.h"
+#include "model/text.h"
+#include "render/qt/painter_surface.h"
+#include "render/qt/text_codec.h"
+
+#include <QBuffer>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace orb::render {
+namespace {
+
+/// What is drawn and how large: the request, with the size and resolution worked out.
+struct Job {
+  const model::GameState& Game;
+  const MapOptions& Options;
+  const std::filesystem::path& DataDirectory;
+  PictureCache& Pictures;
+  QSizeF Twips;
+  QSize Pixels;
+  double PixelsPerInch;
+};
+
+Job Plan(const model::GameState& game, const MapOptions& options,
+         const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures) {
+  if (pixelWidth < 0 || pixelWidth > MaxPixelWidth) {
+    throw model::FileError("The map cannot be " + std::to_string(pixelWidth) +
+                           " pixels wide; expected 1 to " + std::to_string(MaxPixelWidth) +
+                           ", or 0 for its own width.");
+  }
+  const QImage& picture = pictures.Picture(BackgroundFile(dataDirectory, options.Mode));
+  const int width = pixelWidth == 0 ? picture.width() : pixelWidth;
+  const int height =
+      std::max(1, qRound(static_cast<double>(width) * picture.height() / picture.width()));
+  return {game,
+          options,
+          dataDirectory,
+          pictures,
+          NaturalSize(picture),
+          QSize(width, height),
+          Resolution(picture)};
+}
+
+void Draw(const Job& job, QPainter& painter, const QRectF& target) {
+  PainterSurface surface(painter, target, job.Twips, job.Pictures);
+  RenderMap(job.Game, job.Options, job.DataDirectory, surface);
+}
+
+QImage DrawImage(const Job& job) {
+  QImage image(job.Pixels, QImage::Format_RGB32);
+  if (image.isNull()) throw model::FileError("There is no memory for a map of that size.");
+  image.setDotsPerMeterX(qRound(job.PixelsPerInch / 0.0254));
+  image.setDotsPerMeterY(image.dotsPerMeterX());
+  QPainter painter(&image);
+  Draw(job, painter, QRectF(image.rect()));
+  return image;
+}
+
+void WriteImage(const Job& job, QBuffer& buffer, const char* format) {
+  if (!DrawImage(job).save(&buffer, format)) {
+    throw model::FileError("The map cannot be written in this format.");
+  }
+}
+
+void WriteSvg(const Job& job, QBuffer& buffer) {
+  QSvgGenerator generator;
+  generator.setOutputDevice(&buffer);
+  generator.setResolution(qRound(job.PixelsPerInch));
+  generator.setSize(job.Pixels);
+  generator.setViewBox(QRect(QPoint(0, 0), job.Pixels));
+  generator.setTitle(ToQString(job.Game.Title));
+  QPainter painter(&generator);
+  Draw(job, painter, QRectF(QPointF(0, 0), QSizeF(job.Pixels)));
+}
+
+void WritePdf(const Job& job, QBuffer& buffer) {
+  constexpr double pointsPerInch = 72;
+  QPdfWriter writer(&buffer);
+  writer.setTitle(ToQString(job.Game.Title));
+  writer.setPageSize(QPageSize(QSizeF(job.Pixels) * (pointsPerInch / job.PixelsPerInch),
+                               QPageSize::Point, QString(), QPageSize::ExactMatch));
+  writer.setPageMargins(QMarginsF());
+  QPainter painter(&writer);
+  Draw(job, painter, QRectF(0, 0, writer.width(), writer.height()));
+}
+
+}  // namespace
+
+std::optional<MapFormat> FormatOf(const std::filesystem::path& file) {
+  constexpr std::array<std::pair<std::string_view, MapFormat>, 4> formats = {
+      {{".bmp", MapFormat::Bmp},
+       {".png", MapFormat::Png},
+       {".svg", MapFormat::Svg},
+       {".pdf", MapFormat::Pdf}}};
+  const std::string extension = model::LowerCase(file.extension().string());
+  for (const auto& [text, format] : formats) {
+    if (extension == text) return format;
+  }
+  return std::nullopt;
+}
+
+QImage MapImage(const model::GameState& game, const MapOptions& options,
+                const std::filesystem::path& dataDirectory, int pixelWidth,
+                PictureCache& pictures) {
+  return DrawImage(Plan(game, options, dataDirectory, pixelWidth, pictures));
+}
+
+void SaveMap(const model::GameState& game, const MapOptions& options,
+             const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures,
+             const std::filesystem::path& file, MapFormat format) {
+  const Job job = Plan(game, options, dataDirectory, pixelWidth, pictures);
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  switch (format) {
+    case MapFormat::Bmp:
+      WriteImage(job, buffer, "BMP");
+      break;
+    case MapFormat::Png:
+      WriteImage(job, buffer, "PNG");
+      break;
+    case MapFormat::Svg:
+      WriteSvg(job, buffer);
+      break;
+    case MapFormat::Pdf:
+      WritePdf(job, buffer);
+      break;
+  }
+  const QByteArray& bytes = buffer.data();
+  model::ReplaceFile(file, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+}  // namespace orb::render

@@ -1,0 +1,146 @@
+#include "render/qt/painter_surface.h"
+
+#include "render/qt/text_codec.h"
+
+#include <QPaintEngine>
+#include <QPolygonF>
+
+#include <array>
+#include <numbers>
+
+namespace orb::render {
+namespace {
+
+constexpr double TwipsPerPixel = 15;
+constexpr double TwipsPerPoint = 20;
+
+QColor ToQColor(model::Colour colour) {
+  return {static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
+          static_cast<int>(colour >> 16 & 0xFF)};
+}
+
+QPointF ToQPoint(Point point) {
+  return {point.X, point.Y};
+}
+
+/// The painter's unit is a twip, so that a font's size in pixels is one in twips.
+QFont MapFont() {
+  QFont font(QStringList{QStringLiteral("Open Sans"), QStringLiteral("sans-serif")});
+  font.setStyleHint(QFont::SansSerif);
+  font.setHintingPreference(QFont::PreferNoHinting);
+  return font;
+}
+
+/// Degrees as the painter counts them: sixteenths.
+int Sixteenths(double radians) {
+  return qRound(radians * 16 * 180 / std::numbers::pi);
+}
+
+}  // namespace
+
+PainterSurface::PainterSurface(QPainter& painter, const QRectF& target, QSizeF twips,
+                               PictureCache& pictures)
+    : painter_(painter),
+      target_(target),
+      outer_(painter.worldTransform()),
+      twips_(twips),
+      pictures_(pictures),
+      font_(MapFont()),
+      metrics_(font_) {
+  painter_.save();
+  painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                          QPainter::SmoothPixmapTransform | QPainter::LosslessImageRendering);
+  painter_.translate(target.topLeft());
+  painter_.scale(target.width() / twips.width(), target.height() / twips.height());
+}
+
+PainterSurface::~PainterSurface() {
+  painter_.restore();
+}
+
+void PainterSurface::LoadPicture(const std::filesystem::path& file) {
+  const QTransform toDevice = painter_.deviceTransform();
+  const bool raster = painter_.paintEngine()->type() == QPaintEngine::Raster;
+  if (!raster || toDevice.type() > QTransform::TxScale) {
+    painter_.drawImage(QRectF(QPointF(0, 0), twips_), pictures_.Picture(file));
+    return;
+  }
+  const QSize pixels = toDevice.mapRect(QRectF(QPointF(0, 0), twips_)).size().toSize();
+  QImage picture = pictures_.Scaled(file, pixels);
+  picture.setDevicePixelRatio(pixels.width() / target_.width());
+  const QTransform inner = painter_.worldTransform();
+  painter_.setWorldTransform(outer_);
+  painter_.drawImage(target_.topLeft(), picture);
+  painter_.setWorldTransform(inner);
+}
+
+void PainterSurface::PaintWhite() {
+  painter_.fillRect(QRectF(QPointF(0, 0), twips_), Qt::white);
+}
+
+const QFontMetricsF& PainterSurface::UseFont() const {
+  const int size = qRound(FontSize * TwipsPerPoint);
+  if (font_.pixelSize() != size || font_.bold() != FontBold || font_.underline() != FontUnderline) {
+    font_.setPixelSize(size);
+    font_.setBold(FontBold);
+    font_.setUnderline(FontUnderline);
+    metrics_ = QFontMetricsF(font_);
+  }
+  return metrics_;
+}
+
+double PainterSurface::TextWidth(std::string_view text) const {
+  return UseFont().horizontalAdvance(ToQString(text));
+}
+
+double PainterSurface::TextHeight(std::string_view /*text*/) const {
+  return UseFont().height();
+}
+
+void PainterSurface::DrawText(Point corner, std::string_view text) {
+  const double ascent = UseFont().ascent();
+  painter_.setFont(font_);
+  painter_.setPen(ToQColor(ForeColour));
+  painter_.drawText(QPointF(corner.X, corner.Y + ascent), ToQString(text));
+}
+
+void PainterSurface::SetPenAndBrush() {
+  if (DrawWidth > 0) {
+    painter_.setPen(QPen(ToQColor(ForeColour), DrawWidth * TwipsPerPixel, Qt::SolidLine,
+                         Qt::RoundCap, Qt::MiterJoin));
+  } else {
+    painter_.setPen(Qt::NoPen);
+  }
+  painter_.setBrush(FillStyle == Fill::Solid ? QBrush(ToQColor(FillColour)) : QBrush());
+}
+
+void PainterSurface::Line(Point from, Point to) {
+  SetPenAndBrush();
+  painter_.drawLine(ToQPoint(from), ToQPoint(to));
+}
+
+void PainterSurface::Box(Point corner, double width, double height) {
+  SetPenAndBrush();
+  painter_.drawRect(QRectF(ToQPoint(corner), QSizeF(width, height)));
+}
+
+void PainterSurface::Circle(Point centre, double radius) {
+  SetPenAndBrush();
+  painter_.drawEllipse(ToQPoint(centre), radius, radius);
+}
+
+void PainterSurface::Arc(Point centre, double radius, double start, double end) {
+  SetPenAndBrush();
+  const QRectF frame(centre.X - radius, centre.Y - radius, 2 * radius, 2 * radius);
+  painter_.drawArc(frame, Sixteenths(start), Sixteenths(end - start));
+}
+
+void PainterSurface::Polygon(std::span<const Point> corners) {
+  SetPenAndBrush();
+  QPolygonF polygon;
+  for (const Point& corner : corners)
+    polygon << ToQPoint(corner);
+  painter_.drawPolygon(polygon);
+}
+
+}  // namespace orb::render
