@@ -10,7 +10,8 @@
 namespace orb::cli {
 namespace {
 
-constexpr std::array Commands{&NewCommand, &ResolveCommand, &NextCommand, &UndoCommand};
+constexpr std::array Commands{&NewCommand,   &ResolveCommand, &NextCommand, &UndoCommand,
+                              &CheckCommand, &ShowCommand,    &MapCommand};
 
 int Execute(const CommandLine& line, Console& console) {
   if (line.Has(OptionId::Version)) {

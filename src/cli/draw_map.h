@@ -1,0 +1,33 @@
+#pragma once
+
+#include "model/game_state.h"
+#include "render/map_view.h"
+
+#include <filesystem>
+#include <string>
+
+namespace orb::cli {
+
+/// A map to be saved as a picture. Nothing of the drawing toolkit is needed to ask for one: the
+/// drawing is a module beside the program that is loaded only for it.
+struct MapRequest {
+  const model::GameState& Game;
+  render::MapOptions Options;
+  std::filesystem::path DataDirectory;
+  int PixelWidth = 0;  ///< 0: the background picture's own
+  std::filesystem::path Picture;
+};
+
+/// The name of the module's file, in the directory of the program.
+constexpr const char* DrawModule = "orbdraw.so";
+
+/// The name of its only function: false with a sentence for the user when nothing was written.
+constexpr const char* DrawFunctionName = "OrbDrawMap";
+using DrawFunction = bool(const MapRequest& request, std::string& error);
+
+/// Loads the module and lets it draw. Throws FatalError.
+void DrawMap(const MapRequest& request);
+
+}  // namespace orb::cli
+
+extern "C" orb::cli::DrawFunction OrbDrawMap;

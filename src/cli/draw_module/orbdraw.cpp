@@ -1,0 +1,32 @@
+#include "cli/draw_map.h"
+#include "render/qt/map_file.h"
+
+#include <QGuiApplication>
+
+#include <exception>
+
+extern "C" bool OrbDrawMap(const orb::cli::MapRequest& request, std::string& error) {
+  using namespace orb;
+  try {
+    // What the toolkit notes about its surroundings is no message of this program.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    // Texts need an application object; it shall not ask for a display.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    int argc = 1;
+    char name[] = "orbctl";
+    char* argv[] = {name, nullptr};
+    const QGuiApplication application(argc, argv);
+    const auto format = render::FormatOf(request.Picture);
+    if (!format) {
+      error = "The picture's extension is none of .bmp, .png, .svg and .pdf.";
+      return false;
+    }
+    render::PictureCache pictures;
+    render::SaveMap(request.Game, request.Options, request.DataDirectory, request.PixelWidth,
+                    pictures, request.Picture, *format);
+    return true;
+  } catch (const std::exception& failure) {
+    error = failure.what();
+    return false;
+  }
+}

@@ -1,0 +1,69 @@
+#include "cli/command.h"
+#include "cli/draw_map.h"
+#include "cli/games.h"
+#include "model/text.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace orb::cli {
+namespace {
+
+constexpr std::array Options{OptionId::Mode,         OptionId::CentreCount, OptionId::Borders,
+                             OptionId::CentreOwners, OptionId::Width,       OptionId::Output};
+
+constexpr std::array<std::string_view, 4> Extensions{".bmp", ".png", ".svg", ".pdf"};
+
+/// Wider pictures would not fit into memory.
+constexpr int WidestPicture = 16384;
+
+std::filesystem::path Picture(const CommandLine& line) {
+  std::filesystem::path picture = *line.Value(OptionId::Output);
+  const std::string extension = model::LowerCase(picture.extension().string());
+  if (std::find(Extensions.begin(), Extensions.end(), extension) == Extensions.end()) {
+    throw UsageError("map: The picture's name must end in .bmp, .png, .svg or .pdf.");
+  }
+  return picture;
+}
+
+render::MapMode Mode(const CommandLine& line) {
+  const std::string mode = line.Value(OptionId::Mode).value_or("colour3d");
+  if (mode == "colour3d") return render::MapMode::Colour3D;
+  if (mode == "colour") return render::MapMode::Colour;
+  if (mode == "grey") return render::MapMode::Grey;
+  if (mode == "bw") return render::MapMode::BlackWhite;
+  throw UsageError("map: The mode is one of colour3d, colour, grey and bw, not \"" + mode + "\".");
+}
+
+int PixelWidth(const CommandLine& line) {
+  if (!line.Has(OptionId::Width)) return 0;
+  const std::string& text = *line.Value(OptionId::Width);
+  int width = 0;
+  const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), width);
+  if (error != std::errc() || rest != text.data() + text.size() || width < 1 ||
+      width > WidestPicture) {
+    throw UsageError("map: The width is a number of pixels from 1 to " +
+                     std::to_string(WidestPicture) + ", not \"" + text + "\".");
+  }
+  return width;
+}
+
+int Execute(const CommandLine& line, Console& console) {
+  const std::filesystem::path picture = Picture(line);
+  const int width = PixelWidth(line);
+  const render::MapOptions options{Mode(line), line.Has(OptionId::CentreCount),
+                                   line.Has(OptionId::Borders), line.Has(OptionId::CentreOwners)};
+  const std::filesystem::path data = DataDirectory(line);
+  return ForEachGame(line, console, PlanPaths(line),
+                     [&](const model::GameState& game, const GamePaths& /*paths*/) {
+                       DrawMap({game, options, data, width, picture});
+                       return true;
+                     });
+}
+
+}  // namespace
+
+const Command MapCommand{"map", "draws the map; the picture's format follows its extension",
+                         Games::One, Options, Execute};
+
+}  // namespace orb::cli
