@@ -38,19 +38,20 @@ constexpr std::array<Point, 13> Ship = {{{-160, -22},
                                          {118, 84},
                                          {-126, 84}}};
 constexpr Point ShipLetter = {-10, 12};
+constexpr std::array<Point, 2> FunnelBand = {{{-30, -88}, {4, -88}}};
 
 /// A shield about a supply centre's dot, which it covers.
-constexpr std::array<Point, 5> Shield = {{{-64, -66}, {64, -66}, {64, 14}, {0, 84}, {-64, 14}}};
-constexpr Point ShieldLetter = {0, -8};
+constexpr std::array<Point, 5> Shield = {{{-64, -52}, {64, -52}, {64, 28}, {0, 96}, {-64, 28}}};
+constexpr Point ShieldLetter = {0, 8};
 
 /// How a power's symbols are filled: with its colour, or where there is none with a grey or a
 /// black-and-white device that its initial letter tells apart.
 struct Paint {
   Colour Filling;
   Colour Outline;
-  Colour Letter;  ///< also of the inner ring
+  Colour Letter;  ///< also of the ring
   bool HasLetter;
-  bool HasRing;
+  bool HasRing;  ///< an army's inner ring, a band about a ship's funnel
 };
 
 struct Device {
@@ -138,6 +139,7 @@ void DrawLetter(Surface& surface, Point centre, double size, char letter, Colour
 void ShadeCircle(Surface& surface, Point centre, double radius) {
   constexpr double quarter = std::numbers::pi / 2;
   constexpr std::array<Colour, 4> shades = {HalfLit, Lit, HalfLit, Shaded};
+  surface.DrawWidth = 1.5;
   for (std::size_t i = 0; i < shades.size(); ++i) {
     surface.ForeColour = shades[i];
     const double start = static_cast<double>(i) * quarter;
@@ -168,15 +170,16 @@ void DrawArmy(Surface& surface, const SymbolStyle& style, Point at, int power, d
   const Point centre = OnSurface(surface, at);
   SetPaint(surface, paint);
   surface.Circle(centre, ArmyRadius * scale);
-  const double inner = (ArmyRadius - 16) * scale;
+  const double inner = (ArmyRadius - 18) * scale;
   if (style.Mode == MapMode::Colour3D) ShadeCircle(surface, centre, inner);
   if (paint.HasRing) {
     surface.FillStyle = Fill::Transparent;
     surface.ForeColour = paint.Letter;
-    surface.Circle(centre, inner);
+    surface.Circle(centre, (ArmyRadius - 22) * scale);
   }
   if (paint.HasLetter) {
-    DrawLetter(surface, centre, 8 * scale, style.Countries[power].Abbreviation[0], paint.Letter);
+    DrawLetter(surface, centre, (paint.HasRing ? 7 : 8) * scale,
+               style.Countries[power].Abbreviation[0], paint.Letter);
   }
   SetPens(surface);
 }
@@ -187,12 +190,11 @@ void DrawFleet(Surface& surface, const SymbolStyle& style, Point at, int power, 
   const std::vector<Point> ship = Placed(Ship, centre, scale);
   SetPaint(surface, paint);
   surface.Polygon(ship);
-  const std::vector<Point> inner = Inset(ship, 16 * scale);
-  if (style.Mode == MapMode::Colour3D) ShadeFigure(surface, inner);
+  if (style.Mode == MapMode::Colour3D) ShadeFigure(surface, Inset(ship, 16 * scale));
   if (paint.HasRing) {
-    surface.FillStyle = Fill::Transparent;
     surface.ForeColour = paint.Letter;
-    surface.Polygon(inner);
+    surface.DrawWidth = 2 * scale;
+    surface.Line(Offset(centre, FunnelBand[0], scale), Offset(centre, FunnelBand[1], scale));
   }
   if (paint.HasLetter) {
     DrawLetter(surface, Offset(centre, ShipLetter, scale), 7 * scale,

@@ -1,0 +1,73 @@
+#include "model/map_files.h"
+#include "model/new_game.h"
+#include "render/map_view.h"
+#include "render/qt/map_file.h"
+#include "render/qt/painter_surface.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <benchmark/benchmark.h>
+
+namespace orb {
+namespace {
+
+const std::filesystem::path DataDirectory = ORB_SOURCE_DIR "/data";
+
+/// The board at its fullest: every location but the coasts holds a unit up to the bound, every
+/// centre has an owner, and some units are dislodged.
+model::GameState FullBoard() {
+  model::GameState game = model::EmptyGame(model::LoadMap(DataDirectory));
+  model::NewGame(game, DataDirectory);
+  game.Stage = "retreats";
+  game.Units.SetCount(0);
+  for (int row = 1; row <= game.Provinces.Count(); ++row) {
+    const model::Country& power = game.Countries[row % model::CountryCount + 1];
+    game.Provinces[row].Owner = power.Abbreviation;
+    game.Provinces[row].Uncontested = row % 3 != 0;
+    const std::string& name = game.Map->Provinces[row].Name;
+    if (name.size() != 3 || game.Units.Count() == model::UnitBound) continue;
+    model::Unit& unit = game.Units.Append();
+    unit = {};
+    unit.Power = power.Abbreviation;
+    unit.UnitType.assign(1, row % 2 == 0 ? 'A' : 'F');
+    unit.Location = name;
+    if (row % 5 == 0) unit.Status = model::Dislodged;
+  }
+  return game;
+}
+
+/// Drawing on an image of the given width, as the window does after every change.
+void DrawMap(benchmark::State& state, render::MapMode mode) {
+  const model::GameState game = FullBoard();
+  const render::MapOptions options{mode, true, true, true};
+  render::PictureCache pictures;
+  const auto width = static_cast<int>(state.range(0));
+  QImage image = render::MapImage(game, options, DataDirectory, width, pictures);
+  const QSizeF twips =
+      render::NaturalSize(pictures.Picture(render::BackgroundFile(DataDirectory, mode)));
+  for (auto step : state) {
+    QPainter painter(&image);
+    render::PainterSurface surface(painter, QRectF(image.rect()), twips, pictures);
+    render::RenderMap(game, options, DataDirectory, surface);
+  }
+}
+
+BENCHMARK_CAPTURE(DrawMap, Colour3D, render::MapMode::Colour3D)
+    ->Arg(1000)
+    ->Arg(2000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(DrawMap, BlackWhite, render::MapMode::BlackWhite)
+    ->Arg(1000)
+    ->Arg(2000)
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace orb
+
+int main(int count, char** arguments) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication application(count, arguments);
+  benchmark::Initialize(&count, arguments);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}
