@@ -17,9 +17,7 @@ Battlefield::Battlefield(model::GameState& game, Resolution& resolution)
     if (!IsMove(Order(k))) continue;
     const int place = PlaceNumber(model::PlaceCode(Order(k).Target));
     aims_[static_cast<std::size_t>(k)] = static_cast<std::int8_t>(place);
-    if (Order(k).Active) movers_.Prepend(place, k);
   }
-  CountForces();
 }
 
 int Battlefield::PlaceNumber(std::uint32_t code) {
@@ -34,9 +32,13 @@ void Battlefield::CountForces() {
   resolution_.Force.SetCount(game_.Units.Count());
   for (std::int16_t& force : resolution_.Force)
     force = 1;
+  movers_ = {};
+  supports_ = {};
   for (int k = Orders().Count(); k >= 1; --k) {
     const OrderLine& order = Order(k);
-    if (!order.Active || !IsSupport(order) || order.LinkedOrder == 0) continue;
+    if (!order.Active) continue;
+    if (IsMove(order)) movers_.Prepend(Aim(k), k);
+    if (!IsSupport(order) || order.LinkedOrder == 0) continue;
     const int unit = Order(order.LinkedOrder).UnitIndex;
     if (unit == 0) continue;
     ++resolution_.Force[unit];

@@ -34,12 +34,15 @@ struct Opposition {
   int Order = 0;
 };
 
-/// One run of move resolution: the forces, and lists of who stands and aims where. Nothing moves
-/// and no order becomes active or inactive during a run, so the lists are made once.
+/// The moves of one season: who stands and aims where, and with what force. Nothing moves while
+/// they are decided, so places are listed once; CountForces starts each run of the resolution.
 class Battlefield {
  public:
-  /// Sets every unit's force: 1 and 1 for each active support linked to one of its orders.
   Battlefield(model::GameState& game, Resolution& resolution);
+
+  /// Lists the active moves and supports, and sets every unit's force: 1 and 1 for each active
+  /// support linked to one of its orders. No order may become active or inactive until the next.
+  void CountForces();
 
   orders::OrderTable& Orders() { return resolution_.Orders; }
   orders::OrderLine& Order(int k) { return resolution_.Orders[k]; }
@@ -77,7 +80,6 @@ class Battlefield {
 
   int Aim(int order) const { return aims_[static_cast<std::size_t>(order)]; }
   int PlaceNumber(std::uint32_t code);
-  void CountForces();
   OrderSet SupportsOf(int unit) const;
 
   model::GameState& game_;

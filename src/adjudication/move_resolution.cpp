@@ -1,6 +1,5 @@
 #include "adjudication/move_resolution.h"
 
-#include "adjudication/battlefield.h"
 #include "model/text.h"
 
 #include <array>
@@ -120,7 +119,9 @@ bool StayingUnitsPass(Battlefield& field) {
 /// it is looked up once for all passes.
 struct Contest {
   int Move = 0;
+  OrderLine* Order = nullptr;
   int Occupant = 0;  ///< the last unit in the place aimed at, whatever its order; 0: none
+  const OrderLine* OccupantOrder = nullptr;
   int Force = 0;
   Opposition Rivals;
 };
@@ -129,8 +130,14 @@ class Contests {
  public:
   explicit Contests(Battlefield& field) {
     for (int m = 1; m <= field.Orders().Count(); ++m) {
-      if (!InPlay(field.Order(m))) continue;
-      list_[count_++] = {m, LastUnitAt(field, m), field.Force(field.Order(m).UnitIndex),
+      OrderLine& order = field.Order(m);
+      if (!InPlay(order)) continue;
+      const int occupant = LastUnitAt(field, m);
+      list_[count_++] = {m,
+                         &order,
+                         occupant,
+                         occupant == 0 ? nullptr : &field.Order(field.OrderOf(occupant)),
+                         field.Force(order.UnitIndex),
                          field.RaisedByRivals(m, {})};
     }
   }
@@ -143,10 +150,9 @@ class Contests {
 };
 
 void MoveIntoEmptyPlace(Battlefield& field, const Contest& contest) {
-  const int m = contest.Move;
-  field.Record(m, Ruling::EmptyPlace, contest.Force, contest.Rivals, 0, 0);
-  field.Order(m).Pending = false;
-  if (contest.Force <= contest.Rivals.Strength) field.Order(m).Failed = true;
+  field.Record(contest.Move, Ruling::EmptyPlace, contest.Force, contest.Rivals, 0, 0);
+  contest.Order->Pending = false;
+  if (contest.Force <= contest.Rivals.Strength) contest.Order->Failed = true;
 }
 
 /// The occupant may still leave: only a move that cannot win is decided now.
@@ -154,7 +160,7 @@ void MoveBehindUndecidedUnit(Battlefield& field, const Contest& contest) {
   if (contest.Force > contest.Rivals.Strength) return;
   field.Record(contest.Move, Ruling::LeavingUnit, contest.Force, contest.Rivals, contest.Occupant,
                0);
-  Fail(field.Order(contest.Move));
+  Fail(*contest.Order);
 }
 
 /// Unlike in the passes before, one's own unit may be dislodged here, it keeps its force, and a
@@ -162,15 +168,15 @@ void MoveBehindUndecidedUnit(Battlefield& field, const Contest& contest) {
 void MoveBehindDecidedUnit(Battlefield& field, const Contest& contest) {
   const int m = contest.Move;
   const int occupant = contest.Occupant;
-  const int occupantOrder = field.OrderOf(occupant);
-  const bool stays = field.Order(occupantOrder).Failed;
-  const Opposition best = stays ? field.RaisedByRivals(m, {1, occupantOrder}) : contest.Rivals;
+  const bool stays = contest.OccupantOrder->Failed;
+  const Opposition best =
+      stays ? field.RaisedByRivals(m, {1, field.OrderOf(occupant)}) : contest.Rivals;
   const int strength = stays ? field.AttackStrength(m, occupant) : contest.Force;
   field.Record(m, stays ? Ruling::BouncedUnit : Ruling::LeftPlace, strength, best, occupant,
                stays ? occupant : 0);
-  field.Order(m).Pending = false;
+  contest.Order->Pending = false;
   if (strength <= best.Strength) {
-    field.Order(m).Failed = true;
+    contest.Order->Failed = true;
   } else if (stays) {
     field.MarkDislodged(occupant, m);
   }
@@ -179,11 +185,11 @@ void MoveBehindDecidedUnit(Battlefield& field, const Contest& contest) {
 bool RemainingMovesPass(Battlefield& field, const Contests& contests) {
   bool found = false;
   for (const Contest& contest : contests) {
-    if (!field.Order(contest.Move).Pending) continue;
+    if (!contest.Order->Pending) continue;
     found = true;
     if (contest.Occupant == 0) {
       MoveIntoEmptyPlace(field, contest);
-    } else if (field.Order(field.OrderOf(contest.Occupant)).Pending) {
+    } else if (contest.OccupantOrder->Pending) {
       MoveBehindUndecidedUnit(field, contest);
     } else {
       MoveBehindDecidedUnit(field, contest);
@@ -195,17 +201,16 @@ bool RemainingMovesPass(Battlefield& field, const Contests& contests) {
 /// What is still undecided after so many passes moves in a ring, and succeeds.
 void LetRingsMove(Battlefield& field, const Contests& contests) {
   for (const Contest& contest : contests) {
-    OrderLine& move = field.Order(contest.Move);
-    if (!move.Pending) continue;
+    if (!contest.Order->Pending) continue;
     field.Record(contest.Move, Ruling::Ring, contest.Force, {}, contest.Occupant, 0);
-    move.Pending = false;
+    contest.Order->Pending = false;
   }
 }
 
 }  // namespace
 
-void ResolveMoves(model::GameState& game, Resolution& resolution) {
-  Battlefield field(game, resolution);
+void ResolveMoves(Battlefield& field) {
+  field.CountForces();
   while (OppositeMovesPass(field)) {
   }
   while (StayingUnitsPass(field)) {

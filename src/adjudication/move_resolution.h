@@ -1,12 +1,11 @@
 #pragma once
 
-#include "adjudication/resolution.h"
-#include "model/game_state.h"
+#include "adjudication/battlefield.h"
 
 namespace orb::adjudication {
 
-/// Decides every pending move of the resolution's orders pass by pass: forces, opposite moves,
-/// moves against units that stay, all other moves, and rings. Marks dislodged units.
-void ResolveMoves(model::GameState& game, Resolution& resolution);
+/// Decides every pending move on the battlefield pass by pass: forces, opposite moves, moves
+/// against units that stay, all other moves, and rings. Marks dislodged units.
+void ResolveMoves(Battlefield& field);
 
 }  // namespace orb::adjudication

@@ -58,20 +58,20 @@ OrderSet FindConvoyAttacks(const GameState& game, const Resolution& resolution) 
   return attacks;
 }
 
-void ResolveConvoyAttacks(GameState& game, Resolution& resolution, const OrderSet& attacks) {
-  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
-    OrderLine& order = resolution.Orders[k];
+void ResolveConvoyAttacks(Battlefield& field, const OrderSet& attacks) {
+  for (int k = 1; k <= field.Orders().Count(); ++k) {
+    OrderLine& order = field.Order(k);
     order.Pending = order.Active && attacks.test(static_cast<std::size_t>(k));
   }
-  ResolveMoves(game, resolution);
+  ResolveMoves(field);
 }
 
-void ResolveOtherMoves(GameState& game, Resolution& resolution, const OrderSet& attacks) {
-  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
-    OrderLine& order = resolution.Orders[k];
+void ResolveOtherMoves(Battlefield& field, const OrderSet& attacks) {
+  for (int k = 1; k <= field.Orders().Count(); ++k) {
+    OrderLine& order = field.Order(k);
     order.Pending = order.Active && !attacks.test(static_cast<std::size_t>(k));
   }
-  ResolveMoves(game, resolution);
+  ResolveMoves(field);
 }
 
 /// Losing any one of its fleets breaks a convoy. Returns whether there is an active convoy order.
@@ -109,8 +109,10 @@ void MarkStandoffs(GameState& game, const Resolution& resolution) {
   for (const OrderLine& order : resolution.Orders) {
     if (!IsMove(order) || !order.Active || resolution.Force[order.UnitIndex] <= 0) continue;
     const std::uint32_t aim = model::PlaceCode(order.Target);
-    for (int p = 1; p <= game.Provinces.Count(); ++p) {
-      if (game.Map->PlaceCodes[p] == aim) game.Provinces[p].Uncontested = false;
+    model::ProvinceState* province = game.Provinces.begin();
+    for (const std::uint32_t place : game.Map->PlaceCodes) {
+      if (place == aim) province->Uncontested = false;
+      ++province;
     }
   }
 }
@@ -124,6 +126,7 @@ std::string ReportLine(const OrderLine& order) {
 
 void BuildMoveReport(GameState& game, Resolution& resolution) {
   game.ReportLines.SetCount(0);
+  resolution.Entries.reserve(static_cast<std::size_t>(resolution.Orders.Count()));
   for (int k = 1; k <= resolution.Orders.Count(); ++k) {
     game.ReportLines.Append(ReportLine(resolution.Orders[k]));
     resolution.Entries.push_back({k, k});
@@ -159,12 +162,13 @@ Resolution Resolve(GameState& game, model::Messages& messages) {
   resolution.Reasons.SetCount(resolution.Orders.Count());
   CutByMovesOnLandAndSea(game, resolution);
   const OrderSet convoyAttacks = FindConvoyAttacks(game, resolution);
-  ResolveConvoyAttacks(game, resolution, convoyAttacks);
+  Battlefield field(game, resolution);
+  ResolveConvoyAttacks(field, convoyAttacks);
   if (DisruptConvoys(game, resolution)) {
     messages.Show("Convoys are not fully checked.", model::Icon::Information);
   }
   CutByConvoyedMoves(game, resolution);
-  ResolveOtherMoves(game, resolution, convoyAttacks);
+  ResolveOtherMoves(field, convoyAttacks);
   ApplyMoves(game, resolution);
   MarkStandoffs(game, resolution);
   BuildMoveReport(game, resolution);

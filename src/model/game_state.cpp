@@ -10,6 +10,8 @@ GameState EmptyGame(std::shared_ptr<const Map> map) {
   GameState game;
   game.Provinces.SetCount(map->Provinces.Count());
   game.Map = std::move(map);
+  for (ProvinceState& province : game.Provinces)
+    province.Uncontested = true;
   return game;
 }
 
