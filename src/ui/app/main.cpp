@@ -1,0 +1,87 @@
+#include "model/errors.h"
+#include "model/files.h"
+#include "ui/main_window.h"
+
+#include <QApplication>
+
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace {
+
+using namespace orb;
+
+constexpr std::string_view Usage =
+    "Usage: orb [GAME]\n"
+    "Opens the window with a new game, or with the game file GAME.\n";
+
+/// Where the user or the test has not chosen a platform, lets Qt fall back on a hidden one instead
+/// of ending the program. False where there is no display to try.
+bool choosePlatform() {
+  if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return true;
+  const bool wayland = qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+  if (!wayland && !qEnvironmentVariableIsSet("DISPLAY")) return false;
+  qputenv("QT_QPA_PLATFORM", wayland ? "wayland;xcb;offscreen" : "xcb;offscreen");
+  return true;
+}
+
+/// A failed start is told in a box, without a display on standard error.
+class StartMessages : public ui::MessageBoxes {
+ public:
+  explicit StartMessages(bool display) : MessageBoxes(nullptr), m_display(display) {}
+
+  void Show(const std::string& text, model::Icon icon) override {
+    if (m_display) return MessageBoxes::Show(text, icon);
+    std::cerr << ui::displayText(text).toStdString() << '\n';
+  }
+
+ private:
+  bool m_display;
+};
+
+int runProgram(const std::filesystem::path& gameFile, bool display) {
+  StartMessages messages(display);
+  try {
+    const std::filesystem::path directory = model::ProgramDirectory();
+    ui::Situation start = ui::startSituation(directory, gameFile, messages);
+    if (!display) {
+      throw model::FatalError("There is no display (DISPLAY, WAYLAND_DISPLAY) for the window.");
+    }
+    ui::MainWindow window(std::move(start), directory);
+    window.show();
+    return QApplication::exec();
+  } catch (const model::FatalError& fault) {
+    messages.Show(fault.what(), model::Icon::Stop);
+    return EXIT_FAILURE;
+  }
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  const bool tried = choosePlatform();
+  const bool hiddenAskedFor = qgetenv("QT_QPA_PLATFORM") == "offscreen";
+  std::unique_ptr<QApplication> application;
+  if (tried) application = std::make_unique<QApplication>(argc, argv);
+  const bool display =
+      tried && (hiddenAskedFor || QApplication::platformName() != QLatin1String("offscreen"));
+
+  const std::string_view argument = argc > 1 ? argv[1] : "";
+  if (argument == "--help" || argument == "-h") {
+    std::cout << Usage;
+    return EXIT_SUCCESS;
+  }
+  if (argument == "--version") {
+    std::cout << model::ProgramName << '\n';
+    return EXIT_SUCCESS;
+  }
+  if (argc > 2) {
+    std::cerr << Usage;
+    return 2;
+  }
+  return runProgram(argument, display);
+}

@@ -1,0 +1,53 @@
+#include "ui/controls.h"
+
+#include "render/qt/text_codec.h"
+
+#include <QPainter>
+#include <QStyle>
+
+namespace orb::ui {
+
+QPushButton* newButton(const QString& name, const QString& caption) {
+  auto* button = new QPushButton(caption);
+  button->setObjectName(name);
+  button->setAutoDefault(true);
+  return button;
+}
+
+QLabel* newHeading(const QString& text) {
+  auto* heading = new QLabel(text);
+  QFont font = heading->font();
+  font.setBold(true);
+  heading->setFont(font);
+  return heading;
+}
+
+QAction* newEntry(QMenu& menu, const QString& name, const QString& caption,
+                  const QKeySequence& shortcut) {
+  QAction* entry = menu.addAction(caption);
+  entry->setObjectName(name);
+  entry->setShortcut(shortcut);
+  return entry;
+}
+
+bool showTexts(QListWidget& box, const std::vector<std::string>& texts) {
+  QStringList wanted;
+  for (const std::string& text : texts)
+    wanted << render::ToQString(text);
+  QStringList shown;
+  for (int row = 0; row < box.count(); ++row)
+    shown << box.item(row)->text();
+  if (shown == wanted) return false;
+  box.clear();
+  box.addItems(wanted);
+  return true;
+}
+
+void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
+  const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width());
+  QPainter painter(this);
+  style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(),
+                        isEnabled(), shown, foregroundRole());
+}
+
+}  // namespace orb::ui

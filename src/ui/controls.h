@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QAction>
+#include <QKeySequence>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QString>
+
+#include <string>
+#include <vector>
+
+namespace orb::ui {
+
+/// A push button that the Enter key presses as the space key does.
+QPushButton* newButton(const QString& name, const QString& caption);
+
+/// The heading of a panel.
+QLabel* newHeading(const QString& text);
+
+/// An entry at the end of a menu.
+QAction* newEntry(QMenu& menu, const QString& name, const QString& caption,
+                  const QKeySequence& shortcut = {});
+
+/// Fills a list box with 8-bit texts; false, nothing touched, when it shows them already.
+bool showTexts(QListWidget& box, const std::vector<std::string>& texts);
+
+/// A line of text that gives way: what does not fit is left out of its middle.
+class ElidedLabel : public QLabel {
+  Q_OBJECT
+
+ public:
+  using QLabel::QLabel;
+
+  QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace orb::ui

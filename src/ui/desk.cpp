@@ -1,0 +1,82 @@
+#include "ui/desk.h"
+
+#include "model/errors.h"
+#include "model/game_file.h"
+#include "model/new_game.h"
+#include "model/seasons.h"
+#include "orders/order_list.h"
+
+#include <utility>
+
+namespace orb::ui {
+
+Desk::Desk(Situation start, std::filesystem::path dataDirectory, model::Messages& messages,
+           QObject* parent)
+    : QObject(parent),
+      m_now(std::move(start)),
+      m_dataDirectory(std::move(dataDirectory)),
+      m_messages(messages) {}
+
+void Desk::newGame() {
+  run([this](Situation& next) { model::NewGame(next.game, m_dataDirectory); });
+}
+
+void Desk::openGame(const std::filesystem::path& file, bool readOnly) {
+  run([&](Situation& next) {
+    next.readOnly = readOnly;
+    model::ReadGameFile(next.game, file, m_dataDirectory, m_messages);
+  });
+}
+
+void Desk::saveGame() {
+  run([](Situation& next) { model::WriteGameFile(next.game); });
+}
+
+void Desk::saveGameAs(const std::filesystem::path& file) {
+  run([&](Situation& next) {
+    next.readOnly = false;
+    next.game.FileName = file.string();
+    model::WriteGameFile(next.game);
+  });
+}
+
+bool Desk::fileOrder(OrderList list, const std::string& text) {
+  bool filed = false;
+  run([&](Situation& next) { filed = orders::FileOrder(next.game.*list, text); });
+  return filed;
+}
+
+void Desk::deleteOrder(OrderList list, int position) {
+  run([&](Situation& next) { orders::DeleteOrder(next.game.*list, position); });
+}
+
+void Desk::resolve() {
+  run([this](Situation& next) { resolveStage(next, m_messages); });
+}
+
+void Desk::nextSeason() {
+  run([](Situation& next) { model::NextSeason(next.game); });
+}
+
+void Desk::undoSeason() {
+  run([this](Situation& next) { model::UndoSeason(next.game, m_messages); });
+}
+
+void Desk::setMapOptions(const render::MapOptions& options) {
+  run([&](Situation& next) { next.mapOptions = options; });
+}
+
+void Desk::run(const std::function<void(Situation&)>& command) {
+  try {
+    Situation next = m_now;
+    command(next);
+    next.reportNotes.resize(static_cast<std::size_t>(next.game.ReportLines.Count()));
+    m_draw(next);
+    m_now = std::move(next);
+  } catch (const model::FatalError& fault) {
+    m_messages.Show(fault.what(), model::Icon::Stop);
+  }
+  emit changed();
+}
+
+}  // namespace orb::ui

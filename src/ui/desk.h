@@ -1,0 +1,64 @@
+#pragma once
+
+#include "model/messages.h"
+#include "ui/situation.h"
+
+#include <QObject>
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace orb::ui {
+
+/// The one game of the window and the commands on it. Each command is one call into the core on a
+/// copy of the situation, which is then shown and takes the old one's place. A command that meets
+/// a fatal error is reported in an error box, and everything stays as it was.
+class Desk : public QObject {
+  Q_OBJECT
+
+ public:
+  /// One of the lists of order lines in the game.
+  using OrderList = std::vector<std::string> model::GameState::*;
+
+  /// The messages must outlive the desk.
+  Desk(Situation start, std::filesystem::path dataDirectory, model::Messages& messages,
+       QObject* parent);
+
+  const Situation& now() const { return m_now; }
+  const model::GameState& game() const { return m_now.game; }
+  const std::filesystem::path& dataDirectory() const { return m_dataDirectory; }
+
+  /// Called with each new situation before it is taken over; throws FatalError when it cannot be
+  /// drawn, which abandons the command.
+  void setDrawing(std::function<void(const Situation&)> draw) { m_draw = std::move(draw); }
+
+  void newGame();
+  void openGame(const std::filesystem::path& file, bool readOnly);
+  void saveGame();
+  void saveGameAs(const std::filesystem::path& file);
+
+  /// False when nothing was filed.
+  bool fileOrder(OrderList list, const std::string& text);
+  void deleteOrder(OrderList list, int position);
+
+  void resolve();
+  void nextSeason();
+  void undoSeason();
+
+  void setMapOptions(const render::MapOptions& options);
+
+ signals:
+  void changed();
+
+ private:
+  void run(const std::function<void(Situation&)>& command);
+
+  Situation m_now;
+  std::filesystem::path m_dataDirectory;
+  model::Messages& m_messages;
+  std::function<void(const Situation&)> m_draw = [](const Situation&) {};
+};
+
+}  // namespace orb::ui

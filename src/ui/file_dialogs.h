@@ -1,0 +1,29 @@
+#pragma once
+
+#include "model/game_state.h"
+#include "model/messages.h"
+
+#include <QString>
+#include <QWidget>
+
+#include <filesystem>
+#include <optional>
+
+namespace orb::ui {
+
+struct OpenChoice {
+  std::filesystem::path file;
+  bool readOnly = false;
+};
+
+/// Asks for a game file to open; nothing when cancelled.
+std::optional<OpenChoice> askGameToOpen(QWidget* parent, const model::GameState& game);
+
+/// Asks where to save the game and whether a file there may be replaced; nothing when cancelled.
+std::optional<std::filesystem::path> askWhereToSave(QWidget* parent, const model::GameState& game,
+                                                    model::Messages& messages);
+
+/// A file name of the system for display.
+QString displayPath(const std::string& file);
+
+}  // namespace orb::ui

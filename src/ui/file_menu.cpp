@@ -1,0 +1,50 @@
+#include "ui/file_menu.h"
+
+#include "ui/controls.h"
+#include "ui/file_dialogs.h"
+
+namespace orb::ui {
+
+FileMenu::FileMenu(Desk& desk, model::Messages& messages, QWidget* window)
+    : QMenu(tr("&File"), window), m_desk(desk), m_messages(messages), m_window(window) {
+  setObjectName(QStringLiteral("mnuFile"));
+  QAction* create = newEntry(*this, QStringLiteral("mnuFileNew"), tr("&New"), QKeySequence::New);
+  QAction* open = newEntry(*this, QStringLiteral("mnuFileOpen"), tr("&Open..."), QKeySequence::Open);
+  m_save = newEntry(*this, QStringLiteral("mnuFileSave"), tr("&Save"), QKeySequence::Save);
+  QAction* saveAs = newEntry(*this, QStringLiteral("mnuFileSaveAs"), tr("Save &As..."),
+                             Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+  addSeparator();
+  QAction* exit =
+      newEntry(*this, QStringLiteral("mnuFileExit"), tr("E&xit"), Qt::CTRL | Qt::Key_Q);
+  connect(create, &QAction::triggered, &m_desk, &Desk::newGame);
+  connect(open, &QAction::triggered, this, &FileMenu::open);
+  connect(m_save, &QAction::triggered, this, &FileMenu::save);
+  connect(saveAs, &QAction::triggered, this, &FileMenu::saveAs);
+  connect(exit, &QAction::triggered, m_window, &QWidget::close);
+  connect(&m_desk, &Desk::changed, this, &FileMenu::showState);
+  showState();
+}
+
+void FileMenu::open() {
+  const auto choice = askGameToOpen(m_window, m_desk.game());
+  if (choice) m_desk.openGame(choice->file, choice->readOnly);
+}
+
+void FileMenu::save() {
+  if (m_desk.game().FileName.empty()) {
+    saveAs();
+  } else {
+    m_desk.saveGame();
+  }
+}
+
+void FileMenu::saveAs() {
+  const auto file = askWhereToSave(m_window, m_desk.game(), m_messages);
+  if (file) m_desk.saveGameAs(*file);
+}
+
+void FileMenu::showState() {
+  m_save->setEnabled(!m_desk.now().readOnly || m_desk.game().FileName.empty());
+}
+
+}  // namespace orb::ui

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ui/desk.h"
+
+#include <QMenu>
+
+namespace orb::ui {
+
+/// The commands on game files.
+class FileMenu : public QMenu {
+  Q_OBJECT
+
+ public:
+  /// Dialogs come up over the window; Exit closes it.
+  FileMenu(Desk& desk, model::Messages& messages, QWidget* window);
+
+ private:
+  void open();
+  void save();
+  void saveAs();
+  void showState();
+
+  Desk& m_desk;
+  model::Messages& m_messages;
+  QWidget* m_window;
+  QAction* m_save;
+};
+
+}  // namespace orb::ui

@@ -1,0 +1,65 @@
+#include "ui/map_menu.h"
+
+#include "ui/controls.h"
+
+#include <QActionGroup>
+
+namespace orb::ui {
+
+using render::MapMode;
+using render::MapOptions;
+
+MapMenu::MapMenu(Desk& desk, QWidget* parent)
+    : QMenu(tr("&Map"), parent), m_desk(desk), m_modeGroup(new QActionGroup(this)) {
+  setObjectName(QStringLiteral("mnuMap"));
+  addMode(QStringLiteral("mnuMapColour3D"), tr("Colour &3D"), MapMode::Colour3D);
+  addMode(QStringLiteral("mnuMapColour"), tr("&Colour"), MapMode::Colour);
+  addMode(QStringLiteral("mnuMapGrey"), tr("&Grey"), MapMode::Grey);
+  addMode(QStringLiteral("mnuMapBlackWhite"), tr("&Black/white"), MapMode::BlackWhite);
+  addSeparator();
+  addToggle(QStringLiteral("mnuShowCentreCount"), tr("Show ce&ntre count"),
+            &MapOptions::ShowCentreCount);
+  addToggle(QStringLiteral("mnuMapColourBordersByOwner"), tr("&Colour borders by owner"),
+            &MapOptions::ColourBordersByOwner);
+  addToggle(QStringLiteral("mnuShowCentreOwners"), tr("Show centre &owners"),
+            &MapOptions::ShowCentreOwners);
+  connect(&m_desk, &Desk::changed, this, &MapMenu::showState);
+  showState();
+}
+
+void MapMenu::addMode(const QString& name, const QString& caption, MapMode mode) {
+  QAction* entry = newEntry(*this, name, caption);
+  entry->setCheckable(true);
+  m_modeGroup->addAction(entry);
+  m_modes.emplace_back(entry, mode);
+  connect(entry, &QAction::triggered, this, [this, mode] { choose(mode); });
+}
+
+void MapMenu::addToggle(const QString& name, const QString& caption, Toggle toggle) {
+  QAction* entry = newEntry(*this, name, caption);
+  entry->setCheckable(true);
+  m_toggles.emplace_back(entry, toggle);
+  connect(entry, &QAction::triggered, this, [this, toggle](bool on) { set(toggle, on); });
+}
+
+void MapMenu::choose(MapMode mode) {
+  MapOptions options = m_desk.now().mapOptions;
+  options.Mode = mode;
+  m_desk.setMapOptions(options);
+}
+
+void MapMenu::set(Toggle toggle, bool on) {
+  MapOptions options = m_desk.now().mapOptions;
+  options.*toggle = on;
+  m_desk.setMapOptions(options);
+}
+
+void MapMenu::showState() {
+  const MapOptions& options = m_desk.now().mapOptions;
+  for (const auto& [entry, mode] : m_modes)
+    entry->setChecked(options.Mode == mode);
+  for (const auto& [entry, toggle] : m_toggles)
+    entry->setChecked(options.*toggle);
+}
+
+}  // namespace orb::ui

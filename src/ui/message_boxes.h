@@ -1,0 +1,28 @@
+#pragma once
+
+#include "model/messages.h"
+
+#include <QString>
+#include <QWidget>
+
+namespace orb::ui {
+
+/// A message text as a box shows it: every line break of the core becomes a new line. Texts of the
+/// system (file names, reasons) are UTF-8, texts of the game Windows-1252.
+QString displayText(const std::string& text);
+
+/// Real message boxes over a window.
+class MessageBoxes : public model::Messages {
+ public:
+  /// Without a parent the boxes stand alone.
+  explicit MessageBoxes(QWidget* parent) : m_parent(parent) {}
+
+  bool Warn(const std::string& text) override;
+  model::Answer Ask(const std::string& text) override;
+  void Show(const std::string& text, model::Icon icon) override;
+
+ private:
+  QWidget* m_parent;
+};
+
+}  // namespace orb::ui

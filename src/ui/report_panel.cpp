@@ -1,0 +1,113 @@
+#include "ui/report_panel.h"
+
+#include "render/qt/text_codec.h"
+#include "ui/controls.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QEvent>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QVBoxLayout>
+
+namespace orb::ui {
+namespace {
+
+constexpr int ReasonLines = 4;
+
+/// A red that can be read on the background of the palette, light or dark.
+QColor failedColour(const QPalette& palette) {
+  const bool dark = palette.color(QPalette::Base).lightness() < 128;
+  return dark ? QColor(0xff, 0x8f, 0x80) : QColor(0xb0, 0x1c, 0x14);
+}
+
+}  // namespace
+
+ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
+    : QWidget(parent), m_desk(desk), m_lines(new QListWidget), m_reason(new QLabel) {
+  setObjectName(QStringLiteral("fraReport"));
+  m_lines->setObjectName(QStringLiteral("lstReport"));
+  m_lines->setAccessibleName(tr("Report"));
+  m_lines->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  m_lines->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  m_lines->setUniformItemSizes(true);
+  m_reason->setObjectName(QStringLiteral("lblReason"));
+  m_reason->setWordWrap(true);
+  m_reason->setTextFormat(Qt::PlainText);
+  m_reason->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  m_reason->setMinimumHeight(ReasonLines * fontMetrics().lineSpacing());
+  m_reason->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  layOut();
+  addListActions();
+  connect(m_lines, &QListWidget::itemSelectionChanged, this, &ReportPanel::showReason);
+  connect(&m_desk, &Desk::changed, this, &ReportPanel::showReport);
+  showReport();
+}
+
+void ReportPanel::layOut() {
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins({});
+  column->addWidget(newHeading(tr("Report")));
+  column->addWidget(m_lines, 1);
+  column->addWidget(m_reason);
+}
+
+void ReportPanel::addListActions() {
+  auto* copy = new QAction(tr("&Copy"), m_lines);
+  copy->setShortcut(QKeySequence::Copy);
+  auto* selectAll = new QAction(tr("Select &all"), m_lines);
+  selectAll->setShortcut(QKeySequence::SelectAll);
+  for (QAction* action : {copy, selectAll}) {
+    action->setShortcutContext(Qt::WidgetShortcut);
+    m_lines->addAction(action);
+  }
+  m_lines->setContextMenuPolicy(Qt::ActionsContextMenu);
+  connect(copy, &QAction::triggered, this, &ReportPanel::copySelectedLines);
+  connect(selectAll, &QAction::triggered, m_lines, &QListWidget::selectAll);
+}
+
+void ReportPanel::startReading() {
+  m_lines->setFocus();
+}
+
+void ReportPanel::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) colourLines();
+}
+
+void ReportPanel::showReport() {
+  const auto& report = m_desk.game().ReportLines;
+  if (showTexts(*m_lines, {report.begin(), report.end()})) {
+    colourLines();
+    showReason();
+  }
+  setVisible(report.Count() > 0);
+}
+
+void ReportPanel::colourLines() {
+  const std::vector<ReportNote>& notes = m_desk.now().reportNotes;
+  for (int row = 0; row < m_lines->count(); ++row) {
+    const bool failed = notes.at(static_cast<std::size_t>(row)).failed;
+    m_lines->item(row)->setForeground(failed ? failedColour(palette()) : QBrush());
+  }
+}
+
+void ReportPanel::showReason() {
+  const auto selected = m_lines->selectionModel()->selectedRows();
+  m_reason->setEnabled(!selected.isEmpty());
+  m_reason->setText(tr("Select a line to read why it came out so."));
+  if (selected.isEmpty()) return;
+  const auto row = static_cast<std::size_t>(m_lines->currentRow());
+  m_reason->setText(render::ToQString(m_desk.now().reportNotes.at(row).reason));
+}
+
+void ReportPanel::copySelectedLines() {
+  QString text;
+  for (int row = 0; row < m_lines->count(); ++row) {
+    const QListWidgetItem* item = m_lines->item(row);
+    if (item->isSelected()) text += item->text() + QLatin1Char('\n');
+  }
+  QGuiApplication::clipboard()->setText(text);
+}
+
+}  // namespace orb::ui

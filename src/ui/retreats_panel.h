@@ -1,0 +1,15 @@
+#pragma once
+
+#include "ui/order_entry_panel.h"
+
+namespace orb::ui {
+
+/// The orders of dislodged units.
+class RetreatsPanel : public OrderEntryPanel {
+  Q_OBJECT
+
+ public:
+  explicit RetreatsPanel(Desk& desk, QWidget* parent = nullptr);
+};
+
+}  // namespace orb::ui

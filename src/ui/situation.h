@@ -1,0 +1,35 @@
+#pragma once
+
+#include "adjudication/resolution.h"
+#include "model/game_state.h"
+#include "model/messages.h"
+#include "render/map_view.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace orb::ui {
+
+/// What is known about a line of the report beside its text.
+struct ReportNote {
+  bool failed = false;
+  std::string reason;  ///< why it came out so, in sentences
+};
+
+/// All that the window shows. A command makes a new one, which takes the old one's place whole.
+struct Situation {
+  model::GameState game;
+  render::MapOptions mapOptions;
+  std::vector<ReportNote> reportNotes;  ///< one a line of the report
+  bool readOnly = false;                ///< the game's file was opened for reading only
+};
+
+/// Loads the map and sets up a new game, or opens the named game file. Throws FatalError.
+Situation startSituation(const std::filesystem::path& dataDirectory,
+                         const std::filesystem::path& gameFile, model::Messages& messages);
+
+/// Resolves the stage and notes why; after a No or an error nothing is changed.
+void resolveStage(Situation& situation, model::Messages& messages);
+
+}  // namespace orb::ui
