@@ -9,13 +9,13 @@ FileMenu::FileMenu(Desk& desk, model::Messages& messages, QWidget* window)
     : QMenu(tr("&File"), window), m_desk(desk), m_messages(messages), m_window(window) {
   setObjectName(QStringLiteral("mnuFile"));
   QAction* create = newEntry(*this, QStringLiteral("mnuFileNew"), tr("&New"), QKeySequence::New);
-  QAction* open = newEntry(*this, QStringLiteral("mnuFileOpen"), tr("&Open..."), QKeySequence::Open);
+  QAction* open =
+      newEntry(*this, QStringLiteral("mnuFileOpen"), tr("&Open..."), QKeySequence::Open);
   m_save = newEntry(*this, QStringLiteral("mnuFileSave"), tr("&Save"), QKeySequence::Save);
   QAction* saveAs = newEntry(*this, QStringLiteral("mnuFileSaveAs"), tr("Save &As..."),
                              Qt::CTRL | Qt::SHIFT | Qt::Key_S);
   addSeparator();
-  QAction* exit =
-      newEntry(*this, QStringLiteral("mnuFileExit"), tr("E&xit"), Qt::CTRL | Qt::Key_Q);
+  QAction* exit = newEntry(*this, QStringLiteral("mnuFileExit"), tr("E&xit"), Qt::CTRL | Qt::Key_Q);
   connect(create, &QAction::triggered, &m_desk, &Desk::newGame);
   connect(open, &QAction::triggered, this, &FileMenu::open);
   connect(m_save, &QAction::triggered, this, &FileMenu::save);

@@ -15,9 +15,10 @@ HelpMenu::HelpMenu(QWidget* window) : QMenu(tr("&Help"), window), m_window(windo
 }
 
 void HelpMenu::about() {
-  QMessageBox::about(m_window, render::ToQString(model::ProgramName),
-                     tr("<h3>ORB v5.5</h3><p>Holds a game of seven powers, their armies and fleets, "
-                        "draws its map and resolves its orders.</p>"));
+  QMessageBox::about(
+      m_window, render::ToQString(model::ProgramName),
+      tr("<h3>ORB v5.5</h3><p>Holds a game of seven powers, their armies and fleets, "
+         "draws its map and resolves its orders.</p>"));
 }
 
 }  // namespace orb::ui

@@ -53,7 +53,8 @@ int MapPicture::fittingPixelWidth() const {
 
 /// What the map cannot use goes to its neighbours.
 void MapPicture::leaveSpareWidth() {
-  setMaximumWidth(std::max(minimumSizeHint().width(), static_cast<int>(std::ceil(height() * m_aspect))));
+  setMaximumWidth(
+      std::max(minimumSizeHint().width(), static_cast<int>(std::ceil(height() * m_aspect))));
 }
 
 }  // namespace orb::ui

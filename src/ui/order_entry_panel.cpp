@@ -55,8 +55,8 @@ void OrderEntryPanel::connectControls() {
   connect(m_resolve, &QPushButton::clicked, &m_desk, &Desk::resolve);
   connect(m_list, &QListWidget::itemClicked, this, &OrderEntryPanel::editSelectedOrder);
   connect(m_list, &QListWidget::itemActivated, this, &OrderEntryPanel::editSelectedOrder);
-  auto* deleteKey = new QShortcut(QKeySequence::Delete, m_list, nullptr, nullptr,
-                                  Qt::WidgetShortcut);
+  auto* deleteKey =
+      new QShortcut(QKeySequence::Delete, m_list, nullptr, nullptr, Qt::WidgetShortcut);
   connect(deleteKey, &QShortcut::activated, this, &OrderEntryPanel::deleteOrder);
   connect(&m_desk, &Desk::changed, this, &OrderEntryPanel::showLines);
 }

@@ -21,8 +21,9 @@ SeasonFinishedPanel::SeasonFinishedPanel(Desk& desk, QWidget* parent) : QWidget(
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});
   column->addWidget(newHeading(tr("Season finished")));
-  column->addWidget(newText(tr("Advancing to the next season will clear all text stored in the "
-                               "game situation. ")));
+  column->addWidget(
+      newText(tr("Advancing to the next season will clear all text stored in the "
+                 "game situation. ")));
   column->addWidget(newText(tr("Save the game first or export the text if you want to keep it.")));
   column->addWidget(next, 0, Qt::AlignRight);
   connect(next, &QPushButton::clicked, &desk, &Desk::nextSeason);

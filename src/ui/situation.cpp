@@ -14,8 +14,7 @@ namespace {
 void addNotes(const adjudication::Resolution& resolution, Situation& situation) {
   std::vector<ReportNote>& notes = situation.reportNotes;
   if (resolution.Stage == adjudication::ResolvedStage::Moves) notes.clear();
-  const std::vector<std::string> reasons =
-      adjudication::ExplainReport(situation.game, resolution);
+  const std::vector<std::string> reasons = adjudication::ExplainReport(situation.game, resolution);
   notes.resize(reasons.size());
   for (std::size_t i = 0; i < reasons.size(); ++i) {
     if (!notes[i].reason.empty() && !reasons[i].empty()) notes[i].reason += ' ';
@@ -43,8 +42,7 @@ Situation startSituation(const std::filesystem::path& dataDirectory,
 }
 
 void resolveStage(Situation& situation, model::Messages& messages) {
-  const adjudication::Resolution resolution =
-      adjudication::ResolveStage(situation.game, messages);
+  const adjudication::Resolution resolution = adjudication::ResolveStage(situation.game, messages);
   if (resolution.Completed) addNotes(resolution, situation);
 }
 
