@@ -188,7 +188,7 @@ void DrawPlainLegend(Surface& surface, const GameState& game) {
   const double letter = surface.TextWidth("O");
   const double height = surface.TextHeight("O");
   const double width = 5.5 * letter;
-  const double left = surface.ScaleWidth() - width - 0.4 * letter;
+  const double left = surface.ScaleWidth() - width - 0.8 * letter;
   SetPens(surface);
   surface.FillColour = White;
   surface.Box({left, 0.2 * height}, width, (model::CountryCount + 0.4) * height);

@@ -139,7 +139,7 @@ void DrawLetter(Surface& surface, Point centre, double size, char letter, Colour
 void ShadeCircle(Surface& surface, Point centre, double radius) {
   constexpr double quarter = std::numbers::pi / 2;
   constexpr std::array<Colour, 4> shades = {HalfLit, Lit, HalfLit, Shaded};
-  surface.DrawWidth = 1.5;
+  surface.DrawWidth = 1.2;
   for (std::size_t i = 0; i < shades.size(); ++i) {
     surface.ForeColour = shades[i];
     const double start = static_cast<double>(i) * quarter;
@@ -170,7 +170,7 @@ void DrawArmy(Surface& surface, const SymbolStyle& style, Point at, int power, d
   const Point centre = OnSurface(surface, at);
   SetPaint(surface, paint);
   surface.Circle(centre, ArmyRadius * scale);
-  const double inner = (ArmyRadius - 18) * scale;
+  const double inner = (ArmyRadius - 17) * scale;
   if (style.Mode == MapMode::Colour3D) ShadeCircle(surface, centre, inner);
   if (paint.HasRing) {
     surface.FillStyle = Fill::Transparent;
