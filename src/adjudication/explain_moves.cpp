@@ -60,8 +60,8 @@ std::string CutSupportsOf(const Resolution& resolution, int order) {
   for (int k = 1; k <= resolution.Orders.Count(); ++k) {
     const int cutter = resolution.Reasons[k].Cutter;
     if (cutter == 0 || resolution.Orders[k].LinkedOrder != order) continue;
-    text += "; the support of " + UnitName(resolution.Orders[k]) + " was cut by " +
-            Quoted(resolution.Orders[cutter]);
+    text.append("; the support of ").append(UnitName(resolution.Orders[k]));
+    text.append(" was cut by ").append(Quoted(resolution.Orders[cutter]));
   }
   return text;
 }
@@ -150,7 +150,10 @@ std::string RejectionText(const model::Map& map, const Resolution& resolution, i
 std::string LinkedText(const Resolution& resolution, int order) {
   const OrderLine& line = resolution.Orders[order];
   const OrderLine& linked = resolution.Orders[line.LinkedOrder];
-  if (orders::IsConvoy(line)) return "It convoyed " + Quoted(linked);
+  if (orders::IsConvoy(line)) {
+    const bool broken = resolution.Reasons[order].Dislodger != 0;
+    return (broken ? "It could not convoy " : "It convoyed ") + Quoted(linked);
+  }
   if (resolution.Reasons[order].SupportWithdrawn) {
     return "Its support of " + Quoted(linked) +
            " was withdrawn: the attack that dislodged it came from the place supported into";
@@ -159,6 +162,7 @@ std::string LinkedText(const Resolution& resolution, int order) {
 }
 
 std::string HoldText(const Resolution& resolution, int order) {
+  if (resolution.Reasons[order].Dislodger != 0) return "It did not hold";
   const OrderTable& table = resolution.Orders;
   for (int m = 1; m <= table.Count(); ++m) {
     const Reason& reason = resolution.Reasons[m];
@@ -173,9 +177,8 @@ std::string HoldText(const Resolution& resolution, int order) {
 std::string OwnText(const model::Map& map, const Resolution& resolution, int order) {
   const OrderLine& line = resolution.Orders[order];
   if (!line.Active) return RejectionText(map, resolution, order);
-  if (orders::IsMove(line)) return MoveText(resolution, order) + CutSupportsOf(resolution, order);
-  if (line.LinkedOrder != 0) return LinkedText(resolution, order);
-  return HoldText(resolution, order);
+  if (orders::IsMove(line)) return MoveText(resolution, order);
+  return line.LinkedOrder != 0 ? LinkedText(resolution, order) : HoldText(resolution, order);
 }
 
 std::string DislodgedText(const Resolution& resolution, int order) {
@@ -184,14 +187,14 @@ std::string DislodgedText(const Resolution& resolution, int order) {
   const Reason& attack = resolution.Reasons[m];
   return "; it was dislodged by " + Quoted(resolution.Orders[m]) + ", strength " +
          Strength(resolution.Orders, attack.Strength, attack.Behind) + " against " +
-         Strength(resolution.Orders, attack.Against, attack.BehindOpponent) +
-         CutSupportsOf(resolution, order);
+         Strength(resolution.Orders, attack.Against, attack.BehindOpponent);
 }
 
 }  // namespace
 
 std::string ExplainMove(const model::GameState& after, const Resolution& resolution, int order) {
-  return OwnText(*after.Map, resolution, order) + DislodgedText(resolution, order) + ".";
+  return OwnText(*after.Map, resolution, order) + DislodgedText(resolution, order) +
+         CutSupportsOf(resolution, order) + ".";
 }
 
 }  // namespace orb::adjudication
