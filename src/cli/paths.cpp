@@ -68,16 +68,18 @@ void CheckOverlaps(const std::vector<GamePaths>& plan) {
   FileNames names;
   std::set<std::string> written;
   std::set<std::string> read;
+  const auto add = [&](const fs::path& path, std::string name) {
+    if (written.insert(std::move(name)).second) return;
+    throw UsageError(path.string() + " would be written twice.");
+  };
   for (const GamePaths& paths : plan) {
+    if (paths.Output.empty()) continue;
     const std::string game = names.Of(paths.Game);
-    for (const fs::path& path : {paths.Output, paths.Report, paths.Reasons}) {
-      if (path.empty()) continue;
-      std::string name = names.Of(path);
-      if (!written.insert(std::move(name)).second) {
-        throw UsageError(path.string() + " would be written twice.");
-      }
-    }
-    if (paths.Output.empty() || names.Of(paths.Output) != game) read.insert(game);
+    std::string output = paths.Output == paths.Game ? game : names.Of(paths.Output);
+    if (output != game) read.insert(game);
+    add(paths.Output, std::move(output));
+    if (!paths.Report.empty()) add(paths.Report, names.Of(paths.Report));
+    if (!paths.Reasons.empty()) add(paths.Reasons, names.Of(paths.Reasons));
     if (!paths.Orders.empty()) read.insert(names.Of(paths.Orders));
   }
   for (const std::string& name : read) {
