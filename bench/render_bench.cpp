@@ -45,7 +45,7 @@ void DrawMap(benchmark::State& state, render::MapMode mode) {
   QImage image = render::MapImage(game, options, DataDirectory, width, pictures);
   const QSizeF twips =
       render::NaturalSize(pictures.Picture(render::BackgroundFile(DataDirectory, mode)));
-  for (auto step : state) {
+  while (state.KeepRunning()) {
     QPainter painter(&image);
     render::PainterSurface surface(painter, QRectF(image.rect()), twips, pictures);
     render::RenderMap(game, options, DataDirectory, surface);

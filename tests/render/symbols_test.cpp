@@ -1,0 +1,139 @@
+#include "render/symbols.h"
+
+#include "render/recorder.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+#include <set>
+#include <string>
+
+namespace orb::tests {
+namespace {
+
+using render::MapMode;
+
+constexpr render::Point Middle = {0.5, 0.5};  // 5000,4000 on the recorder
+
+/// Everything drawn for a unit, as one text.
+std::string Looks(MapMode mode, int power, bool army) {
+  Recorder surface;
+  const model::CountryTable countries = model::FixedCountries();
+  (army ? render::DrawArmy : render::DrawFleet)(surface, {countries, mode}, Middle, power, 1);
+  std::string looks;
+  for (const Stroke& stroke : surface.Strokes) {
+    looks += stroke.Kind + stroke.Text + std::to_string(stroke.Fore) + "/" +
+             std::to_string(stroke.Filled ? stroke.Fill : 1) + " ";
+  }
+  return looks;
+}
+
+TEST(Symbols, PowersAndUnitTypesDifferInEveryMode) {
+  for (const MapMode mode :
+       {MapMode::Colour3D, MapMode::Colour, MapMode::Grey, MapMode::BlackWhite}) {
+    std::set<std::string> seen;
+    for (int power = 1; power <= model::CountryCount; ++power) {
+      seen.insert(Looks(mode, power, true));
+      seen.insert(Looks(mode, power, false));
+    }
+    EXPECT_EQ(seen.size(), 14U);
+  }
+}
+
+TEST(Symbols, NoColourInGreyAndNoGreyInBlackAndWhite) {
+  for (const MapMode mode : {MapMode::Grey, MapMode::BlackWhite}) {
+    for (int power = 1; power <= model::CountryCount; ++power) {
+      Recorder surface;
+      const model::CountryTable countries = model::FixedCountries();
+      render::DrawArmy(surface, {countries, mode}, Middle, power, 1);
+      render::DrawFleet(surface, {countries, mode}, Middle, power, 1);
+      for (const Stroke& stroke : surface.Strokes) {
+        for (const model::Colour colour : {stroke.Fore, stroke.Fill}) {
+          const unsigned red = colour & 0xFF;
+          EXPECT_EQ(colour, model::Rgb(red, red, red));
+          EXPECT_TRUE(mode == MapMode::Grey || red == 0 || red == 255);
+        }
+      }
+    }
+  }
+}
+
+TEST(Symbols, ArmyIsADiscWithShadedQuartersIn3D) {
+  const model::CountryTable countries = model::FixedCountries();
+  for (const double scale : {1.0, 0.75}) {
+    Recorder surface;
+    render::DrawArmy(surface, {countries, MapMode::Colour3D}, Middle, 5, scale);
+    const auto discs = surface.All("circle");
+    ASSERT_EQ(discs.size(), 1U);
+    EXPECT_DOUBLE_EQ(discs[0].Width, 115 * scale);
+    EXPECT_EQ(discs[0].Fill, countries[5].Colour);
+    const auto arcs = surface.All("arc");
+    ASSERT_EQ(arcs.size(), 4U);
+    std::set<model::Colour> shades;
+    for (std::size_t i = 0; i < 4; ++i) {
+      EXPECT_NEAR(arcs[i].Start, static_cast<double>(i) * std::numbers::pi / 2, 1e-9);
+      EXPECT_NEAR(arcs[i].End - arcs[i].Start, std::numbers::pi / 2, 1e-9);
+      EXPECT_LT(arcs[i].Width + arcs[i].Pen * 15 / 2, 115 * scale);
+      shades.insert(arcs[i].Fore);
+    }
+    EXPECT_EQ(shades, (std::set<model::Colour>{model::Rgb(64, 64, 64), model::Rgb(128, 128, 128),
+                                               model::Rgb(255, 255, 255)}));
+  }
+  EXPECT_EQ(Looks(MapMode::Colour, 5, true).find("arc"), std::string::npos);
+}
+
+TEST(Symbols, FleetIsShadedWithinItsOutlineIn3D) {
+  Recorder surface;
+  const model::CountryTable countries = model::FixedCountries();
+  render::DrawFleet(surface, {countries, MapMode::Colour3D}, Middle, 7, 1);
+  const auto hulls = surface.All("polygon");
+  ASSERT_EQ(hulls.size(), 1U);
+  EXPECT_EQ(hulls[0].Fill, countries[7].Colour);
+  const auto edges = surface.All("line");
+  ASSERT_EQ(edges.size(), hulls[0].Points.size());
+  // Every shaded edge runs along its side of the hull at the same small distance.
+  for (std::size_t i = 0; i < edges.size(); ++i) {
+    const render::Point a = hulls[0].Points[(i + edges.size() - 1) % edges.size()];
+    const render::Point b = hulls[0].Points[i];
+    for (const render::Point& p : edges[i].Points) {
+      const double distance = ((b.X - a.X) * (p.Y - a.Y) - (b.Y - a.Y) * (p.X - a.X)) /
+                              std::hypot(b.X - a.X, b.Y - a.Y);
+      EXPECT_NEAR(distance, 16, 1e-6);
+    }
+  }
+}
+
+TEST(Symbols, EachStandoffLineReachesNinetyTwips) {
+  Recorder surface;
+  render::DrawStandoffMarker(surface, Middle);
+  const auto lines = surface.All("line");
+  ASSERT_EQ(lines.size(), 8U);
+  EXPECT_EQ(At(lines[0].Points[0]), "4910,3910");
+  EXPECT_EQ(At(lines[0].Points[1]), "5090,4090");
+  for (const Stroke& line : lines) {
+    EXPECT_TRUE(line.Pen == 1 && line.Fore == 0);
+    for (const render::Point& end : line.Points) {
+      EXPECT_DOUBLE_EQ(std::max(std::abs(end.X - 5000), std::abs(end.Y - 4000)), 90);
+    }
+  }
+}
+
+TEST(Symbols, PensAreLeftAsTheMapWantsThem) {
+  const model::CountryTable countries = model::FixedCountries();
+  for (const MapMode mode :
+       {MapMode::Colour3D, MapMode::Colour, MapMode::Grey, MapMode::BlackWhite}) {
+    for (int power = 1; power <= model::CountryCount; ++power) {
+      Recorder surface;
+      render::DrawArmy(surface, {countries, mode}, Middle, power, 1);
+      render::DrawFleet(surface, {countries, mode}, Middle, power, 0.75);
+      render::DrawMoveLine(surface, Middle, {0, 0}, countries[power].Colour);
+      EXPECT_TRUE(surface.ForeColour == 0 && surface.FillColour == 0 && surface.DrawWidth == 1);
+      EXPECT_TRUE(surface.FillStyle == render::Fill::Solid && !surface.FontBold);
+      EXPECT_EQ(surface.FontSize, 8);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace orb::tests

@@ -1,0 +1,240 @@
+#include "render/qt/map_file.h"
+
+#include "model/errors.h"
+#include "model/files.h"
+#include "model/new_game.h"
+#include "support/directories.h"
+#include "support/situation.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace orb::tests {
+namespace {
+
+namespace fs = std::filesystem;
+using render::MapFormat;
+using render::MapMode;
+using render::MapOptions;
+using render::PictureCache;
+
+/// A background of one colour, 400 by 320 pixels at 192 dpi: 3000 by 2400 twips.
+std::string Background(QColor colour) {
+  QImage picture(400, 320, QImage::Format_RGB32);
+  picture.fill(colour);
+  picture.setDotsPerMeterX(7559);
+  picture.setDotsPerMeterY(7559);
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  picture.save(&buffer, "BMP");
+  return buffer.data().toStdString();
+}
+
+/// A directory with a background, and a map of one centre in it, in the middle of the right half.
+class MapFile : public ::testing::Test {
+ protected:
+  MapFile() {
+    directory_.Write("map.bmp", Background(Qt::white));
+    directory_.Write("mapbw.bmp", Background(Qt::white));
+    auto map = std::make_shared<model::Map>();
+    model::Province place;
+    place.Name = "Lon";
+    place.LabelX = 0.5F;
+    place.LabelY = 0.75F;
+    place.UnitX = 0.75F;
+    place.UnitY = 0.5F;
+    place.IsSupplyCentre = -1;
+    map->Provinces.Append(place);
+    map->Names.Insert(map->Provinces, 1);
+    game_ = model::EmptyGame(map);
+    game_.Stage = "moves";
+    model::Unit unit;
+    unit.Power = "ENG";
+    unit.UnitType = "A";
+    unit.Location = "Lon";
+    game_.Units.Append(unit);
+  }
+
+  QImage Image(int width, const MapOptions& options = {MapMode::Colour}) {
+    return render::MapImage(game_, options, directory_.Path(), width, pictures_);
+  }
+
+  std::string Saved(MapFormat format, int width = 0) {
+    const fs::path file = directory_.Path() / "picture";
+    render::SaveMap(game_, {MapMode::Colour}, directory_.Path(), width, pictures_, file, format);
+    return model::ReadFile(file);
+  }
+
+  QColor Fill() const {
+    const model::Colour colour = game_.Countries[1].Colour;
+    return {static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
+            static_cast<int>(colour >> 16 & 0xFF)};
+  }
+
+  TemporaryDirectory directory_;
+  model::GameState game_;
+  PictureCache pictures_;
+};
+
+/// How many pixels of an image have about this colour.
+int CountPixels(const QImage& image, QColor colour) {
+  int count = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      const QColor pixel = image.pixelColor(x, y);
+      const int difference =
+          std::max({std::abs(pixel.red() - colour.red()), std::abs(pixel.green() - colour.green()),
+                    std::abs(pixel.blue() - colour.blue())});
+      count += difference <= 3 ? 1 : 0;
+    }
+  }
+  return count;
+}
+
+TEST_F(MapFile, WidthScalesTheWholeDrawing) {
+  // The disc of 115 twips radius without its outline, at 15 twips a pixel of half the own width.
+  const double area = 3.14159 * (115 - 7.5) * (115 - 7.5) / (15 * 15);
+  for (const int width : {100, 200, 400, 1200}) {
+    const QImage image = Image(width);
+    EXPECT_EQ(image.size(), QSize(width, width * 4 / 5));
+    const double scale = width / 200.0;
+    EXPECT_NEAR(CountPixels(image, Fill()), area * scale * scale, 0.1 * area * scale * scale + 6);
+    EXPECT_EQ(image.pixelColor(width * 3 / 4, width * 2 / 5), Fill());
+    EXPECT_EQ(image.pixelColor(width * 9 / 10, width * 2 / 5), QColor(Qt::white));
+  }
+  EXPECT_EQ(Image(0).size(), QSize(400, 320));
+  EXPECT_EQ(Image(0), Image(400));
+}
+
+TEST_F(MapFile, TextStandsWhereItIsMeasured) {
+  game_.Units.SetCount(0);
+  game_.Title.clear();
+  game_.Season.clear();
+  const QImage image = Image(400);
+  // The label about (200, 240): its ink lies in the upper half of its line box and 50 wide.
+  int left = 400;
+  int right = 0;
+  for (int x = 100; x < 300; ++x) {
+    for (int y = 225; y < 249; ++y) {
+      if (image.pixelColor(x, y).lightness() > 100) continue;
+      left = std::min(left, x);
+      right = std::max(right, x);
+    }
+  }
+  EXPECT_NEAR((left + right) / 2.0, 200, 3);
+  EXPECT_GT(right - left, 25);
+  EXPECT_LT(right - left, 50);
+}
+
+TEST_F(MapFile, WidthsOutsideTheBoundsAreRefused) {
+  EXPECT_THROW(Image(-1), model::FileError);
+  EXPECT_THROW(Image(render::MaxPixelWidth + 1), model::FileError);
+}
+
+TEST_F(MapFile, AChangedBackgroundIsSeenAndAMissingOneNoticed) {
+  EXPECT_EQ(Image(400).pixelColor(390, 310), QColor(Qt::white));
+  EXPECT_EQ(Image(200).pixelColor(190, 150), QColor(Qt::white));
+  const fs::path file = directory_.Write("map.bmp", Background(Qt::cyan));
+  fs::last_write_time(file, fs::last_write_time(file) + std::chrono::seconds(2));
+  EXPECT_EQ(Image(200).pixelColor(190, 150), QColor(Qt::cyan));
+  EXPECT_EQ(Image(400).pixelColor(390, 310), QColor(Qt::cyan));
+  fs::remove(file);
+  EXPECT_THROW(Image(200), model::FileError);
+  directory_.Write("map.bmp", "BM and nothing more");
+  EXPECT_THROW(Image(200), model::FileError);
+  EXPECT_NO_THROW(Image(200, {MapMode::BlackWhite}));
+  EXPECT_THROW(Image(200, {MapMode::Grey}), model::FileError);
+}
+
+TEST_F(MapFile, BitmapIsUncompressedAndKeepsTheResolution) {
+  const std::string bytes = Saved(MapFormat::Bmp);
+  EXPECT_EQ(bytes.substr(0, 2), "BM");
+  EXPECT_EQ(bytes.substr(30, 4), std::string(4, '\0'));
+  EXPECT_GT(bytes.size(), 400U * 320 * 3);
+  const QImage image = QImage::fromData(QByteArray::fromStdString(bytes));
+  EXPECT_EQ(image.convertToFormat(QImage::Format_RGB32), Image(400));
+  EXPECT_NEAR(image.dotsPerMeterX(), 7559, 1);
+}
+
+TEST_F(MapFile, EveryFormatHoldsTheMap) {
+  const QImage png = QImage::fromData(QByteArray::fromStdString(Saved(MapFormat::Png, 300)), "PNG");
+  EXPECT_EQ(png.convertToFormat(QImage::Format_RGB32), Image(300));
+  const std::string svg = Saved(MapFormat::Svg, 800);
+  EXPECT_NE(svg.find("viewBox=\"0 0 800 640\""), std::string::npos);
+  EXPECT_NE(svg.find("<image "), std::string::npos);
+  EXPECT_NE(svg.find(">Lon<"), std::string::npos);
+  EXPECT_NE(svg.find(Fill().name().toStdString()), std::string::npos);
+  const std::string pdf = Saved(MapFormat::Pdf);
+  EXPECT_EQ(pdf.substr(0, 5), "%PDF-");
+  // 400 pixels at 192 dpi are 150 points; the drawing fills the page.
+  EXPECT_NE(pdf.find("/MediaBox [0 0 150.000000 120.000000]"), std::string::npos);
+}
+
+TEST_F(MapFile, AFailedSaveLeavesTheOldFile) {
+  const fs::path file = directory_.Write("old.png", "precious");
+  const auto entries = directory_.EntryCount();
+  game_.Units[1].Location = "Xyz";
+  for (const MapFormat format : {MapFormat::Bmp, MapFormat::Png, MapFormat::Svg, MapFormat::Pdf}) {
+    EXPECT_THROW(render::SaveMap(game_, {}, directory_.Path(), 0, pictures_, file, format),
+                 model::IndexOutOfRange);
+    EXPECT_EQ(model::ReadFile(file), "precious");
+  }
+  EXPECT_EQ(directory_.EntryCount(), entries);
+  game_.Units.SetCount(0);
+  EXPECT_THROW(render::SaveMap(game_, {}, directory_.Path(), 0, pictures_,
+                               directory_.Path() / "none" / "a.png", MapFormat::Png),
+               model::FileError);
+}
+
+TEST(RealMapPicture, UnitsOfTheStartStandInTheirColours) {
+  model::GameState game = model::EmptyGame(RealMap());
+  model::NewGame(game, DataDirectory());
+  PictureCache pictures;
+  for (const int width : {1000, 2000}) {
+    const QImage image =
+        render::MapImage(game, {MapMode::Colour}, DataDirectory(), width, pictures);
+    EXPECT_NEAR(image.height(), width / 1.2, 1);
+    for (const model::Unit& unit : game.Units) {
+      const auto& place = game.Map->Provinces[model::FindProvince(*game.Map, unit.Location)];
+      const model::Colour colour = game.Countries[model::FindCountry(unit.Power)].Colour;
+      const QPoint point(static_cast<int>(place.UnitX * static_cast<float>(image.width())),
+                         static_cast<int>(place.UnitY * static_cast<float>(image.height())));
+      // A ship's hull lies a little below its point.
+      const QPoint inside = point + QPoint(0, unit.UnitType == "F" ? width / 500 : 0);
+      EXPECT_EQ(image.pixelColor(inside),
+                QColor(static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
+                       static_cast<int>(colour >> 16 & 0xFF)))
+          << unit.Location << " at " << width;
+    }
+  }
+}
+
+TEST(RealMapPicture, HasNoColourInGreyAndBlackAndWhite) {
+  model::GameState game = model::EmptyGame(RealMap());
+  model::NewGame(game, DataDirectory());
+  PictureCache pictures;
+  for (const MapMode mode : {MapMode::Grey, MapMode::BlackWhite}) {
+    const QImage image =
+        render::MapImage(game, {mode, true, false, true}, DataDirectory(), 500, pictures);
+    EXPECT_TRUE(image.isGrayscale());
+  }
+}
+
+TEST(MapFormats, FollowTheExtension) {
+  EXPECT_EQ(render::FormatOf("a/b.bmp"), MapFormat::Bmp);
+  EXPECT_EQ(render::FormatOf("s01.PNG"), MapFormat::Png);
+  EXPECT_EQ(render::FormatOf("x.tar.Svg"), MapFormat::Svg);
+  EXPECT_EQ(render::FormatOf("x.pdf"), MapFormat::Pdf);
+  for (const char* other : {"x", "x.jpg", ".bmp", "png", "x.bmp.", ""}) {
+    EXPECT_FALSE(render::FormatOf(other).has_value()) << other;
+  }
+}
+
+}  // namespace
+}  // namespace orb::tests
