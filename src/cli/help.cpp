@@ -1,6 +1,7 @@
 #include "cli/help.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace orb::cli {
 namespace {
@@ -24,24 +25,35 @@ std::string Row(std::string_view name, std::string_view explanation) {
 }
 
 std::string OutputUsage(const Command& command) {
-  if (command.Takes == Games::None) return " -o GAME";
-  return Takes(command, OptionId::InPlace) ? " (-o PATH | --in-place)" : " -o PICTURE";
+  if (command.Takes == Games::None) return "-o GAME";
+  return Takes(command, OptionId::InPlace) ? "(-o PATH | --in-place)" : "-o PICTURE";
 }
 
+/// The form of the command line, broken before the column where a terminal ends.
 std::string Usage(const Command& command) {
-  std::string usage = "Usage: orbctl [--data DIR] ";
-  usage += command.Name;
+  std::vector<std::string> parts{"[--data DIR]", std::string(command.Name)};
   for (const Option& option : AllOptions()) {
     if (!Takes(command, option.Id)) continue;
     if (option.Id == OptionId::Output) {
-      usage += OutputUsage(command);
+      parts.push_back(OutputUsage(command));
     } else if (option.Id != OptionId::InPlace) {
-      usage += " [" + Spelled(option) + "]";
+      parts.push_back(std::string("[").append(Spelled(option)).append("]"));
     }
   }
-  if (command.Takes == Games::One) usage += " GAME";
-  if (command.Takes == Games::Several) usage += " GAME...";
-  return usage + "\n";
+  if (command.Takes == Games::One) parts.emplace_back("GAME");
+  if (command.Takes == Games::Several) parts.emplace_back("GAME...");
+  constexpr std::size_t width = 78;
+  std::string usage;
+  std::string line = "Usage: orbctl";
+  const std::size_t indent = line.size();
+  for (const std::string& part : parts) {
+    if (line.size() + 1 + part.size() > width) {
+      usage.append(line).append("\n");
+      line.assign(indent, ' ');
+    }
+    line.append(" ").append(part);
+  }
+  return usage + line + "\n";
 }
 
 template <class IsListed>
@@ -69,7 +81,7 @@ std::string ProgramHelp(std::span<const Command* const> commands) {
 
 std::string CommandHelp(const Command& command) {
   std::string help = Usage(command);
-  help.append("orbctl ").append(command.Name).append(" ").append(command.Summary).append(".\n");
+  help.append("It ").append(command.Summary).append(".\n");
   return help + "\nOptions:\n" +
          OptionRows([&](OptionId id) { return Takes(command, id) || IsCommonOption(id); });
 }

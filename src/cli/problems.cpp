@@ -27,7 +27,7 @@ class YesToEverything : public model::Messages {
   void Show(const std::string& /*text*/, model::Icon /*icon*/) override {}
 };
 
-/// What is wrong with an order of a later stage that was not understood; the first rule it breaks.
+/// The first rule of the text form that an order of a later stage breaks; empty for a correct one.
 std::string_view LaterStageFault(const model::Map& map, const OrderLine& order,
                                  ResolvedStage stage) {
   if (model::FindCountry(order.Power) == 0) return "the power is unknown";
@@ -37,7 +37,10 @@ std::string_view LaterStageFault(const model::Map& map, const OrderLine& order,
   if (order.UnitType != "A" && order.UnitType != "F") return "the unit is neither A nor F";
   if (model::FindProvince(map, order.Location) == 0) return "the unit's location is unknown";
   if (!verbKnown) return "the unit is told neither to retreat nor to disband";
-  return "the destination is unknown";
+  if (order.Kind == "RETREAT" && model::FindProvince(map, order.Target) == 0) {
+    return "the destination is unknown";
+  }
+  return {};
 }
 
 /// Explanations read "What happened: why."; before a resolution only the why is true.
@@ -51,8 +54,10 @@ std::string WhyOf(const std::string& sentence) {
 std::string RejectionText(const GameState& game, const Resolution& resolution, int k) {
   const OrderLine& order = resolution.Orders[k];
   const std::string& word = order.Result;
-  if (word == "syntax error" && resolution.Stage != ResolvedStage::Moves) {
-    return word + ": " + std::string(LaterStageFault(*game.Map, order, resolution.Stage));
+  if (resolution.Stage != ResolvedStage::Moves) {
+    // The adjustments' own checks look at such orders too and overwrite the word.
+    const auto fault = LaterStageFault(*game.Map, order, resolution.Stage);
+    if (!fault.empty()) return "syntax error: " + std::string(fault);
   }
   if (word == "clash") {
     return "clash with " + resolution.Orders[resolution.Reasons[k].Blocker].Text;

@@ -1,0 +1,83 @@
+#include "cli/desk.h"
+
+#include "cli/run.h"
+#include "model/files.h"
+#include "model/game_file.h"
+#include "model/text.h"
+#include "support/situation.h"
+
+#include <set>
+#include <sstream>
+
+namespace orb::tests {
+namespace {
+
+std::string Replaced(std::string text, std::string_view from, std::string_view to) {
+  for (std::size_t at = text.find(from); at != std::string::npos;
+       at = text.find(from, at + to.size())) {
+    text.replace(at, from.size(), to);
+  }
+  return text;
+}
+
+}  // namespace
+
+Outcome Desk::Run(std::string_view line) const {
+  std::vector<std::string> arguments;
+  std::istringstream words{std::string(line)};
+  for (std::string word; words >> word;)
+    arguments.push_back(word);
+  return Run(arguments);
+}
+
+Outcome Desk::Run(const std::vector<std::string>& arguments, bool errIsTerminal) const {
+  std::vector<std::string> expanded{"--data", DataDirectory().string()};
+  for (const std::string& argument : arguments)
+    expanded.push_back(Expanded(argument));
+  std::ostringstream out;
+  std::ostringstream err;
+  const int status = cli::Run(expanded, out, err, errIsTerminal);
+  return {status, Shortened(out.str()), Shortened(err.str())};
+}
+
+void Desk::MakeDirectory(std::string_view name) const {
+  std::filesystem::create_directory(directory_.Path() / name);
+}
+
+std::string Desk::Read(std::string_view name) const {
+  const std::filesystem::path file = directory_.Path() / name;
+  return std::filesystem::exists(file) ? model::ReadFile(file) : "none";
+}
+
+std::string Desk::Listing() const {
+  std::set<std::string> names;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(directory_.Path()))
+    names.insert(entry.path().lexically_relative(directory_.Path()).string());
+  std::string listing;
+  for (const std::string& name : names)
+    listing += name + " ";
+  return listing;
+}
+
+std::string Desk::Expanded(std::string text) const {
+  return Replaced(std::move(text), "@", directory_.Path().string() + "/");
+}
+
+std::string Desk::Shortened(std::string text) const {
+  return Replaced(std::move(text), directory_.Path().string() + "/", "@");
+}
+
+std::string GameFile(std::string_view season, std::string_view stage, std::string_view units,
+                     std::string_view owners) {
+  model::GameState game = EmptyBoard(season, stage);
+  while (!units.empty())
+    AddDrawnUnit(game, model::NextLine(units));
+  while (!owners.empty()) {
+    const std::vector<std::string> words = Words(model::NextLine(owners));
+    for (std::size_t i = 1; i < words.size(); ++i)
+      game.Provinces[model::FindProvince(*game.Map, words[i])].Owner = words[0];
+  }
+  return model::FormatGameFile(game);
+}
+
+}  // namespace orb::tests

@@ -1,0 +1,321 @@
+#include "cli/games.h"
+
+#include "cli/desk.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace orb::tests {
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+constexpr std::string_view TwoUnits = "FRA A(Par)\nGER A(Mun)\n";
+
+std::string TwoUnitGame() {
+  return GameFile("Spring", "moves", TwoUnits);
+}
+
+TEST(OrderLines, EndInLfOrCrLfAndBlankOnesAreSkipped) {
+  using Lines = std::vector<std::string>;
+  const std::vector<std::pair<std::string_view, Lines>> cases{
+      {"", {}},
+      {"\n\r\n \t\n\t \r\n", {}},
+      {"a\nb\r\nc", {"a", "b", "c"}},
+      {"  a  \n\tb\t\r\n", {"  a  ", "\tb\t"}},
+      {"a\rb\r\r\n", {"a\rb\r"}},
+      {"a\r", {"a\r"}},
+      {"a\n\na\n", {"a", "a"}},
+      {"\xe9\"\x01\n", {"\xe9\"\x01"}},
+  };
+  for (const auto& [text, lines] : cases)
+    EXPECT_EQ(cli::OrderLines(text), lines) << text;
+}
+
+TEST(New, WritesTheStartOrTheBlankBoard) {
+  const Desk desk;
+  EXPECT_EQ(desk.Run("new -o @a.orb").Status, 0);
+  EXPECT_THAT(desk.Read("a.orb"),
+              StartsWith("\"ORB v5.5\"\r\n\"CONCORDAT\",\"Spring\",1901,\"moves\"\r\n22\r\n"));
+  EXPECT_EQ(desk.Run("new --blank --title Caf\u00e9 -o @b.orb").Status, 0);
+  EXPECT_THAT(desk.Read("b.orb"),
+              StartsWith("\"ORB v5.5\"\r\n\"Caf\xe9\",\"Spring\",1901,\"moves\"\r\n0\r\n"));
+  EXPECT_EQ(desk.Listing(), "a.orb b.orb ");
+}
+
+TEST(Resolve, PrintsTheReportAsItStandsWithItsBlanks) {
+  const Desk desk;
+  desk.Write("a.orb", TwoUnitGame());
+  desk.Write("o.txt", "FRA A(Par) - Bur\r\n \t\r\n  GER A(Mun) - Bur \nGER A(M\xfcn) hold");
+  const Outcome outcome = desk.Run("resolve --yes --orders @o.txt -o @b.orb @a.orb");
+  EXPECT_EQ(outcome.Status, 0);
+  EXPECT_EQ(outcome.Out,
+            "[ FRA A(Par) - Bur ]  \n"
+            "[ GER A(Mun) - Bur ]  \n"
+            "[ GER A(M\xfcn) hold ]  syntax error\n");
+  EXPECT_EQ(outcome.Err, "@a.orb: Warning: GER A(M\xfcn) hold syntax error. Continue?\n");
+  EXPECT_THAT(desk.Read("b.orb"), HasSubstr(",1901,\"finished\"\r\n"));
+  EXPECT_EQ(desk.Read("a.orb"), TwoUnitGame());
+}
+
+TEST(Resolve, TakesTheStoredOrdersUnlessThereIsAnOrdersFile) {
+  const Desk desk;
+  std::string game = TwoUnitGame();
+  game.replace(game.find("\r\n0\r\n0\r\n"), 8,
+               "\r\n2\r\n\"FRA A(Par) - Pic\"\r\n\"GER A(Mun) - Boh\"\r\n0\r\n");
+  desk.Write("a.orb", game);
+  desk.Write("o.txt", "FRA A(Par) - Gas\nGER A(Mun) hold\n");
+  desk.MakeDirectory("orders");
+  EXPECT_EQ(desk.Run("resolve -o @b.orb @a.orb").Out,
+            "  FRA A(Par) - Pic  \n  GER A(Mun) - Boh  \n");
+  EXPECT_EQ(desk.Run("resolve --orders @o.txt -o @b.orb @a.orb").Out,
+            "  FRA A(Par) - Gas  \n  GER A(Mun) hold  \n");
+  EXPECT_EQ(desk.Run("resolve --yes --orders @orders -o @b.orb @a.orb").Out,
+            "  FRA A(Par) unordered; hold  \n  GER A(Mun) unordered; hold  \n");
+  const Outcome missing = desk.Run("resolve --yes --orders @none.txt -o @c.orb @a.orb");
+  EXPECT_EQ(missing.Status, 1);
+  EXPECT_THAT(missing.Err, StartsWith("@a.orb: Cannot read @none.txt: "));
+  EXPECT_EQ(desk.Read("c.orb"), "none");
+}
+
+TEST(Resolve, DirectoriesHoldAFileForEachGame) {
+  const Desk desk;
+  for (const char* name : {"in", "orders", "out", "reports", "why"})
+    desk.MakeDirectory(name);
+  desk.Write("in/x.y.dat", TwoUnitGame());
+  desk.Write("in/z", GameFile("Autumn", "retreats", "FRA A(Bur) <Mun\nGER A(Par)"));
+  desk.Write("orders/x.y.txt", "FRA A(Par) - Bur\nGER A(Mun) hold\n");
+  desk.Write("orders/z.txt", "FRA A(Bur) RETREAT Gas\n");
+  const Outcome outcome = desk.Run(
+      "resolve --orders @orders --report @reports --reasons @why -o @out @in/x.y.dat @in/z");
+  EXPECT_EQ(outcome.Status, 0);
+  EXPECT_EQ(outcome.Out + outcome.Err, "");
+  EXPECT_EQ(desk.Listing(),
+            "in in/x.y.dat in/z orders orders/x.y.txt orders/z.txt out out/x.y.orb out/z.orb "
+            "reports reports/x.y.txt reports/z.txt why why/x.y.txt why/z.txt ");
+  EXPECT_EQ(desk.Read("reports/x.y.txt"), "  FRA A(Par) - Bur  \n  GER A(Mun) hold  \n");
+  EXPECT_EQ(desk.Read("reports/z.txt"), "FRA A(Bur) !  retreat Gas\n");
+  EXPECT_EQ(desk.Read("why/z.txt"), "It retreated: Gas was free.\n");
+  const std::string reasons = desk.Read("why/x.y.txt");
+  EXPECT_EQ(std::count(reasons.begin(), reasons.end(), '\n'), 2);
+}
+
+TEST(Resolve, SeveralGamesOnStandardOutputHaveHeadings) {
+  const Desk desk;
+  desk.Write("a.orb", GameFile("Spring", "moves", "FRA A(Par)"));
+  desk.Write("b.orb", GameFile("Spring", "moves", "GER A(Mun)"));
+  EXPECT_EQ(desk.Run("resolve --yes --in-place @a.orb @b.orb").Out,
+            "== @a.orb\n  FRA A(Par) unordered; hold  \n"
+            "== @b.orb\n  GER A(Mun) unordered; hold  \n");
+}
+
+TEST(Resolve, QuestionsAreAnsweredNoUnlessToldYes) {
+  struct Case {
+    std::string Game;
+    std::string Orders;
+    std::string NoErr;
+    int YesStatus;
+    std::string YesErr;
+  };
+  const std::string one = "@a.orb: Warning: FRA A(Par) unordered. Continue?\n";
+  const std::vector<Case> cases{
+      {TwoUnitGame(), "", one, 0, one},
+      {TwoUnitGame(), "FRA A(Par) - Lon\nGER A(Mun) hold",
+       "@a.orb: Warning: FRA A(Par) - Lon impossible move. Continue?\n", 0,
+       "@a.orb: Warning: FRA A(Par) - Lon impossible move. Continue?\n"},
+      {GameFile("Spring", "retreats", "FRA A(Bur) <Mun"), "",
+       "@a.orb: Warning: FRA A(Bur) unordered. Continue?\n", 0,
+       "@a.orb: Warning: FRA A(Bur) unordered. Continue?\n"},
+      {GameFile("Autumn", "adjustments", "FRA A(Bur)\nFRA A(Par)", "FRA Par"), "",
+       "@a.orb: Error: FRA too many units.\n", 1, "@a.orb: Error: FRA too many units.\n"},
+      {GameFile("Autumn", "adjustments", "", "FRA Par Mar"), "FRA BUILD A(Par)\nFRA X",
+       "@a.orb: Warning: FRA X syntax error. Continue?\n", 0,
+       "@a.orb: Warning: FRA X syntax error. Continue?\n"
+       "@a.orb: Warning: FRA X no such unit. Continue?\n"
+       "@a.orb: Warning: FRA not enough units. Continue?\n"},
+  };
+  for (const Case& c : cases) {
+    const Desk desk;
+    desk.Write("a.orb", c.Game);
+    desk.Write("o.txt", c.Orders);
+    const Outcome no = desk.Run("resolve --orders @o.txt --report @r.txt -o @b.orb @a.orb");
+    EXPECT_EQ(no.Status, 1);
+    EXPECT_EQ(no.Err, c.NoErr);
+    EXPECT_EQ(no.Out, "");
+    EXPECT_EQ(desk.Listing(), "a.orb o.txt ");
+    const Outcome yes = desk.Run("resolve --yes --orders @o.txt --in-place @a.orb");
+    EXPECT_EQ(yes.Status, c.YesStatus) << c.Orders;
+    EXPECT_THAT(yes.Err, StartsWith(c.YesErr));
+    EXPECT_EQ(desk.Read("a.orb") == c.Game, c.YesStatus != 0) << c.Orders;
+  }
+}
+
+TEST(Games, ThatCannotBeReadAreRefusedAndTheOthersDone) {
+  const Desk desk;
+  const std::string good = TwoUnitGame();
+  std::string rubbish;
+  for (int i = 0; i < 5000; ++i)
+    rubbish += static_cast<char>(i * 7919 >> 3);
+  desk.MakeDirectory("out");
+  desk.MakeDirectory("folder.orb");
+  desk.Write("first.orb", good);
+  desk.Write("empty.orb", "");
+  desk.Write("rubbish.orb", rubbish);
+  desk.Write("cut.orb", good.substr(0, good.size() / 2));
+  std::string unknown = good;
+  desk.Write("unknown.orb", unknown.replace(unknown.find("\"Cly\""), 5, "\"Q\rx\""));
+  std::string nowhere = good;
+  desk.Write("nowhere.orb", nowhere.replace(nowhere.find("\"Cly\""), 5, "\"Atl\""));
+  std::string units = good;
+  desk.Write("units.orb", units.replace(units.find("\r\n2\r\n"), 5, "\r\n41\r\n"));
+  desk.Write("last.orb", good);
+  const Outcome outcome = desk.Run(
+      "resolve --yes -o @out @first.orb @empty.orb @rubbish.orb @cut.orb @unknown.orb "
+      "@nowhere.orb @units.orb @missing.orb @folder.orb @last.orb");
+  EXPECT_EQ(outcome.Status, 1);
+  EXPECT_EQ(desk.Listing().substr(desk.Listing().find("out")),
+            "out out/first.orb out/last.orb rubbish.orb units.orb unknown.orb ");
+  for (const char* name :
+       {"empty", "rubbish", "cut", "unknown", "nowhere", "units", "missing", "folder"}) {
+    EXPECT_THAT(outcome.Err, HasSubstr(std::string("@").append(name).append(".orb: "))) << name;
+    EXPECT_THAT(outcome.Out, Not(HasSubstr(name)));
+  }
+  EXPECT_THAT(outcome.Err, HasSubstr("\n@nowhere.orb: Unknown province: Atl\n"));
+  EXPECT_THAT(outcome.Out, HasSubstr("== @last.orb\n"));
+}
+
+TEST(Games, AreReplacedWholeOrNotAtAll) {
+  const Desk desk;
+  desk.Write("a.orb", TwoUnitGame());
+  desk.MakeDirectory("folder");
+  const std::vector<std::string_view> lines{
+      "resolve --yes -o @none/b.orb @a.orb",
+      "resolve --yes --in-place --report @none/r.txt @a.orb",
+      "resolve --yes --in-place --reasons @none/r.txt @a.orb",
+      "resolve --yes -o @none/b.orb --report @r.txt @none.orb",
+      "new -o @none/b.orb",
+      "map -o @none/b.png @a.orb",
+  };
+  for (const std::string_view line : lines) {
+    const Outcome outcome = desk.Run(line);
+    EXPECT_EQ(outcome.Status, 1) << line;
+    EXPECT_EQ(outcome.Out, "") << line;
+    EXPECT_THAT(outcome.Err, HasSubstr("none")) << line;
+    EXPECT_EQ(desk.Listing(), "a.orb folder ") << line;
+    EXPECT_EQ(desk.Read("a.orb"), TwoUnitGame()) << line;
+  }
+}
+
+TEST(Games, NamedAgainBehindOutputAreReplacedInPlace) {
+  const Desk desk;
+  desk.Write("a.orb", TwoUnitGame());
+  const Outcome byName = desk.Run("resolve --yes -o @a.orb @a.orb");
+  EXPECT_EQ(byName.Status, 0) << byName.Err;
+  EXPECT_THAT(desk.Read("a.orb"), HasSubstr("\"finished\""));
+  EXPECT_EQ(desk.Run({"undo", "-o", "@", "@a.orb"}).Status, 0);
+  EXPECT_THAT(desk.Read("a.orb"), HasSubstr("\"moves\""));
+  EXPECT_EQ(desk.Listing(), "a.orb ");
+  std::filesystem::create_symlink("a.orb", desk.Directory().Path() / "link.orb");
+  EXPECT_EQ(desk.Run("resolve --yes --in-place @link.orb").Status, 0);
+  EXPECT_THAT(desk.Read("a.orb"), HasSubstr("\"finished\""));
+  EXPECT_TRUE(std::filesystem::is_symlink(desk.Directory().Path() / "link.orb"));
+  EXPECT_EQ(desk.Run("undo --in-place @link.orb @a.orb").Status, 2);
+}
+
+TEST(Seasons, CommandsRefuseTheWrongStage) {
+  struct Case {
+    std::string Command;
+    std::string Season;
+    std::string Stage;
+    std::string Err;
+  };
+  const std::vector<Case> cases{
+      {"resolve --yes", "Spring", "finished",
+       "There is nothing to resolve in the stage \"finished\"."},
+      {"next", "Spring", "moves",
+       "The season is not finished: the game is in the stage \"moves\"."},
+      {"next", "Autumn", "retreats",
+       "The season is not finished: the game is in the stage \"retreats\"."},
+      {"undo --yes", "Spring", "moves",
+       "There is nothing to take back: the season is at its start."},
+      {"undo --yes", "Autumn", "finished",
+       "Original supply centre ownerships unknown; can't undo."},
+      {"undo", "Spring", "retreats", "2 units do not have original locations recorded. Continue?"},
+      {"check", "Spring", "finished", "There are no orders to check in the stage \"finished\"."},
+  };
+  for (const Case& c : cases) {
+    const Desk desk;
+    const std::string game = GameFile(c.Season, c.Stage, TwoUnits);
+    desk.Write("a.orb", game);
+    const std::string output = c.Command == "check" ? "" : " --in-place";
+    const Outcome outcome = desk.Run(c.Command + output + " @a.orb");
+    EXPECT_EQ(outcome.Status, 1) << c.Command;
+    EXPECT_EQ(outcome.Out, "");
+    EXPECT_EQ(outcome.Err, "@a.orb: " + c.Err + "\n");
+    EXPECT_EQ(desk.Read("a.orb"), game);
+  }
+}
+
+TEST(Seasons, UndoTakesBackWhatResolveDidAndNextGoesOn) {
+  const Desk desk;
+  desk.Run("new -o @a.orb");
+  desk.Write("o.txt", "ENG F(Lon) - NTH\nFRA A(Par) - Bur\n");
+  EXPECT_EQ(desk.Run("resolve --yes --orders @o.txt -o @b.orb @a.orb").Status, 0);
+  EXPECT_EQ(desk.Run("undo -o @c.orb @b.orb").Status, 0);
+  EXPECT_THAT(desk.Read("c.orb"), HasSubstr("\"ENG\",\"F\",\"Lon\",\"\",\"\",\"\"\r\n"));
+  EXPECT_EQ(desk.Run("next -o @d.orb @b.orb").Status, 0);
+  EXPECT_THAT(desk.Read("d.orb"), HasSubstr("\"Autumn\",1901,\"moves\"\r\n"));
+  EXPECT_THAT(desk.Read("d.orb"), HasSubstr("\"ENG\",\"F\",\"NTH\",\"\",\"\",\"Lon\"\r\n"));
+}
+
+TEST(Progress, IsShownForLongRunsOnATerminalAndClearedAtTheEnd) {
+  const Desk desk;
+  desk.MakeDirectory("out");
+  std::vector<std::string> arguments{"resolve", "--report", "@out", "-o", "@out"};
+  for (int i = 0; i < 60; ++i) {
+    const std::string name = std::to_string(i).append(".orb");
+    desk.Write(name, GameFile("Spring", "moves", i == 30 ? "FRA A(Par)" : ""));
+    arguments.push_back(std::string("@").append(name));
+  }
+  const Outcome shown = desk.Run(arguments, true);
+  EXPECT_THAT(shown.Err, StartsWith("\r1 of 60 games\r2 of 60"));
+  EXPECT_THAT(shown.Err, HasSubstr("\r              \r@30.orb: Warning: "));
+  EXPECT_THAT(shown.Err, EndsWith("\r60 of 60 games\r              \r"));
+  EXPECT_EQ(desk.Run(arguments, false).Err, "@30.orb: Warning: FRA A(Par) unordered. Continue?\n");
+}
+
+TEST(Show, PrintsTheReportOfEachGame) {
+  const Desk desk;
+  desk.Write("a.orb", TwoUnitGame());
+  const Outcome one = desk.Run("show @a.orb");
+  EXPECT_EQ(one.Status, 0);
+  EXPECT_THAT(one.Out, StartsWith("CONCORDAT\n=========\nSpring 1901, moves\n"));
+  const Outcome two = desk.Run("show @a.orb @none.orb @a.orb");
+  EXPECT_EQ(two.Status, 1);
+  EXPECT_EQ(two.Out, "== @a.orb\n" + one.Out + "== @a.orb\n" + one.Out);
+}
+
+TEST(Map, IsDrawnInTheFormatOfItsExtension) {
+  const Desk desk;
+  desk.Write("a.orb", TwoUnitGame());
+  const std::vector<std::pair<std::string, std::string>> cases{
+      {"m.png", "\x89PNG"}, {"m.BMP", "BM"}, {"m.svg", "<?xml"}, {"m.pdf", "%PDF"}};
+  for (const auto& [name, start] : cases) {
+    const Outcome outcome =
+        desk.Run("map --mode grey --centre-count --borders --centre-owners --width 400 -o @" +
+                 name + " @a.orb");
+    EXPECT_EQ(outcome.Status, 0) << outcome.Err;
+    EXPECT_EQ(outcome.Err + outcome.Out, "");
+    EXPECT_THAT(desk.Read(name), StartsWith(start));
+  }
+  // A bitmap has its width in bytes 18 and 19.
+  EXPECT_EQ(desk.Read("m.BMP").substr(18, 2), "\x90\x01");
+}
+
+}  // namespace
+}  // namespace orb::tests
