@@ -27,7 +27,7 @@ namespace {
 
 constexpr int Margin = 10;
 constexpr int Gap = 12;
-constexpr int ColumnWidth = 370;
+constexpr int ColumnWidth = 345;
 constexpr QSize PreferredSize(1280, 800);
 
 }  // namespace
@@ -61,12 +61,13 @@ void MainWindow::layOutPanels() {
   panels->setSpacing(Gap);
   for (QWidget* panel : {static_cast<QWidget*>(m_orders), static_cast<QWidget*>(m_retreats),
                          static_cast<QWidget*>(m_adjustments)}) {
-    panels->addWidget(panel, 1);
+    panels->addWidget(panel, 2);
   }
   panels->addWidget(m_seasonFinished);
-  panels->addWidget(m_report, 1);
+  panels->addWidget(m_report, 3);
   panels->addStretch();
-  column->setMinimumWidth(ColumnWidth);
+  // As wide as it likes to be; on a small screen it gives way.
+  panels->addItem(new QSpacerItem(ColumnWidth, 0, QSizePolicy::Preferred));
 
   auto* desk = new QWidget;
   auto* sides = new QHBoxLayout(desk);
@@ -88,6 +89,7 @@ void MainWindow::createStatusBar() {
   m_fileName = new ElidedLabel;
   m_fileName->setObjectName(QStringLiteral("lblFileName"));
   m_fileName->setTextFormat(Qt::PlainText);
+  statusBar()->setSizeGripEnabled(false);
   statusBar()->addWidget(m_fileName, 1);
 }
 
@@ -102,6 +104,7 @@ void MainWindow::fitToScreen() {
 void MainWindow::showGame() {
   setWindowTitle(render::ToQString(model::Caption(m_desk.game())));
   m_fileName->setText(displayPath(m_desk.game().FileName));
+  statusBar()->setVisible(!m_fileName->text().isEmpty());
   if (m_desk.game().Stage != m_shownStage) showStagePanel();
 }
 

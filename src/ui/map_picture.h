@@ -18,8 +18,8 @@ class MapPicture : public QWidget {
   /// Draws a situation whole. Throws FatalError, the picture shown so far kept.
   void draw(const Situation& situation);
 
-  QSize sizeHint() const override { return {900, 750}; }
-  QSize minimumSizeHint() const override { return {300, 250}; }
+  QSize sizeHint() const override { return {300, 250}; }
+  QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   void paintEvent(QPaintEvent* event) override;

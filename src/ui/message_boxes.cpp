@@ -29,6 +29,9 @@ void setUp(QMessageBox& box, const std::string& text, QMessageBox::Icon icon,
   box.setText(displayText(text));
   box.setIcon(icon);
   box.setStandardButtons(buttons);
+  // Not every button has an icon of its own; either all or none.
+  for (QAbstractButton* button : box.buttons())
+    button->setIcon({});
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
   m_lines->setAccessibleName(tr("Report"));
   m_lines->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   m_lines->setSelectionMode(QAbstractItemView::ExtendedSelection);
-  m_lines->setUniformItemSizes(true);
+  m_lines->setWordWrap(true);
   m_reason->setObjectName(QStringLiteral("lblReason"));
   m_reason->setWordWrap(true);
   m_reason->setTextFormat(Qt::PlainText);
@@ -93,10 +93,11 @@ void ReportPanel::colourLines() {
 }
 
 void ReportPanel::showReason() {
-  const auto selected = m_lines->selectionModel()->selectedRows();
-  m_reason->setEnabled(!selected.isEmpty());
+  const QListWidgetItem* current = m_lines->currentItem();
+  const bool chosen = current != nullptr && current->isSelected();
+  m_reason->setEnabled(chosen);
   m_reason->setText(tr("Select a line to read why it came out so."));
-  if (selected.isEmpty()) return;
+  if (!chosen) return;
   const auto row = static_cast<std::size_t>(m_lines->currentRow());
   m_reason->setText(render::ToQString(m_desk.now().reportNotes.at(row).reason));
 }

@@ -1,0 +1,28 @@
+#include <QApplication>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace orb::tests {
+namespace {
+
+/// The one application that all tests of the window share, without a screen.
+class OffscreenApplication : public testing::Environment {
+ public:
+  void SetUp() override {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    application_ = std::make_unique<QApplication>(count_, arguments_);
+  }
+  void TearDown() override { application_.reset(); }
+
+ private:
+  int count_ = 1;
+  char name_[5] = "test";
+  char* arguments_[2] = {name_, nullptr};
+  std::unique_ptr<QApplication> application_;
+};
+
+const auto* const Registered = testing::AddGlobalTestEnvironment(new OffscreenApplication);
+
+}  // namespace
+}  // namespace orb::tests

@@ -1,0 +1,135 @@
+#include "ui/desk.h"
+
+#include "model/errors.h"
+#include "support/directories.h"
+#include "support/scripted_messages.h"
+#include "support/situation.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+namespace orb::tests {
+namespace {
+
+using model::Answer;
+using model::GameState;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+constexpr auto Orders = &GameState::OrdersList;
+
+class DeskTest : public testing::Test {
+ protected:
+  ScriptedMessages messages_;
+  TemporaryDirectory directory_;
+  ui::Desk desk_{ui::startSituation(DataDirectory(), {}, messages_), DataDirectory(), messages_,
+                 nullptr};
+};
+
+TEST_F(DeskTest, ACommandThatFailsLeavesEverythingAndSaysWhy) {
+  desk_.fileOrder(Orders, "ENG A(Lvp) - Yor");
+  const auto broken = directory_.Write("broken.orb", "\"ORB v5.5\"\r\n\"X\",\"Spring\",1901");
+  const std::string before = Describe(desk_.game());
+
+  desk_.openGame(directory_.Path() / "missing.orb", true);
+  desk_.openGame(broken, true);
+  desk_.saveGameAs(directory_.Path() / "no" / "directory.orb");
+
+  EXPECT_EQ(Describe(desk_.game()), before);
+  EXPECT_FALSE(desk_.now().readOnly);
+  ASSERT_EQ(messages_.Shown.size(), 3U);
+  EXPECT_THAT(messages_.Shown[0].first, HasSubstr("missing.orb"));
+  EXPECT_THAT(messages_.Shown[1].first, HasSubstr("broken.orb"));
+  EXPECT_THAT(messages_.Shown[2].first, HasSubstr("directory.orb"));
+  for (const auto& [text, icon] : messages_.Shown)
+    EXPECT_EQ(icon, model::Icon::Stop);
+}
+
+TEST_F(DeskTest, ASituationThatCannotBeDrawnIsNotTakenOver) {
+  desk_.setDrawing([](const ui::Situation& next) {
+    if (next.mapOptions.Mode == render::MapMode::Grey) throw model::FileError("no mapgrey.bmp");
+  });
+  desk_.setMapOptions({.Mode = render::MapMode::Grey});
+  EXPECT_EQ(desk_.now().mapOptions.Mode, render::MapMode::Colour3D);
+  EXPECT_THAT(messages_.Shown, ElementsAre(testing::Pair("no mapgrey.bmp", model::Icon::Stop)));
+}
+
+TEST_F(DeskTest, NoAtAQuestionChangesNothing) {
+  ScriptedMessages no({Answer::No});
+  ui::Desk desk(desk_.now(), DataDirectory(), no, nullptr);
+  desk.fileOrder(Orders, "ENG A(Lvp) - Yor");
+  const std::string before = Describe(desk.game());
+  desk.resolve();
+  EXPECT_EQ(Describe(desk.game()), before);
+  EXPECT_EQ(no.Questions.size(), 1U);
+  EXPECT_THAT(desk.now().reportNotes, IsEmpty());
+}
+
+TEST_F(DeskTest, NotesTellOfEveryLineOfTheReportThroughTheYear) {
+  desk_.nextSeason();
+  for (const char* order : {"AUS A(Vie) - Tyr", "ENG F(Lon) - ECH", "FRA F(Bre) - ECH"})
+    desk_.fileOrder(Orders, order);
+  desk_.resolve();
+  const auto& notes = desk_.now().reportNotes;
+  ASSERT_EQ(notes.size(), 22U);
+  EXPECT_FALSE(notes[0].failed);
+  EXPECT_TRUE(notes[1].failed);
+  EXPECT_TRUE(notes[2].failed);
+  const std::string whyBounced = notes[1].reason;
+  EXPECT_THAT(whyBounced, HasSubstr("FRA F(Bre)"));
+
+  ASSERT_EQ(desk_.game().Stage, "adjustments");
+  desk_.fileOrder(&GameState::AdjustmentsList, "AUS build A(Vie)");
+  desk_.resolve();
+  EXPECT_EQ(desk_.game().Stage, "adjustments") << "one unit too many";
+  desk_.deleteOrder(&GameState::AdjustmentsList, 0);
+  desk_.fileOrder(&GameState::AdjustmentsList, "AUS disband A(Boh)");
+  desk_.resolve();
+  ASSERT_EQ(desk_.game().Stage, "finished");
+  const auto& later = desk_.now().reportNotes;
+  ASSERT_EQ(later.size(), 24U);
+  EXPECT_EQ(later[1].reason, whyBounced);
+  EXPECT_TRUE(later[1].failed);
+  EXPECT_TRUE(later[23].failed);
+  EXPECT_THAT(later[23].reason, Not(IsEmpty()));
+
+  desk_.nextSeason();
+  EXPECT_THAT(desk_.now().reportNotes, IsEmpty());
+}
+
+TEST_F(DeskTest, ASavedGameIsTheSameWhenOpened) {
+  desk_.fileOrder(Orders, "ENG A(Lvp) - Yor");
+  const auto file = directory_.Path() / "game.orb";
+  desk_.saveGameAs(file);
+  const std::string saved = Describe(desk_.game());
+  desk_.newGame();
+  EXPECT_NE(Describe(desk_.game()), saved);
+  desk_.openGame(file, true);
+  EXPECT_EQ(Describe(desk_.game()), saved);
+  EXPECT_TRUE(desk_.now().readOnly);
+
+  const ui::Situation start =
+      ui::startSituation(DataDirectory(), directory_.Path() / "GAME.orb", messages_);
+  EXPECT_EQ(Describe(start.game), saved) << "a name on the command line may be in any case";
+  EXPECT_THAT(messages_.Shown, IsEmpty());
+}
+
+TEST_F(DeskTest, AnUnknownProvinceLeavesTheStartingPosition) {
+  const std::string start = Describe(desk_.game());
+  desk_.fileOrder(Orders, "ENG A(Lvp) - Yor");
+  desk_.openGame(directory_.Write("old.orb",
+                                  "\"ORB v5.5\"\r\n\"X\",\"Spring\",1901,\"moves\"\r\n"
+                                  "0\r\n1\r\n\"Xyz\",\"\",-1,\"\"\r\n"),
+                 false);
+  EXPECT_EQ(Describe(desk_.game()), start);
+  EXPECT_THAT(messages_.Shown,
+              ElementsAre(testing::Pair("Unknown province: Xyz", model::Icon::Exclamation)));
+}
+
+}  // namespace
+}  // namespace orb::tests

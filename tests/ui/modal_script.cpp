@@ -1,0 +1,102 @@
+#include "ui/modal_script.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+namespace orb::tests {
+namespace {
+
+/// Where the keyboard goes to. Without a window manager nobody hands the focus back to the window
+/// when a dialog has closed.
+QWidget* FocusWidget() {
+  if (QApplication::focusWidget() == nullptr) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (!window->isVisible()) continue;
+      window->activateWindow();
+      if (!QTest::qWaitForWindowActive(window)) ADD_FAILURE() << "the window is not active";
+    }
+  }
+  QWidget* widget = QApplication::focusWidget();
+  if (widget == nullptr) throw std::runtime_error("nothing has the focus");
+  return widget;
+}
+
+}  // namespace
+
+ModalScript::ModalScript(std::deque<Step> steps) : steps_(std::move(steps)) {
+  QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { HandleDialog(); });
+  timer_.start(1);
+}
+
+ModalScript::~ModalScript() {
+  EXPECT_EQ(steps_.size(), 0U) << "dialogs that did not come up";
+}
+
+void ModalScript::HandleDialog() {
+  auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  if (dialog == nullptr || !dialog->isActiveWindow() || dialog->property("handled").toBool())
+    return;
+  dialog->setProperty("handled", true);
+  if (steps_.empty()) {
+    const auto* box = qobject_cast<QMessageBox*>(dialog);
+    ADD_FAILURE() << "unexpected dialog: "
+                  << (box != nullptr ? box->text() : dialog->windowTitle()).toStdString();
+    return dialog->reject();
+  }
+  const Step step = std::move(steps_.front());
+  steps_.pop_front();
+  step(*dialog);
+}
+
+void Press(int key, Qt::KeyboardModifiers modifiers) {
+  QWidget* target = FocusWidget();
+  const auto buttons = target->window()->findChildren<QAbstractButton*>();
+  QTest::keyClick(target, static_cast<Qt::Key>(key), modifiers);
+  // A button pressed by its mnemonic is seen to go down before it acts.
+  EXPECT_TRUE(QTest::qWaitFor([&] {
+    return std::none_of(buttons.begin(), buttons.end(),
+                        [](auto* button) { return button->isDown(); });
+  }));
+}
+
+void Type(const QString& text) {
+  QWidget* target = FocusWidget();
+  for (const QChar character : text) {
+    QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, character);
+    QApplication::sendEvent(target, &press);
+  }
+}
+
+ModalScript::Step Answered(const QString& text, int key, Qt::KeyboardModifiers modifiers) {
+  return [=](QDialog& dialog) {
+    const auto* box = qobject_cast<QMessageBox*>(&dialog);
+    EXPECT_EQ(box != nullptr ? box->text().toStdString() : "no message box", text.toStdString());
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("ORB v5.5"));
+    QTest::keyClick(&dialog, static_cast<Qt::Key>(key), modifiers);
+    if (!QTest::qWaitFor([&] { return !dialog.isVisible(); }, 1000)) {
+      ADD_FAILURE() << "the key does not answer the box";
+      dialog.reject();
+    }
+  };
+}
+
+ModalScript::Step FileChosen(const QString& path) {
+  return [path](QDialog& dialog) {
+    auto* name = dialog.findChild<QLineEdit*>();
+    ASSERT_NE(name, nullptr);
+    name->setText(path);
+    QTest::keyClick(name, Qt::Key_Return);
+    dialog.setProperty("handled", false);
+  };
+}
+
+}  // namespace orb::tests

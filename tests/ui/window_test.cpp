@@ -1,0 +1,313 @@
+#include "model/errors.h"
+#include "model/game_file.h"
+#include "support/directories.h"
+#include "support/scripted_messages.h"
+#include "support/situation.h"
+#include "ui/main_window.h"
+#include "ui/modal_script.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QTest>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace orb::tests {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class WindowTest : public testing::Test {
+ protected:
+  void SetUp() override { Open(DataDirectory()); }
+
+  void Open(const std::filesystem::path& dataDirectory, const std::filesystem::path& game = {}) {
+    ScriptedMessages none;
+    window_.reset();
+    window_ = std::make_unique<ui::MainWindow>(ui::startSituation(dataDirectory, game, none),
+                                               dataDirectory);
+    window_->show();
+    window_->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+  }
+
+  template <class Control>
+  Control& Find(const char* name) const {
+    auto* control = window_->findChild<Control*>(QLatin1String(name));
+    if (control == nullptr) throw std::runtime_error(std::string("no control ") + name);
+    return *control;
+  }
+
+  std::vector<std::string> Lines(const char* list) const {
+    std::vector<std::string> lines;
+    for (int row = 0; row < Find<QListWidget>(list).count(); ++row)
+      lines.push_back(Find<QListWidget>(list).item(row)->text().toStdString());
+    return lines;
+  }
+
+  /// The one panel that is shown of those of the four stages.
+  std::string StagePanel() const {
+    QStringList shown;
+    for (const char* name : {"fraOrders", "fraRetreats", "fraAdjustments", "fraSeasonFinished"}) {
+      if (Find<QWidget>(name).isVisible()) shown << QLatin1String(name);
+    }
+    return shown.join(QLatin1Char(' ')).toStdString();
+  }
+
+  QImage Map() const { return Find<QWidget>("picMap").grab().toImage(); }
+
+  static void Enter(const QString& order) {
+    Type(order);
+    Press(Qt::Key_Return);
+  }
+
+  TemporaryDirectory directory_;
+  std::unique_ptr<ui::MainWindow> window_;
+};
+
+TEST_F(WindowTest, AYearIsPlayedByKeyboard) {
+  Enter("AUS A(Vie) - Tyr");
+  Enter("TUR A(Con) - Bul");
+  {
+    const ModalScript answers(
+        {Answered("Warning: ENG F(Lon) unordered.\nContinue?", Qt::Key_A, Qt::AltModifier)});
+    Press(Qt::Key_R, Qt::AltModifier);
+  }
+  EXPECT_EQ(StagePanel(), "fraSeasonFinished");
+  EXPECT_EQ(Lines("lstReport").size(), 22U);
+  Press(Qt::Key_N, Qt::AltModifier);
+
+  EXPECT_EQ(StagePanel(), "fraOrders");
+  EXPECT_THAT(Lines("lstOrders"), IsEmpty());
+  Enter("AUS A(Tyr) - Pie");
+  Enter("AUS F(Tri) S AUS A(Tyr) - Ven");
+  Enter("AUS A(Tyr) - Ven");
+  EXPECT_THAT(Lines("lstOrders"), ElementsAre("AUS F(Tri) S AUS A(Tyr) - Ven", "AUS A(Tyr) - Ven"));
+  {
+    const ModalScript answers(
+        {Answered("Warning: ENG F(Lon) unordered.\nContinue?", Qt::Key_A, Qt::AltModifier)});
+    Press(Qt::Key_R, Qt::AltModifier);
+  }
+  EXPECT_EQ(StagePanel(), "fraRetreats");
+  Enter("ITA A(Ven) retreat Tus");
+  Press(Qt::Key_R, Qt::AltModifier);
+
+  EXPECT_EQ(StagePanel(), "fraAdjustments");
+  for (const char* order : {"AUS build A(Vie)", "TUR build A(Con)", "ITA disband A(Tus)"})
+    Enter(QLatin1String(order));
+  Press(Qt::Key_R, Qt::AltModifier);
+  EXPECT_EQ(StagePanel(), "fraSeasonFinished");
+  EXPECT_THAT(Lines("lstReport"),
+              Contains("[ ITA A(Ven) unordered; hold ]  dislodged retreat Tus"));
+  EXPECT_EQ(Lines("lstReport").back(), "ITA disband A(Tus)  ");
+  Press(Qt::Key_N, Qt::AltModifier);
+  EXPECT_EQ(StagePanel(), "fraOrders");
+  EXPECT_FALSE(Find<QWidget>("lstReport").isVisible());
+}
+
+TEST_F(WindowTest, NoLeavesEverythingAsItWas) {
+  Enter("ENG A(Lvp) - Nowhere)");
+  Enter("FRA F(Bre) - ECH");
+  const QImage map = Map();
+  const std::vector<std::string> orders = Lines("lstOrders");
+  const QString fault = "Warning: ENG A(Lvp) - Nowhere)\nsyntax error.\nContinue?";
+  const QString unordered = "Warning: ENG F(Lon) unordered.\nContinue?";
+  {
+    const ModalScript answers({Answered(fault, Qt::Key_N, Qt::AltModifier)});
+    Press(Qt::Key_R, Qt::AltModifier);
+  }
+  {
+    const ModalScript answers(
+        {Answered(fault, Qt::Key_Return), Answered(unordered, Qt::Key_Escape)});
+    Press(Qt::Key_R, Qt::AltModifier);
+  }
+  EXPECT_EQ(StagePanel(), "fraOrders");
+  EXPECT_EQ(Lines("lstOrders"), orders);
+  EXPECT_EQ(Map(), map);
+  EXPECT_FALSE(Find<QWidget>("lstReport").isVisible());
+}
+
+TEST_F(WindowTest, OrdersAreEditedAndDeleted) {
+  auto& list = Find<QListWidget>("lstOrders");
+  auto& text = Find<QLineEdit>("txtOrder");
+  EXPECT_TRUE(text.hasFocus());
+  Enter("ENG A(Lvp) - Yor");
+  Enter("ENG F(Lon) - NTH");
+  EXPECT_EQ(list.currentRow(), 1);
+  EXPECT_EQ(text.text(), "");
+  Enter("no bracket");
+  EXPECT_EQ(text.text(), "no bracket") << "nothing filed, nothing lost";
+  EXPECT_EQ(list.count(), 2);
+
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                    list.visualItemRect(list.item(0)).center());
+  EXPECT_EQ(text.text(), "ENG A(Lvp) - Yor");
+  EXPECT_TRUE(text.hasFocus());
+  Press(Qt::Key_Backspace);
+  Press(Qt::Key_Backspace);
+  Press(Qt::Key_Backspace);
+  Enter("Wal");
+  EXPECT_THAT(Lines("lstOrders"), ElementsAre("ENG F(Lon) - NTH", "ENG A(Lvp) - Wal"));
+
+  Type("draft");
+  Press(Qt::Key_D, Qt::AltModifier);
+  EXPECT_THAT(Lines("lstOrders"), ElementsAre("ENG F(Lon) - NTH"));
+  EXPECT_EQ(text.text(), "");
+  list.clearSelection();
+  Press(Qt::Key_D, Qt::AltModifier);
+  EXPECT_EQ(list.count(), 1) << "no line is selected";
+}
+
+TEST_F(WindowTest, WhatAFileCannotHoldIsNotTyped) {
+  auto& text = Find<QLineEdit>("txtOrder");
+  Type(QString::fromUtf8("\"a\u0416\u00e9\u20ac\""));
+  EXPECT_EQ(text.text(), QString::fromUtf8("a\u00e9\u20ac"));
+}
+
+TEST_F(WindowTest, ABrokenFileOpenedLeavesTheSituation) {
+  Enter("ENG A(Lvp) - Yor");
+  const QImage map = Map();
+  const auto file = directory_.Write("broken.orb", "\"ORB v5.5\"\r\n\"Ours\",\"Spring\",x\r\n");
+  const ModalScript answers({FileChosen(QString::fromStdString(file.string())), [&](QDialog& box) {
+                               const QString text = dynamic_cast<QMessageBox&>(box).text();
+                               EXPECT_THAT(text.toStdString(), HasSubstr(file.string()));
+                               box.reject();
+                             }});
+  Find<QAction>("mnuFileOpen").trigger();
+  EXPECT_THAT(Lines("lstOrders"), ElementsAre("ENG A(Lvp) - Yor"));
+  EXPECT_EQ(window_->windowTitle(), "ORB v5.5");
+  EXPECT_EQ(Find<QLabel>("lblFileName").text(), "");
+  EXPECT_EQ(Map(), map);
+}
+
+TEST_F(WindowTest, AGameThatCannotBeDrawnIsNotOpened) {
+  model::GameState game = EmptyBoard("Spring", "retreats");
+  game.Units.Append({"XXX", "A", "Lon", {}, {}, {}, 0});
+  const auto file = directory_.Write("strange.orb", model::FormatGameFile(game));
+  const QImage map = Map();
+  {
+    const ModalScript answers(
+        {FileChosen(QString::fromStdString(file.string())), [](QDialog& box) { box.reject(); }});
+    Find<QAction>("mnuFileOpen").trigger();
+  }
+  EXPECT_EQ(StagePanel(), "fraOrders");
+  EXPECT_EQ(Map(), map);
+}
+
+TEST_F(WindowTest, SaveAsksProposesAndLowersTheName) {
+  const auto taken = directory_.Write("game.orb", "old");
+  const QString path = QString::fromStdString((directory_.Path() / "GAME.ORB").string());
+  const QString question = QString::fromStdString(taken.string()) + " already exists.\nReplace it?";
+  {
+    const ModalScript answers({[](QDialog& dialog) {
+      auto* files = qobject_cast<QFileDialog*>(&dialog);
+      ASSERT_NE(files, nullptr);
+      EXPECT_EQ(files->windowTitle(), "ORB v5.5 Save As");
+      EXPECT_EQ(files->acceptMode(), QFileDialog::AcceptSave);
+      EXPECT_EQ(files->findChild<QLineEdit*>()->text(), "con_s01.orb");
+      EXPECT_EQ(files->selectedNameFilter(), "Concordat files: *.orb");
+      files->reject();
+    }});
+    Find<QAction>("mnuFileSave").trigger();
+  }
+  {
+    const ModalScript answers({FileChosen(path), Answered(question, Qt::Key_N, Qt::AltModifier),
+                               FileChosen(path), Answered(question, Qt::Key_Y, Qt::AltModifier)});
+    Find<QAction>("mnuFileSaveAs").trigger();
+  }
+  EXPECT_EQ(Find<QLabel>("lblFileName").text().toStdString(), taken.string());
+  EXPECT_TRUE(Find<QLabel>("lblFileName").isVisible());
+  EXPECT_GT(std::filesystem::file_size(taken), 100U);
+  EXPECT_EQ(directory_.EntryCount(), 1);
+}
+
+TEST_F(WindowTest, AFileOpenedForReadingIsNotSaved) {
+  const auto file = directory_.Write("g.dat", model::FormatGameFile(EmptyBoard("Autumn", "moves")));
+  const ModalScript answers({[&](QDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "ORB v5.5 Open");
+    dialog.findChild<QCheckBox*>("chkReadOnly")->setChecked(true);
+    FileChosen(QString::fromStdString(file.string()))(dialog);
+  }});
+  Find<QAction>("mnuFileOpen").trigger();
+  EXPECT_FALSE(Find<QAction>("mnuFileSave").isEnabled());
+  Find<QAction>("mnuFileNew").trigger();
+  EXPECT_TRUE(Find<QAction>("mnuFileSave").isEnabled());
+}
+
+TEST_F(WindowTest, UndoIsOfferedWhereThereIsSomethingToTakeBack) {
+  EXPECT_FALSE(Find<QAction>("mnuGameUndo").isEnabled());
+  const QImage before = Map();
+  Enter("ENG F(Lon) - NTH");
+  {
+    const ModalScript answers(
+        {Answered("Warning: ENG F(Edi) unordered.\nContinue?", Qt::Key_A, Qt::AltModifier)});
+    Press(Qt::Key_R, Qt::AltModifier);
+  }
+  EXPECT_TRUE(Find<QAction>("mnuGameUndo").isEnabled());
+  EXPECT_NE(Map(), before);
+  Find<QAction>("mnuGameUndo").trigger();
+  EXPECT_EQ(StagePanel(), "fraOrders");
+  EXPECT_EQ(Map(), before);
+}
+
+TEST_F(WindowTest, ASelectedReportLineSaysWhy) {
+  Enter("ENG F(Lon) - ECH");
+  Enter("FRA F(Bre) - ECH");
+  Enter("TUR A(Con) - Bul");
+  {
+    const ModalScript answers(
+        {Answered("Warning: ENG F(Edi) unordered.\nContinue?", Qt::Key_A, Qt::AltModifier)});
+    Press(Qt::Key_R, Qt::AltModifier);
+  }
+  auto& report = Find<QListWidget>("lstReport");
+  EXPECT_EQ(window_->focusWidget(), &report);
+  const QString hint = Find<QLabel>("lblReason").text();
+  Press(Qt::Key_Home);
+  EXPECT_NE(Find<QLabel>("lblReason").text(), hint);
+  EXPECT_THAT(Find<QLabel>("lblReason").text().toStdString(), HasSubstr("FRA F(Bre)"));
+  EXPECT_NE(report.item(0)->foreground(), report.item(2)->foreground());
+  EXPECT_EQ(report.item(1)->foreground(), report.item(0)->foreground());
+}
+
+TEST_F(WindowTest, AMapModeWithoutItsBitmapIsNotTaken) {
+  for (const char* name : {"prov.dat", "conna.dat", "connf.dat", "start.dat", "map.bmp"}) {
+    std::filesystem::copy_file(DataDirectory() / name, directory_.Path() / name);
+  }
+  Open(directory_.Path());
+  Find<QAction>("mnuMapColour").trigger();
+  EXPECT_TRUE(Find<QAction>("mnuMapColour").isChecked());
+  const QImage map = Map();
+  {
+    const ModalScript answers({[](QDialog& box) { box.reject(); }});
+    Find<QAction>("mnuMapGrey").trigger();
+  }
+  EXPECT_TRUE(Find<QAction>("mnuMapColour").isChecked());
+  EXPECT_EQ(Map(), map);
+  Find<QAction>("mnuShowCentreCount").trigger();
+  EXPECT_NE(Map(), map);
+
+  std::filesystem::remove(directory_.Path() / "map.bmp");
+  EXPECT_THROW(Open(directory_.Path()), model::FileError);
+}
+
+TEST_F(WindowTest, FitsASmallScreen) {
+  EXPECT_LE(window_->minimumSizeHint().width(), 640);
+  EXPECT_LE(window_->minimumSizeHint().height(), 400);
+}
+
+}  // namespace
+}  // namespace orb::tests
