@@ -1,0 +1,323 @@
+#include "model/game_file.h"
+
+#include "model/errors.h"
+#include "model/game_state.h"
+#include "model/small_map.h"
+#include "support/directories.h"
+#include "support/scripted_messages.h"
+#include "support/situation.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orb::tests {
+namespace {
+
+using model::FatalError;
+using model::GameState;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+/// A situation that keeps traces of an earlier game where a reader may leave them.
+GameState EarlierGame() {
+  GameState game = model::EmptyGame(SmallMap());
+  game.Title = "earlier";
+  game.Units.Append({"RUS", "F", "Stp.n", "dislodged", "NTH", "Stp.n", 0});
+  for (model::ProvinceState& province : game.Provinces)
+    province = {"TUR", "GER", false};
+  game.Countries[1].PlayerName = "Ann";
+  game.TextLines.Append("earlier text");
+  game.OrdersList = {"RUS F(Stp.n) hold"};
+  game.RetreatsList = {"RUS F(Stp.n) disband"};
+  game.ReportLines.Append("earlier report");
+  game.FileName = "earlier.orb";
+  return game;
+}
+
+/// A game that uses everything a file can hold, every byte that a text can hold included.
+GameState FullGame() {
+  GameState game = model::EmptyGame(SmallMap());
+  std::string bytes;
+  for (int c = 1; c < 256; ++c) {
+    if (c != '"' && c != '\r' && c != '\n') bytes += static_cast<char>(c);
+  }
+  game.Title = " a title, with blanks ";
+  game.Season = "Autumn";
+  game.Year = -32768;
+  game.Stage = "retreats";
+  game.Units.Append({"ENG", "A", "Lon", "", "", "Wal", 0});
+  game.Units.Append({"RUS", "F", "Stp.n", "dislodged", "NTH", "unknown", 0});
+  game.Provinces[1] = {"ENG", "FRA", true};
+  game.Provinces[2] = {"", "unknown", false};
+  game.OrdersList = {"ENG A(Lon) - Wal", "", bytes};
+  game.TextLines.Append(bytes);
+  game.TextLines.Append("");
+  game.Countries[7].PlayerName = "M\xfcller, \x80uro";
+  return game;
+}
+
+TEST(GameFile, IsWrittenRecordByRecord) {
+  GameState game = model::EmptyGame(SmallMap());
+  game.Title = "CONCORDAT";
+  game.Season = "Spring";
+  game.Year = 1901;
+  game.Stage = "moves";
+  for (model::ProvinceState& province : game.Provinces)
+    province.Uncontested = false;
+  game.Provinces[1] = {"ENG", "", true};
+  const std::string bytes = model::FormatGameFile(game);
+  EXPECT_THAT(bytes,
+              testing::StartsWith("\"ORB v5.5\"\r\n\"CONCORDAT\",\"Spring\",1901,\"moves\"\r\n"
+                                  "0\r\n6\r\n\"Lon\",\"ENG\",-1,\"\"\r\n\"Wal\",\"\",0,\"\"\r\n"));
+  EXPECT_THAT(bytes, testing::EndsWith("\"NWG\",\"\",0,\"\"\r\n0\r\n0\r\n7\r\n\"ENG\",\"\"\r\n"
+                                       "\"FRA\",\"\"\r\n\"GER\",\"\"\r\n\"RUS\",\"\"\r\n"
+                                       "\"TUR\",\"\"\r\n\"AUS\",\"\"\r\n\"ITA\",\"\"\r\n"));
+  game.Units.Append({"ENG", "A", "Lon", "dislodged", "Wal", "NTH", 5});
+  EXPECT_THAT(model::FormatGameFile(game),
+              HasSubstr("\r\n1\r\n\"ENG\",\"A\",\"Lon\",\"dislodged\",\"Wal\",\"NTH\"\r\n6\r\n"));
+}
+
+TEST(GameFile, ReadAndWrittenAgainIsTheSameToTheByte) {
+  const std::string bytes = model::FormatGameFile(FullGame());
+  GameState game = EarlierGame();
+  ASSERT_FALSE(model::ParseGameFile(bytes, "f", game));
+  EXPECT_EQ(model::FormatGameFile(game), bytes);
+  EXPECT_TRUE(game.RetreatsList.empty());
+  EXPECT_EQ(game.ReportLines.Count(), 0);
+  std::string otherLineEnds;
+  for (const char c : bytes) {
+    if (c != '\r') otherLineEnds += c;
+  }
+  ASSERT_FALSE(model::ParseGameFile(otherLineEnds, "f", game));
+  EXPECT_EQ(model::FormatGameFile(game), bytes);
+}
+
+TEST(GameFile, ATextThatNoRecordCanHoldIsNotWritten) {
+  for (const char* text : {"a \"quoted\" word", "two\rlines", "two\nlines"}) {
+    GameState game = FullGame();
+    game.Title = text;
+    EXPECT_THROW(model::FormatGameFile(game), FatalError) << text;
+  }
+}
+
+TEST(GameFile, FieldsMayBeWrittenInOtherWays) {
+  GameState game = EarlierGame();
+  ASSERT_FALSE(
+      model::ParseGameFile("ORB v5.5\n  a title , Spring ,\"1901\", moves\n 1 \nENG,A,Lpl,,"
+                           ",Nrg\n1\nStp.n,x,7,y\n1\nENG A(Lpl) - Lpl\n1\nto Lpl",
+                           "f", game));
+  EXPECT_EQ(game.Title, "a title");
+  EXPECT_EQ(game.Year, 1901);
+  EXPECT_EQ(game.Units[1].Location + game.Units[1].PreviousLocation, "WalNWG");
+  EXPECT_TRUE(game.Provinces[5].Uncontested) << "any number but 0";
+  EXPECT_EQ(game.Provinces[4].Owner, "TUR") << "a row that the file does not mention";
+  EXPECT_THAT(game.OrdersList, ElementsAre("ENG A(Wal) - Lpl"));
+  EXPECT_EQ(game.TextLines[1], "to Wal");
+  EXPECT_EQ(game.Countries[1].PlayerName, "");
+}
+
+struct VersionCase {
+  std::string Header;  ///< with its line end; empty for a file without one
+  std::string Situation;
+  std::string Unit;
+  std::string Location;
+  std::string Title, DislodgedFrom, PreviousLocation;
+  bool Uncontested;
+  std::string PreviousOwner;
+};
+
+TEST(GameFile, OfEveryVersionIsRead) {
+  const std::string plain = "\"Spring\",1901,\"moves\"\n";
+  const std::string titled = "\"T\",\"Spring\",1901,\"moves\"\n";
+  const std::string unit4 = "\"ENG\",\"A\",\"Lon\",\"\"\n";
+  const std::string unit5 = "\"ENG\",\"A\",\"Lon\",\"dislodged\",\"Wal\"\n";
+  const std::string unit6 = "\"ENG\",\"A\",\"Lon\",\"dislodged\",\"Wal\",\"Lpl\"\n";
+  const std::string two = "\"Lon\",\"ENG\"\n";
+  const std::string three = "\"Lon\",\"ENG\",0\n";
+  const std::string four = "\"Lon\",\"ENG\",0,\"FRA\"\n";
+  const std::vector<VersionCase> cases = {
+      {"", plain, unit4, two, "CONCORDAT", "NTH", "unknown", true, "GER"},
+      {"\"ORB v0.1\"\n", plain, unit4, two, "CONCORDAT", "NTH", "unknown", true, "GER"},
+      {"\"ORB v0.2\"\n", plain, unit4, three, "CONCORDAT", "NTH", "unknown", false, "unknown"},
+      {"\"ORB v0.5\"\n", plain, unit4, three, "CONCORDAT", "NTH", "unknown", false, "unknown"},
+      {"\"ORB v0.6\"\n", plain, unit5, three, "CONCORDAT", "Wal", "unknown", false, "unknown"},
+      {"\"ORB v0.7\"\n", titled, unit5, three, "T", "Wal", "unknown", false, "unknown"},
+      {"\"ORB v2.1\"\n", titled, unit5, three, "T", "Wal", "unknown", false, "unknown"},
+      {"\"ORB v2.2\"\n", titled, unit6, three, "T", "Wal", "Wal", false, "unknown"},
+      {"\"ORB v2.5\"\n", titled, unit6, three, "T", "Wal", "Wal", false, "unknown"},
+      {"\"ORB v2.6\"\n", titled, unit6, four, "T", "Wal", "Wal", false, "FRA"},
+      {"\"ORB v5.5\"\n", titled, unit6, four, "T", "Wal", "Wal", false, "FRA"},
+      {"ORB v10\n", titled, unit6, four, "T", "Wal", "Wal", false, "FRA"},
+  };
+  for (const VersionCase& c : cases) {
+    SCOPED_TRACE(c.Header);
+    GameState game = EarlierGame();
+    ASSERT_FALSE(model::ParseGameFile(
+        c.Header + c.Situation + "1\n" + c.Unit + "1\n" + c.Location + "1\n\"an order\"\n", "f",
+        game));
+    EXPECT_EQ(game.Title, c.Title);
+    EXPECT_EQ(game.Season + std::to_string(game.Year) + game.Stage, "Spring1901moves");
+    EXPECT_EQ(game.Units[1].DislodgedFrom, c.DislodgedFrom);
+    EXPECT_EQ(game.Units[1].PreviousLocation, c.PreviousLocation);
+    EXPECT_EQ(game.Provinces[1].Owner, "ENG");
+    EXPECT_EQ(game.Provinces[1].Uncontested, c.Uncontested);
+    EXPECT_EQ(game.Provinces[1].PreviousOwner, c.PreviousOwner);
+    EXPECT_THAT(game.OrdersList, ElementsAre("an order"));
+    EXPECT_EQ(game.TextLines.Count(), 0);
+    EXPECT_EQ(game.Countries[1].PlayerName, "");
+  }
+}
+
+TEST(GameFile, TextAndPlayersMayBeMissing) {
+  const std::string head = "\"ORB v5.5\"\n\"T\",\"Spring\",1901,\"moves\"\n0\n0\n0\n";
+  struct Case {
+    std::string Tail;
+    int TextCount;
+    std::string England;
+  };
+  for (const Case& c :
+       std::vector<Case>{{"", 0, ""},
+                         {"\r\n \r\n", 0, ""},
+                         {"2\none\ntwo\n", 2, ""},
+                         {"0\n0\n", 0, "Ann"},
+                         {"0\n2\n\"XYZ\",\"Nobody\"\n\"ENG\",\"Bob\"\n", 0, "Bob"}}) {
+    GameState game = EarlierGame();
+    ASSERT_FALSE(model::ParseGameFile(head + c.Tail, "f", game)) << c.Tail;
+    EXPECT_EQ(game.TextLines.Count(), c.TextCount) << c.Tail;
+    EXPECT_EQ(game.Countries[1].PlayerName, c.England) << c.Tail;
+  }
+}
+
+/// Reads the bytes; whatever they are, they are refused in words or read whole.
+bool ReadsOrRefuses(const std::string& bytes, const GameState& before, std::string& reason) {
+  GameState game = before;
+  try {
+    const auto unknown = model::ParseGameFile(bytes, "game.orb", game);
+    if (!unknown) return true;
+    reason = "unknown location " + *unknown;
+  } catch (const FatalError& error) {
+    reason = error.what();
+  }
+  EXPECT_EQ(Describe(game), Describe(before)) << "changed though refused: " << reason;
+  return false;
+}
+
+TEST(GameFile, ABrokenOneIsRefusedAndChangesNothing) {
+  const std::string head = "\"ORB v5.5\"\n\"T\",\"Spring\",1901,\"moves\"\n";
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"", "end of the file"},
+      {"\"ORB v5.5\"", "end of the file"},
+      {"\"ORB v5.5\"\n\"T\",\"Spring\",year,\"moves\"\n", "a year"},
+      {"\"ORB v5.5\"\n\"T\",\"Spring\",32768,\"moves\"\n", "32768"},
+      {"\"ORB v5.5\"\n\"T\",\"Spring\",19.1,\"moves\"\n", "19.1"},
+      {head + "many\n", "line 3"},
+      {head + "41\n", "0 to 40"},
+      {head + "-1\n", "0 to 40"},
+      {head + "0\n1\n\"Lon\",\"ENG\",true,\"\"\n", "uncontested"},
+      {head + "0\n1\n\"Xyz\",\"ENG\",0,\"\"\n", "unknown location Xyz"},
+      {head + "0\n0\nx\n", "number of orders"},
+      {head + "0\n0\n3\none\n", "an order"},
+      {head + "0\n0\n0\n101\n", "0 to 100"},
+      {head + "0\n0\n0\n1\n", "a text line"},
+      {head + "0\n0\n0\n0\nseven\n", "number of powers"},
+      {head + "0\n0\n1\n\"no closing quote\n", "closing quote"},
+      {head + "0\n0\n1\n\"more\" behind\n", "closing quote"},
+      {std::string("\x7f"
+                   "ELF\0\0\0\1\2",
+                   9),
+       "expected"},
+  };
+  for (const auto& [bytes, says] : cases) {
+    std::string reason;
+    EXPECT_FALSE(ReadsOrRefuses(bytes, EarlierGame(), reason)) << bytes;
+    EXPECT_THAT(reason, HasSubstr(says)) << bytes;
+  }
+}
+
+TEST(GameFile, CutOffAnywhereIsReadOrRefused) {
+  const std::string bytes = model::FormatGameFile(FullGame());
+  const GameState before = EarlierGame();
+  std::string reason;
+  int read = 0;
+  for (std::size_t size = 0; size <= bytes.size(); ++size)
+    read += ReadsOrRefuses(bytes.substr(0, size), before, reason) ? 1 : 0;
+  EXPECT_GE(read, 3) << "whole, and without its last sections";
+  EXPECT_LT(read, 20);
+}
+
+TEST(GameFile, DamagedAnywhereIsReadOrRefused) {
+  const std::string bytes = model::FormatGameFile(FullGame());
+  const GameState before = EarlierGame();
+  std::mt19937 random(1);
+  std::string reason;
+  int read = 0;
+  for (int i = 0; i < 5000; ++i) {
+    std::string damaged = bytes;
+    for (auto changes = 1 + random() % 4; changes > 0; --changes) {
+      const std::size_t at = random() % damaged.size();
+      const char byte =
+          random() % 2 == 0 ? ",\"\r\n 0-9"[random() % 9] : static_cast<char>(random() % 256);
+      switch (random() % 4) {
+        case 0:
+          damaged[at] = byte;
+          break;
+        case 1:
+          damaged.insert(at, 1, byte);
+          break;
+        case 2:
+          damaged.erase(at, 1 + random() % 20);
+          break;
+        default:
+          damaged.insert(at, damaged.substr(random() % damaged.size(), 30));
+          break;
+      }
+    }
+    read += ReadsOrRefuses(damaged, before, reason) ? 1 : 0;
+    std::string rubbish(random() % 300, '\0');
+    for (char& c : rubbish)
+      c = static_cast<char>(random() % 256);
+    ReadsOrRefuses(rubbish, before, reason);
+  }
+  EXPECT_GT(read, 100);
+  EXPECT_LT(read, 4900);
+}
+
+TEST(ReadGameFile, MakesTheFileTheCurrentOneOrLeavesAllAsItWas) {
+  const TemporaryDirectory directory;
+  GameState game = EmptyBoard("Spring", "moves");
+  game.OrdersList = {"ENG A(Lon) hold"};
+  game.FileName = (directory.Path() / "game.orb").string();
+  model::WriteGameFile(game);
+  ScriptedMessages messages;
+  GameState other = EmptyBoard("Autumn", "finished");
+  EXPECT_TRUE(model::ReadGameFile(other, game.FileName, DataDirectory(), messages));
+  EXPECT_EQ(Describe(other), Describe(game));
+  EXPECT_THROW(
+      model::ReadGameFile(other, directory.Path() / "missing.orb", DataDirectory(), messages),
+      model::FileError);
+  EXPECT_THROW(model::ReadGameFile(other, directory.Path(), DataDirectory(), messages),
+               model::FileError);
+  EXPECT_EQ(Describe(other), Describe(game));
+}
+
+TEST(ReadGameFile, AnUnknownLocationIsReportedAndBeginsANewGame) {
+  const TemporaryDirectory directory;
+  const auto file = directory.Write(
+      "old.orb", "\"ORB v5.5\"\n\"T\",\"Autumn\",1910,\"moves\"\n0\n1\n\"Xyz\",\"\",0,\"\"\n");
+  ScriptedMessages messages;
+  GameState game = EmptyBoard("Autumn", "finished");
+  game.FileName = "earlier.orb";
+  EXPECT_FALSE(model::ReadGameFile(game, file, DataDirectory(), messages));
+  EXPECT_THAT(messages.Shown,
+              ElementsAre(testing::Pair("Unknown province: Xyz", model::Icon::Exclamation)));
+  EXPECT_EQ(game.Title + game.Season + game.Stage + game.FileName, "CONCORDATSpringmoves");
+  EXPECT_EQ(game.Units.Count(), 22);
+}
+
+}  // namespace
+}  // namespace orb::tests
