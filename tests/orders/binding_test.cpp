@@ -1,0 +1,190 @@
+#include "orders/binding.h"
+
+#include "model/errors.h"
+#include "orders/lookups.h"
+#include "orders/parser.h"
+#include "support/scripted_messages.h"
+#include "support/situation.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <vector>
+
+namespace orb::tests {
+namespace {
+
+using model::Answer;
+using model::GameState;
+using orders::OrderTable;
+using testing::ElementsAre;
+
+/// Units with orders, bound; "> " begins an order without a unit of its own.
+struct Bound {
+  GameState Game = EmptyBoard("Spring", "moves");
+  OrderTable Orders;
+  ScriptedMessages Messages;
+  bool Continued = false;
+
+  explicit Bound(const std::vector<std::string>& lines, std::vector<Answer> answers = {})
+      : Messages(std::move(answers)) {
+    for (const std::string& line : lines) {
+      const bool alone = line.starts_with("> ");
+      const std::string order = alone ? line.substr(2) : AddDrawnUnit(Game, line);
+      if (!order.empty()) Game.OrdersList.push_back(order);
+    }
+    orders::SetOrderTexts(Game.OrdersList, Orders);
+    orders::ParseOrders(Orders);
+    Continued = orders::CheckOrderSyntax(*Game.Map, Orders, Messages) &&
+                orders::BindOrdersToUnits(Game, Orders, Messages) &&
+                orders::CheckImpossibleOrders(Game, Orders, Messages);
+  }
+};
+
+TEST(Binding, MatchesTypePowerAndWholeLocation) {
+  const Bound bound({"RUS F(Stp.s) hold", "> RUS F(Stp) hold", "> RUS F(Stp.n) hold",
+                     "> RUS A(Stp.s) hold", "> ENG F(Stp.s) hold", "> RUS F(Stp.s) - BOT"});
+  std::vector<std::string> results;
+  for (const orders::OrderLine& order : bound.Orders)
+    results.push_back(order.Result);
+  EXPECT_THAT(results,
+              ElementsAre("", "no such unit", "no such unit", "no such unit", "no such unit", ""));
+  EXPECT_EQ(bound.Orders[1].UnitIndex, 1);
+  EXPECT_EQ(bound.Orders[6].UnitIndex, 1);
+  EXPECT_EQ(bound.Game.Units[1].OrderIndex, 6) << "the later of two orders is the unit's";
+}
+
+TEST(Binding, AnUnorderedUnitHoldsAtTheEndOfTheTable) {
+  const Bound bound({"ENG A(Lon)", "FRA A(Par) hold", "RUS F(Stp.s)"});
+  ASSERT_EQ(bound.Orders.Count(), 3);
+  const orders::OrderLine& order = bound.Orders[3];
+  EXPECT_EQ(order.Text, "RUS F(Stp.s) unordered; hold");
+  EXPECT_EQ(order.Power + order.UnitType + order.Location + order.Kind, "RUSFStp.sHOLD");
+  EXPECT_EQ(order.UnitIndex, 3);
+  EXPECT_EQ(bound.Game.Units[3].OrderIndex, 3);
+  EXPECT_TRUE(order.Active && !order.Failed && order.Result.empty());
+}
+
+TEST(Binding, YesToAllEndsTheQuestionsOfOneResolution) {
+  struct Case {
+    std::vector<Answer> Answers;
+    std::size_t Questions;
+    bool Continued;
+  };
+  for (const Case& c : std::vector<Case>{{{}, 3, true},
+                                         {{Answer::YesToAll}, 1, true},
+                                         {{Answer::Yes, Answer::YesToAll}, 2, true},
+                                         {{Answer::No}, 1, false},
+                                         {{Answer::Yes, Answer::Yes, Answer::No}, 3, false}}) {
+    const Bound bound({"ENG A(Lon)", "ENG A(Wal)", "ENG A(Yor)"}, c.Answers);
+    EXPECT_EQ(bound.Messages.Questions.size(), c.Questions);
+    EXPECT_EQ(bound.Continued, c.Continued);
+  }
+}
+
+TEST(Binding, AsksInTheOrderOfTheChecks) {
+  const Bound bound({"ENG A(Lon) S A(Yor) - NTH", "ENG A(Yor) - NTH", "FRA A(Par) S A(Mar) hold",
+                     "FRA A(Mar)", "> FRA A(Gas) hold", "> no order", "FRA A(Bre) S A(Pic) - Bel"});
+  EXPECT_THAT(bound.Messages.Questions,
+              ElementsAre("Warning: no order\rsyntax error.\rContinue?",
+                          "Warning: FRA A(Gas) hold\rno such unit.\rContinue?",
+                          "Warning: FRA A(Mar) unordered.\rContinue?",
+                          "Warning: ENG A(Yor) - NTH\rimpossible move.\rContinue?",
+                          "Warning: ENG A(Lon) S A(Yor) - NTH\rimpossible support.\rContinue?",
+                          "Warning: FRA A(Par) S A(Mar) hold\rimpossible support.\rContinue?"))
+      << "an order that is not used is not asked about";
+  EXPECT_EQ(bound.Orders[6].Result, "not used");
+}
+
+TEST(Linking, ASupportOrConvoyFitsOneOrder) {
+  struct Case {
+    std::string_view Name;
+    std::vector<std::string> Lines;
+    int Linked;  ///< order that the first order refers to, 0: none
+    bool Carried;
+  };
+  const std::vector<Case> cases = {
+      {"the same move", {"ENG F(NTH) S A(Lon) - Yor", "ENG A(Lon) - Yor"}, 2, false},
+      {"another aim", {"ENG F(NTH) S A(Lon) - Yor", "ENG A(Lon) - Wal"}, 0, false},
+      {"another coast", {"FRA A(Gas) S F(MAO) - Spa", "FRA F(MAO) - Spa.n"}, 0, false},
+      {"another power", {"ENG F(NTH) S FRA A(Lon) - Yor", "ENG A(Lon) - Yor"}, 0, false},
+      {"another type", {"ENG F(NTH) S F(Lon) - Yor", "ENG A(Lon) - Yor"}, 0, false},
+      {"hold for a hold", {"ENG F(NTH) S F(Lon) hold", "ENG F(Lon) HOLD"}, 2, false},
+      {"hold for no order", {"ENG F(NTH) S F(Lon) hold", "ENG F(Lon)"}, 2, false},
+      {"hold for a move", {"ENG F(NTH) S F(Lon) hold", "ENG F(Lon) - Wal"}, 0, false},
+      {"hold for a support", {"ENG F(NTH) S F(Lon) hold", "ENG F(Lon) S F(NTH) hold"}, 2, false},
+      {"hold for a convoy", {"ENG F(Edi) S F(NTH) hold", "ENG F(NTH) C A(Lon) - Nwy"}, 2, false},
+      {"move for a hold", {"ENG F(NTH) S F(Lon) - Wal", "ENG F(Lon) hold"}, 0, false},
+      {"the last that fits",
+       {"ENG F(NTH) S F(Lon) hold", "ENG F(Lon) hold", "> ENG F(Lon) hold"},
+       3,
+       false},
+      {"a later one that does not fit",
+       {"ENG F(NTH) S F(Lon) hold", "ENG F(Lon) hold", "> ENG F(Lon) - Wal"},
+       2,
+       false},
+      {"a faulty order", {"ENG F(NTH) S F(Lon) hold", "ENG F(Lon) stays"}, 2, false},
+      {"a convoy", {"ENG F(NTH) C A(Lon) - Nwy", "ENG A(Lon) - Nwy"}, 2, true},
+      {"a convoy elsewhere", {"ENG F(NTH) C A(Lon) - Nwy", "ENG A(Lon) - Wal"}, 0, false},
+      {"a convoy of a hold", {"ENG F(NTH) C A(Lon) - Nwy", "ENG A(Lon) hold"}, 0, false},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.Name);
+    const Bound bound(c.Lines);
+    EXPECT_EQ(bound.Orders[1].LinkedOrder, c.Linked);
+    EXPECT_EQ(bound.Orders[1].Result == "not used", c.Linked == 0);
+    EXPECT_EQ(bound.Orders[2].ViaConvoy, c.Carried);
+  }
+}
+
+TEST(Possible, WhatAUnitCanReach) {
+  const std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
+      {{"ENG A(Lon) - Wal"}, ""},
+      {{"ENG A(Lon) - Bel"}, "impossible move"},
+      {{"ENG A(Lon) - NTH"}, "impossible move"},
+      {{"ENG A(Lon) - Lon"}, "impossible move"},
+      {{"ENG F(Edi) - Lvp"}, "impossible move"},
+      {{"FRA A(Gas) - Spa.n"}, "impossible move"},
+      {{"FRA F(Gas) - Spa"}, "impossible move"},
+      {{"FRA F(Gas) - Spa.n"}, ""},
+      {{"ENG A(Lon) - Tun", "ENG F(NTH) C A(Lon) - Tun"}, ""},
+      {{"ENG A(Lon) - BAR", "ENG F(NTH) C A(Lon) - BAR"}, "impossible move"},
+      {{"ENG A(Lon) - Spa.n", "ENG F(NTH) C A(Lon) - Spa.n"}, "impossible move"},
+      {{"FRA F(Gas) S F(MAO) - Spa.s", "FRA F(MAO) - Spa.s"}, ""},
+      {{"FRA F(WES) S A(Gas) - Spa", "FRA A(Gas) - Spa"}, ""},
+      {{"FRA A(Gas) S F(Spa.s) hold", "FRA F(Spa.s) hold"}, ""},
+      {{"FRA F(Spa.n) S A(Mar) hold", "FRA A(Mar) hold"}, "impossible support"},
+      {{"FRA A(Par) S F(MAO) - Bre", "FRA F(MAO) - Bre"}, ""},
+      {{"FRA A(Par) S F(Bre) - MAO", "FRA F(Bre) - MAO"}, "impossible support"},
+      {{"ENG F(BAR) C A(Lon) - Tun", "ENG A(Lon) - Tun"}, ""},
+  };
+  for (const auto& [lines, result] : cases)
+    EXPECT_EQ(Bound(lines).Orders[1].Result, result) << lines[0];
+}
+
+TEST(Lookups, OfWhatStandsAndReachesWhere) {
+  GameState game = EmptyBoard("Spring", "moves");
+  for (const char* unit : {"RUS F(Stp.n)", "RUS A(Mos)", "ENG F(Stp.s)"})
+    AddDrawnUnit(game, unit);
+  const std::vector<std::pair<std::string_view, int>> stands = {
+      {"Stp", 3}, {"Stp.n", 3}, {"Mos", 2}, {"Mos.x", 2}, {"mos", 0}, {"", 0}, {"Lon", 0}};
+  for (const auto& [place, unit] : stands)
+    EXPECT_EQ(orders::FindUnitAt(game, place), unit) << place;
+  const std::vector<std::tuple<std::string_view, std::string_view, std::string_view, bool>> near = {
+      {"A", "Lon", "Wal", true},  {"F", "Lon", "NTH", true},   {"A", "Lon", "NTH", false},
+      {"X", "Lon", "Wal", false}, {"", "Lon", "Wal", false},   {"F", "Stp", "BAR", false},
+      {"A", "Lon", "", false},    {"F", "Stp.n", "BAR", true}, {"A", "Xyz", "Wal", false}};
+  for (const auto& [type, from, to, yes] : near)
+    EXPECT_EQ(orders::IsAdjacent(*game.Map, type, from, to), yes) << type << from << to;
+  const std::vector<std::tuple<std::string_view, std::string_view, bool>> stand = {
+      {"A", "Lon", true},  {"F", "Lon", true},    {"A", "NTH", false}, {"F", "Mos", false},
+      {"F", "Stp", false}, {"A", "Stp.n", false}, {"A", "Xyz", false}, {"X", "Lon", false}};
+  for (const auto& [type, place, yes] : stand)
+    EXPECT_EQ(orders::CanStandIn(*game.Map, type, place), yes) << type << place;
+}
+
+}  // namespace
+}  // namespace orb::tests
