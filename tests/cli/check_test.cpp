@@ -63,7 +63,7 @@ TEST(Check, ListsTheProblemsOfMoves) {
 
 TEST(Check, ListsTheProblemsOfRetreats) {
   std::string standoff = GameFile("Spring", "retreats", "FRA A(Bur) <Mun\nGER A(Par)");
-  standoff.replace(standoff.find("\"Gas\",\"\",-1"), 11, "\"Gas\",\"\",0");
+  standoff.replace(standoff.find(R"("Gas","",-1)"), 11, R"("Gas","",0)");
   const std::string game = GameFile("Spring", "retreats", "FRA A(Bur) <Mun\nGER A(Par)");
   ExpectProblems({
       {"good", game, "FRA A(Bur) RETREAT Gas", ""},
