@@ -20,6 +20,8 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include <array>
+#include <string_view>
 #include <utility>
 
 namespace orb::ui {
@@ -110,8 +112,8 @@ void MainWindow::showGame() {
 
 void MainWindow::showStagePanel() {
   m_shownStage = m_desk.game().Stage;
-  const std::pair<std::string, OrderEntryPanel*> entryPanels[] = {
-      {"moves", m_orders}, {"retreats", m_retreats}, {"adjustments", m_adjustments}};
+  const std::array<std::pair<std::string_view, OrderEntryPanel*>, 3> entryPanels{
+      {{"moves", m_orders}, {"retreats", m_retreats}, {"adjustments", m_adjustments}}};
   m_seasonFinished->setVisible(m_shownStage == "finished");
   for (const auto& [stage, panel] : entryPanels)
     panel->setVisible(stage == m_shownStage);

@@ -68,6 +68,7 @@ void ReportPanel::addListActions() {
 
 void ReportPanel::startReading() {
   m_lines->setFocus();
+  m_lines->setCurrentRow(0);
 }
 
 void ReportPanel::changeEvent(QEvent* event) {

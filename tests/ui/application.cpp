@@ -1,7 +1,9 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <memory>
+#include <string>
 
 namespace orb::tests {
 namespace {
@@ -11,14 +13,14 @@ class OffscreenApplication : public testing::Environment {
  public:
   void SetUp() override {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    application_ = std::make_unique<QApplication>(count_, arguments_);
+    application_ = std::make_unique<QApplication>(count_, arguments_.data());
   }
   void TearDown() override { application_.reset(); }
 
  private:
   int count_ = 1;
-  char name_[5] = "test";
-  char* arguments_[2] = {name_, nullptr};
+  std::string name_ = "test";
+  std::array<char*, 2> arguments_{name_.data(), nullptr};
   std::unique_ptr<QApplication> application_;
 };
 

@@ -4,20 +4,23 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 namespace orb::tests {
 namespace {
 
 TEST(FileProposals, NameOfASavedGame) {
-  struct {
+  struct Case {
     std::string Title, Season;
     std::int16_t Year;
     std::string Proposed;
-  } const cases[] = {{"CONCORDAT", "Spring", 1901, "con_s01.orb"},
-                     {"  My Game ", "Autumn", 1910, "my _a10.orb"},
-                     {"Q", "Spring", 7, "q_s7.orb"},
-                     {"", "", 1901, "_01.orb"}};
+  };
+  const std::vector<Case> cases{{"CONCORDAT", "Spring", 1901, "con_s01.orb"},
+                                {"  My Game ", "Autumn", 1910, "my _a10.orb"},
+                                {"Q", "Spring", 7, "q_s7.orb"},
+                                {"", "", 1901, "_01.orb"}};
   for (const auto& given : cases) {
     model::GameState game = EmptyBoard(given.Season, "moves");
     game.Title = given.Title;
@@ -27,14 +30,15 @@ TEST(FileProposals, NameOfASavedGame) {
 }
 
 TEST(FileProposals, FilterByTheCurrentFileName) {
-  struct {
+  struct Case {
     std::string FileName;
     ui::GameFilter Filter;
-  } const cases[] = {{"", ui::GameFilter::Games},
-                     {"/a/GAME.ORB", ui::GameFilter::Games},
-                     {"/a/old.dat", ui::GameFilter::Data},
-                     {"/a/old.dat.orb", ui::GameFilter::Games},
-                     {"/a/notes.txt", ui::GameFilter::All}};
+  };
+  const std::vector<Case> cases{{"", ui::GameFilter::Games},
+                                {"/a/GAME.ORB", ui::GameFilter::Games},
+                                {"/a/old.dat", ui::GameFilter::Data},
+                                {"/a/old.dat.orb", ui::GameFilter::Games},
+                                {"/a/notes.txt", ui::GameFilter::All}};
   for (const auto& given : cases)
     EXPECT_EQ(ui::gameFilterFor(given.FileName), given.Filter) << given.FileName;
 }

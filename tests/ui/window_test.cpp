@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,7 +19,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -54,8 +57,9 @@ class WindowTest : public testing::Test {
 
   std::vector<std::string> Lines(const char* list) const {
     std::vector<std::string> lines;
-    for (int row = 0; row < Find<QListWidget>(list).count(); ++row)
-      lines.push_back(Find<QListWidget>(list).item(row)->text().toStdString());
+    const auto items = Find<QListWidget>(list).findItems({}, Qt::MatchContains);
+    std::transform(items.begin(), items.end(), std::back_inserter(lines),
+                   [](const QListWidgetItem* item) { return item->text().toStdString(); });
     return lines;
   }
 
@@ -275,10 +279,14 @@ TEST_F(WindowTest, ASelectedReportLineSaysWhy) {
   }
   auto& report = Find<QListWidget>("lstReport");
   EXPECT_EQ(window_->focusWidget(), &report);
-  const QString hint = Find<QLabel>("lblReason").text();
-  Press(Qt::Key_Home);
-  EXPECT_NE(Find<QLabel>("lblReason").text(), hint);
-  EXPECT_THAT(Find<QLabel>("lblReason").text().toStdString(), HasSubstr("FRA F(Bre)"));
+  const auto& reason = Find<QLabel>("lblReason");
+  EXPECT_THAT(reason.text().toStdString(), HasSubstr("FRA F(Bre) - ECH"));
+  Press(Qt::Key_Down);
+  EXPECT_THAT(reason.text().toStdString(), HasSubstr("ENG F(Lon) - ECH"));
+  Press(Qt::Key_A, Qt::ControlModifier);
+  Press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(
+      "[ ENG F(Lon) - ECH ]  \n[ FRA F(Bre) - ECH ]  \n  TUR A(Con) - Bul  \n"));
   EXPECT_NE(report.item(0)->foreground(), report.item(2)->foreground());
   EXPECT_EQ(report.item(1)->foreground(), report.item(0)->foreground());
 }

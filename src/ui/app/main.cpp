@@ -49,7 +49,8 @@ int runProgram(const std::filesystem::path& gameFile, bool display) {
     const std::filesystem::path directory = model::ProgramDirectory();
     ui::Situation start = ui::startSituation(directory, gameFile, messages);
     if (!display) {
-      throw model::FatalError("There is no display (DISPLAY, WAYLAND_DISPLAY) for the window; orbctl needs none.");
+      throw model::FatalError(
+          "There is no display (DISPLAY, WAYLAND_DISPLAY) for the window; orbctl needs none.");
     }
     ui::MainWindow window(std::move(start), directory);
     window.show();
