@@ -1,9 +1,9 @@
+#include "coverage.h"
+#include "edges.h"
+
 #include <algorithm>
 #include <cmath>
 #include <map>
-
-#include "coverage.h"
-#include "edges.h"
 
 namespace mapmaker {
 namespace {
@@ -38,27 +38,29 @@ int LongestNeighbour(const std::vector<Part>& parts, std::size_t index, const Ed
         lengths[owner] += std::hypot(ring[i].X - ring[i - 1].X, ring[i].Y - ring[i - 1].Y);
     }
   }
-  const auto longest = std::max_element(lengths.begin(), lengths.end(), [](auto& a, auto& b) {
-    return a.second < b.second;
-  });
+  const auto longest = std::max_element(lengths.begin(), lengths.end(),
+                                        [](auto& a, auto& b) { return a.second < b.second; });
   return longest == lengths.end() ? -1 : longest->first;
 }
 
 /// One round of WithoutSmallParts; tells whether a part has moved.
-bool MoveSmallParts(Coverage& coverage, double least) {
+bool MoveSmallParts(Coverage& coverage, double leastLand, double leastWater) {
   std::vector<Part> parts = PartsOf(coverage);
   EdgeOwners edges;
   for (std::size_t i = 0; i < parts.size(); ++i)
     AddOwner(edges, parts[i].Extent, static_cast<int>(i));
   bool moved = false;
-  for (std::size_t i = 0; i < parts.size() && parts[i].Size < least; ++i) {
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    const bool land = IsLand(coverage[static_cast<std::size_t>(parts[i].Owner)]);
+    if (parts[i].Size >= (land ? leastLand : leastWater)) continue;
     const int neighbour = LongestNeighbour(parts, i, edges);
     if (neighbour < 0) continue;
     parts[i].Owner = neighbour;
     moved = true;
   }
   std::vector<std::vector<Shape>> shapes(coverage.size());
-  for (const Part& part : parts) shapes[static_cast<std::size_t>(part.Owner)].push_back(part.Extent);
+  for (const Part& part : parts)
+    shapes[static_cast<std::size_t>(part.Owner)].push_back(part.Extent);
   for (std::size_t i = 0; i < coverage.size(); ++i)
     coverage[i].Extent = Shape::Collection(shapes[i]).Merged();
   return moved;
@@ -82,9 +84,9 @@ std::vector<Arc> ArcsOf(const Coverage& coverage) {
   return arcs;
 }
 
-Coverage WithoutSmallParts(Coverage coverage, double least) {
+Coverage WithoutSmallParts(Coverage coverage, double leastLand, double leastWater) {
   constexpr int rounds = 6;
-  for (int i = 0; i < rounds && MoveSmallParts(coverage, least); ++i) {
+  for (int i = 0; i < rounds && MoveSmallParts(coverage, leastLand, leastWater); ++i) {
   }
   return coverage;
 }

@@ -13,10 +13,17 @@ constexpr double Grid = 0.001;
 struct Claim {
   Shape Extent;
   int Owner = -1;
+  Box Bounds = Extent.Bounds();
+
+  [[nodiscard]] bool Holds(Point point) const {
+    return point.X >= Bounds.Left && point.X <= Bounds.Right && point.Y >= Bounds.Top &&
+           point.Y <= Bounds.Bottom && Extent.Contains(point);
+  }
 };
 
 void AddClaims(std::vector<Claim>& claims, const Shape& shape, int owner) {
-  for (const Shape& polygon : shape.Polygons()) claims.push_back({polygon, owner});
+  for (const Shape& polygon : shape.Polygons())
+    claims.push_back({polygon, owner});
 }
 
 Shape Sheet() {
@@ -32,7 +39,7 @@ Coverage Partition(Coverage areas, const std::vector<Shape>& lines,
     const Point inside = face.PointInside();
     if (!sheet.Contains(inside)) continue;
     const auto claim = std::find_if(claims.begin(), claims.end(), [&](const Claim& candidate) {
-      return candidate.Extent.Contains(inside);
+      return candidate.Holds(inside);
     });
     if (claim == claims.end()) throw std::runtime_error("a part of the sheet belongs to no area");
     faces[static_cast<std::size_t>(claim->Owner)].push_back(face);
@@ -42,7 +49,9 @@ Coverage Partition(Coverage areas, const std::vector<Shape>& lines,
   return areas;
 }
 
-AreaType ToAreaType(Kind kind) { return kind == Kind::Water ? AreaType::Water : AreaType::Land; }
+AreaType ToAreaType(Kind kind) {
+  return kind == Kind::Water ? AreaType::Water : AreaType::Land;
+}
 
 int IndexOf(const Coverage& areas, const std::string& name) {
   for (std::size_t i = 0; i < areas.size(); ++i) {
@@ -66,7 +75,8 @@ Coverage EmptyAreas(const Tables& tables, const std::map<std::string, Shape>& la
 
 Shape Projected(const Line& ring, const Projection& projection) {
   Line drawn;
-  for (const Point& point : ring) drawn.push_back(projection.ToMap(point));
+  for (const Point& point : ring)
+    drawn.push_back(projection.ToMap(point));
   return Shape::Polygon(drawn);
 }
 
@@ -80,7 +90,8 @@ Coverage MakeCoverage(const Tables& tables, const Projection& projection,
                       const std::map<std::string, Shape>& land) {
   const Coverage areas = EmptyAreas(tables, land);
   std::vector<Claim> claims;
-  for (const auto& [name, shape] : land) AddClaims(claims, shape, IndexOf(areas, name));
+  for (const auto& [name, shape] : land)
+    AddClaims(claims, shape, IndexOf(areas, name));
   for (const NamedRing& bridge : tables.Bridges)
     AddClaims(claims, Projected(bridge.Ring, projection), IndexOf(areas, bridge.Area));
   for (const NamedRing& water : tables.InlandWater)
@@ -88,7 +99,8 @@ Coverage MakeCoverage(const Tables& tables, const Projection& projection,
   for (const auto& [name, ring] : tables.Seas)
     AddClaims(claims, Projected(ring, projection), IndexOf(areas, name));
   std::vector<Shape> lines{Sheet().Boundary()};
-  for (const Claim& claim : claims) lines.push_back(claim.Extent.Boundary());
+  for (const Claim& claim : claims)
+    lines.push_back(claim.Extent.Boundary());
   return Partition(areas, lines, claims);
 }
 
@@ -97,7 +109,8 @@ Coverage Rebuilt(const Coverage& old, const std::vector<Arc>& arcs) {
   for (std::size_t i = 0; i < old.size(); ++i)
     AddClaims(claims, old[i].Extent, static_cast<int>(i));
   std::vector<Shape> lines{Sheet().Boundary()};
-  for (const Arc& arc : arcs) lines.push_back(Shape::LineString(arc.Course));
+  for (const Arc& arc : arcs)
+    lines.push_back(Shape::LineString(arc.Course));
   return Partition(old, lines, claims);
 }
 
@@ -115,8 +128,10 @@ Coverage WithInletsClosed(const Coverage& old, double reach) {
     AddClaims(inlets, old[i].Extent.Buffer(reach).Buffer(-reach).Difference(old[i].Extent), owner);
   }
   std::vector<Shape> lines{Sheet().Boundary()};
-  for (const Area& area : old) lines.push_back(area.Extent.Boundary());
-  for (const Claim& inlet : inlets) lines.push_back(inlet.Extent.Boundary());
+  for (const Area& area : old)
+    lines.push_back(area.Extent.Boundary());
+  for (const Claim& inlet : inlets)
+    lines.push_back(inlet.Extent.Boundary());
   claims.insert(claims.end(), inlets.begin(), inlets.end());
   claims.insert(claims.end(), water.begin(), water.end());
   return Partition(old, lines, claims);

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <map>
-#include <string>
-#include <vector>
-
 #include "projection.h"
 #include "shape.h"
 #include "tables.h"
+
+#include <map>
+#include <string>
+#include <vector>
 
 namespace mapmaker {
 
@@ -46,7 +46,8 @@ Coverage Rebuilt(const Coverage& old, const std::vector<Arc>& arcs);
 /// Makes land of the water within `reach` of the same land area on both sides (fjords, creeks).
 Coverage WithInletsClosed(const Coverage& old, double reach);
 
-/// Gives every part smaller than `least` square pixels to the neighbour it borders longest on.
-Coverage WithoutSmallParts(Coverage coverage, double least);
+/// Gives every part of land or water smaller than so many square pixels to the neighbour it borders
+/// longest on.
+Coverage WithoutSmallParts(Coverage coverage, double leastLand, double leastWater);
 
 }  // namespace mapmaker

@@ -1,11 +1,12 @@
 #include "draw.h"
 
+#include "projection.h"
+
 #include <QPainter>
 #include <QPainterPath>
+
 #include <cmath>
 #include <map>
-
-#include "projection.h"
 
 namespace mapmaker {
 namespace {
@@ -15,18 +16,21 @@ constexpr int Oversampling = 3;
 
 QPainterPath ToPath(const Line& line) {
   QPainterPath path(QPointF(line.front().X, line.front().Y));
-  for (std::size_t i = 1; i < line.size(); ++i) path.lineTo(line[i].X, line[i].Y);
+  for (std::size_t i = 1; i < line.size(); ++i)
+    path.lineTo(line[i].X, line[i].Y);
   return path;
 }
 
 QPainterPath ToPath(const Shape& shape) {
   QPainterPath path;
-  for (const Line& ring : shape.Rings()) path.addPath(ToPath(ring));
+  for (const Line& ring : shape.Rings())
+    path.addPath(ToPath(ring));
   return path;
 }
 
 void FillShape(QPainter& painter, const Shape& shape, const QColor& colour) {
-  painter.fillPath(ToPath(shape), colour);
+  for (const Shape& polygon : shape.Polygons())
+    painter.fillPath(ToPath(polygon), colour);
 }
 
 QPen ToQPen(const Pen& pen) {
@@ -34,7 +38,8 @@ QPen ToQPen(const Pen& pen) {
   if (!pen.Dashes.empty()) {
     drawn.setCapStyle(Qt::FlatCap);
     QList<qreal> pattern;
-    for (const double dash : pen.Dashes) pattern.append(dash / pen.Width);
+    for (const double dash : pen.Dashes)
+      pattern.append(dash / pen.Width);
     drawn.setDashPattern(pattern);
   }
   return drawn;
@@ -54,11 +59,12 @@ Shape AllLand(const Coverage& coverage) {
 
 void DrawSea(QPainter& painter, const Coverage& coverage, const Style& style) {
   painter.fillRect(QRectF(0, 0, MapWidth, MapHeight), style.Sea);
-  const Shape land = AllLand(coverage);
+  const Shape land = AllLand(coverage).Simplified(0.15);
   for (const ShoreBelt& belt : style.ShoreBelts) {
-    const QPainterPath path = ToPath(land.Buffer(belt.Distance));
-    painter.fillPath(path, belt.Fill);
-    Stroke(painter, path, belt.Edge);
+    const Shape shore = land.Buffer(belt.Distance);
+    FillShape(painter, shore, belt.Fill);
+    for (const Line& ring : shore.Rings())
+      Stroke(painter, ToPath(ring), belt.Edge);
   }
   for (const Area& area : coverage) {
     if (area.Type == AreaType::InlandWater) FillShape(painter, area.Extent, style.InlandWater);
@@ -66,23 +72,24 @@ void DrawSea(QPainter& painter, const Coverage& coverage, const Style& style) {
 }
 
 /// The country an area is drawn as part of: a power's home, or by itself.
-std::string CountryOf(const Area& area) { return area.Home.empty() ? area.Name : area.Home; }
+std::string CountryOf(const Area& area) {
+  return area.Home.empty() ? area.Name : area.Home;
+}
 
 void DrawTint(QPainter& painter, const Shape& country, const LandTint& tint, double rimWidth) {
   FillShape(painter, country, tint.Rim);
-  FillShape(painter, country.Buffer(-rimWidth), tint.Fill);
+  FillShape(painter, country.Simplified(0.15).Buffer(-rimWidth), tint.Fill);
 }
 
 void DrawOutOfPlay(QPainter& painter, const Shape& shape, const Style& style) {
   DrawTint(painter, shape, style.OutOfPlay, style.RimWidth);
   const Hatch& hatch = style.OutOfPlayHatch;
   if (hatch.Distance <= 0) return;
-  painter.save();
-  painter.setClipPath(ToPath(shape));
-  painter.setPen(ToQPen(hatch.Stroke));
+  std::vector<Shape> strokes;
   for (double x = -MapHeight; x < MapWidth; x += hatch.Distance * std::sqrt(2.0))
-    painter.drawLine(QPointF(x, MapHeight), QPointF(x + MapHeight, 0));
-  painter.restore();
+    strokes.push_back(Shape::LineString({{x, MapHeight}, {x + MapHeight, 0}}));
+  for (const Line& stroke : Shape::Collection(strokes).Intersection(shape).Lines())
+    Stroke(painter, ToPath(stroke), hatch.Stroke);
 }
 
 void DrawLand(QPainter& painter, const Coverage& coverage, const Style& style) {
@@ -123,9 +130,21 @@ void DrawBorders(QPainter& painter, const Coverage& coverage, const Style& style
   }
 }
 
-void DrawStraits(QPainter& painter, const std::vector<Line>& straits, const Style& style) {
-  for (const Line& strait : straits) Stroke(painter, ToPath(strait), style.StraitBank);
-  for (const Line& strait : straits) Stroke(painter, ToPath(strait), style.StraitWater);
+/// The banks stop at the coast; the water runs a little on into the sea.
+void DrawStraits(QPainter& painter, const Coverage& coverage, const std::vector<Line>& straits,
+                 const Style& style) {
+  const Shape land = AllLand(coverage);
+  QPen bank = ToQPen(style.StraitBank);
+  bank.setCapStyle(Qt::FlatCap);
+  std::vector<Line> crossings;
+  for (const Line& strait : straits) {
+    for (Line& crossing : Shape::LineString(strait).Intersection(land).Lines())
+      crossings.push_back(std::move(crossing));
+  }
+  for (const Line& crossing : crossings)
+    painter.strokePath(ToPath(crossing), bank);
+  for (const Line& crossing : crossings)
+    Stroke(painter, ToPath(crossing), style.StraitWater);
 }
 
 void DrawNeatline(QPainter& painter, const Pen& pen) {
@@ -134,7 +153,8 @@ void DrawNeatline(QPainter& painter, const Pen& pen) {
   frame.addRect(QRectF(inset, inset, MapWidth - pen.Width, MapHeight - pen.Width));
   painter.setRenderHint(QPainter::Antialiasing, false);
   if (pen.Width > 0)
-    painter.strokePath(frame, QPen(pen.Colour, pen.Width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    painter.strokePath(frame,
+                       QPen(pen.Colour, pen.Width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
 }
 
 }  // namespace
@@ -144,10 +164,11 @@ QImage DrawMap(const Coverage& coverage, const std::vector<Line>& straits, const
   QPainter painter(&large);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.scale(Oversampling, Oversampling);
+
   DrawSea(painter, coverage, style);
   DrawLand(painter, coverage, style);
   DrawBorders(painter, coverage, style);
-  DrawStraits(painter, straits, style);
+  DrawStraits(painter, coverage, straits, style);
   DrawNeatline(painter, style.Neatline);
   painter.end();
   return large.scaled(MapWidth, MapHeight, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QImage>
-#include <vector>
-
 #include "coverage.h"
 #include "style.h"
+
+#include <QImage>
+
+#include <vector>
 
 namespace mapmaker {
 

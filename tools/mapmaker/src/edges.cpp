@@ -12,7 +12,8 @@ Edge::Edge(Point a, Point b) {
 
 std::size_t EdgeHash::operator()(const Edge& edge) const {
   std::size_t hash = 0;
-  for (const double value : edge.Ends) hash = hash * 1000003 + std::hash<double>()(value);
+  for (const double value : edge.Ends)
+    hash = hash * 1000003 + std::hash<double>()(value);
   return hash;
 }
 

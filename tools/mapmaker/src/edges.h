@@ -1,9 +1,9 @@
 #pragma once
 
+#include "shape.h"
+
 #include <array>
 #include <unordered_map>
-
-#include "shape.h"
 
 namespace mapmaker {
 

@@ -1,9 +1,9 @@
 #include "hit.h"
 
+#include "projection.h"
+
 #include <algorithm>
 #include <cmath>
-
-#include "projection.h"
 
 namespace mapmaker {
 namespace {
@@ -23,7 +23,8 @@ std::vector<std::vector<double>> Crossings(const std::vector<Line>& rings) {
       }
     }
   }
-  for (std::vector<double>& row : crossings) std::sort(row.begin(), row.end());
+  for (std::vector<double>& row : crossings)
+    std::sort(row.begin(), row.end());
   return crossings;
 }
 

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "coverage.h"
+
 #include <QImage>
+
 #include <map>
 #include <utility>
-
-#include "coverage.h"
 
 namespace mapmaker {
 

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QJsonDocument>
+
 #include <stdexcept>
 
 namespace mapmaker {
@@ -19,7 +20,8 @@ QJsonObject ReadJson(const QString& path) {
 
 Line ToLine(const QJsonArray& points) {
   Line line;
-  for (const QJsonValue& point : points) line.push_back({point[0].toDouble(), point[1].toDouble()});
+  for (const QJsonValue& point : points)
+    line.push_back({point[0].toDouble(), point[1].toDouble()});
   return line;
 }
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "shape.h"
+
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
-
-#include "shape.h"
 
 namespace mapmaker {
 

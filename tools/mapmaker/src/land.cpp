@@ -1,7 +1,6 @@
 #include "land.h"
 
 #include <ogrsf_frmts.h>
-
 #include <set>
 #include <sstream>
 #include <stdexcept>
@@ -76,13 +75,13 @@ std::map<std::string, Shape> ReadLand(const Tables& tables, const Projection& pr
           ReadCountry(geometry + "/" + QString::fromStdString(piece.Country) + ".json");
     for (const Shape& shape : Selected(countries.at(piece.Country), piece)) {
       const Shape seen = Cut(shape, piece.Rule, tables.Cuts).Intersection(clip).Densified(Step);
-      const Shape drawn =
-          seen.Transformed([&](Point lonLat) { return projection.ToMap(lonLat); });
+      const Shape drawn = seen.Transformed([&](Point lonLat) { return projection.ToMap(lonLat); });
       parts[piece.Area].push_back(drawn.MadeValid().Intersection(sheet));
     }
   }
   std::map<std::string, Shape> land;
-  for (const auto& [area, shapes] : parts) land[area] = Shape::Collection(shapes).Merged(Grid);
+  for (const auto& [area, shapes] : parts)
+    land[area] = Shape::Collection(shapes).Merged(Grid);
   return land;
 }
 

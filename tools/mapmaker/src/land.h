@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QString>
-#include <map>
-#include <string>
-
 #include "projection.h"
 #include "shape.h"
 #include "tables.h"
+
+#include <QString>
+
+#include <map>
+#include <string>
 
 namespace mapmaker {
 

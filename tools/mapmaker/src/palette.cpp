@@ -55,10 +55,12 @@ std::vector<Colour> ColoursOf(const QImage& picture) {
   std::unordered_map<QRgb, int> counts;
   for (int y = 0; y < picture.height(); ++y) {
     const auto* row = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-    for (int x = 0; x < picture.width(); ++x) ++counts[row[x]];
+    for (int x = 0; x < picture.width(); ++x)
+      ++counts[row[x]];
   }
   std::vector<Colour> colours;
-  for (const auto& [rgb, count] : counts) colours.push_back(ToColour(rgb, count));
+  for (const auto& [rgb, count] : counts)
+    colours.push_back(ToColour(rgb, count));
   std::sort(colours.begin(), colours.end(), [](const Colour& a, const Colour& b) {
     return a.Count != b.Count ? a.Count > b.Count : a.Channels < b.Channels;
   });
@@ -86,12 +88,14 @@ void Refine(std::vector<Colour>& palette, const std::vector<Colour>& colours) {
   std::vector<Colour> sums(palette.size());
   for (const Colour& colour : colours) {
     Colour& sum = sums[Nearest(palette, colour)];
-    for (std::size_t i = 0; i < 3; ++i) sum.Channels[i] += colour.Channels[i] * colour.Count;
+    for (std::size_t i = 0; i < 3; ++i)
+      sum.Channels[i] += colour.Channels[i] * colour.Count;
     sum.Count += colour.Count;
   }
   for (std::size_t p = std::min(ExactColours, palette.size()); p < palette.size(); ++p) {
     if (sums[p].Count <= 0) continue;
-    for (std::size_t i = 0; i < 3; ++i) palette[p].Channels[i] = sums[p].Channels[i] / sums[p].Count;
+    for (std::size_t i = 0; i < 3; ++i)
+      palette[p].Channels[i] = sums[p].Channels[i] / sums[p].Count;
   }
 }
 
@@ -99,11 +103,12 @@ void Refine(std::vector<Colour>& palette, const std::vector<Colour>& colours) {
 
 QImage WithPalette(const QImage& picture) {
   const std::vector<Colour> colours = ColoursOf(picture);
-  std::vector<Colour> palette(colours.begin(),
-                              colours.begin() + static_cast<std::ptrdiff_t>(
-                                                    std::min(ExactColours, colours.size())));
+  std::vector<Colour> palette(
+      colours.begin(),
+      colours.begin() + static_cast<std::ptrdiff_t>(std::min(ExactColours, colours.size())));
   AddSpreadColours(palette, colours);
-  for (int i = 0; i < Rounds; ++i) Refine(palette, colours);
+  for (int i = 0; i < Rounds; ++i)
+    Refine(palette, colours);
   QImage indexed(picture.size(), QImage::Format_Indexed8);
   for (std::size_t i = 0; i < palette.size(); ++i)
     indexed.setColor(static_cast<int>(i), ToRgb(palette[i]));
@@ -112,7 +117,8 @@ QImage WithPalette(const QImage& picture) {
     known[ToRgb(colour)] = static_cast<uchar>(Nearest(palette, colour));
   for (int y = 0; y < picture.height(); ++y) {
     const auto* row = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-    for (int x = 0; x < picture.width(); ++x) indexed.scanLine(y)[x] = known.at(row[x] | 0xff000000);
+    for (int x = 0; x < picture.width(); ++x)
+      indexed.scanLine(y)[x] = known.at(row[x] | 0xff000000);
   }
   return indexed;
 }

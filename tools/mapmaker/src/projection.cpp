@@ -1,8 +1,7 @@
 #include "projection.h"
 
-#include <proj.h>
-
 #include <cmath>
+#include <proj.h>
 #include <stdexcept>
 #include <utility>
 
@@ -16,9 +15,8 @@ Projection::Projection(Frame frame)
 }
 
 Point Projection::ToMap(Point lonLat) const {
-  const PJ_COORD plane =
-      proj_trans(m_transformation.get(), PJ_FWD,
-                 proj_coord(proj_torad(lonLat.X), proj_torad(lonLat.Y), 0, 0));
+  const PJ_COORD plane = proj_trans(m_transformation.get(), PJ_FWD,
+                                    proj_coord(proj_torad(lonLat.X), proj_torad(lonLat.Y), 0, 0));
   return Magnified({(plane.xy.x - m_frame.Left) / (m_frame.Right - m_frame.Left) * MapWidth,
                     (m_frame.Top - plane.xy.y) / (m_frame.Top - m_frame.Bottom) * MapHeight});
 }

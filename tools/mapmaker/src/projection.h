@@ -1,9 +1,9 @@
 #pragma once
 
-#include <memory>
-
 #include "shape.h"
 #include "tables.h"
+
+#include <memory>
 
 struct PJconsts;
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QString>
-
 #include "tables.h"
+
+#include <QString>
 
 namespace mapmaker {
 

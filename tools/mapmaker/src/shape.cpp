@@ -1,10 +1,9 @@
 #include "shape.h"
 
-#include <geos_c.h>
-
 #include <array>
 #include <cstdarg>
 #include <cstdio>
+#include <geos_c.h>
 #include <stdexcept>
 #include <string>
 
@@ -43,7 +42,8 @@ GEOSGeometry* Checked(GEOSGeometry* geometry) {
 
 GEOSCoordSequence* Sequence(const Line& line) {
   GEOSCoordSequence* sequence = GEOSCoordSeq_create(static_cast<unsigned>(line.size()), 2);
-  for (unsigned i = 0; i < line.size(); ++i) GEOSCoordSeq_setXY(sequence, i, line[i].X, line[i].Y);
+  for (unsigned i = 0; i < line.size(); ++i)
+    GEOSCoordSeq_setXY(sequence, i, line[i].X, line[i].Y);
   return sequence;
 }
 
@@ -52,7 +52,8 @@ Line Points(const GEOSGeometry* lineString) {
   unsigned size = 0;
   GEOSCoordSeq_getSize(sequence, &size);
   Line line(size);
-  for (unsigned i = 0; i < size; ++i) GEOSCoordSeq_getXY(sequence, i, &line[i].X, &line[i].Y);
+  for (unsigned i = 0; i < size; ++i)
+    GEOSCoordSeq_getXY(sequence, i, &line[i].X, &line[i].Y);
   return line;
 }
 
@@ -151,19 +152,25 @@ Shape Shape::Merged(double grid) const {
 }
 
 Shape Shape::Buffer(double distance) const {
-  constexpr int stepsAQuarter = 12;
+  constexpr int stepsAQuarter = 5;
   return Shape(GEOSBuffer(m_geometry.get(), distance, stepsAQuarter));
 }
 
-Shape Shape::Boundary() const { return Shape(GEOSBoundary(m_geometry.get())); }
+Shape Shape::Boundary() const {
+  return Shape(GEOSBoundary(m_geometry.get()));
+}
 
-Shape Shape::Densified(double step) const { return Shape(GEOSDensify(m_geometry.get(), step)); }
+Shape Shape::Densified(double step) const {
+  return Shape(GEOSDensify(m_geometry.get(), step));
+}
 
 Shape Shape::Simplified(double tolerance) const {
   return Shape(GEOSTopologyPreserveSimplify(m_geometry.get(), tolerance));
 }
 
-Shape Shape::MadeValid() const { return Shape(GEOSMakeValid(m_geometry.get())); }
+Shape Shape::MadeValid() const {
+  return Shape(GEOSMakeValid(m_geometry.get()));
+}
 
 std::vector<Shape> Shape::Faces() const {
   const GEOSGeometry* lines = m_geometry.get();
@@ -190,10 +197,8 @@ Shape Shape::Transformed(const std::function<Point(Point)>& map) const {
       &context));
 }
 
-bool Shape::IsEmpty() const { return GEOSisEmpty(m_geometry.get()) == 1; }
-
-bool Shape::Intersects(const Shape& other) const {
-  return GEOSIntersects(m_geometry.get(), other.m_geometry.get()) == 1;
+bool Shape::IsEmpty() const {
+  return GEOSisEmpty(m_geometry.get()) == 1;
 }
 
 bool Shape::Contains(Point point) const {
@@ -207,10 +212,10 @@ double Shape::Area() const {
   return area;
 }
 
-double Shape::Length() const {
-  double length = 0;
-  GEOSLength(m_geometry.get(), &length);
-  return length;
+Box Shape::Bounds() const {
+  Box box;
+  GEOSGeom_getExtent(m_geometry.get(), &box.Left, &box.Top, &box.Right, &box.Bottom);
+  return box;
 }
 
 Point Shape::PointInside() const {

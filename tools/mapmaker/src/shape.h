@@ -14,9 +14,14 @@ struct Point {
   double Y = 0;
 };
 
+struct Box {
+  double Left = 0, Top = 0, Right = 0, Bottom = 0;
+};
+
 using Line = std::vector<Point>;
 
-/// An immutable planar geometry; copies share it. An operation that fails throws std::runtime_error.
+/// An immutable planar geometry; copies share it. An operation that fails throws
+/// std::runtime_error.
 class Shape {
  public:
   /// The empty geometry.
@@ -32,7 +37,8 @@ class Shape {
   [[nodiscard]] Shape Intersection(const Shape& other) const;
   [[nodiscard]] Shape Difference(const Shape& other) const;
   [[nodiscard]] Shape Union(const Shape& other) const;
-  /// All parts merged (areas dissolved, lines noded), the coordinates rounded to `grid`; 0 keeps them.
+  /// All parts merged (areas dissolved, lines noded), the coordinates rounded to `grid`; 0 keeps
+  /// them.
   [[nodiscard]] Shape Merged(double grid = 0) const;
   [[nodiscard]] Shape Buffer(double distance) const;
   [[nodiscard]] Shape Boundary() const;
@@ -47,10 +53,9 @@ class Shape {
   [[nodiscard]] Shape Transformed(const std::function<Point(Point)>& map) const;
 
   [[nodiscard]] bool IsEmpty() const;
-  [[nodiscard]] bool Intersects(const Shape& other) const;
   [[nodiscard]] bool Contains(Point point) const;
   [[nodiscard]] double Area() const;
-  [[nodiscard]] double Length() const;
+  [[nodiscard]] Box Bounds() const;
   [[nodiscard]] Point PointInside() const;
   /// The polygons of this shape, each by itself.
   [[nodiscard]] std::vector<Shape> Polygons() const;

@@ -7,7 +7,6 @@ namespace mapmaker {
 namespace {
 
 constexpr double SampleStep = 0.4;
-constexpr double Tolerance = 0.04;
 
 bool IsClosed(const Line& line) {
   return line.front().X == line.back().X && line.front().Y == line.back().Y;
@@ -76,7 +75,7 @@ double Reach(const Arc& arc, const Coverage& coverage, const Smoothing& smoothin
 
 }  // namespace
 
-Line Smoothed(const Line& line, double reach) {
+Line Smoothed(const Line& line, double reach, double tolerance) {
   const bool closed = IsClosed(line);
   const Line samples = Resampled(line);
   const Line calm = Blurred(samples, reach, closed);
@@ -93,14 +92,14 @@ Line Smoothed(const Line& line, double reach) {
     smooth.front() = line.front();
     smooth.back() = line.back();
   }
-  return Shape::LineString(smooth).Simplified(Tolerance).Lines().front();
+  return Shape::LineString(smooth).Simplified(tolerance).Lines().front();
 }
 
 Coverage WithSmoothBorders(const Coverage& coverage, const Smoothing& smoothing) {
   std::vector<Arc> arcs = ArcsOf(coverage);
   for (Arc& arc : arcs) {
     const double reach = Reach(arc, coverage, smoothing);
-    if (reach > 0) arc.Course = Smoothed(arc.Course, reach);
+    if (reach > 0) arc.Course = Smoothed(arc.Course, reach, smoothing.Tolerance);
   }
   return Rebuilt(coverage, arcs);
 }

@@ -1,8 +1,8 @@
 #include "style.h"
 
-#include <stdexcept>
-
 #include "json.h"
+
+#include <stdexcept>
 
 namespace mapmaker {
 namespace {
@@ -18,7 +18,8 @@ QColor ToColour(const QJsonValue& value) {
 Pen ToPen(const QJsonValue& value) {
   if (!value.isObject()) return {};
   Pen pen{ToColour(value["colour"]), value["width"].toDouble(), {}};
-  for (const QJsonValue& dash : value["dashes"].toArray()) pen.Dashes.push_back(dash.toDouble());
+  for (const QJsonValue& dash : value["dashes"].toArray())
+    pen.Dashes.push_back(dash.toDouble());
   return pen;
 }
 

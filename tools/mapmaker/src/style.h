@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QJsonObject>
+
 #include <map>
 #include <string>
 #include <vector>

@@ -1,10 +1,11 @@
 #include "tables.h"
 
+#include "json.h"
+
 #include <QFile>
 #include <QStringList>
-#include <stdexcept>
 
-#include "json.h"
+#include <stdexcept>
 
 namespace mapmaker {
 namespace {

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "shape.h"
+
 #include <QString>
+
 #include <map>
 #include <string>
 #include <vector>
-
-#include "shape.h"
 
 namespace mapmaker {
 
@@ -51,8 +52,8 @@ struct Magnifier {
 /// The projection and the part of its plane that is shown.
 struct Frame {
   std::string Projection;
-  double Left = 0, Bottom = 0, Right = 0, Top = 0;                              ///< in metres
-  double ClipWest = 0, ClipEast = 0, ClipSouth = 0, ClipNorth = 0;              ///< in degrees
+  double Left = 0, Bottom = 0, Right = 0, Top = 0;                  ///< in metres
+  double ClipWest = 0, ClipEast = 0, ClipSouth = 0, ClipNorth = 0;  ///< in degrees
   std::vector<Magnifier> Magnifiers;
 };
 
