@@ -60,11 +60,25 @@ mode_t FileMode(const fs::path& target) {
   return 0666 & ~mask;
 }
 
-fs::path FollowLink(const fs::path& path) {
+/// Where a link leads, step by step: the file at its end need not exist.
+fs::path FollowLinks(fs::path path) {
+  constexpr int longestChain = 40;
   std::error_code error;
-  if (!fs::is_symlink(path, error)) return path;
-  const fs::path target = fs::weakly_canonical(path, error);
-  return error ? path : target;
+  for (int i = 0; i < longestChain && fs::is_symlink(path, error); ++i) {
+    path = path.parent_path() / fs::read_symlink(path, error);
+  }
+  return path;
+}
+
+/// A file that is there must be an ordinary one that may be written: renaming over it would not
+/// ask.
+void CheckReplaceable(const fs::path& target) {
+  std::error_code ignored;
+  if (!fs::exists(target, ignored)) return;
+  if (!fs::is_regular_file(target, ignored)) {
+    throw FileError("Cannot write " + target.string() + ": it is no ordinary file.");
+  }
+  if (::access(target.c_str(), W_OK) != 0) Fail("write", target, errno);
 }
 
 }  // namespace
@@ -89,12 +103,9 @@ std::string ReadFile(const fs::path& path) {
 }
 
 void ReplaceFile(const fs::path& path, std::string_view bytes) {
-  const fs::path target = FollowLink(path);
-  std::error_code ignored;
-  if (fs::exists(target, ignored) && !fs::is_regular_file(target, ignored)) {
-    throw FileError("Cannot write " + path.string() + ": it is no ordinary file.");
-  }
-  std::string beside = target.string() + ".XXXXXX";
+  const fs::path target = FollowLinks(path);
+  CheckReplaceable(target);
+  std::string beside = (target.parent_path() / ".orb-XXXXXX").string();
   Descriptor file(::mkostemp(beside.data(), O_CLOEXEC));
   if (file.Number() < 0) Fail("write", path, errno);
   const bool written =

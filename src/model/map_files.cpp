@@ -39,6 +39,15 @@ void LoadAdjacencyLine(std::string_view line, const Map& map, Adjacency& adjacen
   }
 }
 
+/// The file of name fixes may be missing, or be none that can be read: then there are no fixes.
+std::string ReadNameFixes(const fs::path& file) {
+  try {
+    return ReadFile(file);
+  } catch (const FileError&) {
+    return {};
+  }
+}
+
 }  // namespace
 
 void LoadNameFixes(std::string_view bytes, const std::string& fileName, Map& map) {
@@ -89,8 +98,7 @@ void LoadAdjacency(std::string_view bytes, const std::string& fileName, const Ma
 std::shared_ptr<const Map> LoadMap(const fs::path& directory) {
   auto map = std::make_shared<Map>();
   const fs::path fixes = directory / "fixnames.dat";
-  std::error_code ignored;
-  if (fs::exists(fixes, ignored)) LoadNameFixes(ReadFile(fixes), fixes.string(), *map);
+  LoadNameFixes(ReadNameFixes(fixes), fixes.string(), *map);
   const fs::path provinces = directory / "prov.dat";
   LoadProvinces(ReadFile(provinces), provinces.string(), *map);
   const fs::path armies = directory / "conna.dat";

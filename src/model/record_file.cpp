@@ -106,7 +106,8 @@ std::int16_t RecordReader::CountUpTo(int bound, std::string_view expected) {
 float RecordReader::Fraction(std::string_view expected) {
   const std::string_view field = Text(expected);
   float number = 0;
-  if (!Parse(field, number)) Fail(std::string(expected) + " (a number)", Shown(field));
+  const bool decimal = field.find_first_not_of("+-.0123456789eE") == std::string_view::npos;
+  if (!decimal || !Parse(field, number)) Fail(std::string(expected) + " (a number)", Shown(field));
   return number;
 }
 

@@ -47,6 +47,15 @@ int Refused(const fs::path& file) {
   return 1;
 }
 
+/// As Refused, for a user without the rights of root.
+int RefusedToNobody(const fs::path& file) {
+  return InChild([&] {
+    constexpr uid_t nobody = 65534;
+    if (::geteuid() == 0 && ::setuid(nobody) != 0) return 3;
+    return Refused(file);
+  });
+}
+
 TEST(ReplaceFile, WritesTheBytesAndLeavesNothingBeside) {
   const TemporaryDirectory directory;
   const fs::path file = directory.Path() / "a.orb";
@@ -78,6 +87,18 @@ TEST(ReplaceFile, FollowsALink) {
   ReplaceFile(directory.Path() / "link.orb", "new");
   EXPECT_TRUE(fs::is_symlink(directory.Path() / "link.orb"));
   EXPECT_EQ(ReadFile(directory.Path() / "far/real.orb"), "new");
+  fs::create_symlink("far/later.orb", directory.Path() / "dangling.orb");
+  ReplaceFile(directory.Path() / "dangling.orb", "new");
+  EXPECT_TRUE(fs::is_symlink(directory.Path() / "dangling.orb"));
+  EXPECT_EQ(ReadFile(directory.Path() / "far/later.orb"), "new");
+}
+
+TEST(ReplaceFile, TakesTheLongestNameThereIs) {
+  const TemporaryDirectory directory;
+  const fs::path file = directory.Path() / (std::string(251, 'a') + ".orb");
+  ReplaceFile(file, "new");
+  EXPECT_EQ(ReadFile(file), "new");
+  EXPECT_EQ(directory.EntryCount(), 1);
 }
 
 TEST(ReplaceFile, RefusesWhatIsNoFile) {
@@ -93,15 +114,20 @@ TEST(ReplaceFile, RefusesWhatIsNoFile) {
   EXPECT_EQ(directory.EntryCount(), 2);
 }
 
+TEST(ReplaceFile, LeavesAWriteProtectedFile) {
+  const TemporaryDirectory directory;
+  const fs::path file = directory.Write("a.orb", "old");
+  fs::permissions(file, fs::perms(0444));
+  fs::permissions(directory.Path(), fs::perms(0777));
+  EXPECT_EQ(RefusedToNobody(file), 0);
+  EXPECT_EQ(ReadFile(file), "old");
+}
+
 TEST(ReplaceFile, LeavesTheOldFileWhenTheDirectoryCannotBeWritten) {
   const TemporaryDirectory directory;
   const fs::path file = directory.Write("a.orb", "old");
   fs::permissions(directory.Path(), fs::perms(0555));
-  const int status = InChild([&] {
-    constexpr uid_t nobody = 65534;
-    if (::geteuid() == 0 && ::setuid(nobody) != 0) return 3;
-    return Refused(file);
-  });
+  const int status = RefusedToNobody(file);
   fs::permissions(directory.Path(), fs::perms(0755));
   EXPECT_EQ(status, 0);
   EXPECT_EQ(ReadFile(file), "old");

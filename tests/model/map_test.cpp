@@ -180,6 +180,7 @@ TEST(MapFiles, ABrokenOneIsRefusedWithItsNameAndReason) {
       {"cut off", "prov.dat", "Lon,ENG,1,0,0,0,0", false, "full name"},
       {"no number", "prov.dat", "Lon,ENG,yes,0,0,0,0,x\r\n", false, "yes"},
       {"comma as decimal point", "prov.dat", "Lon,ENG,1,0,2,0,0,0,x\r\nWal,ENG", false, "line 2"},
+      {"not a number", "prov.dat", "Lon,ENG,1,nan,0,0,0,x\r\n", false, "nan"},
       {"a record of seven fields", "prov.dat", Repeat(2, "Lon,ENG,1,0,0,0,0\r\n"), false,
        "unit's y"},
       {"open quote", "prov.dat", "\"Lon,ENG,1,0,0,0,0,x\r\n", false, "closing quote"},
@@ -197,6 +198,8 @@ TEST(MapFiles, ABrokenOneIsRefusedWithItsNameAndReason) {
     for (const char* name : {"prov.dat", "conna.dat", "connf.dat"})
       std::filesystem::copy(DataDirectory() / name, directory.Path() / name);
     ASSERT_NO_THROW(model::LoadMap(directory.Path())) << "fixnames.dat may be missing";
+    std::filesystem::create_directory(directory.Path() / "fixnames.dat");
+    ASSERT_NO_THROW(model::LoadMap(directory.Path())) << "fixnames.dat may be unreadable";
     directory.Write(c.File, c.Bytes);
     try {
       model::LoadMap(directory.Path());
