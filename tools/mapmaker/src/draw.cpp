@@ -86,8 +86,12 @@ void DrawOutOfPlay(QPainter& painter, const Shape& shape, const Style& style) {
   const Hatch& hatch = style.OutOfPlayHatch;
   if (hatch.Distance <= 0) return;
   std::vector<Shape> strokes;
-  for (double x = -MapHeight; x < MapWidth; x += hatch.Distance * std::sqrt(2.0))
+  const double step = hatch.Distance * std::sqrt(2.0);
+  const int count = static_cast<int>((MapWidth + MapHeight) / step);
+  for (int i = 0; i <= count; ++i) {
+    const double x = -MapHeight + i * step;
     strokes.push_back(Shape::LineString({{x, MapHeight}, {x + MapHeight, 0}}));
+  }
   for (const Line& stroke : Shape::Collection(strokes).Intersection(shape).Lines())
     Stroke(painter, ToPath(stroke), hatch.Stroke);
 }
@@ -104,9 +108,10 @@ void DrawLand(QPainter& painter, const Coverage& coverage, const Style& style) {
       outOfPlay.push_back(area.Extent);
     }
   }
-  for (const auto& [country, shapes] : countries)
+  for (const auto& [country, shapes] : countries) {
     DrawTint(painter, Shape::Collection(shapes).Merged(), style.Homes.at(homes[country]),
              style.RimWidth);
+  }
   DrawOutOfPlay(painter, Shape::Collection(outOfPlay).Merged(), style);
 }
 
@@ -152,9 +157,10 @@ void DrawNeatline(QPainter& painter, const Pen& pen) {
   QPainterPath frame;
   frame.addRect(QRectF(inset, inset, MapWidth - pen.Width, MapHeight - pen.Width));
   painter.setRenderHint(QPainter::Antialiasing, false);
-  if (pen.Width > 0)
+  if (pen.Width > 0) {
     painter.strokePath(frame,
                        QPen(pen.Colour, pen.Width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+  }
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 
 #include <QFontMetricsF>
 
+#include <cmath>
+
 namespace mapmaker {
 namespace {
 
@@ -43,9 +45,10 @@ Shape LabelBox(const Location& location, const Placement& placement) {
 Shape UnitExtent(const Location& location, Point middle, double scale, bool onTheSea) {
   Shape extent;
   if (location.Type == Kind::Land) extent = Disc(middle, ArmyRadius * scale);
-  if (location.Type != Kind::Land || onTheSea)
+  if (location.Type != Kind::Land || onTheSea) {
     extent = extent.Union(
         Box(middle, FleetHalfWidth * FigureScale * scale, FleetHalfHeight * FigureScale * scale));
+  }
   return extent;
 }
 
@@ -64,7 +67,7 @@ std::vector<Figure> Corners() {
 QFont LabelFont() {
   constexpr double pixels = 8.0 * 96 / 72;
   QFont font("Open Sans");
-  font.setPixelSize(static_cast<int>(pixels * FigureScale + 0.5));
+  font.setPixelSize(static_cast<int>(std::lround(pixels * FigureScale)));
   return font;
 }
 

@@ -20,7 +20,7 @@ QJsonObject ReadJson(const QString& path) {
 
 Line ToLine(const QJsonArray& points) {
   Line line;
-  for (const QJsonValue& point : points)
+  for (const QJsonValue point : points)
     line.push_back({point[0].toDouble(), point[1].toDouble()});
   return line;
 }

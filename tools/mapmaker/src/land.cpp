@@ -70,9 +70,10 @@ std::map<std::string, Shape> ReadLand(const Tables& tables, const Projection& pr
   std::map<std::string, Subdivisions> countries;
   std::map<std::string, std::vector<Shape>> parts;
   for (const Piece& piece : tables.Pieces) {
-    if (!countries.contains(piece.Country))
+    if (!countries.contains(piece.Country)) {
       countries[piece.Country] =
           ReadCountry(geometry + "/" + QString::fromStdString(piece.Country) + ".json");
+    }
     for (const Shape& shape : Selected(countries.at(piece.Country), piece)) {
       const Shape seen = Cut(shape, piece.Rule, tables.Cuts).Intersection(clip).Densified(Step);
       const Shape drawn = seen.Transformed([&](Point lonLat) { return projection.ToMap(lonLat); });

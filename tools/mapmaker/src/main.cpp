@@ -68,12 +68,13 @@ std::vector<Line> StraitsOf(const Tables& tables, const Projection& projection) 
 void MakePictures(const QString& stylesPath, const Tables& tables, const Coverage& coverage,
                   const std::vector<Line>& straits, const QString& output, const QString& report) {
   for (const Style& style : ReadStyles(stylesPath)) {
-    const QImage picture = WithPalette(DrawMap(coverage, straits, style));
+    const QImage picture = WithPalette(DrawMap(coverage, straits, style), style.Colours);
     const QString file = QString::fromStdString(style.File);
     Save(picture, output + "/" + file);
-    for (const bool withDislodged : {false, true})
+    for (const bool withDislodged : {false, true}) {
       DrawPreview(picture, tables, withDislodged)
           .save(report + "/" + file + (withDislodged ? ".dislodged.png" : ".units.png"));
+    }
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <limits>
 #include <unordered_map>
 #include <vector>
@@ -9,9 +10,9 @@
 namespace mapmaker {
 namespace {
 
-constexpr std::size_t PaletteSize = 256;
-/// The colours that fill areas are kept exactly; the rest are mixtures along the edges.
-constexpr std::size_t ExactColours = 64;
+/// The most frequent colours fill areas; this part of the palette keeps them exactly. The rest is
+/// for the mixtures along the edges.
+constexpr std::size_t ExactShare = 4;
 constexpr int Rounds = 8;
 
 struct Colour {
@@ -26,7 +27,9 @@ Colour ToColour(QRgb rgb, double count) {
 }
 
 QRgb ToRgb(const Colour& colour) {
-  const auto channel = [&](std::size_t i) { return static_cast<int>(colour.Channels[i] + 0.5); };
+  const auto channel = [&](std::size_t i) {
+    return static_cast<int>(std::lround(colour.Channels[i]));
+  };
   return qRgb(channel(0), channel(1), channel(2));
 }
 
@@ -59,6 +62,7 @@ std::vector<Colour> ColoursOf(const QImage& picture) {
       ++counts[row[x]];
   }
   std::vector<Colour> colours;
+  colours.reserve(counts.size());
   for (const auto& [rgb, count] : counts)
     colours.push_back(ToColour(rgb, count));
   std::sort(colours.begin(), colours.end(), [](const Colour& a, const Colour& b) {
@@ -68,11 +72,13 @@ std::vector<Colour> ColoursOf(const QImage& picture) {
 }
 
 /// Adds to the palette, until it is full, the colour that is worst served by it.
-void AddSpreadColours(std::vector<Colour>& palette, const std::vector<Colour>& colours) {
+void AddSpreadColours(std::vector<Colour>& palette, const std::vector<Colour>& colours,
+                      std::size_t size) {
   std::vector<double> distances;
+  distances.reserve(colours.size());
   for (const Colour& colour : colours)
     distances.push_back(Distance(palette[Nearest(palette, colour)], colour));
-  while (palette.size() < std::min(PaletteSize, colours.size())) {
+  while (palette.size() < std::min(size, colours.size())) {
     std::size_t worst = 0;
     for (std::size_t i = 1; i < colours.size(); ++i) {
       if (distances[i] * colours[i].Count > distances[worst] * colours[worst].Count) worst = i;
@@ -83,8 +89,8 @@ void AddSpreadColours(std::vector<Colour>& palette, const std::vector<Colour>& c
   }
 }
 
-/// Moves each inexact palette colour to the middle of the colours it stands for.
-void Refine(std::vector<Colour>& palette, const std::vector<Colour>& colours) {
+/// Moves each palette colour but the first `exact` ones to the middle of the colours it stands for.
+void Refine(std::vector<Colour>& palette, const std::vector<Colour>& colours, std::size_t exact) {
   std::vector<Colour> sums(palette.size());
   for (const Colour& colour : colours) {
     Colour& sum = sums[Nearest(palette, colour)];
@@ -92,7 +98,7 @@ void Refine(std::vector<Colour>& palette, const std::vector<Colour>& colours) {
       sum.Channels[i] += colour.Channels[i] * colour.Count;
     sum.Count += colour.Count;
   }
-  for (std::size_t p = std::min(ExactColours, palette.size()); p < palette.size(); ++p) {
+  for (std::size_t p = exact; p < palette.size(); ++p) {
     if (sums[p].Count <= 0) continue;
     for (std::size_t i = 0; i < 3; ++i)
       palette[p].Channels[i] = sums[p].Channels[i] / sums[p].Count;
@@ -101,14 +107,14 @@ void Refine(std::vector<Colour>& palette, const std::vector<Colour>& colours) {
 
 }  // namespace
 
-QImage WithPalette(const QImage& picture) {
+QImage WithPalette(const QImage& picture, std::size_t size) {
   const std::vector<Colour> colours = ColoursOf(picture);
-  std::vector<Colour> palette(
-      colours.begin(),
-      colours.begin() + static_cast<std::ptrdiff_t>(std::min(ExactColours, colours.size())));
-  AddSpreadColours(palette, colours);
+  const std::size_t exact = std::min(size / ExactShare, colours.size());
+  std::vector<Colour> palette(colours.begin(),
+                              colours.begin() + static_cast<std::ptrdiff_t>(exact));
+  AddSpreadColours(palette, colours, size);
   for (int i = 0; i < Rounds; ++i)
-    Refine(palette, colours);
+    Refine(palette, colours, exact);
   QImage indexed(picture.size(), QImage::Format_Indexed8);
   for (std::size_t i = 0; i < palette.size(); ++i)
     indexed.setColor(static_cast<int>(i), ToRgb(palette[i]));

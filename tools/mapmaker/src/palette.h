@@ -4,7 +4,7 @@
 
 namespace mapmaker {
 
-/// `picture` in the 256 colours that suit it best, without dithering.
-QImage WithPalette(const QImage& picture);
+/// `picture` in the `size` colours (up to 256) that suit it best, without dithering.
+QImage WithPalette(const QImage& picture, std::size_t size);
 
 }  // namespace mapmaker

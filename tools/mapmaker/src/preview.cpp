@@ -19,9 +19,9 @@ constexpr std::array<const char*, 7> Powers{"ENG", "FRA", "GER", "RUS", "TUR", "
 /// The home power's colour; elsewhere all colours in turn.
 QColor UnitColour(const Location& location, std::size_t row) {
   for (std::size_t i = 0; i < Powers.size(); ++i) {
-    if (location.Home == Powers[i]) return QColor(UnitColours[i]);
+    if (location.Home == Powers[i]) return UnitColours[i];
   }
-  return QColor(UnitColours[row % UnitColours.size()]);
+  return UnitColours[row % UnitColours.size()];
 }
 
 QPointF OnMap(Point fraction) {

@@ -21,6 +21,7 @@ void KeepError(const char* format, ...) {
   std::array<char, 500> text{};
   va_list values;
   va_start(values, format);
+  // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): va_start has just set it
   std::vsnprintf(text.data(), text.size(), format, values);
   va_end(values);
   LastMessage() = text.data();

@@ -18,7 +18,7 @@ QColor ToColour(const QJsonValue& value) {
 Pen ToPen(const QJsonValue& value) {
   if (!value.isObject()) return {};
   Pen pen{ToColour(value["colour"]), value["width"].toDouble(), {}};
-  for (const QJsonValue& dash : value["dashes"].toArray())
+  for (const QJsonValue dash : value["dashes"].toArray())
     pen.Dashes.push_back(dash.toDouble());
   return pen;
 }
@@ -30,10 +30,12 @@ LandTint ToTint(const QJsonValue& value) {
 Style ToStyle(const QJsonValue& json) {
   Style style;
   style.File = json["file"].toString().toStdString();
+  style.Colours = static_cast<std::size_t>(json["colours"].toInt());
   style.Sea = ToColour(json["sea"]);
-  for (const QJsonValue& belt : json["shore_belts"].toArray())
+  for (const QJsonValue belt : json["shore_belts"].toArray()) {
     style.ShoreBelts.push_back(
         {belt["distance"].toDouble(), ToColour(belt["fill"]), ToPen(belt["edge"])});
+  }
   style.SeaBorder = ToPen(json["sea_border"]);
   style.InlandWater = ToColour(json["inland_water"]);
   const QJsonObject homes = json["homes"].toObject();
@@ -56,7 +58,7 @@ Style ToStyle(const QJsonValue& json) {
 
 std::vector<Style> ReadStyles(const QString& path) {
   std::vector<Style> styles;
-  for (const QJsonValue& entry : ReadJson(path)["styles"].toArray())
+  for (const QJsonValue entry : ReadJson(path)["styles"].toArray())
     styles.push_back(ToStyle(entry));
   return styles;
 }

@@ -38,6 +38,7 @@ struct LandTint {
 /// The look of one picture; an entry of styles.json.
 struct Style {
   std::string File;
+  std::size_t Colours = 0;  ///< size of the palette, up to 256
   QColor Sea;
   std::vector<ShoreBelt> ShoreBelts;  ///< the widest first
   Pen SeaBorder;

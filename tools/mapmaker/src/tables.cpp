@@ -15,12 +15,13 @@ std::vector<std::string> Fields(const QString& line) {
   std::vector<std::string> fields(1);
   bool quoted = false;
   for (const char c : line.toUtf8()) {
-    if (c == '"')
+    if (c == '"') {
       quoted = !quoted;
-    else if (c == ',' && !quoted)
+    } else if (c == ',' && !quoted) {
       fields.emplace_back();
-    else
+    } else {
       fields.back() += c;
+    }
   }
   return fields;
 }
@@ -63,9 +64,10 @@ void ReadLocations(const QString& directory, Tables& tables) {
 
 std::vector<NamedRing> ToRings(const QJsonValue& list) {
   std::vector<NamedRing> rings;
-  for (const QJsonValue& entry : list.toArray())
+  for (const QJsonValue entry : list.toArray()) {
     rings.push_back({entry["name"].toString().toStdString(), entry["area"].toString().toStdString(),
                      ToLine(entry["ring"].toArray())});
+  }
   return rings;
 }
 
@@ -90,10 +92,11 @@ Frame ReadFrame(const QString& path) {
   frame.ClipEast = clip["lon_max"].toDouble();
   frame.ClipSouth = clip["lat_min"].toDouble();
   frame.ClipNorth = clip["lat_max"].toDouble();
-  for (const QJsonValue& entry : json["magnifiers"].toArray())
+  for (const QJsonValue entry : json["magnifiers"].toArray()) {
     frame.Magnifiers.push_back({{entry["fx"].toDouble(), entry["fy"].toDouble()},
                                 entry["radius"].toDouble(),
                                 entry["strength"].toDouble()});
+  }
   return frame;
 }
 
