@@ -38,7 +38,7 @@ struct LandTint {
 /// The look of one picture; an entry of styles.json.
 struct Style {
   std::string File;
-  std::size_t Colours = 0;  ///< size of the palette, up to 256
+  std::size_t Colours = 0;  ///< size of the palette, 17 to 256: fewer would not be 8 bits deep
   QColor Sea;
   std::vector<ShoreBelt> ShoreBelts;  ///< the widest first
   Pen SeaBorder;
