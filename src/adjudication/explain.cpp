@@ -1,35 +1,37 @@
 #include "adjudication/explain.h"
 
-#include "adjudication/adjustments.h"
+#include "adjudication/explain_parts.h"
+#include "orders/parser.h"
 
 namespace orb::adjudication {
 namespace {
 
-/// What each power had when the adjustments began.
-std::string ExplainCounts(const model::GameState& after, const Resolution& resolution) {
-  std::string sentence;
-  for (const model::Country& country : after.Countries) {
-    int units = 0;
-    for (const model::Unit& unit : resolution.UnitsBefore) {
-      if (unit.Power == country.Abbreviation) ++units;
-    }
-    const int centres = CountPower(after, country.Abbreviation).Centres;
-    if (units == 0 && centres == 0) continue;
-    sentence += sentence.empty() ? "Before the adjustments " : ", ";
-    sentence += country.Abbreviation + " had " + std::to_string(units) + " units and " +
-                std::to_string(centres) + " centres";
+using orders::OrderLine;
+using orders::SyntaxFault;
+
+SyntaxFault LaterStageFault(const model::Map& map, const OrderLine& order, ResolvedStage stage) {
+  if (model::FindCountry(order.Power) == 0) return SyntaxFault::Power;
+  const bool adjusts = stage == ResolvedStage::Adjustments;
+  const bool verbKnown = order.Kind == "DISBAND" || order.Kind == (adjusts ? "BUILD" : "RETREAT");
+  if (adjusts && !verbKnown) return SyntaxFault::AdjustmentVerb;
+  if (order.UnitType != "A" && order.UnitType != "F") return SyntaxFault::UnitType;
+  if (model::FindProvince(map, order.Location) == 0) return SyntaxFault::Location;
+  if (!verbKnown) return SyntaxFault::RetreatVerb;
+  if (order.Kind == "RETREAT" && model::FindProvince(map, order.Target) == 0) {
+    return SyntaxFault::Destination;
   }
-  return sentence.empty() ? "No power had units or centres." : sentence + ".";
+  return SyntaxFault::None;
 }
 
 }  // namespace
 
-std::string UnitName(const orders::OrderLine& order) {
+std::string UnitName(const OrderLine& order) {
   return order.Power + " " + order.UnitType + "(" + order.Location + ")";
 }
 
-std::string_view TypeName(const orders::OrderLine& order) {
-  return order.UnitType == "A" ? "army" : "fleet";
+std::string ExplainSyntax(const model::Map& map, const OrderLine& order, ResolvedStage stage) {
+  return FaultText(order, stage == ResolvedStage::Moves ? FindSyntaxFault(map, order)
+                                                        : LaterStageFault(map, order, stage));
 }
 
 std::string ExplainOrder(const model::GameState& after, const Resolution& resolution, int order) {
@@ -37,8 +39,7 @@ std::string ExplainOrder(const model::GameState& after, const Resolution& resolu
     case ResolvedStage::Retreats:
       return ExplainRetreat(after, resolution, order);
     case ResolvedStage::Adjustments:
-      return order == 0 ? ExplainCounts(after, resolution)
-                        : ExplainAdjustment(after, resolution, order);
+      return ExplainAdjustment(after, resolution, order);
     default:
       return ExplainMove(after, resolution, order);
   }

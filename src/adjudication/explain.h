@@ -9,24 +9,21 @@
 namespace orb::adjudication {
 
 /// One sentence that says why the order came out as it did: the strengths compared and the orders
-/// behind each, who cut, what was missing. The resolution must be completed; `after` is the
-/// situation that it left.
+/// behind each, who cut, what was missing. A rejected order's sentence reads "verdict: why.". The
+/// resolution must be completed, but for a rejected order; `after` is the situation that it left.
+/// Order 0 of the adjustments stands for their heading: who had to act, and what was done.
 std::string ExplainOrder(const model::GameState& after, const Resolution& resolution, int order);
 
 /// One sentence for each line of `after`'s report; empty for a line that this resolution did not
 /// write to.
 std::vector<std::string> ExplainReport(const model::GameState& after, const Resolution& resolution);
 
-/// The sentences of each stage, by the rules above.
-std::string ExplainMove(const model::GameState& after, const Resolution& resolution, int order);
-std::string ExplainRetreat(const model::GameState& after, const Resolution& resolution, int order);
-std::string ExplainAdjustment(const model::GameState& after, const Resolution& resolution,
-                              int order);
+/// The first rule of its stage's text form that the order breaks, as words for the user; empty for
+/// a correct order.
+std::string ExplainSyntax(const model::Map& map, const orders::OrderLine& order,
+                          ResolvedStage stage);
 
 /// "ENG A(Lon)".
 std::string UnitName(const orders::OrderLine& order);
-
-/// "army" or "fleet".
-std::string_view TypeName(const orders::OrderLine& order);
 
 }  // namespace orb::adjudication

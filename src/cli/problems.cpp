@@ -27,22 +27,6 @@ class YesToEverything : public model::Messages {
   void Show(const std::string& /*text*/, model::Icon /*icon*/) override {}
 };
 
-/// The first rule of the text form that an order of a later stage breaks; empty for a correct one.
-std::string_view LaterStageFault(const model::Map& map, const OrderLine& order,
-                                 ResolvedStage stage) {
-  if (model::FindCountry(order.Power) == 0) return "the power is unknown";
-  const bool adjusts = stage == ResolvedStage::Adjustments;
-  const bool verbKnown = order.Kind == "DISBAND" || order.Kind == (adjusts ? "BUILD" : "RETREAT");
-  if (adjusts && !verbKnown) return "the power is told neither to build nor to disband";
-  if (order.UnitType != "A" && order.UnitType != "F") return "the unit is neither A nor F";
-  if (model::FindProvince(map, order.Location) == 0) return "the unit's location is unknown";
-  if (!verbKnown) return "the unit is told neither to retreat nor to disband";
-  if (order.Kind == "RETREAT" && model::FindProvince(map, order.Target) == 0) {
-    return "the destination is unknown";
-  }
-  return {};
-}
-
 /// Explanations read "What happened: why."; before a resolution only the why is true.
 std::string WhyOf(const std::string& sentence) {
   const std::size_t colon = sentence.find(": ");
@@ -56,8 +40,8 @@ std::string RejectionText(const GameState& game, const Resolution& resolution, i
   const std::string& word = order.Result;
   if (resolution.Stage != ResolvedStage::Moves) {
     // The adjustments' own checks look at such orders too and overwrite the word.
-    const auto fault = LaterStageFault(*game.Map, order, resolution.Stage);
-    if (!fault.empty()) return "syntax error: " + std::string(fault);
+    const std::string fault = adjudication::ExplainSyntax(*game.Map, order, resolution.Stage);
+    if (!fault.empty()) return "syntax error: " + fault;
   }
   if (word == "clash") {
     return "clash with " + resolution.Orders[resolution.Reasons[k].Blocker].Text;

@@ -49,28 +49,28 @@ bool IsWater(std::string_view location) {
   return model::UpperCase(location) == location;
 }
 
-std::string_view SecondUnitFault(const model::Map& map, const OrderLine& order) {
-  if (model::FindCountry(order.Power2) == 0) return "the other unit's power is unknown";
-  if (!IsUnitType(order.UnitType2)) return "the other unit is neither A nor F";
-  if (model::FindProvince(map, order.Target) == 0) return "the other unit's location is unknown";
-  return {};
+SyntaxFault SecondUnitFault(const model::Map& map, const OrderLine& order) {
+  if (model::FindCountry(order.Power2) == 0) return SyntaxFault::OtherPower;
+  if (!IsUnitType(order.UnitType2)) return SyntaxFault::OtherUnitType;
+  if (model::FindProvince(map, order.Target) == 0) return SyntaxFault::OtherLocation;
+  return SyntaxFault::None;
 }
 
-std::string_view SupportFault(const model::Map& map, const OrderLine& order) {
-  if (const auto fault = SecondUnitFault(map, order); !fault.empty()) return fault;
-  if (order.Kind2 == "HOLD") return {};
-  if (order.Kind2 != "-") return "the supported unit neither moves nor holds";
-  if (model::FindProvince(map, order.Target2) == 0) return "the supported move's aim is unknown";
-  return {};
+SyntaxFault SupportFault(const model::Map& map, const OrderLine& order) {
+  if (const auto fault = SecondUnitFault(map, order); fault != SyntaxFault::None) return fault;
+  if (order.Kind2 == "HOLD") return SyntaxFault::None;
+  if (order.Kind2 != "-") return SyntaxFault::OtherVerb;
+  if (model::FindProvince(map, order.Target2) == 0) return SyntaxFault::OtherDestination;
+  return SyntaxFault::None;
 }
 
-std::string_view ConvoyFault(const model::Map& map, const OrderLine& order) {
-  if (order.UnitType != "F" || !IsWater(order.Location)) return "only a fleet at sea convoys";
-  if (const auto fault = SecondUnitFault(map, order); !fault.empty()) return fault;
-  if (order.UnitType2 != "A") return "only an army is convoyed";
-  if (order.Kind2 != "-") return "the convoyed army does not move";
-  if (model::FindProvince(map, order.Target2) == 0) return "the convoyed move's aim is unknown";
-  return {};
+SyntaxFault ConvoyFault(const model::Map& map, const OrderLine& order) {
+  if (order.UnitType != "F" || !IsWater(order.Location)) return SyntaxFault::FleetInland;
+  if (const auto fault = SecondUnitFault(map, order); fault != SyntaxFault::None) return fault;
+  if (order.UnitType2 != "A") return SyntaxFault::FleetCarried;
+  if (order.Kind2 != "-") return SyntaxFault::ArmyStays;
+  if (model::FindProvince(map, order.Target2) == 0) return SyntaxFault::OtherDestination;
+  return SyntaxFault::None;
 }
 
 }  // namespace
@@ -105,21 +105,21 @@ void ParseOrders(OrderTable& orders) {
     ParseOrder(order, work);
 }
 
-std::string_view SyntaxFault(const model::Map& map, const OrderLine& order) {
-  if (model::FindCountry(order.Power) == 0) return "the power is unknown";
-  if (!IsUnitType(order.UnitType)) return "the unit is neither A nor F";
-  if (model::FindProvince(map, order.Location) == 0) return "the unit's location is unknown";
+SyntaxFault FindSyntaxFault(const model::Map& map, const OrderLine& order) {
+  if (model::FindCountry(order.Power) == 0) return SyntaxFault::Power;
+  if (!IsUnitType(order.UnitType)) return SyntaxFault::UnitType;
+  if (model::FindProvince(map, order.Location) == 0) return SyntaxFault::Location;
   if (IsSupport(order)) return SupportFault(map, order);
   if (IsConvoy(order)) return ConvoyFault(map, order);
-  if (order.Kind == "HOLD") return {};
-  if (!IsMove(order)) return "the unit is told neither to move nor to hold, support or convoy";
-  if (model::FindProvince(map, order.Target) == 0) return "the destination is unknown";
-  return {};
+  if (order.Kind == "HOLD") return SyntaxFault::None;
+  if (!IsMove(order)) return SyntaxFault::MoveVerb;
+  if (model::FindProvince(map, order.Target) == 0) return SyntaxFault::Destination;
+  return SyntaxFault::None;
 }
 
 bool CheckOrderSyntax(const model::Map& map, OrderTable& orders, model::Messages& messages) {
   for (OrderLine& order : orders) {
-    if (SyntaxFault(map, order).empty()) continue;
+    if (FindSyntaxFault(map, order) == SyntaxFault::None) continue;
     Reject(order, "syntax error");
     if (!messages.Warn(model::WarningText(order.Text, "syntax error."))) return false;
   }

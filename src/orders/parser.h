@@ -3,6 +3,7 @@
 #include "model/map.h"
 #include "model/messages.h"
 #include "orders/order_line.h"
+#include "orders/syntax_fault.h"
 
 #include <string>
 #include <string_view>
@@ -43,9 +44,8 @@ void SetOrderTexts(const std::vector<std::string>& lines, OrderTable& orders);
 /// Fills the fields of every order of the moves stage from its text.
 void ParseOrders(OrderTable& orders);
 
-/// The first rule of the text form that an order of the moves stage breaks, as words for the user;
-/// empty for a correct order.
-std::string_view SyntaxFault(const model::Map& map, const OrderLine& order);
+/// The first rule of the text form that an order of the moves stage breaks.
+SyntaxFault FindSyntaxFault(const model::Map& map, const OrderLine& order);
 
 /// Marks every faulty order and warns of it; false when the user does not want to continue.
 bool CheckOrderSyntax(const model::Map& map, OrderTable& orders, model::Messages& messages);

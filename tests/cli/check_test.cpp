@@ -38,24 +38,25 @@ TEST(Check, ListsTheProblemsOfMoves) {
       {"a good convoy", game("ENG A(Lon)\nENG F(NTH)"),
        "ENG A(Lon) - Nwy\nENG F(NTH) C A(Lon) - Nwy", ""},
       {"syntax", game("FRA A(Par)"), "FRA A(Par) hold\nfoo\nFRA A(Par) - Xyz\nFRA A(Par) jump",
-       "foo: syntax error: the power is unknown\n"
-       "FRA A(Par) - Xyz: syntax error: the destination is unknown\n"
+       "foo: syntax error: \"foo\" is not a power\n"
+       "FRA A(Par) - Xyz: syntax error: the destination \"Xyz\" is not on the map\n"
        "FRA A(Par) jump: syntax error: "
        "the unit is told neither to move nor to hold, support or convoy"},
       {"no such unit", game("FRA A(Par)"), "FRA A(Par) hold\n  FRA F(Par) hold",
-       "FRA F(Par) hold: no such unit: FRA has no fleet in Par"},
+       "FRA F(Par) hold: no such unit: FRA has no F(Par); its unit there is A(Par)"},
       {"unordered", game("FRA A(Par)\nGER A(Mun)"), "",
        "FRA A(Par): unordered\nGER A(Mun): unordered"},
       {"impossible", game("FRA A(Par)\nGER F(Kie)\nGER A(Mun)"),
        "FRA A(Par) - Lon\nGER F(Kie) - Mun\nGER A(Mun) S FRA A(Par) - Lon",
        "FRA A(Par) - Lon: impossible move: no army can move from Par to Lon\n"
        "GER F(Kie) - Mun: impossible move: no fleet can stand in Mun\n"
-       "GER A(Mun) S FRA A(Par) - Lon: impossible support: the army cannot itself move to Lon"},
+       "GER A(Mun) S FRA A(Par) - Lon: impossible support: "
+       "the army in Mun cannot move to Lon, so it cannot support there"},
       {"not used", game("FRA A(Par)\nGER A(Mun)\nENG F(NTH)"),
        "FRA A(Par) - Bur\nGER A(Mun) S FRA A(Par) - Gas\nENG F(NTH) C ENG A(Lon) - Nwy",
        "GER A(Mun) S FRA A(Par) - Gas: not used: "
        "FRA A(Par) was ordered to move to Bur, not to move to Gas\n"
-       "ENG F(NTH) C ENG A(Lon) - Nwy: not used: there is no order for ENG A(Lon)"},
+       "ENG F(NTH) C ENG A(Lon) - Nwy: not used: there is no ENG A(Lon)"},
       {"two orders for a unit", game("FRA A(Par)"), "FRA A(Par) - Bur\nFRA A(Par) - Gas",
        "FRA A(Par) - Bur: ordered again: FRA A(Par) - Gas"},
   });
@@ -78,12 +79,12 @@ TEST(Check, ListsTheProblemsOfRetreats) {
       {"back", game, "FRA A(Bur) RETREAT Mun",
        "FRA A(Bur) RETREAT Mun: impossible: the attack that dislodged it came from Mun"},
       {"not dislodged", game, "FRA A(Bur) DISBAND\nGER A(Par) DISBAND",
-       "GER A(Par) DISBAND: no such unit: GER has no dislodged army in Par"},
+       "GER A(Par) DISBAND: no such unit: GER A(Par) is not dislodged"},
       {"syntax", game,
        "FRA A(Bur) DISBAND\nFRA A(Bur) hold\nFRA A(Bur) RETREAT Xyz\nFRA X(Bur) hold",
        "FRA A(Bur) hold: syntax error: the unit is told neither to retreat nor to disband\n"
-       "FRA A(Bur) RETREAT Xyz: syntax error: the destination is unknown\n"
-       "FRA X(Bur) hold: syntax error: the unit is neither A nor F"},
+       "FRA A(Bur) RETREAT Xyz: syntax error: the destination \"Xyz\" is not on the map\n"
+       "FRA X(Bur) hold: syntax error: \"X\" is neither A nor F"},
   });
 }
 
@@ -102,14 +103,14 @@ TEST(Check, ListsTheProblemsOfAdjustments) {
       {"each fault", fewer,
        "FRA BUILD A(Par)\nFRA BUILD A(Mar)\nFRA BUILD A(Gas)\nFRA DISBAND A(Lon)\nFRA DISBAND "
        "A(Bur)",
-       "FRA BUILD A(Par): centre not empty1: a unit stands in Par\n"
+       "FRA BUILD A(Par): centre not empty1: Par is not empty; its unit there is A(Par)\n"
        "FRA BUILD A(Mar): centre not owned: Mar is not owned by FRA\n"
        "FRA BUILD A(Gas): not a home centre: Gas is no home centre of FRA\n"
-       "FRA DISBAND A(Lon): no such unit: FRA has no army in Lon"},
+       "FRA DISBAND A(Lon): no such unit: FRA has no A(Lon)"},
       {"syntax", fewer, "FRA DISBAND A(Bur)\nFRA WAIVE\nFRA BUILD A(Xyz)\nXXX BUILD A(Par)",
        "FRA WAIVE: syntax error: the power is told neither to build nor to disband\n"
-       "FRA BUILD A(Xyz): syntax error: the unit's location is unknown\n"
-       "XXX BUILD A(Par): syntax error: the power is unknown"},
+       "FRA BUILD A(Xyz): syntax error: the unit's location \"Xyz\" is not on the map\n"
+       "XXX BUILD A(Par): syntax error: \"XXX\" is not a power"},
   });
 }
 

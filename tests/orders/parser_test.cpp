@@ -120,7 +120,9 @@ TEST(Syntax, OnlyTheTextFormIsCorrect) {
     EXPECT_EQ(table[1].Result, correct ? "" : "syntax error") << line;
     EXPECT_EQ(table[1].Active, correct) << line;
     EXPECT_EQ(table[1].Failed, !correct) << line;
-    EXPECT_EQ(orders::SyntaxFault(*RealMap(), Parse({line})[1]).empty(), correct) << line;
+    EXPECT_EQ(orders::FindSyntaxFault(*RealMap(), Parse({line})[1]) == orders::SyntaxFault::None,
+              correct)
+        << line;
     EXPECT_EQ(messages.Questions.size(), correct ? 0U : 1U) << line;
   }
 }

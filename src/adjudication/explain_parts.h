@@ -1,0 +1,59 @@
+#pragma once
+
+#include "adjudication/resolution.h"
+#include "model/game_state.h"
+
+#include <string>
+#include <string_view>
+
+// The parts that the sentences about orders are put together from.
+
+namespace orb::adjudication {
+
+/// The sentences of each stage, as ExplainOrder returns them.
+std::string ExplainMove(const model::GameState& after, const Resolution& resolution, int order);
+std::string ExplainRetreat(const model::GameState& after, const Resolution& resolution, int order);
+std::string ExplainAdjustment(const model::GameState& after, const Resolution& resolution,
+                              int order);
+
+/// The order's text in quotes.
+std::string Quoted(const orders::OrderLine& order);
+
+/// "army" or "fleet".
+std::string_view TypeName(const orders::OrderLine& order);
+
+/// "1 unit", "2 units".
+std::string Counted(int number, std::string_view thing);
+
+/// "It was not understood: why".
+std::string NotUnderstood(const std::string& fault);
+
+/// "There is no such unit: who lacks it", and which unit stands in the place instead.
+std::string NoSuchUnit(const Resolution& resolution, const orders::OrderLine& order);
+
+/// Which unit stands in a place where the named one does not: "; its unit there is F(Stp.n)".
+std::string UnitThere(const Resolution& resolution, std::string_view power, std::string_view place);
+
+/// Why no unit of the order's type can stand in the location.
+std::string CannotStandText(const model::Map& map, const orders::OrderLine& order,
+                            const std::string& location);
+
+/// Why a move or retreat on foot or keel leads nowhere.
+std::string NoWayText(const model::Map& map, const orders::OrderLine& order);
+
+/// Why a move of the moves stage, which a convoy could have carried, is impossible.
+std::string ImpossibleMoveText(const model::Map& map, const orders::OrderLine& order);
+
+/// Why a move succeeded or failed: what its strength was measured against.
+std::string MoveText(const Resolution& resolution, int order);
+
+/// What follows "it held" about the attacks on the unit that failed; empty for none.
+std::string HeldAgainst(const Resolution& resolution, int order);
+
+/// "was dislodged by ...": the attack that dislodged the order's unit and its strength.
+std::string DislodgedBy(const Resolution& resolution, int order);
+
+/// "strength 2 (supported by X) beats its strength 1": how the order's unit was dislodged.
+std::string DislodgingStrengths(const Resolution& resolution, int order);
+
+}  // namespace orb::adjudication
