@@ -20,9 +20,8 @@ using testing::ElementsAre;
 
 /// A situation with something in every place that a command may have to clear.
 GameState UsedGame() {
-  GameState game = EmptyBoard("Autumn", "retreats");
+  GameState game = Board("Autumn", "retreats", {"RUS F(Nwy) <Swe"});
   game.Title = "Used";
-  AddDrawnUnit(game, "RUS F(Nwy) <Swe");
   game.Units[1].PreviousLocation = "Stp.n";
   for (model::ProvinceState& province : game.Provinces)
     province = {"TUR", "GER", false};
@@ -34,11 +33,7 @@ GameState UsedGame() {
   return game;
 }
 
-std::string OwnerOf(const GameState& game, const std::string& place) {
-  return game.Provinces[model::FindProvince(*game.Map, place)].Owner;
-}
-
-void ExpectCleared(const GameState& game) {
+void ExpectCleared(GameState& game) {
   EXPECT_EQ(model::Caption(game), "ORB v5.5");
   EXPECT_EQ(game.Season + std::to_string(game.Year) + game.Stage, "Spring1901moves");
   EXPECT_TRUE(game.OrdersList.empty() && game.RetreatsList.empty() && game.AdjustmentsList.empty());
@@ -48,7 +43,7 @@ void ExpectCleared(const GameState& game) {
     EXPECT_TRUE(province.Uncontested && province.PreviousOwner.empty());
 }
 
-TEST(NewGame, SetsUpTheStartingPosition) {
+TEST(NewGame, SetsUpTheStartOrAnEmptyBoard) {
   GameState game = UsedGame();
   EXPECT_EQ(model::Caption(game), "ORB v5.5 Used");
   model::NewGame(game, DataDirectory());
@@ -56,13 +51,10 @@ TEST(NewGame, SetsUpTheStartingPosition) {
   ASSERT_EQ(game.Units.Count(), 22);
   EXPECT_EQ(DrawUnits(game).substr(0, 22), "ENG F(Lon)\nENG F(Edi)\n");
   EXPECT_EQ(game.Units[1].PreviousLocation, "");
-  EXPECT_EQ(OwnerOf(game, "Stp"), "RUS") << "its fleet stands on a coast";
-  EXPECT_EQ(OwnerOf(game, "Stp.s"), "");
-  EXPECT_EQ(OwnerOf(game, "Nwy"), "");
-}
-
-TEST(BlankGame, GivesEveryLocationToItsHomePower) {
-  GameState game = UsedGame();
+  EXPECT_EQ(Live(game, "Stp").Owner, "RUS") << "its fleet stands on a coast";
+  EXPECT_EQ(Live(game, "Stp.s").Owner, "");
+  EXPECT_EQ(Live(game, "Nwy").Owner, "");
+  game = UsedGame();
   model::BlankGame(game, DataDirectory());
   ExpectCleared(game);
   EXPECT_EQ(game.Units.Count(), 0);
@@ -89,28 +81,25 @@ TEST(NewGame, ABrokenStartFileChangesNothing) {
 }
 
 TEST(NextSeason, FollowsTheCalendar) {
-  struct Case {
-    std::string Season;
-    std::int16_t Year;
-    std::string After;
-  };
-  for (const Case& c : std::vector<Case>{{"Spring", 1901, "Autumn1901"},
-                                         {"Autumn", 1901, "Spring1902"},
-                                         {"", -1, "Spring0"},
-                                         {"spring", 1901, "Spring1902"},
-                                         {"Spring", 32767, "Autumn32767"}}) {
+  const std::vector<std::tuple<std::string, std::int16_t, std::string>> cases = {
+      {"Spring", 1901, "Autumn1901"},
+      {"Autumn", 1901, "Spring1902"},
+      {"", -1, "Spring0"},
+      {"Spring", 32767, "Autumn32767"},
+      {"spring", 1901, "Spring1902"}};
+  for (const auto& [season, year, after] : cases) {
     GameState game = UsedGame();
-    game.Season = c.Season;
-    game.Year = c.Year;
+    game.Season = season;
+    game.Year = year;
     const std::string units = DrawUnits(game);
     model::NextSeason(game);
-    EXPECT_EQ(game.Season + std::to_string(game.Year), c.After);
+    EXPECT_EQ(game.Season + std::to_string(game.Year), after);
     EXPECT_EQ(game.Stage, "moves");
     EXPECT_TRUE(game.OrdersList.empty());
     EXPECT_EQ(game.TextLines.Count(), 0);
     EXPECT_EQ(game.FileName, "");
     EXPECT_EQ(DrawUnits(game), units);
-    EXPECT_EQ(game.Units[1].PreviousLocation + OwnerOf(game, "Nwy"), "Stp.nTUR");
+    EXPECT_EQ(game.Units[1].PreviousLocation + Live(game, "Nwy").Owner, "Stp.nTUR");
   }
   GameState last = UsedGame();
   last.Year = 32767;
@@ -121,26 +110,19 @@ TEST(NextSeason, FollowsTheCalendar) {
 
 TEST(UndoSeason, PutsUnitsAndOwnersBack) {
   GameState game = UsedGame();
-  ScriptedMessages messages;
-  EXPECT_TRUE(model::UndoSeason(game, messages));
-  EXPECT_EQ(DrawUnits(game), "RUS F(Stp.n)\n");
-  EXPECT_EQ(game.Units[1].DislodgedFrom + game.Units[1].PreviousLocation, "");
-  EXPECT_EQ(OwnerOf(game, "Nwy"), "GER");
-  EXPECT_EQ(game.Stage, "moves");
-  EXPECT_TRUE(messages.Questions.empty());
-}
-
-TEST(UndoSeason, NeverTakesBackAFinishedAutumn) {
-  GameState game = UsedGame();
   game.Stage = "finished";
   const std::string before = Describe(game);
   ScriptedMessages messages;
-  EXPECT_FALSE(model::UndoSeason(game, messages));
-  ASSERT_EQ(messages.Shown.size(), 1U);
-  EXPECT_EQ(messages.Shown[0].first, "Original supply centre ownerships unknown;\rcan't undo.");
+  EXPECT_FALSE(model::UndoSeason(game, messages)) << "a finished autumn";
+  EXPECT_EQ(messages.Shown.at(0).first, "Original supply centre ownerships unknown;\rcan't undo.");
   EXPECT_EQ(Describe(game), before);
   game.Season = "Spring";
   EXPECT_TRUE(model::UndoSeason(game, messages));
+  EXPECT_EQ(DrawUnits(game), "RUS F(Stp.n)\n");
+  EXPECT_EQ(game.Units[1].DislodgedFrom + game.Units[1].PreviousLocation, "");
+  EXPECT_EQ(Live(game, "Nwy").Owner, "GER");
+  EXPECT_EQ(game.Stage, "moves");
+  EXPECT_TRUE(messages.Questions.empty());
 }
 
 TEST(UndoSeason, LosesUnitsWithoutAKnownStartWhenTheUserAgrees) {
@@ -159,7 +141,7 @@ TEST(UndoSeason, LosesUnitsWithoutAKnownStartWhenTheUserAgrees) {
   ScriptedMessages yes;
   EXPECT_TRUE(model::UndoSeason(game, yes));
   EXPECT_EQ(DrawUnits(game), "RUS F(Stp.n)\nITA A(Ven)\n");
-  EXPECT_EQ(OwnerOf(game, "Nwy"), "TUR") << "one unknown owner leaves all as they are";
+  EXPECT_EQ(Live(game, "Nwy").Owner, "TUR") << "one unknown owner leaves all as they are";
 }
 
 }  // namespace

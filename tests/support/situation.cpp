@@ -65,6 +65,32 @@ std::string AddDrawnUnit(GameState& game, std::string_view line) {
   return rest.empty() ? std::string() : std::string(head).append(" ").append(rest);
 }
 
+GameState Board(std::string_view season, std::string_view stage,
+                const std::vector<std::string>& lines) {
+  GameState game = EmptyBoard(season, stage);
+  for (const std::string& line : lines) {
+    const std::string order = line.starts_with("> ") ? line.substr(2) : AddDrawnUnit(game, line);
+    if (!order.empty()) OrdersOf(game).push_back(order);
+  }
+  return game;
+}
+
+std::vector<std::string>& OrdersOf(GameState& game) {
+  return game.Stage == "retreats"      ? game.RetreatsList
+         : game.Stage == "adjustments" ? game.AdjustmentsList
+                                       : game.OrdersList;
+}
+
+model::ProvinceState& Live(GameState& game, std::string_view place) {
+  return game.Provinces[model::FindProvince(*game.Map, place)];
+}
+
+void Own(GameState& game, std::string_view powerAndPlaces) {
+  const std::vector<std::string> words = Words(powerAndPlaces);
+  for (std::size_t i = 1; i < words.size(); ++i)
+    Live(game, words[i]).Owner = words[0];
+}
+
 std::string DrawUnits(const GameState& game) {
   std::string text;
   for (const Unit& unit : game.Units) {

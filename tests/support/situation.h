@@ -23,6 +23,19 @@ bool ReadUnit(std::string_view& line, model::Unit& unit);
 /// line as a player writes it: without "<Mun".
 std::string AddDrawnUnit(model::GameState& game, std::string_view line);
 
+/// A board whose lines begin with a unit; what follows it is its order. "> " begins an order alone.
+model::GameState Board(std::string_view season, std::string_view stage,
+                       const std::vector<std::string>& lines);
+
+/// The orders of the stage that the game is in.
+std::vector<std::string>& OrdersOf(model::GameState& game);
+
+/// The live state of a place.
+model::ProvinceState& Live(model::GameState& game, std::string_view place);
+
+/// Gives places to a power: "FRA Par Mar".
+void Own(model::GameState& game, std::string_view powerAndPlaces);
+
 /// The units as they are drawn, one a line, in the order of the table.
 std::string DrawUnits(const model::GameState& game);
 
