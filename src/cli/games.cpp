@@ -1,10 +1,12 @@
 #include "cli/games.h"
 
+#include "model/errors.h"
 #include "model/files.h"
 #include "model/game_file.h"
 #include "model/map_files.h"
 
 #include <exception>
+#include <fstream>
 #include <memory>
 #include <system_error>
 
@@ -67,8 +69,10 @@ std::vector<std::string> OrderLines(std::string_view text) {
 
 void TakeOrders(model::GameState& game, const GamePaths& paths) {
   if (paths.Orders.empty()) return;
+  // A file that cannot be looked at is not missing: reading it will say why.
   std::error_code ignored;
-  if (paths.OrdersMayLack && !std::filesystem::exists(paths.Orders, ignored)) {
+  const auto type = std::filesystem::symlink_status(paths.Orders, ignored).type();
+  if (paths.OrdersMayLack && type == std::filesystem::file_type::not_found) {
     StageList(game).clear();
   } else {
     StageList(game) = OrderLines(model::ReadFile(paths.Orders));
@@ -80,6 +84,14 @@ std::string JoinLines(const std::vector<std::string>& lines) {
   for (const std::string& line : lines)
     text.append(line).append("\n");
   return text;
+}
+
+void WriteText(const std::filesystem::path& path, std::string_view text) {
+  if (!IsDevice(path)) return model::ReplaceFile(path, text);
+  std::ofstream stream(path, std::ios::binary | std::ios::app);
+  if (!stream.write(text.data(), static_cast<std::streamsize>(text.size())).flush()) {
+    throw model::FileError("Cannot write " + path.string() + ".");
+  }
 }
 
 void PrintUnderHeading(Console& console, const std::vector<GamePaths>& plan, const GamePaths& paths,

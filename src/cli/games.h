@@ -5,6 +5,7 @@
 #include "cli/paths.h"
 #include "model/game_state.h"
 
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -35,6 +36,9 @@ void TakeOrders(model::GameState& game, const GamePaths& paths);
 
 /// Lines of text, each ended by LF.
 std::string JoinLines(const std::vector<std::string>& lines);
+
+/// Replaces a file whole or not at all; a device or pipe is written to. Throws FileError.
+void WriteText(const std::filesystem::path& path, std::string_view text);
 
 /// Prints what belongs to one game; of several each is headed by "== " and the game's path.
 void PrintUnderHeading(Console& console, const std::vector<GamePaths>& plan, const GamePaths& paths,

@@ -1,7 +1,9 @@
 #include "cli/paths.h"
 
+#include "cli/command.h"
 #include "model/files.h"
 
+#include <algorithm>
 #include <set>
 #include <system_error>
 #include <unordered_map>
@@ -64,7 +66,7 @@ class FileNames {
 };
 
 /// A file that is written twice, or read after it was written, would lose what somebody wanted.
-void CheckOverlaps(const std::vector<GamePaths>& plan) {
+void CheckOverlaps(const std::vector<GamePaths>& plan, bool mayReplace) {
   FileNames names;
   std::set<std::string> written;
   std::set<std::string> read;
@@ -72,14 +74,17 @@ void CheckOverlaps(const std::vector<GamePaths>& plan) {
     if (written.insert(std::move(name)).second) return;
     throw UsageError(path.string() + " would be written twice.");
   };
+  const auto addText = [&](const fs::path& path) {
+    if (!path.empty() && path != StandardOutput && !IsDevice(path)) add(path, names.Of(path));
+  };
   for (const GamePaths& paths : plan) {
     if (paths.Output.empty()) continue;
     const std::string game = names.Of(paths.Game);
     std::string output = paths.Output == paths.Game ? game : names.Of(paths.Output);
-    if (output != game) read.insert(game);
+    if (output != game || !mayReplace) read.insert(game);
     add(paths.Output, std::move(output));
-    if (!paths.Report.empty()) add(paths.Report, names.Of(paths.Report));
-    if (!paths.Reasons.empty()) add(paths.Reasons, names.Of(paths.Reasons));
+    addText(paths.Report);
+    addText(paths.Reasons);
     if (!paths.Orders.empty()) read.insert(names.Of(paths.Orders));
   }
   for (const std::string& name : read) {
@@ -88,6 +93,12 @@ void CheckOverlaps(const std::vector<GamePaths>& plan) {
 }
 
 }  // namespace
+
+bool IsDevice(const fs::path& path) {
+  std::error_code ignored;
+  const fs::file_type type = fs::status(path, ignored).type();
+  return type == fs::file_type::character || type == fs::file_type::fifo;
+}
 
 std::vector<GamePaths> PlanPaths(const CommandLine& line) {
   const PathOption output(line, OptionId::Output, ".orb");
@@ -105,7 +116,8 @@ std::vector<GamePaths> PlanPaths(const CommandLine& line) {
     paths.Reasons = reasons.For(game);
     paths.OrdersMayLack = orders.InDirectory();
   }
-  CheckOverlaps(plan);
+  const auto options = line.Verb->Options;
+  CheckOverlaps(plan, std::ranges::find(options, OptionId::InPlace) != options.end());
   return plan;
 }
 

@@ -4,9 +4,13 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace orb::cli {
+
+/// Reports and reasons that go to this path are printed like anything else.
+constexpr std::string_view StandardOutput = "/dev/stdout";
 
 /// The files of one game; empty where the command line asks for none.
 struct GamePaths {
@@ -18,8 +22,12 @@ struct GamePaths {
   bool OrdersMayLack = false;  ///< no file in a directory of orders: no orders
 };
 
+/// Whether it is a device or a pipe, which is written to and never replaced.
+bool IsDevice(const std::filesystem::path& path);
+
 /// The files of every game. Throws UsageError where several games share a path that is no
-/// directory, and where a file would be written twice or over another one that is read.
+/// directory, and where a file would be written twice or over another one that is read; a device
+/// may be.
 std::vector<GamePaths> PlanPaths(const CommandLine& line);
 
 /// Where the data files lie. Throws UsageError when --data names no directory.

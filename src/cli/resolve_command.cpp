@@ -19,13 +19,16 @@ int Execute(const CommandLine& line, Console& console) {
     const adjudication::Resolution resolution = adjudication::ResolveStage(game, messages);
     if (!resolution.Completed) return false;
     const std::string report = JoinLines({game.ReportLines.begin(), game.ReportLines.end()});
+    std::string reasons;
+    if (!paths.Reasons.empty()) reasons = JoinLines(adjudication::ExplainReport(game, resolution));
+    const bool printsReport = paths.Report.empty() || paths.Report == StandardOutput;
+    const bool printsReasons = paths.Reasons == StandardOutput;
     // The game file comes last: a resolved game without its report could not be resolved again.
-    if (!paths.Report.empty()) model::ReplaceFile(paths.Report, report);
-    if (!paths.Reasons.empty()) {
-      model::ReplaceFile(paths.Reasons, JoinLines(adjudication::ExplainReport(game, resolution)));
-    }
+    if (!printsReport) WriteText(paths.Report, report);
+    if (!printsReasons && !paths.Reasons.empty()) WriteText(paths.Reasons, reasons);
     model::ReplaceFile(paths.Output, model::FormatGameFile(game));
-    if (paths.Report.empty()) PrintUnderHeading(console, plan, paths, report);
+    if (printsReport) PrintUnderHeading(console, plan, paths, report);
+    if (printsReasons) console.Print(reasons);
     return true;
   });
 }
