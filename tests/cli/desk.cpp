@@ -23,11 +23,7 @@ std::string Replaced(std::string text, std::string_view from, std::string_view t
 }  // namespace
 
 Outcome Desk::Run(std::string_view line) const {
-  std::vector<std::string> arguments;
-  std::istringstream words{std::string(line)};
-  for (std::string word; words >> word;)
-    arguments.push_back(word);
-  return Run(arguments);
+  return Run(Words(line));
 }
 
 Outcome Desk::Run(const std::vector<std::string>& arguments, bool errIsTerminal) const {
@@ -72,11 +68,7 @@ std::string GameFile(std::string_view season, std::string_view stage, std::strin
   model::GameState game = EmptyBoard(season, stage);
   while (!units.empty())
     AddDrawnUnit(game, model::NextLine(units));
-  while (!owners.empty()) {
-    const std::vector<std::string> words = Words(model::NextLine(owners));
-    for (std::size_t i = 1; i < words.size(); ++i)
-      game.Provinces[model::FindProvince(*game.Map, words[i])].Owner = words[0];
-  }
+  Own(game, owners);
   return model::FormatGameFile(game);
 }
 

@@ -40,8 +40,8 @@ class Desk {
   TemporaryDirectory directory_;
 };
 
-/// A game file with these units ("FRA A(Bur)", dislodged "FRA A(Bur) <Mun") and owned centres
-/// ("FRA Par Mar"), one a line.
+/// A game file with these units ("FRA A(Bur)", dislodged "FRA A(Bur) <Mun"), one a line, and
+/// owned centres: "FRA Par Mar".
 std::string GameFile(std::string_view season, std::string_view stage, std::string_view units,
                      std::string_view owners = "");
 
