@@ -20,26 +20,26 @@ using render::MapMode;
 using render::MapOptions;
 using ::testing::ElementsAre;
 
-/// A board of the stage with the units drawn as "FRA A(Bur) <Mun".
-GameState Board(std::string_view stage, const std::vector<std::string>& units) {
-  GameState game = EmptyBoard("Spring", stage);
-  for (const std::string& unit : units)
-    AddDrawnUnit(game, unit);
-  return game;
+/// The map of a situation as it is drawn.
+struct Drawn : Recorder {
+  explicit Drawn(const GameState& game, const MapOptions& options = {}) {
+    RenderMap(game, options, "dir", *this);
+  }
+};
+
+constexpr MapMode AllModes[] = {MapMode::Colour3D, MapMode::Colour, MapMode::Grey,
+                                MapMode::BlackWhite};
+
+const model::Province& Place(std::string_view name) {
+  return RealMap()->Provinces[model::FindProvince(*RealMap(), name)];
 }
 
-model::ProvinceState& Live(GameState& game, std::string_view name) {
-  return game.Provinces[model::FindProvince(*game.Map, name)];
+std::string LabelAt(std::string_view name) {
+  return At({Place(name).LabelX * 10000.0, Place(name).LabelY * 8000.0});
 }
 
-std::string LabelAt(const GameState& game, std::string_view name) {
-  const model::Province& place = game.Map->Provinces[model::FindProvince(*game.Map, name)];
-  return At({place.LabelX * 10000.0, place.LabelY * 8000.0});
-}
-
-std::string UnitAt(const GameState& game, std::string_view name) {
-  const model::Province& place = game.Map->Provinces[model::FindProvince(*game.Map, name)];
-  return At({place.UnitX * 10000.0, place.UnitY * 8000.0});
+std::string UnitAt(std::string_view name) {
+  return At({Place(name).UnitX * 10000.0, Place(name).UnitY * 8000.0});
 }
 
 /// The kinds of strokes in their order, repetitions and the texts of labels left out.
@@ -58,33 +58,24 @@ std::string Order(const Recorder& surface) {
 }
 
 TEST(MapView, BackgroundFollowsTheMode) {
-  const std::vector<std::pair<MapMode, std::string>> cases = {
-      {MapMode::Colour3D, "dir/map.bmp"},
-      {MapMode::Colour, "dir/map.bmp"},
-      {MapMode::Grey, "dir/mapgrey.bmp"},
-      {MapMode::BlackWhite, "dir/mapbw.bmp"}};
-  for (const auto& [mode, file] : cases) {
-    Recorder surface;
-    RenderMap(Board("moves", {}), {mode}, "dir", surface);
-    EXPECT_EQ(surface.Strokes.front().Kind, "picture");
-    EXPECT_EQ(surface.Strokes.front().Text, file);
+  const std::vector<std::string> files = {"dir/map.bmp", "dir/map.bmp", "dir/mapgrey.bmp",
+                                          "dir/mapbw.bmp"};
+  for (const MapMode mode : AllModes) {
+    const Stroke first = Drawn(Board("Spring", "moves", {}), {mode}).Strokes.front();
+    EXPECT_EQ(first.Kind + first.Text, "picture" + files.at(static_cast<std::size_t>(mode)));
   }
-}
-
-TEST(MapView, NothingIsDrawnWithoutABackground) {
   Recorder surface;
   surface.PictureMissing = true;
-  EXPECT_THROW(RenderMap(Board("moves", {}), {}, "dir", surface), model::FileError);
+  EXPECT_THROW(RenderMap(Board("Spring", "moves", {}), {}, "dir", surface), model::FileError);
   EXPECT_TRUE(surface.Strokes.empty());
 }
 
 TEST(MapView, StepsPaintOverEarlierOnes) {
-  GameState game =
-      Board("retreats", {"FRA A(Mun)", "GER A(Mun) <Bur", "ENG A(Lon)", "ENG A(Wal) <Cly"});
+  GameState game = Board("Spring", "retreats",
+                         {"FRA A(Mun)", "GER A(Mun) <Bur", "ENG A(Lon)", "ENG A(Wal) <Cly"});
   Live(game, "Par").Uncontested = false;
   Live(game, "Bre").Owner = "FRA";
-  Recorder surface;
-  RenderMap(game, {MapMode::Colour, true, false, true}, "", surface);
+  const Drawn surface(game, {MapMode::Colour, true, false, true});
   const std::string steps = Order(surface);
   const std::string end =
       "text line attack unit small polygon box text box text box text box "
@@ -96,7 +87,7 @@ TEST(MapView, StepsPaintOverEarlierOnes) {
 
 TEST(MapView, LabelIsCentredAndACoastShowsItsLetter) {
   Recorder surface;
-  const GameState game = Board("moves", {});
+  const GameState game = Board("Spring", "moves", {});
   RenderMap(game, {}, "", surface);
   const auto texts = surface.All("text");
   ASSERT_EQ(static_cast<int>(texts.size()), game.Provinces.Count() + 3);
@@ -106,16 +97,15 @@ TEST(MapView, LabelIsCentredAndACoastShowsItsLetter) {
     EXPECT_EQ(text.Text, name.size() == 3 ? name : name.substr(4)) << name;
     const double half = 50.0 * static_cast<double>(text.Text.size());
     const render::Point corner = text.Points.front();
-    EXPECT_EQ(At({corner.X + half, corner.Y + 100}), LabelAt(game, name)) << name;
+    EXPECT_EQ(At({corner.X + half, corner.Y + 100}), LabelAt(name)) << name;
     EXPECT_EQ(text.Fore, 0U);
     EXPECT_FALSE(text.Bold);
   }
 }
 
 TEST(MapView, EveryCentreHasItsDotBelowTheLabel) {
-  const GameState game = Board("moves", {});
-  Recorder surface;
-  RenderMap(game, {}, "", surface);
+  const GameState game = Board("Spring", "moves", {});
+  const Drawn surface(game, {});
   const auto dots = surface.All("circle");
   ASSERT_EQ(dots.size(), 34U);
   std::size_t next = 0;
@@ -128,186 +118,125 @@ TEST(MapView, EveryCentreHasItsDotBelowTheLabel) {
   }
 }
 
-TEST(MapView, BoxInTheOwnersColourOnlyForOwnedCentres) {
-  GameState game = Board("moves", {});
-  Live(game, "Par").Owner = "FRA";
-  Live(game, "Tun").Owner = "fra";
-  Live(game, "Spa.n").Owner = "FRA";
+TEST(MapView, OnlyOwnedCentresHaveABoxOrAShield) {
+  GameState game = Board("Spring", "moves", {});
+  Own(game, "FRA Par Bur Spa.n");
+  Own(game, "fra Tun");
   for (const MapMode mode : {MapMode::Colour, MapMode::BlackWhite}) {
-    Recorder surface;
-    RenderMap(game, {mode, false, true, false}, "", surface);
-    const auto boxes = surface.All("box");
+    const auto boxes = Drawn(game, {mode, false, true, false}).All("box");
     ASSERT_EQ(boxes.size(), 1U);
     const Stroke& box = boxes.front();
     // "Par": 300 by 200 about the label point; the box begins half a blank further left.
     const render::Point corner = box.Points.front();
-    EXPECT_EQ(At({corner.X + 50 + 150, corner.Y - 20 + 100}), LabelAt(game, "Par"));
-    EXPECT_DOUBLE_EQ(box.Width, 400);
-    EXPECT_DOUBLE_EQ(box.Height, 160);
+    EXPECT_EQ(At({corner.X + 50 + 150, corner.Y - 20 + 100}), LabelAt("Par"));
+    EXPECT_EQ(At({box.Width, box.Height}), "400,160");
     EXPECT_EQ(box.Fore, game.Countries[2].Colour);
-    EXPECT_FALSE(box.Filled);
-    EXPECT_EQ(box.Pen, 2);
+    EXPECT_TRUE(!box.Filled && box.Pen == 2);
   }
-  Recorder without;
-  RenderMap(game, {}, "", without);
-  EXPECT_TRUE(without.All("box").empty());
+  const auto shields = Drawn(game, {MapMode::Colour, false, false, true}).All("polygon");
+  ASSERT_EQ(shields.size(), 1U);
+  EXPECT_EQ(shields[0].Fill, game.Countries[2].Colour);
+  EXPECT_TRUE(Drawn(game).All("box").empty() && Drawn(game).All("polygon").empty());
 }
 
 TEST(MapView, CaptionsTellTitleSeasonAndStage) {
-  const std::vector<std::pair<std::string, std::string>> cases = {
-      {"moves", "before moves"},
-      {"retreats", "before retreats"},
-      {"adjustments", "before adjustments"},
-      {"finished", "end"}};
-  for (const auto& [stage, caption] : cases) {
-    GameState game = Board(stage, {});
+  for (const std::string stage : {"moves", "retreats", "adjustments", "finished"}) {
+    GameState game = Board("Autumn", stage, {});
     game.Title = "Friday";
-    game.Season = "Autumn";
     game.Year = 1912;
-    Recorder surface;
-    RenderMap(game, {}, "", surface);
-    auto texts = surface.All("text");
-    texts.erase(texts.begin(), texts.end() - 3);
+    const auto texts = Drawn(game).All("text");
     std::vector<std::string> seen;
-    for (const Stroke& text : texts) {
-      seen.push_back(text.Text + (text.Bold ? " bold " : " ") + At(text.Points.front()));
-    }
+    for (auto text = texts.end() - 3; text != texts.end(); ++text)
+      seen.push_back(text->Text + (text->Bold ? " bold " : " ") + At(text->Points.front()));
+    const std::string caption = stage == "finished" ? "end" : "before " + stage;
     EXPECT_THAT(
         seen, ElementsAre("Friday bold 100,100", "Autumn 1912 bold 100,300", caption + " 100,500"));
   }
 }
 
-struct StandoffCase {
-  std::string Name;
-  std::string Stage;
-  std::string Contested;
-  std::vector<std::string> Units;
-  bool Marked;
-};
-
 TEST(MapView, StandoffMarkers) {
-  const std::vector<StandoffCase> cases = {
-      {"empty province", "retreats", "Bur", {}, true},
-      {"other stage", "moves", "Bur", {}, false},
-      {"occupied", "retreats", "Bur", {"FRA A(Bur)"}, false},
-      {"occupied by a dislodged unit", "retreats", "Bur", {"FRA A(Bur) <Mun"}, false},
-      {"a coast has none", "retreats", "Spa.n", {}, false},
-      {"occupied on a coast", "retreats", "Spa", {"FRA F(Spa.n)"}, false}};
-  for (const StandoffCase& test : cases) {
-    GameState game = Board(test.Stage, test.Units);
-    Live(game, test.Contested).Uncontested = false;
-    Recorder surface;
-    RenderMap(game, {MapMode::Grey}, "", surface);
-    auto lines = surface.All("line");
-    std::erase_if(lines, [](const Stroke& line) { return line.Pen != 1; });
-    ASSERT_EQ(lines.size(), test.Marked ? 8U : 0U) << test.Name;
-    if (!test.Marked) continue;
+  const std::vector<std::tuple<std::string, std::string, std::vector<std::string>, bool>> cases = {
+      {"retreats", "Bur", {}, true},
+      {"moves", "Bur", {}, false},
+      {"retreats", "Bur", {"FRA A(Bur)"}, false},
+      {"retreats", "Bur", {"FRA A(Bur) <Mun"}, false},
+      {"retreats", "Spa.n", {}, false},
+      {"retreats", "Spa", {"FRA F(Spa.n)"}, false}};
+  for (const auto& [stage, contested, units, marked] : cases) {
+    SCOPED_TRACE(stage + contested + testing::PrintToString(units));
+    GameState game = Board("Spring", stage, units);
+    Live(game, contested).Uncontested = false;
+    const auto lines = Drawn(game, {MapMode::Grey}).All("line", 1);
+    ASSERT_EQ(lines.size(), marked ? 8U : 0U);
+    if (!marked) continue;
     const render::Point start = lines.front().Points.front();
-    EXPECT_EQ(At({start.X + 90, start.Y + 90}), UnitAt(game, "Bur"));
+    EXPECT_EQ(At({start.X + 90, start.Y + 90}), UnitAt("Bur"));
   }
 }
 
-struct AttackCase {
-  std::string Name;
-  std::string Stage;
-  std::vector<std::string> Units;
-  std::string From, To;  ///< unit points of the line; empty for none
-  int Power;
-};
-
 TEST(MapView, AttackLines) {
-  const std::vector<AttackCase> cases = {
-      {"from the empty province", "retreats", {"GER A(Bur) <Mun", "FRA A(Bur)"}, "Mun", "Bur", 2},
-      {"not in another stage", "finished", {"GER A(Bur) <Mun", "FRA A(Bur)"}, "", "", 0},
-      {"old province taken",
-       "retreats",
-       {"GER A(Bur) <Mun", "FRA A(Bur)", "AUS A(Mun)"},
-       "",
-       "",
-       0},
-      {"old province holds a dislodged unit",
-       "retreats",
-       {"GER A(Bur) <Mun", "FRA A(Bur)", "AUS A(Mun) <Tyr"},
-       "",
-       "",
-       0},
-      {"attacker gone", "retreats", {"GER A(Bur) <Mun"}, "", "", 0},
-      {"the last attacker counts",
-       "retreats",
-       {"FRA A(Bur)", "GER A(Bur) <Mun", "ITA A(Bur)"},
-       "Mun",
-       "Bur",
-       7},
-      {"to where the attacker stands",
-       "retreats",
-       {"GER F(Spa.n) <Gas", "FRA A(Spa)"},
-       "Gas",
-       "Spa",
-       2}};
-  for (const AttackCase& test : cases) {
-    for (const MapMode mode :
-         {MapMode::Colour3D, MapMode::Colour, MapMode::Grey, MapMode::BlackWhite}) {
-      const GameState game = Board(test.Stage, test.Units);
-      Recorder surface;
-      RenderMap(game, {mode}, "", surface);
-      auto lines = surface.All("line");
-      std::erase_if(lines, [](const Stroke& line) { return line.Pen != 5; });
-      ASSERT_EQ(lines.size(), test.From.empty() ? 0U : 1U) << test.Name;
+  struct Case {
+    std::string Stage;
+    std::vector<std::string> Units;
+    std::string From, To;  ///< unit points of the line; empty for none
+    int Power;
+  };
+  const std::vector<Case> cases = {
+      {"retreats", {"GER A(Bur) <Mun", "FRA A(Bur)"}, "Mun", "Bur", 2},
+      {"finished", {"GER A(Bur) <Mun", "FRA A(Bur)"}, "", "", 0},
+      {"retreats", {"GER A(Bur) <Mun", "FRA A(Bur)", "AUS A(Mun)"}, "", "", 0},
+      {"retreats", {"GER A(Bur) <Mun", "FRA A(Bur)", "AUS A(Mun) <Tyr"}, "", "", 0},
+      {"retreats", {"GER A(Bur) <Mun"}, "", "", 0},
+      {"retreats", {"FRA A(Bur)", "GER A(Bur) <Mun", "ITA A(Bur)"}, "Mun", "Bur", 7},
+      {"retreats", {"GER F(Spa.n) <Gas", "FRA A(Spa)"}, "Gas", "Spa", 2}};
+  for (const Case& test : cases) {
+    SCOPED_TRACE(test.Stage + testing::PrintToString(test.Units));
+    for (const MapMode mode : AllModes) {
+      const GameState game = Board("Spring", test.Stage, test.Units);
+      const auto lines = Drawn(game, {mode}).All("line", 5);
+      ASSERT_EQ(lines.size(), test.From.empty() ? 0U : 1U);
       if (test.From.empty()) continue;
-      EXPECT_EQ(At(lines[0].Points[0]), UnitAt(game, test.From)) << test.Name;
-      EXPECT_EQ(At(lines[0].Points[1]), UnitAt(game, test.To)) << test.Name;
+      EXPECT_EQ(At(lines[0].Points[0]) + At(lines[0].Points[1]),
+                UnitAt(test.From) + UnitAt(test.To));
       EXPECT_EQ(lines[0].Fore, render::InColour(mode) ? game.Countries[test.Power].Colour : 0U);
     }
   }
 }
 
-TEST(MapView, AnUnrecordedAttackHasNoLine) {
-  GameState game = Board("retreats", {"GER A(Bur) <Mun", "FRA A(Bur)"});
-  game.Units[1].DislodgedFrom.clear();
-  Recorder surface;
-  RenderMap(game, {MapMode::Colour}, "", surface);
-  EXPECT_TRUE(surface.All("line").empty());
-}
-
 TEST(MapView, DislodgedUnitsAreSmallAndOnTop) {
-  GameState game = Board("moves", {"GER A(Bur) <Mun", "FRA A(Bur)", "ENG A(Lon)", "AUS A(Vie)"});
+  GameState game =
+      Board("Spring", "retreats", {"GER A(Bur) <Mun", "FRA A(Bur)", "ENG A(Lon)", "AUS A(Vie)"});
+  game.Units[1].DislodgedFrom.clear();
   game.Units[4].Status = "lost";
-  Recorder surface;
-  RenderMap(game, {MapMode::Colour}, "", surface);
+  const Drawn surface(game, {MapMode::Colour});
+  EXPECT_TRUE(surface.All("line").empty()) << "the attack is not recorded";
   std::vector<std::string> units;
   for (const Stroke& circle : surface.All("circle")) {
     if (circle.Width == 45) continue;
-    units.push_back(At(circle.Points.front()) + " " + std::to_string(circle.Width).substr(0, 5));
-    EXPECT_EQ(circle.Fill, game.Countries[units.size() == 1   ? 2
-                                          : units.size() == 2 ? 1
-                                                              : 3]
-                               .Colour);
+    const auto power = std::find_if(game.Countries.begin(), game.Countries.end(),
+                                    [&](const auto& c) { return c.Colour == circle.Fill; });
+    units.push_back(power->Abbreviation + " " + At(circle.Points.front()) + " " +
+                    std::to_string(circle.Width).substr(0, 5));
   }
-  EXPECT_THAT(units, ElementsAre(UnitAt(game, "Bur") + " 115.0", UnitAt(game, "Lon") + " 115.0",
-                                 LabelAt(game, "Bur") + " 86.25"));
+  EXPECT_THAT(units,
+              ElementsAre("FRA " + UnitAt("Bur") + " 115.0", "ENG " + UnitAt("Lon") + " 115.0",
+                          "GER " + LabelAt("Bur") + " 86.25"));
 }
 
 TEST(MapView, FleetOnACoastStandsAtTheCoastsPoint) {
-  const GameState game = Board("moves", {"RUS F(Stp.n)"});
-  Recorder surface;
-  RenderMap(game, {MapMode::Colour}, "", surface);
-  const auto ships = surface.All("polygon");
+  const auto ships = Drawn(Board("Spring", "moves", {"RUS F(Stp.n)"})).All("polygon");
   ASSERT_EQ(ships.size(), 1U);
-  double left = 1e9;
-  double right = 0;
-  for (const render::Point& corner : ships[0].Points) {
-    left = std::min(left, corner.X);
-    right = std::max(right, corner.X);
-  }
-  const auto& coast = game.Map->Provinces[model::FindProvince(*game.Map, "Stp.n")];
-  EXPECT_NEAR(left, coast.UnitX * 10000.0 - 160, 0.5);
-  EXPECT_NEAR(right, coast.UnitX * 10000.0 + 160, 0.5);
+  const auto [left, right] =
+      std::minmax_element(ships[0].Points.begin(), ships[0].Points.end(),
+                          [](render::Point a, render::Point b) { return a.X < b.X; });
+  EXPECT_NEAR(left->X, Place("Stp.n").UnitX * 10000.0 - 160, 0.5);
+  EXPECT_NEAR(right->X, Place("Stp.n").UnitX * 10000.0 + 160, 0.5);
 }
 
 TEST(MapView, UnknownLocationOrPowerIsAFault) {
   for (const MapMode mode : {MapMode::Colour3D, MapMode::BlackWhite}) {
     for (const bool power : {false, true}) {
-      GameState game = Board("moves", {"FRA A(Bur)"});
+      GameState game = Board("Spring", "moves", {"FRA A(Bur)"});
       (power ? game.Units[1].Power : game.Units[1].Location) = "Xyz";
       Recorder surface;
       EXPECT_THROW(RenderMap(game, {mode}, "", surface), model::IndexOutOfRange);
@@ -315,29 +244,16 @@ TEST(MapView, UnknownLocationOrPowerIsAFault) {
   }
 }
 
-TEST(MapView, CentreOwnersMarkOwnedCentresOnly) {
-  GameState game = Board("moves", {});
-  Live(game, "Par").Owner = "FRA";
-  Live(game, "Bur").Owner = "FRA";
-  Live(game, "Tun").Owner = "nobody";
-  Recorder surface;
-  RenderMap(game, {MapMode::Colour, false, false, true}, "", surface);
-  const auto shields = surface.All("polygon");
-  ASSERT_EQ(shields.size(), 1U);
-  EXPECT_EQ(shields[0].Fill, game.Countries[2].Colour);
-}
-
 /// Centres and units of France, Turkey, Austria and England; of a coast and of a place that is no
 /// centre the owner does not count.
 GameState LegendBoard(std::string_view stage) {
-  GameState game = Board(stage, {"FRA A(Bur)", "FRA A(Par)", "FRA F(Bre)", "TUR A(Con)",
-                                 "TUR A(Smy)", "TUR F(Ank)", "AUS A(Vie)", "ENG A(Lon)"});
-  for (const char* place : {"Par", "Mar", "Bre", "Bel", "Spa", "Gas", "Spa.n"}) {
-    Live(game, place).Owner = "FRA";
+  GameState game = EmptyBoard("Spring", stage);
+  for (const char* unit : {"FRA A(Bur)", "FRA A(Par)", "FRA F(Bre)", "TUR A(Con)", "TUR A(Smy)",
+                           "TUR F(Ank)", "AUS A(Vie)", "ENG A(Lon)"}) {
+    AddDrawnUnit(game, unit);
   }
-  for (const char* place : {"Con", "Smy"})
-    Live(game, place).Owner = "TUR";
-  Live(game, "Vie").Owner = "AUS";
+  for (const char* owned : {"FRA Par Mar Bre Bel Spa Gas Spa.n", "TUR Con Smy", "AUS Vie"})
+    Own(game, owned);
   return game;
 }
 
@@ -360,8 +276,7 @@ TEST(MapView, LegendInColour) {
   for (const MapMode mode : {MapMode::Colour3D, MapMode::Colour}) {
     for (const std::string stage : {"moves", "retreats", "adjustments", "finished"}) {
       const GameState game = LegendBoard(stage);
-      Recorder surface;
-      RenderMap(game, {mode, true, false, false}, "", surface);
+      const Drawn surface(game, {mode, true, false, false});
       EXPECT_EQ(LegendRows(surface), stage == "adjustments" ? adjusted : plain) << stage;
       const auto boxes = surface.All("box");
       const auto texts = surface.All("text");
@@ -380,8 +295,7 @@ TEST(MapView, LegendInColour) {
 TEST(MapView, LegendWithoutColour) {
   for (const MapMode mode : {MapMode::Grey, MapMode::BlackWhite}) {
     for (const char* stage : {"moves", "adjustments"}) {
-      Recorder surface;
-      RenderMap(LegendBoard(stage), {mode, true, false, false}, "", surface);
+      const Drawn surface(LegendBoard(stage), {mode, true, false, false});
       EXPECT_THAT(LegendRows(surface),
                   ElementsAre("ENG: 0 80", "FRA: 5 280", "GER: 0 480", "RUS: 0 680", "TUR: 2 880",
                               "AUS: 1 1080", "ITA: 0 1280"));

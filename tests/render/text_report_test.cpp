@@ -1,6 +1,6 @@
 #include "render/text_report.h"
 
-#include "model/map_files.h"
+#include "support/situation.h"
 
 #include <gtest/gtest.h>
 
@@ -10,20 +10,14 @@ namespace orb::render {
 namespace {
 
 model::GameState SampleGame() {
-  static const auto map = model::LoadMap(std::filesystem::path(ORB_SOURCE_DIR) / "data");
-  model::GameState game = model::EmptyGame(map);
+  model::GameState game = tests::EmptyBoard("Autumn", "adjustments");
   game.Title = "Caf\xe9";
-  game.Season = "Autumn";
   game.Year = 1902;
-  game.Stage = "adjustments";
-  game.Units.Append({"ENG", "F", "NTH", {}, {}, {}, 0});
-  game.Units.Append({"FRA", "A", "Bur", "dislodged", "Mun", {}, 0});
-  game.Units.Append({"FRA", "A", "Spa", {}, {}, {}, 0});
-  game.Units.Append({"XYZ", "A", "Rom", {}, {}, {}, 0});
-  for (const char* centre : {"Lon", "Edi"})
-    game.Provinces[model::FindProvince(*map, centre)].Owner = "ENG";
-  game.Provinces[model::FindProvince(*map, "Par")].Owner = "FRA";
-  game.Provinces[model::FindProvince(*map, "Bur")].Owner = "FRA";
+  for (const char* unit : {"ENG F(NTH)", "FRA A(Bur) <Mun", "FRA A(Spa)", "ITA A(Rom)"})
+    tests::AddDrawnUnit(game, unit);
+  game.Units[4].Power = "XYZ";
+  tests::Own(game, "ENG Lon Edi");
+  tests::Own(game, "FRA Par Bur");
   game.OrdersList = {"ENG F(NTH) - Hol"};
   game.ReportLines.Append("  ENG F(NTH) hold  ");
   game.ReportLines.Append("[ FRA A(Bur) - Mun ]  dislodged");
