@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/game_state.h"
+#include "render/map_format.h"
 #include "render/map_view.h"
 
 #include <filesystem>
@@ -16,6 +17,7 @@ struct MapRequest {
   std::filesystem::path DataDirectory;
   int PixelWidth = 0;  ///< 0: the background picture's own
   std::filesystem::path Picture;
+  render::MapFormat Format;
 };
 
 /// The name of the module's file, in the directory of the program.

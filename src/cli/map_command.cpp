@@ -1,9 +1,7 @@
 #include "cli/command.h"
 #include "cli/draw_map.h"
 #include "cli/games.h"
-#include "model/text.h"
 
-#include <algorithm>
 #include <charconv>
 
 namespace orb::cli {
@@ -12,18 +10,10 @@ namespace {
 constexpr std::array Options{OptionId::Mode,         OptionId::CentreCount, OptionId::Borders,
                              OptionId::CentreOwners, OptionId::Width,       OptionId::Output};
 
-constexpr std::array<std::string_view, 4> Extensions{".bmp", ".png", ".svg", ".pdf"};
-
-/// Wider pictures would not fit into memory.
-constexpr int WidestPicture = 16384;
-
-std::filesystem::path Picture(const CommandLine& line) {
-  std::filesystem::path picture = *line.Value(OptionId::Output);
-  const std::string extension = model::LowerCase(picture.extension().string());
-  if (std::find(Extensions.begin(), Extensions.end(), extension) == Extensions.end()) {
-    throw UsageError("map: The picture's name must end in .bmp, .png, .svg or .pdf.");
-  }
-  return picture;
+render::MapFormat Format(const std::filesystem::path& picture) {
+  const auto format = render::FormatOf(picture);
+  if (!format) throw UsageError("map: The picture's name must end in .bmp, .png, .svg or .pdf.");
+  return *format;
 }
 
 render::MapMode Mode(const CommandLine& line) {
@@ -41,22 +31,23 @@ int PixelWidth(const CommandLine& line) {
   int width = 0;
   const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), width);
   if (error != std::errc() || rest != text.data() + text.size() || width < 1 ||
-      width > WidestPicture) {
+      width > render::MaxPixelWidth) {
     throw UsageError("map: The width is a number of pixels from 1 to " +
-                     std::to_string(WidestPicture) + ", not \"" + text + "\".");
+                     std::to_string(render::MaxPixelWidth) + ", not \"" + text + "\".");
   }
   return width;
 }
 
 int Execute(const CommandLine& line, Console& console) {
-  const std::filesystem::path picture = Picture(line);
+  const std::filesystem::path picture = *line.Value(OptionId::Output);
+  const render::MapFormat format = Format(picture);
   const int width = PixelWidth(line);
   const render::MapOptions options{Mode(line), line.Has(OptionId::CentreCount),
                                    line.Has(OptionId::Borders), line.Has(OptionId::CentreOwners)};
   const std::filesystem::path data = DataDirectory(line);
   return ForEachGame(line, console, PlanPaths(line),
                      [&](const model::GameState& game, const GamePaths& /*paths*/) {
-                       DrawMap({game, options, data, width, picture});
+                       DrawMap({game, options, data, width, picture, format});
                        return true;
                      });
 }

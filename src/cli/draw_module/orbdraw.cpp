@@ -16,14 +16,9 @@ extern "C" bool OrbDrawMap(const orb::cli::MapRequest& request, std::string& err
     char name[] = "orbctl";
     char* argv[] = {name, nullptr};
     const QGuiApplication application(argc, argv);
-    const auto format = render::FormatOf(request.Picture);
-    if (!format) {
-      error = "The picture's extension is none of .bmp, .png, .svg and .pdf.";
-      return false;
-    }
     render::PictureCache pictures;
     render::SaveMap(request.Game, request.Options, request.DataDirectory, request.PixelWidth,
-                    pictures, request.Picture, *format);
+                    pictures, request.Picture, request.Format);
     return true;
   } catch (const std::exception& failure) {
     error = failure.what();

@@ -2,7 +2,6 @@
 
 #include "model/errors.h"
 #include "model/files.h"
-#include "model/text.h"
 #include "render/qt/painter_surface.h"
 #include "render/qt/text_codec.h"
 
@@ -12,10 +11,7 @@
 #include <QPdfWriter>
 #include <QSvgGenerator>
 
-#include <array>
 #include <string>
-#include <string_view>
-#include <utility>
 
 namespace orb::render {
 namespace {
@@ -95,19 +91,6 @@ void WritePdf(const Job& job, QBuffer& buffer) {
 }
 
 }  // namespace
-
-std::optional<MapFormat> FormatOf(const std::filesystem::path& file) {
-  constexpr std::array<std::pair<std::string_view, MapFormat>, 4> formats = {
-      {{".bmp", MapFormat::Bmp},
-       {".png", MapFormat::Png},
-       {".svg", MapFormat::Svg},
-       {".pdf", MapFormat::Pdf}}};
-  const std::string extension = model::LowerCase(file.extension().string());
-  for (const auto& [text, format] : formats) {
-    if (extension == text) return format;
-  }
-  return std::nullopt;
-}
 
 QImage MapImage(const model::GameState& game, const MapOptions& options,
                 const std::filesystem::path& dataDirectory, int pixelWidth,

@@ -1,23 +1,15 @@
 #pragma once
 
 #include "model/game_state.h"
+#include "render/map_format.h"
 #include "render/map_view.h"
 #include "render/qt/picture_cache.h"
 
 #include <QImage>
 
 #include <filesystem>
-#include <optional>
 
 namespace orb::render {
-
-enum class MapFormat { Bmp, Png, Svg, Pdf };
-
-/// The widest picture that is drawn, in pixels.
-constexpr int MaxPixelWidth = 16384;
-
-/// The format that belongs to a file name's extension, in any letter case; nothing for others.
-std::optional<MapFormat> FormatOf(const std::filesystem::path& file);
 
 /// The map as a picture of the given width in pixels (0: the background's own). The width scales
 /// the whole drawing, symbols and texts with it. Throws what RenderMap throws, FileError also for
