@@ -1,36 +1,24 @@
 #include "map_data/hit_picture.h"
 
-#include "model/errors.h"
 #include "model/files.h"
 #include "orders/lookups.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <limits>
-#include <string>
 
 namespace orb::tests {
 namespace {
 
 struct Pixel {
-  int X = 0;
-  int Y = 0;
+  int X = 0, Y = 0;
 };
 
-int LittleEndian(const std::string& bytes, std::size_t at) {
-  std::uint32_t value = 0;
-  for (std::size_t i = 4; i-- > 0;)
-    value = value << 8U | static_cast<std::uint8_t>(bytes.at(at + i));
-  return static_cast<int>(value);
-}
-
-/// The pixels round a pixel, corners included.
+/// The pixels round a pixel, corners and itself included.
 std::vector<Pixel> Round(const HitPicture& picture, Pixel at) {
   std::vector<Pixel> round;
   for (int y = std::max(at.Y - 1, 0); y <= std::min(at.Y + 1, picture.Height - 1); ++y) {
-    for (int x = std::max(at.X - 1, 0); x <= std::min(at.X + 1, picture.Width - 1); ++x) {
-      if (x != at.X || y != at.Y) round.push_back({x, y});
-    }
+    for (int x = std::max(at.X - 1, 0); x <= std::min(at.X + 1, picture.Width - 1); ++x)
+      round.push_back({x, y});
   }
   return round;
 }
@@ -58,25 +46,23 @@ std::vector<Pixel> TakePiece(const HitPicture& picture, const model::Map& map, P
   return piece;
 }
 
-double Distance(const HitPicture& picture, const std::vector<Pixel>& piece,
-                const model::Province& coast) {
-  double nearest = std::numeric_limits<double>::max();
-  for (const Pixel p : piece) {
-    const double dx = p.X + 0.5 - static_cast<double>(coast.UnitX) * picture.Width;
-    const double dy = p.Y + 0.5 - static_cast<double>(coast.UnitY) * picture.Height;
-    nearest = std::min(nearest, dx * dx + dy * dy);
-  }
-  return nearest;
-}
-
-std::vector<int> CoastsOf(const model::Map& map, int province) {
-  std::vector<int> coasts;
+/// The row of the province's coast nearest to the piece, or 0 when it has no coasts.
+int NearestCoast(const HitPicture& picture, const model::Map& map, int province,
+                 const std::vector<Pixel>& piece) {
+  int nearest = 0;
+  double least = std::numeric_limits<double>::max();
   for (int row = 1; row <= map.Provinces.Count(); ++row) {
-    if (map.Provinces[row].Name.starts_with(map.Provinces[province].Name + ".")) {
-      coasts.push_back(row);
+    const model::Province& coast = map.Provinces[row];
+    if (!coast.Name.starts_with(map.Provinces[province].Name + ".")) continue;
+    for (const Pixel p : piece) {
+      const double dx = p.X + 0.5 - static_cast<double>(coast.UnitX) * picture.Width;
+      const double dy = p.Y + 0.5 - static_cast<double>(coast.UnitY) * picture.Height;
+      if (dx * dx + dy * dy >= least) continue;
+      least = dx * dx + dy * dy;
+      nearest = row;
     }
   }
-  return coasts;
+  return nearest;
 }
 
 }  // namespace
@@ -87,38 +73,34 @@ bool IsWater(const model::Map& map, int row) {
 
 HitPicture ReadHitPicture(const std::filesystem::path& path) {
   const std::string bytes = model::ReadFile(path);
-  HitPicture picture{LittleEndian(bytes, 18), LittleEndian(bytes, 22), {}};
-  const auto width = static_cast<std::size_t>(picture.Width);
-  const auto lines = static_cast<std::size_t>(picture.Height);
-  const std::size_t stride = (width + 3) / 4 * 4;
-  const auto start = static_cast<std::size_t>(LittleEndian(bytes, 10));
-  if (bytes.size() < start + stride * lines) throw model::FileError(path.string() + " is cut off");
-  for (std::size_t line = lines; line-- > 0;) {
-    const std::string pixels = bytes.substr(start + line * stride, width);
-    picture.Rows.insert(picture.Rows.end(), pixels.begin(), pixels.end());
+  const auto number = [&](std::size_t at) {
+    return static_cast<std::uint8_t>(bytes.at(at)) +
+           256 * static_cast<std::uint8_t>(bytes.at(at + 1));
+  };
+  HitPicture picture{number(18), number(22), {}};
+  const int stride = (picture.Width + 3) / 4 * 4;
+  for (int line = picture.Height; line-- > 0;) {
+    const auto start = bytes.begin() + number(10) + line * stride;
+    picture.Rows.insert(picture.Rows.end(), start, start + picture.Width);
   }
   return picture;
 }
 
 HitPicture SplitCoasts(const HitPicture& picture, const model::Map& map) {
   HitPicture split = picture;
-  std::vector<std::vector<int>> coastsOf{{}};
+  std::vector<bool> hasCoasts(static_cast<std::size_t>(map.Provinces.Count()) + 1);
   for (int row = 1; row <= map.Provinces.Count(); ++row)
-    coastsOf.push_back(CoastsOf(map, row));
+    hasCoasts[static_cast<std::size_t>(row)] = NearestCoast(picture, map, row, {{0, 0}}) != 0;
   std::vector<bool> taken(picture.Rows.size());
   for (int y = 0; y < picture.Height; ++y) {
     for (int x = 0; x < picture.Width; ++x) {
-      const std::vector<int>& coasts = coastsOf.at(static_cast<std::size_t>(picture.At(x, y)));
-      if (coasts.empty() || taken[picture.Index(x, y)] || !IsShore(picture, map, {x, y})) continue;
+      const int row = picture.At(x, y);
+      if (!hasCoasts[static_cast<std::size_t>(row)] || taken[picture.Index(x, y)]) continue;
+      if (!IsShore(picture, map, {x, y})) continue;
       const std::vector<Pixel> piece = TakePiece(picture, map, {x, y}, taken);
-      const auto distance = [&](int coast) {
-        return Distance(picture, piece, map.Provinces[coast]);
-      };
-      const int nearest = *std::min_element(
-          coasts.begin(), coasts.end(), [&](int a, int b) { return distance(a) < distance(b); });
-      for (const Pixel p : piece) {
-        split.Rows[picture.Index(p.X, p.Y)] = static_cast<std::uint8_t>(nearest);
-      }
+      const int coast = NearestCoast(picture, map, row, piece);
+      for (const Pixel p : piece)
+        split.Rows[picture.Index(p.X, p.Y)] = static_cast<std::uint8_t>(coast);
     }
   }
   return split;

@@ -2,7 +2,6 @@
 
 #include "model/map.h"
 
-#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <vector>
@@ -11,19 +10,15 @@ namespace orb::tests {
 
 /// The picture of the same shape as the map whose pixels are rows of prov.dat, 0 for none.
 struct HitPicture {
-  int Width = 0;
-  int Height = 0;
+  int Width = 0, Height = 0;
   std::vector<std::uint8_t> Rows;  ///< line by line, the top line first
 
-  std::size_t Index(int x, int y) const {
-    return static_cast<std::size_t>(y) * static_cast<std::size_t>(Width) +
-           static_cast<std::size_t>(x);
-  }
+  std::size_t Index(int x, int y) const { return static_cast<std::size_t>(y * Width + x); }
   int At(int x, int y) const { return Rows[Index(x, y)]; }
 };
 
-/// The pixels of a bottom-up bitmap of 8 bits a pixel; asking the hit test for each would take
-/// seconds. Throws model::FileError.
+/// The pixels of a bitmap that the program's hit test accepts and that runs from the bottom up;
+/// asking the hit test for each would take seconds.
 HitPicture ReadHitPicture(const std::filesystem::path& path);
 
 /// The same picture as a fleet sees it: the shore of a province with coasts falls into pieces that
