@@ -2,6 +2,7 @@
 
 #include "model/text.h"
 #include "orders/lookups.h"
+#include "render/drawing.h"
 #include "render/symbols.h"
 
 #include <string>
@@ -11,9 +12,6 @@ namespace {
 
 using model::GameState;
 using model::Unit;
-
-constexpr model::Colour Black = model::Rgb(0, 0, 0);
-constexpr model::Colour White = model::Rgb(255, 255, 255);
 
 /// A supply centre's dot, in twips.
 constexpr double DotRadius = 45;
@@ -30,45 +28,35 @@ std::string_view LabelText(std::string_view name) {
   return name.find('.') == std::string_view::npos ? name : name.substr(name.size() - 1);
 }
 
-void SetPens(Surface& surface) {
-  surface.ForeColour = Black;
-  surface.FillColour = Black;
-  surface.FillStyle = Fill::Solid;
-  surface.DrawWidth = 1;
+void SetFont(Surface& surface) {
   surface.FontSize = 8;
   surface.FontBold = false;
   surface.FontUnderline = false;
 }
 
-void DrawOwnerBox(Surface& surface, std::string_view label, model::Colour colour) {
+void DrawOwnerBox(Surface& surface, Point corner, std::string_view label, model::Colour colour) {
   const double height = surface.TextHeight(label);
-  const Point corner = {surface.CurrentX - surface.TextWidth(" ") / 2,
-                        surface.CurrentY + 0.1 * height};
   surface.FillStyle = Fill::Transparent;
   surface.DrawWidth = 2;
   surface.ForeColour = colour;
-  surface.Box(corner, surface.TextWidth(std::string(" ").append(label)), 0.8 * height);
+  surface.Box({corner.X - surface.TextWidth(" ") / 2, corner.Y + 0.1 * height},
+              surface.TextWidth(std::string(" ").append(label)), 0.8 * height);
   SetPens(surface);
 }
 
 void DrawLabel(Surface& surface, const GameState& game, const MapOptions& options, int row) {
   const model::Province& province = game.Map->Provinces[row];
   const std::string_view label = LabelText(province.Name);
-  const double height = surface.TextHeight(label);
-  const Point centre = {province.LabelX * surface.ScaleWidth(),
-                        province.LabelY * surface.ScaleHeight()};
-  const Point corner = {centre.X - surface.TextWidth(label) / 2, centre.Y - height / 2};
-  surface.CurrentX = corner.X;
-  surface.CurrentY = corner.Y;
-  surface.Print(label);
+  const Point centre = OnSurface(surface, LabelPoint(province));
+  const Point corner = {centre.X - surface.TextWidth(label) / 2,
+                        centre.Y - surface.TextHeight(label) / 2};
+  PrintAt(surface, corner, label);
   if (province.IsSupplyCentre == 0) return;
   const int owner = model::FindCountry(game.Provinces[row].Owner);
   if (owner != 0 && options.ColourBordersByOwner) {
-    surface.CurrentX = corner.X;
-    surface.CurrentY = corner.Y;
-    DrawOwnerBox(surface, label, game.Countries[owner].Colour);
+    DrawOwnerBox(surface, corner, label, game.Countries[owner].Colour);
   }
-  surface.Circle({centre.X, centre.Y + 0.6 * height}, DotRadius);
+  surface.Circle(CentreDot(surface, province), DotRadius);
 }
 
 void DrawLabelsAndCentres(Surface& surface, const GameState& game, const MapOptions& options) {
@@ -88,9 +76,7 @@ void DrawCaptions(Surface& surface, const GameState& game) {
   const double left = surface.TextWidth("O");
   const double height = surface.TextHeight("O");
   const auto caption = [&](double lines, std::string_view text) {
-    surface.CurrentX = left;
-    surface.CurrentY = lines * height;
-    surface.Print(text);
+    PrintAt(surface, {left, lines * height}, text);
   };
   surface.FontBold = true;
   caption(0.5, game.Title);
@@ -194,9 +180,8 @@ void DrawPlainLegend(Surface& surface, const GameState& game) {
   surface.Box({left, 0.2 * height}, width, (model::CountryCount + 0.4) * height);
   for (int power = 1; power <= model::CountryCount; ++power) {
     const std::string& name = game.Countries[power].Abbreviation;
-    surface.CurrentX = left + 0.5 * letter;
-    surface.CurrentY = (0.4 + power - 1) * height;
-    surface.Print(name + ": " + std::to_string(CountCentres(game, name)));
+    PrintAt(surface, {left + 0.5 * letter, (0.4 + power - 1) * height},
+            name + ": " + std::to_string(CountCentres(game, name)));
   }
   SetPens(surface);
 }
@@ -215,9 +200,7 @@ void DrawColourLegend(Surface& surface, const GameState& game) {
     surface.FillColour = country.Colour;
     surface.Box({left - 1.4 * letter, top + 0.15 * height}, 1.1 * letter, 0.7 * height);
     surface.ForeColour = country.TextColour;
-    surface.CurrentX = left;
-    surface.CurrentY = top;
-    surface.Print(CountText(game, country.Abbreviation));
+    PrintAt(surface, {left, top}, CountText(game, country.Abbreviation));
   }
   SetPens(surface);
 }
@@ -233,6 +216,7 @@ void RenderMap(const GameState& game, const MapOptions& options,
                const std::filesystem::path& dataDirectory, Surface& surface) {
   surface.LoadPicture(BackgroundFile(dataDirectory, options.Mode));
   SetPens(surface);
+  SetFont(surface);
   DrawLabelsAndCentres(surface, game, options);
   DrawCaptions(surface, game);
   if (game.Stage == "retreats") {

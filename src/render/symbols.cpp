@@ -1,5 +1,7 @@
 #include "render/symbols.h"
 
+#include "render/drawing.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -14,8 +16,6 @@ namespace {
 using model::Colour;
 using model::Rgb;
 
-constexpr Colour Black = Rgb(0, 0, 0);
-constexpr Colour White = Rgb(255, 255, 255);
 constexpr Colour Lit = White;
 constexpr Colour HalfLit = Rgb(128, 128, 128);
 constexpr Colour Shaded = Rgb(64, 64, 64);
@@ -78,17 +78,6 @@ Paint PaintOf(const SymbolStyle& style, int power) {
   return {device.Dark ? Black : White, Black, device.Dark ? White : Black, true, device.Ringed};
 }
 
-void SetPens(Surface& surface) {
-  surface.ForeColour = Black;
-  surface.FillColour = Black;
-  surface.FillStyle = Fill::Solid;
-  surface.DrawWidth = 1;
-}
-
-Point OnSurface(const Surface& surface, Point fraction) {
-  return {fraction.X * surface.ScaleWidth(), fraction.Y * surface.ScaleHeight()};
-}
-
 Point Offset(Point origin, Point twips, double scale) {
   return {origin.X + twips.X * scale, origin.Y + twips.Y * scale};
 }
@@ -128,9 +117,9 @@ void DrawLetter(Surface& surface, Point centre, double size, char letter, Colour
   surface.ForeColour = colour;
   surface.FontBold = true;
   // Capitals stand a little below the middle of their line.
-  surface.CurrentX = centre.X - surface.TextWidth(text) / 2;
-  surface.CurrentY = centre.Y - 0.525 * surface.TextHeight(text);
-  surface.Print(text);
+  PrintAt(surface,
+          {centre.X - surface.TextWidth(text) / 2, centre.Y - 0.525 * surface.TextHeight(text)},
+          text);
   surface.FontBold = false;
   surface.FontSize = oldSize;
 }
@@ -233,10 +222,8 @@ void DrawCentreOwnerMarker(Surface& surface, const model::GameState& game, MapMo
                            int province) {
   const int owner = model::FindCountry(game.Provinces[province].Owner);
   if (owner == 0) return;
-  const model::Province& place = game.Map->Provinces[province];
   const Paint paint = PaintOf({game.Countries, mode}, owner);
-  Point centre = OnSurface(surface, {place.LabelX, place.LabelY});
-  centre.Y += 0.6 * surface.TextHeight(place.Name);
+  const Point centre = CentreDot(surface, game.Map->Provinces[province]);
   SetPaint(surface, paint);
   surface.Polygon(Placed(Shield, centre, 1));
   if (paint.HasLetter) {

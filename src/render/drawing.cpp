@@ -1,0 +1,27 @@
+#include "render/drawing.h"
+
+namespace orb::render {
+
+void SetPens(Surface& surface) {
+  surface.ForeColour = Black;
+  surface.FillColour = Black;
+  surface.FillStyle = Fill::Solid;
+  surface.DrawWidth = 1;
+}
+
+Point OnSurface(const Surface& surface, Point fraction) {
+  return {fraction.X * surface.ScaleWidth(), fraction.Y * surface.ScaleHeight()};
+}
+
+void PrintAt(Surface& surface, Point corner, std::string_view text) {
+  surface.CurrentX = corner.X;
+  surface.CurrentY = corner.Y;
+  surface.Print(text);
+}
+
+Point CentreDot(const Surface& surface, const model::Province& province) {
+  const Point label = OnSurface(surface, {province.LabelX, province.LabelY});
+  return {label.X, label.Y + 0.6 * surface.TextHeight(province.Name)};
+}
+
+}  // namespace orb::render

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "model/country.h"
+#include "model/map.h"
+#include "render/surface.h"
+
+#include <string_view>
+
+// What the map and its symbols have in common.
+
+namespace orb::render {
+
+constexpr model::Colour Black = model::Rgb(0, 0, 0);
+constexpr model::Colour White = model::Rgb(255, 255, 255);
+
+/// Sets a black pen of width 1 and solid black filling.
+void SetPens(Surface& surface);
+
+/// The point that lies at these fractions of the surface's width and height.
+Point OnSurface(const Surface& surface, Point fraction);
+
+/// Writes a text whose top left corner is given.
+void PrintAt(Surface& surface, Point corner, std::string_view text);
+
+/// The middle of a supply centre's dot, just below the label.
+Point CentreDot(const Surface& surface, const model::Province& province);
+
+}  // namespace orb::render
