@@ -56,13 +56,10 @@ std::string Usage(const Command& command) {
   return usage + line + "\n";
 }
 
-template <class IsListed>
-std::string OptionRows(IsListed isListed) {
-  std::string rows;
-  for (const Option& option : AllOptions()) {
-    if (isListed(option.Id)) rows += Row(Spelled(option), option.Help);
-  }
-  return rows;
+std::string OptionRow(const Command& command, const Option& option) {
+  const bool isFileOnly = option.Id == OptionId::Output && !Takes(command, OptionId::InPlace);
+  return isFileOnly ? Row(OutputUsage(command), "the file to write")
+                    : Row(Spelled(option), option.Help);
 }
 
 }  // namespace
@@ -73,7 +70,10 @@ std::string ProgramHelp(std::span<const Command* const> commands) {
       "Keeps and resolves games of armies and fleets in a terminal.\n\nCommands:\n";
   for (const Command* command : commands)
     help += Row(command->Name, command->Summary);
-  help += "\nOptions:\n" + OptionRows(IsCommonOption);
+  help += "\nOptions:\n";
+  for (const Option& option : AllOptions()) {
+    if (IsCommonOption(option.Id)) help += Row(Spelled(option), option.Help);
+  }
   return help +
          "\n\"orbctl COMMAND --help\" tells the options of a command.\n"
          "Exit status: 0 every game done, 1 a game was abandoned or refused, 2 wrong usage.\n";
@@ -82,8 +82,11 @@ std::string ProgramHelp(std::span<const Command* const> commands) {
 std::string CommandHelp(const Command& command) {
   std::string help = Usage(command);
   help.append("It ").append(command.Summary).append(".\n");
-  return help + "\nOptions:\n" +
-         OptionRows([&](OptionId id) { return Takes(command, id) || IsCommonOption(id); });
+  help += "\nOptions:\n";
+  for (const Option& option : AllOptions()) {
+    if (Takes(command, option.Id) || IsCommonOption(option.Id)) help += OptionRow(command, option);
+  }
+  return help;
 }
 
 }  // namespace orb::cli

@@ -22,7 +22,7 @@ constexpr std::array<Option, OptionCount> Table{{
     {OptionId::Borders, "--borders", "", "colour the borders by owner"},
     {OptionId::CentreOwners, "--centre-owners", "", "mark the centres with their owners"},
     {OptionId::Width, "--width", "PIXELS", "the width of the picture; else that of the map"},
-    {OptionId::Output, "-o", "PATH", "what to write; for GAMEs also a directory: NAME.orb in it"},
+    {OptionId::Output, "-o", "PATH", "what to write; a directory: NAME.orb in it"},
     {OptionId::InPlace, "--in-place", "", "write over the game file that was read"},
 }};
 
