@@ -91,6 +91,7 @@ void MainWindow::createStatusBar() {
   m_fileName = new ElidedLabel;
   m_fileName->setObjectName(QStringLiteral("lblFileName"));
   m_fileName->setTextFormat(Qt::PlainText);
+  m_fileName->setContentsMargins(Margin, 0, Margin, 0);
   statusBar()->setSizeGripEnabled(false);
   statusBar()->addWidget(m_fileName, 1);
 }
