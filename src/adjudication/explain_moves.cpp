@@ -32,8 +32,18 @@ std::string NotUsedText(const Resolution& resolution, const OrderLine& order) {
   return "It is void: there is no " + other + UnitThere(resolution, order.Power2, order.Target);
 }
 
+/// The move that dislodged the unit, which is recorded at the last of its orders; 0 for none.
+int DislodgerOfUnit(const Resolution& resolution, int order) {
+  int dislodger = 0;
+  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
+    const bool same = resolution.Orders[k].UnitIndex == resolution.Orders[order].UnitIndex;
+    if (same && WasDislodged(resolution, k)) dislodger = resolution.Reasons[k].Dislodger;
+  }
+  return dislodger;
+}
+
 std::string BrokenConvoy(const Resolution& resolution, int fleet) {
-  const int attack = resolution.Reasons[fleet].Dislodger;
+  const int attack = DislodgerOfUnit(resolution, fleet);
   return UnitName(resolution.Orders[fleet]) + " was dislodged" +
          (attack == 0 ? "" : " by " + Quoted(resolution.Orders[attack]));
 }
@@ -136,17 +146,24 @@ Account OwnText(const model::Map& map, const Resolution& resolution, int order) 
   return account;
 }
 
-/// The supports for the order that came to nothing.
+/// The supports for the order that came to nothing. One that was cut is still taken off the
+/// strength when it is withdrawn.
 std::string LostSupportsOf(const Resolution& resolution, int order) {
+  const Reason& outcome = resolution.Reasons[order];
+  const bool weakened = outcome.Strength < 1 + static_cast<int>(outcome.Behind.count());
   std::string text;
   for (int k = 1; k <= resolution.Orders.Count(); ++k) {
     const Reason& reason = resolution.Reasons[k];
     if (resolution.Orders[k].LinkedOrder != order) continue;
     const std::string support = "; the support of " + UnitName(resolution.Orders[k]);
+    const bool withdrawn =
+        reason.SupportWithdrawn && !outcome.Behind.test(static_cast<std::size_t>(k));
     if (reason.Cutter != 0) {
       text += support + " was cut by " + Quoted(resolution.Orders[reason.Cutter]);
-    } else if (reason.SupportWithdrawn &&
-               !resolution.Reasons[order].Behind.test(static_cast<std::size_t>(k))) {
+      if (withdrawn && weakened && orders::IsMove(resolution.Orders[order])) {
+        text += " and taken off once more when it was dislodged from the place supported into";
+      }
+    } else if (withdrawn) {
       text += support + " was withdrawn: it was dislodged from the place supported into";
     }
   }
@@ -163,8 +180,9 @@ std::string OtherMoveText(const OrderTable& table, int order) {
     if (moved && line.UnitIndex != 0 && other.UnitIndex == line.UnitIndex) last = k;
   }
   if (last == 0 || last == order) return {};
-  return std::string(", but ") + (last > order ? "a later" : "an earlier") +
-         " order took the unit on to " + table[last].Target;
+  const bool movedItself = line.Active && orders::IsMove(line) && !line.Failed;
+  return std::string(", but ") + (last > order ? "a later" : "an earlier") + " order " +
+         (movedItself ? "took the unit on to " : "moved the unit to ") + table[last].Target;
 }
 
 }  // namespace
@@ -173,6 +191,10 @@ std::string ExplainMove(const model::GameState& after, const Resolution& resolut
   Account account = OwnText(*after.Map, resolution, order);
   if (WasDislodged(resolution, order) && !account.ToldDislodged) {
     account.Text += "; it " + DislodgedBy(resolution, order);
+  } else if (!account.ToldDislodged && resolution.Orders[order].UnitIndex != 0) {
+    const int attack = DislodgerOfUnit(resolution, order);
+    if (attack != 0)
+      account.Text += "; its unit was dislodged by " + Quoted(resolution.Orders[attack]);
   }
   return account.Text + LostSupportsOf(resolution, order) +
          OtherMoveText(resolution.Orders, order) + ".";

@@ -81,6 +81,11 @@ TEST(Explain, StrengthsOfMoves) {
          "RUS A(Ukr) - Rum = It failed: strength 1 is not more than strength 1 of ENG A(Rum), "
          "which stayed there; the support of ENG A(Bul) did not count, because ENG is the power "
          "attacked."}},
+       // A support is taken off by the cut and again when its unit is dislodged.
+       {{"GER F(NWG) - NAO", "RUS F(MAO) S GER F(NWG) - NAO", "TUR F(NAO) - MAO",
+         "ITA F(WES) S TUR F(NAO) - MAO", "TUR F(Gas) - MAO", "GER F(IRI) - NAO"},
+        {R"(GER F(NWG) - NAO = It failed: strength 0 is less than strength 1 of the rival move "GER F(IRI) - NAO"; the support of RUS F(MAO) was cut by "TUR F(Gas) - MAO" and taken off once more when it was dislodged from the place supported into.)",
+         R"(GER F(IRI) - NAO = It moved: TUR F(NAO) left and the rival move "GER F(NWG) - NAO" had no strength left.)"}},
        {{"FRA A(Par) - Bur", "> FRA A(Par) - Gas"},
         {"FRA A(Par) - Bur = It moved: the place was empty and no other move aimed there, but a "
          "later order took the unit on to Gas.",
