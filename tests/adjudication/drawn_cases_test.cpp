@@ -67,7 +67,7 @@ struct Trial {
 };
 
 /// Resolves the case's stage and compares what every kind of case is about.
-void Run(const DrawnCase& drawn, Trial& trial) {
+void RunCase(const DrawnCase& drawn, Trial& trial) {
   GameState game = trial.Before;
   ScriptedMessages messages(drawn.Answers());
   const adjudication::Resolution resolution = adjudication::ResolveStage(game, messages);
@@ -142,11 +142,11 @@ Trial DrawRetreats(const DrawnCase& drawn) {
   trial.Before = EmptyBoard(drawn.Note("season", "Spring"), "retreats");
   trial.After = EmptyBoard("", trial.Before.Season == "Spring" ? "finished" : "adjustments");
   trial.Report = drawn.Texts("report");
+  const std::vector<std::string> contested = Words(drawn.Note("contested"));
   for (int p = 1; p <= trial.Before.Provinces.Count(); ++p) {
-    const std::string place = RealMap()->Provinces[p].Name.substr(0, 3);
-    const std::vector<std::string> contested = Words(drawn.Note("contested"));
     trial.Before.Provinces[p].Uncontested =
-        std::find(contested.begin(), contested.end(), place) == contested.end();
+        std::find(contested.begin(), contested.end(), RealMap()->Provinces[p].Name.substr(0, 3)) ==
+        contested.end();
   }
   for (std::string_view line : drawn.Drawing) {
     const auto arrow = line.find(" => ");
@@ -192,36 +192,26 @@ Trial DrawAdjustments(const DrawnCase& drawn) {
     trial.Results.push_back(order.Result);
     trial.Report.push_back(order.Failed ? MoveReportLine(order) : order.Text + "  ");
   }
-  for (const std::string& note : drawn.Texts("centres")) {
-    const std::vector<std::string> words = Words(note);
-    for (std::size_t i = 1; i < words.size(); ++i) {
-      trial.Before.Provinces[model::FindProvince(*RealMap(), words[i])].Owner = words[0];
-    }
-  }
+  for (const std::string& note : drawn.Texts("centres"))
+    Own(trial.Before, note);
   trial.After.Stage = "finished";
   for (const std::string& unit : drawn.Texts("after"))
     AddDrawnUnit(trial.After, unit);
   return trial;
 }
 
-void RunFile(std::string_view fileName, Trial (*draw)(const DrawnCase&)) {
-  for (const DrawnCase& drawn : LoadDrawnCases(fileName)) {
-    SCOPED_TRACE(drawn.Name);
-    Trial trial = draw(drawn);
-    Run(drawn, trial);
+TEST(DrawnCases, EndAsDrawn) {
+  const std::vector<std::pair<std::string_view, Trial (*)(const DrawnCase&)>> files = {
+      {"adjudication/moves.txt", DrawMoves},
+      {"adjudication/retreats.txt", DrawRetreats},
+      {"adjudication/adjustments.txt", DrawAdjustments}};
+  for (const auto& [fileName, draw] : files) {
+    for (const DrawnCase& drawn : LoadDrawnCases(fileName)) {
+      SCOPED_TRACE(drawn.Name);
+      Trial trial = draw(drawn);
+      RunCase(drawn, trial);
+    }
   }
-}
-
-TEST(DrawnCases, Moves) {
-  RunFile("adjudication/moves.txt", DrawMoves);
-}
-
-TEST(DrawnCases, Retreats) {
-  RunFile("adjudication/retreats.txt", DrawRetreats);
-}
-
-TEST(DrawnCases, Adjustments) {
-  RunFile("adjudication/adjustments.txt", DrawAdjustments);
 }
 
 }  // namespace
