@@ -1,7 +1,6 @@
 #include "map_data/hit_picture.h"
 
 #include "model/country.h"
-#include "model/files.h"
 #include "model/game_state.h"
 #include "model/new_game.h"
 #include "model/text.h"
@@ -19,14 +18,12 @@
 #include <memory>
 #include <set>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
 namespace orb::tests {
 namespace {
 
-using testing::AllOf;
 using testing::ContainerEq;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -146,26 +143,6 @@ TEST_F(MapDataTest, TheBoardHasItsNumberOfPlacesAndConnections) {
     if (from < to) pairs.emplace(from, to);
   }
   EXPECT_EQ(pairs.size(), 206U);
-}
-
-TEST_F(MapDataTest, ConnectionRowsNameKnownLocationsOnceAndEndInCrLf) {
-  for (const std::string_view file : {"conna.dat", "connf.dat"}) {
-    const std::string bytes = model::ReadFile(DataDirectory() / file);
-    EXPECT_THAT(bytes, AllOf(Not(HasSubstr(" ")), Not(HasSubstr("\"")), Not(HasSubstr(",\r"))));
-    std::set<std::string_view> rows;
-    for (std::string_view rest = bytes; !rest.empty();) {
-      const std::string_view before = rest;
-      const std::string_view line = model::NextLine(rest);
-      EXPECT_TRUE(before.substr(line.size()).starts_with("\r\n")) << line;
-      EXPECT_TRUE(rows.insert(line.substr(0, line.find(','))).second) << "two rows: " << line;
-      std::set<std::string_view> fields;
-      for (std::string_view fieldsLeft = line; !fieldsLeft.empty();) {
-        const std::string_view field = model::NextField(fieldsLeft);
-        EXPECT_NE(model::FindProvince(*map_, field), 0) << field << " in " << line;
-        EXPECT_TRUE(fields.insert(field).second) << field << " twice in " << line;
-      }
-    }
-  }
 }
 
 TEST_F(MapDataTest, EveryHomeCentreStartsWithAUnitOfItsPower) {

@@ -85,36 +85,25 @@ TEST(MapView, StepsPaintOverEarlierOnes) {
   EXPECT_EQ(steps.substr(steps.size() - end.size()), end);
 }
 
-TEST(MapView, LabelIsCentredAndACoastShowsItsLetter) {
-  Recorder surface;
-  const GameState game = Board("Spring", "moves", {});
-  RenderMap(game, {}, "", surface);
+TEST(MapView, EveryPlaceHasItsLabelAndEveryCentreADotBelow) {
+  const Drawn surface(Board("Spring", "moves", {}));
   const auto texts = surface.All("text");
-  ASSERT_EQ(static_cast<int>(texts.size()), game.Provinces.Count() + 3);
-  for (int row = 1; row <= game.Provinces.Count(); ++row) {
-    const std::string& name = game.Map->Provinces[row].Name;
-    const Stroke& text = texts[static_cast<std::size_t>(row - 1)];
-    EXPECT_EQ(text.Text, name.size() == 3 ? name : name.substr(4)) << name;
-    const double half = 50.0 * static_cast<double>(text.Text.size());
-    const render::Point corner = text.Points.front();
-    EXPECT_EQ(At({corner.X + half, corner.Y + 100}), LabelAt(name)) << name;
-    EXPECT_EQ(text.Fore, 0U);
-    EXPECT_FALSE(text.Bold);
-  }
-}
-
-TEST(MapView, EveryCentreHasItsDotBelowTheLabel) {
-  const GameState game = Board("Spring", "moves", {});
-  const Drawn surface(game, {});
   const auto dots = surface.All("circle");
+  ASSERT_EQ(texts.size(), 81U + 3);
   ASSERT_EQ(dots.size(), 34U);
-  std::size_t next = 0;
-  for (const model::Province& place : game.Map->Provinces) {
+  auto text = texts.begin();
+  auto dot = dots.begin();
+  for (const model::Province& place : RealMap()->Provinces) {
+    EXPECT_EQ(text->Text, place.Name.substr(place.Name.size() == 3 ? 0 : 4));
+    const double half = 50.0 * static_cast<double>(text->Text.size());
+    const render::Point corner = text->Points.front();
+    EXPECT_EQ(At({corner.X + half, corner.Y + 100}), LabelAt(place.Name)) << place.Name;
+    EXPECT_TRUE(text->Fore == 0 && !text->Bold);
+    ++text;
     if (place.IsSupplyCentre == 0) continue;
-    const Stroke& dot = dots[next++];
-    EXPECT_EQ(At(dot.Points.front()), At({place.LabelX * 10000.0, place.LabelY * 8000.0 + 120}));
-    EXPECT_EQ(dot.Width, 45);
-    EXPECT_TRUE(dot.Filled && dot.Fill == 0 && dot.Fore == 0 && dot.Pen == 1) << place.Name;
+    EXPECT_EQ(At({dot->Points[0].X, dot->Points[0].Y - 120}), LabelAt(place.Name));
+    EXPECT_TRUE(dot->Width == 45 && dot->Filled && dot->Fill + dot->Fore == 0 && dot->Pen == 1);
+    ++dot;
   }
 }
 
@@ -223,27 +212,6 @@ TEST(MapView, DislodgedUnitsAreSmallAndOnTop) {
                           "GER " + LabelAt("Bur") + " 86.25"));
 }
 
-TEST(MapView, FleetOnACoastStandsAtTheCoastsPoint) {
-  const auto ships = Drawn(Board("Spring", "moves", {"RUS F(Stp.n)"})).All("polygon");
-  ASSERT_EQ(ships.size(), 1U);
-  const auto [left, right] =
-      std::minmax_element(ships[0].Points.begin(), ships[0].Points.end(),
-                          [](render::Point a, render::Point b) { return a.X < b.X; });
-  EXPECT_NEAR(left->X, Place("Stp.n").UnitX * 10000.0 - 160, 0.5);
-  EXPECT_NEAR(right->X, Place("Stp.n").UnitX * 10000.0 + 160, 0.5);
-}
-
-TEST(MapView, UnknownLocationOrPowerIsAFault) {
-  for (const MapMode mode : {MapMode::Colour3D, MapMode::BlackWhite}) {
-    for (const bool power : {false, true}) {
-      GameState game = Board("Spring", "moves", {"FRA A(Bur)"});
-      (power ? game.Units[1].Power : game.Units[1].Location) = "Xyz";
-      Recorder surface;
-      EXPECT_THROW(RenderMap(game, {mode}, "", surface), model::IndexOutOfRange);
-    }
-  }
-}
-
 /// Centres and units of France, Turkey, Austria and England; of a coast and of a place that is no
 /// centre the owner does not count.
 GameState LegendBoard(std::string_view stage) {
@@ -268,44 +236,34 @@ std::vector<std::string> LegendRows(const Recorder& surface) {
   return rows;
 }
 
-TEST(MapView, LegendInColour) {
-  const std::vector<std::string> plain = {"0 80",  "5 280",  "0 480", "0 680",
-                                          "2 880", "1 1080", "0 1280"};
-  const std::vector<std::string> adjusted = {"0(-1) 80",  "5(+2) 280", "0 480", "0 680",
-                                             "2(-1) 880", "1 1080",    "0 1280"};
-  for (const MapMode mode : {MapMode::Colour3D, MapMode::Colour}) {
-    for (const std::string stage : {"moves", "retreats", "adjustments", "finished"}) {
-      const GameState game = LegendBoard(stage);
-      const Drawn surface(game, {mode, true, false, false});
-      EXPECT_EQ(LegendRows(surface), stage == "adjustments" ? adjusted : plain) << stage;
-      const auto boxes = surface.All("box");
-      const auto texts = surface.All("text");
-      ASSERT_EQ(boxes.size(), 7U);
-      for (std::size_t i = 0; i < 7; ++i) {
-        const model::Country& country = game.Countries[static_cast<int>(i) + 1];
-        EXPECT_TRUE(boxes[i].Filled && boxes[i].Pen == 1 && boxes[i].Fore == 0);
-        EXPECT_EQ(boxes[i].Fill, country.Colour);
-        EXPECT_EQ(texts[texts.size() - 7 + i].Fore, country.TextColour);
-      }
-      EXPECT_DOUBLE_EQ(texts.back().Points[0].X, stage == "adjustments" ? 9550 : 9750);
+TEST(MapView, Legend) {
+  using Rows = std::vector<std::string>;
+  const Rows plain = {"0 80", "5 280", "0 480", "0 680", "2 880", "1 1080", "0 1280"};
+  const Rows due = {"0(-1) 80", "5(+2) 280", "0 480", "0 680", "2(-1) 880", "1 1080", "0 1280"};
+  const Rows named = {"ENG: 0 80",  "FRA: 5 280",  "GER: 0 480", "RUS: 0 680",
+                      "TUR: 2 880", "AUS: 1 1080", "ITA: 0 1280"};
+  for (const std::string stage : {"moves", "adjustments"}) {
+    const GameState game = LegendBoard(stage);
+    const Drawn colour(game, {MapMode::Colour, true, false, false});
+    EXPECT_EQ(LegendRows(colour), stage == "adjustments" ? due : plain) << stage;
+    const auto boxes = colour.All("box");
+    const auto texts = colour.All("text");
+    ASSERT_EQ(boxes.size(), 7U);
+    for (std::size_t i = 0; i < 7; ++i) {
+      const model::Country& country = game.Countries[static_cast<int>(i) + 1];
+      EXPECT_TRUE(boxes[i].Filled && boxes[i].Pen == 1 && boxes[i].Fore == 0);
+      EXPECT_EQ(boxes[i].Fill, country.Colour);
+      EXPECT_EQ(texts[texts.size() - 7 + i].Fore, country.TextColour);
     }
-  }
-}
-
-TEST(MapView, LegendWithoutColour) {
-  for (const MapMode mode : {MapMode::Grey, MapMode::BlackWhite}) {
-    for (const char* stage : {"moves", "adjustments"}) {
-      const Drawn surface(LegendBoard(stage), {mode, true, false, false});
-      EXPECT_THAT(LegendRows(surface),
-                  ElementsAre("ENG: 0 80", "FRA: 5 280", "GER: 0 480", "RUS: 0 680", "TUR: 2 880",
-                              "AUS: 1 1080", "ITA: 0 1280"));
-      const auto boxes = surface.All("box");
-      ASSERT_EQ(boxes.size(), 1U);
-      EXPECT_DOUBLE_EQ(boxes[0].Width, 550);
-      EXPECT_TRUE(boxes[0].Filled && boxes[0].Pen == 1 && boxes[0].Fore == 0);
-      EXPECT_EQ(boxes[0].Fill, model::Rgb(255, 255, 255));
-      EXPECT_EQ(surface.Strokes.back().Fore, 0U);
-    }
+    EXPECT_DOUBLE_EQ(texts.back().Points[0].X, stage == "adjustments" ? 9550 : 9750);
+    const Drawn grey(game, {MapMode::Grey, true, false, false});
+    EXPECT_EQ(LegendRows(grey), named);
+    const auto frame = grey.All("box");
+    ASSERT_EQ(frame.size(), 1U);
+    EXPECT_EQ(frame[0].Width, 550);
+    EXPECT_TRUE(frame[0].Filled && frame[0].Pen == 1 && frame[0].Fore == 0);
+    EXPECT_EQ(frame[0].Fill, model::Rgb(255, 255, 255));
+    EXPECT_EQ(grey.Strokes.back().Fore, 0U);
   }
 }
 

@@ -87,27 +87,6 @@ TEST(Symbols, ArmyIsADiscWithShadedQuartersIn3D) {
   EXPECT_EQ(Looks(MapMode::Colour, 5, true).find("arc"), std::string::npos);
 }
 
-TEST(Symbols, FleetIsShadedWithinItsOutlineIn3D) {
-  Recorder surface;
-  const model::CountryTable countries = model::FixedCountries();
-  render::DrawFleet(surface, {countries, MapMode::Colour3D}, Middle, 7, 1);
-  const auto hulls = surface.All("polygon");
-  ASSERT_EQ(hulls.size(), 1U);
-  EXPECT_EQ(hulls[0].Fill, countries[7].Colour);
-  const auto edges = surface.All("line");
-  ASSERT_EQ(edges.size(), hulls[0].Points.size());
-  // Every shaded edge runs along its side of the hull at the same small distance.
-  for (std::size_t i = 0; i < edges.size(); ++i) {
-    const render::Point a = hulls[0].Points[(i + edges.size() - 1) % edges.size()];
-    const render::Point b = hulls[0].Points[i];
-    for (const render::Point& p : edges[i].Points) {
-      const double distance = ((b.X - a.X) * (p.Y - a.Y) - (b.Y - a.Y) * (p.X - a.X)) /
-                              std::hypot(b.X - a.X, b.Y - a.Y);
-      EXPECT_NEAR(distance, 16, 1e-6);
-    }
-  }
-}
-
 TEST(Symbols, EachStandoffLineReachesNinetyTwips) {
   Recorder surface;
   render::DrawStandoffMarker(surface, Middle);
