@@ -58,8 +58,7 @@ TEST(CommandLine, WhatIsWrongIsRefusedAndNothingIsDone) {
       "map -o @m.png --width 99999999999 @a.orb",
       "map -o @m.png @a.orb @b.orb",
       "map -o @m.png @m.png",
-      "--data @nowhere new -o @c.orb",
-  };
+      "--data @nowhere new -o @c.orb"};
   for (const std::string_view line : lines) {
     const Outcome outcome = desk.Run(line);
     EXPECT_EQ(outcome.Status, 2) << line;

@@ -156,15 +156,11 @@ TEST(Games, AreReplacedWholeOrNotAtAll) {
   const Desk desk;
   desk.Write("a.orb", TwoUnitGame());
   desk.MakeDirectory("folder");
-  const std::vector<std::string_view> lines{
-      "resolve --yes -o @none/b.orb @a.orb",
-      "resolve --yes --in-place --report @none/r.txt @a.orb",
-      "resolve --yes --in-place --reasons @none/r.txt @a.orb",
-      "resolve --yes -o @none/b.orb --report @r.txt @none.orb",
-      "new -o @none/b.orb",
-      "map -o @none/b.png @a.orb",
-  };
-  for (const std::string_view line : lines) {
+  for (const std::string_view line :
+       {"resolve --yes -o @none/b.orb @a.orb",
+        "resolve --yes --in-place --report @none/r.txt @a.orb",
+        "resolve --yes --in-place --reasons @none/r.txt @a.orb", "new -o @none/b.orb",
+        "resolve --yes -o @none/b.orb --report @r.txt @none.orb", "map -o @none/b.png @a.orb"}) {
     const Outcome outcome = desk.Run(line);
     EXPECT_EQ(outcome.Status, 1) << line;
     EXPECT_EQ(outcome.Out, "") << line;

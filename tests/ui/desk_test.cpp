@@ -70,10 +70,8 @@ TEST_F(DeskTest, NotesTellOfEveryLineOfTheReportThroughTheYear) {
   const auto& later = desk_.now().reportNotes;
   ASSERT_EQ(later.size(), 24U);
   EXPECT_EQ(later[1].reason, whyBounced);
-  EXPECT_TRUE(later[1].failed);
-  EXPECT_TRUE(later[23].failed);
+  EXPECT_TRUE(later[1].failed && later[23].failed);
   EXPECT_THAT(later[23].reason, Not(IsEmpty()));
-
   desk_.nextSeason();
   EXPECT_THAT(desk_.now().reportNotes, IsEmpty());
 }
