@@ -9,7 +9,7 @@ namespace {
 constexpr std::string_view FillerStart = "(X";
 
 /// What is wrong with a part that names nothing, or `fault` when it names the wrong thing.
-std::string Faulty(std::string_view what, std::string_view field, std::string fault) {
+std::string Faulty(std::string_view what, std::string_view field, const std::string& fault) {
   const std::size_t filler = field.find(FillerStart);
   if (field.empty() || filler == 0) return std::string(what) + " is missing";
   return filler == std::string_view::npos ? fault : std::string(what) + " is not complete";
