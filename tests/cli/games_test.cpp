@@ -219,30 +219,26 @@ TEST(Games, NamedAgainBehindOutputAreReplacedInPlace) {
 }
 
 TEST(Seasons, CommandsRefuseTheWrongStage) {
-  struct Case {
-    std::string Command, Season, Stage, Err;
-  };
-  const std::vector<Case> cases{
-      {"resolve --yes", "Spring", "finished",
+  const std::vector<std::vector<std::string>> cases{
+      {"resolve --yes --in-place", "Spring", "finished",
        "There is nothing to resolve in the stage \"finished\"."},
-      {"next", "Autumn", "retreats",
+      {"next --in-place", "Autumn", "retreats",
        "The season is not finished: the game is in the stage \"retreats\"."},
-      {"undo --yes", "Spring", "moves",
+      {"undo --yes --in-place", "Spring", "moves",
        "There is nothing to take back: the season is at its start."},
-      {"undo --yes", "Autumn", "finished",
+      {"undo --yes --in-place", "Autumn", "finished",
        "Original supply centre ownerships unknown; can't undo."},
-      {"undo", "Spring", "retreats", "2 units do not have original locations recorded. Continue?"},
+      {"undo --in-place", "Spring", "retreats",
+       "2 units do not have original locations recorded. Continue?"},
       {"check", "Spring", "finished", "There are no orders to check in the stage \"finished\"."},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     const Desk desk;
-    const std::string game = GameFile(c.Season, c.Stage, TwoUnits);
+    const std::string game = GameFile(c[1], c[2], TwoUnits);
     desk.Write("a.orb", game);
-    const std::string output = c.Command == "check" ? "" : " --in-place";
-    const Outcome outcome = desk.Run(c.Command + output + " @a.orb");
-    EXPECT_EQ(outcome.Status, 1) << c.Command;
-    EXPECT_EQ(outcome.Out, "");
-    EXPECT_EQ(outcome.Err, "@a.orb: " + c.Err + "\n");
+    const Outcome outcome = desk.Run(c[0] + " @a.orb");
+    EXPECT_EQ(outcome.Status, 1) << c[0];
+    EXPECT_EQ(outcome.Out + outcome.Err, "@a.orb: " + c[3] + "\n");
     EXPECT_EQ(desk.Read("a.orb"), game);
   }
 }

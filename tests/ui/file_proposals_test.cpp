@@ -25,16 +25,5 @@ TEST(FileProposals, NameOfASavedGame) {
   }
 }
 
-TEST(FileProposals, FilterByTheCurrentFileName) {
-  const std::vector<std::pair<std::string, ui::GameFilter>> cases{
-      {"", ui::GameFilter::Games},
-      {"/a/GAME.ORB", ui::GameFilter::Games},
-      {"/a/old.dat", ui::GameFilter::Data},
-      {"/a/old.dat.orb", ui::GameFilter::Games},
-      {"/a/notes.txt", ui::GameFilter::All}};
-  for (const auto& [name, filter] : cases)
-    EXPECT_EQ(ui::gameFilterFor(name), filter) << name;
-}
-
 }  // namespace
 }  // namespace orb::tests
