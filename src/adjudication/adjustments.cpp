@@ -6,6 +6,7 @@
 #include "orders/parser.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orb::adjudication {
 namespace {
@@ -194,7 +195,8 @@ bool CheckAdjustments(const GameState& game, Resolution& resolution, Messages& m
 }
 
 Resolution ResolveAdjustments(GameState& game, Messages& messages) {
-  Resolution resolution = StartResolution(ResolvedStage::Adjustments, game, game.AdjustmentsList);
+  Resolution resolution =
+      StartResolution(ResolvedStage::Adjustments, game, std::move(game.AdjustmentsList));
   if (!CheckAdjustments(game, resolution, messages)) return resolution;
   ReportAdjustments(game, resolution);
   ApplyAdjustments(game, resolution.Orders, messages);

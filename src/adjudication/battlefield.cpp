@@ -46,6 +46,13 @@ void Battlefield::CountForces() {
   }
 }
 
+int Battlefield::LastUnitAt(int m) const {
+  int last = 0;
+  for (int u = FirstUnitAt(m); u != 0; u = NextUnit(u))
+    last = u;
+  return last;
+}
+
 Opposition Battlefield::RaisedByRivals(int m, Opposition opposition) const {
   for (int k = movers_.First(Aim(m)); k != 0; k = movers_.Next(k)) {
     if (k == m) continue;

@@ -56,6 +56,9 @@ class Battlefield {
   int FirstUnitAt(int m) const { return units_.First(Aim(m)); }
   int NextUnit(int unit) const { return units_.Next(unit); }
 
+  /// The last unit, in index order, in the place that move m aims at; 0: none.
+  int LastUnitAt(int m) const;
+
   /// Raises the opposition to the strongest other active move to the place that move m aims at,
   /// failed ones included.
   Opposition RaisedByRivals(int m, Opposition opposition) const;

@@ -50,13 +50,6 @@ int StayingOccupant(Battlefield& field, int m) {
   return occupant;
 }
 
-int LastUnitAt(Battlefield& field, int m) {
-  int last = 0;
-  for (int u = field.FirstUnitAt(m); u != 0; u = field.NextUnit(u))
-    last = u;
-  return last;
-}
-
 /// Decides move m against the occupant by force; `defence` is what the occupant itself brings.
 void Attack(Battlefield& field, int m, int occupant, int defence, Ruling ruling) {
   const Opposition best = field.RaisedByRivals(m, {defence, field.OrderOf(occupant)});
@@ -132,7 +125,7 @@ class Contests {
     for (int m = 1; m <= field.Orders().Count(); ++m) {
       OrderLine& order = field.Order(m);
       if (!InPlay(order)) continue;
-      const int occupant = LastUnitAt(field, m);
+      const int occupant = field.LastUnitAt(m);
       list_[count_++] = {m,
                          &order,
                          occupant,

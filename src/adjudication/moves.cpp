@@ -9,6 +9,8 @@
 #include "orders/parser.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace orb::adjudication {
 namespace {
@@ -25,35 +27,32 @@ void SavePreviousPositions(GameState& game) {
     province.PreviousOwner = province.Owner;
 }
 
-void CutByMovesOnLandAndSea(GameState& game, Resolution& resolution) {
-  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
-    const OrderLine& order = resolution.Orders[k];
-    if (order.Active && IsMove(order) && !order.ViaConvoy) CutSupports(game, resolution, k);
+void CutByMovesOnLandAndSea(Battlefield& field) {
+  for (int k = 1; k <= field.Orders().Count(); ++k) {
+    const OrderLine& order = field.Order(k);
+    if (order.Active && IsMove(order) && !order.ViaConvoy) CutSupports(field, k);
   }
 }
 
-void CutByConvoyedMoves(GameState& game, Resolution& resolution) {
-  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
-    const OrderLine& order = resolution.Orders[k];
-    if (order.Active && !order.Failed && IsMove(order) && order.ViaConvoy) {
-      CutSupports(game, resolution, k);
-    }
+void CutByConvoyedMoves(Battlefield& field) {
+  for (int k = 1; k <= field.Orders().Count(); ++k) {
+    const OrderLine& order = field.Order(k);
+    if (order.Active && !order.Failed && IsMove(order) && order.ViaConvoy) CutSupports(field, k);
   }
 }
 
 /// A move to where no army could stand, against a unit ordered to convoy.
-bool AttacksConvoyingFleet(const GameState& game, const Resolution& resolution,
-                           const OrderLine& order) {
-  if (!IsMove(order) || orders::CanStandIn(*game.Map, "A", order.Target)) return false;
-  const int unit = orders::FindUnitAt(game, order.Target);
-  return unit != 0 && IsConvoy(resolution.Orders[game.Units[unit].OrderIndex]);
+bool AttacksConvoyingFleet(const model::Map& map, Battlefield& field, int k) {
+  if (!IsMove(field.Order(k))) return false;
+  const int unit = field.LastUnitAt(k);
+  return unit != 0 && IsConvoy(field.Order(field.OrderOf(unit))) &&
+         !orders::CanStandIn(map, "A", field.Order(k).Target);
 }
 
-OrderSet FindConvoyAttacks(const GameState& game, const Resolution& resolution) {
+OrderSet FindConvoyAttacks(const model::Map& map, Battlefield& field) {
   OrderSet attacks;
-  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
-    attacks.set(static_cast<std::size_t>(k),
-                AttacksConvoyingFleet(game, resolution, resolution.Orders[k]));
+  for (int k = 1; k <= field.Orders().Count(); ++k) {
+    attacks.set(static_cast<std::size_t>(k), AttacksConvoyingFleet(map, field, k));
   }
   return attacks;
 }
@@ -104,16 +103,14 @@ void ApplyMoves(GameState& game, Resolution& resolution) {
 }
 
 void MarkStandoffs(GameState& game, const Resolution& resolution) {
-  for (model::ProvinceState& province : game.Provinces)
-    province.Uncontested = true;
+  std::array<std::uint32_t, orders::OrderBound> aims{};
+  auto* end = aims.begin();
   for (const OrderLine& order : resolution.Orders) {
-    if (!IsMove(order) || !order.Active || resolution.Force[order.UnitIndex] <= 0) continue;
-    const std::uint32_t aim = model::PlaceCode(order.Target);
-    model::ProvinceState* province = game.Provinces.begin();
-    for (const std::uint32_t place : game.Map->PlaceCodes) {
-      if (place == aim) province->Uncontested = false;
-      ++province;
-    }
+    const bool contests = IsMove(order) && order.Active && resolution.Force[order.UnitIndex] > 0;
+    if (contests) *end++ = model::PlaceCode(order.Target);
+  }
+  for (int p = 1; p <= game.Provinces.Count(); ++p) {
+    game.Provinces[p].Uncontested = std::find(aims.begin(), end, game.Map->PlaceCodes[p]) == end;
   }
 }
 
@@ -156,18 +153,18 @@ bool CheckOrders(GameState& game, Resolution& resolution, model::Messages& messa
 }
 
 Resolution Resolve(GameState& game, model::Messages& messages) {
-  Resolution resolution = StartResolution(ResolvedStage::Moves, game, game.OrdersList);
+  Resolution resolution = StartResolution(ResolvedStage::Moves, game, std::move(game.OrdersList));
   SavePreviousPositions(game);
   if (!CheckOrders(game, resolution, messages)) return resolution;
   resolution.Reasons.SetCount(resolution.Orders.Count());
-  CutByMovesOnLandAndSea(game, resolution);
-  const OrderSet convoyAttacks = FindConvoyAttacks(game, resolution);
   Battlefield field(game, resolution);
+  CutByMovesOnLandAndSea(field);
+  const OrderSet convoyAttacks = FindConvoyAttacks(*game.Map, field);
   ResolveConvoyAttacks(field, convoyAttacks);
   if (DisruptConvoys(game, resolution)) {
     messages.Show("Convoys are not fully checked.", model::Icon::Information);
   }
-  CutByConvoyedMoves(game, resolution);
+  CutByConvoyedMoves(field);
   ResolveOtherMoves(field, convoyAttacks);
   ApplyMoves(game, resolution);
   MarkStandoffs(game, resolution);

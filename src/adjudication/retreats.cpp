@@ -6,6 +6,7 @@
 #include "orders/parser.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orb::adjudication {
 namespace {
@@ -210,7 +211,8 @@ bool CheckRetreats(GameState& game, Resolution& resolution, Messages& messages) 
 }
 
 Resolution ResolveRetreats(GameState& game, Messages& messages) {
-  Resolution resolution = StartResolution(ResolvedStage::Retreats, game, game.RetreatsList);
+  Resolution resolution =
+      StartResolution(ResolvedStage::Retreats, game, std::move(game.RetreatsList));
   if (!CheckRetreats(game, resolution, messages)) return resolution;
   resolution.Reasons.SetCount(resolution.Orders.Count());
   ResolveRetreatStandoffs(game, resolution);

@@ -21,10 +21,10 @@ Resolution ResolveInPlace(model::GameState& game, model::Messages& messages) {
 }  // namespace
 
 Resolution StartResolution(ResolvedStage stage, const model::GameState& game,
-                           const std::vector<std::string>& lines) {
+                           std::vector<std::string> lines) {
   Resolution resolution;
   resolution.Stage = stage;
-  orders::SetOrderTexts(lines, resolution.Orders);
+  orders::SetOrderTexts(std::move(lines), resolution.Orders);
   resolution.UnitsBefore = game.Units;
   return resolution;
 }

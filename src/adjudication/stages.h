@@ -12,7 +12,7 @@ Resolution ResolveStage(model::GameState& game, model::Messages& messages);
 
 /// Starts a resolution: takes over the list's lines as orders and the units as they stand.
 Resolution StartResolution(ResolvedStage stage, const model::GameState& game,
-                           const std::vector<std::string>& lines);
+                           std::vector<std::string> lines);
 
 /// The stage that follows moves or retreats: "finished" in Spring; otherwise "adjustments", with
 /// the centres now owned by the units that stand in them.

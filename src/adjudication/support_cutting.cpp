@@ -1,20 +1,19 @@
 #include "adjudication/support_cutting.h"
 
 #include "model/text.h"
-#include "orders/lookups.h"
 
 namespace orb::adjudication {
 
-void CutSupports(const model::GameState& game, Resolution& resolution, int m) {
-  const orders::OrderLine& move = resolution.Orders[m];
-  const int unit = orders::FindUnitAt(game, move.Target);
+void CutSupports(Battlefield& field, int m) {
+  const orders::OrderLine& move = field.Order(m);
+  const int unit = field.LastUnitAt(m);
   if (unit == 0) return;
-  const int k = game.Units[unit].OrderIndex;
-  orders::OrderLine& support = resolution.Orders[k];
+  const int k = field.OrderOf(unit);
+  orders::OrderLine& support = field.Order(k);
   if (!support.Active || !orders::IsSupport(support)) return;
   if (support.Kind2 == "-" && model::SamePlace(support.Target2, move.Location)) return;
   orders::Reject(support, "cut");
-  resolution.Reasons[k].Cutter = static_cast<std::int16_t>(m);
+  field.ReasonOf(k).Cutter = static_cast<std::int16_t>(m);
 }
 
 }  // namespace orb::adjudication

@@ -4,6 +4,7 @@
 #include "model/text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orb::orders {
 namespace {
@@ -91,10 +92,15 @@ bool FieldCutter::BracketBeforeBlank() const {
   return rest_.find('(') <= rest_.find(' ');
 }
 
-void SetOrderTexts(const std::vector<std::string>& lines, OrderTable& orders) {
-  for (const std::string& line : lines) {
+void SetOrderTexts(std::vector<std::string> lines, OrderTable& orders) {
+  for (std::string& line : lines) {
+    const std::string_view trimmed = model::Trim(line);
     OrderLine& order = orders.Append();
-    order.Text = model::Trim(line);
+    if (trimmed.size() == line.size()) {
+      order.Text = std::move(line);
+    } else {
+      order.Text = trimmed;
+    }
     order.Active = true;
   }
 }

@@ -39,7 +39,7 @@ class FieldCutter {
 
 /// Fills a fresh table of orders from list lines: each order's Text is its line, trimmed, and it is
 /// active; all else is empty. Throws IndexOutOfRange beyond 80 lines.
-void SetOrderTexts(const std::vector<std::string>& lines, OrderTable& orders);
+void SetOrderTexts(std::vector<std::string> lines, OrderTable& orders);
 
 /// Fills the fields of every order of the moves stage from its text.
 void ParseOrders(OrderTable& orders);
