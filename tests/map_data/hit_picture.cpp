@@ -78,7 +78,7 @@ HitPicture ReadHitPicture(const std::filesystem::path& path) {
            256 * static_cast<std::uint8_t>(bytes.at(at + 1));
   };
   HitPicture picture{number(18), number(22), {}};
-  const int stride = (picture.Width + 3) / 4 * 4;
+  const std::ptrdiff_t stride = (picture.Width + 3) & ~3;
   for (int line = picture.Height; line-- > 0;) {
     const auto start = bytes.begin() + number(10) + line * stride;
     picture.Rows.insert(picture.Rows.end(), start, start + picture.Width);

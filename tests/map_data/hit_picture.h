@@ -13,7 +13,10 @@ struct HitPicture {
   int Width = 0, Height = 0;
   std::vector<std::uint8_t> Rows;  ///< line by line, the top line first
 
-  std::size_t Index(int x, int y) const { return static_cast<std::size_t>(y * Width + x); }
+  std::size_t Index(int x, int y) const {
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(Width) +
+           static_cast<std::size_t>(x);
+  }
   int At(int x, int y) const { return Rows[Index(x, y)]; }
 };
 

@@ -125,9 +125,11 @@ TEST(ReplaceFile, IsWholeWhenTheProgramIsKilled) {
   std::mt19937 random(1);
   for (int i = 0; i < 40; ++i) {
     const pid_t child = ::fork();
-    while (child == 0) {
-      ReplaceFile(file, even);
-      ReplaceFile(file, odd);
+    if (child == 0) {
+      while (true) {
+        ReplaceFile(file, even);
+        ReplaceFile(file, odd);
+      }
     }
     std::this_thread::sleep_for(std::chrono::microseconds(random() % 8000));
     ::kill(child, SIGKILL);

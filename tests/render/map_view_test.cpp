@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -26,9 +27,6 @@ struct Drawn : Recorder {
     RenderMap(game, options, "dir", *this);
   }
 };
-
-constexpr MapMode AllModes[] = {MapMode::Colour3D, MapMode::Colour, MapMode::Grey,
-                                MapMode::BlackWhite};
 
 const model::Province& Place(std::string_view name) {
   return RealMap()->Provinces[model::FindProvince(*RealMap(), name)];
@@ -230,9 +228,9 @@ std::vector<std::string> LegendRows(const Recorder& surface) {
   std::vector<std::string> rows;
   auto texts = surface.All("text");
   texts.erase(texts.begin(), texts.end() - 7);
-  for (const Stroke& text : texts) {
-    rows.push_back(text.Text + " " + std::to_string(std::lround(text.Points[0].Y)));
-  }
+  std::transform(texts.begin(), texts.end(), std::back_inserter(rows), [](const Stroke& text) {
+    return text.Text + " " + std::to_string(std::lround(text.Points[0].Y));
+  });
   return rows;
 }
 

@@ -1,13 +1,18 @@
 #pragma once
 
 #include "model/errors.h"
+#include "render/map_view.h"
 #include "render/surface.h"
 
+#include <array>
 #include <cmath>
 #include <string>
 #include <vector>
 
 namespace orb::tests {
+
+constexpr std::array AllModes = {render::MapMode::Colour3D, render::MapMode::Colour,
+                                 render::MapMode::Grey, render::MapMode::BlackWhite};
 
 /// One thing drawn: its kind ("picture", "white", "text", "line", "box", "circle", "arc",
 /// "polygon"), what it is made of and the pens it was drawn with.

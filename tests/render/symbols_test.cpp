@@ -29,9 +29,6 @@ std::string Looks(MapMode mode, int power, bool army) {
   return looks;
 }
 
-constexpr MapMode AllModes[] = {MapMode::Colour3D, MapMode::Colour, MapMode::Grey,
-                                MapMode::BlackWhite};
-
 TEST(Symbols, PowersAndUnitTypesDifferInEveryMode) {
   for (const MapMode mode : AllModes) {
     std::set<std::string> seen;
