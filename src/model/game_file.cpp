@@ -30,6 +30,7 @@ struct Layout {
 double LeadingNumber(std::string_view text) {
   text = Trim(text);
   double number = 0;
+  if (text.find_first_of("0123456789.") != 0) return number;
   std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
   return number;
 }
