@@ -40,7 +40,7 @@ void ResolveSeason(benchmark::State& state, const std::string& name) {
   const model::GameState start = LoadGame(name);
   Agreeable messages;
   model::GameState game = start;
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     game = start;
     const auto begin = Clock::now();
     benchmark::DoNotOptimize(orb::adjudication::ResolveStage(game, messages));
@@ -51,14 +51,14 @@ void ResolveSeason(benchmark::State& state, const std::string& name) {
 void ReadGame(benchmark::State& state) {
   const std::string bytes = GameBytes("midgame.orb");
   model::GameState game = LoadGame("midgame.orb");
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     benchmark::DoNotOptimize(model::ParseGameFile(bytes, "midgame.orb", game));
   }
 }
 
 void WriteGame(benchmark::State& state) {
   const model::GameState game = LoadGame("midgame.orb");
-  for (auto _ : state)
+  while (state.KeepRunning())
     benchmark::DoNotOptimize(model::FormatGameFile(game));
 }
 

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <vector>
 
 namespace orb::tests {
 namespace {
@@ -17,11 +18,11 @@ TEST(ColourVision, DifferenceAgreesWithThePublishedPairs) {
     Lab A, B;
     double Difference;
   };
-  const Pair pairs[] = {{{50, 2.6772, -79.7751}, {50, 0, -82.7485}, 2.0425},
-                        {{50, -1, 2}, {50, 0, 0}, 2.3669},
-                        {{50, 2.49, -0.001}, {50, -2.49, 0.0011}, 7.2195},
-                        {{50, 2.5, 0}, {56, -27, -3}, 31.9030},
-                        {{2.0776, 0.0795, -1.1350}, {0.9033, -0.0636, -0.5514}, 0.9082}};
+  const std::vector<Pair> pairs = {{{50, 2.6772, -79.7751}, {50, 0, -82.7485}, 2.0425},
+                                   {{50, -1, 2}, {50, 0, 0}, 2.3669},
+                                   {{50, 2.49, -0.001}, {50, -2.49, 0.0011}, 7.2195},
+                                   {{50, 2.5, 0}, {56, -27, -3}, 31.9030},
+                                   {{2.0776, 0.0795, -1.1350}, {0.9033, -0.0636, -0.5514}, 0.9082}};
   for (const Pair& pair : pairs) {
     EXPECT_NEAR(Difference(pair.A, pair.B), pair.Difference, 5e-5);
   }
