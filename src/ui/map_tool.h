@@ -1,0 +1,44 @@
+#pragma once
+
+#include "model/map.h"
+#include "render/hit_map.h"
+
+#include <Qt>
+
+#include <string_view>
+
+namespace orb::ui {
+
+/// A place on the map at which the mouse did something.
+struct MapSpot {
+  const model::Map& map;
+  const render::HitMap& hitMap;
+  render::Point point;  ///< in fractions of the map's width and height
+  Qt::KeyboardModifiers modifiers;
+
+  /// Row of the location there, as a unit of this type sees it (a fleet stands on a coast); 0:
+  /// none.
+  int locationFor(std::string_view unitType) const {
+    return hitMap.LocationAt(map, point, unitType);
+  }
+};
+
+/// What the left mouse button means on the map while a panel is in front.
+class MapTool {
+ public:
+  MapTool() = default;
+  MapTool(const MapTool&) = delete;
+  MapTool& operator=(const MapTool&) = delete;
+  virtual ~MapTool() = default;
+
+  /// Pressed and let go at one place.
+  virtual void mapClicked(const MapSpot& /*at*/) {}
+  virtual void mapDoubleClicked(const MapSpot& /*at*/) {}
+
+  /// True when something is taken along from this place; the next two follow then.
+  virtual bool mapDragStarted(const MapSpot& /*from*/) { return false; }
+  virtual void mapDragMoved(const MapSpot& /*over*/) {}
+  virtual void mapDropped(const MapSpot& /*at*/) {}
+};
+
+}  // namespace orb::ui
