@@ -118,6 +118,15 @@ void ReplaceFile(const fs::path& path, std::string_view bytes) {
   }
 }
 
+bool CanReplaceFile(const fs::path& path) {
+  const fs::path target = FollowLinks(path);
+  const fs::path directory = target.has_parent_path() ? target.parent_path() : ".";
+  if (::access(directory.c_str(), W_OK | X_OK) != 0) return false;
+  std::error_code ignored;
+  if (!fs::exists(target, ignored)) return true;
+  return fs::is_regular_file(target, ignored) && ::access(target.c_str(), W_OK) == 0;
+}
+
 fs::path LowerCaseName(const fs::path& path) {
   const fs::path lower = path.parent_path() / LowerCase(path.filename().string());
   std::error_code ignored;

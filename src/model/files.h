@@ -14,6 +14,9 @@ std::string ReadFile(const std::filesystem::path& path);
 /// it. A link is followed; anything that is no ordinary file is refused.
 void ReplaceFile(const std::filesystem::path& path, std::string_view bytes);
 
+/// Whether ReplaceFile may write the file, as far as permissions tell.
+bool CanReplaceFile(const std::filesystem::path& path);
+
 /// The path of a file named by a user who may not know of letter case: the file's own name in
 /// small letters, unless only the name as given exists. Directories stay as given.
 std::filesystem::path LowerCaseName(const std::filesystem::path& path);

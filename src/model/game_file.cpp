@@ -62,7 +62,7 @@ void ReadFixed(RecordReader& reader, const Map& map, std::string_view expected,
 }
 
 void ReadUnits(RecordReader& reader, const Layout& layout, GameState& game) {
-  game.Units.SetCount(reader.CountUpTo(UnitBound, "the number of units"));
+  game.Units.SetCount(reader.NumberUpTo(UnitBound, "the number of units"));
   for (Unit& unit : game.Units) {
     unit.Power = reader.Text("a unit's power");
     unit.UnitType = reader.Text("a unit's type");
@@ -106,7 +106,7 @@ void ReadOrders(RecordReader& reader, GameState& game) {
 void ReadTexts(RecordReader& reader, GameState& game) {
   game.TextLines.SetCount(0);
   if (reader.AtEnd()) return;
-  game.TextLines.SetCount(reader.CountUpTo(TextLineBound, "the number of text lines"));
+  game.TextLines.SetCount(reader.NumberUpTo(TextLineBound, "the number of text lines"));
   for (std::string& line : game.TextLines)
     ReadFixed(reader, *game.Map, "a text line", line);
 }

@@ -88,19 +88,24 @@ void RecordReader::EndField(std::string_view expected) {
   }
 }
 
-std::int16_t RecordReader::Number(std::string_view expected) {
+template <class Whole>
+Whole RecordReader::WholeNumber(std::string_view expected) {
   const std::string_view field = Text(expected);
-  std::int16_t number = 0;
+  Whole number = 0;
   if (!Parse(field, number)) Fail(std::string(expected) + " (a whole number)", Shown(field));
   return number;
 }
 
-std::int16_t RecordReader::CountUpTo(int bound, std::string_view expected) {
-  const std::int16_t count = Number(expected);
-  if (count < 0 || count > bound) {
-    Fail(std::string(expected) + " (0 to " + std::to_string(bound) + ")", std::to_string(count));
+std::int16_t RecordReader::Number(std::string_view expected) {
+  return WholeNumber<std::int16_t>(expected);
+}
+
+int RecordReader::NumberUpTo(int bound, std::string_view expected) {
+  const int number = WholeNumber<int>(expected);
+  if (number < 0 || number > bound) {
+    Fail(std::string(expected) + " (0 to " + std::to_string(bound) + ")", std::to_string(number));
   }
-  return count;
+  return number;
 }
 
 float RecordReader::Fraction(std::string_view expected) {

@@ -21,8 +21,8 @@ class RecordReader {
   /// The next field as a whole decimal number of 16 bits.
   std::int16_t Number(std::string_view expected);
 
-  /// The next field as a number of 16 bits in 0..bound.
-  std::int16_t CountUpTo(int bound, std::string_view expected);
+  /// The next field as a whole decimal number in 0..bound; it may take 32 bits.
+  int NumberUpTo(int bound, std::string_view expected);
 
   /// The next field as a flag: any number but 0 is true.
   bool Flag(std::string_view expected) { return Number(expected) != 0; }
@@ -34,6 +34,8 @@ class RecordReader {
   bool AtEnd() const;
 
  private:
+  template <class Whole>
+  Whole WholeNumber(std::string_view expected);
   std::string_view QuotedField(std::string_view expected);
   void EndField(std::string_view expected);
   [[noreturn]] void Fail(std::string_view expected, std::string_view found) const;
