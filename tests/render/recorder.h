@@ -11,8 +11,8 @@
 
 namespace orb::tests {
 
-constexpr std::array AllModes = {render::MapMode::Colour3D, render::MapMode::Colour,
-                                 render::MapMode::Grey, render::MapMode::BlackWhite};
+inline constexpr std::array AllModes = {render::MapMode::Colour3D, render::MapMode::Colour,
+                                        render::MapMode::Grey, render::MapMode::BlackWhite};
 
 /// One thing drawn: its kind ("picture", "white", "text", "line", "box", "circle", "arc",
 /// "polygon"), what it is made of and the pens it was drawn with.
@@ -23,7 +23,7 @@ struct Stroke {
   double Width = 0, Height = 0;  ///< of a box; the radius of a circle and an arc is the width
   double Start = 0, End = 0;     ///< of an arc
   model::Colour Fore = 0, Fill = 0;
-  bool Filled = false, Bold = false;
+  bool Filled = false, Bold = false, Underlined = false;
   double Pen = 0;
 };
 
@@ -80,6 +80,7 @@ class Recorder : public render::Surface {
     stroke.Filled = FillStyle == render::Fill::Solid;
     stroke.Pen = DrawWidth;
     stroke.Bold = FontBold;
+    stroke.Underlined = FontUnderline;
     Strokes.push_back(std::move(stroke));
   }
 };
