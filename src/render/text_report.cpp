@@ -1,5 +1,6 @@
 #include "render/text_report.h"
 
+#include "model/files.h"
 #include "model/text.h"
 #include "orders/lookups.h"
 
@@ -11,9 +12,22 @@ namespace {
 
 using model::GameState;
 
+/// The text with blanks in place of its tabs, which lead to every eighth column.
+std::string WithoutTabs(std::string_view text) {
+  constexpr std::size_t tabWidth = 8;
+  std::string plain;
+  for (const char c : text) {
+    const bool isTab = c == '\t';
+    plain.append(isTab ? tabWidth - plain.size() % tabWidth : 1, isTab ? ' ' : c);
+  }
+  return plain;
+}
+
 /// Adds a text in lines no longer than the width: broken at blanks where there are any. Lines
 /// after the first begin with `indent` blanks.
-void AddWrapped(std::string_view text, std::size_t indent, std::string& report) {
+void AddWrapped(std::string_view line, std::size_t indent, std::string& report) {
+  const std::string plain = WithoutTabs(line);
+  std::string_view text = plain;
   std::size_t width = TextReportWidth;
   while (text.size() > width) {
     std::size_t end = text.substr(0, width + 1).rfind(' ');
@@ -187,6 +201,14 @@ std::string TextReport(const GameState& game) {
     section.AddTo(report);
   }
   return report;
+}
+
+void WriteTextReport(const GameState& game, const std::filesystem::path& file) {
+  const std::string report = TextReport(game);
+  std::string lines;
+  for (std::string_view rest = report; !rest.empty();)
+    lines.append(model::NextLine(rest)).append("\r\n");
+  model::ReplaceFile(file, lines);
 }
 
 }  // namespace orb::render

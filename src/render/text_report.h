@@ -2,6 +2,7 @@
 
 #include "model/game_state.h"
 
+#include <filesystem>
 #include <string>
 
 namespace orb::render {
@@ -13,5 +14,8 @@ constexpr std::size_t TextReportWidth = 78;
 /// supply centres, adjustments due, players and free text. Orders not yet resolved are left out:
 /// they are secret. Lines end in LF and are at most TextReportWidth bytes long.
 std::string TextReport(const model::GameState& game);
+
+/// Writes the text report to a file, whole or not at all; its lines end in CR LF. Throws FileError.
+void WriteTextReport(const model::GameState& game, const std::filesystem::path& file);
 
 }  // namespace orb::render

@@ -1,9 +1,12 @@
 #include "render/text_report.h"
 
+#include "model/files.h"
+#include "support/directories.h"
 #include "support/situation.h"
 
 #include <gtest/gtest.h>
 
+#include <regex>
 #include <sstream>
 
 namespace orb::render {
@@ -84,8 +87,8 @@ TEST(TextReport, BreaksLongLinesAndLosesNothing) {
   const std::string sentence =
       "one two three four five six seven eight nine ten eleven twelve "
       "thirteen fourteen fifteen";
-  for (const std::string& text :
-       {word, sentence, std::string(300, ' ') + "x", std::string(78, 'y')}) {
+  for (const std::string& text : {word, sentence, std::string(300, ' ') + "x", std::string(78, 'y'),
+                                  std::string(12, '\t') + "z"}) {
     model::GameState game = SampleGame();
     game.Title = text;
     game.Season = text;
@@ -95,13 +98,21 @@ TEST(TextReport, BreaksLongLinesAndLosesNothing) {
     const std::string report = TextReport(game);
     std::istringstream lines(report);
     for (std::string line; std::getline(lines, line);)
-      EXPECT_LE(line.size(), TextReportWidth) << line;
+      EXPECT_TRUE(line.size() <= TextReportWidth && line.find('\t') == line.npos) << line;
     const auto letters = [](const std::string& s) {
       return std::count_if(s.begin(), s.end(), [](char c) { return c >= 'a' && c <= 'z'; });
     };
     EXPECT_EQ(letters(report), letters(TextReport(SampleGame())) - letters("Caf") -
                                    letters("Autumn") - letters("Alice") + 5 * letters(text));
   }
+}
+
+TEST(TextReport, IsWrittenWithLineEndsForAnyEditor) {
+  const tests::TemporaryDirectory directory;
+  const model::GameState game = SampleGame();
+  WriteTextReport(game, directory.Path() / "a02.txt");
+  const std::string expected = std::regex_replace(TextReport(game), std::regex("\n"), "\r\n");
+  EXPECT_EQ(model::ReadFile(directory.Path() / "a02.txt"), expected);
 }
 
 }  // namespace
