@@ -18,12 +18,23 @@ Desk::Desk(Situation start, std::filesystem::path dataDirectory, model::Messages
       m_messages(messages) {}
 
 void Desk::newGame() {
-  run([this](Situation& next) { model::NewGame(next.game, m_dataDirectory); });
+  run([this](Situation& next) {
+    next.editing = Editing::None;
+    model::NewGame(next.game, m_dataDirectory);
+  });
+}
+
+void Desk::blankGame() {
+  run([this](Situation& next) {
+    next.editing = Editing::None;
+    model::BlankGame(next.game, m_dataDirectory);
+  });
 }
 
 void Desk::openGame(const std::filesystem::path& file, bool readOnly) {
   run([&](Situation& next) {
     next.readOnly = readOnly;
+    next.editing = Editing::None;
     model::ReadGameFile(next.game, file, m_dataDirectory, m_messages);
   });
 }
@@ -59,11 +70,21 @@ void Desk::nextSeason() {
 }
 
 void Desk::undoSeason() {
-  run([this](Situation& next) { model::UndoSeason(next.game, m_messages); });
+  run([this](Situation& next) {
+    if (model::UndoSeason(next.game, m_messages)) next.editing = Editing::None;
+  });
 }
 
 void Desk::setMapOptions(const render::MapOptions& options) {
   run([&](Situation& next) { next.mapOptions = options; });
+}
+
+void Desk::setViewOnly(bool viewOnly) {
+  run([&](Situation& next) { next.viewOnly = viewOnly; });
+}
+
+void Desk::setEditing(Editing editing) {
+  run([&](Situation& next) { next.editing = editing; });
 }
 
 void Desk::run(const std::function<void(Situation&)>& command) {

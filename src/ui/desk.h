@@ -35,6 +35,7 @@ class Desk : public QObject {
   void setDrawing(std::function<void(const Situation&)> draw) { m_draw = std::move(draw); }
 
   void newGame();
+  void blankGame();
   void openGame(const std::filesystem::path& file, bool readOnly);
   void saveGame();
   void saveGameAs(const std::filesystem::path& file);
@@ -48,6 +49,10 @@ class Desk : public QObject {
   void undoSeason();
 
   void setMapOptions(const render::MapOptions& options);
+  void setViewOnly(bool viewOnly);
+
+  /// Choosing the stage's own entry ends the editing.
+  void setEditing(Editing editing);
 
  signals:
   void changed();

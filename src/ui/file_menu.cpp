@@ -2,22 +2,25 @@
 
 #include "ui/controls.h"
 #include "ui/file_dialogs.h"
+#include "ui/recent_files_menu.h"
 
 namespace orb::ui {
 
-FileMenu::FileMenu(Desk& desk, model::Messages& messages, QWidget* window)
+FileMenu::FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory, QWidget* window)
     : QMenu(tr("&File"), window), m_desk(desk), m_messages(messages), m_window(window) {
   setObjectName(QStringLiteral("mnuFile"));
   QAction* create = newEntry(*this, QStringLiteral("mnuFileNew"), tr("&New"), QKeySequence::New);
-  QAction* open =
-      newEntry(*this, QStringLiteral("mnuFileOpen"), tr("&Open..."), QKeySequence::Open);
+  QAction* blank = newEntry(*this, QStringLiteral("mnuFileBlank"), tr("&Blank"));
+  m_open = newEntry(*this, QStringLiteral("mnuFileOpen"), tr("&Open..."), QKeySequence::Open);
+  addMenu(new RecentFilesMenu(desk, memory, this));
   m_save = newEntry(*this, QStringLiteral("mnuFileSave"), tr("&Save"), QKeySequence::Save);
   QAction* saveAs = newEntry(*this, QStringLiteral("mnuFileSaveAs"), tr("Save &As..."),
                              Qt::CTRL | Qt::SHIFT | Qt::Key_S);
   addSeparator();
   QAction* exit = newEntry(*this, QStringLiteral("mnuFileExit"), tr("E&xit"), Qt::CTRL | Qt::Key_Q);
   connect(create, &QAction::triggered, &m_desk, &Desk::newGame);
-  connect(open, &QAction::triggered, this, &FileMenu::open);
+  connect(blank, &QAction::triggered, &m_desk, &Desk::blankGame);
+  connect(m_open, &QAction::triggered, this, &FileMenu::open);
   connect(m_save, &QAction::triggered, this, &FileMenu::save);
   connect(saveAs, &QAction::triggered, this, &FileMenu::saveAs);
   connect(exit, &QAction::triggered, m_window, &QWidget::close);

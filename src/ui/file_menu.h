@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/desk.h"
+#include "ui/window_memory.h"
 
 #include <QMenu>
 
@@ -12,7 +13,10 @@ class FileMenu : public QMenu {
 
  public:
   /// Dialogs come up over the window; Exit closes it.
-  FileMenu(Desk& desk, model::Messages& messages, QWidget* window);
+  FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory, QWidget* window);
+
+  QAction* openEntry() const { return m_open; }
+  QAction* saveEntry() const { return m_save; }
 
  private:
   void open();
@@ -23,6 +27,7 @@ class FileMenu : public QMenu {
   Desk& m_desk;
   model::Messages& m_messages;
   QWidget* m_window;
+  QAction* m_open;
   QAction* m_save;
 };
 

@@ -6,14 +6,48 @@ namespace orb::ui {
 
 GameMenu::GameMenu(Desk& desk, QWidget* parent) : QMenu(tr("&Game"), parent), m_desk(desk) {
   setObjectName(QStringLiteral("mnuGame"));
-  m_undo = newEntry(*this, QStringLiteral("mnuGameUndo"), tr("&Undo season"));
+  addStage(QStringLiteral("mnuGameEnterOrders"), tr("Enter &orders"), "moves");
+  addStage(QStringLiteral("mnuGameEnterRetreats"), tr("Enter &retreats"), "retreats");
+  addStage(QStringLiteral("mnuGameEnterAdjustments"), tr("Enter &adjustments"), "adjustments");
+  addStage(QStringLiteral("mnuGameSeasonFinished"), tr("Season &finished"), "finished");
+  addSeparator();
+  addEditing(QStringLiteral("mnuGameEditUnits"), tr("Edit &units"), Editing::Units);
+  addEditing(QStringLiteral("mnuGameEditProvinces"), tr("Edit &provinces"), Editing::Provinces);
+  addSeparator();
+  m_undo = newEntry(*this, QStringLiteral("mnuGameUndo"), tr("U&ndo season"), QKeySequence::Undo);
   connect(m_undo, &QAction::triggered, &desk, &Desk::undoSeason);
   connect(&desk, &Desk::changed, this, &GameMenu::showState);
   showState();
 }
 
+/// The stage entries tell the stage and choose nothing but its panel.
+void GameMenu::addStage(const QString& name, const QString& caption, std::string_view stage) {
+  QAction* entry = newEntry(*this, name, caption);
+  entry->setCheckable(true);
+  m_stages.emplace_back(entry, stage);
+  connect(entry, &QAction::triggered, this, [this] { m_desk.setEditing(Editing::None); });
+}
+
+void GameMenu::addEditing(const QString& name, const QString& caption, Editing editing) {
+  QAction* entry = newEntry(*this, name, caption);
+  entry->setCheckable(true);
+  m_editings.emplace_back(entry, editing);
+  connect(entry, &QAction::triggered, this,
+          [this, editing](bool on) { m_desk.setEditing(on ? editing : Editing::None); });
+}
+
 void GameMenu::showState() {
-  m_undo->setEnabled(m_desk.game().Stage != "moves");
+  const std::string& now = m_desk.game().Stage;
+  const Editing edited = m_desk.now().editing;
+  for (const auto& [entry, stage] : m_stages) {
+    entry->setChecked(stage == now && edited == Editing::None);
+    entry->setEnabled(stage == now);
+  }
+  for (const auto& [entry, editing] : m_editings)
+    entry->setChecked(editing == edited);
+  m_undo->setEnabled(now != "moves");
+  // While something is edited the keys take back a step of the editing.
+  m_undo->setShortcut(edited == Editing::None ? QKeySequence::Undo : QKeySequence());
 }
 
 }  // namespace orb::ui

@@ -4,9 +4,13 @@
 
 #include <QMenu>
 
+#include <string_view>
+#include <utility>
+#include <vector>
+
 namespace orb::ui {
 
-/// The commands on the season.
+/// The stage, what is edited in its place, and the commands on the season.
 class GameMenu : public QMenu {
   Q_OBJECT
 
@@ -14,10 +18,14 @@ class GameMenu : public QMenu {
   GameMenu(Desk& desk, QWidget* parent);
 
  private:
+  void addStage(const QString& name, const QString& caption, std::string_view stage);
+  void addEditing(const QString& name, const QString& caption, Editing editing);
   void showState();
 
-  const Desk& m_desk;
-  QAction* m_undo;
+  Desk& m_desk;
+  std::vector<std::pair<QAction*, std::string_view>> m_stages;
+  std::vector<std::pair<QAction*, Editing>> m_editings;
+  QAction* m_undo = nullptr;
 };
 
 }  // namespace orb::ui

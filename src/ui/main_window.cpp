@@ -1,6 +1,8 @@
 #include "ui/main_window.h"
 
+#include "model/errors.h"
 #include "render/qt/text_codec.h"
+#include "render/settings.h"
 #include "ui/adjustments_panel.h"
 #include "ui/controls.h"
 #include "ui/file_dialogs.h"
@@ -8,16 +10,24 @@
 #include "ui/game_menu.h"
 #include "ui/help_menu.h"
 #include "ui/map_menu.h"
-#include "ui/map_picture.h"
+#include "ui/map_view.h"
 #include "ui/orders_panel.h"
+#include "ui/owners_panel.h"
+#include "ui/place_text.h"
 #include "ui/report_panel.h"
 #include "ui/retreats_panel.h"
 #include "ui/season_finished_panel.h"
+#include "ui/toolbar.h"
 
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include <array>
@@ -32,42 +42,63 @@ constexpr int Gap = 12;
 constexpr int ColumnWidth = 345;
 constexpr QSize PreferredSize(1280, 800);
 
+/// The one local file that is dragged; empty when it is anything else.
+QString draggedFile(const QMimeData& data) {
+  const QList<QUrl> urls = data.urls();
+  return urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
+}
+
 }  // namespace
 
-MainWindow::MainWindow(Situation start, std::filesystem::path dataDirectory)
-    : m_messages(this), m_desk(std::move(start), std::move(dataDirectory), m_messages, nullptr) {
+MainWindow::MainWindow(Situation start, const Places& places)
+    : m_messages(this),
+      m_desk(std::move(start), places.program, m_messages, nullptr),
+      m_places(places),
+      m_memory(places.config) {
+  setAcceptDrops(true);
   createPanels();
   layOutPanels();
   createMenus();
+  createToolbar();
   createStatusBar();
-  fitToScreen();
+  restoreSize();
   m_map->draw(m_desk.now());
+  m_view->setZoom(m_memory.zoom());
   m_desk.setDrawing([this](const Situation& situation) { m_map->draw(situation); });
   connect(&m_desk, &Desk::changed, this, &MainWindow::showGame);
   showGame();
 }
 
 void MainWindow::createPanels() {
-  m_map = new MapPicture(m_desk);
+  m_map = new MapPicture(m_desk, m_messages);
+  m_view = new MapView(m_map);
   m_orders = new OrdersPanel(m_desk);
   m_retreats = new RetreatsPanel(m_desk);
   m_adjustments = new AdjustmentsPanel(m_desk);
   m_seasonFinished = new SeasonFinishedPanel(m_desk);
   m_report = new ReportPanel(m_desk);
+  connect(m_map, &MapPicture::hovered, this, &MainWindow::showPlace);
+  connect(m_view, &MapView::zoomChanged, this, &MainWindow::leaveSpareWidth);
+  connect(m_report, &ReportPanel::unitsPicked, m_map, &MapPicture::setMarks);
 }
 
 void MainWindow::layOutPanels() {
-  auto* column = new QWidget;
-  auto* panels = new QVBoxLayout(column);
+  m_tabs = new QTabWidget;
+  m_tabs->setObjectName(QStringLiteral("tabFacts"));
+  m_tabs->setDocumentMode(true);
+  m_tabs->addTab(new OwnersPanel(m_desk), tr("Supply &centres"));
+  m_tabs->addTab(m_report, tr("Repor&t"));
+
+  m_column = new QWidget;
+  auto* panels = new QVBoxLayout(m_column);
   panels->setContentsMargins({});
   panels->setSpacing(Gap);
   for (QWidget* panel : {static_cast<QWidget*>(m_orders), static_cast<QWidget*>(m_retreats),
                          static_cast<QWidget*>(m_adjustments)}) {
-    panels->addWidget(panel, 2);
+    panels->addWidget(panel, 3);
   }
   panels->addWidget(m_seasonFinished);
-  panels->addWidget(m_report, 3);
-  panels->addStretch();
+  panels->addWidget(m_tabs, 2);
   // As wide as it likes to be; on a small screen it gives way.
   panels->addItem(new QSpacerItem(ColumnWidth, 0, QSizePolicy::Preferred));
 
@@ -75,28 +106,54 @@ void MainWindow::layOutPanels() {
   auto* sides = new QHBoxLayout(desk);
   sides->setContentsMargins(Margin, Margin, Margin, Margin);
   sides->setSpacing(Gap);
-  sides->addWidget(m_map, 1);
-  sides->addWidget(column);
+  sides->addWidget(m_view, 1);
+  sides->addWidget(m_column);
   setCentralWidget(desk);
 }
 
 void MainWindow::createMenus() {
-  menuBar()->addMenu(new FileMenu(m_desk, m_messages, this));
-  menuBar()->addMenu(new GameMenu(m_desk, this));
-  menuBar()->addMenu(new MapMenu(m_desk, this));
+  m_fileMenu = new FileMenu(m_desk, m_messages, m_memory, this);
+  m_gameMenu = new GameMenu(m_desk, this);
+  m_mapMenu = new MapMenu(m_desk, *m_view, this);
+  menuBar()->addMenu(m_fileMenu);
+  menuBar()->addMenu(m_gameMenu);
+  menuBar()->addMenu(m_mapMenu);
   menuBar()->addMenu(new HelpMenu(this));
 }
 
-void MainWindow::createStatusBar() {
-  m_fileName = new ElidedLabel;
-  m_fileName->setObjectName(QStringLiteral("lblFileName"));
-  m_fileName->setTextFormat(Qt::PlainText);
-  m_fileName->setContentsMargins(Margin, 0, Margin, 0);
-  statusBar()->setSizeGripEnabled(false);
-  statusBar()->addWidget(m_fileName, 1);
+void MainWindow::createToolbar() {
+  auto* tools = new Toolbar(this);
+  tools->addButton(QStringLiteral("butFileOpen"), QStringLiteral("open"), tr("Open a game"),
+                   m_fileMenu->openEntry());
+  tools->addButton(QStringLiteral("butFileSave"), QStringLiteral("save"), tr("Save the game"),
+                   m_fileMenu->saveEntry());
+  tools->addSeparator();
+  tools->addButton(QStringLiteral("butMapZoomIn"), QStringLiteral("zoom-in"), tr("Enlarge the map"),
+                   m_mapMenu->zoomIn());
+  tools->addButton(QStringLiteral("butMapZoomOut"), QStringLiteral("zoom-out"),
+                   tr("Show the map smaller"), m_mapMenu->zoomOut());
+  tools->addButton(QStringLiteral("butMapZoomFit"), QStringLiteral("zoom-fit"),
+                   tr("Fit the map to the window"), m_mapMenu->zoomToFit());
+  addToolBar(tools);
 }
 
-void MainWindow::fitToScreen() {
+void MainWindow::createStatusBar() {
+  m_status = new ElidedLabel;
+  m_status->setObjectName(QStringLiteral("lblStatus"));
+  m_fileName = new ElidedLabel;
+  m_fileName->setObjectName(QStringLiteral("lblFileName"));
+  m_fileName->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  for (ElidedLabel* label : {m_status, m_fileName}) {
+    label->setTextFormat(Qt::PlainText);
+    label->setContentsMargins(Margin, 0, Margin, 0);
+  }
+  statusBar()->setSizeGripEnabled(false);
+  statusBar()->addWidget(m_status, 3);
+  statusBar()->addWidget(m_fileName, 2);
+}
+
+void MainWindow::restoreSize() {
+  if (restoreGeometry(m_memory.geometry())) return;
   const QSize available = screen()->availableSize();
   resize(PreferredSize.boundedTo(available));
   // The window's frame needs room too.
@@ -104,25 +161,92 @@ void MainWindow::fitToScreen() {
   if (!roomy) setWindowState(Qt::WindowMaximized);
 }
 
+void MainWindow::closeEvent(QCloseEvent* event) {
+  m_memory.setGeometry(saveGeometry());
+  m_memory.setZoom(m_view->zoom());
+  try {
+    const Situation& now = m_desk.now();
+    render::WriteSettingsFile(render::SettingsFileForWriting(m_places.program, m_places.config),
+                              {now.mapOptions, now.viewOnly}, now.game.Countries);
+  } catch (const model::FatalError& fault) {
+    m_messages.Show(fault.what(), model::Icon::Stop);
+  }
+  event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!draggedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  const QString file = draggedFile(*event->mimeData());
+  if (file.isEmpty()) return;
+  event->acceptProposedAction();
+  m_desk.openGame(QFile::encodeName(file).toStdString(), false);
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  leaveSpareWidth();
+}
+
 void MainWindow::showGame() {
-  setWindowTitle(render::ToQString(model::Caption(m_desk.game())));
-  m_fileName->setText(displayPath(m_desk.game().FileName));
-  statusBar()->setVisible(!m_fileName->text().isEmpty());
-  if (m_desk.game().Stage != m_shownStage) showStagePanel();
+  const model::GameState& game = m_desk.game();
+  setWindowTitle(render::ToQString(model::Caption(game)));
+  const QString file = displayPath(game.FileName);
+  if (file != m_fileName->text()) {
+    m_fileName->setText(file);
+    m_fileName->setToolTip(file);
+    if (!file.isEmpty()) m_memory.addRecentFile(QFileInfo(file).absoluteFilePath());
+  }
+  if (m_shownPanel != std::pair(game.Stage, m_desk.now().editing)) showStagePanel();
+  showViewOnly();
+}
+
+/// Only the map shows in view-only mode, and nothing that belongs to playing.
+void MainWindow::showViewOnly() {
+  const bool viewOnly = m_desk.now().viewOnly;
+  m_gameMenu->setEnabled(!viewOnly);
+  if (m_column->isHidden() == viewOnly) return;
+  m_column->setVisible(!viewOnly);
+  if (isMaximized() || isFullScreen()) return leaveSpareWidth();
+  if (viewOnly) {
+    m_widthBeforeViewOnly = width();
+    resize(m_view->fittingSize(m_view->height()).width() + 2 * Margin, height());
+  } else {
+    resize(std::max(m_widthBeforeViewOnly, width()), height());
+  }
+  leaveSpareWidth();
 }
 
 void MainWindow::showStagePanel() {
-  m_shownStage = m_desk.game().Stage;
+  m_shownPanel = {m_desk.game().Stage, m_desk.now().editing};
+  const auto& [shownStage, editing] = *m_shownPanel;
   const std::array<std::pair<std::string_view, OrderEntryPanel*>, 3> entryPanels{
       {{"moves", m_orders}, {"retreats", m_retreats}, {"adjustments", m_adjustments}}};
-  m_seasonFinished->setVisible(m_shownStage == "finished");
+  m_seasonFinished->setVisible(shownStage == "finished" && editing == Editing::None);
   for (const auto& [stage, panel] : entryPanels)
-    panel->setVisible(stage == m_shownStage);
+    panel->setVisible(stage == shownStage && editing == Editing::None);
+  m_tabs->setCurrentIndex(m_desk.game().ReportLines.Count() > 0 ? 1 : 0);
+  m_map->setTool(nullptr);
   for (const auto& [stage, panel] : entryPanels) {
-    if (stage == m_shownStage) return panel->startEntry();
+    if (stage == shownStage) return panel->startEntry();
   }
   // Not the button: an Enter too many would drop the report unread.
   m_report->startReading();
+}
+
+void MainWindow::showPlace(int location) {
+  m_status->setText(placeText(m_desk.game(), location));
+}
+
+/// What the fitted map cannot use goes to the column.
+void MainWindow::leaveSpareWidth() {
+  const bool fitted = !m_view->zoom() && !m_column->isHidden();
+  const int height = centralWidget()->height() - 2 * Margin;
+  m_view->setMaximumWidth(
+      fitted ? std::max(m_view->minimumSizeHint().width(), m_view->fittingSize(height).width())
+             : QWIDGETSIZE_MAX);
 }
 
 }  // namespace orb::ui

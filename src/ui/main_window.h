@@ -2,48 +2,77 @@
 
 #include "ui/desk.h"
 #include "ui/message_boxes.h"
+#include "ui/places.h"
+#include "ui/window_memory.h"
 
 #include <QMainWindow>
 
 #include <optional>
 #include <string>
+#include <utility>
+
+class QTabWidget;
 
 namespace orb::ui {
 
 class ElidedLabel;
+class FileMenu;
+class GameMenu;
+class MapMenu;
 class MapPicture;
+class MapView;
 class OrderEntryPanel;
 class ReportPanel;
 class SeasonFinishedPanel;
 
-/// The map at the left, the panels of the stage at the right, the menus above.
+/// The map at the left, the panels at the right, menus and tools above, the status below.
 class MainWindow : public QMainWindow {
   Q_OBJECT
 
  public:
   /// Throws FatalError when the map cannot be drawn.
-  MainWindow(Situation start, std::filesystem::path dataDirectory);
+  MainWindow(Situation start, const Places& places);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void createPanels();
   void layOutPanels();
   void createMenus();
+  void createToolbar();
   void createStatusBar();
-  void fitToScreen();
+  void restoreSize();
 
   void showGame();
+  void showViewOnly();
   void showStagePanel();
+  void showPlace(int location);
+  void leaveSpareWidth();
 
   MessageBoxes m_messages;
   Desk m_desk;
+  Places m_places;
+  WindowMemory m_memory;
   MapPicture* m_map = nullptr;
+  MapView* m_view = nullptr;
+  QWidget* m_column = nullptr;
   OrderEntryPanel* m_orders = nullptr;
   OrderEntryPanel* m_retreats = nullptr;
   OrderEntryPanel* m_adjustments = nullptr;
   SeasonFinishedPanel* m_seasonFinished = nullptr;
+  QTabWidget* m_tabs = nullptr;
   ReportPanel* m_report = nullptr;
+  FileMenu* m_fileMenu = nullptr;
+  GameMenu* m_gameMenu = nullptr;
+  MapMenu* m_mapMenu = nullptr;
+  ElidedLabel* m_status = nullptr;
   ElidedLabel* m_fileName = nullptr;
-  std::optional<std::string> m_shownStage;
+  std::optional<std::pair<std::string, Editing>> m_shownPanel;
+  int m_widthBeforeViewOnly = 0;
 };
 
 }  // namespace orb::ui

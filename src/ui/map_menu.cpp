@@ -1,6 +1,7 @@
 #include "ui/map_menu.h"
 
 #include "ui/controls.h"
+#include "ui/map_view.h"
 
 #include <QActionGroup>
 
@@ -9,8 +10,8 @@ namespace orb::ui {
 using render::MapMode;
 using render::MapOptions;
 
-MapMenu::MapMenu(Desk& desk, QWidget* parent)
-    : QMenu(tr("&Map"), parent), m_desk(desk), m_modeGroup(new QActionGroup(this)) {
+MapMenu::MapMenu(Desk& desk, MapView& view, QWidget* parent)
+    : QMenu(tr("&Map"), parent), m_desk(desk), m_view(view), m_modeGroup(new QActionGroup(this)) {
   setObjectName(QStringLiteral("mnuMap"));
   addMode(QStringLiteral("mnuMapColour3D"), tr("Colour &3D"), MapMode::Colour3D);
   addMode(QStringLiteral("mnuMapColour"), tr("&Colour"), MapMode::Colour);
@@ -23,8 +24,28 @@ MapMenu::MapMenu(Desk& desk, QWidget* parent)
             &MapOptions::ColourBordersByOwner);
   addToggle(QStringLiteral("mnuShowCentreOwners"), tr("Show centre &owners"),
             &MapOptions::ShowCentreOwners);
+  m_viewOnly = newEntry(*this, QStringLiteral("mnuMapViewOnly"), tr("&View only"));
+  m_viewOnly->setCheckable(true);
+  connect(m_viewOnly, &QAction::triggered, &m_desk, &Desk::setViewOnly);
+  addSeparator();
+  addZoomEntries();
   connect(&m_desk, &Desk::changed, this, &MapMenu::showState);
   showState();
+}
+
+void MapMenu::addZoomEntries() {
+  m_zoomIn = newEntry(*this, QStringLiteral("mnuMapZoomIn"), tr("Zoom &in"));
+  m_zoomIn->setShortcuts({QKeySequence::ZoomIn, Qt::CTRL | Qt::Key_Equal});
+  m_zoomOut =
+      newEntry(*this, QStringLiteral("mnuMapZoomOut"), tr("Zoom o&ut"), QKeySequence::ZoomOut);
+  m_zoomToFit = newEntry(*this, QStringLiteral("mnuMapZoomFit"), tr("&Fit map to window"),
+                         Qt::CTRL | Qt::Key_0);
+  QAction* natural =
+      newEntry(*this, QStringLiteral("mnuMapZoom100"), tr("&100 %"), Qt::CTRL | Qt::Key_1);
+  connect(m_zoomIn, &QAction::triggered, &m_view, &MapView::zoomIn);
+  connect(m_zoomOut, &QAction::triggered, &m_view, &MapView::zoomOut);
+  connect(m_zoomToFit, &QAction::triggered, &m_view, [this] { m_view.setZoom(std::nullopt); });
+  connect(natural, &QAction::triggered, &m_view, [this] { m_view.setZoom(1.0); });
 }
 
 void MapMenu::addMode(const QString& name, const QString& caption, MapMode mode) {
@@ -60,6 +81,7 @@ void MapMenu::showState() {
     entry->setChecked(options.Mode == mode);
   for (const auto& [entry, toggle] : m_toggles)
     entry->setChecked(options.*toggle);
+  m_viewOnly->setChecked(m_desk.now().viewOnly);
 }
 
 }  // namespace orb::ui

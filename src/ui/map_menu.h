@@ -7,18 +7,27 @@
 #include <utility>
 #include <vector>
 
+class QActionGroup;
+
 namespace orb::ui {
+
+class MapView;
 
 /// How the map is shown.
 class MapMenu : public QMenu {
   Q_OBJECT
 
  public:
-  MapMenu(Desk& desk, QWidget* parent);
+  MapMenu(Desk& desk, MapView& view, QWidget* parent);
+
+  QAction* zoomIn() const { return m_zoomIn; }
+  QAction* zoomOut() const { return m_zoomOut; }
+  QAction* zoomToFit() const { return m_zoomToFit; }
 
  private:
   using Toggle = bool render::MapOptions::*;
 
+  void addZoomEntries();
   void addMode(const QString& name, const QString& caption, render::MapMode mode);
   void addToggle(const QString& name, const QString& caption, Toggle toggle);
   void choose(render::MapMode mode);
@@ -26,7 +35,12 @@ class MapMenu : public QMenu {
   void showState();
 
   Desk& m_desk;
+  MapView& m_view;
   QActionGroup* m_modeGroup;
+  QAction* m_viewOnly = nullptr;
+  QAction* m_zoomIn = nullptr;
+  QAction* m_zoomOut = nullptr;
+  QAction* m_zoomToFit = nullptr;
   std::vector<std::pair<QAction*, render::MapMode>> m_modes;
   std::vector<std::pair<QAction*, Toggle>> m_toggles;
 };

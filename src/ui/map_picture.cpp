@@ -3,58 +3,165 @@
 #include "model/errors.h"
 #include "render/qt/map_file.h"
 
+#include <QApplication>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace orb::ui {
+namespace {
 
-MapPicture::MapPicture(const Desk& desk, QWidget* parent) : QWidget(parent), m_desk(desk) {
+constexpr double TwipsPerPixel = 15;
+
+/// Beyond this the picture is enlarged rather than drawn larger: it would only cost memory.
+constexpr int LargestPicture = 4096;
+
+/// Radius of a mark in fractions of the map's width: it clears the symbol of a unit.
+constexpr double MarkRadius = 0.0145;
+
+}  // namespace
+
+MapPicture::MapPicture(const Desk& desk, model::Messages& messages, QWidget* parent)
+    : QWidget(parent), m_desk(desk), m_messages(messages) {
   setObjectName(QStringLiteral("picMap"));
   setAccessibleName(tr("Map"));
-  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  setMouseTracking(true);
+  setFocusPolicy(Qt::ClickFocus);
+  setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 void MapPicture::draw(const Situation& situation) {
   const QImage image = render::MapImage(situation.game, situation.mapOptions,
                                         m_desk.dataDirectory(), fittingPixelWidth(), m_pictures);
   m_picture = QPixmap::fromImage(image);
-  m_picture.setDevicePixelRatio(devicePixelRatioF());
-  m_aspect = static_cast<double>(image.width()) / image.height();
-  leaveSpareWidth();
+  const QImage& background =
+      m_pictures.Picture(render::BackgroundFile(m_desk.dataDirectory(), situation.mapOptions.Mode));
+  m_naturalSize = (render::NaturalSize(background) / TwipsPerPixel).toSize();
   update();
 }
 
-void MapPicture::paintEvent(QPaintEvent* /*event*/) {
-  if (m_picture.width() != fittingPixelWidth()) {
-    try {
-      draw(m_desk.now());
-    } catch (const model::FatalError&) {
-      // A bitmap that vanished meanwhile is reported by the next command; till then the old picture
-      // stays.
-    }
-  }
-  const double ratio = devicePixelRatioF();
-  const double left = std::floor((width() * ratio - m_picture.width()) / 2) / ratio;
-  const double top = std::floor((height() * ratio - m_picture.height()) / 2) / ratio;
-  QPainter(this).drawPixmap(QPointF(left, top), m_picture);
+void MapPicture::setMarks(std::vector<std::string> locations) {
+  if (m_marks == locations) return;
+  m_marks = std::move(locations);
+  update();
 }
 
-void MapPicture::resizeEvent(QResizeEvent* event) {
-  QWidget::resizeEvent(event);
-  leaveSpareWidth();
+int MapPicture::locationAt(QPointF position) {
+  return spotAt(position, Qt::NoModifier).locationFor("A");
+}
+
+void MapPicture::paintEvent(QPaintEvent* /*event*/) {
+  if (m_picture.width() != fittingPixelWidth()) drawAgain();
+  QPainter painter(this);
+  const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
+  // A difference of a pixel is rounding, and scaling for it would blur every line.
+  if (std::abs(m_picture.width() - pixels.width()) <= 1) {
+    m_picture.setDevicePixelRatio(devicePixelRatioF());
+    painter.fillRect(rect(), Qt::black);
+    painter.drawPixmap(0, 0, m_picture);
+  } else {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(QRectF(rect()), m_picture, QRectF(m_picture.rect()));
+  }
+  paintMarks(painter);
+}
+
+void MapPicture::drawAgain() {
+  try {
+    draw(m_desk.now());
+  } catch (const model::FatalError&) {
+    // A bitmap that vanished meanwhile is reported by the next command; till then the old picture
+    // stays.
+  }
+}
+
+void MapPicture::paintMarks(QPainter& painter) const {
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double radius = MarkRadius * width();
+  for (const std::string& location : m_marks) {
+    const int row = model::FindProvince(*m_desk.game().Map, location);
+    if (row == 0) continue;
+    const model::Province& province = m_desk.game().Map->Provinces[row];
+    const QPointF centre(static_cast<double>(province.UnitX) * width(),
+                         static_cast<double>(province.UnitY) * height());
+    // The first is the order's own unit; white under black stands out from any land.
+    const double thickness = location == m_marks.front() ? 2.5 : 1.5;
+    painter.setPen(QPen(Qt::white, thickness + 2));
+    painter.drawEllipse(centre, radius, radius);
+    painter.setPen(QPen(Qt::black, thickness));
+    painter.drawEllipse(centre, radius, radius);
+  }
 }
 
 int MapPicture::fittingPixelWidth() const {
-  const double fitting = std::min<double>(width(), height() * m_aspect) * devicePixelRatioF();
-  return std::clamp(static_cast<int>(fitting), 1, render::MaxPixelWidth);
+  const double pixels = width() * devicePixelRatioF();
+  return std::clamp(static_cast<int>(pixels), 1, LargestPicture);
 }
 
-/// What the map cannot use goes to its neighbours.
-void MapPicture::leaveSpareWidth() {
-  setMaximumWidth(
-      std::max(minimumSizeHint().width(), static_cast<int>(std::ceil(height() * m_aspect))));
+const render::HitMap& MapPicture::hitMap() {
+  if (!m_hitMap) {
+    const double aspect = static_cast<double>(m_naturalSize.width()) / m_naturalSize.height();
+    m_hitMap.emplace(aspect);
+    try {
+      m_hitMap = render::LoadHitMap(m_desk.dataDirectory(), *m_desk.game().Map, aspect);
+    } catch (const model::FatalError& fault) {
+      m_messages.Show(fault.what(), model::Icon::Stop);
+    }
+  }
+  return *m_hitMap;
+}
+
+MapSpot MapPicture::spotAt(QPointF position, Qt::KeyboardModifiers modifiers) {
+  const render::Point point{position.x() / width(), position.y() / height()};
+  return {*m_desk.game().Map, hitMap(), point, modifiers};
+}
+
+void MapPicture::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return event->ignore();
+  m_pressed = event->position();
+  m_dragging = false;
+}
+
+void MapPicture::mouseMoveEvent(QMouseEvent* event) {
+  // The view scrolls with the middle button.
+  event->setAccepted((event->buttons() & Qt::MiddleButton) == 0);
+  emit hovered(locationAt(event->position()));
+  if (m_tool == nullptr || !m_pressed) return;
+  const bool far =
+      (event->position() - *m_pressed).manhattanLength() >= QApplication::startDragDistance();
+  if (!m_dragging && far) {
+    m_dragging = m_tool->mapDragStarted(spotAt(*m_pressed, event->modifiers()));
+    if (!m_dragging) m_pressed.reset();
+  }
+  if (m_dragging) m_tool->mapDragMoved(spotAt(event->position(), event->modifiers()));
+}
+
+void MapPicture::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return event->ignore();
+  const bool pressed = m_pressed.has_value();
+  m_pressed.reset();
+  if (m_tool == nullptr || !pressed) return;
+  const MapSpot spot = spotAt(event->position(), event->modifiers());
+  if (std::exchange(m_dragging, false)) {
+    m_tool->mapDropped(spot);
+  } else {
+    m_tool->mapClicked(spot);
+  }
+}
+
+void MapPicture::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton || m_tool == nullptr) return event->ignore();
+  if (!m_tool->mapDoubleClicked(spotAt(event->position(), event->modifiers()))) {
+    mousePressEvent(event);
+  }
+}
+
+void MapPicture::leaveEvent(QEvent* event) {
+  QWidget::leaveEvent(event);
+  emit hovered(0);
 }
 
 }  // namespace orb::ui

@@ -2,37 +2,69 @@
 
 #include "render/qt/picture_cache.h"
 #include "ui/desk.h"
+#include "ui/map_tool.h"
 
 #include <QPixmap>
 #include <QWidget>
 
+#include <optional>
+#include <string>
+#include <vector>
+
 namespace orb::ui {
 
-/// The map, as large as its place allows, drawn at the screen's own resolution.
+/// The map, drawn at the screen's own resolution for whatever size it has.
 class MapPicture : public QWidget {
   Q_OBJECT
 
  public:
-  explicit MapPicture(const Desk& desk, QWidget* parent = nullptr);
+  /// The desk and the messages must outlive the map.
+  MapPicture(const Desk& desk, model::Messages& messages, QWidget* parent = nullptr);
 
   /// Draws a situation whole. Throws FatalError, the picture shown so far kept.
   void draw(const Situation& situation);
 
-  QSize sizeHint() const override { return {300, 250}; }
-  QSize minimumSizeHint() const override { return sizeHint(); }
+  /// The size at which the map is meant to be seen, in pixels at 96 dpi.
+  QSize naturalSize() const { return m_naturalSize; }
+
+  /// What the left mouse button means from now on; the tool must outlive the map or be replaced.
+  void setTool(MapTool* tool) { m_tool = tool; }
+
+  /// Rings the units at these locations till the next call.
+  void setMarks(std::vector<std::string> locations);
+
+  /// The row of the location under a point of the widget, as an army sees it; 0: none.
+  int locationAt(QPointF position);
+
+ signals:
+  /// The mouse is over the location with this row now; 0: over none.
+  void hovered(int location);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
 
  private:
   int fittingPixelWidth() const;
-  void leaveSpareWidth();
+  void drawAgain();
+  void paintMarks(QPainter& painter) const;
+  const render::HitMap& hitMap();
+  MapSpot spotAt(QPointF position, Qt::KeyboardModifiers modifiers);
 
   const Desk& m_desk;
+  model::Messages& m_messages;
   render::PictureCache m_pictures;
+  std::optional<render::HitMap> m_hitMap;
   QPixmap m_picture;
-  double m_aspect = 1.2;
+  QSize m_naturalSize;
+  MapTool* m_tool = nullptr;
+  std::optional<QPointF> m_pressed;
+  bool m_dragging = false;
+  std::vector<std::string> m_marks;
 };
 
 }  // namespace orb::ui

@@ -33,7 +33,9 @@ class MapTool {
 
   /// Pressed and let go at one place.
   virtual void mapClicked(const MapSpot& /*at*/) {}
-  virtual void mapDoubleClicked(const MapSpot& /*at*/) {}
+
+  /// False when it is a second click like the first.
+  virtual bool mapDoubleClicked(const MapSpot& /*at*/) { return false; }
 
   /// True when something is taken along from this place; the next two follow then.
   virtual bool mapDragStarted(const MapSpot& /*from*/) { return false; }

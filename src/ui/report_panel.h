@@ -6,6 +6,9 @@
 #include <QListWidget>
 #include <QWidget>
 
+#include <string>
+#include <vector>
+
 namespace orb::ui {
 
 /// The report of the season resolved last; a selected line says why it came out so.
@@ -17,6 +20,10 @@ class ReportPanel : public QWidget {
 
   /// The user is about to read the report.
   void startReading();
+
+ signals:
+  /// The units at these locations had a part in the selected line; the first is the line's own.
+  void unitsPicked(const std::vector<std::string>& locations);
 
  protected:
   void changeEvent(QEvent* event) override;

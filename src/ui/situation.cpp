@@ -6,6 +6,7 @@
 #include "model/game_file.h"
 #include "model/map_files.h"
 #include "model/new_game.h"
+#include "render/settings.h"
 
 namespace orb::ui {
 namespace {
@@ -27,16 +28,25 @@ void addNotes(const adjudication::Resolution& resolution, Situation& situation) 
   }
 }
 
+void readSettings(const Places& places, Situation& situation) {
+  render::Settings settings{situation.mapOptions, situation.viewOnly};
+  render::ReadSettingsFile(render::SettingsFileForReading(places.program, places.config), settings,
+                           situation.game.Countries);
+  situation.mapOptions = settings.Map;
+  situation.viewOnly = settings.ViewOnly;
+}
+
 }  // namespace
 
-Situation startSituation(const std::filesystem::path& dataDirectory,
-                         const std::filesystem::path& gameFile, model::Messages& messages) {
+Situation startSituation(const Places& places, const std::filesystem::path& gameFile,
+                         model::Messages& messages) {
   Situation situation;
-  situation.game = model::EmptyGame(model::LoadMap(dataDirectory));
+  situation.game = model::EmptyGame(model::LoadMap(places.program));
+  readSettings(places, situation);
   if (gameFile.empty()) {
-    model::NewGame(situation.game, dataDirectory);
+    model::NewGame(situation.game, places.program);
   } else {
-    model::ReadGameFile(situation.game, model::LowerCaseName(gameFile), dataDirectory, messages);
+    model::ReadGameFile(situation.game, model::LowerCaseName(gameFile), places.program, messages);
   }
   return situation;
 }

@@ -4,6 +4,7 @@
 #include "model/game_state.h"
 #include "model/messages.h"
 #include "render/map_view.h"
+#include "ui/places.h"
 
 #include <filesystem>
 #include <string>
@@ -17,17 +18,23 @@ struct ReportNote {
   std::string reason;  ///< why it came out so, in sentences
 };
 
+/// What the mouse edits on the map, in place of entering orders.
+enum class Editing { None, Units, Provinces };
+
 /// All that the window shows. A command makes a new one, which takes the old one's place whole.
 struct Situation {
   model::GameState game;
   render::MapOptions mapOptions;
+  bool viewOnly = false;  ///< only the map is shown
+  Editing editing = Editing::None;
   std::vector<ReportNote> reportNotes;  ///< one a line of the report
   bool readOnly = false;                ///< the game's file was opened for reading only
 };
 
-/// Loads the map and sets up a new game, or opens the named game file. Throws FatalError.
-Situation startSituation(const std::filesystem::path& dataDirectory,
-                         const std::filesystem::path& gameFile, model::Messages& messages);
+/// Loads the map and the settings and sets up a new game, or opens the named game file. Throws
+/// FatalError.
+Situation startSituation(const Places& places, const std::filesystem::path& gameFile,
+                         model::Messages& messages);
 
 /// Resolves the stage and notes why; after a No or an error nothing is changed.
 void resolveStage(Situation& situation, model::Messages& messages);

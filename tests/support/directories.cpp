@@ -39,4 +39,9 @@ std::ptrdiff_t TemporaryDirectory::EntryCount() const {
   return std::distance(fs::directory_iterator(path_), fs::directory_iterator());
 }
 
+TemporaryProgram::TemporaryProgram() {
+  for (const auto& file : std::filesystem::directory_iterator(DataDirectory()))
+    std::filesystem::create_symlink(file.path(), Path() / file.path().filename());
+}
+
 }  // namespace orb::tests

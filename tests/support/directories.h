@@ -32,4 +32,11 @@ class TemporaryDirectory {
   std::filesystem::path path_;
 };
 
+/// The data files of the source tree as links in a directory of their own, in which a program may
+/// also write.
+class TemporaryProgram : public TemporaryDirectory {
+ public:
+  TemporaryProgram();
+};
+
 }  // namespace orb::tests

@@ -26,8 +26,8 @@ class DeskTest : public testing::Test {
  protected:
   ScriptedMessages messages_;
   TemporaryDirectory directory_;
-  ui::Desk desk_{ui::startSituation(DataDirectory(), {}, messages_), DataDirectory(), messages_,
-                 nullptr};
+  ui::Desk desk_{ui::startSituation({DataDirectory(), {}}, {}, messages_), DataDirectory(),
+                 messages_, nullptr};
 };
 
 TEST_F(DeskTest, ACommandThatFailsLeavesEverythingAndSaysWhy) {
@@ -88,7 +88,7 @@ TEST_F(DeskTest, ASavedGameIsTheSameWhenOpened) {
   EXPECT_TRUE(desk_.now().readOnly);
 
   const ui::Situation start =
-      ui::startSituation(DataDirectory(), directory_.Path() / "GAME.orb", messages_);
+      ui::startSituation({DataDirectory(), {}}, directory_.Path() / "GAME.orb", messages_);
   EXPECT_EQ(Describe(start.game), saved) << "a name on the command line may be in any case";
   EXPECT_THAT(messages_.Shown, IsEmpty());
 }

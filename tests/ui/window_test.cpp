@@ -3,8 +3,8 @@
 #include "support/directories.h"
 #include "support/scripted_messages.h"
 #include "support/situation.h"
-#include "ui/main_window.h"
 #include "ui/modal_script.h"
+#include "ui/window_fixture.h"
 
 #include <QAction>
 #include <QApplication>
@@ -31,68 +31,6 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-class WindowTest : public testing::Test {
- protected:
-  void SetUp() override { Open(DataDirectory()); }
-
-  void Open(const std::filesystem::path& dataDirectory, const std::filesystem::path& game = {}) {
-    ScriptedMessages none;
-    window_.reset();
-    window_ = std::make_unique<ui::MainWindow>(ui::startSituation(dataDirectory, game, none),
-                                               dataDirectory);
-    window_->show();
-    window_->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
-  }
-
-  template <class Control>
-  Control& Find(const char* name) const {
-    auto* control = window_->findChild<Control*>(QLatin1String(name));
-    if (control == nullptr) throw std::runtime_error(std::string("no control ") + name);
-    return *control;
-  }
-
-  std::vector<std::string> Lines(const char* list) const {
-    std::vector<std::string> lines;
-    const auto items = Find<QListWidget>(list).findItems({}, Qt::MatchContains);
-    std::transform(items.begin(), items.end(), std::back_inserter(lines),
-                   [](const QListWidgetItem* item) { return item->text().toStdString(); });
-    return lines;
-  }
-
-  /// The one panel that is shown of those of the four stages.
-  std::string StagePanel() const {
-    QStringList shown;
-    for (const char* name : {"fraOrders", "fraRetreats", "fraAdjustments", "fraSeasonFinished"}) {
-      if (Find<QWidget>(name).isVisible()) shown << QLatin1String(name);
-    }
-    return shown.join(QLatin1Char(' ')).toStdString();
-  }
-
-  QImage Map() const { return Find<QWidget>("picMap").grab().toImage(); }
-
-  static void Enter(const QString& order) {
-    Type(order);
-    Press(Qt::Key_Return);
-  }
-
-  /// Resolves the stage, and agrees to every warning after the one about this unit.
-  static void Resolve(const QString& unordered = {}) {
-    std::deque<ModalScript::Step> steps;
-    if (!unordered.isEmpty()) {
-      steps.push_back(
-          Answered("Warning: " + unordered + " unordered.\nContinue?", Qt::Key_A, Qt::AltModifier));
-    }
-    const ModalScript answers(std::move(steps));
-    Press(Qt::Key_R, Qt::AltModifier);
-  }
-
-  void Trigger(const char* action) const { Find<QAction>(action).trigger(); }
-
-  TemporaryDirectory directory_;
-  std::unique_ptr<ui::MainWindow> window_;
-};
 
 TEST_F(WindowTest, AYearIsPlayedByKeyboard) {
   Enter("AUS A(Vie) - Tyr");
@@ -240,10 +178,7 @@ TEST_F(WindowTest, ASelectedReportLineSaysWhyAndUndoTakesAllBack) {
 }
 
 TEST_F(WindowTest, AMapModeWithoutItsBitmapIsNotTaken) {
-  for (const char* name : {"prov.dat", "conna.dat", "connf.dat", "start.dat", "map.bmp"}) {
-    std::filesystem::copy_file(DataDirectory() / name, directory_.Path() / name);
-  }
-  Open(directory_.Path());
+  std::filesystem::remove(program_.Path() / "mapgrey.bmp");
   Trigger("mnuMapColour");
   EXPECT_TRUE(Find<QAction>("mnuMapColour").isChecked());
   const QImage map = Map();
@@ -256,8 +191,8 @@ TEST_F(WindowTest, AMapModeWithoutItsBitmapIsNotTaken) {
   Trigger("mnuShowCentreCount");
   EXPECT_NE(Map(), map);
 
-  std::filesystem::remove(directory_.Path() / "map.bmp");
-  EXPECT_THROW(Open(directory_.Path()), model::FileError);
+  std::filesystem::remove(program_.Path() / "map.bmp");
+  EXPECT_THROW(Open(), model::FileError);
 }
 
 }  // namespace

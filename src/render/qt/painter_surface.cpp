@@ -58,6 +58,11 @@ PainterSurface::~PainterSurface() {
   painter_.restore();
 }
 
+void PainterSurface::SetFontFamily(const QString& family) {
+  font_.setFamilies({family});
+  metrics_ = QFontMetricsF(font_);
+}
+
 void PainterSurface::LoadPicture(const std::filesystem::path& file) {
   const QTransform toDevice = painter_.deviceTransform();
   const bool raster = painter_.paintEngine()->type() == QPaintEngine::Raster;
@@ -75,7 +80,7 @@ void PainterSurface::LoadPicture(const std::filesystem::path& file) {
 }
 
 void PainterSurface::PaintWhite() {
-  painter_.fillRect(QRectF(QPointF(0, 0), twips_), Qt::white);
+  painter_.fillRect(QRectF(QPointF(0, 0), twips_), paper_);
 }
 
 const QFontMetricsF& PainterSurface::UseFont() const {

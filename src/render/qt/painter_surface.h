@@ -3,11 +3,13 @@
 #include "render/qt/picture_cache.h"
 #include "render/surface.h"
 
+#include <QColor>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QRectF>
 #include <QSizeF>
+#include <QString>
 #include <QTransform>
 
 namespace orb::render {
@@ -22,6 +24,10 @@ class PainterSurface : public Surface {
   PainterSurface(const PainterSurface&) = delete;
   PainterSurface& operator=(const PainterSurface&) = delete;
   ~PainterSurface() override;
+
+  /// Colour and font in place of white and the map's: for pictures that suit the window's theme.
+  void SetPaper(const QColor& paper) { paper_ = paper; }
+  void SetFontFamily(const QString& family);
 
   double ScaleWidth() const override { return twips_.width(); }
   double ScaleHeight() const override { return twips_.height(); }
@@ -47,6 +53,7 @@ class PainterSurface : public Surface {
   QTransform outer_;
   QSizeF twips_;
   PictureCache& pictures_;
+  QColor paper_ = Qt::white;
   mutable QFont font_;
   mutable QFontMetricsF metrics_;
 };

@@ -3,6 +3,8 @@
 #include "ui/main_window.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QStandardPaths>
 
 #include <cstdlib>
 #include <filesystem>
@@ -43,16 +45,21 @@ class StartMessages : public ui::MessageBoxes {
   bool m_display;
 };
 
+ui::Places systemPlaces() {
+  const QString config = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+  return {model::ProgramDirectory(), QFile::encodeName(config).toStdString()};
+}
+
 int runProgram(const std::filesystem::path& gameFile, bool display) {
   StartMessages messages(display);
   try {
-    const std::filesystem::path directory = model::ProgramDirectory();
-    ui::Situation start = ui::startSituation(directory, gameFile, messages);
+    const ui::Places places = systemPlaces();
+    ui::Situation start = ui::startSituation(places, gameFile, messages);
     if (!display) {
       throw model::FatalError(
           "There is no display (DISPLAY, WAYLAND_DISPLAY) for the window; orbctl needs none.");
     }
-    ui::MainWindow window(std::move(start), directory);
+    ui::MainWindow window(std::move(start), places);
     window.show();
     return QApplication::exec();
   } catch (const model::FatalError& fault) {
@@ -64,6 +71,7 @@ int runProgram(const std::filesystem::path& gameFile, bool display) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  QApplication::setApplicationName(QStringLiteral("orb"));
   const bool tried = choosePlatform();
   const bool hiddenAskedFor = qgetenv("QT_QPA_PLATFORM") == "offscreen";
   std::unique_ptr<QApplication> application;

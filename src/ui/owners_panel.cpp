@@ -1,0 +1,56 @@
+#include "ui/owners_panel.h"
+
+#include "render/ownership.h"
+#include "render/qt/painter_surface.h"
+
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace orb::ui {
+namespace {
+
+constexpr double TwipsPerPixel = 15;
+constexpr double TwipsPerPoint = 20;
+
+model::Colour toColour(const QColor& colour) {
+  return model::Rgb(static_cast<unsigned>(colour.red()), static_cast<unsigned>(colour.green()),
+                    static_cast<unsigned>(colour.blue()));
+}
+
+}  // namespace
+
+OwnersPicture::OwnersPicture(const Desk& desk, QWidget* parent) : QWidget(parent), m_desk(desk) {
+  setObjectName(QStringLiteral("picOwners"));
+  setAccessibleName(tr("Ownership of supply centres"));
+  connect(&m_desk, &Desk::changed, this, qOverload<>(&QWidget::update));
+}
+
+void OwnersPicture::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  render::PainterSurface surface(painter, rect(), QSizeF(size()) * TwipsPerPixel, m_noPictures);
+  surface.SetPaper(palette().color(QPalette::Base));
+  surface.SetFontFamily(font().family());
+  surface.FontSize = QFontInfo(font()).pixelSize() * TwipsPerPixel / TwipsPerPoint;
+  surface.ForeColour = toColour(palette().color(QPalette::Text));
+  const double height = render::ShowCentreOwnership(m_desk.game(), surface) / TwipsPerPixel;
+  // What does not fit is scrolled to; the width alone decides how high the list is.
+  setMinimumHeight(static_cast<int>(std::ceil(height)));
+}
+
+OwnersPanel::OwnersPanel(const Desk& desk, QWidget* parent) : QScrollArea(parent) {
+  setObjectName(QStringLiteral("fraOwners"));
+  setAccessibleName(tr("Supply centres"));
+  setFrameShape(QFrame::NoFrame);
+  setWidgetResizable(true);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  auto* page = new QWidget;
+  page->setBackgroundRole(QPalette::Base);
+  page->setAutoFillBackground(true);
+  auto* margins = new QVBoxLayout(page);
+  margins->addWidget(new OwnersPicture(desk));
+  setWidget(page);
+}
+
+}  // namespace orb::ui

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <filesystem>
+
+namespace orb::ui {
+
+/// The directories that the window works with.
+struct Places {
+  std::filesystem::path program;  ///< of the program file, and of the data files beside it
+  std::filesystem::path config;   ///< the user's own for this program; need not exist yet
+};
+
+}  // namespace orb::ui

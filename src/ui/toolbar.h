@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QAction>
+#include <QString>
+#include <QToolBar>
+
+namespace orb::ui {
+
+/// The frequent commands as buttons.
+class Toolbar : public QToolBar {
+  Q_OBJECT
+
+ public:
+  explicit Toolbar(QWidget* parent);
+
+  /// A button for a menu's command. The icon is the name of a drawing; the tip says what it does.
+  void addButton(const QString& name, const QString& icon, const QString& tip, QAction* command);
+};
+
+}  // namespace orb::ui
