@@ -122,14 +122,6 @@ bool CheckAdjustmentOrders(const GameState& game, Resolution& resolution, Messag
   return CheckEachOrder(game, resolution.Orders, messages) && CheckClashes(resolution, messages);
 }
 
-int ChangeOf(const OrderTable& table, const std::string& power) {
-  int change = 0;
-  for (const OrderLine& order : table) {
-    if (order.Active && order.Power == power) change += IsBuild(order) ? 1 : -1;
-  }
-  return change;
-}
-
 bool CheckAdjustmentCounts(const GameState& game, const OrderTable& table, Messages& messages) {
   for (const model::Country& country : game.Countries) {
     const PowerCount count = CountPower(game, country.Abbreviation);
@@ -184,6 +176,14 @@ PowerCount CountPower(const GameState& game, std::string_view power) {
     if (unit.Power == power) ++count.Units;
   }
   return count;
+}
+
+int ChangeOf(const OrderTable& table, std::string_view power) {
+  int change = 0;
+  for (const OrderLine& order : table) {
+    if (order.Active && order.Power == power) change += IsBuild(order) ? 1 : -1;
+  }
+  return change;
 }
 
 bool CheckAdjustments(const GameState& game, Resolution& resolution, Messages& messages) {

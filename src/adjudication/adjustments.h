@@ -18,6 +18,9 @@ struct PowerCount {
 /// Counts the supply centres and units of a power, by its abbreviation.
 PowerCount CountPower(const model::GameState& game, std::string_view power);
 
+/// How many units the valid orders add to a power; below 0 when they take some away.
+int ChangeOf(const orders::OrderTable& table, std::string_view power);
+
 /// Resolves the adjustments stage in place: builds and removals are carried out, the report block
 /// is added, the season is finished. Not completed when a question was answered No or a power has
 /// too many units; then, and on a throw, the situation must be dropped.

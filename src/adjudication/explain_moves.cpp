@@ -196,8 +196,9 @@ std::string ExplainMove(const model::GameState& after, const Resolution& resolut
     if (attack != 0)
       account.Text += "; its unit was dislodged by " + Quoted(resolution.Orders[attack]);
   }
-  return account.Text + LostSupportsOf(resolution, order) +
-         OtherMoveText(resolution.Orders, order) + ".";
+  account.Text += LostSupportsOf(resolution, order);
+  if (resolution.Completed) account.Text += OtherMoveText(resolution.Orders, order);
+  return account.Text + ".";
 }
 
 }  // namespace orb::adjudication

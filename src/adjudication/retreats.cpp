@@ -139,25 +139,6 @@ void Lose(OrderLine& order, Reason& reason, Ruling ruling, int blocker) {
   reason.Blocker = static_cast<std::int16_t>(blocker);
 }
 
-void ResolveRetreatStandoffs(const GameState& game, Resolution& resolution) {
-  OrderTable& table = resolution.Orders;
-  for (OrderLine& order : table)
-    order.Pending = order.Active;
-  for (int i = 1; i <= table.Count(); ++i) {
-    OrderLine& order = table[i];
-    if (!IsRetreat(order) || !order.Pending || !order.Active) continue;
-    Reason& reason = resolution.Reasons[i];
-    const Unit& unit = game.Units[order.UnitIndex];
-    if (model::SamePlace(order.Target, unit.DislodgedFrom)) {
-      Lose(order, reason, Ruling::BackToAttacker, 0);
-    } else if (const int occupant = orders::FindUnitAt(game, order.Target); occupant != 0) {
-      Lose(order, reason, Ruling::PlaceTaken, occupant);
-    } else if (const int other = CollidingRetreat(table, i); other != 0) {
-      Lose(order, reason, Ruling::RetreatsCollide, other);
-    }
-  }
-}
-
 /// The last report line about the unit; a new one if there is none.
 int ReportLineOf(const Unit& unit, GameState& game) {
   const std::string key = orders::UnitText(unit);
@@ -210,11 +191,30 @@ bool CheckRetreats(GameState& game, Resolution& resolution, Messages& messages) 
   return true;
 }
 
+void ResolveRetreatStandoffs(const GameState& game, Resolution& resolution) {
+  OrderTable& table = resolution.Orders;
+  resolution.Reasons.SetCount(table.Count());
+  for (OrderLine& order : table)
+    order.Pending = order.Active;
+  for (int i = 1; i <= table.Count(); ++i) {
+    OrderLine& order = table[i];
+    if (!IsRetreat(order) || !order.Pending || !order.Active) continue;
+    Reason& reason = resolution.Reasons[i];
+    const Unit& unit = game.Units[order.UnitIndex];
+    if (model::SamePlace(order.Target, unit.DislodgedFrom)) {
+      Lose(order, reason, Ruling::BackToAttacker, 0);
+    } else if (const int occupant = orders::FindUnitAt(game, order.Target); occupant != 0) {
+      Lose(order, reason, Ruling::PlaceTaken, occupant);
+    } else if (const int other = CollidingRetreat(table, i); other != 0) {
+      Lose(order, reason, Ruling::RetreatsCollide, other);
+    }
+  }
+}
+
 Resolution ResolveRetreats(GameState& game, Messages& messages) {
   Resolution resolution =
       StartResolution(ResolvedStage::Retreats, game, std::move(game.RetreatsList));
   if (!CheckRetreats(game, resolution, messages)) return resolution;
-  resolution.Reasons.SetCount(resolution.Orders.Count());
   ResolveRetreatStandoffs(game, resolution);
   ReportRetreats(game, resolution);
   ApplyRetreats(game, resolution.Orders);

@@ -17,4 +17,8 @@ Resolution ResolveRetreats(model::GameState& game, model::Messages& messages);
 /// the result words.
 bool CheckRetreats(model::GameState& game, Resolution& resolution, model::Messages& messages);
 
+/// Decides which of the checked retreats fail: those back to the attacker, to a unit, or to the
+/// same place as another.
+void ResolveRetreatStandoffs(const model::GameState& game, Resolution& resolution);
+
 }  // namespace orb::adjudication

@@ -1,24 +1,43 @@
+#include "adjudication/list_check.h"
 #include "cli/command.h"
 #include "cli/games.h"
-#include "cli/problems.h"
+#include "model/errors.h"
+#include "model/text.h"
 
 namespace orb::cli {
 namespace {
 
 constexpr std::array Options{OptionId::Orders};
 
+/// One line for each problem: of the orders as listed, of units without orders, of powers.
+std::string ProblemLines(const model::GameState& game, const std::string& path,
+                         const std::vector<std::string>& list) {
+  std::string text;
+  const auto add = [&](std::string_view subject, std::string_view problem) {
+    text.append(path).append(": ").append(subject).append(": ").append(problem).append("\n");
+  };
+  const adjudication::ListCheck check = adjudication::CheckList(game);
+  for (std::size_t i = 0; i < check.Lines.size(); ++i) {
+    for (const std::string& problem : check.Lines[i])
+      add(model::Trim(list[i]), problem);
+  }
+  for (const std::string& unit : check.Unordered)
+    add(unit, "unordered");
+  for (const auto& [power, problem] : check.Powers)
+    add(power, problem);
+  return text;
+}
+
 int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);
   return ForEachGame(line, console, plan, [&](model::GameState& game, const GamePaths& paths) {
     TakeOrders(game, paths);
-    const std::vector<Problem> problems = FindProblems(game);
-    std::string text;
-    for (const Problem& problem : problems) {
-      text.append(paths.Game).append(": ").append(problem.Subject).append(": ");
-      text.append(problem.Text).append("\n");
+    if (game.Stage != "moves" && game.Stage != "retreats" && game.Stage != "adjustments") {
+      throw model::FatalError("There are no orders to check in the stage \"" + game.Stage + "\".");
     }
+    const std::string text = ProblemLines(game, paths.Game, StageList(game));
     console.Print(text);
-    return problems.empty();
+    return text.empty();
   });
 }
 

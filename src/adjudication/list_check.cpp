@@ -1,0 +1,178 @@
+#include "adjudication/list_check.h"
+
+#include "adjudication/adjustments.h"
+#include "adjudication/explain.h"
+#include "adjudication/moves.h"
+#include "adjudication/retreats.h"
+#include "adjudication/stages.h"
+#include "orders/lookups.h"
+#include "orders/parser.h"
+
+#include <algorithm>
+
+namespace orb::adjudication {
+namespace {
+
+using model::GameState;
+using orders::OrderLine;
+using orders::OrderTable;
+
+/// Lets every check go on to its end.
+class YesToEverything : public model::Messages {
+ public:
+  bool Warn(const std::string& /*text*/) override { return true; }
+  model::Answer Ask(const std::string& /*text*/) override { return model::Answer::YesToAll; }
+  void Show(const std::string& /*text*/, model::Icon /*icon*/) override {}
+};
+
+/// Explanations read "What happened: why."; before a resolution only the why is true.
+std::string WhyOf(const std::string& sentence) {
+  const std::size_t colon = sentence.find(": ");
+  if (colon == std::string::npos) return sentence;
+  const std::size_t start = colon + 2;
+  return sentence.substr(start, sentence.size() - start - (sentence.ends_with('.') ? 1 : 0));
+}
+
+std::string RejectionText(const GameState& game, const Resolution& resolution, int k) {
+  const OrderLine& order = resolution.Orders[k];
+  const std::string& word = order.Result;
+  if (resolution.Stage != ResolvedStage::Moves) {
+    // The adjustments' own checks look at such orders too and overwrite the word.
+    const std::string fault = ExplainSyntax(*game.Map, order, resolution.Stage);
+    if (!fault.empty()) return "syntax error: " + fault;
+  }
+  if (word == "clash") {
+    return "clash with " + resolution.Orders[resolution.Reasons[k].Blocker].Text;
+  }
+  return word + ": " + WhyOf(ExplainOrder(game, resolution, k));
+}
+
+/// A later order for the same unit, or 0.
+int OrderedAgain(const OrderTable& table, int k) {
+  for (int later = k + 1; later <= table.Count(); ++later) {
+    if (table[k].UnitIndex != 0 && table[later].UnitIndex == table[k].UnitIndex) return later;
+  }
+  return 0;
+}
+
+LineProblems ProblemsOf(const GameState& game, const Resolution& resolution, int k) {
+  LineProblems problems;
+  const Ruling ruling = resolution.Reasons[k].Ruling;
+  if (!resolution.Orders[k].Active) {
+    problems.push_back(RejectionText(game, resolution, k));
+  } else if (ruling == Ruling::PlaceTaken) {
+    problems.push_back("occupied: " + WhyOf(ExplainOrder(game, resolution, k)));
+  } else if (ruling == Ruling::BackToAttacker) {
+    problems.push_back("impossible: " + WhyOf(ExplainOrder(game, resolution, k)));
+  }
+  if (const int later = OrderedAgain(resolution.Orders, k); later != 0) {
+    problems.push_back("ordered again: " + resolution.Orders[later].Text);
+  }
+  return problems;
+}
+
+std::vector<PowerProblem> CountProblems(const GameState& game, const OrderTable& table) {
+  std::vector<PowerProblem> problems;
+  for (const model::Country& country : game.Countries) {
+    const PowerCount count = CountPower(game, country.Abbreviation);
+    const int units = count.Units + ChangeOf(table, country.Abbreviation);
+    if (units == count.Centres) continue;
+    problems.push_back(
+        {country.Abbreviation, (units > count.Centres ? "too many units: " : "not enough units: ") +
+                                   std::to_string(units) + " after these orders, with " +
+                                   std::to_string(count.Centres) + " centres"});
+  }
+  return problems;
+}
+
+bool NeedsOrder(const GameState& game, const model::Unit& unit) {
+  return game.Stage == "moves" || (game.Stage == "retreats" && unit.Status == model::Dislodged);
+}
+
+/// For each unit that needs an order the first of these lines that gives it one, counted from 1;
+/// past the last line for none.
+std::vector<int> FirstOrders(const GameState& game, std::vector<std::string> lines) {
+  OrderTable table;
+  orders::SetOrderTexts(std::move(lines), table);
+  orders::ParseOrders(table);
+  std::vector<int> firsts;
+  for (const model::Unit& unit : game.Units) {
+    if (!NeedsOrder(game, unit)) continue;
+    int k = 1;
+    while (k <= table.Count() && UnitName(table[k]) != orders::UnitText(unit))
+      ++k;
+    firsts.push_back(k);
+  }
+  return firsts;
+}
+
+/// How many lines from the first on the order table can take, together with an order for each unit
+/// that they leave without one.
+std::size_t LinesWithRoom(const GameState& game, const std::vector<std::string>& list) {
+  constexpr int bound = orders::OrderBound;
+  int count = std::min(static_cast<int>(list.size()), bound);
+  if (static_cast<int>(list.size()) + game.Units.Count() <= bound) return list.size();
+  const std::vector<int> firsts = FirstOrders(game, {list.begin(), list.begin() + count});
+  const auto unordered = [&] {
+    return std::ranges::count_if(firsts, [&](int first) { return first > count; });
+  };
+  while (count + unordered() > bound)
+    --count;
+  return static_cast<std::size_t>(count);
+}
+
+Resolution CheckLines(GameState& game, std::vector<std::string> lines) {
+  YesToEverything messages;
+  Resolution resolution;
+  if (game.Stage == "moves") {
+    resolution = StartResolution(ResolvedStage::Moves, game, std::move(lines));
+    CheckOrders(game, resolution, messages);
+  } else if (game.Stage == "retreats") {
+    resolution = StartResolution(ResolvedStage::Retreats, game, std::move(lines));
+    CheckRetreats(game, resolution, messages);
+    ResolveRetreatStandoffs(game, resolution);
+  } else {
+    resolution = StartResolution(ResolvedStage::Adjustments, game, std::move(lines));
+    CheckAdjustments(game, resolution, messages);
+  }
+  return resolution;
+}
+
+const std::vector<std::string>* ListOf(const GameState& game) {
+  if (game.Stage == "moves") return &game.OrdersList;
+  if (game.Stage == "retreats") return &game.RetreatsList;
+  return game.Stage == "adjustments" ? &game.AdjustmentsList : nullptr;
+}
+
+}  // namespace
+
+ListCheck CheckList(const GameState& game) {
+  ListCheck check;
+  const std::vector<std::string>* const list = ListOf(game);
+  if (list == nullptr) return check;
+  const std::size_t room = LinesWithRoom(game, *list);
+  GameState tried = game;
+  const Resolution resolution =
+      CheckLines(tried, {list->begin(), list->begin() + static_cast<std::ptrdiff_t>(room)});
+  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
+    if (k <= static_cast<int>(room)) {
+      check.Lines.push_back(ProblemsOf(game, resolution, k));
+    } else {
+      check.Unordered.push_back(UnitName(resolution.Orders[k]));
+    }
+  }
+  check.Lines.resize(list->size(),
+                     {"too many orders: no more than " + std::to_string(orders::OrderBound) +
+                      " can be resolved, " + "one for each unit without an order included"});
+  if (game.Stage == "adjustments") check.Powers = CountProblems(game, resolution.Orders);
+  return check;
+}
+
+std::string JoinProblems(const LineProblems& problems) {
+  std::string text;
+  for (const std::string& problem : problems)
+    text.append(text.empty() ? "" : "; ").append(problem);
+  return text;
+}
+
+}  // namespace orb::adjudication

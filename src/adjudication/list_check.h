@@ -1,0 +1,33 @@
+#pragma once
+
+#include "model/game_state.h"
+
+#include <string>
+#include <vector>
+
+namespace orb::adjudication {
+
+/// Why a line would not pass the checks; several when more than one thing is wrong.
+using LineProblems = std::vector<std::string>;
+
+/// A power whose units would not be as many as its centres.
+struct PowerProblem {
+  std::string Power;  ///< its abbreviation
+  std::string Text;
+};
+
+/// What the checks of the stage say of its list as things stand.
+struct ListCheck {
+  std::vector<LineProblems> Lines;     ///< one a line of the list; empty: it would pass
+  std::vector<std::string> Unordered;  ///< units that need an order and have none: "ENG A(Lon)"
+  std::vector<PowerProblem> Powers;    ///< of the adjustments
+};
+
+/// Checks the list of the game's stage as resolving it would, without a question. Lines for which
+/// there is no room in the order table are told so. A stage without orders gives an empty check.
+ListCheck CheckList(const model::GameState& game);
+
+/// The problems as one text.
+std::string JoinProblems(const LineProblems& problems);
+
+}  // namespace orb::adjudication
