@@ -55,4 +55,9 @@ QIcon newIcon(const QString& name) {
   return QIcon(new GlyphEngine(file.readAll()));
 }
 
+QIcon programIcon() {
+  bringIcons();
+  return QIcon(QStringLiteral(":/orb.svg"));
+}
+
 }  // namespace orb::ui

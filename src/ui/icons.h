@@ -9,4 +9,7 @@ namespace orb::ui {
 /// palette in force, so that it suits light and dark themes.
 QIcon newIcon(const QString& name);
 
+/// The program's own picture, in its own colours.
+QIcon programIcon();
+
 }  // namespace orb::ui

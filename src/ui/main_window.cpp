@@ -9,6 +9,7 @@
 #include "ui/file_menu.h"
 #include "ui/game_menu.h"
 #include "ui/help_menu.h"
+#include "ui/icons.h"
 #include "ui/map_menu.h"
 #include "ui/map_view.h"
 #include "ui/orders_panel.h"
@@ -56,6 +57,7 @@ MainWindow::MainWindow(Situation start, const Places& places)
       m_places(places),
       m_memory(places.config) {
   setAcceptDrops(true);
+  setWindowIcon(programIcon());
   createPanels();
   layOutPanels();
   createMenus();
