@@ -45,6 +45,7 @@ class WindowTest : public testing::Test {
   /// Resolves the stage, and agrees to every warning after the one about this unit.
   static void Resolve(const QString& unordered = {});
 
+  const std::filesystem::path examples_ = DataDirectory().parent_path() / "examples";
   TemporaryProgram program_;
   TemporaryDirectory directory_;
   std::unique_ptr<ui::MainWindow> window_;

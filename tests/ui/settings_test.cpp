@@ -1,0 +1,122 @@
+#include "model/files.h"
+#include "ui/modal_script.h"
+#include "ui/window_fixture.h"
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMimeData>
+#include <QTest>
+#include <QUrl>
+#include <gmock/gmock.h>
+
+namespace orb::tests {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+class SettingsTest : public WindowTest {
+ protected:
+  std::string File() const { return model::ReadFile(program_.Path() / "orb.ini"); }
+
+  /// The map menu's entries that are checked.
+  std::string Checked() const {
+    QStringList names;
+    for (const QAction* entry : Find<QMenu>("mnuMap").actions()) {
+      if (entry->isChecked()) names << entry->objectName().mid(3);
+    }
+    return names.join(QLatin1Char(' ')).toStdString();
+  }
+};
+
+TEST_F(SettingsTest, AreKeptFromOneStartToTheNext) {
+  EXPECT_EQ(Checked(), "MapColour3D");
+  for (const char* entry : {"mnuMapGrey", "mnuShowCentreCount", "mnuShowCentreOwners"})
+    Trigger(entry);
+  EXPECT_EQ(Checked(), "MapGrey ShowCentreCount ShowCentreOwners");
+  window_->close();
+  EXPECT_THAT(File(), StartsWith("\"Grey\"\r\n\"Show centre count\"\r\n\"Don't show centre "
+                                 "owners\"\r\n\"Edit\"\r\n"));
+  Open();
+  EXPECT_EQ(Checked(), "MapGrey ShowCentreCount");
+  Trigger("mnuMapColourBordersByOwner");
+  Trigger("mnuMapViewOnly");
+  window_->close();
+  EXPECT_THAT(File(), HasSubstr("\"Show centre owners\"\r\n\"View only\"\r\n"));
+  Open();
+  EXPECT_EQ(Checked(), "MapGrey ShowCentreCount MapColourBordersByOwner MapViewOnly");
+}
+
+TEST_F(SettingsTest, OldAndBrokenFilesAreTakenAsFarAsTheyGo) {
+  const std::vector<std::pair<std::string, std::string>> cases{
+      {"\"Colour\"\r\n\"Show centre count\"\r\n\"Show centre owners\"\r\n",
+       "MapColour ShowCentreCount MapColourBordersByOwner"},
+      {"\"Plaid\"\r\n\"\"\r\n\"\"\r\n\"View only\"\r\nx,y\r\n", "MapBlackWhite MapViewOnly"},
+      {std::string("\"Gr\0\xff", 5), "MapColour3D"},
+      {"", "MapColour3D"}};
+  for (const auto& [bytes, checked] : cases) {
+    program_.Write("orb.ini", bytes);
+    Open();
+    EXPECT_EQ(Checked(), checked) << bytes;
+  }
+}
+
+TEST_F(SettingsTest, ViewOnlyLeavesTheMapAlone) {
+  window_->showNormal();
+  window_->resize(790, 640);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window_->width() == 790; }));
+  const int normal = window_->width();
+  const auto& column = Find<QWidget>("tabFacts");
+  const auto& map = Find<QWidget>("picMap");
+  Trigger("mnuMapViewOnly");
+  EXPECT_FALSE(column.isVisible());
+  EXPECT_FALSE(Find<QMenu>("mnuGame").isEnabled());
+  EXPECT_LT(window_->width(), normal);
+  EXPECT_NEAR(window_->width(), map.width(), 40);
+  Trigger("mnuMapViewOnly");
+  EXPECT_TRUE(column.isVisible());
+  EXPECT_TRUE(Find<QMenu>("mnuGame").isEnabled());
+  EXPECT_EQ(window_->width(), normal);
+}
+
+TEST_F(SettingsTest, SizeZoomAndFilesAreRemembered) {
+  Trigger("mnuMapZoom100");
+  Trigger("mnuMapZoomIn");
+  EXPECT_EQ(Find<QWidget>("picMap").width(), 1250);
+  window_->resize(1100, 700);
+  window_->close();
+  Open(examples_ / "1901-2-autumn-0-start.orb");
+  EXPECT_EQ(window_->size(), QSize(1100, 700));
+  EXPECT_EQ(Find<QWidget>("picMap").width(), 1250);
+  Trigger("mnuMapZoomFit");
+  EXPECT_LE(Find<QWidget>("picMap").width(), Find<QWidget>("scrMap").width());
+
+  Trigger("mnuFileNew");
+  EXPECT_EQ(Find<QLabel>("lblFileName").text(), "");
+  emit Find<QMenu>("mnuFileRecent").aboutToShow();
+  Trigger("mnuFileRecent1");
+  EXPECT_THAT(Find<QLabel>("lblFileName").text().toStdString(),
+              HasSubstr("1901-2-autumn-0-start.orb"));
+}
+
+TEST_F(SettingsTest, AGameDroppedOnTheWindowIsOpened) {
+  const auto drop = [this](const std::filesystem::path& file) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(file.string()))});
+    QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window_.get(), &enter);
+    QDropEvent event({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window_.get(), &event);
+  };
+  drop(examples_ / "1902-1-spring-2-retreats.orb");
+  EXPECT_NE(StagePanel(), "fraOrders");
+  const std::string panel = StagePanel();
+  const ModalScript answers({[](QDialog& box) { box.reject(); }});
+  drop(program_.Path() / "map.bmp");
+  EXPECT_EQ(StagePanel(), panel) << "no game: all stays";
+}
+
+}  // namespace
+}  // namespace orb::tests
