@@ -32,16 +32,6 @@ std::string NotUsedText(const Resolution& resolution, const OrderLine& order) {
   return "It is void: there is no " + other + UnitThere(resolution, order.Power2, order.Target);
 }
 
-/// The move that dislodged the unit, which is recorded at the last of its orders; 0 for none.
-int DislodgerOfUnit(const Resolution& resolution, int order) {
-  int dislodger = 0;
-  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
-    const bool same = resolution.Orders[k].UnitIndex == resolution.Orders[order].UnitIndex;
-    if (same && WasDislodged(resolution, k)) dislodger = resolution.Reasons[k].Dislodger;
-  }
-  return dislodger;
-}
-
 std::string BrokenConvoy(const Resolution& resolution, int fleet) {
   const int attack = DislodgerOfUnit(resolution, fleet);
   return UnitName(resolution.Orders[fleet]) + " was dislodged" +
@@ -186,6 +176,17 @@ std::string OtherMoveText(const OrderTable& table, int order) {
 }
 
 }  // namespace
+
+int DislodgerOfUnit(const Resolution& resolution, int order) {
+  const int unit = resolution.Orders[order].UnitIndex;
+  if (unit == 0) return resolution.Reasons[order].Dislodger;
+  int dislodger = 0;
+  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
+    const bool same = resolution.Orders[k].UnitIndex == unit;
+    if (same && WasDislodged(resolution, k)) dislodger = resolution.Reasons[k].Dislodger;
+  }
+  return dislodger;
+}
 
 std::string ExplainMove(const model::GameState& after, const Resolution& resolution, int order) {
   Account account = OwnText(*after.Map, resolution, order);

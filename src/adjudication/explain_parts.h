@@ -53,6 +53,10 @@ std::string HeldAgainst(const Resolution& resolution, int order);
 /// "was dislodged by ...": the attack that dislodged the order's unit and its strength.
 std::string DislodgedBy(const Resolution& resolution, int order);
 
+/// The move that dislodged the order's unit, which is recorded at the last of the unit's orders; 0
+/// for none.
+int DislodgerOfUnit(const Resolution& resolution, int order);
+
 /// "strength 2 (supported by X) beats its strength 1": how the order's unit was dislodged.
 std::string DislodgingStrengths(const Resolution& resolution, int order);
 

@@ -1,4 +1,6 @@
 #include "adjudication/adjustments.h"
+#include "adjudication/explain.h"
+#include "adjudication/participants.h"
 #include "adjudication/stages.h"
 #include "model/new_game.h"
 #include "model/seasons.h"
@@ -8,6 +10,7 @@
 #include "support/scripted_messages.h"
 #include "support/situation.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -253,6 +256,20 @@ void CheckRefusal(const GameState& before, std::size_t questions, Player& player
   EXPECT_EQ(Describe(game), Describe(before));
 }
 
+/// Every unit that a sentence names had a part in what it tells.
+void CheckParticipants(const Resolution& resolution, const GameState& before,
+                       const GameState& after) {
+  const auto sentences = adjudication::ExplainReport(after, resolution);
+  const auto participants = adjudication::ReportParticipants(after, resolution);
+  for (int u = 1; u <= before.Units.Count(); ++u) {
+    const std::string name = orders::UnitText(before.Units[u]);
+    for (std::size_t i = 0; i < sentences.size(); ++i) {
+      if (sentences[i].find(name) == std::string::npos) continue;
+      EXPECT_THAT(participants[i], testing::Contains(after.Units[u].Location)) << sentences[i];
+    }
+  }
+}
+
 /// How often each kind of outcome was met, so that the test cannot pass by meeting none.
 struct Tally {
   int Dislodged = 0, Removed = 0, Built = 0, ConvoysFailed = 0, Refused = 0;
@@ -264,6 +281,7 @@ void PlayStage(Player& player, GameState& game, Tally& tally) {
   const Resolution resolution = adjudication::ResolveStage(game, messages);
   if (before.Stage == "moves") {
     CheckMoves(resolution, before, game);
+    CheckParticipants(resolution, before, game);
     tally.Dislodged += game.Stage == "retreats" ? 1 : 0;
     for (const OrderLine& order : resolution.Orders)
       tally.ConvoysFailed += order.Result == "convoy failed" ? 1 : 0;
