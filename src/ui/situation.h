@@ -16,6 +16,8 @@ namespace orb::ui {
 struct ReportNote {
   bool failed = false;
   std::string reason;  ///< why it came out so, in sentences
+  std::vector<std::string>
+      locations;  ///< where the units that had a part in it stand or stood last
 };
 
 /// What the mouse edits on the map, in place of entering orders.

@@ -58,6 +58,7 @@ TEST_F(DeskTest, NotesTellOfEveryLineOfTheReportThroughTheYear) {
   EXPECT_TRUE(!notes[0].failed && notes[1].failed && notes[2].failed);
   const std::string whyBounced = notes[1].reason;
   EXPECT_THAT(whyBounced, HasSubstr("FRA F(Bre)"));
+  EXPECT_THAT(notes[1].locations, ElementsAre("Lon", "Bre"));
 
   ASSERT_EQ(desk_.game().Stage, "adjustments");
   desk_.fileOrder(&GameState::AdjustmentsList, "AUS build A(Vie)");
