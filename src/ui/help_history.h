@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+namespace orb::ui {
+
+/// A place in the help: a topic, from 0, and how far its page is scrolled.
+struct HelpPlace {
+  int topic = 0;
+  int scroll = 0;
+  bool found = false;  ///< reached by searching
+};
+
+/// The places a reader has been at, with one that is here. The first is the top of topic 0.
+class HelpHistory {
+ public:
+  HelpPlace& here() { return m_places[m_here]; }
+
+  bool canGoBack() const { return m_here > 0; }
+  bool canGoForward() const { return m_here + 1 < m_places.size(); }
+  void goBack() { m_here -= canGoBack() ? 1 : 0; }
+  void goForward() { m_here += canGoForward() ? 1 : 0; }
+
+  /// A new place; those that lay forward are forgotten. Of a search that runs through the topics
+  /// only the last place is kept.
+  void visit(const HelpPlace& place);
+
+ private:
+  std::vector<HelpPlace> m_places = {HelpPlace()};
+  std::size_t m_here = 0;
+};
+
+}  // namespace orb::ui

@@ -1,0 +1,29 @@
+#include "ui/help_page.h"
+
+#include <QFontMetrics>
+#include <QTextDocument>
+
+#include <algorithm>
+
+namespace orb::ui {
+namespace {
+
+constexpr int LineLength = 84;  // letters of average width
+constexpr double Margin = 18;
+
+}  // namespace
+
+HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent) {
+  document()->setDocumentMargin(Margin);
+  setOpenLinks(false);
+  setFrameShape(QFrame::NoFrame);
+  setLineWrapMode(QTextEdit::FixedPixelWidth);
+}
+
+void HelpPage::resizeEvent(QResizeEvent* event) {
+  const int longest = fontMetrics().averageCharWidth() * LineLength;
+  setLineWrapColumnOrWidth(std::min(viewport()->width(), longest));
+  QTextBrowser::resizeEvent(event);
+}
+
+}  // namespace orb::ui

@@ -1,0 +1,46 @@
+#include "ui/help_print.h"
+
+#include "ui/help_text.h"
+
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QTextDocument>
+
+namespace orb::ui {
+namespace {
+
+/// Links and boxes as they look on white paper.
+QPalette paper() {
+  QPalette palette;
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Text, Qt::black);
+  return palette;
+}
+
+}  // namespace
+
+void printHelp(const render::HelpTopics& topics, const render::HelpTopics& all,
+               QPagedPaintDevice& device) {
+  const HelpLook look = helpLook(paper());
+  QString html;
+  for (const render::HelpTopic& topic : topics) {
+    if (!html.isEmpty()) html += QLatin1String("<p style=\"page-break-before:always\"></p>");
+    html += helpHtml(topic, all, look);
+  }
+  QTextDocument document;
+  document.setDefaultStyleSheet(QStringLiteral("body { color: black }"));
+  document.setHtml(html);
+  document.print(&device);
+}
+
+void askToPrintHelp(const render::HelpTopics& topics, const render::HelpTopics& all,
+                    QWidget* parent) {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(QObject::tr("ORB Help"));
+  QPrintDialog dialog(&printer, parent);
+  dialog.setWindowTitle(QObject::tr("ORB v5.5 Print Help"));
+  dialog.setOptions(QAbstractPrintDialog::PrintToFile);
+  if (dialog.exec() == QDialog::Accepted) printHelp(topics, all, printer);
+}
+
+}  // namespace orb::ui

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "render/help_topics.h"
+
+#include <QColor>
+#include <QPalette>
+#include <QString>
+
+#include <vector>
+
+namespace orb::ui {
+
+/// What the text of the help looks like on its ground.
+struct HelpLook {
+  QColor link;
+  QColor box;  ///< behind the lines that stand as they are
+  QString typedFamily;
+};
+
+/// The look that suits a palette, light or dark.
+HelpLook helpLook(const QPalette& palette);
+
+/// A topic as rich text with its caption as the title. A link goes to "topic:" and the position of
+/// its topic, from 0.
+QString helpHtml(const render::HelpTopic& topic, const render::HelpTopics& topics,
+                 const HelpLook& look);
+
+/// A place where a text was found: the text's position in its list, and the characters in it.
+struct HelpMatch {
+  int topic = 0;
+  int start = 0;
+  int length = 0;
+};
+
+/// Every place in the texts where the wanted words stand, in order; letter case does not matter.
+/// Nothing is found for a text of blanks.
+std::vector<HelpMatch> findInHelp(const std::vector<QString>& texts, const QString& wanted);
+
+}  // namespace orb::ui
