@@ -4,7 +4,7 @@ namespace orb::ui {
 
 void HelpHistory::visit(const HelpPlace& place) {
   m_places.resize(m_here + 1);
-  if (place.found && here().found) {
+  if (here().topic < 0 || (place.found && here().found)) {
     here() = place;
   } else {
     m_places.push_back(place);

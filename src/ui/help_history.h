@@ -5,14 +5,14 @@
 
 namespace orb::ui {
 
-/// A place in the help: a topic, from 0, and how far its page is scrolled.
+/// A place in the help: a topic, from 0 (-1: nowhere), and how far its page is scrolled.
 struct HelpPlace {
-  int topic = 0;
+  int topic = -1;
   int scroll = 0;
   bool found = false;  ///< reached by searching
 };
 
-/// The places a reader has been at, with one that is here. The first is the top of topic 0.
+/// The places a reader has been at, with one that is here. A reader starts nowhere.
 class HelpHistory {
  public:
   HelpPlace& here() { return m_places[m_here]; }

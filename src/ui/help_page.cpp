@@ -8,13 +8,15 @@
 namespace orb::ui {
 namespace {
 
-constexpr int LineLength = 84;  // letters of average width
+constexpr int LineLength = 100;  // letters of average width
 constexpr double Margin = 18;
+constexpr double Indent = 24;  // of lists
 
 }  // namespace
 
 HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent) {
   document()->setDocumentMargin(Margin);
+  document()->setIndentWidth(Indent);
   setOpenLinks(false);
   setFrameShape(QFrame::NoFrame);
   setLineWrapMode(QTextEdit::FixedPixelWidth);

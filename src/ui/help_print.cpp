@@ -21,14 +21,14 @@ QPalette paper() {
 
 void printHelp(const render::HelpTopics& topics, const render::HelpTopics& all,
                QPagedPaintDevice& device) {
-  const HelpLook look = helpLook(paper());
+  QTextDocument document;
+  HelpLook look = helpLook(paper(), document.defaultFont());
+  look.box = Qt::white;  // a box that goes over two pages would be drawn into their margins
   QString html;
   for (const render::HelpTopic& topic : topics) {
     if (!html.isEmpty()) html += QLatin1String("<p style=\"page-break-before:always\"></p>");
     html += helpHtml(topic, all, look);
   }
-  QTextDocument document;
-  document.setDefaultStyleSheet(QStringLiteral("body { color: black }"));
   document.setHtml(html);
   document.print(&device);
 }

@@ -3,6 +3,9 @@
 #include "render/qt/text_codec.h"
 
 #include <QFontDatabase>
+#include <QFontMetrics>
+
+#include <algorithm>
 
 namespace orb::ui {
 namespace {
@@ -11,6 +14,8 @@ using render::HelpBlock;
 using render::HelpBlockForm;
 using render::HelpSpan;
 using render::HelpSpanForm;
+
+constexpr int LineGap = 1;
 
 QString escaped(const std::string& text) {
   QString shown = render::ToQString(text);
@@ -44,6 +49,10 @@ QString spanHtml(const HelpSpan& span, const render::HelpTopics& topics, const H
   }
 }
 
+QString lineStyle(const HelpLook& look) {
+  return QStringLiteral("-qt-line-height-type:minimum; line-height:%1px").arg(look.lineHeight);
+}
+
 QString literalHtml(const std::string& text, const HelpLook& look) {
   const QString box = QStringLiteral(
       "<table width=\"100%\" cellpadding=\"8\" cellspacing=\"0\" "
@@ -62,9 +71,11 @@ QString blockHtml(const HelpBlock& block, const render::HelpTopics& topics, cons
     case HelpBlockForm::Heading:
       return QStringLiteral("<h3 style=\"margin-top:18px; margin-bottom:6px\">%1</h3>").arg(runs);
     case HelpBlockForm::Item:
-      return QStringLiteral("<li style=\"margin-bottom:4px\">%1</li>").arg(runs);
+      return QStringLiteral("<li style=\"margin-bottom:4px; %1\">%2</li>")
+          .arg(lineStyle(look), runs);
     default:
-      return QStringLiteral("<p style=\"margin-top:0; margin-bottom:8px\">%1</p>").arg(runs);
+      return QStringLiteral("<p style=\"margin-top:0; margin-bottom:8px; %1\">%2</p>")
+          .arg(lineStyle(look), runs);
   }
 }
 
@@ -77,7 +88,7 @@ QColor blend(const QColor& first, const QColor& second, double part) {
 
 }  // namespace
 
-HelpLook helpLook(const QPalette& palette) {
+HelpLook helpLook(const QPalette& palette, const QFont& font) {
   const QColor ground = palette.color(QPalette::Base);
   const bool dark = ground.lightness() < 128;
   HelpLook look;
@@ -85,6 +96,10 @@ HelpLook helpLook(const QPalette& palette) {
   look.link = dark ? QColor(0x8a, 0xbf, 0xff) : QColor(0x0b, 0x57, 0xb0);
   look.box = blend(ground, palette.color(QPalette::Text), dark ? 0.09 : 0.06);
   look.typedFamily = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+  QFont typedFont(font);
+  typedFont.setFamily(look.typedFamily);
+  look.lineHeight =
+      std::max(QFontMetrics(font).lineSpacing(), QFontMetrics(typedFont).lineSpacing()) + LineGap;
   return look;
 }
 

@@ -3,6 +3,7 @@
 #include "render/help_topics.h"
 
 #include <QColor>
+#include <QFont>
 #include <QPalette>
 #include <QString>
 
@@ -15,10 +16,11 @@ struct HelpLook {
   QColor link;
   QColor box;  ///< behind the lines that stand as they are
   QString typedFamily;
+  int lineHeight = 0;  ///< in pixels; one for all lines, whatever stands in them
 };
 
-/// The look that suits a palette, light or dark.
-HelpLook helpLook(const QPalette& palette);
+/// The look that suits a palette, light or dark, and a font.
+HelpLook helpLook(const QPalette& palette, const QFont& font);
 
 /// A topic as rich text with its caption as the title. A link goes to "topic:" and the position of
 /// its topic, from 0.

@@ -21,9 +21,11 @@
 namespace orb::ui {
 namespace {
 
-constexpr QSize PreferredSize(940, 680);
-constexpr int ListWidth = 230;
-constexpr int FieldWidth = 190;
+constexpr int Gap = 8;
+constexpr int ItemGap = 3;
+constexpr int FieldLetters = 30;
+constexpr int PageLetters = 112;
+constexpr int PageLines = 44;
 
 QString topicOf(const render::HelpTopic& topic) {
   return render::ToQString(topic.Caption);
@@ -114,16 +116,15 @@ void HelpWindow::addPrintMenu(QToolBar& bar) {
 
 void HelpWindow::addSearch(QToolBar& bar) {
   m_found->setObjectName(QStringLiteral("lblHelpFound"));
+  m_found->setContentsMargins(0, 0, Gap, 0);
   m_found->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   m_found->setMinimumWidth(fontMetrics().horizontalAdvance(tr("not found")) + 20);
   m_wanted->setObjectName(QStringLiteral("txtHelpFind"));
   m_wanted->setAccessibleName(tr("Find in all topics"));
   m_wanted->setPlaceholderText(tr("Find in all topics"));
   m_wanted->setClearButtonEnabled(true);
-  m_wanted->setMaximumWidth(FieldWidth);
-  m_wanted->setMinimumWidth(FieldWidth / 2);
+  m_wanted->setMaximumWidth(FieldLetters * fontMetrics().averageCharWidth());
   bar.addWidget(m_found);
-  bar.addSeparator();
   bar.addWidget(m_wanted);
   bar.addActions({m_previous, m_next});
   setArrow(bar, m_previous, Qt::UpArrow, Qt::ToolButtonIconOnly);
@@ -134,19 +135,25 @@ void HelpWindow::layOut() {
   m_list->setObjectName(QStringLiteral("lstHelpTopics"));
   m_list->setAccessibleName(tr("Topics"));
   m_list->setFrameShape(QFrame::NoFrame);
+  m_list->setSpacing(ItemGap);
   m_page->setObjectName(QStringLiteral("txtHelpPage"));
   auto* halves = new QSplitter;
   halves->addWidget(m_list);
   halves->addWidget(m_page);
   halves->setStretchFactor(1, 1);
   halves->setChildrenCollapsible(false);
-  halves->setSizes({ListWidth, PreferredSize.width() - ListWidth});
+  const QFontMetrics letters = fontMetrics();
+  const int listWidth =
+      m_list->sizeHintForColumn(0) + letters.horizontalAdvance(tr(" (88)")) + 4 * ItemGap;
+  const int pageWidth = PageLetters * letters.averageCharWidth();
+  halves->setSizes({listWidth, pageWidth});
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});
   column->setSpacing(0);
   column->addWidget(newBar());
   column->addWidget(halves, 1);
-  resize(PreferredSize.boundedTo(screen()->availableSize()));
+  const QSize preferred(listWidth + pageWidth, PageLines * letters.lineSpacing());
+  resize(preferred.boundedTo(screen()->availableSize()));
   m_page->setFocus();
 }
 
@@ -156,6 +163,7 @@ void HelpWindow::showTopic(const QString& caption) {
     visit(topic, false);
     break;
   }
+  if (m_history.here().topic < 0 && topicCount() > 0) visit(0, false);
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();
@@ -195,10 +203,10 @@ void HelpWindow::showHere() {
   m_back->setEnabled(m_history.canGoBack());
   m_forward->setEnabled(m_history.canGoForward());
   const HelpPlace place = m_history.here();
-  if (place.topic >= topicCount()) return;
+  if (place.topic < 0) return;
   m_list->setCurrentRow(place.topic);
   const render::HelpTopic& topic = m_topics[static_cast<std::size_t>(place.topic)];
-  m_page->setHtml(helpHtml(topic, m_topics, helpLook(palette())));
+  m_page->setHtml(helpHtml(topic, m_topics, helpLook(palette(), m_page->font())));
   m_page->setAccessibleName(topicOf(topic));
   m_page->verticalScrollBar()->setValue(place.scroll);
   showMatches();
@@ -209,7 +217,7 @@ void HelpWindow::restyle() {
   m_texts.clear();
   for (const render::HelpTopic& topic : m_topics) {
     QTextDocument document;
-    document.setHtml(helpHtml(topic, m_topics, helpLook(palette())));
+    document.setHtml(helpHtml(topic, m_topics, helpLook(palette(), m_page->font())));
     m_texts.push_back(document.toPlainText());
   }
   showHere();
@@ -280,8 +288,8 @@ void HelpWindow::showMatchCounts() {
 }
 
 void HelpWindow::printTopic() {
-  const auto here = static_cast<std::size_t>(m_history.here().topic);
-  if (here < m_topics.size()) askToPrintHelp({m_topics[here]}, m_topics, this);
+  const int here = m_history.here().topic;
+  if (here >= 0) askToPrintHelp({m_topics[static_cast<std::size_t>(here)]}, m_topics, this);
 }
 
 void HelpWindow::printAllTopics() {

@@ -26,7 +26,7 @@ class HelpWindow : public QWidget {
   explicit HelpWindow(render::HelpTopics topics, QWidget* parent = nullptr);
 
   /// Shows a topic, with the window in front of the others. For a caption that no topic has, the
-  /// topic that was shown before stays.
+  /// topic that was shown before stays, or the first is shown.
   void showTopic(const QString& caption);
 
  protected:
