@@ -33,11 +33,11 @@ QString typed(const QString& html, const HelpLook& look) {
 }
 
 QString spanHtml(const HelpSpan& span, const render::HelpTopics& topics, const HelpLook& look) {
-  const QString text = escaped(span.Text);
+  QString text = escaped(span.Text);
   switch (span.Form) {
     case HelpSpanForm::Typed:
       // An order is not broken over two lines.
-      return typed(QString(text).replace(QLatin1Char(' '), QLatin1String("&nbsp;")), look);
+      return typed(text.replace(QLatin1Char(' '), QLatin1String("&nbsp;")), look);
     case HelpSpanForm::Name:
       return QStringLiteral("<b>%1</b>").arg(text);
     case HelpSpanForm::Link:
