@@ -1,17 +1,70 @@
 #include "ui/help_menu.h"
 
-#include "model/messages.h"
+#include "model/errors.h"
 #include "render/qt/text_codec.h"
 #include "ui/controls.h"
+#include "ui/help_window.h"
 
 #include <QMessageBox>
 
 namespace orb::ui {
+namespace {
 
-HelpMenu::HelpMenu(QWidget* window) : QMenu(tr("&Help"), window), m_window(window) {
+/// The caption of the topic that helps in a stage.
+QString topicOf(const Situation& situation) {
+  if (situation.editing != Editing::None) return QObject::tr("Editing");
+  if (situation.game.Stage == "retreats") return QObject::tr("Retreats");
+  if (situation.game.Stage == "adjustments") return QObject::tr("Adjustments");
+  if (situation.game.Stage == "finished") return QObject::tr("Reading the report");
+  return QObject::tr("Entering orders");
+}
+
+}  // namespace
+
+HelpMenu::HelpMenu(const Desk& desk, model::Messages& messages, QWidget* window)
+    : QMenu(tr("&Help"), window), m_desk(desk), m_messages(messages), m_window(window) {
   setObjectName(QStringLiteral("mnuHelp"));
+  addTopics();
+  addSeparator();
   QAction* about = newEntry(*this, QStringLiteral("mnuHelpAbout"), tr("&About"));
   connect(about, &QAction::triggered, this, &HelpMenu::about);
+  connect(&m_desk, &Desk::changed, this, &HelpMenu::showStage);
+  showStage();
+}
+
+void HelpMenu::addTopics() {
+  try {
+    m_topics = render::LoadHelpTopics(m_desk.dataDirectory());
+  } catch (const model::FatalError& fault) {
+    // A window without its help is better than none.
+    m_fault = fault.what();
+  }
+  for (const render::HelpTopic& topic : m_topics) {
+    const QString caption = render::ToQString(topic.Caption);
+    QString text = caption;
+    QAction* entry = newEntry(*this, QStringLiteral("mnuHelpTopic%1").arg(m_entries.size() + 1),
+                              text.replace(QLatin1Char('&'), QLatin1String("&&")));
+    connect(entry, &QAction::triggered, this, [this, caption] { showTopic(caption); });
+    m_entries.push_back(entry);
+  }
+}
+
+void HelpMenu::showTopic(const QString& caption) {
+  if (m_topics.empty()) return m_messages.Show(m_fault, model::Icon::Exclamation);
+  if (m_help == nullptr) {
+    m_help = new HelpWindow(m_topics, m_window);
+    m_help->setWindowFlag(Qt::Window);
+  }
+  m_help->showTopic(caption);
+}
+
+/// F1 opens the topic of the current stage.
+void HelpMenu::showStage() {
+  const QString wanted = topicOf(m_desk.now());
+  for (std::size_t i = 0; i < m_entries.size(); ++i) {
+    const bool here = render::ToQString(m_topics[i].Caption) == wanted;
+    m_entries[i]->setShortcut(here ? QKeySequence(Qt::Key_F1) : QKeySequence());
+  }
 }
 
 void HelpMenu::about() {

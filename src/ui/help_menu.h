@@ -1,20 +1,40 @@
 #pragma once
 
+#include "render/help_topics.h"
+#include "ui/desk.h"
+
 #include <QMenu>
+
+#include <utility>
+#include <vector>
 
 namespace orb::ui {
 
-/// What the program is.
+class HelpWindow;
+
+/// The topics of the help text, and what the program is.
 class HelpMenu : public QMenu {
   Q_OBJECT
 
  public:
-  explicit HelpMenu(QWidget* window);
+  /// Without its file, which lies beside the program, the menu has no topics.
+  HelpMenu(const Desk& desk, model::Messages& messages, QWidget* window);
+
+  /// Opens the help window on a topic.
+  void showTopic(const QString& caption);
 
  private:
+  void addTopics();
+  void showStage();
   void about();
 
+  const Desk& m_desk;
+  model::Messages& m_messages;
   QWidget* m_window;
+  std::string m_fault;  ///< why there are no topics
+  render::HelpTopics m_topics;
+  std::vector<QAction*> m_entries;  ///< one a topic
+  HelpWindow* m_help = nullptr;
 };
 
 }  // namespace orb::ui

@@ -120,7 +120,8 @@ void MainWindow::createMenus() {
   menuBar()->addMenu(m_fileMenu);
   menuBar()->addMenu(m_gameMenu);
   menuBar()->addMenu(m_mapMenu);
-  menuBar()->addMenu(new HelpMenu(this));
+  m_helpMenu = new HelpMenu(m_desk, m_messages, this);
+  menuBar()->addMenu(m_helpMenu);
 }
 
 void MainWindow::createToolbar() {

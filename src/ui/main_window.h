@@ -18,6 +18,7 @@ namespace orb::ui {
 class ElidedLabel;
 class FileMenu;
 class GameMenu;
+class HelpMenu;
 class MapMenu;
 class MapPicture;
 class MapView;
@@ -68,6 +69,7 @@ class MainWindow : public QMainWindow {
   ReportPanel* m_report = nullptr;
   FileMenu* m_fileMenu = nullptr;
   GameMenu* m_gameMenu = nullptr;
+  HelpMenu* m_helpMenu = nullptr;
   MapMenu* m_mapMenu = nullptr;
   ElidedLabel* m_status = nullptr;
   ElidedLabel* m_fileName = nullptr;

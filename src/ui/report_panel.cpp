@@ -98,9 +98,11 @@ void ReportPanel::showReason() {
   const bool chosen = current != nullptr && current->isSelected();
   m_reason->setEnabled(chosen);
   m_reason->setText(tr("Select a line to read why it came out so."));
-  if (!chosen) return;
-  const auto row = static_cast<std::size_t>(m_lines->currentRow());
-  m_reason->setText(render::ToQString(m_desk.now().reportNotes.at(row).reason));
+  if (!chosen) return emit unitsPicked({});
+  const ReportNote& note =
+      m_desk.now().reportNotes.at(static_cast<std::size_t>(m_lines->currentRow()));
+  m_reason->setText(render::ToQString(note.reason));
+  emit unitsPicked(note.locations);
 }
 
 void ReportPanel::copySelectedLines() {
