@@ -1,0 +1,111 @@
+#include "orders/click_entry.h"
+
+#include "model/text.h"
+#include "orders/lookups.h"
+
+namespace orb::orders {
+namespace {
+
+using model::GameState;
+using model::Unit;
+
+void AppendAction(OrderEntry& entry, std::string_view location) {
+  if (location == entry.LastUnitLocation) {
+    entry.Text += "hold ";
+    return;
+  }
+  if (!model::Trim(entry.Text).ends_with('-')) entry.Text += "- ";
+  entry.Text.append(location).append(" ");
+}
+
+void AppendUnit(OrderEntry& entry, const Unit& unit, ClickKeys keys) {
+  if (!entry.Text.starts_with(unit.Power)) entry.Text += unit.Power + " ";
+  entry.Text += unit.UnitType + "(" + unit.Location + ") ";
+  if (keys.Shift) entry.Text += "S ";
+  if (keys.Ctrl) entry.Text += "C ";
+  entry.UnitExpected = keys.Shift || keys.Ctrl;
+  entry.LastUnitLocation = unit.Location;
+}
+
+int FindDislodgedAt(const GameState& game, std::string_view location) {
+  for (int i = game.Units.Count(); i >= 1; --i) {
+    const Unit& unit = game.Units[i];
+    if (unit.Status == model::Dislodged && model::SamePlace(unit.Location, location)) return i;
+  }
+  return 0;
+}
+
+bool IsBuildMeant(const std::string& text, bool unitThere) {
+  if (text.find(')') == std::string::npos) {
+    const std::string words = model::UpperCase(text);
+    if (words.find("BUILD") != std::string::npos) return true;
+    if (words.find("DISBAND") != std::string::npos) return false;
+  }
+  return !unitThere;
+}
+
+/// The power whose home centre the place is; empty for other places.
+std::string HomePowerOf(const model::Map& map, std::string_view location) {
+  const int centre = model::FindProvince(map, location.substr(0, 3));
+  if (centre == 0 || map.Provinces[centre].IsSupplyCentre == 0) return {};
+  return map.Provinces[centre].HomeCountry;
+}
+
+}  // namespace
+
+OrderEntry ClickOrder(const GameState& game, OrderEntry entry, std::string_view location,
+                      ClickKeys keys) {
+  if (!entry.UnitExpected) {
+    AppendAction(entry, location);
+  } else if (const int unit = FindUnitAt(game, location); unit != 0) {
+    AppendUnit(entry, game.Units[unit], keys);
+  }
+  return entry;
+}
+
+std::string ClickRetreat(const GameState& game, const std::string& text,
+                         std::string_view location) {
+  const std::size_t close = text.find(')');
+  if (close == std::string::npos) {
+    const int unit = FindDislodgedAt(game, location);
+    return unit == 0 ? text : UnitText(game.Units[unit]) + " ";
+  }
+  const std::string unit = text.substr(0, close + 1);
+  const std::string own = unit.substr(unit.rfind('(') + 1);
+  if (model::SamePlace(own, location)) return unit + " disband ";
+  return (unit + " retreat ").append(location);
+}
+
+std::string ClickAdjustment(const GameState& game, const std::string& text,
+                            std::string_view location, std::string_view unitType) {
+  const int there = FindUnitAt(game, location);
+  if (!IsBuildMeant(text, there != 0)) {
+    if (there == 0) return text;
+    const Unit& unit = game.Units[there];
+    return unit.Power + " disband " + unit.UnitType + "(" + unit.Location + ")";
+  }
+  const std::string power = HomePowerOf(*game.Map, location);
+  if (power.empty()) return text;
+  return (power + " build ").append(unitType).append("(").append(location).append(")");
+}
+
+std::string_view LastUnitType(std::string_view text) {
+  const std::size_t open = text.rfind('(');
+  if (open == std::string_view::npos) return {};
+  const std::string_view before = text.substr(0, open);
+  return before.substr(before.find_last_of(" )") + 1);
+}
+
+std::string WithUnitType(const std::string& text, std::string_view unitType) {
+  std::string line = text;
+  const std::size_t open = line.find('(');
+  if (open != std::string::npos) {
+    const std::size_t start = line.substr(0, open).find_last_of(' ') + 1;
+    return line.replace(start, open - start, unitType);
+  }
+  if (model::Trim(line).empty()) return line;
+  if (!line.ends_with(' ')) line += ' ';
+  return line.append(unitType).append("(");
+}
+
+}  // namespace orb::orders
