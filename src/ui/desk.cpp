@@ -9,6 +9,14 @@
 #include <utility>
 
 namespace orb::ui {
+namespace {
+
+bool listsDiffer(const model::GameState& a, const model::GameState& b) {
+  return a.OrdersList != b.OrdersList || a.RetreatsList != b.RetreatsList ||
+         a.AdjustmentsList != b.AdjustmentsList;
+}
+
+}  // namespace
 
 Desk::Desk(Situation start, std::filesystem::path dataDirectory, model::Messages& messages,
            QObject* parent)
@@ -35,6 +43,7 @@ void Desk::openGame(const std::filesystem::path& file, bool readOnly) {
   run([&](Situation& next) {
     next.readOnly = readOnly;
     next.editing = Editing::None;
+    next.stoppedLine.reset();
     model::ReadGameFile(next.game, file, m_dataDirectory, m_messages);
   });
 }
@@ -53,8 +62,8 @@ void Desk::saveGameAs(const std::filesystem::path& file) {
 
 bool Desk::fileOrder(OrderList list, const std::string& text) {
   bool filed = false;
-  run([&](Situation& next) { filed = orders::FileOrder(next.game.*list, text); });
-  return filed;
+  const bool done = run([&](Situation& next) { filed = orders::FileOrder(next.game.*list, text); });
+  return done && filed;
 }
 
 void Desk::deleteOrder(OrderList list, int position) {
@@ -63,6 +72,7 @@ void Desk::deleteOrder(OrderList list, int position) {
 
 void Desk::resolve() {
   run([this](Situation& next) { resolveStage(next, m_messages); });
+  if (m_now.stoppedLine) emit stopped();
 }
 
 void Desk::nextSeason() {
@@ -87,17 +97,21 @@ void Desk::setEditing(Editing editing) {
   run([&](Situation& next) { next.editing = editing; });
 }
 
-void Desk::run(const std::function<void(Situation&)>& command) {
+bool Desk::run(const std::function<void(Situation&)>& command) {
+  bool done = false;
   try {
     Situation next = m_now;
     command(next);
     next.reportNotes.resize(static_cast<std::size_t>(next.game.ReportLines.Count()));
+    if (listsDiffer(next.game, m_now.game)) next.stoppedLine.reset();
     m_draw(next);
     m_now = std::move(next);
+    done = true;
   } catch (const model::FatalError& fault) {
     m_messages.Show(fault.what(), model::Icon::Stop);
   }
   emit changed();
+  return done;
 }
 
 }  // namespace orb::ui

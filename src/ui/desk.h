@@ -57,8 +57,12 @@ class Desk : public QObject {
  signals:
   void changed();
 
+  /// A resolution was abandoned at a question; follows changed.
+  void stopped();
+
  private:
-  void run(const std::function<void(Situation&)>& command);
+  /// False when the command was abandoned.
+  bool run(const std::function<void(Situation&)>& command);
 
   Situation m_now;
   std::filesystem::path m_dataDirectory;

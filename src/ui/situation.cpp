@@ -47,6 +47,40 @@ void readSettings(const Places& places, Situation& situation) {
   situation.viewOnly = settings.ViewOnly;
 }
 
+/// Hands messages on and keeps the last warning that was answered No.
+class DeclinedWarning : public model::Messages {
+ public:
+  explicit DeclinedWarning(model::Messages& messages) : m_messages(messages) {}
+
+  bool Warn(const std::string& text) override {
+    const bool goesOn = m_messages.Warn(text);
+    if (!goesOn) m_text = text;
+    return goesOn;
+  }
+  model::Answer Ask(const std::string& text) override { return m_messages.Ask(text); }
+  void Show(const std::string& text, model::Icon icon) override { m_messages.Show(text, icon); }
+
+  /// Whether it was about this order, or, of two that clash, the latter.
+  bool isAbout(const orders::OrderLine& order) const {
+    return m_text.starts_with("Warning: " + order.Text + "\r") ||
+           m_text.find(" clashes with " + order.Text + "\r") != std::string::npos;
+  }
+
+ private:
+  model::Messages& m_messages;
+  std::string m_text;
+};
+
+/// Of equal lines the last one that was judged is meant.
+std::optional<StoppedLine> findStoppedLine(const adjudication::Resolution& resolution,
+                                           const DeclinedWarning& declined) {
+  for (int k = resolution.Orders.Count(); k >= 1; --k) {
+    const orders::OrderLine& order = resolution.Orders[k];
+    if (order.Failed && declined.isAbout(order)) return StoppedLine{k - 1, order.Result};
+  }
+  return {};
+}
+
 }  // namespace
 
 Situation startSituation(const Places& places, const std::filesystem::path& gameFile,
@@ -63,7 +97,9 @@ Situation startSituation(const Places& places, const std::filesystem::path& game
 }
 
 void resolveStage(Situation& situation, model::Messages& messages) {
-  const adjudication::Resolution resolution = adjudication::ResolveStage(situation.game, messages);
+  DeclinedWarning asked(messages);
+  const adjudication::Resolution resolution = adjudication::ResolveStage(situation.game, asked);
+  situation.stoppedLine = findStoppedLine(resolution, asked);
   if (resolution.Completed) addNotes(resolution, situation);
 }
 

@@ -7,6 +7,7 @@
 #include "ui/places.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,14 +24,21 @@ struct ReportNote {
 /// What the mouse edits on the map, in place of entering orders.
 enum class Editing { None, Units, Provinces };
 
+/// The line of the stage's list at which a resolution was abandoned.
+struct StoppedLine {
+  int row = 0;         ///< counted from 0
+  std::string result;  ///< the order's result words
+};
+
 /// All that the window shows. A command makes a new one, which takes the old one's place whole.
 struct Situation {
   model::GameState game;
   render::MapOptions mapOptions;
   bool viewOnly = false;  ///< only the map is shown
   Editing editing = Editing::None;
-  std::vector<ReportNote> reportNotes;  ///< one a line of the report
-  bool readOnly = false;                ///< the game's file was opened for reading only
+  std::vector<ReportNote> reportNotes;     ///< one a line of the report
+  std::optional<StoppedLine> stoppedLine;  ///< until the lists change
+  bool readOnly = false;                   ///< the game's file was opened for reading only
 };
 
 /// Loads the map and the settings and sets up a new game, or opens the named game file. Throws
@@ -38,7 +46,8 @@ struct Situation {
 Situation startSituation(const Places& places, const std::filesystem::path& gameFile,
                          model::Messages& messages);
 
-/// Resolves the stage and notes why; after a No or an error nothing is changed.
+/// Resolves the stage and notes why; after a No or an error nothing is changed but the line at
+/// which it stopped.
 void resolveStage(Situation& situation, model::Messages& messages);
 
 }  // namespace orb::ui
