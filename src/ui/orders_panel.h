@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orders/click_entry.h"
 #include "ui/order_entry_panel.h"
 
 namespace orb::ui {
@@ -10,6 +11,17 @@ class OrdersPanel : public OrderEntryPanel {
 
  public:
   explicit OrdersPanel(Desk& desk, QWidget* parent = nullptr);
+
+  /// Picks a unit or, after that, where it goes; Shift picks a supporter, Ctrl a convoying fleet.
+  void mapClicked(const MapSpot& at) override;
+
+ protected:
+  void beginLine() override;
+
+ private:
+  void addCommands();
+
+  orders::OrderEntry m_entry;  ///< its text is up to date only during a click
 };
 
 }  // namespace orb::ui

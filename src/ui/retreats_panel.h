@@ -10,6 +10,9 @@ class RetreatsPanel : public OrderEntryPanel {
 
  public:
   explicit RetreatsPanel(Desk& desk, QWidget* parent = nullptr);
+
+  /// Picks a dislodged unit and, after that, where it retreats to or that it disbands.
+  void mapClicked(const MapSpot& at) override;
 };
 
 }  // namespace orb::ui

@@ -18,6 +18,7 @@ QLabel* newText(const QString& text) {
 SeasonFinishedPanel::SeasonFinishedPanel(Desk& desk, QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("fraSeasonFinished"));
   auto* next = newButton(QStringLiteral("butNextSeason"), tr("&Next season"));
+  next->setDefault(true);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});
   column->addWidget(newHeading(tr("Season finished")));

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace orb::ui {
+
+/// What is known about a line of orders before it is resolved.
+enum class OrderMark : std::uint8_t {
+  None,
+  Passes,    ///< a thin tick
+  Doubtful,  ///< a triangle with an exclamation mark
+  Stopped,   ///< a filled disc with a bar: the resolution stopped here
+};
+
+/// Where an item of a list keeps its OrderMark, as an int.
+constexpr int OrderMarkRole = Qt::UserRole;
+
+/// Draws a list's items with their marks in front.
+class OrderMarkDelegate : public QStyledItemDelegate {
+  Q_OBJECT
+
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+};
+
+}  // namespace orb::ui
