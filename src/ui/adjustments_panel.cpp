@@ -27,7 +27,7 @@ AdjustmentsPanel::AdjustmentsPanel(Desk& desk, QWidget* parent)
   addCommand({QStringLiteral("butAdjustmentDisband"), tr("D&isband"),
               tr("The power takes a unit away"), QStringLiteral(" disband ")});
   addTypeOption(QStringLiteral("optAdjustmentArmy"), tr("&Army"), "A")->setChecked(true);
-  m_fleet = addTypeOption(QStringLiteral("optAdjustmentFleet"), tr("Flee&t"), "F");
+  m_fleet = addTypeOption(QStringLiteral("optAdjustmentFleet"), tr("F&leet"), "F");
 }
 
 QRadioButton* AdjustmentsPanel::addTypeOption(const QString& name, const QString& caption,

@@ -32,7 +32,7 @@ void OrdersPanel::addCommands() {
       addCommand({QStringLiteral("butOrderSupport"), tr("&Support"),
                   tr("The unit supports another: S and that unit's order"), QStringLiteral("S ")});
   const auto* convoy =
-      addCommand({QStringLiteral("butOrderConvoy"), tr("&Convoy"),
+      addCommand({QStringLiteral("butOrderConvoy"), tr("Convo&y"),
                   tr("The fleet convoys an army: C and that army's move"), QStringLiteral("C ")});
   connect(move, &QPushButton::clicked, this, [this] { m_entry.UnitExpected = false; });
   for (const QPushButton* command : {support, convoy})

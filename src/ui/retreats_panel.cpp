@@ -20,7 +20,7 @@ RetreatsPanel::RetreatsPanel(Desk& desk, QWidget* parent)
                        .helpTopic = tr("Retreats"),
                        .resolveTip = tr("Carries out the retreats of all powers")},
                       parent) {
-  addCommand({QStringLiteral("butRetreatRetreat"), tr("Re&treat"),
+  addCommand({QStringLiteral("butRetreatRetreat"), tr("Retre&at"),
               tr("The unit retreats: where to follows"), QStringLiteral("retreat ")});
   addCommand({QStringLiteral("butRetreatDisband"), tr("Dis&band"), tr("The unit is taken away"),
               QStringLiteral("disband ")});
