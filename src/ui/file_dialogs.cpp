@@ -9,35 +9,74 @@
 #include <QFileDialog>
 #include <QGridLayout>
 
+#include <functional>
+
 namespace orb::ui {
 namespace {
 
 /// Qt's own dialog: those of the desktops take neither the texts of the filters as they stand nor
 /// a further box.
-void setUp(QFileDialog& dialog, const QString& title, const model::GameState& game) {
+void setUp(QFileDialog& dialog, const QString& title, const QStringList& filters,
+           const model::GameState& game) {
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setWindowTitle(render::ToQString(model::ProgramName) + title);
-  const QStringList filters{QObject::tr("Concordat files: *.orb (*.orb)"),
-                            QObject::tr("Data files: *.dat (*.dat)"),
-                            QObject::tr("All files: *.* (*)")};
   dialog.setNameFilters(filters);
-  dialog.selectNameFilter(filters[static_cast<qsizetype>(gameFilterFor(game.FileName))]);
   if (!game.FileName.empty()) {
     const std::filesystem::path directory = std::filesystem::path(game.FileName).parent_path();
     dialog.setDirectory(displayPath(directory.string()));
   }
 }
 
+QString allFiles() {
+  return QObject::tr("All files: *.* (*)");
+}
+
+void setUpForGames(QFileDialog& dialog, const QString& title, const model::GameState& game) {
+  const QStringList filters{QObject::tr("Concordat files: *.orb (*.orb)"),
+                            QObject::tr("Data files: *.dat (*.dat)"), allFiles()};
+  setUp(dialog, title, filters, game);
+  dialog.selectNameFilter(filters[static_cast<qsizetype>(gameFilterFor(game.FileName))]);
+}
+
 std::filesystem::path chosenFile(const QFileDialog& dialog) {
   return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
+}
+
+/// Whether the file may be written as far as the user is concerned.
+bool mayWrite(const std::filesystem::path& file, model::Messages& messages) {
+  std::error_code ignored;
+  if (!std::filesystem::is_directory(file.parent_path(), ignored)) {
+    messages.Show("There is no folder " + file.parent_path().string() + ".",
+                  model::Icon::Exclamation);
+    return false;
+  }
+  return !std::filesystem::exists(file, ignored) ||
+         messages.Warn(file.string() + " already exists.\rReplace it?");
+}
+
+/// Asks until a file may be written or the dialog is cancelled. `written` turns the name as it was
+/// typed into the one that is written.
+std::optional<std::filesystem::path> askForNewFile(
+    QFileDialog& dialog, const std::string& proposal, model::Messages& messages,
+    const std::function<std::filesystem::path(const std::filesystem::path&)>& written) {
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  // The dialog would ask about the name as typed, which is not always the one written.
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  dialog.selectFile(render::ToQString(proposal));
+  while (dialog.exec() == QDialog::Accepted) {
+    std::filesystem::path file = written(chosenFile(dialog));
+    if (mayWrite(file, messages)) return file;
+  }
+  return std::nullopt;
 }
 
 }  // namespace
 
 std::optional<OpenChoice> askGameToOpen(QWidget* parent, const model::GameState& game) {
   QFileDialog dialog(parent);
-  setUp(dialog, QObject::tr(" Open"), game);
+  setUpForGames(dialog, QObject::tr(" Open"), game);
   dialog.setFileMode(QFileDialog::ExistingFile);
   auto* readOnly = new QCheckBox(QObject::tr("Open as &read-only"), &dialog);
   readOnly->setObjectName(QStringLiteral("chkReadOnly"));
@@ -51,21 +90,22 @@ std::optional<OpenChoice> askGameToOpen(QWidget* parent, const model::GameState&
 std::optional<std::filesystem::path> askWhereToSave(QWidget* parent, const model::GameState& game,
                                                     model::Messages& messages) {
   QFileDialog dialog(parent);
-  setUp(dialog, QObject::tr(" Save As"), game);
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setFileMode(QFileDialog::AnyFile);
-  // The dialog would ask about the name as typed, which is not always the one written.
-  dialog.setOption(QFileDialog::DontConfirmOverwrite);
-  dialog.selectFile(render::ToQString(proposedGameFile(game)));
-  while (dialog.exec() == QDialog::Accepted) {
-    const std::filesystem::path file = model::LowerCaseName(chosenFile(dialog));
-    std::error_code ignored;
-    if (!std::filesystem::exists(file, ignored) ||
-        messages.Warn(file.string() + " already exists.\rReplace it?")) {
-      return file;
-    }
-  }
-  return std::nullopt;
+  setUpForGames(dialog, QObject::tr(" Save As"), game);
+  return askForNewFile(dialog, proposedGameFile(game), messages, model::LowerCaseName);
+}
+
+std::optional<std::filesystem::path> askWhereToExport(QWidget* parent, ExportKind kind,
+                                                      const model::GameState& game,
+                                                      model::Messages& messages) {
+  const bool bitmap = kind == ExportKind::Bitmap;
+  QFileDialog dialog(parent);
+  setUp(dialog, bitmap ? QObject::tr(" Export Bitmap") : QObject::tr(" Export Text"),
+        {bitmap ? QObject::tr("Bitmap files: *.bmp (*.bmp)")
+                : QObject::tr("Text files: *.txt (*.txt)"),
+         allFiles()},
+        game);
+  return askForNewFile(dialog, proposedExportFile(game, bitmap ? ".bmp" : ".txt"), messages,
+                       [](const std::filesystem::path& typed) { return typed; });
 }
 
 QString displayPath(const std::string& file) {

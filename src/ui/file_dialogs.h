@@ -23,6 +23,14 @@ std::optional<OpenChoice> askGameToOpen(QWidget* parent, const model::GameState&
 std::optional<std::filesystem::path> askWhereToSave(QWidget* parent, const model::GameState& game,
                                                     model::Messages& messages);
 
+enum class ExportKind { Bitmap, Text };
+
+/// Asks for the file to export to, whose name is taken as it stands, and whether one there may be
+/// replaced; nothing when cancelled.
+std::optional<std::filesystem::path> askWhereToExport(QWidget* parent, ExportKind kind,
+                                                      const model::GameState& game,
+                                                      model::Messages& messages);
+
 /// A file name of the system for display.
 QString displayPath(const std::string& file);
 

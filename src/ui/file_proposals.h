@@ -11,6 +11,9 @@ namespace orb::ui {
 /// letter and two digits of the year: "con_s01.orb".
 std::string proposedGameFile(const model::GameState& game);
 
+/// The name proposed for what is made of a game: "s01" and the extension, say ".bmp".
+std::string proposedExportFile(const model::GameState& game, std::string_view extension);
+
 enum class GameFilter { Games, Data, All };
 
 /// The filter that a file dialog begins with, by the current file name.

@@ -7,7 +7,6 @@
 
 #include <QBuffer>
 #include <QPageSize>
-#include <QPainter>
 #include <QPdfWriter>
 #include <QSvgGenerator>
 
@@ -22,7 +21,6 @@ struct Job {
   const MapOptions& Options;
   const std::filesystem::path& DataDirectory;
   PictureCache& Pictures;
-  QSizeF Twips;
   QSize Pixels;
   double PixelsPerInch;
 };
@@ -38,18 +36,11 @@ Job Plan(const model::GameState& game, const MapOptions& options,
   const int width = pixelWidth == 0 ? picture.width() : pixelWidth;
   const int height =
       std::max(1, qRound(static_cast<double>(width) * picture.height() / picture.width()));
-  return {game,
-          options,
-          dataDirectory,
-          pictures,
-          NaturalSize(picture),
-          QSize(width, height),
-          Resolution(picture)};
+  return {game, options, dataDirectory, pictures, QSize(width, height), Resolution(picture)};
 }
 
 void Draw(const Job& job, QPainter& painter, const QRectF& target) {
-  PainterSurface surface(painter, target, job.Twips, job.Pictures);
-  RenderMap(job.Game, job.Options, job.DataDirectory, surface);
+  PaintMap(job.Game, job.Options, job.DataDirectory, job.Pictures, painter, target);
 }
 
 QImage DrawImage(const Job& job) {
@@ -96,6 +87,14 @@ QImage MapImage(const model::GameState& game, const MapOptions& options,
                 const std::filesystem::path& dataDirectory, int pixelWidth,
                 PictureCache& pictures) {
   return DrawImage(Plan(game, options, dataDirectory, pixelWidth, pictures));
+}
+
+void PaintMap(const model::GameState& game, const MapOptions& options,
+              const std::filesystem::path& dataDirectory, PictureCache& pictures, QPainter& painter,
+              const QRectF& target) {
+  const QImage& picture = pictures.Picture(BackgroundFile(dataDirectory, options.Mode));
+  PainterSurface surface(painter, target, NaturalSize(picture), pictures);
+  RenderMap(game, options, dataDirectory, surface);
 }
 
 void SaveMap(const model::GameState& game, const MapOptions& options,

@@ -6,6 +6,8 @@
 #include "render/qt/picture_cache.h"
 
 #include <QImage>
+#include <QPainter>
+#include <QRectF>
 
 #include <filesystem>
 
@@ -16,6 +18,12 @@ namespace orb::render {
 /// a width outside 0..MaxPixelWidth.
 QImage MapImage(const model::GameState& game, const MapOptions& options,
                 const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures);
+
+/// Draws the map over a rectangle of the painter's coordinates: vectors over the bitmap. Throws
+/// what RenderMap throws.
+void PaintMap(const model::GameState& game, const MapOptions& options,
+              const std::filesystem::path& dataDirectory, PictureCache& pictures, QPainter& painter,
+              const QRectF& target);
 
 /// Saves the map in a format, whatever the file's extension: Bmp is uncompressed, Svg and Pdf hold
 /// vectors over the bitmap. The file is replaced whole or not at all. Throws as MapImage does,
