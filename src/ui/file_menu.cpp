@@ -1,12 +1,14 @@
 #include "ui/file_menu.h"
 
 #include "ui/controls.h"
+#include "ui/export_commands.h"
 #include "ui/file_dialogs.h"
 #include "ui/recent_files_menu.h"
 
 namespace orb::ui {
 
-FileMenu::FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory, QWidget* window)
+FileMenu::FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory,
+                   ExportCommands& exports, QWidget* window)
     : QMenu(tr("&File"), window), m_desk(desk), m_messages(messages), m_window(window) {
   setObjectName(QStringLiteral("mnuFile"));
   QAction* create = newEntry(*this, QStringLiteral("mnuFileNew"), tr("&New"), QKeySequence::New);
@@ -17,6 +19,8 @@ FileMenu::FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory, 
   QAction* saveAs = newEntry(*this, QStringLiteral("mnuFileSaveAs"), tr("Save &As..."),
                              Qt::CTRL | Qt::SHIFT | Qt::Key_S);
   addSeparator();
+  addExports(exports);
+  addSeparator();
   QAction* exit = newEntry(*this, QStringLiteral("mnuFileExit"), tr("E&xit"), Qt::CTRL | Qt::Key_Q);
   connect(create, &QAction::triggered, &m_desk, &Desk::newGame);
   connect(blank, &QAction::triggered, &m_desk, &Desk::blankGame);
@@ -26,6 +30,18 @@ FileMenu::FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory, 
   connect(exit, &QAction::triggered, m_window, &QWidget::close);
   connect(&m_desk, &Desk::changed, this, &FileMenu::showState);
   showState();
+}
+
+void FileMenu::addExports(ExportCommands& exports) {
+  QAction* bitmap = newEntry(*this, QStringLiteral("mnuFileExportBMP"), tr("Export B&itmap..."));
+  m_exportText = newEntry(*this, QStringLiteral("mnuFileExportText"), tr("Export &Text..."));
+  m_print = newEntry(*this, QStringLiteral("mnuFilePrint"), tr("&Print..."), QKeySequence::Print);
+  addSeparator();
+  m_animate = newEntry(*this, QStringLiteral("mnuFileAnimate"), tr("A&nimate..."));
+  m_animateMove = newEntry(*this, QStringLiteral("mnuFileAnimateMove"), tr("Animate &move"));
+  connect(bitmap, &QAction::triggered, &exports, &ExportCommands::exportBitmap);
+  connect(m_exportText, &QAction::triggered, &exports, &ExportCommands::exportText);
+  connect(m_print, &QAction::triggered, &exports, &ExportCommands::print);
 }
 
 void FileMenu::open() {
@@ -48,6 +64,7 @@ void FileMenu::saveAs() {
 
 void FileMenu::showState() {
   m_save->setEnabled(!m_desk.now().readOnly || m_desk.game().FileName.empty());
+  m_animateMove->setEnabled(m_desk.game().Stage == "finished");
 }
 
 }  // namespace orb::ui

@@ -7,18 +7,24 @@
 
 namespace orb::ui {
 
+class ExportCommands;
+
 /// The commands on game files.
 class FileMenu : public QMenu {
   Q_OBJECT
 
  public:
   /// Dialogs come up over the window; Exit closes it.
-  FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory, QWidget* window);
+  FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory, ExportCommands& exports,
+           QWidget* window);
 
   QAction* openEntry() const { return m_open; }
   QAction* saveEntry() const { return m_save; }
+  QAction* exportTextEntry() const { return m_exportText; }
+  QAction* printEntry() const { return m_print; }
 
  private:
+  void addExports(ExportCommands& exports);
   void open();
   void save();
   void saveAs();
@@ -29,6 +35,10 @@ class FileMenu : public QMenu {
   QWidget* m_window;
   QAction* m_open;
   QAction* m_save;
+  QAction* m_exportText;
+  QAction* m_print;
+  QAction* m_animate;
+  QAction* m_animateMove;
 };
 
 }  // namespace orb::ui

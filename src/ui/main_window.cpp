@@ -5,6 +5,8 @@
 #include "render/settings.h"
 #include "ui/adjustments_panel.h"
 #include "ui/controls.h"
+#include "ui/edit_menu.h"
+#include "ui/export_commands.h"
 #include "ui/file_dialogs.h"
 #include "ui/file_menu.h"
 #include "ui/game_menu.h"
@@ -58,11 +60,11 @@ MainWindow::MainWindow(Situation start, const Places& places)
       m_memory(places.config) {
   setAcceptDrops(true);
   setWindowIcon(programIcon());
+  createStatusBar();
   createPanels();
   layOutPanels();
   createMenus();
   createToolbar();
-  createStatusBar();
   restoreSize();
   m_map->draw(m_desk.now());
   m_view->setZoom(m_memory.zoom());
@@ -79,6 +81,11 @@ void MainWindow::createPanels() {
   m_adjustments = new AdjustmentsPanel(m_desk);
   m_seasonFinished = new SeasonFinishedPanel(m_desk);
   m_report = new ReportPanel(m_desk);
+  for (OrderEntryPanel* panel : {m_orders, m_retreats, m_adjustments}) {
+    connect(panel, &OrderEntryPanel::statusText, this, &MainWindow::showStatus);
+    connect(panel, &OrderEntryPanel::helpWanted, this,
+            [this](const QString& topic) { m_helpMenu->showTopic(topic); });
+  }
   connect(m_map, &MapPicture::hovered, this, &MainWindow::showPlace);
   connect(m_view, &MapView::zoomChanged, this, &MainWindow::leaveSpareWidth);
   connect(m_report, &ReportPanel::unitsPicked, m_map, &MapPicture::setMarks);
@@ -114,10 +121,14 @@ void MainWindow::layOutPanels() {
 }
 
 void MainWindow::createMenus() {
-  m_fileMenu = new FileMenu(m_desk, m_messages, m_memory, this);
+  m_exports = new ExportCommands(m_desk, m_messages, this);
+  connect(m_exports, &ExportCommands::noted, this, &MainWindow::showStatus);
+  m_fileMenu = new FileMenu(m_desk, m_messages, m_memory, *m_exports, this);
+  m_editMenu = new EditMenu(*m_exports, m_map, this);
   m_gameMenu = new GameMenu(m_desk, this);
   m_mapMenu = new MapMenu(m_desk, *m_view, this);
   menuBar()->addMenu(m_fileMenu);
+  menuBar()->addMenu(m_editMenu);
   menuBar()->addMenu(m_gameMenu);
   menuBar()->addMenu(m_mapMenu);
   m_helpMenu = new HelpMenu(m_desk, m_messages, this);
@@ -130,6 +141,13 @@ void MainWindow::createToolbar() {
                    m_fileMenu->openEntry());
   tools->addButton(QStringLiteral("butFileSave"), QStringLiteral("save"), tr("Save the game"),
                    m_fileMenu->saveEntry());
+  tools->addSeparator();
+  tools->addButton(QStringLiteral("butEditCopyMap"), QStringLiteral("copy-map"), tr("Copy the map"),
+                   m_editMenu->copyMapEntry());
+  tools->addButton(QStringLiteral("butFileExportText"), QStringLiteral("export-text"),
+                   tr("Export the text report"), m_fileMenu->exportTextEntry());
+  tools->addButton(QStringLiteral("butFilePrint"), QStringLiteral("print"),
+                   tr("Print the map and the report"), m_fileMenu->printEntry());
   tools->addSeparator();
   tools->addButton(QStringLiteral("butMapZoomIn"), QStringLiteral("zoom-in"), tr("Enlarge the map"),
                    m_mapMenu->zoomIn());
@@ -233,14 +251,20 @@ void MainWindow::showStagePanel() {
   m_tabs->setCurrentIndex(m_desk.game().ReportLines.Count() > 0 ? 1 : 0);
   m_map->setTool(nullptr);
   for (const auto& [stage, panel] : entryPanels) {
-    if (stage == shownStage) return panel->startEntry();
+    if (stage != shownStage || editing != Editing::None) continue;
+    m_map->setTool(panel);
+    return panel->startEntry();
   }
   // Not the button: an Enter too many would drop the report unread.
   m_report->startReading();
 }
 
+void MainWindow::showStatus(const QString& text) {
+  m_status->setText(text);
+}
+
 void MainWindow::showPlace(int location) {
-  m_status->setText(placeText(m_desk.game(), location));
+  showStatus(placeText(m_desk.game(), location));
 }
 
 /// What the fitted map cannot use goes to the column.

@@ -15,7 +15,9 @@ class QTabWidget;
 
 namespace orb::ui {
 
+class EditMenu;
 class ElidedLabel;
+class ExportCommands;
 class FileMenu;
 class GameMenu;
 class HelpMenu;
@@ -51,6 +53,7 @@ class MainWindow : public QMainWindow {
   void showGame();
   void showViewOnly();
   void showStagePanel();
+  void showStatus(const QString& text);
   void showPlace(int location);
   void leaveSpareWidth();
 
@@ -67,7 +70,9 @@ class MainWindow : public QMainWindow {
   SeasonFinishedPanel* m_seasonFinished = nullptr;
   QTabWidget* m_tabs = nullptr;
   ReportPanel* m_report = nullptr;
+  ExportCommands* m_exports = nullptr;
   FileMenu* m_fileMenu = nullptr;
+  EditMenu* m_editMenu = nullptr;
   GameMenu* m_gameMenu = nullptr;
   HelpMenu* m_helpMenu = nullptr;
   MapMenu* m_mapMenu = nullptr;
