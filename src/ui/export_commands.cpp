@@ -51,7 +51,7 @@ QByteArray encoded(const QImage& picture, const char* format) {
 fs::path writeScratchFile(const model::GameState& game) {
   const char* name = "orb_text.tmp";
   std::error_code error;
-  const fs::path workingFile = fs::current_path(error) / name;
+  fs::path workingFile = fs::current_path(error) / name;
   try {
     render::WriteTextReport(game, workingFile);
     return workingFile;
