@@ -18,6 +18,9 @@ namespace {
 constexpr std::size_t HeaderSize = 54;
 constexpr int LargestSide = 20000;
 
+/// From a ship's middle to its bow, as a fraction of the map's width.
+constexpr double ShipReach = 0.011;
+
 /// Reads numbers of a header known to be long enough.
 std::uint32_t Number(std::string_view bytes, std::size_t at, int size) {
   std::uint32_t number = 0;
@@ -116,11 +119,33 @@ int HitMap::PixelAt(Point point) const {
 }
 
 int HitMap::LocationAt(const model::Map& map, Point point, std::string_view unitType) const {
+  return AsSeenBy(map, PlaceAt(map, point), point, unitType);
+}
+
+int HitMap::LocationAt(const model::GameState& game, Point point, std::string_view unitType) const {
+  const int coast = CoastWithShipAt(game, point);
+  return AsSeenBy(*game.Map, coast != 0 ? coast : PlaceAt(*game.Map, point), point, unitType);
+}
+
+int HitMap::PlaceAt(const model::Map& map, Point point) const {
   const bool inside = point.X >= 0 && point.X <= 1 && point.Y >= 0 && point.Y <= 1;
   if (!inside) return 0;
-  const int hit = pixels_.empty()
-                      ? Nearest(map, point, aspect_, [](const model::Province&) { return true; })
-                      : PixelAt(point);
+  return pixels_.empty() ? Nearest(map, point, aspect_, [](const model::Province&) { return true; })
+                         : PixelAt(point);
+}
+
+int HitMap::CoastWithShipAt(const model::GameState& game, Point point) const {
+  const double reach = ShipReach * aspect_;
+  for (const model::Unit& unit : game.Units) {
+    const int row = model::FindProvince(*game.Map, unit.Location);
+    if (row == 0 || !unit.Status.empty() || !IsCoast(game.Map->Provinces[row])) continue;
+    const model::Province& coast = game.Map->Provinces[row];
+    if (SquareDistance(point, {coast.UnitX, coast.UnitY}, aspect_) <= reach * reach) return row;
+  }
+  return 0;
+}
+
+int HitMap::AsSeenBy(const model::Map& map, int hit, Point point, std::string_view unitType) const {
   if (hit == 0) return 0;
   const std::string& name = map.Provinces[hit].Name;
   const bool forFleet = unitType == "F";

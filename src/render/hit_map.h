@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/map.h"
+#include "model/game_state.h"
 #include "render/surface.h"
 
 #include <cstdint>
@@ -27,8 +27,15 @@ class HitMap {
   /// anything else the province itself.
   int LocationAt(const model::Map& map, Point point, std::string_view unitType) const;
 
+  /// The same for a map with units on it: a fleet on a coast is drawn beside the land, and where
+  /// its ship is, the coast is meant.
+  int LocationAt(const model::GameState& game, Point point, std::string_view unitType) const;
+
  private:
+  int PlaceAt(const model::Map& map, Point point) const;
   int PixelAt(Point point) const;
+  int CoastWithShipAt(const model::GameState& game, Point point) const;
+  int AsSeenBy(const model::Map& map, int hit, Point point, std::string_view unitType) const;
 
   double aspect_ = 1;
   int width_ = 0, height_ = 0;
