@@ -228,8 +228,8 @@ void OrderEntryPanel::editSelectedOrder() {
   focusText();
 }
 
-std::string locationAt(const MapSpot& spot, std::string_view unitType) {
-  const int row = spot.locationFor(unitType);
+std::string OrderEntryPanel::locationAt(const MapSpot& spot, std::string_view unitType) const {
+  const int row = spot.hitMap.LocationAt(game(), spot.point, unitType);
   return row == 0 ? std::string() : spot.map.Provinces[row].Name;
 }
 

@@ -66,6 +66,9 @@ class OrderEntryPanel : public QWidget, public MapTool {
   /// Shows a line that is to be written on.
   void write(const std::string& line);
 
+  /// Abbreviation of the location at the spot as a unit of this type sees it; empty for none.
+  std::string locationAt(const MapSpot& spot, std::string_view unitType) const;
+
   QPushButton* addCommand(const EntryCommand& command);
 
   /// Adds a control behind the commands.
@@ -114,8 +117,5 @@ class OrderEntryPanel : public QWidget, public MapTool {
   QWidget* m_lastCommand;
   int m_commandCount = 0;
 };
-
-/// Abbreviation of the location at the spot as a unit of this type sees it; empty for none.
-std::string locationAt(const MapSpot& spot, std::string_view unitType);
 
 }  // namespace orb::ui
