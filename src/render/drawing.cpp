@@ -9,6 +9,18 @@ void SetPens(Surface& surface) {
   surface.DrawWidth = 1;
 }
 
+const model::Province& PlaceOf(const model::Map& map, std::string_view location) {
+  return map.Provinces[model::FindProvince(map, location)];
+}
+
+Point LabelPoint(const model::Province& province) {
+  return {province.LabelX, province.LabelY};
+}
+
+Point UnitPoint(const model::Province& province) {
+  return {province.UnitX, province.UnitY};
+}
+
 Point OnSurface(const Surface& surface, Point fraction) {
   return {fraction.X * surface.ScaleWidth(), fraction.Y * surface.ScaleHeight()};
 }
@@ -20,7 +32,7 @@ void PrintAt(Surface& surface, Point corner, std::string_view text) {
 }
 
 Point CentreDot(const Surface& surface, const model::Province& province) {
-  const Point label = OnSurface(surface, {province.LabelX, province.LabelY});
+  const Point label = OnSurface(surface, LabelPoint(province));
   return {label.X, label.Y + 0.6 * surface.TextHeight(province.Name)};
 }
 

@@ -16,13 +16,6 @@ using model::Unit;
 /// A supply centre's dot, in twips.
 constexpr double DotRadius = 45;
 
-Point LabelPoint(const model::Province& province) {
-  return {province.LabelX, province.LabelY};
-}
-Point UnitPoint(const model::Province& province) {
-  return {province.UnitX, province.UnitY};
-}
-
 /// A coast shows its letter only.
 std::string_view LabelText(std::string_view name) {
   return name.find('.') == std::string_view::npos ? name : name.substr(name.size() - 1);
@@ -107,10 +100,6 @@ const Unit* FindAttacker(const GameState& game, const Unit& dislodged) {
   return attacker;
 }
 
-const model::Province& ProvinceOf(const GameState& game, std::string_view location) {
-  return game.Map->Provinces[model::FindProvince(*game.Map, location)];
-}
-
 /// Old game files do not tell where a unit was dislodged from: no line then.
 void DrawAttackLines(Surface& surface, const GameState& game, MapMode mode) {
   for (const Unit& unit : game.Units) {
@@ -119,8 +108,8 @@ void DrawAttackLines(Surface& surface, const GameState& game, MapMode mode) {
     const Unit* attacker = FindAttacker(game, unit);
     if (attacker == nullptr) continue;
     const int power = model::FindCountry(attacker->Power);
-    DrawMoveLine(surface, UnitPoint(ProvinceOf(game, unit.DislodgedFrom)),
-                 UnitPoint(ProvinceOf(game, attacker->Location)),
+    DrawMoveLine(surface, UnitPoint(PlaceOf(*game.Map, unit.DislodgedFrom)),
+                 UnitPoint(PlaceOf(*game.Map, attacker->Location)),
                  InColour(mode) ? game.Countries[power].Colour : Black);
   }
 }
@@ -129,11 +118,10 @@ void DrawUnits(Surface& surface, const GameState& game, MapMode mode, bool dislo
   const SymbolStyle style{game.Countries, mode};
   for (const Unit& unit : game.Units) {
     const int power = model::FindCountry(unit.Power);
-    const model::Province& province = ProvinceOf(game, unit.Location);
+    const model::Province& province = PlaceOf(*game.Map, unit.Location);
     if (unit.Status != (dislodged ? model::Dislodged : std::string_view{})) continue;
-    const auto draw = unit.UnitType == "A" ? DrawArmy : DrawFleet;
-    draw(surface, style, dislodged ? LabelPoint(province) : UnitPoint(province), power,
-         dislodged ? 0.75 : 1.0);
+    DrawUnit(surface, style, unit.UnitType, dislodged ? LabelPoint(province) : UnitPoint(province),
+             power, dislodged ? DislodgedScale : 1.0);
   }
 }
 
@@ -212,8 +200,8 @@ std::filesystem::path BackgroundFile(const std::filesystem::path& dataDirectory,
   return dataDirectory / (mode == MapMode::Grey ? "mapgrey.bmp" : "mapbw.bmp");
 }
 
-void RenderMap(const GameState& game, const MapOptions& options,
-               const std::filesystem::path& dataDirectory, Surface& surface) {
+void DrawBelowUnits(const GameState& game, const MapOptions& options,
+                    const std::filesystem::path& dataDirectory, Surface& surface) {
   surface.LoadPicture(BackgroundFile(dataDirectory, options.Mode));
   SetPens(surface);
   SetFont(surface);
@@ -223,12 +211,22 @@ void RenderMap(const GameState& game, const MapOptions& options,
     DrawStandoffMarkers(surface, game);
     DrawAttackLines(surface, game, options.Mode);
   }
-  DrawUnits(surface, game, options.Mode, false);
-  DrawUnits(surface, game, options.Mode, true);
+}
+
+void DrawAboveUnits(const GameState& game, const MapOptions& options, Surface& surface) {
+  SetFont(surface);
   if (options.ShowCentreOwners) DrawCentreOwners(surface, game, options.Mode);
   if (options.ShowCentreCount) {
     InColour(options.Mode) ? DrawColourLegend(surface, game) : DrawPlainLegend(surface, game);
   }
+}
+
+void RenderMap(const GameState& game, const MapOptions& options,
+               const std::filesystem::path& dataDirectory, Surface& surface) {
+  DrawBelowUnits(game, options, dataDirectory, surface);
+  DrawUnits(surface, game, options.Mode, false);
+  DrawUnits(surface, game, options.Mode, true);
+  DrawAboveUnits(game, options, surface);
 }
 
 }  // namespace orb::render

@@ -30,4 +30,12 @@ std::filesystem::path BackgroundFile(const std::filesystem::path& dataDirectory,
 void RenderMap(const model::GameState& game, const MapOptions& options,
                const std::filesystem::path& dataDirectory, Surface& surface);
 
+/// What RenderMap draws before the units: background, labels, captions, marks of the retreats
+/// stage. Throws FileError as RenderMap does.
+void DrawBelowUnits(const model::GameState& game, const MapOptions& options,
+                    const std::filesystem::path& dataDirectory, Surface& surface);
+
+/// What RenderMap draws over the units: centre owners and the legend.
+void DrawAboveUnits(const model::GameState& game, const MapOptions& options, Surface& surface);
+
 }  // namespace orb::render

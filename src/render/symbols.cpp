@@ -192,6 +192,12 @@ void DrawFleet(Surface& surface, const SymbolStyle& style, Point at, int power, 
   SetPens(surface);
 }
 
+void DrawUnit(Surface& surface, const SymbolStyle& style, std::string_view unitType, Point at,
+              int power, double scale) {
+  const auto draw = unitType == "A" ? DrawArmy : DrawFleet;
+  draw(surface, style, at, power, scale);
+}
+
 void DrawMoveLine(Surface& surface, Point from, Point to, Colour colour) {
   surface.ForeColour = colour;
   surface.DrawWidth = 5;

@@ -4,10 +4,15 @@
 #include "render/map_view.h"
 #include "render/surface.h"
 
+#include <string_view>
+
 // The symbols of the map. Points are fractions of the surface's width and height; a power is its
 // row 1..7. Each leaves pen width 1, black pen and solid black filling behind.
 
 namespace orb::render {
+
+/// The scale of a unit that is dislodged; the others' is 1.
+constexpr double DislodgedScale = 0.75;
 
 /// What a unit's looks depend on beside its power.
 struct SymbolStyle {
@@ -20,6 +25,10 @@ void DrawArmy(Surface& surface, const SymbolStyle& style, Point at, int power, d
 
 /// A fleet: a ship reaching 160 twips times the scale to either side.
 void DrawFleet(Surface& surface, const SymbolStyle& style, Point at, int power, double scale);
+
+/// An army for the unit type "A", for anything else a fleet.
+void DrawUnit(Surface& surface, const SymbolStyle& style, std::string_view unitType, Point at,
+              int power, double scale);
 
 /// The way of an attack.
 void DrawMoveLine(Surface& surface, Point from, Point to, model::Colour colour);
