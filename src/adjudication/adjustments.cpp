@@ -2,8 +2,8 @@
 
 #include "adjudication/stages.h"
 #include "model/text.h"
+#include "orders/later_stages.h"
 #include "orders/lookups.h"
-#include "orders/parser.h"
 
 #include <algorithm>
 #include <utility>
@@ -23,23 +23,13 @@ bool IsBuild(const OrderLine& order) {
 void ParseAdjustmentOrders(OrderTable& table) {
   std::string work;
   for (OrderLine& order : table) {
-    orders::FieldCutter fields(order.Text, work);
-    order.Power = model::UpperCase(fields.UpTo(' '));
-    order.Kind = model::UpperCase(fields.UpTo(' '));
-    order.UnitType = fields.UpTo('(');
-    order.Location = fields.UpTo(')');
+    orders::ParseAdjustment(order, work);
   }
-}
-
-bool IsWellFormed(const model::Map& map, const OrderLine& order) {
-  return model::FindCountry(order.Power) != 0 && (order.UnitType == "F" || order.UnitType == "A") &&
-         model::FindProvince(map, order.Location) != 0 &&
-         (order.Kind == "DISBAND" || IsBuild(order));
 }
 
 bool CheckAdjustmentSyntax(const model::Map& map, OrderTable& table, Messages& messages) {
   for (OrderLine& order : table) {
-    if (IsWellFormed(map, order)) continue;
+    if (orders::FindAdjustmentFault(map, order) == orders::SyntaxFault::None) continue;
     orders::Reject(order, "syntax error");
     if (!messages.Warn(model::WarningText(order.Text, "syntax error."))) return false;
   }

@@ -49,19 +49,6 @@ std::string RetreatText(const model::Map& map, const Resolution& resolution, int
                                     : "It was disbanded as ordered";
 }
 
-/// The first order that no room was left to carry out, and none after it was; behind the last order
-/// when there was room for all.
-int FirstNotCarriedOut(const Resolution& resolution) {
-  int units = resolution.UnitsBefore.Count();
-  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
-    const OrderLine& order = resolution.Orders[k];
-    if (!order.Active) continue;
-    units += order.Kind == "BUILD" ? 1 : -1;
-    if (units > model::UnitBound) return k;
-  }
-  return resolution.Orders.Count() + 1;
-}
-
 std::string DoneText(int built, int removed) {
   std::string text;
   if (built != 0) text = "built " + std::to_string(built);
@@ -149,6 +136,17 @@ std::string AdjustmentText(const model::GameState& after, const Resolution& reso
 }
 
 }  // namespace
+
+int FirstNotCarriedOut(const Resolution& resolution) {
+  int units = resolution.UnitsBefore.Count();
+  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
+    const OrderLine& order = resolution.Orders[k];
+    if (!order.Active) continue;
+    units += order.Kind == "BUILD" ? 1 : -1;
+    if (units > model::UnitBound) return k;
+  }
+  return resolution.Orders.Count() + 1;
+}
 
 std::string ExplainRetreat(const model::GameState& after, const Resolution& resolution, int order) {
   return RetreatText(*after.Map, resolution, order) + ".";

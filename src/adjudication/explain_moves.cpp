@@ -116,7 +116,7 @@ Account SupportText(const Resolution& resolution, int order) {
 }
 
 Account HoldText(const Resolution& resolution, int order) {
-  const bool unordered = resolution.Orders[order].Text.ends_with(" unordered; hold");
+  const bool unordered = resolution.Orders[order].Text.ends_with(orders::UnorderedHold);
   if (WasDislodged(resolution, order)) {
     if (unordered) return {"It had no order"};
     return {"It " + DislodgedBy(resolution, order), true};

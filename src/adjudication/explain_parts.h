@@ -60,4 +60,8 @@ int DislodgerOfUnit(const Resolution& resolution, int order);
 /// "strength 2 (supported by X) beats its strength 1": how the order's unit was dislodged.
 std::string DislodgingStrengths(const Resolution& resolution, int order);
 
+/// The first adjustment that no room was left to carry out, and none after it was; behind the last
+/// order when there was room for all.
+int FirstNotCarriedOut(const Resolution& resolution);
+
 }  // namespace orb::adjudication

@@ -2,8 +2,8 @@
 
 #include "adjudication/stages.h"
 #include "model/text.h"
+#include "orders/later_stages.h"
 #include "orders/lookups.h"
-#include "orders/parser.h"
 
 #include <algorithm>
 #include <utility>
@@ -24,25 +24,13 @@ bool IsRetreat(const OrderLine& order) {
 void ParseRetreatOrders(OrderTable& table) {
   std::string work;
   for (OrderLine& order : table) {
-    orders::FieldCutter fields(order.Text, work);
-    order.Power = fields.UpTo(' ');
-    order.UnitType = fields.UpTo('(');
-    order.Location = fields.UpTo(')');
-    order.Kind = model::UpperCase(fields.UpTo(' '));
-    if (IsRetreat(order)) order.Target = fields.UpTo(' ');
+    orders::ParseRetreat(order, work);
   }
-}
-
-bool IsWellFormed(const model::Map& map, const OrderLine& order) {
-  return model::FindCountry(order.Power) != 0 && (order.UnitType == "F" || order.UnitType == "A") &&
-         model::FindProvince(map, order.Location) != 0 &&
-         (order.Kind == "DISBAND" ||
-          (IsRetreat(order) && model::FindProvince(map, order.Target) != 0));
 }
 
 bool CheckRetreatSyntax(const model::Map& map, OrderTable& table, Messages& messages) {
   for (OrderLine& order : table) {
-    if (IsWellFormed(map, order)) continue;
+    if (orders::FindRetreatFault(map, order) == orders::SyntaxFault::None) continue;
     orders::Reject(order, "syntax error");
     if (!messages.Warn(model::WarningText(order.Text, "syntax error."))) return false;
   }

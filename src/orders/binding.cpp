@@ -52,7 +52,7 @@ bool FindUnitsOfOrders(const GameState& game, OrderTable& orders, Messages& mess
 
 void AppendHold(const std::string& unitText, Unit& unit, int unitIndex, OrderTable& orders) {
   OrderLine& order = orders.Append();
-  order.Text = unitText + " unordered; hold";
+  order.Text.assign(unitText).append(UnorderedHold);
   order.Power = unit.Power;
   order.UnitType = unit.UnitType;
   order.Location = unit.Location;

@@ -4,7 +4,12 @@
 #include "model/messages.h"
 #include "orders/order_line.h"
 
+#include <string_view>
+
 namespace orb::orders {
+
+/// How the text of the hold order ends that a unit without an order is given.
+constexpr std::string_view UnorderedHold = " unordered; hold";
 
 /// Ties each order to its unit, gives every unit without an order a hold order at the end of the
 /// table, and links each support and convoy to the order it refers to. False when the user does

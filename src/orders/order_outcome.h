@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orders/order_line.h"
+
 #include <cstdint>
 #include <string>
 
@@ -25,6 +27,10 @@ struct OrderOutcome {
   std::string Destination;    ///< of the move, also the supported or convoyed one; else empty
   bool ViaConvoy = false;     ///< the move is carried by a fleet
   orders::Outcome Outcome = Outcome::Entered;
+  bool Unordered = false;  ///< nobody wrote it: the unit holds or disbands for want of an order
 };
+
+/// What an order says, with the given outcome; what could not be read stays as it was cut.
+OrderOutcome OutcomeOf(const OrderLine& order, Outcome outcome);
 
 }  // namespace orb::orders

@@ -31,17 +31,6 @@ void ParseConvoy(FieldCutter& fields, OrderLine& order) {
   order.Target2 = fields.UpTo(' ');
 }
 
-void ParseOrder(OrderLine& order, std::string& work) {
-  FieldCutter fields(order.Text, work);
-  order.Power = fields.UpTo(' ');
-  order.UnitType = fields.UpTo('(');
-  order.Location = fields.UpTo(')');
-  order.Kind = model::UpperCase(fields.UpTo(' '));
-  if (IsMove(order)) order.Target = fields.UpTo(' ');
-  if (IsSupport(order)) ParseSupport(fields, order);
-  if (IsConvoy(order)) ParseConvoy(fields, order);
-}
-
 bool IsUnitType(std::string_view type) {
   return type == "F" || type == "A";
 }
@@ -103,6 +92,17 @@ void SetOrderTexts(std::vector<std::string> lines, OrderTable& orders) {
     }
     order.Active = true;
   }
+}
+
+void ParseOrder(OrderLine& order, std::string& work) {
+  FieldCutter fields(order.Text, work);
+  order.Power = fields.UpTo(' ');
+  order.UnitType = fields.UpTo('(');
+  order.Location = fields.UpTo(')');
+  order.Kind = model::UpperCase(fields.UpTo(' '));
+  if (IsMove(order)) order.Target = fields.UpTo(' ');
+  if (IsSupport(order)) ParseSupport(fields, order);
+  if (IsConvoy(order)) ParseConvoy(fields, order);
 }
 
 void ParseOrders(OrderTable& orders) {

@@ -41,7 +41,10 @@ class FieldCutter {
 /// active; all else is empty. Throws IndexOutOfRange beyond 80 lines.
 void SetOrderTexts(std::vector<std::string> lines, OrderTable& orders);
 
-/// Fills the fields of every order of the moves stage from its text.
+/// Fills the fields of an order of the moves stage from its text; `work` as in FieldCutter.
+void ParseOrder(OrderLine& order, std::string& work);
+
+/// The same for every order.
 void ParseOrders(OrderTable& orders);
 
 /// The first rule of the text form that an order of the moves stage breaks.
