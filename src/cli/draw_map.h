@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace orb::cli {
 
@@ -18,6 +19,7 @@ struct MapRequest {
   int PixelWidth = 0;  ///< 0: the background picture's own
   std::filesystem::path Picture;
   render::MapFormat Format;
+  std::vector<orders::OrderOutcome> Orders;  ///< drawn on the map
 };
 
 /// The name of the module's file, in the directory of the program.

@@ -1,14 +1,17 @@
 #include "cli/command.h"
 #include "cli/draw_map.h"
 #include "cli/games.h"
+#include "model/errors.h"
+#include "orders/entered_orders.h"
 
 #include <charconv>
 
 namespace orb::cli {
 namespace {
 
-constexpr std::array Options{OptionId::Mode,         OptionId::CentreCount, OptionId::Borders,
-                             OptionId::CentreOwners, OptionId::Width,       OptionId::Output};
+constexpr std::array Options{OptionId::Orders,  OptionId::Mode,         OptionId::CentreCount,
+                             OptionId::Borders, OptionId::CentreOwners, OptionId::Width,
+                             OptionId::Output};
 
 render::MapFormat Format(const std::filesystem::path& picture) {
   const auto format = render::FormatOf(picture);
@@ -38,6 +41,15 @@ int PixelWidth(const CommandLine& line) {
   return width;
 }
 
+/// Without the option not even the orders of the game file are drawn: maps go to all players.
+std::vector<orders::OrderOutcome> OrdersToDraw(model::GameState& game, const GamePaths& paths) {
+  if (game.Stage == "finished") {
+    throw model::FatalError("There are no orders to draw in the stage \"finished\".");
+  }
+  TakeOrders(game, paths);
+  return orders::EnteredOrders(game);
+}
+
 int Execute(const CommandLine& line, Console& console) {
   const std::filesystem::path picture = *line.Value(OptionId::Output);
   const render::MapFormat format = Format(picture);
@@ -45,11 +57,13 @@ int Execute(const CommandLine& line, Console& console) {
   const render::MapOptions options{Mode(line), line.Has(OptionId::CentreCount),
                                    line.Has(OptionId::Borders), line.Has(OptionId::CentreOwners)};
   const std::filesystem::path data = DataDirectory(line);
-  return ForEachGame(line, console, PlanPaths(line),
-                     [&](const model::GameState& game, const GamePaths& /*paths*/) {
-                       DrawMap({game, options, data, width, picture, format});
-                       return true;
-                     });
+  return ForEachGame(
+      line, console, PlanPaths(line), [&](model::GameState& game, const GamePaths& paths) {
+        const auto drawn = line.Has(OptionId::Orders) ? OrdersToDraw(game, paths)
+                                                      : std::vector<orders::OrderOutcome>{};
+        DrawMap({game, options, data, width, picture, format, drawn});
+        return true;
+      });
 }
 
 }  // namespace

@@ -31,6 +31,17 @@ void PrintAt(Surface& surface, Point corner, std::string_view text) {
   surface.Print(text);
 }
 
+std::string_view LabelText(const model::Province& province) {
+  const std::string_view name = province.Name;
+  return name.find('.') == std::string_view::npos ? name : name.substr(name.size() - 1);
+}
+
+Point LabelCorner(const Surface& surface, const model::Province& province) {
+  const std::string_view label = LabelText(province);
+  const Point centre = OnSurface(surface, LabelPoint(province));
+  return {centre.X - surface.TextWidth(label) / 2, centre.Y - surface.TextHeight(label) / 2};
+}
+
 Point CentreDot(const Surface& surface, const model::Province& province) {
   const Point label = OnSurface(surface, LabelPoint(province));
   return {label.X, label.Y + 0.6 * surface.TextHeight(province.Name)};

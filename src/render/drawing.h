@@ -31,6 +31,15 @@ Point OnSurface(const Surface& surface, Point fraction);
 /// Writes a text whose top left corner is given.
 void PrintAt(Surface& surface, Point corner, std::string_view text);
 
+/// What a place's label says: a coast shows its letter only.
+std::string_view LabelText(const model::Province& province);
+
+/// The top left corner of a place's label.
+Point LabelCorner(const Surface& surface, const model::Province& province);
+
+/// A supply centre's dot, in twips.
+constexpr double DotRadius = 45;
+
 /// The middle of a supply centre's dot, just below the label.
 Point CentreDot(const Surface& surface, const model::Province& province);
 

@@ -3,23 +3,20 @@
 #include "model/text.h"
 #include "orders/lookups.h"
 #include "render/drawing.h"
+#include "render/order_drawing.h"
 #include "render/symbols.h"
 
+#include <algorithm>
+#include <array>
 #include <string>
+#include <vector>
 
 namespace orb::render {
 namespace {
 
 using model::GameState;
 using model::Unit;
-
-/// A supply centre's dot, in twips.
-constexpr double DotRadius = 45;
-
-/// A coast shows its letter only.
-std::string_view LabelText(std::string_view name) {
-  return name.find('.') == std::string_view::npos ? name : name.substr(name.size() - 1);
-}
+using Orders = std::span<const orders::OrderOutcome>;
 
 void SetFont(Surface& surface) {
   surface.FontSize = 8;
@@ -39,10 +36,8 @@ void DrawOwnerBox(Surface& surface, Point corner, std::string_view label, model:
 
 void DrawLabel(Surface& surface, const GameState& game, const MapOptions& options, int row) {
   const model::Province& province = game.Map->Provinces[row];
-  const std::string_view label = LabelText(province.Name);
-  const Point centre = OnSurface(surface, LabelPoint(province));
-  const Point corner = {centre.X - surface.TextWidth(label) / 2,
-                        centre.Y - surface.TextHeight(label) / 2};
+  const std::string_view label = LabelText(province);
+  const Point corner = LabelCorner(surface, province);
   PrintAt(surface, corner, label);
   if (province.IsSupplyCentre == 0) return;
   const int owner = model::FindCountry(game.Provinces[row].Owner);
@@ -50,6 +45,22 @@ void DrawLabel(Surface& surface, const GameState& game, const MapOptions& option
     DrawOwnerBox(surface, corner, label, game.Countries[owner].Colour);
   }
   surface.Circle(CentreDot(surface, province), DotRadius);
+}
+
+/// Over the lines of orders, from which a light seam keeps the letters and the dot apart.
+void DrawLabelAgain(Surface& surface, const GameState& game, const MapOptions& options, int row) {
+  const model::Province& province = game.Map->Provinces[row];
+  constexpr std::array<Point, 8> around = {
+      {{-18, 0}, {18, 0}, {0, -18}, {0, 18}, {-13, -13}, {13, -13}, {-13, 13}, {13, 13}}};
+  const Point corner = LabelCorner(surface, province);
+  surface.ForeColour = White;
+  surface.FillColour = White;
+  for (const Point& shift : around) {
+    PrintAt(surface, {corner.X + shift.X, corner.Y + shift.Y}, LabelText(province));
+  }
+  if (province.IsSupplyCentre != 0) surface.Circle(CentreDot(surface, province), DotRadius + 12);
+  SetPens(surface);
+  DrawLabel(surface, game, options, row);
 }
 
 void DrawLabelsAndCentres(Surface& surface, const GameState& game, const MapOptions& options) {
@@ -100,11 +111,20 @@ const Unit* FindAttacker(const GameState& game, const Unit& dislodged) {
   return attacker;
 }
 
+/// Whether the attack is drawn as an order.
+bool IsAmong(const Orders& orders, const Unit& dislodged) {
+  return std::ranges::any_of(orders, [&dislodged](const orders::OrderOutcome& order) {
+    return order.Kind == "-" && order.Outcome == orders::Outcome::Succeeded &&
+           order.Location == dislodged.DislodgedFrom &&
+           model::SamePlace(order.Destination, dislodged.Location);
+  });
+}
+
 /// Old game files do not tell where a unit was dislodged from: no line then.
-void DrawAttackLines(Surface& surface, const GameState& game, MapMode mode) {
+void DrawAttackLines(Surface& surface, const GameState& game, MapMode mode, const Orders& orders) {
   for (const Unit& unit : game.Units) {
     if (unit.Status != model::Dislodged || unit.DislodgedFrom.empty()) continue;
-    if (orders::FindUnitAt(game, unit.DislodgedFrom) != 0) continue;
+    if (orders::FindUnitAt(game, unit.DislodgedFrom) != 0 || IsAmong(orders, unit)) continue;
     const Unit* attacker = FindAttacker(game, unit);
     if (attacker == nullptr) continue;
     const int power = model::FindCountry(attacker->Power);
@@ -193,6 +213,26 @@ void DrawColourLegend(Surface& surface, const GameState& game) {
   SetPens(surface);
 }
 
+/// Nothing is worked out for a map without orders.
+std::vector<LabelBoxes> BoxesToKeepClear(const Surface& surface, const GameState& game,
+                                         const Orders& orders) {
+  return orders.empty() ? std::vector<LabelBoxes>{} : LabelBoxesOf(surface, *game.Map);
+}
+
+void DrawGround(const GameState& game, const MapOptions& options,
+                const std::filesystem::path& dataDirectory, Surface& surface,
+                const Orders& orders) {
+  surface.LoadPicture(BackgroundFile(dataDirectory, options.Mode));
+  SetPens(surface);
+  SetFont(surface);
+  DrawLabelsAndCentres(surface, game, options);
+  DrawCaptions(surface, game);
+  if (game.Stage == "retreats") {
+    DrawStandoffMarkers(surface, game);
+    DrawAttackLines(surface, game, options.Mode, orders);
+  }
+}
+
 }  // namespace
 
 std::filesystem::path BackgroundFile(const std::filesystem::path& dataDirectory, MapMode mode) {
@@ -202,15 +242,7 @@ std::filesystem::path BackgroundFile(const std::filesystem::path& dataDirectory,
 
 void DrawBelowUnits(const GameState& game, const MapOptions& options,
                     const std::filesystem::path& dataDirectory, Surface& surface) {
-  surface.LoadPicture(BackgroundFile(dataDirectory, options.Mode));
-  SetPens(surface);
-  SetFont(surface);
-  DrawLabelsAndCentres(surface, game, options);
-  DrawCaptions(surface, game);
-  if (game.Stage == "retreats") {
-    DrawStandoffMarkers(surface, game);
-    DrawAttackLines(surface, game, options.Mode);
-  }
+  DrawGround(game, options, dataDirectory, surface, {});
 }
 
 void DrawAboveUnits(const GameState& game, const MapOptions& options, Surface& surface) {
@@ -222,10 +254,17 @@ void DrawAboveUnits(const GameState& game, const MapOptions& options, Surface& s
 }
 
 void RenderMap(const GameState& game, const MapOptions& options,
-               const std::filesystem::path& dataDirectory, Surface& surface) {
-  DrawBelowUnits(game, options, dataDirectory, surface);
+               const std::filesystem::path& dataDirectory, Surface& surface,
+               std::span<const orders::OrderOutcome> orders) {
+  DrawGround(game, options, dataDirectory, surface, orders);
+  const std::vector<LabelBoxes> labels = BoxesToKeepClear(surface, game, orders);
+  const std::vector<OrderRoute> routes = RoutesOf(surface, game, orders, labels);
+  DrawOrdersBelowUnits(surface, game, routes, options.Mode);
+  for (const int row : LabelsUnder(routes, labels))
+    DrawLabelAgain(surface, game, options, row);
   DrawUnits(surface, game, options.Mode, false);
   DrawUnits(surface, game, options.Mode, true);
+  DrawOrdersAboveUnits(surface, game, routes, options.Mode);
   DrawAboveUnits(game, options, surface);
 }
 

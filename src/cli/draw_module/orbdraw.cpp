@@ -18,7 +18,7 @@ extern "C" bool OrbDrawMap(const orb::cli::MapRequest& request, std::string& err
     const QGuiApplication application(argc, argv);
     render::PictureCache pictures;
     render::SaveMap(request.Game, request.Options, request.DataDirectory, request.PixelWidth,
-                    pictures, request.Picture, request.Format);
+                    pictures, request.Picture, request.Format, request.Orders);
     return true;
   } catch (const std::exception& failure) {
     error = failure.what();

@@ -23,10 +23,12 @@ struct Job {
   PictureCache& Pictures;
   QSize Pixels;
   double PixelsPerInch;
+  std::span<const orders::OrderOutcome> Orders;
 };
 
 Job Plan(const model::GameState& game, const MapOptions& options,
-         const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures) {
+         const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures,
+         std::span<const orders::OrderOutcome> orders) {
   if (pixelWidth < 0 || pixelWidth > MaxPixelWidth) {
     throw model::FileError("The map cannot be " + std::to_string(pixelWidth) +
                            " pixels wide; expected 1 to " + std::to_string(MaxPixelWidth) +
@@ -36,11 +38,12 @@ Job Plan(const model::GameState& game, const MapOptions& options,
   const int width = pixelWidth == 0 ? picture.width() : pixelWidth;
   const int height =
       std::max(1, qRound(static_cast<double>(width) * picture.height() / picture.width()));
-  return {game, options, dataDirectory, pictures, QSize(width, height), Resolution(picture)};
+  return {game,  options, dataDirectory, pictures, QSize(width, height), Resolution(picture),
+          orders};
 }
 
 void Draw(const Job& job, QPainter& painter, const QRectF& target) {
-  PaintMap(job.Game, job.Options, job.DataDirectory, job.Pictures, painter, target);
+  PaintMap(job.Game, job.Options, job.DataDirectory, job.Pictures, painter, target, job.Orders);
 }
 
 QImage DrawImage(const Job& job) {
@@ -84,23 +87,24 @@ void WritePdf(const Job& job, QBuffer& buffer) {
 }  // namespace
 
 QImage MapImage(const model::GameState& game, const MapOptions& options,
-                const std::filesystem::path& dataDirectory, int pixelWidth,
-                PictureCache& pictures) {
-  return DrawImage(Plan(game, options, dataDirectory, pixelWidth, pictures));
+                const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures,
+                std::span<const orders::OrderOutcome> orders) {
+  return DrawImage(Plan(game, options, dataDirectory, pixelWidth, pictures, orders));
 }
 
 void PaintMap(const model::GameState& game, const MapOptions& options,
               const std::filesystem::path& dataDirectory, PictureCache& pictures, QPainter& painter,
-              const QRectF& target) {
+              const QRectF& target, std::span<const orders::OrderOutcome> orders) {
   const QImage& picture = pictures.Picture(BackgroundFile(dataDirectory, options.Mode));
   PainterSurface surface(painter, target, NaturalSize(picture), pictures);
-  RenderMap(game, options, dataDirectory, surface);
+  RenderMap(game, options, dataDirectory, surface, orders);
 }
 
 void SaveMap(const model::GameState& game, const MapOptions& options,
              const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures,
-             const std::filesystem::path& file, MapFormat format) {
-  const Job job = Plan(game, options, dataDirectory, pixelWidth, pictures);
+             const std::filesystem::path& file, MapFormat format,
+             std::span<const orders::OrderOutcome> orders) {
+  const Job job = Plan(game, options, dataDirectory, pixelWidth, pictures, orders);
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   switch (format) {

@@ -1,0 +1,286 @@
+#include "render/order_routes.h"
+
+#include "model/text.h"
+#include "render/drawing.h"
+#include "render/order_strokes.h"
+
+#include <algorithm>
+#include <array>
+#include <initializer_list>
+#include <numbers>
+#include <string_view>
+#include <utility>
+
+namespace orb::render {
+namespace {
+
+using model::SamePlace;
+using orders::OrderOutcome;
+using orders::Outcome;
+
+/// How far each of two arrows that lead to and fro gives way to its right.
+constexpr double SideStep = 4.5 * TwipsPerPixel;
+
+constexpr double UnitRadius = 8 * TwipsPerPixel;
+constexpr double UnitReach = 11 * TwipsPerPixel;    ///< where lines to a unit end
+constexpr double LabelReach = 2.5 * TwipsPerPixel;  ///< how near heads and marks come to labels
+constexpr double LongestBend = 45 * TwipsPerPixel;
+
+/// A way to come at a unit: turned from the straight one, at least this far from labels.
+struct Approach {
+  int Degrees;
+  double Reach;
+};
+
+/// Those that are tried, the better ones first: a strong turn is worse than a head that just
+/// touches a label.
+constexpr std::array<Approach, 14> Approaches = {{{0, LabelReach},
+                                                  {-15, LabelReach},
+                                                  {15, LabelReach},
+                                                  {-30, LabelReach},
+                                                  {30, LabelReach},
+                                                  {-45, LabelReach},
+                                                  {45, LabelReach},
+                                                  {0, 0},
+                                                  {-15, 0},
+                                                  {15, 0},
+                                                  {-60, LabelReach},
+                                                  {60, LabelReach},
+                                                  {-75, LabelReach},
+                                                  {75, LabelReach}}};
+
+bool IsMove(const OrderOutcome& order) {
+  return order.Kind == "-";
+}
+
+bool SupportsMove(const OrderOutcome& order) {
+  return order.Kind == "S" && !order.Destination.empty();
+}
+
+bool CanBeDrawn(const model::Map& map, const OrderOutcome& order) {
+  const auto known = [&map](const std::string& place) {
+    return model::FindProvince(map, place) != 0;
+  };
+  const auto isOneOf = [&order](std::initializer_list<std::string_view> kinds) {
+    return std::ranges::find(kinds, order.Kind) != kinds.end();
+  };
+  if (model::FindCountry(order.Power) == 0 || !known(order.Location)) return false;
+  if (isOneOf({"HOLD", "DISBAND", "BUILD"})) return true;
+  if (isOneOf({"-", "RETREAT"})) return known(order.Destination);
+  if (order.Kind == "C" || SupportsMove(order)) {
+    return known(order.OtherLocation) && known(order.Destination);
+  }
+  return order.Kind == "S" && known(order.OtherLocation);
+}
+
+/// Whether a support or convoy is for this move.
+bool IsFor(const OrderOutcome& order, const OrderOutcome& move) {
+  return IsMove(move) && order.OtherLocation == move.Location &&
+         SamePlace(order.Destination, move.Destination);
+}
+
+const std::string& EndOf(const OrderOutcome& order) {
+  return order.Kind == "S" ? order.OtherLocation : order.Destination;
+}
+
+/// Where supports end on a move, as a part of what is seen of it: near its head, since those who
+/// support it are near its destination.
+double SupportedPart(const Way& move) {
+  return std::clamp(1 - 34 * TwipsPerPixel / (move.At(1) - move.At(0)), 0.4, 0.6);
+}
+
+/// Finds the lines of all routes; those of supports come last, since they end on other lines.
+class Router {
+ public:
+  Router(const Surface& surface, const model::Map& map, const std::vector<LabelBoxes>& labels,
+         std::vector<OrderRoute>& routes)
+      : surface_(surface), map_(map), labels_(labels), routes_(routes) {}
+
+  void FindWays() {
+    for (OrderRoute& route : routes_) {
+      const OrderOutcome& order = *route.Order;
+      const auto at = order.Kind == "RETREAT" ? LabelPoint : UnitPoint;
+      route.Unit = OnSurface(surface_, at(PlaceOf(map_, order.Location)));
+      if (!GoesToUnit(order)) continue;
+      const bool hasOpposite = HasOpposite(order);
+      const double endLength = order.Kind == "S" ? EndDotRadius : HeadLength;
+      route.Way = WayThrough(StopsOf(route, hasOpposite), endLength, hasOpposite);
+    }
+    for (OrderRoute& route : routes_) {
+      if (route.Order->Kind == "C") FindConvoy(route);
+      if (SupportsMove(*route.Order)) FindSupport(route);
+      if (!route.Way.Line.empty()) FindMark(route);
+    }
+  }
+
+ private:
+  Point UnitAt(const std::string& location) const {
+    return OnSurface(surface_, UnitPoint(PlaceOf(map_, location)));
+  }
+
+  /// Orders that lead from a place to itself have no line.
+  static bool GoesToUnit(const OrderOutcome& order) {
+    return (IsMove(order) || order.Kind == "RETREAT" || order.Kind == "S") &&
+           !SupportsMove(order) && EndOf(order) != order.Location;
+  }
+
+  /// The points, in order, that the line of an order leads from, through and to. Lines to and fro
+  /// between two places would be one, so each keeps to its right.
+  Path StopsOf(const OrderRoute& route, bool hasOpposite) const {
+    const OrderOutcome& order = *route.Order;
+    Path stops = {route.Unit};
+    if (order.ViaConvoy) AddFleets(order, stops);
+    stops.push_back(UnitAt(EndOf(order)));
+    const Point right = Right(Towards(stops.front(), stops.back()));
+    for (Point& stop : stops)
+      stop = Moved(stop, right, hasOpposite ? SideStep : 0);
+    return stops;
+  }
+
+  /// From one fleet to the one nearest to it, whatever the order of the orders.
+  void AddFleets(const OrderOutcome& move, Path& stops) const {
+    std::vector<Point> fleets;
+    for (const OrderRoute& route : routes_) {
+      const OrderOutcome& order = *route.Order;
+      if (order.Kind == "C" && order.Outcome != Outcome::Void && IsFor(order, move)) {
+        fleets.push_back(UnitAt(order.Location));
+      }
+    }
+    while (!fleets.empty()) {
+      const auto next = std::ranges::min_element(
+          fleets, {}, [&stops](Point fleet) { return Distance(stops.back(), fleet); });
+      stops.push_back(*next);
+      fleets.erase(next);
+    }
+  }
+
+  bool HasOpposite(const OrderOutcome& order) const {
+    return std::ranges::any_of(routes_, [&order](const OrderRoute& other) {
+      return GoesToUnit(*other.Order) && SamePlace(other.Order->Location, EndOf(order)) &&
+             SamePlace(EndOf(*other.Order), order.Location);
+    });
+  }
+
+  /// Straight from stop to stop; the last leg ends at the edge of the last unit.
+  Way WayThrough(const Path& stops, double endLength, bool hasOpposite = false) const {
+    Way way;
+    way.Line.assign(stops.begin(), stops.end() - 1);
+    way.Leg = LengthOf(way.Line);
+    const Path leg = LegTo(way.Line.back(), stops.back(), endLength, hasOpposite);
+    way.Line.insert(way.Line.end(), leg.begin() + 1, leg.end());
+    return way;
+  }
+
+  /// Straight, unless that would end on a label or on another line's end: then a curve that comes
+  /// from the side. Of two opposite ones each bends away from the other.
+  Path LegTo(Point from, Point unit, double endLength, bool hasOpposite) const {
+    Path crowded;
+    for (const auto& [degrees, reach] : Approaches) {
+      if (hasOpposite && degrees > 0) continue;
+      Path line = CurveTo(from, unit, degrees * std::numbers::pi / 180);
+      if (!IsFree(line, endLength, reach)) continue;
+      if (!IsTaken(line.back())) return line;
+      if (crowded.empty()) crowded = std::move(line);
+    }
+    return crowded.empty() ? CurveTo(from, unit, 0) : crowded;
+  }
+
+  /// Ends at the edge of the unit, at this angle from the straight line.
+  static Path CurveTo(Point from, Point unit, double angle) {
+    const double distance = Distance(from, unit);
+    const double reach = std::min(UnitReach, 0.4 * distance);
+    const Point side = Turned(Towards(unit, from), angle);
+    const Point end = Moved(unit, side, reach);
+    if (angle == 0) return {from, end};
+    return CurvePath(from, Moved(end, side, std::min(0.4 * distance, LongestBend)), end);
+  }
+
+  /// Whether the end of a line keeps this far from all labels.
+  bool IsFree(const Path& line, double endLength, double reach) const {
+    const double length = LengthOf(line);
+    return IsFree(PartOf(line, length - endLength, length), reach);
+  }
+
+  /// Whether another line ends there already.
+  bool IsTaken(Point end) const {
+    return std::ranges::any_of(routes_, [end](const OrderRoute& route) {
+      return !route.Way.Line.empty() && Distance(route.Way.Line.back(), end) < 2 * HeadHalf;
+    });
+  }
+
+  bool IsFree(const Path& stroke, double reach) const {
+    return std::ranges::none_of(labels_, [&stroke, reach](const LabelBoxes& boxes) {
+      return boxes.AreTouched(stroke, reach);
+    });
+  }
+
+  /// This part of a way, or one of those beside it if a dot or mark would lie on a label there.
+  double FreeAt(const Way& way, double part, std::initializer_list<double> shifts) const {
+    for (const double shift : shifts) {
+      const double distance = way.At(part + shift);
+      const Point at = SpotAt(way.Line, distance).At;
+      if (IsFree({at, at}, LabelReach)) return distance;
+    }
+    return way.At(part);
+  }
+
+  void FindMark(OrderRoute& route) const {
+    route.Mark = route.Order->Kind == "S"
+                     ? FreeAt(route.Way, 0.5, {0, -0.1, 0.1, -0.2, 0.2})
+                     : FreeAt(route.Way, SupportedPart(route.Way) + 0.17, {0, 0.08, -0.3, -0.4});
+  }
+
+  /// The move that a support or convoy is for; nothing when no order goes it.
+  const OrderRoute* FindMove(const OrderOutcome& order) const {
+    const auto move = std::ranges::find_if(routes_, [&order](const OrderRoute& other) {
+      return IsFor(order, *other.Order) && !other.Way.Line.empty();
+    });
+    return move == routes_.end() ? nullptr : &*move;
+  }
+
+  void FindConvoy(OrderRoute& route) const {
+    const OrderOutcome& order = *route.Order;
+    if (order.Outcome != Outcome::Void && FindMove(order) != nullptr) return;
+    route.Unordered = WayThrough(
+        {UnitAt(order.OtherLocation), route.Unit, UnitAt(order.Destination)}, HeadLength);
+  }
+
+  void FindSupport(OrderRoute& route) const {
+    const OrderOutcome& order = *route.Order;
+    const OrderRoute* const move = FindMove(order);
+    if (move == nullptr) {
+      route.Unordered =
+          WayThrough({UnitAt(order.OtherLocation), UnitAt(order.Destination)}, HeadLength);
+    }
+    const Way& supported = move == nullptr ? route.Unordered : move->Way;
+    const double end = FreeAt(supported, SupportedPart(supported), {0, -0.1, 0.1, -0.2});
+    route.Way.Line = {route.Unit, SpotAt(supported.Line, end).At};
+  }
+
+  const Surface& surface_;
+  const model::Map& map_;
+  const std::vector<LabelBoxes>& labels_;
+  std::vector<OrderRoute>& routes_;
+};
+
+}  // namespace
+
+double Way::At(double part) const {
+  const double length = LengthOf(Line) - Leg;
+  const double start = std::min(UnitRadius, 0.3 * length);
+  return Leg + start + part * (length - start);
+}
+
+std::vector<OrderRoute> RoutesOf(const Surface& surface, const model::GameState& game,
+                                 std::span<const OrderOutcome> orders,
+                                 const std::vector<LabelBoxes>& labels) {
+  std::vector<OrderRoute> routes;
+  for (const OrderOutcome& order : orders) {
+    if (!CanBeDrawn(*game.Map, order)) continue;
+    routes.push_back({&order, model::FindCountry(order.Power), {}, {}, {}, 0});
+  }
+  Router(surface, *game.Map, labels, routes).FindWays();
+  return routes;
+}
+
+}  // namespace orb::render
