@@ -43,10 +43,16 @@ void NextSeason(GameState& game) {
   game.FileName.clear();
 }
 
-bool UndoSeason(GameState& game, Messages& messages) {
-  const bool ownersKnown =
+void RestoreOwners(GameState& game) {
+  const bool known =
       std::none_of(game.Provinces.begin(), game.Provinces.end(),
                    [](const ProvinceState& p) { return p.PreviousOwner == Unknown; });
+  if (!known) return;
+  for (ProvinceState& province : game.Provinces)
+    province.Owner = province.PreviousOwner;
+}
+
+bool UndoSeason(GameState& game, Messages& messages) {
   if (game.Stage == "finished" && game.Season == "Autumn") {
     messages.Show("Original supply centre ownerships unknown;\rcan't undo.", Icon::None);
     return false;
@@ -57,10 +63,7 @@ bool UndoSeason(GameState& game, Messages& messages) {
     return false;
   }
   RestoreUnits(game);
-  if (ownersKnown) {
-    for (ProvinceState& province : game.Provinces)
-      province.Owner = province.PreviousOwner;
-  }
+  RestoreOwners(game);
   game.Stage = "moves";
   game.RetreatsList.clear();
   game.AdjustmentsList.clear();

@@ -9,6 +9,9 @@ namespace orb::model {
 /// Orders, free text, report and current file name are dropped. Throws FatalError past year 32767.
 void NextSeason(GameState& game);
 
+/// Gives every place its owner before the last moves; nothing changes where one is not recorded.
+void RestoreOwners(GameState& game);
+
 /// Puts the season back to its start from the positions and owners that the last moves recorded.
 /// False, nothing changed, for a finished Autumn season or when the user declines to lose the
 /// units whose start is not recorded.

@@ -104,12 +104,12 @@ void LinkOrders(OrderTable& orders) {
   }
 }
 
+}  // namespace
+
 bool IsPossibleMove(const model::Map& map, const Unit& unit, const OrderLine& order) {
   return CanStandIn(map, unit.UnitType, order.Target) &&
          (order.ViaConvoy || IsAdjacent(map, unit.UnitType, unit.Location, order.Target));
 }
-
-}  // namespace
 
 bool RefersTo(const OrderLine& order, const OrderLine& other) {
   return model::SamePlace(order.Target, other.Location) && order.Target == other.Location &&

@@ -1,0 +1,203 @@
+#include "render/animation_view.h"
+
+#include "render/drawing.h"
+#include "render/symbols.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace orb::render {
+namespace {
+
+// Seconds at normal speed.
+constexpr double FirstRest = 0.5;
+constexpr double MovesTime = 1.6;
+constexpr double RetreatsTime = 1.2;
+constexpr double AdjustmentsTime = 0.9;
+constexpr double RestAfterStage = 0.3;
+constexpr double LastRest = 0.4;
+
+/// The part of the moves after which attackers come near enough to push.
+constexpr double PushStart = 0.7;
+
+/// Smaller ones are not to be seen.
+constexpr double LeastScale = 0.05;
+
+bool StandsAside(const Journey& journey) {
+  return journey.Dislodged || journey.DislodgedAtFirst;
+}
+
+bool VanishesFromAside(const Journey& journey) {
+  return journey.Vanishes && StandsAside(journey) && journey.Retreat.empty();
+}
+
+bool TakesPartInMoves(const Journey& journey) {
+  return !journey.Aim.empty() || journey.Dislodged;
+}
+
+bool TakesPartInRetreats(const Journey& journey) {
+  return !journey.Retreat.empty() || VanishesFromAside(journey);
+}
+
+bool TakesPartInAdjustments(const Journey& journey) {
+  return journey.Appears || (journey.Vanishes && !VanishesFromAside(journey));
+}
+
+/// How far each stage has come, 0..1, and how long all take together.
+struct Clock {
+  double Moves = 0, Retreats = 0, Adjustments = 0;
+  double Seconds = FirstRest + LastRest;
+};
+
+Clock ClockAt(const std::vector<Journey>& journeys, double seconds) {
+  Clock clock;
+  double begin = FirstRest;
+  const auto part = [&](bool (*takesPart)(const Journey&), double length) {
+    if (std::none_of(journeys.begin(), journeys.end(), takesPart)) return 1.0;
+    const double done = std::clamp((seconds - begin) / length, 0.0, 1.0);
+    begin += length + RestAfterStage;
+    return done;
+  };
+  clock.Moves = part(TakesPartInMoves, MovesTime);
+  clock.Retreats = part(TakesPartInRetreats, RetreatsTime);
+  clock.Adjustments = part(TakesPartInAdjustments, AdjustmentsTime);
+  clock.Seconds = begin + LastRest;
+  return clock;
+}
+
+/// Slow at both ends.
+double Eased(double part) {
+  const double t = std::clamp(part, 0.0, 1.0);
+  return t * t * (3 - 2 * t);
+}
+
+double Between(double from, double to, double part) {
+  return from + (to - from) * part;
+}
+
+Point Between(Point from, Point to, double part) {
+  return {Between(from.X, to.X, part), Between(from.Y, to.Y, part)};
+}
+
+double Length(Point from, Point to) {
+  return std::hypot(to.X - from.X, to.Y - from.Y);
+}
+
+/// The point that lies at a part 0..1 of the way through all points.
+Point Along(const std::vector<Point>& way, double part) {
+  double length = 0;
+  for (std::size_t i = 1; i < way.size(); ++i)
+    length += Length(way[i - 1], way[i]);
+  double left = part * length;
+  for (std::size_t i = 1; i < way.size(); ++i) {
+    const double leg = Length(way[i - 1], way[i]);
+    if (left < leg) return Between(way[i - 1], way[i], left / leg);
+    left -= leg;
+  }
+  return way.back();
+}
+
+/// Units stand below those that move, dislodged ones lie on top.
+enum class Layer { Standing, Moving, Aside };
+
+/// How a unit is drawn at one moment.
+struct Pose {
+  Point At;
+  double Scale = 1;
+  render::Layer Layer = Layer::Standing;
+};
+
+/// Moves the pose towards a place and a scale.
+void Bring(Pose& pose, Point to, double scale, double part) {
+  pose.At = Between(pose.At, to, part);
+  pose.Scale = Between(pose.Scale, scale, part);
+}
+
+void MoveUnit(const model::Map& map, const Journey& journey, double part, Pose& pose) {
+  if (journey.Aim.empty()) return;
+  std::vector<Point> way = {pose.At};
+  for (const std::string& fleet : journey.Fleets)
+    way.push_back(UnitPoint(PlaceOf(map, fleet)));
+  way.push_back(UnitPoint(PlaceOf(map, journey.Aim)));
+  if (journey.Bounces) {
+    const double done = journey.Dislodged ? std::min(1.0, part / PushStart) : part;
+    pose.At = Along(way, Eased(done < 0.5 ? 2 * done : 2 - 2 * done) / 2);
+  } else {
+    pose.At = Along(way, Eased(part));
+  }
+  if (part > 0 && part < 1) pose.Layer = Layer::Moving;
+}
+
+void PushUnit(const model::Map& map, const Journey& journey, double part, Pose& pose) {
+  if (!journey.Dislodged || part <= PushStart) return;
+  const model::Province& place = PlaceOf(map, HasMoved(journey) ? journey.Aim : journey.From);
+  Bring(pose, LabelPoint(place), DislodgedScale, Eased((part - PushStart) / (1 - PushStart)));
+  pose.Layer = Layer::Aside;
+}
+
+void RetreatUnit(const model::Map& map, const Journey& journey, double part, Pose& pose) {
+  if (VanishesFromAside(journey)) {
+    pose.Scale *= 1 - Eased(part);
+  } else if (!journey.Retreat.empty()) {
+    Bring(pose, UnitPoint(PlaceOf(map, journey.Retreat)), 1, Eased(part));
+    if (part >= 1) pose.Layer = Layer::Standing;
+  }
+}
+
+Pose PoseAt(const model::Map& map, const Journey& journey, const Clock& clock) {
+  const model::Province& first = PlaceOf(map, journey.From);
+  Pose pose{UnitPoint(first)};
+  if (journey.DislodgedAtFirst) {
+    pose = {LabelPoint(first), DislodgedScale, Layer::Aside};
+  } else {
+    MoveUnit(map, journey, clock.Moves, pose);
+    PushUnit(map, journey, clock.Moves, pose);
+  }
+  RetreatUnit(map, journey, clock.Retreats, pose);
+  if (journey.Appears) {
+    pose.Scale *= Eased(clock.Adjustments);
+  } else if (TakesPartInAdjustments(journey)) {
+    pose.Scale *= 1 - Eased(clock.Adjustments);
+  }
+  return pose;
+}
+
+}  // namespace
+
+double Seconds(const Replay& replay) {
+  return ClockAt(replay.Journeys, 0).Seconds;
+}
+
+void DrawStill(const Replay& replay, const MapOptions& options,
+               const std::filesystem::path& dataDirectory, Surface& surface) {
+  DrawBelowUnits(replay.Start, options, dataDirectory, surface);
+}
+
+void DrawMoving(const Replay& replay, const MapOptions& options, double progress,
+                Surface& surface) {
+  const Clock clock = ClockAt(replay.Journeys, progress * Seconds(replay));
+  std::vector<Pose> poses;
+  poses.reserve(replay.Journeys.size());
+  for (const Journey& journey : replay.Journeys)
+    poses.push_back(PoseAt(*replay.Start.Map, journey, clock));
+  const SymbolStyle style{replay.Start.Countries, options.Mode};
+  for (const Layer layer : {Layer::Standing, Layer::Moving, Layer::Aside}) {
+    for (std::size_t i = 0; i < poses.size(); ++i) {
+      const Pose& pose = poses[i];
+      if (pose.Layer != layer || pose.Scale < LeastScale) continue;
+      const Journey& journey = replay.Journeys[i];
+      DrawUnit(surface, style, journey.UnitType, pose.At, model::FindCountry(journey.Power),
+               pose.Scale);
+    }
+  }
+  DrawAboveUnits(replay.Start, options, surface);
+}
+
+void DrawFrame(const Replay& replay, const MapOptions& options,
+               const std::filesystem::path& dataDirectory, double progress, Surface& surface) {
+  DrawStill(replay, options, dataDirectory, surface);
+  DrawMoving(replay, options, progress, surface);
+}
+
+}  // namespace orb::render

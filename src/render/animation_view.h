@@ -1,0 +1,29 @@
+#pragma once
+
+#include "render/animation.h"
+#include "render/map_view.h"
+#include "render/surface.h"
+
+#include <filesystem>
+
+// A frame is the map of the replay's start with the units on their way: first all moves, then the
+// retreats, last what is built or disbanded, with short rests about them; what does not happen
+// takes no time. At progress 0 the frame is that map, at 1 the units stand as in the replay's end.
+
+namespace orb::render {
+
+/// How long the replay takes at normal speed, in seconds.
+double Seconds(const Replay& replay);
+
+/// Draws what stays the same in every frame. Throws FileError for a missing or broken bitmap.
+void DrawStill(const Replay& replay, const MapOptions& options,
+               const std::filesystem::path& dataDirectory, Surface& surface);
+
+/// Draws the units, and what lies over them, at a progress of 0..1 on top of the still.
+void DrawMoving(const Replay& replay, const MapOptions& options, double progress, Surface& surface);
+
+/// Draws a frame whole.
+void DrawFrame(const Replay& replay, const MapOptions& options,
+               const std::filesystem::path& dataDirectory, double progress, Surface& surface);
+
+}  // namespace orb::render
