@@ -3,6 +3,7 @@
 #include "render/map_view.h"
 #include "render/qt/map_file.h"
 #include "render/qt/painter_surface.h"
+#include "render/qt/replay_picture.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -52,6 +53,31 @@ void DrawMap(benchmark::State& state, render::MapMode mode) {
   }
 }
 
+/// A moment of a season in which every unit of the board moves, the still map painted from memory
+/// as the window does it. The range is the width in pixels.
+void DrawFrame(benchmark::State& state) {
+  model::GameState game = FullBoard();
+  game.Stage = "finished";
+  const int count = game.Units.Count();
+  for (int i = 1; i <= count; ++i) {
+    game.Units[i].Status.clear();
+    game.Units[i].PreviousLocation = game.Units[i % count + 1].Location;
+  }
+  render::PictureCache pictures;
+  const auto width = static_cast<int>(state.range(0));
+  const render::ReplayPicture picture(render::SeasonReplay(game),
+                                      {render::MapMode::Colour3D, true, true, true}, DataDirectory,
+                                      width, pictures);
+  QImage image = picture.Still().copy();
+  double progress = 0;
+  while (state.KeepRunning()) {
+    progress = progress < 1 ? progress + 0.01 : 0;
+    QPainter painter(&image);
+    painter.drawImage(0, 0, picture.Still());
+    picture.PaintMoving(painter, QRectF(image.rect()), progress);
+  }
+}
+
 BENCHMARK_CAPTURE(DrawMap, Colour3D, render::MapMode::Colour3D)
     ->Arg(1000)
     ->Arg(2000)
@@ -60,6 +86,7 @@ BENCHMARK_CAPTURE(DrawMap, BlackWhite, render::MapMode::BlackWhite)
     ->Arg(1000)
     ->Arg(2000)
     ->Unit(benchmark::kMillisecond);
+BENCHMARK(DrawFrame)->Arg(1000)->Arg(2000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace orb

@@ -62,11 +62,14 @@ struct Pair {
   double Distance;
 };
 
-void MatchNearest(Matching& matching) {
+bool AnyStartKnown(const GameState& game) {
+  return std::any_of(game.Units.begin(), game.Units.end(),
+                     [&](const Unit& unit) { return HasKnownStart(*game.Map, unit); });
+}
+
+void MatchNearest(Matching& matching, bool recorded) {
   const model::Map& map = *matching.Later.Map;
   const auto& units = matching.Later.Units;
-  const bool recorded = std::any_of(units.begin(), units.end(),
-                                    [&](const Unit& unit) { return HasKnownStart(map, unit); });
   std::vector<Pair> pairs;
   for (int i = 1; i <= matching.Earlier.Units.Count(); ++i) {
     for (int k = 1; k <= units.Count(); ++k) {
@@ -102,10 +105,12 @@ UnitMatches MatchUnits(const GameState& earlier, const GameState& later) {
     if (seasons == 0) return before.PreviousLocation == after.PreviousLocation;
     return seasons == 1 && before.Location == after.PreviousLocation;
   });
-  MatchThose(matching, [](const Unit& before, const Unit& after) {
-    return before.Location == after.Location;
+  const bool recorded = AnyStartKnown(later);
+  MatchThose(matching, [&](const Unit& before, const Unit& after) {
+    const bool built = seasons > 1 && recorded && after.PreviousLocation.empty();
+    return before.Location == after.Location && !built;
   });
-  MatchNearest(matching);
+  MatchNearest(matching, recorded);
   return matching.Matches;
 }
 

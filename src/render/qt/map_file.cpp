@@ -2,6 +2,7 @@
 
 #include "model/errors.h"
 #include "model/files.h"
+#include "render/qt/canvas.h"
 #include "render/qt/painter_surface.h"
 #include "render/qt/text_codec.h"
 
@@ -10,35 +11,27 @@
 #include <QPdfWriter>
 #include <QSvgGenerator>
 
-#include <string>
-
 namespace orb::render {
 namespace {
 
-/// What is drawn and how large: the request, with the size and resolution worked out.
+/// What is drawn and how large.
 struct Job {
   const model::GameState& Game;
   const MapOptions& Options;
   const std::filesystem::path& DataDirectory;
   PictureCache& Pictures;
-  QSize Pixels;
-  double PixelsPerInch;
+  Canvas Size;
   std::span<const orders::OrderOutcome> Orders;
 };
 
 Job Plan(const model::GameState& game, const MapOptions& options,
          const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures,
          std::span<const orders::OrderOutcome> orders) {
-  if (pixelWidth < 0 || pixelWidth > MaxPixelWidth) {
-    throw model::FileError("The map cannot be " + std::to_string(pixelWidth) +
-                           " pixels wide; expected 1 to " + std::to_string(MaxPixelWidth) +
-                           ", or 0 for its own width.");
-  }
-  const QImage& picture = pictures.Picture(BackgroundFile(dataDirectory, options.Mode));
-  const int width = pixelWidth == 0 ? picture.width() : pixelWidth;
-  const int height =
-      std::max(1, qRound(static_cast<double>(width) * picture.height() / picture.width()));
-  return {game,  options, dataDirectory, pictures, QSize(width, height), Resolution(picture),
+  return {game,
+          options,
+          dataDirectory,
+          pictures,
+          PlanCanvas(BackgroundFile(dataDirectory, options.Mode), pixelWidth, pictures),
           orders};
 }
 
@@ -47,10 +40,7 @@ void Draw(const Job& job, QPainter& painter, const QRectF& target) {
 }
 
 QImage DrawImage(const Job& job) {
-  QImage image(job.Pixels, QImage::Format_RGB32);
-  if (image.isNull()) throw model::FileError("There is no memory for a map of that size.");
-  image.setDotsPerMeterX(qRound(job.PixelsPerInch / 0.0254));
-  image.setDotsPerMeterY(image.dotsPerMeterX());
+  QImage image = NewImage(job.Size);
   QPainter painter(&image);
   Draw(job, painter, QRectF(image.rect()));
   return image;
@@ -65,19 +55,19 @@ void WriteImage(const Job& job, QBuffer& buffer, const char* format) {
 void WriteSvg(const Job& job, QBuffer& buffer) {
   QSvgGenerator generator;
   generator.setOutputDevice(&buffer);
-  generator.setResolution(qRound(job.PixelsPerInch));
-  generator.setSize(job.Pixels);
-  generator.setViewBox(QRect(QPoint(0, 0), job.Pixels));
+  generator.setResolution(qRound(job.Size.PixelsPerInch));
+  generator.setSize(job.Size.Pixels);
+  generator.setViewBox(QRect(QPoint(0, 0), job.Size.Pixels));
   generator.setTitle(ToQString(job.Game.Title));
   QPainter painter(&generator);
-  Draw(job, painter, QRectF(QPointF(0, 0), QSizeF(job.Pixels)));
+  Draw(job, painter, QRectF(QPointF(0, 0), QSizeF(job.Size.Pixels)));
 }
 
 void WritePdf(const Job& job, QBuffer& buffer) {
   constexpr double pointsPerInch = 72;
   QPdfWriter writer(&buffer);
   writer.setTitle(ToQString(job.Game.Title));
-  writer.setPageSize(QPageSize(QSizeF(job.Pixels) * (pointsPerInch / job.PixelsPerInch),
+  writer.setPageSize(QPageSize(QSizeF(job.Size.Pixels) * (pointsPerInch / job.Size.PixelsPerInch),
                                QPageSize::Point, QString(), QPageSize::ExactMatch));
   writer.setPageMargins(QMarginsF());
   QPainter painter(&writer);

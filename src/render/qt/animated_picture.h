@@ -1,0 +1,46 @@
+#pragma once
+
+#include "render/animation.h"
+#include "render/map_view.h"
+#include "render/qt/palette.h"
+#include "render/qt/picture_cache.h"
+
+#include <QImage>
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orb::render {
+
+/// The width in pixels at which an animation suits mails and web pages.
+constexpr int AnimationWidth = 1000;
+
+/// One picture of an animation, of 32 bits a pixel.
+struct AnimationFrame {
+  QImage Picture;
+  int Hundredths = 0;  ///< of a second that it is shown
+};
+
+/// Gives one frame after the other, all of one size, and nothing after the last.
+using FrameSource = std::function<std::optional<AnimationFrame>()>;
+
+/// Called after every frame with the frames done and the number of all; false stops the work.
+using FrameProgress = std::function<bool(int done, int all)>;
+
+/// An animated GIF of the frames that runs for ever, in at most 255 colours. Throws FileError when
+/// there is no frame.
+std::string AnimatedGif(const FrameSource& next, const std::vector<QRgb>& colours);
+
+/// Saves replays, played one after the other, as an animated GIF some pixels wide (0: the
+/// background's own width): twenty frames a second, and the last one's end for a while. The file
+/// is replaced whole or not at all; false, nothing written, when progress stops it. Throws what
+/// MapImage throws, FileError also without replays and when it cannot be written.
+bool SaveAnimation(const std::vector<Replay>& replays, const MapOptions& options,
+                   const std::filesystem::path& dataDirectory, int pixelWidth,
+                   PictureCache& pictures, const std::filesystem::path& file,
+                   const FrameProgress& progress);
+
+}  // namespace orb::render
