@@ -5,16 +5,19 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <utility>
+
 namespace orb::tests {
 namespace {
 
 /// What stands on the surface line by line, underlined texts between "_".
 std::string Page(const Recorder& surface) {
   std::string page;
-  double y = 0;
+  long row = 0;
   for (const Stroke& text : surface.All("text")) {
-    for (; y < text.Points.front().Y; y += surface.TextHeight(""))
-      page += '\n';
+    const long next = std::lround(text.Points.front().Y / surface.TextHeight(""));
+    page.append(static_cast<std::size_t>(next - std::exchange(row, next)), '\n');
     page.append(text.Underlined ? "_" + text.Text + "_" : text.Text);
   }
   return page;
