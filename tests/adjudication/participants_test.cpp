@@ -28,9 +28,8 @@ TEST(Participants, StandWhereTheMapShowsThem) {
         "Kie Mun", "Mun"}},
       {"retreats",
        {"FRA A(Bur) <Mun retreat Gas", "FRA A(Par) <Bre retreat Gas", "GER A(Bur)",
-        "ITA A(Pie) "
-        "<Ven retreat Ven",
-        "AUS A(Pie)", "TUR A(Con) <Bul retreat Smy", "RUS A(Kie) hold"},
+        "ITA A(Pie) <Ven retreat Ven", "AUS A(Pie)", "TUR A(Con) <Bul retreat Smy",
+        "RUS A(Kie) hold"},
        {"Bur Par", "Par Bur", "Pie", "Smy"}},
       {"adjustments",
        {"FRA A(Par)", "> FRA BUILD A(Par)", "> FRA DISBAND A(Par)", "> GER BUILD F(Kie)",
