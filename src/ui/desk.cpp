@@ -93,6 +93,10 @@ void Desk::setViewOnly(bool viewOnly) {
   run([&](Situation& next) { next.viewOnly = viewOnly; });
 }
 
+void Desk::setShowOrders(bool showOrders) {
+  run([&](Situation& next) { next.showOrders = showOrders; });
+}
+
 void Desk::setEditing(Editing editing) {
   run([&](Situation& next) { next.editing = editing; });
 }
@@ -104,6 +108,7 @@ bool Desk::run(const std::function<void(Situation&)>& command) {
     command(next);
     next.reportNotes.resize(static_cast<std::size_t>(next.game.ReportLines.Count()));
     if (listsDiffer(next.game, m_now.game)) next.stoppedLine.reset();
+    if (next.game.ReportLines.Count() == 0) next.outcomes.clear();
     m_draw(next);
     m_now = std::move(next);
     done = true;

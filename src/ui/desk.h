@@ -50,6 +50,7 @@ class Desk : public QObject {
 
   void setMapOptions(const render::MapOptions& options);
   void setViewOnly(bool viewOnly);
+  void setShowOrders(bool showOrders);
 
   /// Choosing the stage's own entry ends the editing.
   void setEditing(Editing editing);

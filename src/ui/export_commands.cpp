@@ -113,7 +113,8 @@ void ExportCommands::attempt(const std::function<void()>& command) {
 /// The map as it is shown, at the background picture's own resolution.
 QImage ExportCommands::mapPicture() {
   const Situation& now = m_desk.now();
-  return render::MapImage(now.game, now.mapOptions, m_desk.dataDirectory(), 0, m_pictures);
+  return render::MapImage(now.game, now.mapOptions, m_desk.dataDirectory(), 0, m_pictures,
+                          shownOrders(now));
 }
 
 void ExportCommands::copyMap() {
@@ -183,7 +184,7 @@ void ExportCommands::printOnce(QPrinter& printer) {
                          m_pictures.Picture(background).size(),
                          [&](QPainter& painter, const QRectF& target) {
                            render::PaintMap(now.game, now.mapOptions, m_desk.dataDirectory(),
-                                            m_pictures, painter, target);
+                                            m_pictures, painter, target, shownOrders(now));
                          }};
   if (printer.outputFormat() == QPrinter::PdfFormat) {
     printToFile(printer, game);

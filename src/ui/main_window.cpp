@@ -43,6 +43,7 @@ namespace {
 constexpr int Margin = 10;
 constexpr int Gap = 12;
 constexpr int ColumnWidth = 345;
+const QString ShowOrders = QStringLiteral("map/showOrders");
 constexpr QSize PreferredSize(1280, 800);
 
 /// The one local file that is dragged; empty when it is anything else.
@@ -66,6 +67,7 @@ MainWindow::MainWindow(Situation start, const Places& places)
   createMenus();
   createToolbar();
   restoreSize();
+  m_desk.setShowOrders(m_memory.flag(ShowOrders));
   m_map->draw(m_desk.now());
   m_view->setZoom(m_memory.zoom());
   m_desk.setDrawing([this](const Situation& situation) { m_map->draw(situation); });
@@ -155,6 +157,8 @@ void MainWindow::createToolbar() {
                    tr("Show the map smaller"), m_mapMenu->zoomOut());
   tools->addButton(QStringLiteral("butMapZoomFit"), QStringLiteral("zoom-fit"),
                    tr("Fit the map to the window"), m_mapMenu->zoomToFit());
+  tools->addButton(QStringLiteral("butMapShowOrders"), QStringLiteral("show-orders"),
+                   tr("Show the orders on the map"), m_mapMenu->showOrders());
   addToolBar(tools);
 }
 
@@ -185,6 +189,7 @@ void MainWindow::restoreSize() {
 void MainWindow::closeEvent(QCloseEvent* event) {
   m_memory.setGeometry(saveGeometry());
   m_memory.setZoom(m_view->zoom());
+  m_memory.setFlag(ShowOrders, m_desk.now().showOrders);
   try {
     const Situation& now = m_desk.now();
     render::WriteSettingsFile(render::SettingsFileForWriting(m_places.program, m_places.config),

@@ -29,6 +29,11 @@ MapMenu::MapMenu(Desk& desk, MapView& view, QWidget* parent)
   connect(m_viewOnly, &QAction::triggered, &m_desk, &Desk::setViewOnly);
   addSeparator();
   addZoomEntries();
+  addSeparator();
+  m_showOrders =
+      newEntry(*this, QStringLiteral("mnuMapShowOrders"), tr("Show o&rders"), Qt::CTRL | Qt::Key_D);
+  m_showOrders->setCheckable(true);
+  connect(m_showOrders, &QAction::triggered, &m_desk, &Desk::setShowOrders);
   connect(&m_desk, &Desk::changed, this, &MapMenu::showState);
   showState();
 }
@@ -82,6 +87,7 @@ void MapMenu::showState() {
   for (const auto& [entry, toggle] : m_toggles)
     entry->setChecked(options.*toggle);
   m_viewOnly->setChecked(m_desk.now().viewOnly);
+  m_showOrders->setChecked(m_desk.now().showOrders);
 }
 
 }  // namespace orb::ui

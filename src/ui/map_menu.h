@@ -23,6 +23,7 @@ class MapMenu : public QMenu {
   QAction* zoomIn() const { return m_zoomIn; }
   QAction* zoomOut() const { return m_zoomOut; }
   QAction* zoomToFit() const { return m_zoomToFit; }
+  QAction* showOrders() const { return m_showOrders; }
 
  private:
   using Toggle = bool render::MapOptions::*;
@@ -38,6 +39,7 @@ class MapMenu : public QMenu {
   MapView& m_view;
   QActionGroup* m_modeGroup;
   QAction* m_viewOnly = nullptr;
+  QAction* m_showOrders = nullptr;
   QAction* m_zoomIn = nullptr;
   QAction* m_zoomOut = nullptr;
   QAction* m_zoomToFit = nullptr;

@@ -34,8 +34,9 @@ MapPicture::MapPicture(const Desk& desk, model::Messages& messages, QWidget* par
 }
 
 void MapPicture::draw(const Situation& situation) {
-  const QImage image = render::MapImage(situation.game, situation.mapOptions,
-                                        m_desk.dataDirectory(), fittingPixelWidth(), m_pictures);
+  const QImage image =
+      render::MapImage(situation.game, situation.mapOptions, m_desk.dataDirectory(),
+                       fittingPixelWidth(), m_pictures, shownOrders(situation));
   m_picture = QPixmap::fromImage(image);
   const QImage& background =
       m_pictures.Picture(render::BackgroundFile(m_desk.dataDirectory(), situation.mapOptions.Mode));

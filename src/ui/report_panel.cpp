@@ -47,7 +47,6 @@ ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
 void ReportPanel::layOut() {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});
-  column->addWidget(newHeading(tr("Report")));
   column->addWidget(m_lines, 1);
   column->addWidget(m_reason);
 }
@@ -96,7 +95,7 @@ void ReportPanel::colourLines() {
 void ReportPanel::showReason() {
   const QListWidgetItem* current = m_lines->currentItem();
   const bool chosen = current != nullptr && current->isSelected();
-  m_reason->setEnabled(chosen);
+  m_reason->setForegroundRole(chosen ? QPalette::WindowText : QPalette::PlaceholderText);
   m_reason->setText(tr("Select a line to read why it came out so."));
   if (!chosen) return emit unitsPicked({});
   const ReportNote& note =

@@ -1,12 +1,14 @@
 #include "ui/situation.h"
 
 #include "adjudication/explain.h"
+#include "adjudication/outcomes.h"
 #include "adjudication/participants.h"
 #include "adjudication/stages.h"
 #include "model/files.h"
 #include "model/game_file.h"
 #include "model/map_files.h"
 #include "model/new_game.h"
+#include "orders/entered_orders.h"
 #include "render/settings.h"
 
 #include <algorithm>
@@ -23,7 +25,10 @@ void addMissing(const std::vector<std::string>& texts, std::vector<std::string>&
 /// The later stages of a season write on in the report of the moves, and so do their notes.
 void addNotes(const adjudication::Resolution& resolution, Situation& situation) {
   std::vector<ReportNote>& notes = situation.reportNotes;
-  if (resolution.Stage == adjudication::ResolvedStage::Moves) notes.clear();
+  if (resolution.Stage == adjudication::ResolvedStage::Moves) {
+    notes.clear();
+    situation.outcomes.clear();
+  }
   const std::vector<std::string> reasons = adjudication::ExplainReport(situation.game, resolution);
   const auto participants = adjudication::ReportParticipants(situation.game, resolution);
   notes.resize(reasons.size());
@@ -96,11 +101,22 @@ Situation startSituation(const Places& places, const std::filesystem::path& game
   return situation;
 }
 
+std::vector<orders::OrderOutcome> shownOrders(const Situation& situation) {
+  if (!situation.showOrders) return {};
+  std::vector<orders::OrderOutcome> shown = situation.outcomes;
+  const std::vector<orders::OrderOutcome> entered = orders::EnteredOrders(situation.game);
+  shown.insert(shown.end(), entered.begin(), entered.end());
+  return shown;
+}
+
 void resolveStage(Situation& situation, model::Messages& messages) {
   DeclinedWarning asked(messages);
   const adjudication::Resolution resolution = adjudication::ResolveStage(situation.game, asked);
   situation.stoppedLine = findStoppedLine(resolution, asked);
-  if (resolution.Completed) addNotes(resolution, situation);
+  if (!resolution.Completed) return;
+  addNotes(resolution, situation);
+  const std::vector<orders::OrderOutcome> outcomes = adjudication::Outcomes(resolution);
+  situation.outcomes.insert(situation.outcomes.end(), outcomes.begin(), outcomes.end());
 }
 
 }  // namespace orb::ui

@@ -3,6 +3,7 @@
 #include "adjudication/resolution.h"
 #include "model/game_state.h"
 #include "model/messages.h"
+#include "orders/order_outcome.h"
 #include "render/map_view.h"
 #include "ui/places.h"
 
@@ -36,15 +37,20 @@ struct Situation {
   render::MapOptions mapOptions;
   bool viewOnly = false;  ///< only the map is shown
   Editing editing = Editing::None;
-  std::vector<ReportNote> reportNotes;     ///< one a line of the report
-  std::optional<StoppedLine> stoppedLine;  ///< until the lists change
-  bool readOnly = false;                   ///< the game's file was opened for reading only
+  std::vector<ReportNote> reportNotes;         ///< one a line of the report
+  std::optional<StoppedLine> stoppedLine;      ///< until the lists change
+  std::vector<orders::OrderOutcome> outcomes;  ///< of the season's orders resolved so far
+  bool showOrders = false;                     ///< orders are drawn on the map
+  bool readOnly = false;                       ///< the game's file was opened for reading only
 };
 
 /// Loads the map and the settings and sets up a new game, or opens the named game file. Throws
 /// FatalError.
 Situation startSituation(const Places& places, const std::filesystem::path& gameFile,
                          model::Messages& messages);
+
+/// The orders to be drawn on the map: how those of the season came out, then those entered since.
+std::vector<orders::OrderOutcome> shownOrders(const Situation& situation);
 
 /// Resolves the stage and notes why; after a No or an error nothing is changed but the line at
 /// which it stopped.
