@@ -108,13 +108,16 @@ void OrderEntryPanel::addBelowHeading(QWidget* control) {
 void OrderEntryPanel::connectControls(const QString& helpTopic) {
   connect(m_ok, &QPushButton::clicked, this, &OrderEntryPanel::fileOrder);
   connect(m_text, &QLineEdit::returnPressed, this, &OrderEntryPanel::fileOrder);
+  connect(m_text, &QLineEdit::textChanged, this, [this](const QString& text) {
+    if (text.isEmpty()) beginLine();
+  });
   connect(m_cancel, &QPushButton::clicked, this, &OrderEntryPanel::cancelOrder);
   connect(m_delete, &QPushButton::clicked, this, &OrderEntryPanel::deleteOrder);
   connect(m_help, &QPushButton::clicked, this, [this, helpTopic] { emit helpWanted(helpTopic); });
   connect(m_resolve, &QPushButton::clicked, &m_desk, &Desk::resolve);
   connect(m_list, &QListWidget::itemClicked, this, &OrderEntryPanel::editSelectedOrder);
   connect(m_list, &QListWidget::itemActivated, this, &OrderEntryPanel::editSelectedOrder);
-  connect(m_list, &QListWidget::currentRowChanged, this, &OrderEntryPanel::tellStatus);
+  connect(m_list, &QListWidget::itemSelectionChanged, this, &OrderEntryPanel::tellStatus);
   connect(&m_desk, &Desk::changed, this, &OrderEntryPanel::showLines);
   connect(&m_desk, &Desk::stopped, this, &OrderEntryPanel::showStoppedLine);
 }
@@ -142,7 +145,7 @@ void OrderEntryPanel::focusText() {
 
 void OrderEntryPanel::focusList() {
   if (m_list->count() == 0) return;
-  if (m_list->currentRow() < 0) m_list->setCurrentRow(m_list->count() - 1);
+  if (m_list->selectedItems().isEmpty()) m_list->setCurrentRow(m_list->count() - 1);
   m_list->setFocus();
 }
 
@@ -184,8 +187,8 @@ void OrderEntryPanel::showStoppedLine() {
 
 void OrderEntryPanel::tellStatus() {
   if (m_desk.game().Stage != m_stage) return;
-  const QListWidgetItem* current = m_list->currentItem();
-  const QString reason = current == nullptr ? QString() : current->toolTip();
+  const QList<QListWidgetItem*> selected = m_list->selectedItems();
+  const QString reason = selected.isEmpty() ? QString() : selected.first()->toolTip();
   emit statusText(reason.split(QLatin1Char('\n')).join(QStringLiteral("; ")));
 }
 
@@ -225,7 +228,7 @@ void OrderEntryPanel::deleteOrder() {
 
 void OrderEntryPanel::editSelectedOrder() {
   m_text->setText(m_list->currentItem()->text());
-  focusText();
+  startEntry();
 }
 
 std::string OrderEntryPanel::locationAt(const MapSpot& spot, std::string_view unitType) const {

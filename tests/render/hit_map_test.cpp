@@ -92,5 +92,20 @@ TEST(HitMap, PointsHitTheirPlaceAndAFleetGetsTheNearestCoast) {
   }
 }
 
+TEST(HitMap, AShipBesideItsCoastIsHitAsThatCoast) {
+  const model::GameState game = Board("Spring", "moves", {"FRA F(Spa.s)", "ENG F(Bul.e) <BLA"});
+  const HitMap hits = render::LoadHitMap(DataDirectory(), *game.Map, 1.2);
+  const auto hit = [&](std::string_view coast, float aside, std::string_view type) {
+    const model::Province& place = game.Map->Provinces[FindProvince(*game.Map, coast)];
+    const int row = hits.LocationAt(game, {place.UnitX + aside, place.UnitY}, type);
+    return game.Map->Provinces[row].Name;
+  };
+  EXPECT_EQ(hit("Spa.s", 0.01F, "F"), "Spa.s");
+  EXPECT_EQ(hit("Spa.s", 0.01F, "A"), "Spa");
+  EXPECT_EQ(hit("Spa.s", 0.012F, "F"), "WES");
+  EXPECT_EQ(hit("Spa.n", 0, "F"), "MAO") << "no ship there";
+  EXPECT_EQ(hit("Bul.e", 0, "F"), "BLA") << "drawn elsewhere while it is dislodged";
+}
+
 }  // namespace
 }  // namespace orb::tests

@@ -1,0 +1,104 @@
+#include "orders/click_entry.h"
+
+#include "support/situation.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace orb::orders {
+namespace {
+
+/// Clicks on these places one after the other; "Lon^" with Shift, "Lon*" with Ctrl, "Lon^*" both.
+OrderEntry ClickAll(const model::GameState& game, OrderEntry entry, std::string_view places) {
+  for (std::string place : tests::Words(places)) {
+    ClickKeys keys;
+    keys.Ctrl = place.ends_with('*');
+    if (keys.Ctrl) place.pop_back();
+    keys.Shift = place.ends_with('^');
+    if (keys.Shift) place.pop_back();
+    entry = ClickOrder(game, entry, place, keys);
+  }
+  return entry;
+}
+
+TEST(ClickEntry, ClicksWriteAnOrder) {
+  const model::GameState game = tests::Board(
+      "Spring", "moves",
+      {"ENG A(Lvp)", "ENG F(NTH)", "FRA F(Bre)", "RUS F(Stp.s)", "GER A(Bur) <Par", "FRA A(Bur)"});
+  struct Case {
+    const char* Clicks;
+    const char* Text;
+  };
+  const std::vector<Case> cases{{"Lvp Yor", "ENG A(Lvp) - Yor "},
+                                {"Lvp Lvp", "ENG A(Lvp) hold "},
+                                {"Lvp Yor Yor", "ENG A(Lvp) - Yor - Yor "},
+                                {"Lvp Yor Lvp", "ENG A(Lvp) - Yor hold "},
+                                {"Yor NAO Lvp", "ENG A(Lvp) "},
+                                {"Lvp Yor^*", "ENG A(Lvp) - Yor "},
+                                {"NTH^ Lvp Nwy", "ENG F(NTH) S A(Lvp) - Nwy "},
+                                {"NTH^ Yor Lvp Lvp", "ENG F(NTH) S A(Lvp) hold "},
+                                {"NTH^ Bre Bre", "ENG F(NTH) S FRA F(Bre) hold "},
+                                {"NTH* Lvp Nwy", "ENG F(NTH) C A(Lvp) - Nwy "},
+                                {"NTH^* Lvp", "ENG F(NTH) S C A(Lvp) "},
+                                {"NTH^ Lvp^ Bre NTH", "ENG F(NTH) S A(Lvp) S FRA F(Bre) - NTH "},
+                                {"Stp.n BOT", "RUS F(Stp.s) - BOT "},
+                                {"Stp Stp.s", "RUS F(Stp.s) hold "},
+                                {"Bur Mun", "FRA A(Bur) - Mun "}};
+  for (const Case& c : cases)
+    EXPECT_EQ(ClickAll(game, {}, c.Clicks).Text, c.Text) << c.Clicks;
+
+  EXPECT_EQ(ClickAll(game, {"ENG A(Lvp) - ", false, "Lvp"}, "Yor").Text, "ENG A(Lvp) - Yor ");
+  EXPECT_EQ(ClickAll(game, {"ENG F(NTH) S ", true, {}}, "Lvp").Text, "ENG F(NTH) S A(Lvp) ");
+}
+
+TEST(ClickEntry, ClicksWriteARetreat) {
+  const model::GameState game =
+      tests::Board("Spring", "retreats", {"ENG F(Stp.n) <Fin", "RUS A(Stp)", "GER A(Kie)"});
+  struct Case {
+    const char* Before;
+    const char* Click;
+    const char* After;
+  };
+  for (const Case& c :
+       std::vector<Case>{{"", "Stp", "ENG F(Stp.n) "},
+                         {"", "Kie", ""},
+                         {"ENG F(Stp.n) ", "BAR", "ENG F(Stp.n) retreat BAR"},
+                         {"ENG F(Stp.n) ", "Stp.s", "ENG F(Stp.n) disband "},
+                         {"ENG F(Stp.n) retreat ", "BAR", "ENG F(Stp.n) retreat BAR"},
+                         {"ENG F(Stp.n) disband ", "Nwy", "ENG F(Stp.n) retreat Nwy"}})
+    EXPECT_EQ(ClickRetreat(game, c.Before, c.Click), c.After) << c.Before << c.Click;
+}
+
+TEST(ClickEntry, ClicksWriteAnAdjustment) {
+  const model::GameState game =
+      tests::Board("Autumn", "adjustments", {"ENG A(Lvp)", "RUS F(Stp.s)"});
+  struct Case {
+    const char* Before;
+    const char* Click;
+    const char* After;
+  };
+  for (const Case& c : std::vector<Case>{{"", "Lon", "ENG build F(Lon)"},
+                                         {"ENG build F(Lon)", "Lvp", "ENG disband A(Lvp)"},
+                                         {"ENG disband A(Lvp)", "Stp.n", "RUS disband F(Stp.s)"},
+                                         {"ENG build F(Lon)", "Yor", "ENG build F(Lon)"},
+                                         {"", "Bel", ""},
+                                         {" build ", "Lvp", "ENG build F(Lvp)"},
+                                         {"RUS Build A(", "Stp.n", "RUS build F(Stp.n)"},
+                                         {"ENG disband ", "Lon", "ENG disband "}})
+    EXPECT_EQ(ClickAdjustment(game, c.Before, c.Click, "F"), c.After) << c.Before << c.Click;
+}
+
+TEST(ClickEntry, TheTypeOfAUnitIsReadAndReplaced) {
+  EXPECT_EQ(LastUnitType("ENG F(NTH) C A(Yor) - Nwy "), "A");
+  EXPECT_EQ(LastUnitType("ENG F(NTH)"), "F");
+  EXPECT_EQ(LastUnitType("ENG"), "");
+  EXPECT_EQ(WithUnitType("ENG build A(Lon)", "F"), "ENG build F(Lon)");
+  EXPECT_EQ(WithUnitType("ENG build F(", "A"), "ENG build A(");
+  EXPECT_EQ(WithUnitType("ENG build", "A"), "ENG build A(");
+  EXPECT_EQ(WithUnitType(" ", "A"), " ");
+}
+
+}  // namespace
+}  // namespace orb::orders

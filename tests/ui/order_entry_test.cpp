@@ -1,0 +1,228 @@
+#include "support/directories.h"
+#include "support/scripted_messages.h"
+#include "support/situation.h"
+#include "ui/adjustments_panel.h"
+#include "ui/order_marks.h"
+#include "ui/orders_panel.h"
+#include "ui/retreats_panel.h"
+
+#include <QAbstractButton>
+#include <QKeySequence>
+#include <QSignalSpy>
+#include <QTest>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace orb::tests {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+using ui::OrderMark;
+
+ui::Situation Start(model::GameState game) {
+  ui::Situation situation;
+  situation.game = std::move(game);
+  return situation;
+}
+
+/// A panel with its desk, alone in a window.
+template <class Panel>
+struct Entry {
+  explicit Entry(model::GameState game, std::vector<model::Answer> answers = {})
+      : messages(std::move(answers)),
+        desk(Start(std::move(game)), DataDirectory(), messages, nullptr),
+        panel(desk),
+        list(*panel.template findChild<QListWidget*>()),
+        text(*panel.template findChild<QLineEdit*>()) {
+    panel.show();
+    panel.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&panel));
+  }
+
+  void Press(const char* button) {
+    panel.template findChild<QAbstractButton*>(QLatin1String(button))->click();
+  }
+  void File(const char* order) {
+    text.setText(QLatin1String(order));
+    QTest::keyClick(&text, Qt::Key_Return);
+  }
+  void Click(std::string_view place, Qt::KeyboardModifiers modifiers = {}) {
+    const model::Map& map = *RealMap();
+    const auto hitMap = render::LoadHitMap(DataDirectory(), map, 1.2);
+    const model::Province& at = map.Provinces[FindProvince(map, place)];
+    panel.mapClicked({map, hitMap, {at.UnitX, at.UnitY}, modifiers});
+  }
+  std::string Text() const { return text.text().toStdString(); }
+  std::string Missing() const {
+    return panel.template findChild<ui::ElidedLabel*>()->text().toStdString();
+  }
+  OrderMark Mark(int row) const {
+    return static_cast<OrderMark>(list.item(row)->data(ui::OrderMarkRole).toInt());
+  }
+  std::string Tip(int row) const { return list.item(row)->toolTip().toStdString(); }
+
+  ScriptedMessages messages;
+  ui::Desk desk;
+  Panel panel;
+  QListWidget& list;
+  QLineEdit& text;
+};
+
+using OrdersEntry = Entry<ui::OrdersPanel>;
+using RetreatsEntry = Entry<ui::RetreatsPanel>;
+using AdjustmentsEntry = Entry<ui::AdjustmentsPanel>;
+
+TEST(OrderEntry, CommandsWriteOnAndLeaveTheCaretAtTheEnd) {
+  const auto check = [](auto entry, const std::vector<std::pair<const char*, const char*>>& cases) {
+    for (const auto& [button, text] : cases) {
+      entry->text.setText(QStringLiteral("ENG A(Lvp) "));
+      entry->text.home(false);
+      entry->list.setFocus();
+      entry->Press(button);
+      EXPECT_EQ(entry->Text(), text) << button;
+      EXPECT_TRUE(entry->text.hasFocus()) << button;
+      EXPECT_EQ(entry->text.cursorPosition(), entry->text.text().size()) << button;
+    }
+    QStringList keys;
+    for (const auto* button : entry->panel.template findChildren<QAbstractButton*>()) {
+      keys << QKeySequence::mnemonic(button->text()).toString();
+      EXPECT_FALSE(button->toolTip().isEmpty()) << button->objectName().toStdString();
+    }
+    EXPECT_EQ(keys.removeDuplicates() + keys.count(QString()), 0) << "each has its own mnemonic";
+  };
+  check(std::make_unique<OrdersEntry>(EmptyBoard("Spring", "moves")),
+        {{"butOrderMove", "ENG A(Lvp) - "},
+         {"butOrderHold", "ENG A(Lvp) hold "},
+         {"butOrderSupport", "ENG A(Lvp) S "},
+         {"butOrderConvoy", "ENG A(Lvp) C "},
+         {"butOrderCancel", ""}});
+  check(std::make_unique<RetreatsEntry>(EmptyBoard("Spring", "retreats")),
+        {{"butRetreatRetreat", "ENG A(Lvp) retreat "},
+         {"butRetreatDisband", "ENG A(Lvp) disband "},
+         {"butRetreatCancel", ""}});
+  check(std::make_unique<AdjustmentsEntry>(EmptyBoard("Autumn", "adjustments")),
+        {{"butAdjustmentBuild", "ENG A(Lvp)  build "},
+         {"butAdjustmentDisband", "ENG A(Lvp)  disband "},
+         {"optAdjustmentFleet", "ENG F(Lvp) "},
+         {"butAdjustmentCancel", ""}});
+}
+
+TEST(OrderEntry, KeysServeBothTheTextAndTheList) {
+  OrdersEntry entry(Board("Spring", "moves", {"ENG A(Lvp) hold", "ENG F(Lon) hold"}));
+  entry.panel.startEntry();
+  QTest::keyClick(&entry.text, Qt::Key_Up);
+  EXPECT_TRUE(entry.list.hasFocus());
+  EXPECT_EQ(entry.list.currentRow(), 1);
+  QTest::keyClick(&entry.list, Qt::Key_Up);
+  QTest::keyClick(&entry.list, Qt::Key_Return);
+  EXPECT_EQ(entry.Text(), "ENG A(Lvp) hold");
+  QTest::keyClick(&entry.text, Qt::Key_Escape);
+  EXPECT_EQ(entry.Text(), "");
+  entry.list.setFocus();
+  QTest::keyClick(&entry.list, Qt::Key_Delete);
+  EXPECT_EQ(entry.list.count(), 1);
+  EXPECT_TRUE(entry.text.hasFocus());
+  entry.list.setFocus();
+  QTest::keyClick(&entry.list, Qt::Key_Delete);
+  EXPECT_EQ(entry.list.count(), 1) << "no line is selected";
+}
+
+TEST(OrderEntry, ClicksOnTheMapWriteOrders) {
+  OrdersEntry entry(Board("Spring", "moves", {"ENG A(Lvp)", "ENG F(NTH)", "RUS F(Stp.s)"}));
+  entry.Click("NTH", Qt::ControlModifier);
+  entry.Click("Lvp");
+  entry.Click("Nwy");
+  EXPECT_EQ(entry.Text(), "ENG F(NTH) C A(Lvp) - Nwy ");
+  entry.Press("butOrderOK");
+  entry.Click("Stp.s");
+  entry.Click("Stp");
+  EXPECT_EQ(entry.Text(), "RUS F(Stp.s) hold ") << "its own place, not the other coast";
+  entry.Press("butOrderCancel");
+  entry.Click("Lvp");
+  entry.Press("butOrderSupport");
+  entry.Click("NTH");
+  entry.Press("butOrderMove");
+  entry.Click("Spa.s");
+  EXPECT_EQ(entry.Text(), "ENG A(Lvp) S F(NTH) - WES ") << "the buttons fit in between";
+
+  AdjustmentsEntry adjusting(Board("Autumn", "adjustments", {"ENG A(Lvp)"}));
+  adjusting.Press("optAdjustmentFleet");
+  adjusting.Click("Stp");
+  EXPECT_EQ(adjusting.Text(), "RUS build F(Stp.n)");
+  adjusting.Press("optAdjustmentArmy");
+  adjusting.Click("Stp");
+  EXPECT_EQ(adjusting.Text(), "RUS build A(Stp)");
+  adjusting.Click("Lvp");
+  EXPECT_EQ(adjusting.Text(), "ENG disband A(Lvp)");
+}
+
+TEST(OrderEntry, LinesAreMarkedAndMissingOrdersCounted) {
+  OrdersEntry entry(Board("Spring", "moves", {"ENG A(Lvp)", "ENG F(Lon)", "FRA A(Par)"}));
+  EXPECT_EQ(entry.Missing(), "3 units without an order");
+  const QSignalSpy status(&entry.panel, &ui::OrderEntryPanel::statusText);
+  entry.File("ENG A(Lvp) - Mun");
+  EXPECT_EQ(entry.Mark(0), OrderMark::Doubtful);
+  EXPECT_THAT(entry.Tip(0), StartsWith("impossible move: "));
+  EXPECT_EQ(status.last().at(0).toString().toStdString(), entry.Tip(0));
+  entry.File("ENG F(Lon) - NTH");
+  EXPECT_EQ(entry.Mark(1), OrderMark::Passes);
+  EXPECT_EQ(status.last().at(0).toString(), "");
+  EXPECT_EQ(entry.Missing(), "1 unit without an order");
+
+  AdjustmentsEntry adjusting(Board("Autumn", "adjustments", {"ENG A(Lvp)", "FRA A(Par)"}));
+  EXPECT_EQ(adjusting.Missing(), "2 powers whose numbers do not fit");
+  adjusting.File("ENG disband A(Lvp)");
+  EXPECT_EQ(adjusting.Missing(), "1 power whose numbers do not fit");
+  adjusting.File("FRA disband A(Par)");
+  EXPECT_EQ(adjusting.Missing(), "The numbers of all powers fit");
+}
+
+TEST(OrderEntry, TheLineAtWhichResolvingStoppedIsShown) {
+  struct Case {
+    const char* Stage;
+    std::vector<std::string> Lines;
+    std::vector<model::Answer> Answers;
+    int Row;
+    const char* Result;
+  };
+  constexpr auto Yes = model::Answer::Yes;
+  constexpr auto No = model::Answer::No;
+  const std::vector<std::string> moves{"> nonsense", "ENG A(Lvp) - Mun", "> ENG A(Yor) hold",
+                                       "> nonsense"};
+  const auto stop = [](const Case& c) {
+    auto entry = std::make_unique<OrdersEntry>(Board("Spring", c.Stage, c.Lines), c.Answers);
+    entry->Press("butOrdersResolve");
+    return entry;
+  };
+  for (const Case& c : std::vector<Case>{{"moves", moves, {No}, 0, "syntax error"},
+                                         {"moves", moves, {Yes, No}, 3, "syntax error"},
+                                         {"moves", moves, {Yes, Yes, No}, 2, "no such unit"},
+                                         {"moves", moves, {Yes, Yes, Yes, No}, 1, "impossible"}}) {
+    const auto entry = stop(c);
+    EXPECT_EQ(entry->list.currentRow(), c.Row);
+    EXPECT_EQ(entry->Mark(c.Row), OrderMark::Stopped);
+    EXPECT_THAT(entry->Tip(c.Row), HasSubstr(std::string("stopped here: ") + c.Result));
+    entry->desk.setViewOnly(false);
+    EXPECT_EQ(entry->Mark(c.Row), OrderMark::Stopped) << "until the list changes";
+    entry->File("ENG F(Lon) hold");
+    EXPECT_EQ(entry->Mark(c.Row), OrderMark::Doubtful);
+  }
+  const auto unordered = stop({"moves", {"ENG A(Lvp)", "FRA A(Par) hold"}, {No}, 0, ""});
+  EXPECT_FALSE(unordered->desk.now().stoppedLine) << "it has no line";
+
+  model::GameState game =
+      Board("Autumn", "adjustments", {"> ENG build A(Lon)", "> nonsense", "> ENG build F(Lon)"});
+  Own(game, "ENG Lon");
+  AdjustmentsEntry adjusting(game, {Yes, Yes, No});
+  adjusting.Press("butAdjustmentsResolve");
+  EXPECT_EQ(adjusting.list.currentRow(), 2) << "the latter of two that clash";
+}
+
+}  // namespace
+}  // namespace orb::tests
