@@ -6,6 +6,13 @@
 #include <QStyle>
 
 namespace orb::ui {
+namespace {
+
+bool isDark(const QColor& background) {
+  return background.lightness() < 128;
+}
+
+}  // namespace
 
 QPushButton* newButton(const QString& name, const QString& caption) {
   auto* button = new QPushButton(caption);
@@ -28,6 +35,14 @@ QAction* newEntry(QMenu& menu, const QString& name, const QString& caption,
   entry->setObjectName(name);
   entry->setShortcut(shortcut);
   return entry;
+}
+
+QColor failureColour(const QColor& background) {
+  return isDark(background) ? QColor(0xff, 0x8f, 0x80) : QColor(0xb0, 0x1c, 0x14);
+}
+
+QColor doubtColour(const QColor& background) {
+  return isDark(background) ? QColor(0xf0, 0xb4, 0x3c) : QColor(0x9c, 0x62, 0x00);
 }
 
 bool showTexts(QListWidget& box, const std::vector<std::string>& texts) {

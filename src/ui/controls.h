@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QColor>
 #include <QKeySequence>
 #include <QLabel>
 #include <QListWidget>
@@ -22,6 +23,11 @@ QLabel* newHeading(const QString& text);
 /// An entry at the end of a menu.
 QAction* newEntry(QMenu& menu, const QString& name, const QString& caption,
                   const QKeySequence& shortcut = {});
+
+/// A red and an amber that can be read on this background, light or dark: something failed,
+/// something is in doubt.
+QColor failureColour(const QColor& background);
+QColor doubtColour(const QColor& background);
 
 /// Fills a list box with 8-bit texts; false, nothing touched, when it shows them already.
 bool showTexts(QListWidget& box, const std::vector<std::string>& texts);

@@ -1,5 +1,7 @@
 #include "ui/order_marks.h"
 
+#include "ui/controls.h"
+
 #include <QApplication>
 #include <QPainter>
 #include <QPainterPath>
@@ -27,12 +29,11 @@ MarkColours coloursOf(OrderMark mark, const QStyleOptionViewItem& item) {
             item.palette.color(group, QPalette::Highlight)};
   }
   const QColor background = item.palette.color(group, QPalette::Base);
-  const bool dark = background.lightness() < 128;
   switch (mark) {
     case OrderMark::Doubtful:
-      return {dark ? QColor(0xf0, 0xb4, 0x3c) : QColor(0x9c, 0x62, 0x00), background};
+      return {doubtColour(background), background};
     case OrderMark::Stopped:
-      return {dark ? QColor(0xff, 0x8f, 0x80) : QColor(0xb0, 0x1c, 0x14), background};
+      return {failureColour(background), background};
     default:
       return {item.palette.color(group, QPalette::PlaceholderText), background};
   }

@@ -15,12 +15,6 @@ namespace {
 
 constexpr int ReasonLines = 4;
 
-/// A red that can be read on the background of the palette, light or dark.
-QColor failedColour(const QPalette& palette) {
-  const bool dark = palette.color(QPalette::Base).lightness() < 128;
-  return dark ? QColor(0xff, 0x8f, 0x80) : QColor(0xb0, 0x1c, 0x14);
-}
-
 }  // namespace
 
 ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
@@ -88,7 +82,8 @@ void ReportPanel::colourLines() {
   const std::vector<ReportNote>& notes = m_desk.now().reportNotes;
   for (int row = 0; row < m_lines->count(); ++row) {
     const bool failed = notes.at(static_cast<std::size_t>(row)).failed;
-    m_lines->item(row)->setForeground(failed ? failedColour(palette()) : QBrush());
+    const QColor background = palette().color(QPalette::Base);
+    m_lines->item(row)->setForeground(failed ? failureColour(background) : QBrush());
   }
 }
 
