@@ -106,9 +106,9 @@ void LinkOrders(OrderTable& orders) {
 
 }  // namespace
 
-bool IsPossibleMove(const model::Map& map, const Unit& unit, const OrderLine& order) {
-  return CanStandIn(map, unit.UnitType, order.Target) &&
-         (order.ViaConvoy || IsAdjacent(map, unit.UnitType, unit.Location, order.Target));
+bool IsPossibleMove(const model::Map& map, std::string_view unitType, std::string_view from,
+                    std::string_view to, bool viaConvoy) {
+  return CanStandIn(map, unitType, to) && (viaConvoy || IsAdjacent(map, unitType, from, to));
 }
 
 bool RefersTo(const OrderLine& order, const OrderLine& other) {
@@ -129,7 +129,8 @@ bool CheckImpossibleOrders(const GameState& game, OrderTable& orders, Messages& 
   const model::Map& map = *game.Map;
   for (OrderLine& order : orders) {
     if (!order.Active || !IsMove(order)) continue;
-    if (IsPossibleMove(map, game.Units[order.UnitIndex], order)) continue;
+    const Unit& unit = game.Units[order.UnitIndex];
+    if (IsPossibleMove(map, unit.UnitType, unit.Location, order.Target, order.ViaConvoy)) continue;
     if (!RejectWithWarning(order, "impossible move", messages)) return false;
   }
   for (OrderLine& order : orders) {

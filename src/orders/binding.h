@@ -21,8 +21,10 @@ bool BindOrdersToUnits(model::GameState& game, OrderTable& orders, model::Messag
 bool CheckImpossibleOrders(const model::GameState& game, OrderTable& orders,
                            model::Messages& messages);
 
-/// Whether the unit can go where the move says: over a connection of its type, or by a convoy.
-bool IsPossibleMove(const model::Map& map, const model::Unit& unit, const OrderLine& order);
+/// Whether a unit of the type can get there by one move: over a connection of its type, or by a
+/// convoy.
+bool IsPossibleMove(const model::Map& map, std::string_view unitType, std::string_view from,
+                    std::string_view to, bool viaConvoy);
 
 /// Whether the support or convoy describes the unit that the other order is for.
 bool RefersTo(const OrderLine& order, const OrderLine& other);

@@ -2,7 +2,7 @@
 
 #include "model/seasons.h"
 #include "orders/binding.h"
-#include "orders/parser.h"
+#include "orders/entered_orders.h"
 #include "render/drawing.h"
 #include "render/unit_matching.h"
 
@@ -104,28 +104,14 @@ GameState StartOf(const GameState& game, const std::vector<UnitChange>& changes)
   return start;
 }
 
-/// The moves and convoys in the list of a situation whose moves are still to be resolved.
+/// The orders in the list of a situation whose moves are still to be resolved, but for impossible
+/// moves.
 std::vector<OrderOutcome> ListedOrders(const GameState& game) {
-  auto lines = game.OrdersList;
-  lines.resize(std::min<std::size_t>(lines.size(), orders::OrderBound));
-  orders::OrderTable table;
-  orders::SetOrderTexts(std::move(lines), table);
-  orders::ParseOrders(table);
-  std::vector<OrderOutcome> listed;
-  for (orders::OrderLine& order : table) {
-    const bool isConvoy = orders::IsConvoy(order);
-    if (!isConvoy && !orders::IsMove(order)) continue;
-    if (orders::FindSyntaxFault(*game.Map, order) != orders::SyntaxFault::None) continue;
-    order.ViaConvoy = std::any_of(table.begin(), table.end(), [&](const auto& convoy) {
-      return orders::IsConvoy(convoy) && orders::RefersTo(convoy, order) &&
-             convoy.Target2 == order.Target;
-    });
-    const Unit unit{order.Power, order.UnitType, order.Location, {}, {}, {}, 0};
-    if (!isConvoy && !orders::IsPossibleMove(*game.Map, unit, order)) continue;
-    listed.push_back({order.Power, order.UnitType, order.Location, order.Kind,
-                      isConvoy ? order.Target : std::string(),
-                      isConvoy ? order.Target2 : order.Target, order.ViaConvoy, Outcome::Entered});
-  }
+  std::vector<OrderOutcome> listed = orders::EnteredOrders(game);
+  std::erase_if(listed, [&](const OrderOutcome& order) {
+    return order.Kind == "-" && !orders::IsPossibleMove(*game.Map, order.UnitType, order.Location,
+                                                        order.Destination, order.ViaConvoy);
+  });
   return listed;
 }
 

@@ -1,10 +1,10 @@
 #include "render/animation_view.h"
 
 #include "render/drawing.h"
+#include "render/paths.h"
 #include "render/symbols.h"
 
 #include <algorithm>
-#include <cmath>
 #include <vector>
 
 namespace orb::render {
@@ -80,24 +80,6 @@ Point Between(Point from, Point to, double part) {
   return {Between(from.X, to.X, part), Between(from.Y, to.Y, part)};
 }
 
-double Length(Point from, Point to) {
-  return std::hypot(to.X - from.X, to.Y - from.Y);
-}
-
-/// The point that lies at a part 0..1 of the way through all points.
-Point Along(const std::vector<Point>& way, double part) {
-  double length = 0;
-  for (std::size_t i = 1; i < way.size(); ++i)
-    length += Length(way[i - 1], way[i]);
-  double left = part * length;
-  for (std::size_t i = 1; i < way.size(); ++i) {
-    const double leg = Length(way[i - 1], way[i]);
-    if (left < leg) return Between(way[i - 1], way[i], left / leg);
-    left -= leg;
-  }
-  return way.back();
-}
-
 /// Units stand below those that move, dislodged ones lie on top.
 enum class Layer { Standing, Moving, Aside };
 
@@ -116,16 +98,16 @@ void Bring(Pose& pose, Point to, double scale, double part) {
 
 void MoveUnit(const model::Map& map, const Journey& journey, double part, Pose& pose) {
   if (journey.Aim.empty()) return;
-  std::vector<Point> way = {pose.At};
+  Path way = {pose.At};
   for (const std::string& fleet : journey.Fleets)
     way.push_back(UnitPoint(PlaceOf(map, fleet)));
   way.push_back(UnitPoint(PlaceOf(map, journey.Aim)));
+  double gone = Eased(part);
   if (journey.Bounces) {
     const double done = journey.Dislodged ? std::min(1.0, part / PushStart) : part;
-    pose.At = Along(way, Eased(done < 0.5 ? 2 * done : 2 - 2 * done) / 2);
-  } else {
-    pose.At = Along(way, Eased(part));
+    gone = Eased(done < 0.5 ? 2 * done : 2 - 2 * done) / 2;
   }
+  pose.At = SpotAt(way, gone * LengthOf(way)).At;
   if (part > 0 && part < 1) pose.Layer = Layer::Moving;
 }
 

@@ -1,7 +1,7 @@
 #include "render/journeys.h"
 
 #include "model/text.h"
-#include "render/drawing.h"
+#include "render/convoys.h"
 
 #include <algorithm>
 
@@ -50,34 +50,11 @@ const OrderOutcome* FindRetreat(const Map& map, const UnitChange& unit, const Or
   return found == orders.end() ? nullptr : &*found;
 }
 
-/// The fleets ordered to convoy the move, sorted along the straight line of its way.
-std::vector<std::string> FindFleets(const Map& map, const OrderOutcome& move,
-                                    const Orders& orders) {
-  std::vector<std::string> fleets;
-  if (!move.ViaConvoy) return fleets;
-  for (const OrderOutcome& order : orders) {
-    if (order.Kind == "C" && order.Outcome != Outcome::Void &&
-        order.OtherLocation == move.Location && order.Destination == move.Destination &&
-        model::FindProvince(map, order.Location) != 0) {
-      fleets.push_back(order.Location);
-    }
-  }
-  const Point from = UnitPoint(PlaceOf(map, move.Location));
-  const Point to = UnitPoint(PlaceOf(map, move.Destination));
-  const auto along = [&](const std::string& fleet) {
-    const Point at = UnitPoint(PlaceOf(map, fleet));
-    return (at.X - from.X) * (to.X - from.X) + (at.Y - from.Y) * (to.Y - from.Y);
-  };
-  std::stable_sort(fleets.begin(), fleets.end(),
-                   [&](const std::string& a, const std::string& b) { return along(a) < along(b); });
-  return fleets;
-}
-
 void SetMove(const Map& map, const UnitChange& unit, const Orders& orders, Journey& journey) {
   const OrderOutcome* move = FindMove(map, unit, orders);
   if (move != nullptr) {
     journey.Aim = move->Destination;
-    journey.Fleets = FindFleets(map, *move, orders);
+    journey.Fleets = FleetsOf(map, *move, orders);
     journey.Bounces = !Served(*move, unit);
   }
   const std::string& moved = move == nullptr || journey.Bounces ? unit.From : journey.Aim;

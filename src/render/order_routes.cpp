@@ -1,6 +1,7 @@
 #include "render/order_routes.h"
 
 #include "model/text.h"
+#include "render/convoys.h"
 #include "render/drawing.h"
 #include "render/order_strokes.h"
 
@@ -73,12 +74,6 @@ bool CanBeDrawn(const model::Map& map, const OrderOutcome& order) {
   return order.Kind == "S" && known(order.OtherLocation);
 }
 
-/// Whether a support or convoy is for this move.
-bool IsFor(const OrderOutcome& order, const OrderOutcome& move) {
-  return IsMove(move) && order.OtherLocation == move.Location &&
-         SamePlace(order.Destination, move.Destination);
-}
-
 const std::string& EndOf(const OrderOutcome& order) {
   return order.Kind == "S" ? order.OtherLocation : order.Destination;
 }
@@ -92,9 +87,9 @@ double SupportedPart(const Way& move) {
 /// Finds the lines of all routes; those of supports come last, since they end on other lines.
 class Router {
  public:
-  Router(const Surface& surface, const model::Map& map, const std::vector<LabelBoxes>& labels,
-         std::vector<OrderRoute>& routes)
-      : surface_(surface), map_(map), labels_(labels), routes_(routes) {}
+  Router(const Surface& surface, const model::Map& map, std::span<const OrderOutcome> orders,
+         const std::vector<LabelBoxes>& labels, std::vector<OrderRoute>& routes)
+      : surface_(surface), map_(map), orders_(orders), labels_(labels), routes_(routes) {}
 
   void FindWays() {
     for (OrderRoute& route : routes_) {
@@ -129,29 +124,13 @@ class Router {
   Path StopsOf(const OrderRoute& route, bool hasOpposite) const {
     const OrderOutcome& order = *route.Order;
     Path stops = {route.Unit};
-    if (order.ViaConvoy) AddFleets(order, stops);
+    for (const std::string& fleet : FleetsOf(map_, order, orders_))
+      stops.push_back(UnitAt(fleet));
     stops.push_back(UnitAt(EndOf(order)));
     const Point right = Right(Towards(stops.front(), stops.back()));
     for (Point& stop : stops)
       stop = Moved(stop, right, hasOpposite ? SideStep : 0);
     return stops;
-  }
-
-  /// From one fleet to the one nearest to it, whatever the order of the orders.
-  void AddFleets(const OrderOutcome& move, Path& stops) const {
-    std::vector<Point> fleets;
-    for (const OrderRoute& route : routes_) {
-      const OrderOutcome& order = *route.Order;
-      if (order.Kind == "C" && order.Outcome != Outcome::Void && IsFor(order, move)) {
-        fleets.push_back(UnitAt(order.Location));
-      }
-    }
-    while (!fleets.empty()) {
-      const auto next = std::ranges::min_element(
-          fleets, {}, [&stops](Point fleet) { return Distance(stops.back(), fleet); });
-      stops.push_back(*next);
-      fleets.erase(next);
-    }
   }
 
   bool HasOpposite(const OrderOutcome& order) const {
@@ -233,7 +212,7 @@ class Router {
   /// The move that a support or convoy is for; nothing when no order goes it.
   const OrderRoute* FindMove(const OrderOutcome& order) const {
     const auto move = std::ranges::find_if(routes_, [&order](const OrderRoute& other) {
-      return IsFor(order, *other.Order) && !other.Way.Line.empty();
+      return IsForMove(order, *other.Order) && !other.Way.Line.empty();
     });
     return move == routes_.end() ? nullptr : &*move;
   }
@@ -259,6 +238,7 @@ class Router {
 
   const Surface& surface_;
   const model::Map& map_;
+  std::span<const OrderOutcome> orders_;
   const std::vector<LabelBoxes>& labels_;
   std::vector<OrderRoute>& routes_;
 };
@@ -279,7 +259,7 @@ std::vector<OrderRoute> RoutesOf(const Surface& surface, const model::GameState&
     if (!CanBeDrawn(*game.Map, order)) continue;
     routes.push_back({&order, model::FindCountry(order.Power), {}, {}, {}, 0});
   }
-  Router(surface, *game.Map, labels, routes).FindWays();
+  Router(surface, *game.Map, orders, labels, routes).FindWays();
   return routes;
 }
 

@@ -219,9 +219,8 @@ TEST(ReplayBetween, MatchesUnits) {
        Situation("moves", {"FRA A(Par)", "FRA F(Bre)"}),
        Situation("moves", {"FRA A(Bur)", "FRA F(MAO)"}, "", "Autumn"),
        {"FRA A(Par) - Bur", "FRA F(Bre) - MAO"}}};
-  for (const Case& test : cases)
-    EXPECT_EQ(Journeys(render::ReplayBetween(test.Earlier, test.Later)), test.Journeys)
-        << test.Name;
+  for (const auto& [name, earlier, later, journeys] : cases)
+    EXPECT_EQ(Journeys(render::ReplayBetween(earlier, later)), journeys) << name;
 }
 
 /// Where the armies' discs are drawn, and their radius.

@@ -43,7 +43,7 @@ std::vector<GameState> ExampleGame() {
   return games;
 }
 
-std::vector<render::AnimationFrame> Decoded(std::string bytes) {
+std::vector<render::AnimationFrame> Decoded(const std::string& bytes) {
   QByteArray data = QByteArray::fromStdString(bytes);
   QBuffer buffer(&data);
   QImageReader reader(&buffer, "gif");

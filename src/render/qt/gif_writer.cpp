@@ -99,6 +99,8 @@ QRect GifWriter::FindChanges(const QImage& picture) {
 }
 
 void GifWriter::Add(const QImage& picture, int hundredths) {
+  // A background that was exchanged meanwhile changes the size of the map.
+  Require(picture.size() == size_ ? GIF_OK : GIF_ERROR);
   const QRect part = FindChanges(picture);
   shown_ = picture;
   if (part.isEmpty()) {

@@ -26,7 +26,7 @@ class GifWriter {
   GifWriter(QSize size, Palette palette);
 
   /// Adds a frame of 32 bits a pixel, shown for some hundredths of a second. One that looks like
-  /// the frame before it prolongs that one.
+  /// the frame before it prolongs that one. Throws FileError for a picture of another size.
   void Add(const QImage& picture, int hundredths);
 
   /// The bytes of the file; nothing can be added after that.
