@@ -285,5 +285,27 @@ TEST(Map, IsDrawnInTheFormatOfItsExtension) {
   EXPECT_EQ(desk.Read("m.BMP").substr(18, 2), "\x90\x01");
 }
 
+TEST(Map, ShowsTheOrdersOfAFile) {
+  const Desk desk;
+  desk.Write("a.orb", TwoUnitGame());
+  desk.Write("o.txt", "ENG F(Lon) - NTH\nnonsense\n");
+  desk.Write("none.txt", "\n \n");
+  desk.MakeDirectory("orders");
+  const auto drawn = [&desk](const std::string& options) {
+    const Outcome outcome = desk.Run("map --width 300 -o @m.bmp " + options + "@a.orb");
+    EXPECT_EQ(outcome.Err + outcome.Out, "");
+    return desk.Read("m.bmp");
+  };
+  const std::string plain = drawn("");
+  EXPECT_NE(drawn("--orders @o.txt "), plain);
+  EXPECT_EQ(drawn("--orders @none.txt "), plain);
+  EXPECT_EQ(drawn("--orders @orders "), plain) << "no file in the directory";
+  EXPECT_EQ(desk.Run("map --orders @gone.txt -o @n.bmp @a.orb").Status, 1);
+  desk.Write("f.orb", GameFile("Spring", "finished", "ENG F(Lon)"));
+  EXPECT_EQ(desk.Run("map --orders @o.txt -o @n.bmp @f.orb").Err,
+            "@f.orb: There are no orders to draw in the stage \"finished\".\n");
+  EXPECT_EQ(desk.Read("n.bmp"), "none");
+}
+
 }  // namespace
 }  // namespace orb::tests

@@ -1,0 +1,194 @@
+#include "render/order_drawing.h"
+
+#include "orders/entered_orders.h"
+#include "render/drawing.h"
+#include "render/recorder.h"
+#include "support/situation.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace orb::tests {
+namespace {
+
+using model::GameState;
+using orders::OrderOutcome;
+using orders::Outcome;
+using Orders = std::vector<OrderOutcome>;
+
+constexpr double MovePen = 2.2;
+
+/// The black-and-white map of a situation with these orders, or with those of its list.
+struct DrawnOrders : Recorder {
+  explicit DrawnOrders(const GameState& game) : DrawnOrders(game, orders::EnteredOrders(game)) {}
+  DrawnOrders(const GameState& game, const Orders& orders) {
+    RenderMap(game, {render::MapMode::BlackWhite}, "dir", *this, orders);
+  }
+};
+
+render::Point UnitAt(std::string_view place) {
+  return render::OnSurface(Recorder(), render::UnitPoint(render::PlaceOf(*RealMap(), place)));
+}
+
+/// How far a point lies to the right of the line from one unit to another one.
+double RightOf(render::Point point, std::string_view from, std::string_view to) {
+  const render::Point along = render::Towards(UnitAt(from), UnitAt(to));
+  const render::Point start = UnitAt(from);
+  return (point.Y - start.Y) * along.X - (point.X - start.X) * along.Y;
+}
+
+double DistanceTo(render::Point point, const Stroke& line) {
+  const render::Path path = line.Points;
+  double nearest = render::Distance(point, path[0]);
+  for (double at = 0; at <= render::LengthOf(path); at += 1)
+    nearest = std::min(nearest, render::Distance(point, render::SpotAt(path, at).At));
+  return nearest;
+}
+
+/// The dots where supports end; those of supply centres have a pen of 1.
+std::vector<Stroke> EndDots(const Recorder& surface) {
+  auto dots = surface.All("circle");
+  std::erase_if(dots, [](const Stroke& dot) { return dot.Width != 45 || dot.Pen == 1; });
+  return dots;
+}
+
+/// All that was drawn but for its colours.
+std::string Form(const Recorder& surface) {
+  std::string form;
+  for (const Stroke& stroke : surface.Strokes) {
+    form += stroke.Kind + std::to_string(stroke.Pen) + std::to_string(stroke.Width);
+    for (const render::Point& point : stroke.Points)
+      form.append(" ").append(At(point));
+  }
+  return form;
+}
+
+TEST(OrderDrawing, OutcomesDifferInForm) {
+  struct Case {
+    std::string Stage;
+    std::vector<std::string> Lines;
+  };
+  const std::vector<Case> cases = {{"moves", {"FRA A(Par) - Bur"}},
+                                   {"moves", {"FRA A(Par) - Par"}},
+                                   {"moves", {"FRA A(Par) hold"}},
+                                   {"moves", {"FRA A(Gas) S A(Mar) hold"}},
+                                   {"moves", {"FRA A(Gas) S A(Mar) - Bur", "FRA A(Mar) - Bur"}},
+                                   {"moves", {"FRA A(Gas) S A(Mar) - Bur"}},
+                                   {"moves", {"FRA F(GOL) C A(Mar) - Pie", "FRA A(Mar) - Pie"}},
+                                   {"retreats", {"FRA A(Par) <Bur RETREAT Pic", "GER A(Par)"}},
+                                   {"retreats", {"FRA A(Par) <Bur DISBAND", "GER A(Par)"}},
+                                   {"adjustments", {"> FRA BUILD A(Par)"}}};
+  for (const Case& test : cases) {
+    SCOPED_TRACE(test.Lines[0]);
+    const GameState game = Board("Autumn", test.Stage, test.Lines);
+    std::set<std::string> forms = {Form(DrawnOrders(game, {}))};
+    Orders orders = orders::EnteredOrders(game);
+    ASSERT_FALSE(orders.empty());
+    std::vector<Outcome> outcomes = {Outcome::Succeeded, Outcome::Failed, Outcome::Void};
+    if (orders[0].Kind == "S") outcomes.push_back(Outcome::Cut);
+    if (orders[0].Kind == "DISBAND") std::erase(outcomes, Outcome::Failed);
+    for (const Outcome outcome : outcomes) {
+      orders[0].Outcome = outcome;
+      EXPECT_TRUE(forms.insert(Form(DrawnOrders(game, orders))).second)
+          << static_cast<int>(outcome);
+    }
+  }
+}
+
+TEST(OrderDrawing, NothingIsDrawnOfWhatHasNoPlaceOrIsNoNews) {
+  const GameState game = Board("Spring", "moves", {"FRA A(Par)", "FRA A(Mar)"});
+  const std::string plain = Form(DrawnOrders(game, {}));
+  const Orders orders = {{"FRA", "A", "Xyz", "HOLD", "", ""},   {"XYZ", "A", "Par", "HOLD", "", ""},
+                         {"FRA", "A", "Par", "-", "", "(X)"},   {"FRA", "A", "Par", "S", "Xyz", ""},
+                         {"FRA", "A", "Par", "S", "Mar", "Xy"}, {"FRA", "A", "Par", "C", "Mar", ""},
+                         {"FRA", "A", "Par", "JUMP", "", "Bur"}};
+  for (const OrderOutcome& order : orders)
+    EXPECT_EQ(Form(DrawnOrders(game, {order})), plain) << order.Location + order.Kind;
+  OrderOutcome hold = {"FRA", "A", "Par", "HOLD", "", "", false, Outcome::Succeeded, true};
+  EXPECT_EQ(Form(DrawnOrders(game, {hold})), plain);
+  hold.Outcome = Outcome::Failed;
+  EXPECT_NE(Form(DrawnOrders(game, {hold})), plain);
+}
+
+TEST(OrderDrawing, TwoUnitsThatMoveAtEachOtherGiveTwoArrows) {
+  const GameState game = Board("Spring", "moves", {"FRA A(Bur) - Mun", "GER A(Mun) - Bur"});
+  const DrawnOrders surface(game);
+  const auto lines = surface.All("line", MovePen);
+  ASSERT_GE(lines.size(), 2U);
+  EXPECT_GT(RightOf(lines.front().Points[0], "Bur", "Mun"), 60);
+  EXPECT_LT(RightOf(lines.back().Points[1], "Bur", "Mun"), -60);
+  EXPECT_EQ(surface.All("polygon").size(), 2U) << "heads";
+}
+
+TEST(OrderDrawing, SupportsEndAtTheMoveOrUnitTheySupport) {
+  const DrawnOrders surface(Board("Spring", "moves",
+                                  {"FRA A(Mar) - Bur", "FRA A(Gas) S A(Mar) - Bur",
+                                   "ITA A(Pie) S FRA A(Mar) - Bur", "RUS A(War) S A(Ukr) hold"}));
+  const auto lines = surface.All("line", MovePen);
+  const auto dots = EndDots(surface);
+  ASSERT_EQ(dots.size(), 3U);
+  for (const std::size_t i : {0U, 1U}) {
+    EXPECT_TRUE(std::ranges::any_of(
+        lines, [&](const Stroke& line) { return DistanceTo(dots[i].Points[0], line) < 2; }));
+  }
+  EXPECT_NEAR(render::Distance(dots[2].Points[0], UnitAt("Ukr")), 165, 1);
+}
+
+TEST(OrderDrawing, ConvoyedMovesPassThroughTheirFleetsInTurn) {
+  const DrawnOrders surface(
+      Board("Spring", "moves",
+            {"ENG A(Lon) - Bre", "FRA F(MAO) C ENG A(Lon) - Bre", "ENG F(ECH) C A(Lon) - Bre"}));
+  std::vector<std::string> ends;
+  for (const Stroke& line : surface.All("line", MovePen))
+    ends.push_back(At(line.Points[1]));
+  ASSERT_GE(ends.size(), 3U);
+  EXPECT_EQ(ends[0] + ends[1], At(UnitAt("ECH")) + At(UnitAt("MAO")));
+}
+
+TEST(OrderDrawing, LabelsComeBackOverLines) {
+  const GameState game = Board("Spring", "moves", {});
+  const Orders longMove = {{"RUS", "A", "Mos", "-", "", "Por"}};
+  const auto last = [](const Recorder& surface) {
+    return std::ranges::find_if(surface.Strokes.rbegin(), surface.Strokes.rend(),
+                                [](const Stroke& stroke) { return stroke.Kind == "text"; });
+  };
+  const DrawnOrders surface(game, longMove);
+  EXPECT_NE(last(surface)->Text, "before moves") << "the last text of the plain map";
+  EXPECT_EQ(last(surface)->Fore, render::Black);
+  // Its seam, all around it.
+  const auto label = last(surface);
+  for (int i = 1; i <= 8; ++i)
+    EXPECT_TRUE((label + i)->Fore == render::White || (label + i)->Kind == "circle");
+}
+
+TEST(OrderDrawing, AttacksAreNotDrawnTwice) {
+  const GameState game = Board("Spring", "retreats", {"GER A(Bur) <Mun", "FRA A(Bur)"});
+  Orders orders = {{"FRA", "A", "Mun", "-", "", "Bur", false, Outcome::Succeeded}};
+  EXPECT_EQ(DrawnOrders(game, {}).All("line", 5).size(), 1U);
+  EXPECT_EQ(DrawnOrders(game, orders).All("line", 5).size(), 0U);
+  orders[0].Location = "Ruh";
+  EXPECT_EQ(DrawnOrders(game, orders).All("line", 5).size(), 1U);
+}
+
+TEST(OrderDrawing, DisbandsCrossOutTheUnitWhereItLies) {
+  const OrderOutcome disband = {"GER", "A", "Bur", "DISBAND", "", ""};
+  const auto crossed = [&disband](const std::vector<std::string>& units) {
+    const auto lines =
+        DrawnOrders(Board("Spring", "finished", units), {disband}).All("line", MovePen);
+    return render::SpotAt(lines.at(0).Points, render::LengthOf(lines.at(0).Points) / 2).At;
+  };
+  const render::Point label =
+      render::OnSurface(Recorder(), render::LabelPoint(render::PlaceOf(*RealMap(), "Bur")));
+  EXPECT_EQ(At(crossed({"GER A(Bur)"})), At(UnitAt("Bur")));
+  EXPECT_EQ(At(crossed({})), At(UnitAt("Bur"))) << "removed in the adjustments";
+  EXPECT_EQ(At(crossed({"FRA A(Bur)", "GER A(Bur) <Mun"})), At(label));
+  EXPECT_EQ(At(crossed({"FRA A(Bur)"})), At(label)) << "disbanded instead of a retreat";
+}
+
+}  // namespace
+}  // namespace orb::tests
