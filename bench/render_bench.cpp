@@ -1,5 +1,8 @@
+#include "model/files.h"
+#include "model/game_file.h"
 #include "model/map_files.h"
 #include "model/new_game.h"
+#include "orders/entered_orders.h"
 #include "render/map_view.h"
 #include "render/qt/map_file.h"
 #include "render/qt/painter_surface.h"
@@ -8,6 +11,8 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <benchmark/benchmark.h>
+
+#include <stdexcept>
 
 namespace orb {
 namespace {
@@ -37,10 +42,19 @@ model::GameState FullBoard() {
   return game;
 }
 
-/// Drawing on an image of the given width, as the window does after every change.
-void DrawMap(benchmark::State& state, render::MapMode mode) {
-  const model::GameState game = FullBoard();
+/// A season of 34 units whose orders are in the list.
+model::GameState OrderedBoard() {
+  model::GameState game = model::EmptyGame(model::LoadMap(DataDirectory));
+  const std::filesystem::path file = ORB_SOURCE_DIR "/bench/data/midgame.orb";
+  if (model::ParseGameFile(model::ReadFile(file), file, game)) throw std::runtime_error("place");
+  return game;
+}
+
+/// Drawing on an image of the given width, as the window does after every change, with the orders
+/// of the list if there are any.
+void DrawMap(benchmark::State& state, render::MapMode mode, const model::GameState& game) {
   const render::MapOptions options{mode, true, true, true};
+  const std::vector<orders::OrderOutcome> orders = orders::EnteredOrders(game);
   render::PictureCache pictures;
   const auto width = static_cast<int>(state.range(0));
   QImage image = render::MapImage(game, options, DataDirectory, width, pictures);
@@ -49,7 +63,7 @@ void DrawMap(benchmark::State& state, render::MapMode mode) {
   while (state.KeepRunning()) {
     QPainter painter(&image);
     render::PainterSurface surface(painter, QRectF(image.rect()), twips, pictures);
-    render::RenderMap(game, options, DataDirectory, surface);
+    render::RenderMap(game, options, DataDirectory, surface, orders);
   }
 }
 
@@ -78,11 +92,14 @@ void DrawFrame(benchmark::State& state) {
   }
 }
 
-BENCHMARK_CAPTURE(DrawMap, Colour3D, render::MapMode::Colour3D)
+BENCHMARK_CAPTURE(DrawMap, Colour3D, render::MapMode::Colour3D, FullBoard())
     ->Arg(1000)
     ->Arg(2000)
     ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(DrawMap, BlackWhite, render::MapMode::BlackWhite)
+BENCHMARK_CAPTURE(DrawMap, Orders, render::MapMode::Colour3D, OrderedBoard())
+    ->Arg(1000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(DrawMap, BlackWhite, render::MapMode::BlackWhite, FullBoard())
     ->Arg(1000)
     ->Arg(2000)
     ->Unit(benchmark::kMillisecond);
