@@ -21,6 +21,8 @@ struct ProvinceState {
   std::string Owner;          ///< abbreviation of the power owning the centre; else unowned
   std::string PreviousOwner;  ///< Owner before the last moves; "unknown" when not recorded
   bool Uncontested = false;   ///< no move with positive strength was aimed at it last
+
+  bool operator==(const ProvinceState&) const = default;
 };
 
 /// One army or fleet.
@@ -32,6 +34,8 @@ struct Unit {
   std::string DislodgedFrom;     ///< where the dislodging attack came from
   std::string PreviousLocation;  ///< Location before the last moves; empty or "unknown": none
   std::int16_t OrderIndex = 0;   ///< its order while a resolution runs; never saved
+
+  bool operator==(const Unit&) const = default;
 };
 
 /// One game: everything that a game file holds, the lists of the three stages and the report.
