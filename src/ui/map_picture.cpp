@@ -2,6 +2,7 @@
 
 #include "model/errors.h"
 #include "render/qt/map_file.h"
+#include "render/qt/painter_surface.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -18,9 +19,6 @@ constexpr double TwipsPerPixel = 15;
 
 /// Beyond this the picture is enlarged rather than drawn larger: it would only cost memory.
 constexpr int LargestPicture = 4096;
-
-/// Radius of a mark in fractions of the map's width: it clears the symbol of a unit.
-constexpr double MarkRadius = 0.0145;
 
 }  // namespace
 
@@ -50,6 +48,11 @@ void MapPicture::setMarks(std::vector<std::string> locations) {
   update();
 }
 
+void MapPicture::setOverlay(MapOverlay overlay) {
+  m_overlay = std::move(overlay);
+  update();
+}
+
 int MapPicture::locationAt(QPointF position) {
   return spotAt(position, Qt::NoModifier).locationFor("A");
 }
@@ -67,7 +70,10 @@ void MapPicture::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawPixmap(QRectF(rect()), m_picture, QRectF(m_picture.rect()));
   }
-  paintMarks(painter);
+  render::PainterSurface surface(painter, QRectF(rect()), QSizeF(m_naturalSize) * TwipsPerPixel,
+                                 m_pictures);
+  paintMarks(surface);
+  if (m_overlay) m_overlay(painter, surface);
 }
 
 void MapPicture::drawAgain() {
@@ -79,21 +85,14 @@ void MapPicture::drawAgain() {
   }
 }
 
-void MapPicture::paintMarks(QPainter& painter) const {
-  painter.setRenderHint(QPainter::Antialiasing);
-  const double radius = MarkRadius * width();
+void MapPicture::paintMarks(render::Surface& surface) const {
   for (const std::string& location : m_marks) {
     const int row = model::FindProvince(*m_desk.game().Map, location);
     if (row == 0) continue;
     const model::Province& province = m_desk.game().Map->Provinces[row];
-    const QPointF centre(static_cast<double>(province.UnitX) * width(),
-                         static_cast<double>(province.UnitY) * height());
-    // The first is the order's own unit; white under black stands out from any land.
-    const double thickness = location == m_marks.front() ? 2.5 : 1.5;
-    painter.setPen(QPen(Qt::white, thickness + 2));
-    painter.drawEllipse(centre, radius, radius);
-    painter.setPen(QPen(Qt::black, thickness));
-    painter.drawEllipse(centre, radius, radius);
+    // The first is the order's own unit.
+    drawRing(surface, {province.UnitX, province.UnitY},
+             location == m_marks.front() ? BoldRing : ThinRing);
   }
 }
 
@@ -129,7 +128,7 @@ void MapPicture::mousePressEvent(QMouseEvent* event) {
 void MapPicture::mouseMoveEvent(QMouseEvent* event) {
   // The view scrolls with the middle button.
   event->setAccepted((event->buttons() & Qt::MiddleButton) == 0);
-  emit hovered(locationAt(event->position()));
+  hover(locationAt(event->position()));
   if (m_tool == nullptr || !m_pressed) return;
   const bool far =
       (event->position() - *m_pressed).manhattanLength() >= QApplication::startDragDistance();
@@ -162,7 +161,11 @@ void MapPicture::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void MapPicture::leaveEvent(QEvent* event) {
   QWidget::leaveEvent(event);
-  emit hovered(0);
+  hover(0);
+}
+
+void MapPicture::hover(int location) {
+  if (std::exchange(m_hovered, location) != location) emit hovered(location);
 }
 
 }  // namespace orb::ui

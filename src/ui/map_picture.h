@@ -2,6 +2,7 @@
 
 #include "render/qt/picture_cache.h"
 #include "ui/desk.h"
+#include "ui/map_overlay.h"
 #include "ui/map_tool.h"
 
 #include <QPixmap>
@@ -33,11 +34,14 @@ class MapPicture : public QWidget {
   /// Rings the units at these locations till the next call.
   void setMarks(std::vector<std::string> locations);
 
+  /// Paints over the map from now on, on a surface that lies over all of it; empty: no longer.
+  void setOverlay(MapOverlay overlay);
+
   /// The row of the location under a point of the widget, as an army sees it; 0: none.
   int locationAt(QPointF position);
 
  signals:
-  /// The mouse is over the location with this row now; 0: over none.
+  /// The mouse has come over the location with this row; 0: over none.
   void hovered(int location);
 
  protected:
@@ -51,8 +55,9 @@ class MapPicture : public QWidget {
  private:
   int fittingPixelWidth() const;
   void drawAgain();
-  void paintMarks(QPainter& painter) const;
+  void paintMarks(render::Surface& surface) const;
   const render::HitMap& hitMap();
+  void hover(int location);
   MapSpot spotAt(QPointF position, Qt::KeyboardModifiers modifiers);
 
   const Desk& m_desk;
@@ -62,6 +67,8 @@ class MapPicture : public QWidget {
   QPixmap m_picture;
   QSize m_naturalSize;
   MapTool* m_tool = nullptr;
+  MapOverlay m_overlay;
+  int m_hovered = 0;
   std::optional<QPointF> m_pressed;
   bool m_dragging = false;
   std::vector<std::string> m_marks;
