@@ -101,6 +101,27 @@ void Desk::setEditing(Editing editing) {
   run([&](Situation& next) { next.editing = editing; });
 }
 
+std::string Desk::edit(const std::function<std::string(model::GameState&)>& change) {
+  std::string refusal;
+  run([&](Situation& next) {
+    refusal = change(next.game);
+    next.edits.Record(m_now.game, next.game);
+  });
+  return refusal;
+}
+
+void Desk::undoEdit() {
+  run([](Situation& next) { next.edits.Undo(next.game); });
+}
+
+void Desk::redoEdit() {
+  run([](Situation& next) { next.edits.Redo(next.game); });
+}
+
+void Desk::withdrawEdit() {
+  run([](Situation& next) { next.edits.Withdraw(next.game); });
+}
+
 bool Desk::run(const std::function<void(Situation&)>& command) {
   bool done = false;
   try {
@@ -109,6 +130,8 @@ bool Desk::run(const std::function<void(Situation&)>& command) {
     next.reportNotes.resize(static_cast<std::size_t>(next.game.ReportLines.Count()));
     if (listsDiffer(next.game, m_now.game)) next.stoppedLine.reset();
     if (next.game.ReportLines.Count() == 0) next.outcomes.clear();
+    const bool edited = next.editing != Editing::None && next.edits.LeadsTo(next.game);
+    if (!edited) next.edits.Clear();
     m_draw(next);
     m_now = std::move(next);
     done = true;

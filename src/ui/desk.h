@@ -55,6 +55,15 @@ class Desk : public QObject {
   /// Choosing the stage's own entry ends the editing.
   void setEditing(Editing editing);
 
+  /// A step of editing, which may be taken back till the editing ends or another command changes
+  /// what is edited. Returns the change's own text: empty, or why it is refused.
+  std::string edit(const std::function<std::string(model::GameState&)>& change);
+  void undoEdit();
+  void redoEdit();
+
+  /// Undoes the last step as if it had never been.
+  void withdrawEdit();
+
  signals:
   void changed();
 

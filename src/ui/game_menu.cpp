@@ -13,6 +13,7 @@ GameMenu::GameMenu(Desk& desk, QWidget* parent) : QMenu(tr("&Game"), parent), m_
   addSeparator();
   addEditing(QStringLiteral("mnuGameEditUnits"), tr("Edit &units"), Editing::Units);
   addEditing(QStringLiteral("mnuGameEditProvinces"), tr("Edit &provinces"), Editing::Provinces);
+  addEditSteps();
   addSeparator();
   m_undo = newEntry(*this, QStringLiteral("mnuGameUndo"), tr("U&ndo season"), QKeySequence::Undo);
   connect(m_undo, &QAction::triggered, &desk, &Desk::undoSeason);
@@ -36,6 +37,15 @@ void GameMenu::addEditing(const QString& name, const QString& caption, Editing e
           [this, editing](bool on) { m_desk.setEditing(on ? editing : Editing::None); });
 }
 
+void GameMenu::addEditSteps() {
+  m_undoEdit =
+      newEntry(*this, QStringLiteral("mnuGameUndoEdit"), tr("Undo e&dit"), QKeySequence::Undo);
+  m_redoEdit = newEntry(*this, QStringLiteral("mnuGameRedoEdit"), tr("Redo ed&it"),
+                        Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
+  connect(m_undoEdit, &QAction::triggered, &m_desk, &Desk::undoEdit);
+  connect(m_redoEdit, &QAction::triggered, &m_desk, &Desk::redoEdit);
+}
+
 void GameMenu::showState() {
   const std::string& now = m_desk.game().Stage;
   const Editing edited = m_desk.now().editing;
@@ -45,6 +55,11 @@ void GameMenu::showState() {
   }
   for (const auto& [entry, editing] : m_editings)
     entry->setChecked(editing == edited);
+  // The keys of a hidden entry do nothing.
+  for (QAction* entry : {m_undoEdit, m_redoEdit})
+    entry->setVisible(edited != Editing::None);
+  m_undoEdit->setEnabled(m_desk.now().edits.CanUndo());
+  m_redoEdit->setEnabled(m_desk.now().edits.CanRedo());
   m_undo->setEnabled(now != "moves");
   // While something is edited the keys take back a step of the editing.
   m_undo->setShortcut(edited == Editing::None ? QKeySequence::Undo : QKeySequence());

@@ -6,6 +6,8 @@
 #include "ui/adjustments_panel.h"
 #include "ui/controls.h"
 #include "ui/edit_menu.h"
+#include "ui/edit_provinces_panel.h"
+#include "ui/edit_units_panel.h"
 #include "ui/export_commands.h"
 #include "ui/file_dialogs.h"
 #include "ui/file_menu.h"
@@ -82,10 +84,18 @@ void MainWindow::createPanels() {
   m_retreats = new RetreatsPanel(m_desk);
   m_adjustments = new AdjustmentsPanel(m_desk);
   m_seasonFinished = new SeasonFinishedPanel(m_desk);
+  m_editUnits = new EditUnitsPanel(m_desk, *m_map);
+  m_editProvinces = new EditProvincesPanel(m_desk, *m_map);
   m_report = new ReportPanel(m_desk);
   for (OrderEntryPanel* panel : {m_orders, m_retreats, m_adjustments}) {
     connect(panel, &OrderEntryPanel::statusText, this, &MainWindow::showStatus);
     connect(panel, &OrderEntryPanel::helpWanted, this,
+            [this](const QString& topic) { m_helpMenu->showTopic(topic); });
+  }
+  for (EditingPanel* panel :
+       {static_cast<EditingPanel*>(m_editUnits), static_cast<EditingPanel*>(m_editProvinces)}) {
+    connect(panel, &EditingPanel::statusText, this, &MainWindow::showStatus);
+    connect(panel, &EditingPanel::helpWanted, this,
             [this](const QString& topic) { m_helpMenu->showTopic(topic); });
   }
   connect(m_map, &MapPicture::hovered, this, &MainWindow::showPlace);
@@ -105,7 +115,8 @@ void MainWindow::layOutPanels() {
   panels->setContentsMargins({});
   panels->setSpacing(Gap);
   for (QWidget* panel : {static_cast<QWidget*>(m_orders), static_cast<QWidget*>(m_retreats),
-                         static_cast<QWidget*>(m_adjustments)}) {
+                         static_cast<QWidget*>(m_adjustments), static_cast<QWidget*>(m_editUnits),
+                         static_cast<QWidget*>(m_editProvinces)}) {
     panels->addWidget(panel, 3);
   }
   panels->addWidget(m_seasonFinished);
@@ -173,6 +184,10 @@ void MainWindow::createStatusBar() {
     label->setContentsMargins(Margin, 0, Margin, 0);
   }
   statusBar()->setSizeGripEnabled(false);
+  for (const EditingPanel* panel :
+       {static_cast<EditingPanel*>(m_editUnits), static_cast<EditingPanel*>(m_editProvinces)}) {
+    connect(panel, &EditingPanel::statusText, m_status, &QLabel::setText);
+  }
   statusBar()->addWidget(m_status, 3);
   statusBar()->addWidget(m_fileName, 2);
 }
@@ -235,6 +250,7 @@ void MainWindow::showViewOnly() {
   m_gameMenu->setEnabled(!viewOnly);
   if (m_column->isHidden() == viewOnly) return;
   m_column->setVisible(!viewOnly);
+  chooseTool();
   if (isMaximized() || isFullScreen()) return leaveSpareWidth();
   if (viewOnly) {
     m_widthBeforeViewOnly = width();
@@ -253,12 +269,15 @@ void MainWindow::showStagePanel() {
   m_seasonFinished->setVisible(shownStage == "finished" && editing == Editing::None);
   for (const auto& [stage, panel] : entryPanels)
     panel->setVisible(stage == shownStage && editing == Editing::None);
-  m_tabs->setCurrentIndex(m_desk.game().ReportLines.Count() > 0 ? 1 : 0);
-  m_map->setTool(nullptr);
+  m_editUnits->setVisible(editing == Editing::Units);
+  m_editProvinces->setVisible(editing == Editing::Provinces);
+  const bool report = m_desk.game().ReportLines.Count() > 0 && editing != Editing::Provinces;
+  m_tabs->setCurrentIndex(report ? 1 : 0);
+  chooseTool();
+  if (editing == Editing::Units) return m_editUnits->startEditing();
+  if (editing == Editing::Provinces) return m_editProvinces->startEditing();
   for (const auto& [stage, panel] : entryPanels) {
-    if (stage != shownStage || editing != Editing::None) continue;
-    m_map->setTool(panel);
-    return panel->startEntry();
+    if (stage == shownStage) return panel->startEntry();
   }
   // Not the button: an Enter too many would drop the report unread.
   m_report->startReading();
@@ -266,6 +285,20 @@ void MainWindow::showStagePanel() {
 
 void MainWindow::showStatus(const QString& text) {
   m_status->setText(text);
+}
+
+/// A map that is only viewed does nothing.
+void MainWindow::chooseTool() {
+  MapTool* tool = nullptr;
+  const auto consider = [&](auto* panel) {
+    if (!panel->isHidden() && !m_desk.now().viewOnly) tool = panel;
+  };
+  consider(m_orders);
+  consider(m_retreats);
+  consider(m_adjustments);
+  consider(m_editUnits);
+  consider(m_editProvinces);
+  m_map->setTool(tool);
 }
 
 void MainWindow::showPlace(int location) {

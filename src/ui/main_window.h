@@ -16,6 +16,8 @@ class QTabWidget;
 namespace orb::ui {
 
 class EditMenu;
+class EditProvincesPanel;
+class EditUnitsPanel;
 class ElidedLabel;
 class ExportCommands;
 class FileMenu;
@@ -54,6 +56,7 @@ class MainWindow : public QMainWindow {
   void showViewOnly();
   void showStagePanel();
   void showStatus(const QString& text);
+  void chooseTool();
   void showPlace(int location);
   void leaveSpareWidth();
 
@@ -68,6 +71,8 @@ class MainWindow : public QMainWindow {
   OrderEntryPanel* m_retreats = nullptr;
   OrderEntryPanel* m_adjustments = nullptr;
   SeasonFinishedPanel* m_seasonFinished = nullptr;
+  EditUnitsPanel* m_editUnits = nullptr;
+  EditProvincesPanel* m_editProvinces = nullptr;
   QTabWidget* m_tabs = nullptr;
   ReportPanel* m_report = nullptr;
   ExportCommands* m_exports = nullptr;

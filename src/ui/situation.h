@@ -1,6 +1,7 @@
 #pragma once
 
 #include "adjudication/resolution.h"
+#include "model/edit_history.h"
 #include "model/game_state.h"
 #include "model/messages.h"
 #include "orders/order_outcome.h"
@@ -37,6 +38,7 @@ struct Situation {
   render::MapOptions mapOptions;
   bool viewOnly = false;  ///< only the map is shown
   Editing editing = Editing::None;
+  model::EditHistory edits;                    ///< since the editing began
   std::vector<ReportNote> reportNotes;         ///< one a line of the report
   std::optional<StoppedLine> stoppedLine;      ///< until the lists change
   std::vector<orders::OrderOutcome> outcomes;  ///< of the season's orders resolved so far
