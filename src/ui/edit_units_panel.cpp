@@ -130,7 +130,8 @@ void EditUnitsPanel::mapClicked(const MapSpot& at) {
   QMenu* menu = newAddMenu(
       game(), name, m_lastPower, [this](const Unit& chosen) { add(chosen); }, this);
   if (menu != nullptr) return popUp(menu, at.point);
-  emit statusText(tr("The board is full."));
+  const std::string fault = orders::UnitFault(game(), orders::NewUnit(m_lastPower, "A", name), 0);
+  emit statusText(ToQString(fault));
 }
 
 bool EditUnitsPanel::mapDoubleClicked(const MapSpot& at) {
@@ -141,10 +142,9 @@ bool EditUnitsPanel::mapDoubleClicked(const MapSpot& at) {
   return true;
 }
 
-/// Its first entry comes under the pointer.
 void EditUnitsPanel::popUp(QMenu* menu, render::Point at) {
   const QPointF point(at.X * map().width(), at.Y * map().height());
-  menu->popup(map().mapToGlobal(point.toPoint()), menu->actions().constFirst());
+  menu->popup(map().mapToGlobal(point.toPoint()));
 }
 
 void EditUnitsPanel::add(const Unit& unit) {
