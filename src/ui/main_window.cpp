@@ -184,10 +184,6 @@ void MainWindow::createStatusBar() {
     label->setContentsMargins(Margin, 0, Margin, 0);
   }
   statusBar()->setSizeGripEnabled(false);
-  for (const EditingPanel* panel :
-       {static_cast<EditingPanel*>(m_editUnits), static_cast<EditingPanel*>(m_editProvinces)}) {
-    connect(panel, &EditingPanel::statusText, m_status, &QLabel::setText);
-  }
   statusBar()->addWidget(m_status, 3);
   statusBar()->addWidget(m_fileName, 2);
 }
