@@ -17,6 +17,7 @@ using orders::Outcome;
 constexpr double MoveWidth = 2.2;
 constexpr double OtherWidth = 1.5;
 constexpr double EdgeWidth = 0.8;
+constexpr double EdgeWidthWithoutColour = 1.3;  ///< borders are black there, too
 constexpr double RingRadius = 12 * TwipsPerPixel;
 constexpr double MarkReach = 3.6 * TwipsPerPixel;
 constexpr double DisbandReach = 9 * TwipsPerPixel;
@@ -30,13 +31,13 @@ bool IsDark(model::Colour colour) {
 
 /// Dark colours have a light edge, light ones a dark one.
 OrderPen PenOf(const model::Country& country, MapMode mode, double width) {
-  if (!InColour(mode)) return {Black, White, width, 1.3};
+  if (!InColour(mode)) return {Black, White, width, EdgeWidthWithoutColour};
   if (IsDark(country.Colour)) return {country.Colour, White, width, EdgeWidth};
   const model::Colour edge = IsDark(country.TextColour) ? country.TextColour : Black;
   return {country.Colour, edge, width, EdgeWidth};
 }
 
-/// How a line and what it leads to are drawn for an outcome.
+/// The form of a line that usually has another one.
 LineForm FormFor(Outcome outcome, LineForm usual) {
   return outcome == Outcome::Void ? LineForm::Dots : usual;
 }
@@ -175,21 +176,30 @@ bool IsRing(const OrderRoute& route) {
   return route.Way.Line.empty() && (order.Kind == "-" || order.Kind == "S");
 }
 
+bool IsSupportLine(const OrderRoute& route) {
+  return route.Order->Kind == "S" && !route.Way.Line.empty();
+}
+
 }  // namespace
 
 void DrawOrdersBelowUnits(Surface& surface, const model::GameState& game,
                           std::span<const OrderRoute> routes, MapMode mode) {
   const Artist artist(surface, game, mode);
-  for (const OrderRoute& route : routes) {
+  // What is void lies below what counts.
+  std::vector<OrderRoute> sorted(routes.begin(), routes.end());
+  std::stable_partition(sorted.begin(), sorted.end(), [](const OrderRoute& route) {
+    return route.Order->Outcome == Outcome::Void;
+  });
+  for (const OrderRoute& route : sorted) {
     if (IsRing(route)) artist.DrawRing(route);
     if (route.Order->Kind == "C") artist.DrawConvoy(route);
-    if (route.Order->Kind == "S" && !route.Way.Line.empty()) artist.DrawSupport(route);
+    if (IsSupportLine(route)) artist.DrawSupport(route);
   }
-  for (const OrderRoute& route : routes) {
-    if (route.Order->Kind != "S" && !route.Way.Line.empty()) artist.DrawArrow(route);
+  for (const OrderRoute& route : sorted) {
+    if (!IsSupportLine(route) && !route.Way.Line.empty()) artist.DrawArrow(route);
   }
-  for (const OrderRoute& route : routes) {
-    if (route.Order->Kind == "S" && !route.Way.Line.empty()) artist.DrawSupportEnd(route);
+  for (const OrderRoute& route : sorted) {
+    if (IsSupportLine(route)) artist.DrawSupportEnd(route);
   }
 }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace orb::render {
 namespace {
@@ -52,8 +53,11 @@ void DrawPath(Surface& surface, const OrderPen& pen, const Path& path, LineForm 
   const auto [mark, gap] = RhythmOf(form);
   const double length = LengthOf(path);
   std::vector<Path> parts;
-  for (double at = 0; at < length; at += mark + gap)
-    parts.push_back(PartOf(path, at, std::min(at + mark, length)));
+  const int count = static_cast<int>(std::ceil(length / (mark + gap)));
+  for (int i = 0; i < count; ++i) {
+    const double start = i * (mark + gap);
+    parts.push_back(PartOf(path, start, std::min(start + mark, length)));
+  }
   DrawParts(surface, pen, parts);
 }
 
