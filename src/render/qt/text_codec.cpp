@@ -1,6 +1,6 @@
 #include "render/qt/text_codec.h"
 
-#include "render/windows_1252.h"
+#include "model/windows_1252.h"
 
 namespace orb::render {
 
@@ -8,7 +8,7 @@ QString ToQString(std::string_view bytes) {
   QString text;
   text.reserve(static_cast<qsizetype>(bytes.size()));
   for (const char c : bytes)
-    text.append(QChar(CharacterOf(static_cast<unsigned char>(c))));
+    text.append(QChar(model::CharacterOf(static_cast<unsigned char>(c))));
   return text;
 }
 
@@ -16,7 +16,7 @@ std::optional<std::string> ToBytes(QStringView text) {
   std::string bytes;
   bytes.reserve(static_cast<std::size_t>(text.size()));
   for (const QChar c : text) {
-    const auto code = CodeOf(c.unicode());
+    const auto code = model::CodeOf(c.unicode());
     if (!code) return std::nullopt;
     bytes.push_back(*code);
   }

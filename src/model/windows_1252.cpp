@@ -1,9 +1,9 @@
-#include "render/windows_1252.h"
+#include "model/windows_1252.h"
 
 #include <algorithm>
 #include <array>
 
-namespace orb::render {
+namespace orb::model {
 namespace {
 
 constexpr std::size_t FirstSpecial = 0x80;
@@ -32,4 +32,4 @@ std::optional<char> CodeOf(char32_t character) {
   return static_cast<char>(FirstSpecial + static_cast<std::size_t>(found - Special.begin()));
 }
 
-}  // namespace orb::render
+}  // namespace orb::model
