@@ -3,6 +3,7 @@
 #include "cli/games.h"
 #include "model/errors.h"
 #include "model/text.h"
+#include "orders/order_list.h"
 
 namespace orb::cli {
 namespace {
@@ -35,7 +36,7 @@ int Execute(const CommandLine& line, Console& console) {
     if (game.Stage != "moves" && game.Stage != "retreats" && game.Stage != "adjustments") {
       throw model::FatalError("There are no orders to check in the stage \"" + game.Stage + "\".");
     }
-    const std::string text = ProblemLines(game, paths.Game, StageList(game));
+    const std::string text = ProblemLines(game, paths.Game, orders::StageList(game));
     console.Print(text);
     return text.empty();
   });

@@ -4,6 +4,7 @@
 #include "model/files.h"
 #include "model/game_file.h"
 #include "model/map_files.h"
+#include "orders/order_list.h"
 
 #include <exception>
 #include <fstream>
@@ -49,12 +50,6 @@ int ForEachGame(const CommandLine& line, Console& console, const std::vector<Gam
   return allDone ? ExitDone : ExitRefused;
 }
 
-std::vector<std::string>& StageList(model::GameState& game) {
-  if (game.Stage == "retreats") return game.RetreatsList;
-  if (game.Stage == "adjustments") return game.AdjustmentsList;
-  return game.OrdersList;
-}
-
 std::vector<std::string> OrderLines(std::string_view text) {
   std::vector<std::string> lines;
   while (!text.empty()) {
@@ -73,9 +68,9 @@ void TakeOrders(model::GameState& game, const GamePaths& paths) {
   std::error_code ignored;
   const auto type = std::filesystem::symlink_status(paths.Orders, ignored).type();
   if (paths.OrdersMayLack && type == std::filesystem::file_type::not_found) {
-    StageList(game).clear();
+    orders::StageList(game).clear();
   } else {
-    StageList(game) = OrderLines(model::ReadFile(paths.Orders));
+    orders::StageList(game) = OrderLines(model::ReadFile(paths.Orders));
   }
 }
 

@@ -24,9 +24,6 @@ int ForEachGame(const CommandLine& line, Console& console, const std::vector<Gam
 /// Does something that may throw; then a line on standard error says why. Whether it was done.
 bool Attempt(Console& console, std::string_view subject, const std::function<bool()>& work);
 
-/// The list of orders of the stage that the game is in; that of the moves stage if in none.
-std::vector<std::string>& StageList(model::GameState& game);
-
 /// The order lines of a text: lines end in LF or CR LF, those of blanks and tabs only are skipped.
 std::vector<std::string> OrderLines(std::string_view text);
 

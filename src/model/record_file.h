@@ -30,6 +30,9 @@ class RecordReader {
   /// The next field as a decimal fraction with "." as its point.
   float Fraction(std::string_view expected);
 
+  /// Throws the error for a field that was read last and is not what was expected.
+  [[noreturn]] void Fail(std::string_view expected, std::string_view found) const;
+
   /// Whether nothing but blanks and line ends is left.
   bool AtEnd() const;
 
@@ -38,7 +41,6 @@ class RecordReader {
   Whole WholeNumber(std::string_view expected);
   std::string_view QuotedField(std::string_view expected);
   void EndField(std::string_view expected);
-  [[noreturn]] void Fail(std::string_view expected, std::string_view found) const;
 
   std::string_view bytes_;
   std::size_t position_ = 0;

@@ -1,6 +1,7 @@
 #include "model/seasons.h"
 
 #include "model/errors.h"
+#include "model/text.h"
 
 #include <algorithm>
 #include <limits>
@@ -25,6 +26,12 @@ void RestoreUnits(GameState& game) {
 }
 
 }  // namespace
+
+std::string SeasonCode(const GameState& game) {
+  const std::string season = LowerCase(std::string_view(game.Season).substr(0, 1));
+  const std::string year = std::to_string(game.Year);
+  return season + year.substr(year.size() - std::min<std::size_t>(2, year.size()));
+}
 
 void NextSeason(GameState& game) {
   if (game.Season != "Spring") {

@@ -3,7 +3,12 @@
 #include "model/game_state.h"
 #include "model/messages.h"
 
+#include <string>
+
 namespace orb::model {
+
+/// The season as file names have it: its first letter, small, and two digits of the year: "s01".
+std::string SeasonCode(const GameState& game);
 
 /// Starts the season that follows: Spring comes after anything but Spring and begins a new year.
 /// Orders, free text, report and current file name are dropped. Throws FatalError past year 32767.

@@ -3,6 +3,25 @@
 #include <algorithm>
 
 namespace orb::orders {
+namespace {
+
+using List = std::vector<std::string>;
+
+List model::GameState::*ListOf(std::string_view stage) {
+  if (stage == "retreats") return &model::GameState::RetreatsList;
+  return stage == "adjustments" ? &model::GameState::AdjustmentsList
+                                : &model::GameState::OrdersList;
+}
+
+}  // namespace
+
+List& StageList(model::GameState& game) {
+  return game.*ListOf(game.Stage);
+}
+
+const List& StageList(const model::GameState& game) {
+  return game.*ListOf(game.Stage);
+}
 
 bool FileOrder(std::vector<std::string>& list, std::string_view text) {
   const std::size_t bracket = text.find(')');

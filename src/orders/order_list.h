@@ -1,10 +1,16 @@
 #pragma once
 
+#include "model/game_state.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace orb::orders {
+
+/// The list of orders of the stage that the game is in; that of the moves stage if in none.
+std::vector<std::string>& StageList(model::GameState& game);
+const std::vector<std::string>& StageList(const model::GameState& game);
 
 /// Files a typed order at the end of a list of order lines. The last line that begins like it, up
 /// to and including its first ")", is the unit's previous order and is removed. False, the list

@@ -1,0 +1,78 @@
+#include "orders/exchange/comments.h"
+
+#include "orders/exchange/vocabulary.h"
+
+#include <algorithm>
+
+namespace orb::exchange {
+namespace {
+
+bool IsNumber(const Token& token) {
+  return token.Text.find_first_not_of("0123456789") == std::string::npos;
+}
+
+bool IsCoastWord(const Token& token) {
+  return token.Text == "coast" || (token.Text.size() == 2 && CoastLetter(token.Text) != 0);
+}
+
+/// How many tokens from here are a word of orders: a verb, a unit, a power, a place; 0: none.
+std::size_t OrderWord(Tokens tokens, std::size_t at, const PlaceNames& names) {
+  const Token& token = tokens[at];
+  if (token.Kind != TokenKind::Word) return 0;
+  if (const auto places = names.At(tokens, at); !places.empty()) return places[0].Next - at;
+  if (const PowerName power = PowerAt(tokens, at); power.Power != 0) return power.Next - at;
+  const bool isWord = VerbOf(token) != Verb::None || UnitTypeOf(token) != 0 || IsCoastWord(token) ||
+                      token.Text == "via";
+  return isWord ? 1 : 0;
+}
+
+/// How many words belong to orders, and how many do not; numbers and fillers are neither.
+std::pair<int, int> CountWords(Tokens tokens, const PlaceNames& names) {
+  std::pair<int, int> count;
+  for (std::size_t at = 0; at < tokens.size();) {
+    const std::size_t length = OrderWord(tokens, at, names);
+    const bool counts = tokens[at].Kind == TokenKind::Word && !IsFiller(tokens[at]);
+    if (length > 0) {
+      ++count.first;
+    } else if (counts) {
+      ++count.second;
+    }
+    at += std::max<std::size_t>(length, 1);
+  }
+  return count;
+}
+
+}  // namespace
+
+std::size_t ClosingBracket(Tokens tokens, std::size_t open) {
+  int depth = 0;
+  for (std::size_t at = open; at < tokens.size(); ++at) {
+    if (IsA(tokens[at], TokenKind::Open)) ++depth;
+    if (IsA(tokens[at], TokenKind::Close) && --depth == 0) return at;
+  }
+  return tokens.size();
+}
+
+bool IsProse(Tokens tokens, const PlaceNames& names) {
+  const auto [ofOrders, others] = CountWords(tokens, names);
+  return ofOrders == 0 && others > 1 && FindCondition(tokens) == tokens.size();
+}
+
+bool IsRemark(Tokens tokens, const PlaceNames& names) {
+  const auto isWord = [](const Token& token) { return token.Kind == TokenKind::Word; };
+  if (FindCondition(tokens) != tokens.size()) return false;
+  if (std::ranges::any_of(tokens, IsCoastWord)) return false;
+  const auto words = std::ranges::count_if(tokens, isWord);
+  if (words == 0 || std::ranges::all_of(tokens, IsNumber)) return true;
+  if (words == 1) {
+    const auto word = std::ranges::find_if(tokens, isWord);
+    if (!names.NearlyNamed(word->Text).empty()) return false;
+  }
+  return CountWords(tokens, names).second > 0;
+}
+
+std::size_t FindCondition(Tokens tokens) {
+  return static_cast<std::size_t>(std::ranges::find_if(tokens, IsCondition) - tokens.begin());
+}
+
+}  // namespace orb::exchange

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "orders/exchange/place_names.h"
+
+namespace orb::exchange {
+
+/// The bracket that closes the one at this token, or the number of tokens.
+std::size_t ClosingBracket(Tokens tokens, std::size_t open);
+
+/// Whether tokens are surely no part of an order: two words or more, none of them one of orders.
+bool IsProse(Tokens tokens, const PlaceNames& names);
+
+/// Whether what stands in brackets behind an order says nothing about it: not only words of orders,
+/// none that names a coast or makes a condition, no place with a slip.
+bool IsRemark(Tokens tokens, const PlaceNames& names);
+
+/// The first word that makes a condition, or the number of tokens.
+std::size_t FindCondition(Tokens tokens);
+
+}  // namespace orb::exchange

@@ -1,0 +1,213 @@
+#include "orders/exchange/line_kinds.h"
+
+#include "orders/exchange/comments.h"
+
+#include <algorithm>
+
+namespace orb::exchange {
+namespace {
+
+bool IsNumber(const Token& token) {
+  return token.Kind == TokenKind::Word &&
+         token.Text.find_first_not_of("0123456789") == std::string::npos;
+}
+
+bool IsWordToken(const Token& token) {
+  return token.Kind == TokenKind::Word;
+}
+
+std::ptrdiff_t CountWords(Tokens tokens) {
+  return std::ranges::count_if(tokens, IsWordToken);
+}
+
+/// Whether orders could be read from what stands in brackets in a heading.
+bool HoldsOrders(Tokens tokens) {
+  return std::ranges::any_of(tokens, [](const Token& token) {
+    return VerbOf(token) != Verb::None || UnitTypeOf(token) != 0;
+  });
+}
+
+bool Is(Tokens tokens, std::size_t at, TokenKind kind) {
+  return at < tokens.size() && IsA(tokens[at], kind);
+}
+
+/// Behind "1.", "1)", "1:", "(1)", "#1", "a)"; the letters A and F only before a unit type.
+std::size_t PastNumber(Tokens tokens, std::size_t at) {
+  std::size_t next = at;
+  constexpr std::size_t longest = 3;
+  if (Is(tokens, next, TokenKind::Mark) && tokens[next].Text == "#") ++next;
+  const bool isOpen = Is(tokens, next, TokenKind::Open);
+  if (isOpen) ++next;
+  if (!Is(tokens, next, TokenKind::Word)) return at;
+  const Token& word = tokens[next++];
+  const bool isMarked =
+      Is(tokens, next, TokenKind::Close) ||
+      (!isOpen && (Is(tokens, next, TokenKind::Dot) || Is(tokens, next, TokenKind::Colon)));
+  if (IsNumber(word) && word.Text.size() <= longest && (isMarked || !isOpen)) {
+    return next + (isMarked ? 1 : 0);
+  }
+  if (word.Text.size() != 1 || !Is(tokens, next, TokenKind::Close)) return at;
+  const bool startsUnit = next + 1 < tokens.size() && (UnitTypeOf(tokens[next + 1]) != 0 ||
+                                                       PowerAt(tokens, next + 1).Power != 0);
+  return UnitTypeOf(word) == 0 || startsUnit ? next + 1 : at;
+}
+
+/// Behind "[10:15, 3/1/2024]" or "<name>".
+std::size_t PastStamp(Tokens tokens, std::size_t at) {
+  if (Is(tokens, at, TokenKind::Mark) && tokens[at].Text == "<") {
+    for (std::size_t next = at + 1; next < tokens.size(); ++next) {
+      if (Is(tokens, next, TokenKind::Dash) && tokens[next].Text == ">") return next + 1;
+    }
+    return at;
+  }
+  if (!Is(tokens, at, TokenKind::Open)) return at;
+  const std::size_t close = ClosingBracket(tokens, at);
+  bool hasColon = false;
+  for (std::size_t next = at + 1; next < close; ++next) {
+    hasColon = hasColon || Is(tokens, next, TokenKind::Colon);
+    if (IsWordToken(tokens[next]) && !IsNumber(tokens[next]) && tokens[next].Text != "am" &&
+        tokens[next].Text != "pm") {
+      return at;
+    }
+  }
+  return hasColon && close < tokens.size() ? close + 1 : at;
+}
+
+constexpr int Strong = 2;
+
+/// How much the verb at a token speaks for an order: 0 to 2.
+int VerbEvidence(Tokens tokens, std::size_t at) {
+  const Token& token = tokens[at];
+  const Verb verb = VerbOf(token);
+  if (verb == Verb::None) return 0;
+  if (token.Kind == TokenKind::Dash) {
+    if (token.Text.find('>') != std::string::npos) return Strong;
+    const bool isInside = at > 0 && at + 1 < tokens.size();
+    return isInside && (!token.Glued || CountWords(tokens) == 2) ? 1 : 0;
+  }
+  if (token.Text.size() == 1) return token.Capital && at > 0 ? 1 : 0;
+  return verb == Verb::Move ? 1 : Strong;
+}
+
+/// How much a place at a token speaks for an order. War, gas and bar are words as well.
+int PlaceEvidence(Tokens tokens, std::size_t at, const PlaceNames& names) {
+  const auto matches = names.At(tokens, at);
+  const std::string& word = tokens[at].Text;
+  constexpr std::size_t shortName = 3;
+  if (matches.empty()) return names.NearlyNamed(word).empty() ? 0 : Strong;
+  if (word.size() <= shortName && matches.back().Next == at + 1) {
+    return tokens[at].Capital && matches.back().IsExact ? Strong : 1;
+  }
+  return Strong;
+}
+
+/// How much of a text speaks for an order.
+struct Evidence {
+  int Commands = 0;  ///< arrows, units and verbs that are hardly ever used elsewhere
+  int Moves = 0;     ///< words that move; few words with one may well be an order
+  int Places = 0;
+};
+
+Evidence Weigh(Tokens tokens, const PlaceNames& names) {
+  constexpr std::ptrdiff_t few = 4;
+  const std::ptrdiff_t words = CountWords(tokens);
+  Evidence evidence;
+  bool isFirst = true;
+  for (std::size_t at = 0; at < tokens.size(); ++at) {
+    const Token& token = tokens[at];
+    const int verb = VerbEvidence(tokens, at);
+    const bool moves = VerbOf(token) == Verb::Move && token.Kind == TokenKind::Word;
+    (moves ? evidence.Moves : evidence.Commands) += verb != 0 && words <= few ? Strong : verb;
+    if (!IsWordToken(token)) continue;
+    evidence.Places += PlaceEvidence(tokens, at, names);
+    if (UnitTypeOf(token) != 0 && token.Text.size() > 1) evidence.Commands += Strong;
+    if (isFirst && UnitTypeOf(token) != 0) ++evidence.Moves;
+    if (isFirst && words < few && PowerAt(tokens, at).Power != 0) evidence.Commands += Strong;
+    isFirst = false;
+  }
+  return evidence;
+}
+
+}  // namespace
+
+std::optional<Heading> ReadHeading(Tokens tokens) {
+  Heading heading;
+  bool hasWord = false;
+  for (std::size_t at = 0; at < tokens.size();) {
+    const Token& token = tokens[at];
+    if (token.Kind == TokenKind::Open) {
+      const std::size_t close = ClosingBracket(tokens, at);
+      const bool isRemark = heading.Power != 0 && close < tokens.size();
+      if (!isRemark || HoldsOrders(tokens.subspan(at, close - at))) return {};
+      at = close + 1;
+      continue;
+    }
+    const PowerName name = PowerAt(tokens, at);
+    if (name.Power != 0) {
+      if (heading.Power != 0 && heading.Power != name.Power) return {};
+      heading.Power = name.Power;
+      hasWord = true;
+      at = name.Next;
+      continue;
+    }
+    ++at;
+    if (token.Kind == TokenKind::Mark && token.Text != "#") return {};
+    if (token.Kind != TokenKind::Word) continue;
+    if (!IsHeadingWord(token)) return {};
+    hasWord = true;
+    const Verb verb = VerbOf(token);
+    if (verb == Verb::Build || verb == Verb::Disband) heading.Orders = verb;
+  }
+  return hasWord ? std::optional(heading) : std::nullopt;
+}
+
+std::size_t PastLineStart(Tokens tokens) {
+  std::size_t at = 0;
+  // Quotation marks ("> >>") and bullets.
+  while (Is(tokens, at, TokenKind::Dash) || Is(tokens, at, TokenKind::Dot) ||
+         (Is(tokens, at, TokenKind::Mark) && tokens[at].Text == "+")) {
+    ++at;
+  }
+  if (const std::size_t past = PastStamp(tokens, at); past != at) {
+    at = past;
+    // In a log of a chat the name of who speaks follows the time.
+    constexpr std::size_t longestName = 3;
+    for (std::size_t next = at; next < std::min(tokens.size(), at + longestName); ++next) {
+      if (IsCondition(tokens[next]) || !IsWordToken(tokens[next])) break;
+      const bool isPower = PowerAt(tokens, at).Power != 0;
+      if (Is(tokens, next + 1, TokenKind::Colon) && !isPower) return next + 2;
+    }
+  }
+  const std::size_t behind = PastNumber(tokens, at);
+  if (behind != at && Is(tokens, behind, TokenKind::Dash)) return behind + 1;
+  if (behind == at && at + 1 < tokens.size() && IsWord(tokens[at], "o") && !tokens[at].Capital) {
+    return at + 1;
+  }
+  return behind;
+}
+
+bool IsMailHead(Tokens tokens) {
+  if (tokens.empty()) return false;
+  const bool isReplyTo = IsWord(tokens[0], "reply") && tokens.size() > 3 && IsWord(tokens[2], "to");
+  if (IsMailHeader(tokens[0]) && (Is(tokens, 1, TokenKind::Colon) || isReplyTo)) return true;
+  const auto isQuoting = [](const Token& token) {
+    return IsWord(token, "wrote") || IsWord(token, "writes") || IsWord(token, "schrieb") ||
+           IsWord(token, "said");
+  };
+  return Is(tokens, tokens.size() - 1, TokenKind::Colon) && std::ranges::any_of(tokens, isQuoting);
+}
+
+bool IsNoOrder(Tokens tokens, const PlaceNames& names, bool inSignature) {
+  const Evidence evidence = Weigh(tokens, names);
+  const auto first = std::ranges::find_if(tokens, IsWordToken);
+  if (first == tokens.end()) return true;
+  const int places = evidence.Places;
+  if (IsGreeting(*first) && evidence.Commands == 0) {
+    return evidence.Moves == 0 ? places <= Strong : places == 0;
+  }
+  if (IsCondition(*first)) return false;
+  const int orders = evidence.Commands + evidence.Moves;
+  return orders + places < Strong || (inSignature && orders == 0);
+}
+
+}  // namespace orb::exchange

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "orders/exchange/place_names.h"
+#include "orders/exchange/vocabulary.h"
+
+#include <optional>
+
+namespace orb::exchange {
+
+/// What a heading says of the lines below it.
+struct Heading {
+  int Power = 0;             ///< 1..7, 0: none named
+  Verb Orders = Verb::None;  ///< Build or Disband for "Builds:"
+};
+
+/// The heading that all the tokens are; nothing when they are none.
+std::optional<Heading> ReadHeading(Tokens tokens);
+
+/// Behind the marks that begin a line in mails and lists: "> ", "- ", "1.", "(2)", "a)", "[10:15]",
+/// "<name>"; so much belongs to none of its orders.
+std::size_t PastLineStart(Tokens tokens);
+
+/// Whether a line belongs to the head of a mail or tells whose words are quoted.
+bool IsMailHead(Tokens tokens);
+
+/// Whether a text that was not understood is surely no order: a greeting or words with none, or
+/// hardly any, that orders are made of. `inSignature`: places alone make no order there.
+bool IsNoOrder(Tokens tokens, const PlaceNames& names, bool inSignature);
+
+}  // namespace orb::exchange

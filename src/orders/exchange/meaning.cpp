@@ -1,0 +1,151 @@
+#include "orders/exchange/meaning.h"
+
+#include "model/text.h"
+#include "orders/exchange/exact_line.h"
+#include "orders/exchange/supports.h"
+#include "orders/lookups.h"
+#include "orders/parser.h"
+#include "orders/syntax_fault.h"
+
+#include <algorithm>
+
+namespace orb::exchange {
+namespace {
+
+using model::Unit;
+using orders::OrderLine;
+
+std::vector<Completed> MovesMeant(const WrittenOrder& written, const UnitMeant& unit,
+                                  const Situation& situation, const std::string& kind,
+                                  Fault& fault) {
+  std::vector<Completed> orders;
+  if (written.ByConvoy && unit.Unit.UnitType == "F") {
+    fault = {"only an army is convoyed", written.Destination.At};
+    return orders;
+  }
+  for (const std::string& destination :
+       situation.DestinationsMeant(written.Destination, unit.Unit, written.ByConvoy)) {
+    OrderLine order = OrderOf(unit.Unit, kind);
+    order.Target = destination;
+    orders.push_back({std::move(order), unit.Objection});
+  }
+  return orders;
+}
+
+std::vector<Completed> OrdersMeant(const WrittenOrder& written, const UnitMeant& unit,
+                                   const Situation& situation, Fault& fault) {
+  switch (written.What) {
+    case Verb::Move:
+      return MovesMeant(written, unit, situation, "-", fault);
+    case Verb::Retreat:
+      return MovesMeant(written, unit, situation, "RETREAT", fault);
+    case Verb::Support:
+      return SupportsMeant(written, unit, situation, fault);
+    case Verb::Convoy:
+      return ConvoysMeant(written, unit, situation, fault);
+    default:
+      return {
+          {OrderOf(unit.Unit, written.What == Verb::Hold ? "HOLD" : "DISBAND"), unit.Objection}};
+  }
+}
+
+/// The locations and types of a build; those that are not written are all that can stand there.
+std::vector<Unit> UnitsBuilt(const WrittenUnit& written, const Situation& situation) {
+  const model::Map& map = *situation.Game.Map;
+  std::vector<Unit> built;
+  for (const int row : written.Place.Rows) {
+    for (const char type : {'A', 'F'}) {
+      if (written.Type != 0 && written.Type != type) continue;
+      const std::string unitType(1, type);
+      std::vector<std::string> places;
+      for (const int location : situation.Names.Locations(row)) {
+        if (orders::CanStandIn(map, unitType, situation.NameOf(location))) {
+          places.push_back(situation.NameOf(location));
+        }
+      }
+      if (type == 'A' || places.empty()) {
+        const bool stands = orders::CanStandIn(map, unitType, situation.NameOf(row));
+        if (written.Type == 0 && !stands) continue;
+        places = {situation.NameOf(row)};
+      }
+      for (const std::string& place : places)
+        built.push_back({{}, unitType, place, {}, {}, {}});
+    }
+  }
+  return built;
+}
+
+std::vector<Completed> BuildsMeant(const WrittenOrder& written, const Situation& situation,
+                                   int power, Fault& fault) {
+  const model::Map& map = *situation.Game.Map;
+  std::vector<Completed> orders;
+  fault = {"no unit can be built there", written.Unit.Place.At};
+  for (Unit& unit : UnitsBuilt(written.Unit, situation)) {
+    const int centre = model::FindProvince(map, unit.Location.substr(0, 3));
+    const std::string home = centre == 0 ? std::string() : map.Provinces[centre].HomeCountry;
+    unit.Power = power == 0 ? home : PowerText(power);
+    if (model::FindCountry(unit.Power) == 0) {
+      fault.Reason = "no power is named";
+      continue;
+    }
+    const bool isHome = unit.Power == home && map.Provinces[centre].IsSupplyCentre != 0;
+    std::string objection;
+    if (!isHome) objection = unit.Location + " is no home centre of " + unit.Power;
+    orders.push_back({OrderOf(unit, "BUILD"), std::move(objection)});
+  }
+  return orders;
+}
+
+std::vector<Completed> ReadingMeant(const WrittenOrder& written, const Situation& situation,
+                                    int power, Fault& fault) {
+  const int own = written.Unit.Power;
+  if (written.Power != 0 && own != 0 && own != written.Power) {
+    fault = {"two powers are named", written.Unit.Place.At};
+    return {};
+  }
+  if (written.Power != 0 || own != 0) power = written.Power != 0 ? written.Power : own;
+  if (written.What == Verb::Build) return BuildsMeant(written, situation, power, fault);
+  std::vector<Completed> orders;
+  for (const UnitMeant& unit : situation.UnitsMeant(written.Unit, power, power, fault)) {
+    auto more = OrdersMeant(written, unit, situation, fault);
+    std::move(more.begin(), more.end(), std::back_inserter(orders));
+  }
+  return orders;
+}
+
+/// Takes the order in unless its line could not be read or is there already.
+void Add(Meanings& meanings, const Completed& order, const Situation& situation, TokenRange at) {
+  const model::Map& map = *situation.Game.Map;
+  Meaning meaning{FormatOrder(order.Order, situation.Stage), order.Objection,
+                  model::FindCountry(order.Order.Power)};
+  if (!ReadExactLine(map, situation.Stage, meaning.Line)) {
+    if (meanings.Problem) return;
+    const auto fault = situation.Stage == OrderStage::Moves
+                           ? orders::FindSyntaxFault(map, order.Order)
+                           : orders::SyntaxFault::None;
+    const std::string text = orders::FaultText(order.Order, fault);
+    meanings.Problem = Fault{text.empty() ? "the unit is not on the map" : text, at};
+  } else if (std::ranges::none_of(
+                 meanings.All, [&](const Meaning& known) { return known.Line == meaning.Line; })) {
+    meanings.All.push_back(std::move(meaning));
+  }
+}
+
+}  // namespace
+
+Meanings FindMeanings(const std::vector<WrittenOrder>& readings, const Situation& situation,
+                      int power) {
+  Meanings meanings;
+  for (const WrittenOrder& written : readings) {
+    Fault fault;
+    const auto orders = ReadingMeant(written, situation, power, fault);
+    for (const Completed& order : orders)
+      Add(meanings, order, situation, written.Unit.Place.At);
+    if (orders.empty() && !meanings.Problem) meanings.Problem = fault;
+  }
+  const auto objected = [](const Meaning& meaning) { return !meaning.Objection.empty(); };
+  if (!std::ranges::all_of(meanings.All, objected)) std::erase_if(meanings.All, objected);
+  return meanings;
+}
+
+}  // namespace orb::exchange

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "orders/exchange/situation.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orb::exchange {
+
+/// An order that something written can mean.
+struct Meaning {
+  std::string Line;       ///< in the exact form
+  std::string Objection;  ///< why it cannot be carried out, as far as that is seen here
+  int Power = 0;
+};
+
+/// Everything that a text can mean, each order once; without any, the fault says why.
+struct Meanings {
+  std::vector<Meaning> All;
+  std::optional<Fault> Problem;
+};
+
+/// What the readings of one text mean in the situation. Orders that nothing is known against
+/// outdo those with an objection. `power` gives the order unless the text names another, 0: none.
+Meanings FindMeanings(const std::vector<WrittenOrder>& readings, const Situation& situation,
+                      int power);
+
+}  // namespace orb::exchange

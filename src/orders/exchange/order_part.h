@@ -1,0 +1,35 @@
+#pragma once
+
+#include "orders/exchange/grammar.h"
+#include "orders/exchange/meaning.h"
+#include "orders/exchange/read_orders.h"
+
+namespace orb::exchange {
+
+/// What holds for the orders of a text or line that do not say it themselves.
+struct Context {
+  int Power = 0;             ///< 1..7, 0: none
+  Verb Orders = Verb::None;  ///< Build or Disband
+};
+
+/// Some tokens read as one order.
+struct PartRead {
+  LineKind Kind = LineKind::NotUnderstood;
+  Meanings Meant;
+  int Power = 0;  ///< of a waiver: who waives
+  Fault Problem;  ///< in the part's tokens
+};
+
+/// Reads tokens as one order. A heading before a colon, a power at the front and the verb of an
+/// adjustment are left in the context, as they hold for further orders of the line.
+PartRead ReadPart(Tokens tokens, const Situation& situation, Context& context);
+
+/// Whether orders came of it.
+inline bool IsUnderstood(const PartRead& part) {
+  return part.Kind != LineKind::NotUnderstood;
+}
+
+/// "it can mean ... or ...".
+std::string AmbiguityText(const Meanings& meanings);
+
+}  // namespace orb::exchange

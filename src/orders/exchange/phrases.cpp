@@ -1,0 +1,323 @@
+#include "orders/exchange/phrases.h"
+
+#include "model/text.h"
+#include "orders/exchange/comments.h"
+
+#include <algorithm>
+#include <array>
+
+namespace orb::exchange {
+namespace {
+
+template <std::size_t Count>
+bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& words) {
+  return token.Kind == TokenKind::Word && std::ranges::find(words, token.Text) != words.end();
+}
+
+constexpr std::array<std::string_view, 5> InWords{"in", "at", "from", "of", "the"};
+constexpr std::array<std::string_view, 6> ViaWords{"via", "by", "using", "with", "through", "over"};
+constexpr std::array<std::string_view, 6> SeaWords{"convoy", "convoys", "sea", "c", "water", "cv"};
+constexpr std::array<std::string_view, 6> HoldTails{"position", "fast",  "still",
+                                                    "in",       "place", "firm"};
+constexpr std::array<std::string_view, 5> MoveTails{"against", "toward", "towards", "on", "upon"};
+constexpr std::array<std::string_view, 4> Nouns{"move", "attack", "advance", "of"};
+constexpr std::array<std::string_view, 12> CountWords{
+    "one", "two", "a", "all", "remaining", "rest", "any", "other", "of", "both", "last", "for"};
+
+/// A dash that may begin a comment, where an order has none of its kind before it.
+bool IsLongDash(const Token& token) {
+  return token.Kind == TokenKind::Dash && token.Text == "--";
+}
+
+bool IsNumber(const Token& token) {
+  return token.Kind == TokenKind::Word &&
+         token.Text.find_first_not_of("0123456789") == std::string::npos;
+}
+
+}  // namespace
+
+bool Phrases::Is(std::size_t at, TokenKind kind) const {
+  return at < tokens_.size() && IsA(tokens_[at], kind);
+}
+
+bool Phrases::Is(std::size_t at, std::string_view word) const {
+  return at < tokens_.size() && IsWord(tokens_[at], word);
+}
+
+std::size_t Phrases::Skip(std::size_t at) const {
+  while (at < tokens_.size()) {
+    const Token& token = tokens_[at];
+    const bool counts = token.Kind != TokenKind::Open && token.Kind != TokenKind::Close &&
+                        token.Kind != TokenKind::Comma && token.Kind != TokenKind::Dot;
+    if (counts && !IsFiller(token)) break;
+    ++at;
+  }
+  return at;
+}
+
+/// A bracket that opens between a unit and its verb begins a comment.
+std::size_t Phrases::SkipNoBracket(std::size_t at) const {
+  const std::size_t end = Skip(at);
+  const Tokens passed = tokens_.subspan(std::min(at, end), end - std::min(at, end));
+  return std::ranges::find(passed, TokenKind::Open, &Token::Kind) == passed.end() ? end
+                                                                                  : tokens_.size();
+}
+
+PowerName Phrases::Power(std::size_t at) const {
+  return PowerAt(tokens_, Skip(at));
+}
+
+std::vector<int> Phrases::CoastRows(const std::vector<int>& provinces, char letter) const {
+  std::vector<int> rows;
+  for (const int province : provinces) {
+    if (const int coast = names_.Coast(province, letter); coast != 0) rows.push_back(coast);
+  }
+  return rows;
+}
+
+/// "Spa(sc)", "Spa/s", "Spa.s", "Spa-sc", "Spain, south coast".
+void Phrases::AddCoasts(const PlaceMatch& match, std::size_t at, Read<WrittenPlace>& places) const {
+  std::size_t next = match.Next;
+  const bool isOpen = Is(next, TokenKind::Open);
+  const bool isParted = isOpen || Is(next, TokenKind::Slash) || Is(next, TokenKind::Dot) ||
+                        Is(next, TokenKind::Comma) ||
+                        (Is(next, TokenKind::Dash) && tokens_[next].Glued);
+  if (isParted) ++next;
+  if (!Is(next, TokenKind::Word)) return;
+  const char letter = CoastLetter(tokens_[next].Text);
+  std::vector<int> rows = CoastRows(match.Rows, letter);
+  if (letter == 0 || rows.empty()) return;
+  ++next;
+  if (Is(next, "coast") || Is(next, "cst")) ++next;
+  if (isOpen && Is(next, TokenKind::Close)) ++next;
+  places.push_back({{std::move(rows), {at, next}}, next});
+}
+
+/// "spasc": an abbreviation with its coast in one word.
+void Phrases::AddGluedCoast(std::size_t at, Read<WrittenPlace>& places) const {
+  constexpr std::size_t nameLength = 3;
+  constexpr std::size_t coastLength = 2;
+  Token province = tokens_[at];
+  if (province.Text.size() != nameLength + coastLength) return;
+  const char letter = CoastLetter(std::string_view(province.Text).substr(nameLength));
+  province.Text.resize(nameLength);
+  for (const PlaceMatch& match : names_.At({&province, 1}, 0)) {
+    std::vector<int> rows = CoastRows(match.Rows, letter);
+    if (match.IsExact && !rows.empty()) {
+      places.push_back({{std::move(rows), {at, at + 1}}, at + 1});
+    }
+  }
+}
+
+/// "the north coast of Spain", "nc Spain".
+void Phrases::AddLeadingCoast(std::size_t at, Read<WrittenPlace>& places) const {
+  const char letter = CoastLetter(tokens_[at].Text);
+  const bool isLong = tokens_[at].Text.size() > 1;
+  std::size_t next = at + 1;
+  if (letter == 0 || !isLong) return;
+  if (Is(next, "coast")) ++next;
+  while (Is(next, "of") || Is(next, "the"))
+    ++next;
+  if (!Is(next, TokenKind::Word)) return;
+  for (const PlaceMatch& match : names_.At(tokens_, next)) {
+    std::vector<int> rows = CoastRows(match.Rows, letter);
+    if (!rows.empty()) places.push_back({{std::move(rows), {at, match.Next}}, match.Next});
+  }
+}
+
+/// Behind the same place once more in brackets, "Par (Paris)"; else 0.
+std::size_t Phrases::PastEcho(const PlaceMatch& match) const {
+  if (!Is(match.Next, TokenKind::Open) || !Is(match.Next + 1, TokenKind::Word)) return 0;
+  for (const PlaceMatch& echo : names_.At(tokens_, match.Next + 1)) {
+    if (echo.Rows == match.Rows && Is(echo.Next, TokenKind::Close)) return echo.Next + 1;
+  }
+  return 0;
+}
+
+Phrases::Read<WrittenPlace> Phrases::Places(std::size_t at, const std::string& whenMissing) {
+  at = Skip(at);
+  Read<WrittenPlace> places;
+  if (!Is(at, TokenKind::Word)) {
+    Expected(whenMissing, at);
+    return places;
+  }
+  for (const PlaceMatch& match : names_.At(tokens_, at)) {
+    places.push_back({{match.Rows, {at, match.Next}}, match.Next});
+    AddCoasts(match, at, places);
+    if (const std::size_t behind = PastEcho(match); behind != 0) {
+      places.push_back({{match.Rows, {at, match.Next}}, behind});
+    }
+  }
+  AddGluedCoast(at, places);
+  AddLeadingCoast(at, places);
+  if (places.empty()) Unknown(at, " is not on the map", at + 1);
+  return places;
+}
+
+Phrases::Read<WrittenUnit> Phrases::Units(std::size_t at) {
+  Read<WrittenUnit> heads{{{}, Skip(at)}};
+  if (const PowerName name = Power(at); name.Power != 0) {
+    heads.push_back({{name.Power, 0, {}}, Skip(name.Next)});
+  }
+  Read<WrittenUnit> units;
+  for (auto& [head, next] : heads) {
+    if (Is(next, "a") && next + 1 < tokens_.size() && tokens_[next + 1].Text.size() > 1 &&
+        UnitTypeOf(tokens_[next + 1]) != 0) {
+      ++next;
+    }
+    if (next < tokens_.size()) head.Type = UnitTypeOf(tokens_[next]);
+    if (head.Type != 0) next = Skip(next + 1);
+    while (next < tokens_.size() && IsOneOf(tokens_[next], InWords))
+      next = Skip(next + 1);
+    for (auto& [place, behind] : Places(next, "the unit's place is missing")) {
+      WrittenUnit unit = head;
+      unit.Place = std::move(place);
+      const bool hasTail = behind < tokens_.size() && tokens_[behind].Text.size() > 1;
+      if (unit.Type == 0 && hasTail) unit.Type = UnitTypeOf(tokens_[behind]);
+      const bool isTail = head.Type == 0 && unit.Type != 0;
+      units.push_back({std::move(unit), behind + (isTail ? 1 : 0)});
+    }
+  }
+  return units;
+}
+
+std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
+  Verb verb = Verb::None;
+  for (std::size_t next = SkipNoBracket(at); next < tokens_.size();
+       next = SkipNoBracket(next + 1)) {
+    const Verb word = VerbOf(tokens_[next]);
+    const bool isFirst = verb == Verb::None;
+    const bool isTail = (verb == Verb::Hold && IsOneOf(tokens_[next], HoldTails)) ||
+                        (verb == Verb::Move && IsOneOf(tokens_[next], MoveTails));
+    const bool goesOn = verb == Verb::Move || (verb == Verb::Retreat && word == Verb::Move);
+    if (!isTail && (word == Verb::None || !(isFirst || goesOn))) break;
+    if (!isTail && (isFirst || verb == Verb::Move)) verb = word;
+    at = next + 1;
+  }
+  return {verb, at};
+}
+
+bool Phrases::MayLead(std::size_t at) const {
+  at = Skip(at);
+  if (at >= tokens_.size() || IsA(tokens_[at], TokenKind::Dash)) return false;
+  return VerbOf(tokens_[at]) != Verb::Move || Is(at, "move") || Is(at, "moves");
+}
+
+bool Phrases::IsWater(const WrittenPlace& place) const {
+  return std::ranges::all_of(place.Rows, [&](int row) {
+    return model::UpperCase(map_.Provinces[row].Name) == map_.Provinces[row].Name;
+  });
+}
+
+std::size_t Phrases::PastVia(std::size_t at) const {
+  std::size_t next = Skip(at);
+  if (Is(next, "vc")) return next + 1;
+  const bool isConvoyed = Is(next, "convoyed");
+  if (isConvoyed) {
+    at = ++next;
+    next = Skip(next);
+  }
+  if (next >= tokens_.size() || !IsOneOf(tokens_[next], ViaWords)) return at;
+  const bool isVia = Is(next, "via");
+  next = Skip(next + 1);
+  if (Is(next, "a")) next = Skip(next + 1);
+  if (next < tokens_.size() && IsOneOf(tokens_[next], SeaWords)) return next + 1;
+  std::size_t end = isVia ? next : at;
+  while (next < tokens_.size()) {
+    if (UnitTypeOf(tokens_[next]) != 0 || IsOneOf(tokens_[next], InWords) || Is(next, "and")) {
+      next = Skip(next + 1);
+      continue;
+    }
+    const auto matches = names_.At(tokens_, next);
+    if (matches.empty() || !IsWater({matches[0].Rows, {}})) break;
+    end = matches[0].Next;
+    next = Skip(end);
+  }
+  return end;
+}
+
+std::size_t Phrases::PastNoun(std::size_t at) const {
+  std::size_t next = Skip(at);
+  while (next + 1 < tokens_.size() && IsOneOf(tokens_[next], Nouns) &&
+         VerbOf(tokens_[Skip(next + 1) < tokens_.size() ? Skip(next + 1) : next]) == Verb::None) {
+    next = Skip(next + 1);
+  }
+  return next;
+}
+
+std::size_t Phrases::PastCount(std::size_t at) const {
+  for (at = Skip(at); at < tokens_.size(); at = Skip(at + 1)) {
+    const Token& token = tokens_[at];
+    if (!IsOneOf(token, CountWords) && !IsNumber(token) && VerbOf(token) != Verb::Build) break;
+  }
+  return at;
+}
+
+std::size_t Phrases::PastMarks(std::size_t at) const {
+  while (Is(at, TokenKind::Colon) || Is(at, TokenKind::Dash) || Skip(at) != at)
+    at = Skip(at) != at ? Skip(at) : at + 1;
+  return at;
+}
+
+bool Phrases::Ends(std::size_t at) {
+  const auto part = [&](std::size_t begin, std::size_t end) {
+    return tokens_.subspan(begin, end - begin);
+  };
+  while (at < tokens_.size()) {
+    const Token& token = tokens_[at];
+    if (token.Kind == TokenKind::Open) {
+      const std::size_t close = ClosingBracket(tokens_, at);
+      const Tokens inside = part(at + 1, std::max(at + 1, close));
+      if ((close == tokens_.size() && !inside.empty()) || !IsRemark(inside, names_)) {
+        at += FindCondition(inside) < inside.size() ? FindCondition(inside) + 1 : 0;
+        break;
+      }
+      at = std::min(close + 1, tokens_.size());
+    } else if (IsLongDash(token) && std::ranges::none_of(part(0, at), IsLongDash) &&
+               IsProse(part(at + 1, tokens_.size()), names_)) {
+      return true;
+    } else if (Skip(at) == at) {
+      break;
+    } else {
+      ++at;
+    }
+  }
+  if (at < tokens_.size()) Unknown(at, " is not understood", EndOfBracket(at));
+  return at == tokens_.size();
+}
+
+std::size_t Phrases::EndOfBracket(std::size_t at) const {
+  if (!Is(at, TokenKind::Open)) return at + 1;
+  return std::min(ClosingBracket(tokens_, at) + 1, tokens_.size());
+}
+
+void Phrases::Expected(const std::string& reason, std::size_t at) {
+  at = std::min(at, tokens_.size());
+  SetProblem(reason, {at, std::min(at + 1, tokens_.size())});
+}
+
+void Phrases::SetProblem(const std::string& reason, TokenRange at) {
+  if (!problem_ || problem_->At.Begin < at.Begin) problem_ = Fault{reason, at};
+}
+
+void Phrases::Unknown(std::size_t at, const std::string& reason, std::size_t end) {
+  const std::string quoted = Quoted(tokens_.subspan(at, end - at));
+  const std::string_view near = names_.NearlyNamed(tokens_[at].Text);
+  if (!near.empty()) {
+    return SetProblem(quoted + " is not on the map; " + std::string(near) + "?", {at, end});
+  }
+  SetProblem(quoted + reason, {at, end});
+}
+
+void Phrases::NotInStage(std::size_t at) {
+  at = Skip(at);
+  if (at >= tokens_.size()) return;
+  constexpr std::array<std::string_view, 4> stages{"", "moves", "retreats", "adjustments"};
+  const std::string_view stage = stages[static_cast<std::size_t>(stage_)];
+  Expected(stage.empty() ? "no orders are taken in this stage"
+                         : Quoted(tokens_.subspan(at, 1)) + " is no order of the stage \"" +
+                               std::string(stage) + "\"",
+           at);
+}
+
+}  // namespace orb::exchange

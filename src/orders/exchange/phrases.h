@@ -1,0 +1,69 @@
+#pragma once
+
+#include "orders/exchange/place_names.h"
+#include "orders/exchange/written_order.h"
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace orb::exchange {
+
+/// The parts that orders are made of, read from one run of tokens. Reading passes over brackets,
+/// commas, full stops and fillers. Keeps the fault that was met furthest behind.
+class Phrases {
+ public:
+  template <class Part>
+  using Read = std::vector<std::pair<Part, std::size_t>>;  ///< with the token behind it
+
+  Phrases(Tokens tokens, const PlaceNames& names, const model::Map& map, OrderStage stage)
+      : tokens_(tokens), names_(names), map_(map), stage_(stage) {}
+
+  PowerName Power(std::size_t at) const;
+  Read<WrittenPlace> Places(std::size_t at, const std::string& whenMissing);
+  Read<WrittenUnit> Units(std::size_t at);
+
+  /// The verb here and the token behind all its words; of "moves to hold" it is Hold.
+  std::pair<Verb, std::size_t> VerbAt(std::size_t at) const;
+
+  /// Whether the verb here is one that commands a unit named behind it.
+  bool MayLead(std::size_t at) const;
+
+  bool IsWater(const WrittenPlace& place) const;
+
+  // Behind words that may stand there; the same token when there are none.
+  std::size_t PastVia(std::size_t at) const;    ///< "via convoy", "by F NTH"
+  std::size_t PastNoun(std::size_t at) const;   ///< "the move of"
+  std::size_t PastCount(std::size_t at) const;  ///< "2 builds"
+  std::size_t PastMarks(std::size_t at) const;  ///< punctuation behind a power or a verb
+
+  /// Whether nothing but punctuation and comments is left; else a fault.
+  bool Ends(std::size_t at);
+
+  void Expected(const std::string& reason, std::size_t at);
+  void NotInStage(std::size_t at);
+  const std::optional<Fault>& Problem() const { return problem_; }
+
+ private:
+  std::size_t Skip(std::size_t at) const;
+  std::size_t SkipNoBracket(std::size_t at) const;
+  bool Is(std::size_t at, TokenKind kind) const;
+  bool Is(std::size_t at, std::string_view word) const;
+  void SetProblem(const std::string& reason, TokenRange at);
+  void Unknown(std::size_t at, const std::string& reason, std::size_t end);
+  std::size_t EndOfBracket(std::size_t at) const;
+  void AddCoasts(const PlaceMatch& match, std::size_t at, Read<WrittenPlace>& places) const;
+  void AddGluedCoast(std::size_t at, Read<WrittenPlace>& places) const;
+  void AddLeadingCoast(std::size_t at, Read<WrittenPlace>& places) const;
+  std::size_t PastEcho(const PlaceMatch& match) const;
+  std::vector<int> CoastRows(const std::vector<int>& provinces, char letter) const;
+
+  Tokens tokens_;
+  const PlaceNames& names_;
+  const model::Map& map_;
+  OrderStage stage_;
+  std::optional<Fault> problem_;
+};
+
+}  // namespace orb::exchange

@@ -1,0 +1,150 @@
+#include "orders/exchange/place_names.h"
+
+#include "model/text.h"
+#include "orders/exchange/spellings.h"
+
+#include <algorithm>
+#include <array>
+
+namespace orb::exchange {
+namespace {
+
+constexpr std::size_t NameLength = 3;  ///< of a province's abbreviation
+constexpr std::size_t WordBound = 4;   ///< words of the longest name
+constexpr std::size_t ShortestStart = 3;
+
+/// Up to four words from here on; dots and glued dashes between them are passed over.
+struct WordRun {
+  std::array<std::string_view, WordBound> Words;
+  std::array<std::size_t, WordBound> Next{};
+  std::size_t Count = 0;
+};
+
+WordRun WordsFrom(Tokens tokens, std::size_t at) {
+  WordRun run;
+  while (at < tokens.size() && run.Count < WordBound && IsA(tokens[at], TokenKind::Word)) {
+    run.Words[run.Count] = tokens[at].Text;
+    run.Next[run.Count++] = ++at;
+    const bool isDot = at < tokens.size() && IsA(tokens[at], TokenKind::Dot);
+    const bool isHyphen = at + 1 < tokens.size() && IsA(tokens[at], TokenKind::Dash) &&
+                          tokens[at].Text == "-" && tokens[at].Glued && tokens[at + 1].Glued;
+    if (isDot || isHyphen) ++at;
+  }
+  return run;
+}
+
+bool IsOneSlipAway(std::string_view a, std::string_view b) {
+  if (a.size() > b.size()) std::swap(a, b);
+  if (b.size() - a.size() > 1 || a[0] != b[0]) return false;
+  const auto [left, right] = std::mismatch(a.begin(), a.end(), b.begin());
+  const auto at = static_cast<std::size_t>(left - a.begin());
+  if (a.size() < b.size()) return a.substr(at) == b.substr(at + 1);
+  if (at == a.size() || a.substr(at + 1) == b.substr(at + 1)) return true;
+  return at + 1 < a.size() && a[at] == b[at + 1] && a[at + 1] == b[at] &&
+         a.substr(at + 2) == b.substr(at + 2);
+}
+
+void AddRow(std::vector<int>& rows, int row) {
+  const auto place = std::ranges::lower_bound(rows, row);
+  if (place == rows.end() || *place != row) rows.insert(place, row);
+}
+
+}  // namespace
+
+PlaceNames::PlaceNames(const model::Map& map)
+    : map_(map), locations_(static_cast<std::size_t>(map.Provinces.Count()) + 1) {
+  for (int row = 1; row <= map.Provinces.Count(); ++row)
+    AddPlace(row);
+  for (const model::NameFix& fix : map.NameFixes)
+    Add(fix.From, model::FindProvince(map, fix.To), false);
+  for (const UsualSpelling& spelling : UsualSpellings())
+    Add(spelling.Written, model::FindProvince(map, spelling.Abbreviation), false);
+}
+
+void PlaceNames::AddPlace(int row) {
+  const std::string& name = map_.Provinces[row].Name;
+  const int province =
+      name.size() > NameLength ? model::FindProvince(map_, name.substr(0, NameLength)) : 0;
+  locations_[static_cast<std::size_t>(row)].push_back(row);
+  if (province != 0 && province != row) {
+    locations_[static_cast<std::size_t>(province)].push_back(row);
+    return;
+  }
+  Add(name, row, false);
+  Add(map_.Provinces[row].FullName, row, true);
+}
+
+void PlaceNames::Add(std::string_view name, int row, bool mayBeShort) {
+  if (row == 0) return;
+  Spelling spelling{{}, {}, row, mayBeShort};
+  for (const Token& token : CutTokens(name)) {
+    if (!IsA(token, TokenKind::Word)) continue;
+    spelling.Words.push_back(token.Text);
+    spelling.Joined += token.Text;
+  }
+  if (!spelling.Words.empty()) spellings_.push_back(std::move(spelling));
+}
+
+std::vector<PlaceMatch> PlaceNames::At(Tokens tokens, std::size_t at) const {
+  const WordRun run = WordsFrom(tokens, at);
+  std::array<PlaceMatch, WordBound> matches;
+  const auto add = [&](std::size_t length, int row, bool exact) {
+    PlaceMatch& match = matches[length - 1];
+    if (exact && !match.IsExact) match.Rows.clear();
+    if (exact || !match.IsExact) AddRow(match.Rows, row);
+    match.IsExact |= exact;
+    match.Next = run.Next[length - 1];
+  };
+  if (run.Count == 0) return {};
+  for (const Spelling& spelling : spellings_) {
+    const std::string_view first = run.Words[0];
+    if (first[0] != spelling.Joined[0]) continue;
+    const std::size_t size = spelling.Words.size();
+    const bool isLong = first.size() >= ShortestStart;
+    if (spelling.Joined == first ||
+        (spelling.MayBeShort && isLong && std::string_view(spelling.Joined).starts_with(first))) {
+      add(1, spelling.Row, spelling.Joined == first);
+    }
+    bool isSame = true;
+    for (std::size_t n = 0; n < std::min(size, run.Count); ++n) {
+      if (!std::string_view(spelling.Words[n]).starts_with(run.Words[n])) break;
+      isSame = isSame && spelling.Words[n] == run.Words[n];
+      const bool isWhole = isSame && n + 1 == size;
+      if (isWhole || (spelling.MayBeShort && isLong)) add(n + 1, spelling.Row, isWhole);
+    }
+  }
+  std::vector<PlaceMatch> found;
+  for (std::size_t n = WordBound; n > 0; --n) {
+    if (!matches[n - 1].Rows.empty()) found.push_back(std::move(matches[n - 1]));
+  }
+  return found;
+}
+
+int PlaceNames::Coast(int province, char letter) const {
+  for (const int row : Locations(province)) {
+    const std::string& name = map_.Provinces[row].Name;
+    if (row != province && model::LowerCase(name).back() == letter) return row;
+  }
+  return 0;
+}
+
+const std::vector<int>& PlaceNames::Locations(int province) const {
+  return locations_[static_cast<std::size_t>(province)];
+}
+
+std::string_view PlaceNames::NearlyNamed(std::string_view word) const {
+  constexpr std::size_t shortest = 5;
+  if (word.size() < shortest) return {};
+  for (const Spelling& spelling : spellings_) {
+    if (!spelling.MayBeShort) continue;
+    const auto isNear = [&](std::string_view name) {
+      return name.size() >= shortest && IsOneSlipAway(name, word);
+    };
+    if (isNear(spelling.Joined) || std::ranges::any_of(spelling.Words, isNear)) {
+      return map_.Provinces[spelling.Row].FullName;
+    }
+  }
+  return {};
+}
+
+}  // namespace orb::exchange

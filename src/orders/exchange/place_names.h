@@ -1,0 +1,55 @@
+#pragma once
+
+#include "model/map.h"
+#include "orders/exchange/words.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orb::exchange {
+
+/// The places that some tokens can name.
+struct PlaceMatch {
+  std::vector<int> Rows;  ///< of the map's provinces, ascending; several for "Nor"
+  std::size_t Next = 0;   ///< the token behind the name
+  bool IsExact = false;   ///< spelled in full: an abbreviation, a name or another usual spelling
+};
+
+/// Every spelling of the map's places: abbreviations, full names, the beginnings of full names from
+/// three letters on, and other usual abbreviations and names. Case never matters.
+class PlaceNames {
+ public:
+  explicit PlaceNames(const model::Map& map);
+
+  /// The places named by the tokens from here on, for each length of the name, the longest first.
+  /// Coasts are not looked at.
+  std::vector<PlaceMatch> At(Tokens tokens, std::size_t at) const;
+
+  /// The row of a province's coast by its letter, or 0.
+  int Coast(int province, char letter) const;
+
+  /// The province and its coasts.
+  const std::vector<int>& Locations(int province) const;
+
+  /// The full name that a word of five letters or more is one slip away from, or nothing.
+  std::string_view NearlyNamed(std::string_view word) const;
+
+ private:
+  struct Spelling {
+    std::vector<std::string> Words;
+    std::string Joined;  ///< the words without blanks
+    int Row = 0;
+    bool MayBeShort = false;  ///< a beginning will do
+  };
+
+  void Add(std::string_view name, int row, bool mayBeShort);
+  void AddPlace(int row);
+
+  const model::Map& map_;
+  std::vector<Spelling> spellings_;
+  std::vector<std::vector<int>> locations_;  ///< by row
+};
+
+}  // namespace orb::exchange

@@ -1,0 +1,86 @@
+#include "orders/exchange/plain_text.h"
+
+#include "model/utf8.h"
+#include "model/windows_1252.h"
+
+#include <algorithm>
+#include <array>
+
+namespace orb::exchange {
+namespace {
+
+/// Characters of one range and what stands for all of them.
+struct Folding {
+  char32_t First;
+  char32_t Last;
+  std::string_view Plain;
+};
+
+constexpr std::array Foldings{
+    Folding{0x00, 0x1F, " "},       Folding{0x7F, 0xA0, " "},      Folding{0xAB, 0xAB, ">"},
+    Folding{0xAD, 0xAD, ""},        Folding{0xB4, 0xB4, "'"},      Folding{0xB7, 0xB7, "*"},
+    Folding{0xBB, 0xBB, ">"},       Folding{0x1680, 0x1680, " "},  Folding{0x2000, 0x200A, " "},
+    Folding{0x200B, 0x200F, ""},    Folding{0x2010, 0x2013, "-"},  Folding{0x2014, 0x2015, "--"},
+    Folding{0x2018, 0x201B, "'"},   Folding{0x201C, 0x201F, "\""}, Folding{0x2022, 0x2023, "*"},
+    Folding{0x2026, 0x2026, "..."}, Folding{0x2028, 0x202F, " "},  Folding{0x2032, 0x2032, "'"},
+    Folding{0x2033, 0x2033, "\""},  Folding{0x203A, 0x203A, ">"},  Folding{0x2043, 0x2043, "*"},
+    Folding{0x205F, 0x205F, " "},   Folding{0x2060, 0x2064, ""},   Folding{0x2192, 0x2192, "->"},
+    Folding{0x21A6, 0x21A6, "->"},  Folding{0x21D2, 0x21D2, "->"}, Folding{0x2212, 0x2212, "-"},
+    Folding{0x25A0, 0x25FF, "*"},   Folding{0x2794, 0x2794, "->"}, Folding{0x2799, 0x279E, "->"},
+    Folding{0x27A1, 0x27A1, "->"},  Folding{0x27F6, 0x27F6, "->"}, Folding{0x27F9, 0x27F9, "->"},
+    Folding{0x2B95, 0x2B95, "->"},  Folding{0x3000, 0x3000, " "},  Folding{0xFE00, 0xFE0F, ""},
+    Folding{0xFE58, 0xFE58, "--"},  Folding{0xFE63, 0xFE63, "-"},  Folding{0xFEFF, 0xFEFF, ""},
+    Folding{0xFF0D, 0xFF0D, "-"},
+};
+
+/// The letters U+00C0 to U+00FF without their accents.
+constexpr std::string_view Letters =
+    "AAAAAAACEEEEIIIIDNOOOOOxOUUUUYTsaaaaaaaceeeeiiiidnooooo/ouuuuyty";
+constexpr char32_t FirstLetter = 0xC0;
+
+/// The plain form of a character; its own bytes when it has none.
+std::string_view Fold(char32_t character, std::string_view bytes) {
+  if (character >= FirstLetter && character < FirstLetter + Letters.size()) {
+    return Letters.substr(character - FirstLetter, 1);
+  }
+  for (const Folding& folding : Foldings) {
+    if (character >= folding.First && character <= folding.Last) return folding.Plain;
+  }
+  return bytes;
+}
+
+bool IsUtf8(std::string_view line) {
+  while (!line.empty()) {
+    if (!model::NextCharacter(line)) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+Span PlainText::Written(std::size_t begin, std::size_t end) const {
+  const Span first = Origins[begin];
+  const Span last = Origins[end - 1];
+  return {first.Offset, std::max(first.Length, last.Offset + last.Length - first.Offset)};
+}
+
+PlainText ToPlain(std::string_view line, std::size_t offset) {
+  const bool utf8 = IsUtf8(line);
+  PlainText plain;
+  plain.Text.reserve(line.size());
+  plain.Origins.reserve(line.size());
+  while (!line.empty()) {
+    std::string_view rest = line;
+    const auto character = utf8 ? model::NextCharacter(rest) : std::nullopt;
+    if (!character) rest.remove_prefix(1);
+    const std::string_view bytes = line.substr(0, line.size() - rest.size());
+    plain.Text += Fold(
+        character ? *character : model::CharacterOf(static_cast<unsigned char>(bytes[0])), bytes);
+    plain.Origins.resize(plain.Text.size(), {offset, bytes.size()});
+    offset += bytes.size();
+    line = rest;
+  }
+  return plain;
+}
+
+}  // namespace orb::exchange

@@ -1,0 +1,325 @@
+#include "orders/exchange/read_orders.h"
+
+#include "model/text.h"
+#include "orders/exchange/comments.h"
+#include "orders/exchange/exact_line.h"
+#include "orders/exchange/line_kinds.h"
+#include "orders/exchange/order_part.h"
+
+#include <algorithm>
+
+namespace orb::exchange {
+namespace {
+
+/// A line of the text with its tokens, which look into its plain form.
+struct SourceLine {
+  int Number = 0;
+  std::string_view Bytes;  ///< without blanks at its ends
+  std::size_t Offset = 0;
+  PlainText Plain;
+  std::vector<Token> All;
+  bool IsTooLong = false;
+};
+
+SourceLine CutLine(int number, std::string_view bytes, std::size_t offset,
+                   std::span<const TextRepair> repairs) {
+  SourceLine line;
+  const std::size_t start = std::min(bytes.find_first_not_of(" \t"), bytes.size());
+  const std::size_t end = bytes.find_last_not_of(" \t");
+  line.Number = number;
+  line.Offset = offset + start;
+  line.Bytes = bytes.substr(start, end == std::string_view::npos ? 0 : end + 1 - start);
+  line.Plain = ToPlain(line.Bytes, line.Offset);
+  line.IsTooLong = !Repair(line.Plain, repairs);
+  return line;
+}
+
+/// Whether a word counts as a seam between two orders of a line.
+bool IsSeam(const Token& token, bool atSemicolons) {
+  if (atSemicolons) return token.Kind == TokenKind::Semicolon;
+  return token.Kind == TokenKind::Comma || IsWord(token, "and");
+}
+
+/// The parts between seams that stand in no brackets; empty ones are left out.
+std::vector<TokenRange> Split(Tokens tokens, TokenRange range, bool atSemicolons) {
+  std::vector<TokenRange> parts;
+  std::size_t start = range.Begin;
+  const auto close = [&](std::size_t end) {
+    if (end > start) parts.push_back({start, end});
+  };
+  for (std::size_t at = range.Begin; at < range.End; ++at) {
+    if (IsA(tokens[at], TokenKind::Open)) {
+      const std::size_t bracket = ClosingBracket(tokens.first(range.End), at);
+      if (bracket < range.End) at = bracket;
+    } else if (IsSeam(tokens[at], atSemicolons)) {
+      close(at);
+      start = at + 1;
+    }
+  }
+  close(range.End);
+  return parts;
+}
+
+/// Reads a text line by line; what headings say is kept for the lines below.
+class TextReader {
+ public:
+  TextReader(Situation& situation, const ReadingOptions& options)
+      : situation_(situation), options_(options) {
+    context_.Power = model::FindCountry(options.Power);
+  }
+
+  std::vector<ReadLine> Read(std::string_view text) {
+    int number = 0;
+    const char* const begin = text.data();
+    while (!text.empty()) {
+      const std::string_view bytes = model::NextLine(text);
+      SourceLine line = CutLine(++number, bytes, static_cast<std::size_t>(bytes.data() - begin),
+                                options_.Repairs);
+      ReadLineOf(line);
+    }
+    return std::move(lines_);
+  }
+
+  ReadLine ReadOne(std::string_view text) {
+    isSingle_ = true;
+    SourceLine line = CutLine(1, text, 0, options_.Repairs);
+    if (line.Bytes.empty()) {
+      AddLine(line, LineKind::PassedOver);
+    } else if (!ReadExact(line)) {
+      line.All = CutTokens(line.Plain.Text);
+      const TokenRange body{PastLineStart(line.All), line.All.size()};
+      Context context = context_;
+      const PartRead part = ReadPart(PartOf(line, body), situation_, context);
+      line.IsTooLong ? AddTooLong(line) : AddPart(line, body, part, context);
+    }
+    return std::move(lines_.front());
+  }
+
+ private:
+  static Tokens PartOf(const SourceLine& line, TokenRange range) {
+    return Tokens(line.All).subspan(range.Begin, range.End - range.Begin);
+  }
+
+  void ReadLineOf(SourceLine& line) {
+    if (ReadExact(line)) return;
+    if (line.IsTooLong) return AddTooLong(line);
+    line.All = CutTokens(line.Plain.Text);
+    const Tokens tokens = line.All;
+    TokenRange body{PastLineStart(tokens), tokens.size()};
+    const bool hasWord = std::ranges::any_of(
+        tokens, [](const Token& token) { return token.Kind == TokenKind::Word; });
+    if (!hasWord) {
+      inSignature_ = inSignature_ || line.Plain.Text == "--";
+      AddLine(line, LineKind::PassedOver);
+      return;
+    }
+    if (IsMailHead(PartOf(line, body))) {
+      AddLine(line, LineKind::PassedOver);
+      return;
+    }
+    if (const auto heading = ReadHeading(PartOf(line, body))) return AddHeading(line, *heading);
+    const auto isSign = [](const Token& token) {
+      return token.Kind == TokenKind::Mark && (token.Text == "#" || token.Text.starts_with("//"));
+    };
+    const auto sign = std::ranges::find_if(PartOf(line, body), isSign);
+    const TokenRange comment{
+        body.Begin + static_cast<std::size_t>(sign - PartOf(line, body).begin()), body.End};
+    body.End = comment.Begin;
+    ReadBody(line, body, comment);
+  }
+
+  void ReadBody(const SourceLine& line, TokenRange body, TokenRange comment) {
+    const Tokens said = PartOf(line, comment);
+    const std::size_t condition = FindCondition(said);
+    if (body.Begin < body.End && condition < said.size()) {
+      const std::size_t at = comment.Begin + condition;
+      return AddUnclear(line, {body.Begin, comment.End}, {at, at + 1}, NotUnderstoodText(line, at));
+    }
+    Context context = context_;
+    const std::size_t before = lines_.size();
+    for (const TokenRange segment : Split(line.All, body, true))
+      ReadSegment(line, segment, context);
+    const bool hasOrder =
+        std::any_of(lines_.begin() + static_cast<std::ptrdiff_t>(before), lines_.end(), IsOrder);
+    if (hasOrder) inSignature_ = false;
+    if (said.empty()) return;
+    const bool isOrder = body.Begin == body.End
+                             ? !IsNoOrder(said, situation_.Names, inSignature_)
+                             : IsUnderstood(ReadPart(said.subspan(1), situation_, context));
+    if (isOrder) {
+      AddUnclear(line, comment, {comment.Begin, comment.Begin + 1}, "it stands in a comment");
+    } else if (lines_.size() == before) {
+      AddLine(line, LineKind::PassedOver);
+    }
+  }
+
+  static bool IsOrder(const ReadLine& line) {
+    return line.Kind == LineKind::Order || line.Kind == LineKind::Ambiguous ||
+           line.Kind == LineKind::Waive;
+  }
+
+  /// Reads what stands between semicolons: one order, or several between commas.
+  void ReadSegment(const SourceLine& line, TokenRange segment, Context& context) {
+    Context whole = context;
+    const PartRead read = ReadPart(PartOf(line, segment), situation_, whole);
+    if (!IsUnderstood(read) && ReadParts(line, segment, context)) return;
+    context = whole;
+    AddPart(line, segment, read, context);
+  }
+
+  /// Reads parts between commas; false, and nothing is read, when none of them is an order.
+  bool ReadParts(const SourceLine& line, TokenRange segment, Context& context) {
+    Context tried = context;
+    std::vector<std::pair<TokenRange, PartRead>> parts;
+    std::size_t condition = segment.End;
+    for (const TokenRange range : Split(line.All, segment, false)) {
+      parts.emplace_back(range, ReadPart(PartOf(line, range), situation_, tried));
+      const std::size_t at = FindCondition(PartOf(line, range));
+      const bool isHere = !IsUnderstood(parts.back().second) && at < range.End - range.Begin;
+      if (isHere && condition == segment.End) condition = range.Begin + at;
+    }
+    if (std::ranges::none_of(parts, [](const auto& part) { return IsUnderstood(part.second); })) {
+      return false;
+    }
+    context = tried;
+    if (condition < segment.End) {
+      AddUnclear(line, segment, {condition, condition + 1}, NotUnderstoodText(line, condition));
+      return true;
+    }
+    for (const auto& [range, part] : parts)
+      AddPart(line, range, part, context);
+    return true;
+  }
+
+  bool ReadExact(const SourceLine& line) {
+    const auto order = ReadExactLine(*situation_.Game.Map, situation_.Stage, line.Bytes);
+    if (!order) return false;
+    ReadLine& read = AddLine(line, LineKind::Order);
+    read.Order = line.Bytes;
+    read.Power = order->Power;
+    read.Reason = situation_.Objection(*order);
+    read.ReasonPlace = read.Place;
+    inSignature_ = false;
+    return true;
+  }
+
+  ReadLine& Add(const SourceLine& line, Span place, LineKind kind, int power) {
+    ReadLine& read = lines_.emplace_back();
+    read.Number = line.Number;
+    read.Place = place;
+    read.Written = line.Bytes.substr(place.Offset - line.Offset, place.Length);
+    read.Kind = kind;
+    read.Power = PowerText(power);
+    return read;
+  }
+
+  ReadLine& AddLine(const SourceLine& line, LineKind kind) {
+    return Add(line, {line.Offset, line.Bytes.size()}, kind, context_.Power);
+  }
+
+  void AddTooLong(const SourceLine& line) {
+    ReadLine& read = AddLine(line, LineKind::NotUnderstood);
+    read.Reason = "the line is longer than " + std::to_string(LineBound) + " characters";
+    read.ReasonPlace = read.Place;
+  }
+
+  void AddHeading(const SourceLine& line, const Heading& heading) {
+    const bool says = heading.Power != 0 || heading.Orders != Verb::None;
+    if (heading.Power != 0) {
+      context_ = {heading.Power, heading.Orders};
+      inSignature_ = false;
+    } else if (says) {
+      context_.Orders = heading.Orders;
+    }
+    AddLine(line, says ? LineKind::Heading : LineKind::PassedOver);
+  }
+
+  static Span Written(const SourceLine& line, TokenRange range) {
+    return line.Plain.Written(line.All[range.Begin].Begin, line.All[range.End - 1].End);
+  }
+
+  void AddUnclear(const SourceLine& line, TokenRange range, TokenRange reasonAt,
+                  const std::string& reason) {
+    ReadLine& read = Add(line, Written(line, range), LineKind::NotUnderstood, context_.Power);
+    read.Reason = reason;
+    read.ReasonPlace = Written(line, reasonAt);
+  }
+
+  static std::string NotUnderstoodText(const SourceLine& line, std::size_t at) {
+    return Quoted(Tokens(line.All).subspan(at, 1)) + " is not understood";
+  }
+
+  void AddPart(const SourceLine& line, TokenRange range, const PartRead& part,
+               const Context& context) {
+    const Tokens tokens = PartOf(line, range);
+    if (tokens.empty()) {
+      AddLine(line, LineKind::PassedOver);
+      return;
+    }
+    ReadLine& read = Add(line, Written(line, range), part.Kind, context.Power);
+    const std::vector<Meaning>& meant = part.Meant.All;
+    read.ReasonPlace = read.Place;
+    if (part.Kind == LineKind::Order) {
+      read.Order = meant[0].Line;
+      read.Power = PowerText(meant[0].Power);
+      read.Reason = meant[0].Objection;
+    } else if (part.Kind == LineKind::Ambiguous) {
+      read.Reason = AmbiguityText(part.Meant);
+      for (const Meaning& meaning : meant)
+        read.Candidates.push_back(meaning.Line);
+    } else if (part.Kind == LineKind::NotUnderstood) {
+      AddProblem(line, range, part.Problem, read);
+    }
+  }
+
+  void AddProblem(const SourceLine& line, TokenRange range, const Fault& problem, ReadLine& read) {
+    if (!isSingle_ && IsNoOrder(PartOf(line, range), situation_.Names, inSignature_)) {
+      read.Kind = LineKind::PassedOver;
+      return;
+    }
+    read.Reason = problem.Reason;
+    const std::size_t begin = range.Begin + problem.At.Begin;
+    const std::size_t end = std::min(range.Begin + problem.At.End, range.End);
+    read.ReasonPlace =
+        begin < end ? Written(line, {begin, end}) : Span{read.Place.Offset + read.Place.Length, 0};
+  }
+
+  Situation& situation_;
+  const ReadingOptions& options_;
+  Context context_;
+  bool inSignature_ = false;
+  bool isSingle_ = false;  ///< the text is an order, whatever it looks like
+  std::vector<ReadLine> lines_;
+};
+
+void LearnMoves(const std::vector<ReadLine>& lines, Situation& situation) {
+  if (situation.Stage != OrderStage::Moves) return;
+  for (const ReadLine& line : lines) {
+    if (line.Kind != LineKind::Order) continue;
+    const auto order = ReadExactLine(*situation.Game.Map, situation.Stage, line.Order);
+    if (order) situation.Learn(*order);
+  }
+}
+
+}  // namespace
+
+std::vector<ReadLine> ReadOrders(const model::GameState& game, std::string_view text,
+                                 const ReadingOptions& options) {
+  const PlaceNames names(*game.Map);
+  Situation situation(game, names, StageOf(game));
+  std::vector<ReadLine> lines = TextReader(situation, options).Read(text);
+  LearnMoves(lines, situation);
+  // What a support means may depend on moves that are written below it.
+  if (!situation.Moves.empty()) lines = TextReader(situation, options).Read(text);
+  return lines;
+}
+
+ReadLine ReadOrder(const model::GameState& game, std::string_view text,
+                   const ReadingOptions& options, const std::vector<ReadLine>& before) {
+  const PlaceNames names(*game.Map);
+  Situation situation(game, names, StageOf(game));
+  LearnMoves(before, situation);
+  return TextReader(situation, options).ReadOne(text);
+}
+
+}  // namespace orb::exchange

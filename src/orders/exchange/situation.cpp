@@ -1,0 +1,134 @@
+#include "orders/exchange/situation.h"
+
+#include "model/text.h"
+#include "orders/lookups.h"
+
+#include <algorithm>
+
+namespace orb::exchange {
+namespace {
+
+using model::Unit;
+
+constexpr std::size_t NameLength = 3;
+
+bool IsCoast(const std::string& location) {
+  return location.size() > NameLength;
+}
+
+/// Whether the unit is written so: type, power and coast count where they are written.
+bool Fits(const Unit& unit, const WrittenUnit& written, const std::string& power,
+          const std::string& location) {
+  const bool stands =
+      IsCoast(location) ? unit.Location == location : model::SamePlace(unit.Location, location);
+  return stands && (written.Type == 0 || unit.UnitType[0] == written.Type) &&
+         (power.empty() || unit.Power == power);
+}
+
+}  // namespace
+
+std::string PowerText(int power) {
+  return power == 0 ? std::string() : model::FixedCountries()[power].Abbreviation;
+}
+
+std::vector<UnitMeant> Situation::UnitsMeant(const WrittenUnit& written, int power, int fallback,
+                                             Fault& fault) const {
+  std::vector<UnitMeant> meant;
+  const Unit* other = nullptr;
+  const std::string owner = PowerText(power);
+  for (const Unit& unit : Game.Units) {
+    for (const int row : written.Place.Rows) {
+      if (unit.UnitType.empty() || !model::SamePlace(unit.Location, NameOf(row))) continue;
+      const bool takesOrders = Stage != OrderStage::Retreats || unit.Status == model::Dislodged;
+      if (takesOrders && Fits(unit, written, owner, NameOf(row))) {
+        meant.push_back({unit, {}});
+        break;
+      }
+      if (other == nullptr || takesOrders) other = &unit;
+    }
+  }
+  if (!meant.empty()) return meant;
+  fault.At = written.Place.At;
+  if (other != nullptr) {
+    const bool settled = Stage == OrderStage::Retreats && other->Status != model::Dislodged;
+    fault.Reason = settled ? orders::UnitText(*other) + " is not dislodged"
+                           : "the unit there is " + orders::UnitText(*other);
+    return meant;
+  }
+  if (written.Type == 0 || fallback == 0) {
+    fault.Reason = "no unit stands there";
+    return meant;
+  }
+  for (const int row : written.Place.Rows) {
+    Unit unit;
+    unit.Power = PowerText(fallback);
+    unit.UnitType = std::string(1, written.Type);
+    unit.Location = NameOf(row);
+    meant.push_back({unit, "there is no " + orders::UnitText(unit)});
+  }
+  return meant;
+}
+
+std::vector<std::string> Situation::DestinationsMeant(const WrittenPlace& written, const Unit& unit,
+                                                      bool byConvoy) const {
+  const model::Map& map = *Game.Map;
+  std::vector<std::string> all;
+  std::vector<std::string> possible;
+  std::vector<std::string> near;
+  for (const int row : written.Rows) {
+    std::vector<std::string> reached;
+    for (const int location : Names.Locations(row)) {
+      if (orders::IsAdjacent(map, unit.UnitType, unit.Location, NameOf(location))) {
+        reached.push_back(NameOf(location));
+      }
+    }
+    if (unit.UnitType != "F" || reached.empty()) reached = {NameOf(row)};
+    for (const std::string& location : reached) {
+      all.push_back(location);
+      if (orders::CanStandIn(map, unit.UnitType, location)) possible.push_back(location);
+      if (orders::IsAdjacent(map, unit.UnitType, unit.Location, location)) near.push_back(location);
+    }
+  }
+  if (written.Rows.size() == 1) return all;
+  if (!near.empty() && !byConvoy) return near;
+  return possible.empty() ? all : possible;
+}
+
+std::string Situation::Objection(const orders::OrderLine& order) const {
+  const auto stands = [&](const std::string& power, const std::string& type,
+                          const std::string& location) {
+    return std::any_of(Game.Units.begin(), Game.Units.end(), [&](const Unit& unit) {
+      return unit.Power == power && unit.UnitType == type && unit.Location == location &&
+             (Stage != OrderStage::Retreats || unit.Status == model::Dislodged);
+    });
+  };
+  const auto missing = [](const std::string& power, const std::string& type,
+                          const std::string& location) {
+    return "there is no " + orders::UnitText({power, type, location, {}, {}, {}});
+  };
+  if (order.Kind != "BUILD" && !stands(order.Power, order.UnitType, order.Location)) {
+    return missing(order.Power, order.UnitType, order.Location);
+  }
+  if (!order.UnitType2.empty() && !stands(order.Power2, order.UnitType2, order.Target)) {
+    return missing(order.Power2, order.UnitType2, order.Target);
+  }
+  return {};
+}
+
+void Situation::Learn(const orders::OrderLine& order) {
+  std::erase_if(Moves, [&](const orders::OrderLine& known) {
+    return known.Power == order.Power && known.UnitType == order.UnitType &&
+           known.Location == order.Location;
+  });
+  if (orders::IsMove(order)) Moves.push_back(order);
+}
+
+const std::string* Situation::OrderedMove(const Unit& unit) const {
+  const auto move = std::ranges::find_if(Moves, [&](const orders::OrderLine& order) {
+    return order.Power == unit.Power && order.UnitType == unit.UnitType &&
+           order.Location == unit.Location;
+  });
+  return move == Moves.end() ? nullptr : &move->Target;
+}
+
+}  // namespace orb::exchange

@@ -1,0 +1,216 @@
+#include "orders/exchange/vocabulary.h"
+
+#include "model/country.h"
+#include "model/text.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+
+namespace orb::exchange {
+namespace {
+
+using Words = std::span<const std::string_view>;
+
+bool IsIn(const Token& token, Words words) {
+  return token.Kind == TokenKind::Word && std::ranges::find(words, token.Text) != words.end();
+}
+
+struct VerbWords {
+  Verb Meaning;
+  std::string_view Words;  ///< parted and enclosed by blanks
+};
+
+constexpr std::array Verbs{
+    VerbWords{Verb::Move,
+              " to into m mv move moves moving attack attacks attacking go goes going advance "
+              "advances march marches sail sails enter enters invade "
+              "invades mve "},
+    VerbWords{Verb::Hold, " h hold holds holding hld stand stands stay stays remain remains "},
+    VerbWords{Verb::Support, " s sup supp supports support supporting spt sprt su "},
+    VerbWords{Verb::Convoy,
+              " c cv cvy conv convoy convoys convoying transport transports carry carries "},
+    VerbWords{Verb::Retreat, " r ret retr retreat retreats retreating withdraw withdraws "},
+    VerbWords{Verb::Disband,
+              " d dis disb disband disbands disbanded disbanding remove removes removed removing "
+              "removal removals destroy destroys destroyed disbandment disbandments "},
+    VerbWords{Verb::Build, " b bld build builds building raise raises "},
+    VerbWords{Verb::Waive, " w waive waives waived waiving waiver "},
+};
+
+struct PowerWords {
+  int Power;
+  std::string_view Words;
+};
+
+/// What powers and their people are called beside the names and abbreviations in the game.
+constexpr std::array Nicknames{
+    PowerWords{1, "english"},
+    PowerWords{1, "great britain"},
+    PowerWords{1, "britain"},
+    PowerWords{1, "british"},
+    PowerWords{2, "french"},
+    PowerWords{3, "german"},
+    PowerWords{4, "russian"},
+    PowerWords{5, "turkish"},
+    PowerWords{5, "turks"},
+    PowerWords{5, "ottoman empire"},
+    PowerWords{5, "ottoman"},
+    PowerWords{6, "austria"},
+    PowerWords{6, "austrian"},
+    PowerWords{6, "austro"},
+    PowerWords{6, "austro hungarian"},
+    PowerWords{6, "austro hungary"},
+    PowerWords{6, "austrian hungarian"},
+    PowerWords{7, "italian"},
+    PowerWords{7, "italians"},
+    PowerWords{1, "brits"},
+    PowerWords{3, "germans"},
+    PowerWords{4, "russians"},
+    PowerWords{6, "austrians"},
+};
+
+constexpr std::array<std::string_view, 16> Fillers{"the", "my",    "our",   "an",   "please", "pls",
+                                                   "plz", "will",  "shall", "is",   "are",    "his",
+                                                   "her", "their", "unit",  "units"};
+
+constexpr std::array<std::string_view, 27> Conditions{
+    "if",        "unless",  "otherwise", "else",   "or",    "either",    "maybe",
+    "perhaps",   "instead", "not",       "dont",   "never", "cancel",    "except",
+    "depending", "should",  "could",     "might",  "may",   "cancelled", "canceled",
+    "provided",  "when",    "until",     "ignore", "no",    "wont"};
+
+constexpr std::array<std::string_view, 64> HeadingWords{
+    "orders",    "order",      "for",         "from",    "of",       "the",       "my",
+    "our",       "your",       "here",        "are",     "is",       "follow",    "follows",
+    "following", "these",      "as",          "below",   "in",       "and",       "a",
+    "spring",    "autumn",     "fall",        "winter",  "summer",   "season",    "year",
+    "turn",      "phase",      "game",        "player",  "power",    "country",   "moves",
+    "move",      "movement",   "movements",   "retreat", "retreats", "build",     "builds",
+    "building",  "adjustment", "adjustments", "removal", "removals", "disband",   "disbands",
+    "final",     "new",        "set",         "all",     "press",    "submitted", "by",
+    "set",       "revised",    "updated",     "year",    "gm",       "this",      "disbandments",
+    "with"};
+
+constexpr std::array<std::string_view, 28> Greetings{
+    "hi",      "hello",  "hey",    "dear",    "greetings", "good",      "morning",
+    "evening", "howdy",  "salut",  "bonjour", "hallo",     "ciao",      "regards",
+    "best",    "cheers", "thanks", "thank",   "yours",     "sincerely", "bye",
+    "kind",    "thx",    "gl",     "warm",    "cordially", "moin",      "goodbye"};
+
+constexpr std::array<std::string_view, 11> MailHeaders{
+    "from", "to", "cc", "bcc", "subject", "date", "sent", "reply", "received", "betreff", "von"};
+
+bool IsNumber(std::string_view word) {
+  return !word.empty() && word.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+/// "s01", "f1901m", "1901", "1901s", "1st": letters about a number.
+bool IsSeasonCode(std::string_view word) {
+  const std::size_t first = word.find_first_of("0123456789");
+  if (first == std::string_view::npos || first > 1) return false;
+  const std::size_t end = std::min(word.find_first_not_of("0123456789", first), word.size());
+  return word.size() - end <= 2;
+}
+
+/// How many tokens from here spell the words, dashes between them passed over; 0: they do not.
+std::size_t Spelled(Tokens tokens, std::size_t at, std::string_view words) {
+  std::size_t next = at;
+  while (!words.empty()) {
+    const std::size_t end = std::min(words.find_first_of(" -"), words.size());
+    if (next > at && next + 1 < tokens.size() && IsA(tokens[next], TokenKind::Dash) &&
+        tokens[next].Glued && tokens[next + 1].Glued) {
+      ++next;
+    }
+    if (next == tokens.size() || !IsWord(tokens[next], words.substr(0, end))) return 0;
+    ++next;
+    words.remove_prefix(std::min(end + 1, words.size()));
+  }
+  return next - at;
+}
+
+struct SpelledPower {
+  int Power;
+  std::string Words;
+};
+
+std::vector<SpelledPower> AllPowerNames() {
+  std::vector<SpelledPower> names;
+  const model::CountryTable countries = model::FixedCountries();
+  for (int i = 1; i <= countries.Count(); ++i) {
+    names.push_back({i, model::LowerCase(countries[i].Abbreviation)});
+    names.push_back({i, model::LowerCase(countries[i].Name)});
+  }
+  for (const PowerWords& name : Nicknames)
+    names.push_back({name.Power, std::string(name.Words)});
+  return names;
+}
+
+}  // namespace
+
+Verb VerbOf(const Token& token) {
+  if (token.Kind == TokenKind::Dash) return Verb::Move;
+  if (token.Kind != TokenKind::Word) return Verb::None;
+  const std::string enclosed = ' ' + token.Text + ' ';
+  for (const VerbWords& words : Verbs) {
+    if (words.Words.find(enclosed) != std::string_view::npos) return words.Meaning;
+  }
+  return Verb::None;
+}
+
+char UnitTypeOf(const Token& token) {
+  if (token.Kind != TokenKind::Word) return 0;
+  const std::string& word = token.Text;
+  if (word == "a" || word == "army" || word == "armies") return 'A';
+  return word == "f" || word == "fleet" || word == "fleets" ? 'F' : '\0';
+}
+
+PowerName PowerAt(Tokens tokens, std::size_t at) {
+  static const std::vector<SpelledPower> names = AllPowerNames();
+  if (at < tokens.size() && IsWord(tokens[at], "the")) ++at;
+  PowerName best;
+  for (const SpelledPower& name : names) {
+    const std::size_t length = Spelled(tokens, at, name.Words);
+    if (length > 0 && at + length > best.Next) best = {name.Power, at + length};
+  }
+  return best;
+}
+
+char CoastLetter(std::string_view word) {
+  constexpr std::string_view letters = "nsew";
+  constexpr std::array<std::string_view, 4> names{"north", "south", "east", "west"};
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    const std::string_view letter = letters.substr(i, 1);
+    const std::string_view rest = word.substr(std::min<std::size_t>(1, word.size()));
+    if (word.starts_with(letter) && (rest.empty() || rest == "c" || rest == "cst"))
+      return letter[0];
+    if (word.starts_with(names[i]) &&
+        (word.size() == names[i].size() || word.substr(names[i].size()) == "ern")) {
+      return letter[0];
+    }
+  }
+  return 0;
+}
+
+bool IsFiller(const Token& token) {
+  return IsIn(token, Fillers);
+}
+
+bool IsCondition(const Token& token) {
+  return IsIn(token, Conditions);
+}
+
+bool IsHeadingWord(const Token& token) {
+  return IsIn(token, HeadingWords) ||
+         (token.Kind == TokenKind::Word && (IsNumber(token.Text) || IsSeasonCode(token.Text)));
+}
+
+bool IsGreeting(const Token& token) {
+  return IsIn(token, Greetings);
+}
+
+bool IsMailHeader(const Token& token) {
+  return IsIn(token, MailHeaders);
+}
+
+}  // namespace orb::exchange

@@ -1,0 +1,130 @@
+#include "orders/exchange/words.h"
+
+#include "model/text.h"
+
+#include <algorithm>
+
+namespace orb::exchange {
+namespace {
+
+constexpr std::string_view Parting = " *_`|\"";
+constexpr std::string_view DashSigns = "-=>";
+
+bool IsLetterOrDigit(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+}
+
+std::size_t WordEnd(std::string_view text, std::size_t at) {
+  while (at < text.size() &&
+         (IsLetterOrDigit(text[at]) ||
+          (text[at] == '\'' && at + 1 < text.size() && IsLetterOrDigit(text[at + 1])))) {
+    ++at;
+  }
+  return at;
+}
+
+std::string WordText(std::string_view written) {
+  std::string word = model::LowerCase(written);
+  if (word.ends_with("'s")) word.resize(word.size() - 2);
+  std::erase(word, '\'');
+  return word;
+}
+
+TokenKind KindOf(char c) {
+  switch (c) {
+    case '(':
+    case '[':
+    case '{':
+      return TokenKind::Open;
+    case ')':
+    case ']':
+    case '}':
+      return TokenKind::Close;
+    case '/':
+    case '\\':
+      return TokenKind::Slash;
+    case '.':
+    case '!':
+      return TokenKind::Dot;
+    case ':':
+      return TokenKind::Colon;
+    case ',':
+      return TokenKind::Comma;
+    case ';':
+      return TokenKind::Semicolon;
+    default:
+      return TokenKind::Mark;
+  }
+}
+
+std::size_t RunEnd(std::string_view text, std::size_t at, std::string_view signs) {
+  return std::min(text.find_first_not_of(signs, at), text.size());
+}
+
+/// The token that begins here; what parts tokens has been passed.
+Token NextToken(std::string_view text, std::size_t at) {
+  Token token;
+  token.Begin = at;
+  const char c = text[at];
+  if (IsLetterOrDigit(c)) {
+    token.End = WordEnd(text, at);
+    token.Capital = c >= 'A' && c <= 'Z';
+    token.Text = WordText(text.substr(at, token.End - at));
+    return token;
+  }
+  if (DashSigns.find(c) != std::string_view::npos) {
+    token.Kind = TokenKind::Dash;
+    token.End = RunEnd(text, at, DashSigns);
+  } else if (c == '&') {
+    token.End = at + 1;
+    token.Text = "and";
+    return token;
+  } else if (text.substr(at, 2) == "//") {
+    token.Kind = TokenKind::Mark;
+    token.End = RunEnd(text, at, "/");
+  } else {
+    token.Kind = KindOf(c);
+    token.End = at + 1;
+    while (static_cast<unsigned char>(c) >= 0x80 && token.End < text.size() &&
+           static_cast<unsigned char>(text[token.End]) >= 0x80) {
+      ++token.End;
+    }
+  }
+  token.Text = text.substr(at, token.End - at);
+  return token;
+}
+
+}  // namespace
+
+std::vector<Token> CutTokens(std::string_view plain) {
+  std::vector<Token> tokens;
+  std::size_t at = 0;
+  while (at < plain.size()) {
+    // An apostrophe that is no part of a word is a quotation mark.
+    if (plain[at] == '\'' || Parting.find(plain[at]) != std::string_view::npos) {
+      ++at;
+      continue;
+    }
+    Token token = NextToken(plain, at);
+    token.Written = plain.substr(token.Begin, token.End - token.Begin);
+    token.Glued = !tokens.empty() && tokens.back().End == token.Begin;
+    at = token.End;
+    tokens.push_back(std::move(token));
+  }
+  return tokens;
+}
+
+std::string Quoted(Tokens tokens) {
+  std::string quoted = "\"";
+  if (!tokens.empty()) {
+    const char* const begin = tokens.front().Written.data();
+    const std::string_view last = tokens.back().Written;
+    quoted.append(begin, last.data() + last.size());
+  }
+  for (char& c : quoted) {
+    if (static_cast<unsigned char>(c) >= 0x80) c = '?';
+  }
+  return quoted + '"';
+}
+
+}  // namespace orb::exchange

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orb::exchange {
+
+enum class TokenKind : std::uint8_t {
+  Word,  ///< letters and digits; "&" is the word "and"
+  Dash,  ///< dashes and arrows of any length
+  Open,
+  Close,
+  Slash,
+  Dot,  ///< also "!"
+  Colon,
+  Comma,
+  Semicolon,
+  Mark,  ///< anything else; "//" and "#" begin comments
+};
+
+struct Token {
+  TokenKind Kind = TokenKind::Word;
+  std::string Text;          ///< of a word: in small letters, without "'s"
+  std::string_view Written;  ///< in the plain text
+  std::size_t Begin = 0;     ///< in the plain text
+  std::size_t End = 0;
+  bool Glued = false;    ///< no blank before it
+  bool Capital = false;  ///< begins with a capital letter
+};
+
+using Tokens = std::span<const Token>;
+
+/// Cuts a plain text into tokens. Blanks, quotation marks and the marks of bold, slanted and table
+/// texts (* _ ` |) part tokens and are none. The text must outlive the tokens.
+std::vector<Token> CutTokens(std::string_view plain);
+
+/// What was written from the first token to the last, in quotes; what is no ASCII as "?".
+std::string Quoted(Tokens tokens);
+
+inline bool IsA(const Token& token, TokenKind kind) {
+  return token.Kind == kind;
+}
+inline bool IsWord(const Token& token, std::string_view word) {
+  return token.Kind == TokenKind::Word && token.Text == word;
+}
+
+}  // namespace orb::exchange

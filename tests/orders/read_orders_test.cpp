@@ -1,0 +1,102 @@
+#include "orders/exchange/read_orders.h"
+
+#include "model/new_game.h"
+#include "model/text.h"
+#include "support/directories.h"
+#include "support/drawn_cases.h"
+#include "support/situation.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace orb::tests {
+namespace {
+
+using exchange::LineKind;
+using exchange::ReadingOptions;
+using exchange::ReadLine;
+
+model::GameState DrawnGame(const DrawnCase& drawn) {
+  model::GameState game = EmptyBoard("Autumn", "moves");
+  if (drawn.Note("units") == "start") {
+    model::NewGame(game, DataDirectory());
+  } else {
+    const std::string units = drawn.Note("units");
+    for (std::string_view rest = units; !rest.empty();)
+      AddDrawnUnit(game, model::Trim(model::NextField(rest)));
+  }
+  game.Stage = drawn.Note("stage", "moves");
+  return game;
+}
+
+/// The text with its "\x96" as bytes.
+std::string WithBytes(std::string text) {
+  for (auto at = text.find("\\x"); at != std::string::npos; at = text.find("\\x", at + 1))
+    text.replace(at, 4, 1, static_cast<char>(std::stoi(text.substr(at + 2, 2), nullptr, 16)));
+  for (auto at = text.find("\\t"); at != std::string::npos; at = text.find("\\t", at + 1))
+    text.replace(at, 2, 1, '\t');
+  return text;
+}
+
+/// What was understood, as the file of cases has it.
+std::string Understood(const ReadLine& line, std::string_view text) {
+  switch (line.Kind) {
+    case LineKind::Order:
+      return line.Reason.empty() ? line.Order : line.Order + " !" + line.Reason;
+    case LineKind::Waive:
+      return "waive";
+    case LineKind::Heading:
+      return line.Power.empty() ? "heading" : std::string("heading ").append(line.Power);
+    case LineKind::PassedOver:
+      return "pass";
+    case LineKind::NotUnderstood:
+      return "? [" + std::string(text.substr(line.ReasonPlace.Offset, line.ReasonPlace.Length)) +
+             "] " + line.Reason;
+    case LineKind::Ambiguous:
+      break;
+  }
+  std::string candidates;
+  for (const std::string& candidate : line.Candidates)
+    candidates.append(candidates.empty() ? "" : " | ").append(candidate);
+  return candidates;
+}
+
+std::string Understood(const std::vector<ReadLine>& lines, int number, std::string_view text) {
+  std::string all;
+  for (const ReadLine& line : lines) {
+    EXPECT_EQ(text.substr(line.Place.Offset, line.Place.Length), line.Written);
+    if (line.Number == number) all.append(all.empty() ? "" : "; ").append(Understood(line, text));
+  }
+  return all;
+}
+
+TEST(ReadOrders, AsPeopleWriteThem) {
+  for (const DrawnCase& drawn : LoadDrawnCases("orders/written_orders.txt")) {
+    SCOPED_TRACE(drawn.Name);
+    const model::GameState game = DrawnGame(drawn);
+    std::vector<std::string> written;
+    std::vector<std::string> expected;
+    std::string together;
+    for (const std::string& line : drawn.Drawing) {
+      const auto arrow = line.rfind(" => ");
+      written.push_back(WithBytes(line.substr(0, arrow)));
+      expected.push_back(line.substr(arrow + 4));
+      together += written.back() + "\n";
+    }
+    const ReadingOptions options{drawn.Note("power"), {}};
+    for (std::size_t i = 0; i < written.size(); ++i) {
+      const bool alone = !drawn.Has("together");
+      const std::string& text = alone ? written[i] : together;
+      EXPECT_EQ(Understood(exchange::ReadOrders(game, text, options),
+                           alone ? 1 : static_cast<int>(i) + 1, text),
+                expected[i])
+          << written[i];
+    }
+  }
+}
+
+}  // namespace
+}  // namespace orb::tests
