@@ -98,5 +98,25 @@ TEST(ReadOrders, AsPeopleWriteThem) {
   }
 }
 
+TEST(TextRepairs, EveryShippedPairHelps) {
+  const auto repairs = exchange::ReadTextRepairs(DataDirectory());
+  const DrawnCase drawn = LoadDrawnCases("orders/repairs.txt").front();
+  const model::GameState game = DrawnGame(drawn);
+  std::string all;
+  for (const std::string& line : drawn.Drawing) {
+    const auto arrow = line.rfind(" => ");
+    const std::string written = line.substr(0, arrow);
+    const std::string order = line.substr(arrow + 4);
+    const auto read = [&](const ReadingOptions& options) {
+      return Understood(exchange::ReadOrders(game, written, options), 1, written);
+    };
+    EXPECT_EQ(read({{}, repairs}), order) << written;
+    EXPECT_NE(read({}), order) << written;
+    all += model::LowerCase(written) + "\n";
+  }
+  for (const exchange::TextRepair& repair : repairs)
+    EXPECT_NE(all.find(repair.From), std::string::npos) << repair.From;
+}
+
 }  // namespace
 }  // namespace orb::tests

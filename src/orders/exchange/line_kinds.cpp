@@ -21,10 +21,12 @@ std::ptrdiff_t CountWords(Tokens tokens) {
 }
 
 /// Whether orders could be read from what stands in brackets in a heading.
-bool HoldsOrders(Tokens tokens) {
-  return std::ranges::any_of(tokens, [](const Token& token) {
-    return VerbOf(token) != Verb::None || UnitTypeOf(token) != 0;
-  });
+bool HoldsOrders(Tokens tokens, const PlaceNames& names) {
+  for (std::size_t at = 0; at < tokens.size(); ++at) {
+    if (VerbOf(tokens[at]) != Verb::None || UnitTypeOf(tokens[at]) != 0) return true;
+    if (IsWordToken(tokens[at]) && !names.At(tokens, at).empty()) return true;
+  }
+  return false;
 }
 
 bool Is(Tokens tokens, std::size_t at, TokenKind kind) {
@@ -56,6 +58,9 @@ std::size_t PastNumber(Tokens tokens, std::size_t at) {
 std::size_t PastStamp(Tokens tokens, std::size_t at) {
   if (Is(tokens, at, TokenKind::Mark) && tokens[at].Text == "<") {
     for (std::size_t next = at + 1; next < tokens.size(); ++next) {
+      const bool isStruckOut = IsWord(tokens[next], "s") || IsWord(tokens[next], "del") ||
+                               IsWord(tokens[next], "strike");
+      if (isStruckOut) return at;
       if (Is(tokens, next, TokenKind::Dash) && tokens[next].Text == ">") return next + 1;
     }
     return at;
@@ -130,7 +135,7 @@ Evidence Weigh(Tokens tokens, const PlaceNames& names) {
 
 }  // namespace
 
-std::optional<Heading> ReadHeading(Tokens tokens) {
+std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
   Heading heading;
   bool hasWord = false;
   for (std::size_t at = 0; at < tokens.size();) {
@@ -138,7 +143,7 @@ std::optional<Heading> ReadHeading(Tokens tokens) {
     if (token.Kind == TokenKind::Open) {
       const std::size_t close = ClosingBracket(tokens, at);
       const bool isRemark = heading.Power != 0 && close < tokens.size();
-      if (!isRemark || HoldsOrders(tokens.subspan(at, close - at))) return {};
+      if (!isRemark || HoldsOrders(tokens.subspan(at, close - at), names)) return {};
       at = close + 1;
       continue;
     }

@@ -14,7 +14,7 @@ struct Heading {
 };
 
 /// The heading that all the tokens are; nothing when they are none.
-std::optional<Heading> ReadHeading(Tokens tokens);
+std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names);
 
 /// Behind the marks that begin a line in mails and lists: "> ", "- ", "1.", "(2)", "a)", "[10:15]",
 /// "<name>"; so much belongs to none of its orders.

@@ -8,11 +8,11 @@ namespace orb::exchange {
 namespace {
 
 /// Behind a heading that ends in a colon, whose power and orders go into the context.
-std::size_t PastHeading(Tokens tokens, Context& context) {
+std::size_t PastHeading(Tokens tokens, const PlaceNames& names, Context& context) {
   const auto colon = std::ranges::find(tokens, TokenKind::Colon, &Token::Kind);
   const auto length = static_cast<std::size_t>(colon - tokens.begin());
   if (length + 1 >= tokens.size()) return 0;
-  const auto heading = ReadHeading(tokens.first(length));
+  const auto heading = ReadHeading(tokens.first(length), names);
   if (!heading) return 0;
   if (heading->Power != 0) context.Power = heading->Power;
   if (heading->Orders != Verb::None) context.Orders = heading->Orders;
@@ -28,7 +28,7 @@ void LeaveInContext(const WrittenOrder& order, Context& context) {
 
 PartRead ReadPart(Tokens tokens, const Situation& situation, Context& context) {
   PartRead part;
-  const std::size_t start = PastHeading(tokens, context);
+  const std::size_t start = PastHeading(tokens, situation.Names, context);
   const Verb verb = situation.Stage == OrderStage::Adjustments ? context.Orders : Verb::None;
   const Parse parse = ParseWrittenOrder(tokens.subspan(start), situation.Names, *situation.Game.Map,
                                         situation.Stage, verb);

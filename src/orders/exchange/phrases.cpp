@@ -134,7 +134,8 @@ std::size_t Phrases::PastEcho(const PlaceMatch& match) const {
   return 0;
 }
 
-Phrases::Read<WrittenPlace> Phrases::Places(std::size_t at, const std::string& whenMissing) {
+Phrases::Read<WrittenPlace> Phrases::Places(std::size_t at, std::string_view whenMissing,
+                                            std::string_view whenUnknown) {
   at = Skip(at);
   Read<WrittenPlace> places;
   if (!Is(at, TokenKind::Word)) {
@@ -150,7 +151,7 @@ Phrases::Read<WrittenPlace> Phrases::Places(std::size_t at, const std::string& w
   }
   AddGluedCoast(at, places);
   AddLeadingCoast(at, places);
-  if (places.empty()) Unknown(at, " is not on the map", at + 1);
+  if (places.empty()) Unknown(at, whenUnknown, at + 1);
   return places;
 }
 
@@ -169,7 +170,9 @@ Phrases::Read<WrittenUnit> Phrases::Units(std::size_t at) {
     if (head.Type != 0) next = Skip(next + 1);
     while (next < tokens_.size() && IsOneOf(tokens_[next], InWords))
       next = Skip(next + 1);
-    for (auto& [place, behind] : Places(next, "the unit's place is missing")) {
+    const bool isBare = next == Skip(at);
+    for (auto& [place, behind] :
+         Places(next, "the unit's place is missing", isBare ? NotUnderstood : NotOnTheMap)) {
       WrittenUnit unit = head;
       unit.Place = std::move(place);
       const bool hasTail = behind < tokens_.size() && tokens_[behind].Text.size() > 1;
@@ -282,7 +285,7 @@ bool Phrases::Ends(std::size_t at) {
       ++at;
     }
   }
-  if (at < tokens_.size()) Unknown(at, " is not understood", EndOfBracket(at));
+  if (at < tokens_.size()) Unknown(at, NotUnderstood, EndOfBracket(at));
   return at == tokens_.size();
 }
 
@@ -291,22 +294,22 @@ std::size_t Phrases::EndOfBracket(std::size_t at) const {
   return std::min(ClosingBracket(tokens_, at) + 1, tokens_.size());
 }
 
-void Phrases::Expected(const std::string& reason, std::size_t at) {
+void Phrases::Expected(std::string_view reason, std::size_t at) {
   at = std::min(at, tokens_.size());
-  SetProblem(reason, {at, std::min(at + 1, tokens_.size())});
+  SetProblem(std::string(reason), {at, std::min(at + 1, tokens_.size())});
 }
 
-void Phrases::SetProblem(const std::string& reason, TokenRange at) {
-  if (!problem_ || problem_->At.Begin < at.Begin) problem_ = Fault{reason, at};
+void Phrases::SetProblem(std::string reason, TokenRange at) {
+  if (!problem_ || problem_->At.Begin < at.Begin) problem_ = Fault{std::move(reason), at};
 }
 
-void Phrases::Unknown(std::size_t at, const std::string& reason, std::size_t end) {
-  const std::string quoted = Quoted(tokens_.subspan(at, end - at));
+void Phrases::Unknown(std::size_t at, std::string_view reason, std::size_t end) {
+  std::string quoted = Quoted(tokens_.subspan(at, end - at));
   const std::string_view near = names_.NearlyNamed(tokens_[at].Text);
   if (!near.empty()) {
-    return SetProblem(quoted + " is not on the map; " + std::string(near) + "?", {at, end});
+    return SetProblem(quoted.append(NotOnTheMap).append("; ").append(near).append("?"), {at, end});
   }
-  SetProblem(quoted + reason, {at, end});
+  SetProblem(quoted.append(reason), {at, end});
 }
 
 void Phrases::NotInStage(std::size_t at) {

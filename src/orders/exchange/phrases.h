@@ -5,10 +5,15 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 namespace orb::exchange {
+
+// The ends of sentences about something written.
+constexpr std::string_view NotOnTheMap = " is not on the map";
+constexpr std::string_view NotUnderstood = " is not understood";
 
 /// The parts that orders are made of, read from one run of tokens. Reading passes over brackets,
 /// commas, full stops and fillers. Keeps the fault that was met furthest behind.
@@ -21,7 +26,8 @@ class Phrases {
       : tokens_(tokens), names_(names), map_(map), stage_(stage) {}
 
   PowerName Power(std::size_t at) const;
-  Read<WrittenPlace> Places(std::size_t at, const std::string& whenMissing);
+  Read<WrittenPlace> Places(std::size_t at, std::string_view whenMissing,
+                            std::string_view whenUnknown = NotOnTheMap);
   Read<WrittenUnit> Units(std::size_t at);
 
   /// The verb here and the token behind all its words; of "moves to hold" it is Hold.
@@ -41,7 +47,7 @@ class Phrases {
   /// Whether nothing but punctuation and comments is left; else a fault.
   bool Ends(std::size_t at);
 
-  void Expected(const std::string& reason, std::size_t at);
+  void Expected(std::string_view reason, std::size_t at);
   void NotInStage(std::size_t at);
   const std::optional<Fault>& Problem() const { return problem_; }
 
@@ -50,8 +56,8 @@ class Phrases {
   std::size_t SkipNoBracket(std::size_t at) const;
   bool Is(std::size_t at, TokenKind kind) const;
   bool Is(std::size_t at, std::string_view word) const;
-  void SetProblem(const std::string& reason, TokenRange at);
-  void Unknown(std::size_t at, const std::string& reason, std::size_t end);
+  void SetProblem(std::string reason, TokenRange at);
+  void Unknown(std::size_t at, std::string_view reason, std::size_t end);
   std::size_t EndOfBracket(std::size_t at) const;
   void AddCoasts(const PlaceMatch& match, std::size_t at, Read<WrittenPlace>& places) const;
   void AddGluedCoast(std::size_t at, Read<WrittenPlace>& places) const;

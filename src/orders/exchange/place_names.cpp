@@ -82,7 +82,9 @@ void PlaceNames::Add(std::string_view name, int row, bool mayBeShort) {
     spelling.Words.push_back(token.Text);
     spelling.Joined += token.Text;
   }
-  if (!spelling.Words.empty()) spellings_.push_back(std::move(spelling));
+  if (spelling.Words.empty()) return;
+  const char first = spelling.Joined[0];
+  spellings_[first].push_back(std::move(spelling));
 }
 
 std::vector<PlaceMatch> PlaceNames::At(Tokens tokens, std::size_t at) const {
@@ -96,9 +98,10 @@ std::vector<PlaceMatch> PlaceNames::At(Tokens tokens, std::size_t at) const {
     match.Next = run.Next[length - 1];
   };
   if (run.Count == 0) return {};
-  for (const Spelling& spelling : spellings_) {
-    const std::string_view first = run.Words[0];
-    if (first[0] != spelling.Joined[0]) continue;
+  const std::string_view first = run.Words[0];
+  const auto spellings = spellings_.find(first[0]);
+  if (spellings == spellings_.end()) return {};
+  for (const Spelling& spelling : spellings->second) {
     const std::size_t size = spelling.Words.size();
     const bool isLong = first.size() >= ShortestStart;
     if (spelling.Joined == first ||
@@ -135,13 +138,15 @@ const std::vector<int>& PlaceNames::Locations(int province) const {
 std::string_view PlaceNames::NearlyNamed(std::string_view word) const {
   constexpr std::size_t shortest = 5;
   if (word.size() < shortest) return {};
-  for (const Spelling& spelling : spellings_) {
-    if (!spelling.MayBeShort) continue;
-    const auto isNear = [&](std::string_view name) {
-      return name.size() >= shortest && IsOneSlipAway(name, word);
-    };
-    if (isNear(spelling.Joined) || std::ranges::any_of(spelling.Words, isNear)) {
-      return map_.Provinces[spelling.Row].FullName;
+  const auto isNear = [&](std::string_view name) {
+    return name.size() >= shortest && IsOneSlipAway(name, word);
+  };
+  for (const auto& [letter, spellings] : spellings_) {
+    for (const Spelling& spelling : spellings) {
+      if (!spelling.MayBeShort) continue;
+      if (isNear(spelling.Joined) || std::ranges::any_of(spelling.Words, isNear)) {
+        return map_.Provinces[spelling.Row].FullName;
+      }
     }
   }
   return {};

@@ -4,6 +4,7 @@
 #include "orders/exchange/words.h"
 
 #include <cstddef>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -48,8 +49,8 @@ class PlaceNames {
   void AddPlace(int row);
 
   const model::Map& map_;
-  std::vector<Spelling> spellings_;
-  std::vector<std::vector<int>> locations_;  ///< by row
+  std::map<char, std::vector<Spelling>> spellings_;  ///< by first letter
+  std::vector<std::vector<int>> locations_;          ///< by row
 };
 
 }  // namespace orb::exchange

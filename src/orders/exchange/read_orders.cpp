@@ -5,6 +5,7 @@
 #include "orders/exchange/exact_line.h"
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/order_part.h"
+#include "orders/exchange/phrases.h"
 
 #include <algorithm>
 
@@ -34,14 +35,17 @@ SourceLine CutLine(int number, std::string_view bytes, std::size_t offset,
   return line;
 }
 
-/// Whether a word counts as a seam between two orders of a line.
-bool IsSeam(const Token& token, bool atSemicolons) {
-  if (atSemicolons) return token.Kind == TokenKind::Semicolon;
-  return token.Kind == TokenKind::Comma || IsWord(token, "and");
+/// What parts the orders of a line, the strongest first.
+enum class Seam : std::uint8_t { Semicolon, Comma, FullStop };
+
+bool IsSeam(const Token& token, Seam seam) {
+  if (seam == Seam::Semicolon) return token.Kind == TokenKind::Semicolon;
+  return token.Kind == TokenKind::Comma || IsWord(token, "and") ||
+         (seam == Seam::FullStop && token.Kind == TokenKind::Dot);
 }
 
 /// The parts between seams that stand in no brackets; empty ones are left out.
-std::vector<TokenRange> Split(Tokens tokens, TokenRange range, bool atSemicolons) {
+std::vector<TokenRange> Split(Tokens tokens, TokenRange range, Seam seam) {
   std::vector<TokenRange> parts;
   std::size_t start = range.Begin;
   const auto close = [&](std::size_t end) {
@@ -51,7 +55,7 @@ std::vector<TokenRange> Split(Tokens tokens, TokenRange range, bool atSemicolons
     if (IsA(tokens[at], TokenKind::Open)) {
       const std::size_t bracket = ClosingBracket(tokens.first(range.End), at);
       if (bracket < range.End) at = bracket;
-    } else if (IsSeam(tokens[at], atSemicolons)) {
+    } else if (IsSeam(tokens[at], seam)) {
       close(at);
       start = at + 1;
     }
@@ -117,7 +121,8 @@ class TextReader {
       AddLine(line, LineKind::PassedOver);
       return;
     }
-    if (const auto heading = ReadHeading(PartOf(line, body))) return AddHeading(line, *heading);
+    if (const auto heading = ReadHeading(PartOf(line, body), situation_.Names))
+      return AddHeading(line, *heading);
     const auto isSign = [](const Token& token) {
       return token.Kind == TokenKind::Mark && (token.Text == "#" || token.Text.starts_with("//"));
     };
@@ -137,7 +142,7 @@ class TextReader {
     }
     Context context = context_;
     const std::size_t before = lines_.size();
-    for (const TokenRange segment : Split(line.All, body, true))
+    for (const TokenRange segment : Split(line.All, body, Seam::Semicolon))
       ReadSegment(line, segment, context);
     const bool hasOrder =
         std::any_of(lines_.begin() + static_cast<std::ptrdiff_t>(before), lines_.end(), IsOrder);
@@ -162,25 +167,32 @@ class TextReader {
   void ReadSegment(const SourceLine& line, TokenRange segment, Context& context) {
     Context whole = context;
     const PartRead read = ReadPart(PartOf(line, segment), situation_, whole);
-    if (!IsUnderstood(read) && ReadParts(line, segment, context)) return;
+    if (!IsUnderstood(read) && (ReadParts(line, segment, Seam::Comma, context) ||
+                                ReadParts(line, segment, Seam::FullStop, context))) {
+      return;
+    }
     context = whole;
     AddPart(line, segment, read, context);
   }
 
-  /// Reads parts between commas; false, and nothing is read, when none of them is an order.
-  bool ReadParts(const SourceLine& line, TokenRange segment, Context& context) {
+  /// Reads parts between commas, or full stops too; false, and nothing is read, when none of them
+  /// is an order. As full stops also follow abbreviations, none may stay unclear between them.
+  bool ReadParts(const SourceLine& line, TokenRange segment, Seam seam, Context& context) {
     Context tried = context;
     std::vector<std::pair<TokenRange, PartRead>> parts;
     std::size_t condition = segment.End;
-    for (const TokenRange range : Split(line.All, segment, false)) {
-      parts.emplace_back(range, ReadPart(PartOf(line, range), situation_, tried));
-      const std::size_t at = FindCondition(PartOf(line, range));
-      const bool isHere = !IsUnderstood(parts.back().second) && at < range.End - range.Begin;
-      if (isHere && condition == segment.End) condition = range.Begin + at;
+    bool isClear = true;
+    for (const TokenRange range : Split(line.All, segment, seam)) {
+      const Tokens tokens = PartOf(line, range);
+      const PartRead& part = parts.emplace_back(range, ReadPart(tokens, situation_, tried)).second;
+      if (IsUnderstood(part)) continue;
+      const std::size_t at = FindCondition(tokens);
+      if (at < tokens.size() && condition == segment.End) condition = range.Begin + at;
+      isClear = isClear && IsNoOrder(tokens, situation_.Names, inSignature_);
     }
-    if (std::ranges::none_of(parts, [](const auto& part) { return IsUnderstood(part.second); })) {
-      return false;
-    }
+    const auto isOrder = [](const auto& part) { return IsUnderstood(part.second); };
+    if (std::ranges::none_of(parts, isOrder)) return false;
+    if (seam == Seam::FullStop && !isClear) return false;
     context = tried;
     if (condition < segment.End) {
       AddUnclear(line, segment, {condition, condition + 1}, NotUnderstoodText(line, condition));
@@ -246,7 +258,7 @@ class TextReader {
   }
 
   static std::string NotUnderstoodText(const SourceLine& line, std::size_t at) {
-    return Quoted(Tokens(line.All).subspan(at, 1)) + " is not understood";
+    return Quoted(Tokens(line.All).subspan(at, 1)).append(NotUnderstood);
   }
 
   void AddPart(const SourceLine& line, TokenRange range, const PartRead& part,

@@ -6,6 +6,10 @@
 #include <algorithm>
 #include <array>
 #include <span>
+#include <string>
+#include <unordered_map>
+#include <utility>
+#include <vector>
 
 namespace orb::exchange {
 namespace {
@@ -18,24 +22,24 @@ bool IsIn(const Token& token, Words words) {
 
 struct VerbWords {
   Verb Meaning;
-  std::string_view Words;  ///< parted and enclosed by blanks
+  std::string_view Words;  ///< parted by blanks
 };
 
 constexpr std::array Verbs{
     VerbWords{Verb::Move,
-              " to into m mv move moves moving attack attacks attacking go goes going advance "
+              "to into m mv move moves moving attack attacks attacking go goes going advance "
               "advances march marches sail sails enter enters invade "
-              "invades mve "},
-    VerbWords{Verb::Hold, " h hold holds holding hld stand stands stay stays remain remains "},
-    VerbWords{Verb::Support, " s sup supp supports support supporting spt sprt su "},
+              "invades"},
+    VerbWords{Verb::Hold, "h hold holds holding hld stand stands stay stays remain remains"},
+    VerbWords{Verb::Support, "s sup supp supports support supporting spt sprt su"},
     VerbWords{Verb::Convoy,
-              " c cv cvy conv convoy convoys convoying transport transports carry carries "},
-    VerbWords{Verb::Retreat, " r ret retr retreat retreats retreating withdraw withdraws "},
+              "c cv cvy conv convoy convoys convoying transport transports carry carries"},
+    VerbWords{Verb::Retreat, "r ret retr retreat retreats retreating withdraw withdraws"},
     VerbWords{Verb::Disband,
-              " d dis disb disband disbands disbanded disbanding remove removes removed removing "
-              "removal removals destroy destroys destroyed disbandment disbandments "},
-    VerbWords{Verb::Build, " b bld build builds building raise raises "},
-    VerbWords{Verb::Waive, " w waive waives waived waiving waiver "},
+              "d dis disb disband disbands disbanded disbanding remove removes removed removing "
+              "removal removals destroy destroys destroyed disbandment disbandments"},
+    VerbWords{Verb::Build, "b bld build builds building raise raises"},
+    VerbWords{Verb::Waive, "w waive waives waived waiving waiver"},
 };
 
 struct PowerWords {
@@ -80,17 +84,16 @@ constexpr std::array<std::string_view, 27> Conditions{
     "depending", "should",  "could",     "might",  "may",   "cancelled", "canceled",
     "provided",  "when",    "until",     "ignore", "no",    "wont"};
 
-constexpr std::array<std::string_view, 64> HeadingWords{
-    "orders",    "order",      "for",         "from",    "of",       "the",       "my",
-    "our",       "your",       "here",        "are",     "is",       "follow",    "follows",
-    "following", "these",      "as",          "below",   "in",       "and",       "a",
-    "spring",    "autumn",     "fall",        "winter",  "summer",   "season",    "year",
-    "turn",      "phase",      "game",        "player",  "power",    "country",   "moves",
-    "move",      "movement",   "movements",   "retreat", "retreats", "build",     "builds",
-    "building",  "adjustment", "adjustments", "removal", "removals", "disband",   "disbands",
-    "final",     "new",        "set",         "all",     "press",    "submitted", "by",
-    "set",       "revised",    "updated",     "year",    "gm",       "this",      "disbandments",
-    "with"};
+constexpr std::array<std::string_view, 61> HeadingWords{
+    "orders",     "order",       "for",     "from",         "of",        "the",      "my",
+    "our",        "your",        "here",    "are",          "is",        "follow",   "follows",
+    "following",  "these",       "as",      "below",        "in",        "and",      "spring",
+    "autumn",     "fall",        "winter",  "summer",       "season",    "year",     "turn",
+    "phase",      "game",        "player",  "power",        "country",   "moves",    "move",
+    "movement",   "movements",   "retreat", "retreats",     "build",     "builds",   "building",
+    "adjustment", "adjustments", "removal", "removals",     "disband",   "disbands", "final",
+    "new",        "set",         "all",     "press",        "submitted", "by",       "revised",
+    "updated",    "gm",          "this",    "disbandments", "with"};
 
 constexpr std::array<std::string_view, 28> Greetings{
     "hi",      "hello",  "hey",    "dear",    "greetings", "good",      "morning",
@@ -113,49 +116,69 @@ bool IsSeasonCode(std::string_view word) {
   return word.size() - end <= 2;
 }
 
-/// How many tokens from here spell the words, dashes between them passed over; 0: they do not.
-std::size_t Spelled(Tokens tokens, std::size_t at, std::string_view words) {
+struct SpelledPower {
+  int Power;
+  std::vector<std::string> Words;
+};
+
+/// All that powers are called, by the first words.
+using PowerNames = std::unordered_multimap<std::string, SpelledPower>;
+
+PowerNames AllPowerNames() {
+  PowerNames names;
+  const auto add = [&](int power, std::string_view name) {
+    SpelledPower spelled{power, {}};
+    for (const Token& token : CutTokens(name)) {
+      if (token.Kind == TokenKind::Word) spelled.Words.push_back(token.Text);
+    }
+    const std::string first = spelled.Words[0];
+    names.emplace(first, std::move(spelled));
+  };
+  const model::CountryTable countries = model::FixedCountries();
+  for (int i = 1; i <= countries.Count(); ++i) {
+    add(i, countries[i].Abbreviation);
+    add(i, countries[i].Name);
+  }
+  for (const PowerWords& name : Nicknames)
+    add(name.Power, name.Words);
+  return names;
+}
+
+/// How many tokens from here spell the words, glued dashes between them passed over; 0: they do
+/// not.
+std::size_t Spelled(Tokens tokens, std::size_t at, const std::vector<std::string>& words) {
   std::size_t next = at;
-  while (!words.empty()) {
-    const std::size_t end = std::min(words.find_first_of(" -"), words.size());
+  for (const std::string& word : words) {
     if (next > at && next + 1 < tokens.size() && IsA(tokens[next], TokenKind::Dash) &&
         tokens[next].Glued && tokens[next + 1].Glued) {
       ++next;
     }
-    if (next == tokens.size() || !IsWord(tokens[next], words.substr(0, end))) return 0;
+    if (next == tokens.size() || !IsWord(tokens[next], word)) return 0;
     ++next;
-    words.remove_prefix(std::min(end + 1, words.size()));
   }
   return next - at;
 }
 
-struct SpelledPower {
-  int Power;
-  std::string Words;
-};
-
-std::vector<SpelledPower> AllPowerNames() {
-  std::vector<SpelledPower> names;
-  const model::CountryTable countries = model::FixedCountries();
-  for (int i = 1; i <= countries.Count(); ++i) {
-    names.push_back({i, model::LowerCase(countries[i].Abbreviation)});
-    names.push_back({i, model::LowerCase(countries[i].Name)});
+std::unordered_map<std::string_view, Verb> AllVerbs() {
+  std::unordered_map<std::string_view, Verb> verbs;
+  for (const VerbWords& row : Verbs) {
+    for (std::string_view rest = row.Words; !rest.empty();) {
+      const std::size_t end = std::min(rest.find(' '), rest.size());
+      verbs.emplace(rest.substr(0, end), row.Meaning);
+      rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
   }
-  for (const PowerWords& name : Nicknames)
-    names.push_back({name.Power, std::string(name.Words)});
-  return names;
+  return verbs;
 }
 
 }  // namespace
 
 Verb VerbOf(const Token& token) {
+  static const auto verbs = AllVerbs();
   if (token.Kind == TokenKind::Dash) return Verb::Move;
   if (token.Kind != TokenKind::Word) return Verb::None;
-  const std::string enclosed = ' ' + token.Text + ' ';
-  for (const VerbWords& words : Verbs) {
-    if (words.Words.find(enclosed) != std::string_view::npos) return words.Meaning;
-  }
-  return Verb::None;
+  const auto found = verbs.find(token.Text);
+  return found == verbs.end() ? Verb::None : found->second;
 }
 
 char UnitTypeOf(const Token& token) {
@@ -166,12 +189,14 @@ char UnitTypeOf(const Token& token) {
 }
 
 PowerName PowerAt(Tokens tokens, std::size_t at) {
-  static const std::vector<SpelledPower> names = AllPowerNames();
+  static const PowerNames names = AllPowerNames();
   if (at < tokens.size() && IsWord(tokens[at], "the")) ++at;
   PowerName best;
-  for (const SpelledPower& name : names) {
-    const std::size_t length = Spelled(tokens, at, name.Words);
-    if (length > 0 && at + length > best.Next) best = {name.Power, at + length};
+  if (at >= tokens.size()) return best;
+  const auto [first, last] = names.equal_range(tokens[at].Text);
+  for (auto name = first; name != last; ++name) {
+    const std::size_t length = Spelled(tokens, at, name->second.Words);
+    if (length > 0 && at + length > best.Next) best = {name->second.Power, at + length};
   }
   return best;
 }

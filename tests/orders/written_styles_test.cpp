@@ -1,0 +1,186 @@
+#include "model/text.h"
+#include "orders/exchange/exact_line.h"
+#include "orders/exchange/read_orders.h"
+#include "orders/lookups.h"
+#include "orders/parser.h"
+#include "support/situation.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+namespace orb::tests {
+namespace {
+
+using exchange::LineKind;
+using exchange::OrderStage;
+using model::Unit;
+using orders::OrderLine;
+using Spellings = std::vector<std::string>;
+
+/// Makes orders that the syntax allows and writes them in one of the ways that people do.
+class Writer {
+ public:
+  explicit Writer(unsigned seed) : random_(seed) {}
+
+  const std::string& Any(const Spellings& spellings) { return spellings[Below(spellings.size())]; }
+  std::size_t Below(std::size_t bound) { return random_() % bound; }
+  bool Sometimes() { return Below(2) == 0; }
+
+  std::string AnyLocation() { return map_.Provinces[static_cast<int>(Below(81)) + 1].Name; }
+
+  Unit AnyUnit() {
+    const auto power = static_cast<int>(Below(model::CountryCount)) + 1;
+    return {powers_[power].Abbreviation, Any({"A", "F"}), AnyLocation(), {}, {}, {}};
+  }
+
+  std::string Place(const std::string& location) {
+    const std::string province = location.substr(0, 3);
+    std::string full = map_.Provinces[model::FindProvince(map_, province)].FullName;
+    if (location.size() == 3) return Any({location, location, full, location + "."});
+    const std::string letter = location.substr(4);
+    const std::string coast = letter == "n" ? "north" : letter == "s" ? "south" : "east";
+    return Any({location, province + "(" + letter + "c)", province + "/" + letter + "c",
+                province + " " + letter + "c", full + " (" + coast + " coast)"});
+  }
+
+  std::string UnitText(const Unit& unit, bool mayLackType) {
+    const std::string name = unit.UnitType == "A" ? "army" : "fleet";
+    const std::string place = Place(unit.Location);
+    if (mayLackType && Below(4) == 0) return place;
+    return Any({unit.UnitType + "(" + place + ")", unit.UnitType + " " + place,
+                name + " in " + place, unit.UnitType + " [" + place + "]"});
+  }
+
+  std::string Dash() {
+    return Any({" - ", "-", "->", " => ", " \xE2\x80\x93 ", "\xA0\x96 ", " to ", " moves to ",
+                " attacks ", " \xE2\x86\x92 "});
+  }
+
+  /// The power before an order: an abbreviation, a name or a people.
+  std::string Power(const std::string& power) {
+    const model::Country& country = powers_[model::FindCountry(power)];
+    return Any({power + " ", country.Name + ": ", country.Name + " - ", power + ": "});
+  }
+
+  std::string Decorated(const std::string& order) {
+    std::string line = Any({"", "", "1. ", "> ", "- ", "* ", "(2) "}) + order +
+                       Any({"", "", ".", ";", " (as agreed)", " // good luck", " please"});
+    return Any({line, model::LowerCase(line), model::UpperCase(line)});
+  }
+
+ private:
+  const model::Map& map_ = *RealMap();
+  const model::CountryTable powers_ = model::FixedCountries();
+  std::mt19937 random_;
+};
+
+bool HasCoasts(const std::string& location) {
+  return location == "Stp" || location == "Spa" || location == "Bul";
+}
+
+/// An order of the stage; its units are put on the board.
+OrderLine AnyOrder(Writer& writer, model::GameState& game, OrderStage stage) {
+  Unit unit = writer.AnyUnit();
+  if (stage == OrderStage::Retreats) unit.Status = model::Dislodged;
+  OrderLine order;
+  order.Power = unit.Power;
+  order.UnitType = unit.UnitType;
+  order.Location = unit.Location;
+  order.Kind = stage == OrderStage::Moves      ? writer.Any({"-", "-", "HOLD", "S", "S", "C"})
+               : stage == OrderStage::Retreats ? writer.Any({"RETREAT", "RETREAT", "DISBAND"})
+                                               : writer.Any({"BUILD", "DISBAND"});
+  if (order.Kind == "-" || order.Kind == "RETREAT") order.Target = writer.AnyLocation();
+  if (order.Kind != "BUILD") game.Units.Append(unit);
+  if (order.Kind != "S" && order.Kind != "C") return order;
+  Unit other = writer.AnyUnit();
+  if (writer.Sometimes()) other.Power = unit.Power;
+  if (order.Kind == "C") other.UnitType = "A";
+  game.Units.Append(other);
+  order.Power2 = other.Power;
+  order.UnitType2 = other.UnitType;
+  order.Target = other.Location;
+  order.Kind2 = order.Kind == "S" ? writer.Any({"HOLD", "-"}) : "-";
+  if (order.Kind2 == "-") order.Target2 = writer.AnyLocation();
+  return order;
+}
+
+/// Whether only its exact form can be meant: a fleet's coast that is not told, two units in one
+/// place, and what the syntax does not allow.
+bool OnlyExact(const model::GameState& game, const OrderLine& order) {
+  const bool moves = order.Kind == "-" || order.Kind == "RETREAT";
+  if (order.UnitType == "F" && (moves || order.Kind == "BUILD") &&
+      HasCoasts(moves ? order.Target : order.Location)) {
+    return true;
+  }
+  if (order.UnitType2 == "F" && HasCoasts(order.Target2)) return true;
+  if (!order.UnitType2.empty() && model::SamePlace(order.Location, order.Target)) return true;
+  return game.Stage == "moves" &&
+         orders::FindSyntaxFault(*game.Map, order) != orders::SyntaxFault::None;
+}
+
+std::string Written(Writer& writer, const OrderLine& order, bool withPower) {
+  const std::string unit = writer.UnitText(
+      {order.Power, order.UnitType, order.Location, {}, {}, {}}, order.Kind != "BUILD");
+  const std::string other =
+      (order.Power2 == order.Power ? "" : writer.Any({order.Power2 + " ", ""})) +
+      writer.UnitText(
+          {order.Power2, order.UnitType2, order.Target.empty() ? "Par" : order.Target, {}, {}, {}},
+          true);
+  std::string text = withPower ? writer.Power(order.Power) : "";
+  if (order.Kind == "BUILD" || (order.Kind == "DISBAND" && writer.Sometimes())) {
+    return text +
+           (order.Kind == "BUILD" ? writer.Any({"build ", "builds "})
+                                  : writer.Any({"disband ", "Remove "})) +
+           unit;
+  }
+  text += unit;
+  if (order.Kind == "-") {
+    const bool convoyed = order.UnitType == "A" && writer.Below(4) == 0;
+    return text + writer.Dash() + writer.Place(order.Target) + (convoyed ? " via convoy" : "");
+  }
+  if (order.Kind == "HOLD") return text + writer.Any({" H", " hold", " holds", " stands"});
+  if (order.Kind == "RETREAT") {
+    return text + writer.Any({" R ", " retreats to ", " retreat ", " -> "}) +
+           writer.Place(order.Target);
+  }
+  if (order.Kind == "DISBAND") return text + writer.Any({" disband", " disbands", " removed"});
+  text += order.Kind == "S" ? writer.Any({" S ", " supports ", " sup "})
+                            : writer.Any({" C ", " convoys "});
+  if (order.Kind2 == "-") return text + other + writer.Dash() + writer.Place(order.Target2);
+  return text + other + writer.Any({" H", " hold", " holds"});
+}
+
+void ExpectReadAs(const model::GameState& game, const std::string& written,
+                  const std::string& power, const std::string& line) {
+  const auto read = exchange::ReadOrders(game, written, {power, {}});
+  ASSERT_FALSE(read.empty()) << written;
+  EXPECT_EQ(read[0].Kind, LineKind::Order) << written << "\n" << read[0].Reason;
+  EXPECT_EQ(read[0].Order, line) << written;
+}
+
+TEST(WrittenStyles, EveryOrderReadsBackAsItself) {
+  Writer writer(1901);
+  for (int round = 0; round < 4000; ++round) {
+    const OrderStage stage = round % 4 == 0   ? OrderStage::Retreats
+                             : round % 4 == 1 ? OrderStage::Adjustments
+                                              : OrderStage::Moves;
+    model::GameState game = EmptyBoard("Autumn", stage == OrderStage::Retreats      ? "retreats"
+                                                 : stage == OrderStage::Adjustments ? "adjustments"
+                                                                                    : "moves");
+    const OrderLine order = AnyOrder(writer, game, stage);
+    const std::string line = exchange::FormatOrder(order, stage);
+    const bool isSyntax = stage != OrderStage::Moves ||
+                          orders::FindSyntaxFault(*game.Map, order) == orders::SyntaxFault::None;
+    if (isSyntax) ExpectReadAs(game, line, "", line);
+    if (OnlyExact(game, order)) continue;
+    const bool withPower = writer.Sometimes();
+    const std::string written = writer.Decorated(Written(writer, order, withPower));
+    ExpectReadAs(game, written, withPower ? "" : order.Power, line);
+  }
+}
+
+}  // namespace
+}  // namespace orb::tests
