@@ -1,6 +1,7 @@
 #include "adjudication/list_check.h"
 #include "cli/command.h"
 #include "cli/games.h"
+#include "cli/orders_source.h"
 #include "model/errors.h"
 #include "model/text.h"
 #include "orders/order_list.h"
@@ -8,15 +9,19 @@
 namespace orb::cli {
 namespace {
 
-constexpr std::array Options{OptionId::Orders};
+constexpr std::array Options{OptionId::Orders, OptionId::Loose, OptionId::Power};
 
-/// One line for each problem: of the orders as listed, of units without orders, of powers.
+/// One line for each problem: of lines that are unclear, of the orders as listed, of units without
+/// orders, of powers.
 std::string ProblemLines(const model::GameState& game, const std::string& path,
-                         const std::vector<std::string>& list) {
+                         const std::vector<exchange::ReadLine>& unclear) {
   std::string text;
   const auto add = [&](std::string_view subject, std::string_view problem) {
     text.append(path).append(": ").append(subject).append(": ").append(problem).append("\n");
   };
+  for (const exchange::ReadLine& line : unclear)
+    add(line.Written, line.Reason);
+  const std::vector<std::string>& list = orders::StageList(game);
   const adjudication::ListCheck check = adjudication::CheckList(game);
   for (std::size_t i = 0; i < check.Lines.size(); ++i) {
     for (const std::string& problem : check.Lines[i])
@@ -31,12 +36,13 @@ std::string ProblemLines(const model::GameState& game, const std::string& path,
 
 int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);
+  OrdersSource source(line);
   return ForEachGame(line, console, plan, [&](model::GameState& game, const GamePaths& paths) {
-    TakeOrders(game, paths);
+    const std::vector<exchange::ReadLine> unclear = source.Take(game, paths);
     if (game.Stage != "moves" && game.Stage != "retreats" && game.Stage != "adjustments") {
       throw model::FatalError("There are no orders to check in the stage \"" + game.Stage + "\".");
     }
-    const std::string text = ProblemLines(game, paths.Game, orders::StageList(game));
+    const std::string text = ProblemLines(game, paths.Game, unclear);
     console.Print(text);
     return text.empty();
   });

@@ -4,7 +4,6 @@
 #include "model/files.h"
 #include "model/game_file.h"
 #include "model/map_files.h"
-#include "orders/order_list.h"
 
 #include <exception>
 #include <fstream>
@@ -48,30 +47,6 @@ int ForEachGame(const CommandLine& line, Console& console, const std::vector<Gam
     console.ShowProgress(++done, plan.size());
   }
   return allDone ? ExitDone : ExitRefused;
-}
-
-std::vector<std::string> OrderLines(std::string_view text) {
-  std::vector<std::string> lines;
-  while (!text.empty()) {
-    const std::size_t end = text.find('\n');
-    std::string_view line = text.substr(0, end);
-    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
-    if (line.find_first_not_of(" \t") != std::string_view::npos) lines.emplace_back(line);
-  }
-  return lines;
-}
-
-void TakeOrders(model::GameState& game, const GamePaths& paths) {
-  if (paths.Orders.empty()) return;
-  // A file that cannot be looked at is not missing: reading it will say why.
-  std::error_code ignored;
-  const auto type = std::filesystem::symlink_status(paths.Orders, ignored).type();
-  if (paths.OrdersMayLack && type == std::filesystem::file_type::not_found) {
-    orders::StageList(game).clear();
-  } else {
-    orders::StageList(game) = OrderLines(model::ReadFile(paths.Orders));
-  }
 }
 
 std::string JoinLines(const std::vector<std::string>& lines) {

@@ -24,13 +24,6 @@ int ForEachGame(const CommandLine& line, Console& console, const std::vector<Gam
 /// Does something that may throw; then a line on standard error says why. Whether it was done.
 bool Attempt(Console& console, std::string_view subject, const std::function<bool()>& work);
 
-/// The order lines of a text: lines end in LF or CR LF, those of blanks and tabs only are skipped.
-std::vector<std::string> OrderLines(std::string_view text);
-
-/// Fills the stage's list from the orders file where there is one; else only the moves stage has
-/// orders, those of the game file.
-void TakeOrders(model::GameState& game, const GamePaths& paths);
-
 /// Lines of text, each ended by LF.
 std::string JoinLines(const std::vector<std::string>& lines);
 

@@ -14,6 +14,8 @@ constexpr std::array<Option, OptionCount> Table{{
     {OptionId::Blank, "--blank", "", "the blank position: no units, every province at home"},
     {OptionId::Title, "--title", "TEXT", "the title of the game"},
     {OptionId::Orders, "--orders", "PATH", "the orders, one a line; a directory: NAME.txt in it"},
+    {OptionId::Loose, "--loose", "", "read the orders as people write them: mails, chats, files"},
+    {OptionId::Power, "--power", "ABC", "with --loose: the power of lines that name none"},
     {OptionId::Report, "--report", "PATH", "write the report there; a directory: NAME.txt in it"},
     {OptionId::Reasons, "--reasons", "PATH", "write there why each order came out as it did"},
     {OptionId::Yes, "--yes", "", "answer every question Yes; else No, which abandons the game"},

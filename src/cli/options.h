@@ -29,6 +29,8 @@ enum class OptionId {
   Blank,
   Title,
   Orders,
+  Loose,
+  Power,
   Report,
   Reasons,
   Yes,
@@ -41,7 +43,7 @@ enum class OptionId {
   InPlace,
 };
 
-constexpr std::size_t OptionCount = 16;
+constexpr std::size_t OptionCount = 18;
 
 /// One row of the table of options.
 struct Option {

@@ -1,4 +1,4 @@
-#include "cli/games.h"
+#include "cli/orders_source.h"
 
 #include "cli/desk.h"
 

@@ -1,0 +1,59 @@
+#include "cli/orders_source.h"
+
+#include "model/country.h"
+#include "model/files.h"
+#include "model/text.h"
+#include "orders/exchange/order_files.h"
+#include "orders/order_list.h"
+
+#include <system_error>
+
+namespace orb::cli {
+
+std::vector<std::string> OrderLines(std::string_view text) {
+  std::vector<std::string> lines;
+  while (!text.empty()) {
+    const std::size_t end = text.find('\n');
+    std::string_view line = text.substr(0, end);
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
+    if (line.find_first_not_of(" \t") != std::string_view::npos) lines.emplace_back(line);
+  }
+  return lines;
+}
+
+OrdersSource::OrdersSource(const CommandLine& line) : isLoose_(line.Has(OptionId::Loose)) {
+  if (isLoose_ && !line.Has(OptionId::Orders)) {
+    throw UsageError("--loose reads orders files: --orders PATH is missing.");
+  }
+  if (isLoose_) data_ = DataDirectory(line);
+  if (!line.Has(OptionId::Power)) return;
+  if (!isLoose_) throw UsageError("--power goes with --loose.");
+  power_ = model::UpperCase(*line.Value(OptionId::Power));
+  if (model::FindCountry(power_) == 0) {
+    throw UsageError("\"" + *line.Value(OptionId::Power) +
+                     "\" is no power: --power takes ENG, FRA, GER, RUS, TUR, AUS or ITA.");
+  }
+}
+
+std::vector<exchange::ReadLine> OrdersSource::Take(model::GameState& game, const GamePaths& paths) {
+  if (paths.Orders.empty()) return {};
+  // A file that cannot be looked at is not missing: reading it will say why.
+  std::error_code ignored;
+  const auto type = std::filesystem::symlink_status(paths.Orders, ignored).type();
+  const bool isMissing = type == std::filesystem::file_type::not_found;
+  const std::string text =
+      isMissing && paths.OrdersMayLack ? std::string() : model::ReadFile(paths.Orders);
+  if (!isLoose_) {
+    orders::StageList(game) = OrderLines(text);
+    return {};
+  }
+  if (!repairs_) repairs_ = exchange::ReadTextRepairs(data_);
+  std::vector<exchange::ReadLine> lines = exchange::ReadOrders(game, text, {power_, *repairs_});
+  orders::StageList(game).clear();
+  exchange::FileOrders(game, lines);
+  std::erase_if(lines, [](const exchange::ReadLine& line) { return !IsUnclear(line); });
+  return lines;
+}
+
+}  // namespace orb::cli

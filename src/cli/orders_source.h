@@ -1,0 +1,37 @@
+#pragma once
+
+#include "cli/options.h"
+#include "cli/paths.h"
+#include "model/game_state.h"
+#include "orders/exchange/read_orders.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orb::cli {
+
+/// The order lines of a text: lines end in LF or CR LF, those of blanks and tabs only are skipped.
+std::vector<std::string> OrderLines(std::string_view text);
+
+/// Where the orders of the games come from, and how they are read.
+class OrdersSource {
+ public:
+  /// Throws UsageError when --loose or --power stand where they mean nothing.
+  explicit OrdersSource(const CommandLine& line);
+
+  /// Fills the stage's list from the orders file where there is one; else only the moves stage has
+  /// orders, those of the game file. Read as people write them, lines that are unclear are left
+  /// out and returned. Throws FileError.
+  std::vector<exchange::ReadLine> Take(model::GameState& game, const GamePaths& paths);
+
+ private:
+  bool isLoose_;
+  std::string power_;
+  std::filesystem::path data_;
+  std::optional<std::vector<exchange::TextRepair>> repairs_;  ///< read when first needed
+};
+
+}  // namespace orb::cli
