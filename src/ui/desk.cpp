@@ -85,6 +85,13 @@ void Desk::undoSeason() {
   });
 }
 
+void Desk::editSeason(const model::SeasonFacts& facts) {
+  run([&](Situation& next) {
+    next.editing = Editing::None;
+    model::EditSeason(next.game, facts);
+  });
+}
+
 void Desk::setMapOptions(const render::MapOptions& options) {
   run([&](Situation& next) { next.mapOptions = options; });
 }
@@ -95,6 +102,15 @@ void Desk::setViewOnly(bool viewOnly) {
 
 void Desk::setShowOrders(bool showOrders) {
   run([&](Situation& next) { next.showOrders = showOrders; });
+}
+
+void Desk::setColours(const model::CountryTable& colours) {
+  run([&](Situation& next) {
+    for (int i = 1; i <= model::CountryCount; ++i) {
+      next.game.Countries[i].Colour = colours[i].Colour;
+      next.game.Countries[i].TextColour = colours[i].TextColour;
+    }
+  });
 }
 
 void Desk::setEditing(Editing editing) {

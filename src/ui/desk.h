@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/messages.h"
+#include "model/season_edit.h"
 #include "ui/situation.h"
 
 #include <QObject>
@@ -48,9 +49,15 @@ class Desk : public QObject {
   void nextSeason();
   void undoSeason();
 
+  /// Ends any other editing.
+  void editSeason(const model::SeasonFacts& facts);
+
   void setMapOptions(const render::MapOptions& options);
   void setViewOnly(bool viewOnly);
   void setShowOrders(bool showOrders);
+
+  /// Takes over both colours of every power, and nothing else of the table.
+  void setColours(const model::CountryTable& colours);
 
   /// Choosing the stage's own entry ends the editing.
   void setEditing(Editing editing);

@@ -1,6 +1,8 @@
 #include "ui/game_menu.h"
 
+#include "ui/colours_dialog.h"
 #include "ui/controls.h"
+#include "ui/season_dialog.h"
 
 namespace orb::ui {
 
@@ -13,6 +15,10 @@ GameMenu::GameMenu(Desk& desk, QWidget* parent) : QMenu(tr("&Game"), parent), m_
   addSeparator();
   addEditing(QStringLiteral("mnuGameEditUnits"), tr("Edit &units"), Editing::Units);
   addEditing(QStringLiteral("mnuGameEditProvinces"), tr("Edit &provinces"), Editing::Provinces);
+  connect(newEntry(*this, QStringLiteral("mnuGameEditSeason"), tr("Edit &season...")),
+          &QAction::triggered, this, [this] { editSeason(m_desk, parentWidget()); });
+  connect(newEntry(*this, QStringLiteral("mnuGameColours"), tr("Unit co&lours...")),
+          &QAction::triggered, this, [this] { editColours(m_desk, parentWidget()); });
   addEditSteps();
   addSeparator();
   m_undo = newEntry(*this, QStringLiteral("mnuGameUndo"), tr("U&ndo season"), QKeySequence::Undo);

@@ -1,6 +1,7 @@
 #include "ui/owners_panel.h"
 
 #include "render/ownership.h"
+#include "render/qt/colours.h"
 #include "render/qt/painter_surface.h"
 
 #include <QPainter>
@@ -13,11 +14,6 @@ namespace {
 
 constexpr double TwipsPerPixel = 15;
 constexpr double TwipsPerPoint = 20;
-
-model::Colour toColour(const QColor& colour) {
-  return model::Rgb(static_cast<unsigned>(colour.red()), static_cast<unsigned>(colour.green()),
-                    static_cast<unsigned>(colour.blue()));
-}
 
 }  // namespace
 
@@ -33,7 +29,7 @@ void OwnersPicture::paintEvent(QPaintEvent* /*event*/) {
   surface.SetPaper(palette().color(QPalette::Base));
   surface.SetFontFamily(font().family());
   surface.FontSize = QFontInfo(font()).pixelSize() * TwipsPerPixel / TwipsPerPoint;
-  surface.ForeColour = toColour(palette().color(QPalette::Text));
+  surface.ForeColour = render::ToColour(palette().color(QPalette::Text));
   const double height = render::ShowCentreOwnership(m_desk.game(), surface) / TwipsPerPixel;
   // What does not fit is scrolled to; the width alone decides how high the list is.
   setMinimumHeight(static_cast<int>(std::ceil(height)));

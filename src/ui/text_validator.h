@@ -1,14 +1,21 @@
 #pragma once
 
 #include <QLineEdit>
+#include <QStringView>
 #include <QValidator>
 
 #include <string>
 
 namespace orb::ui {
 
-/// Refuses while it is typed what a game file cannot hold: characters without 8-bit form and
-/// double quotes.
+/// What of a text a game file can hold: not the double quotes, and no character without 8-bit form.
+QString storablePart(QStringView text);
+
+/// Names the first character of a text that a game file cannot hold, in a sentence for the user;
+/// empty when it can hold all.
+QString storageFault(QStringView text);
+
+/// Refuses while it is typed what a game file cannot hold. Line ends become blanks.
 class TextValidator : public QValidator {
   Q_OBJECT
 
@@ -16,6 +23,10 @@ class TextValidator : public QValidator {
   using QValidator::QValidator;
 
   State validate(QString& text, int& position) const override;
+
+ signals:
+  /// Something was not let in; `why` is a sentence for the user.
+  void refused(const QString& why) const;
 };
 
 /// The 8-bit text of a text box that has a TextValidator.

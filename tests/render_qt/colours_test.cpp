@@ -1,6 +1,5 @@
-#include "render_qt/colour_vision.h"
-
 #include "model/country.h"
+#include "render/colour_vision.h"
 #include "support/directories.h"
 
 #include <QImage>
@@ -11,6 +10,12 @@
 
 namespace orb::tests {
 namespace {
+
+using render::Contrast;
+using render::Difference;
+using render::Lab;
+using render::Seen;
+using render::Vision;
 
 // Some of the published pairs that check an implementation of CIEDE2000.
 TEST(ColourVision, DifferenceAgreesWithThePublishedPairs) {

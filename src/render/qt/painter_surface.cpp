@@ -1,5 +1,6 @@
 #include "render/qt/painter_surface.h"
 
+#include "render/qt/colours.h"
 #include "render/qt/text_codec.h"
 
 #include <QPaintEngine>
@@ -13,11 +14,6 @@ namespace {
 
 constexpr double TwipsPerPixel = 15;
 constexpr double TwipsPerPoint = 20;
-
-QColor ToQColor(model::Colour colour) {
-  return {static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
-          static_cast<int>(colour >> 16 & 0xFF)};
-}
 
 QPointF ToQPoint(Point point) {
   return {point.X, point.Y};

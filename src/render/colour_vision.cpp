@@ -1,15 +1,22 @@
-#include "render_qt/colour_vision.h"
+#include "render/colour_vision.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
-namespace orb::tests {
+namespace orb::render {
 namespace {
 
 using Vector = std::array<double, 3>;
 using Matrix = std::array<Vector, 3>;
+
+constexpr std::array<Vision, 4> Visions = {Vision::Normal, Vision::NoRed, Vision::NoGreen,
+                                           Vision::NoBlue};
+
+/// Two small symbols far apart on the map are compared from memory, not side by side.
+constexpr double LeastDifference = 12;
 
 constexpr Matrix NoRedMatrix = {{{0.152286, 1.052583, -0.204868},
                                  {0.114503, 0.786281, 0.099216},
@@ -129,4 +136,20 @@ double Contrast(model::Colour a, model::Colour b) {
   return std::max(one, other) / std::min(one, other);
 }
 
-}  // namespace orb::tests
+std::vector<AlikePowers> PowersAlike(const model::CountryTable& countries) {
+  std::vector<AlikePowers> pairs;
+  for (int first = 1; first <= model::CountryCount; ++first) {
+    for (int second = first + 1; second <= model::CountryCount; ++second) {
+      AlikePowers pair{first, second, {}};
+      for (const Vision eyes : Visions) {
+        const Lab one = Seen(countries[first].Colour, eyes);
+        if (Difference(one, Seen(countries[second].Colour, eyes)) < LeastDifference)
+          pair.Eyes.push_back(eyes);
+      }
+      if (!pair.Eyes.empty()) pairs.push_back(std::move(pair));
+    }
+  }
+  return pairs;
+}
+
+}  // namespace orb::render

@@ -1,0 +1,42 @@
+#include "model/season_edit.h"
+
+#include "model/text.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace orb::model {
+namespace {
+
+constexpr std::array<std::string_view, 4> Stages = {"moves", "retreats", "adjustments", "finished"};
+
+}  // namespace
+
+bool StageIsBefore(std::string_view stage, std::string_view other) {
+  return std::find(Stages.begin(), Stages.end(), stage) <
+         std::find(Stages.begin(), Stages.end(), other);
+}
+
+SeasonFacts SeasonFactsOf(const GameState& game) {
+  SeasonFacts facts{game.Title, game.Season, game.Year, game.Stage, {}, {}};
+  std::transform(game.Countries.begin(), game.Countries.end(), facts.PlayerNames.begin(),
+                 [](const Country& country) { return country.PlayerName; });
+  facts.TextLines.assign(game.TextLines.begin(), game.TextLines.end());
+  return facts;
+}
+
+void EditSeason(GameState& game, const SeasonFacts& facts) {
+  Table<std::string, TextLineBound> lines;
+  for (const std::string& line : facts.TextLines)
+    lines.Append(line);
+  game.TextLines = std::move(lines);
+  if (StageIsBefore(facts.Stage, game.Stage)) game.ReportLines.SetCount(0);
+  game.Title = Trim(facts.Title).empty() ? std::string(DefaultTitle) : facts.Title;
+  game.Season = facts.Season;
+  game.Year = facts.Year;
+  game.Stage = facts.Stage;
+  for (int i = 1; i <= CountryCount; ++i)
+    game.Countries[i].PlayerName = facts.PlayerNames.at(static_cast<std::size_t>(i - 1));
+}
+
+}  // namespace orb::model
