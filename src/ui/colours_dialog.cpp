@@ -63,7 +63,7 @@ QString warningOn(const model::CountryTable& countries) {
   QStringList lines;
   for (const render::AlikePowers& pair : render::PowersAlike(countries))
     lines << sentenceOn(pair, countries);
-  if (lines.isEmpty()) return {};
+  if (lines.isEmpty()) return ColoursDialog::tr("Everybody can tell the powers apart.");
   const qsizetype more = lines.size() - WarningLines;
   if (more > 0) {
     lines = lines.mid(0, WarningLines - 1);

@@ -70,7 +70,10 @@ SeasonDialog::SeasonDialog(const model::GameState& game, QWidget* parent)
 
   auto* columns = new QHBoxLayout;
   columns->setSpacing(ColumnGap);
-  columns->addLayout(newFactsColumn());
+  auto* facts = new QVBoxLayout;
+  facts->addLayout(newFactsColumn());
+  facts->addStretch(1);
+  columns->addLayout(facts);
   columns->addLayout(newTextColumn(), 1);
   auto* foot = new QHBoxLayout;
   foot->addWidget(m_hint, 1);

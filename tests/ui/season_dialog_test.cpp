@@ -1,3 +1,4 @@
+#include "model/files.h"
 #include "model/game_file.h"
 #include "support/situation.h"
 #include "ui/modal_script.h"
@@ -50,7 +51,6 @@ void Choose(const QDialog& dialog, const char* box, const QString& caption) {
 TEST_F(SeasonDialogTest, OkChangesTheGameAndCancelDoesNot) {
   model::GameState game = EmptyBoard("Spring", "moves");
   game.OrdersList = {"ENG F(Lon) - NTH"};
-  game.ReportLines.SetCount(0);
   Open(File(game));
   Trigger("mnuGameEditUnits");
   const auto edit = [](QDialog& dialog) {
@@ -84,7 +84,9 @@ TEST_F(SeasonDialogTest, OkChangesTheGameAndCancelDoesNot) {
 TEST_F(SeasonDialogTest, WhatAFileHoldsIsKeptByteForByte) {
   model::GameState game = EmptyBoard("Summer", "siesta");
   game.Title = "\xA0 caf\xE9 \x93x\x94";
-  game.TextLines.Append("fixed\xA0blank\tand tab ");
+  game.TextLines.Append(
+      "fixed\xA0"
+      "blank\tand tab ");
   game.TextLines.Append("");
   Open(File(game));
   const std::string before = Saved();
@@ -97,7 +99,8 @@ TEST_F(SeasonDialogTest, WhatAFileHoldsIsKeptByteForByte) {
         QTest::keyClicks(text, "end");
       },
       Qt::Key_Return);
-  EXPECT_THAT(Saved(), HasSubstr("\"fixed\xA0" "blank\tand tab \"\r\n\"end\"\r\n"));
+  EXPECT_THAT(Saved(), HasSubstr("\"fixed\xA0"
+                                 "blank\tand tab \"\r\n\"end\"\r\n"));
 }
 
 TEST_F(SeasonDialogTest, WhatCannotBeStoredIsRefusedAndSaidWhy) {
