@@ -19,6 +19,7 @@ namespace orb::ui {
 namespace {
 
 constexpr int Gap = 12;
+constexpr int RowGap = 6;
 constexpr QSize Swatch(44, 16);
 constexpr qsizetype WarningLines = 4;
 
@@ -92,6 +93,7 @@ ColoursDialog::ColoursDialog(Desk& desk, QWidget* parent)
 void ColoursDialog::layOut() {
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(Gap);
+  grid->setVerticalSpacing(RowGap);
   grid->addWidget(newHeading(tr("Power")), 0, 0);
   grid->addWidget(newHeading(tr("Fill")), 0, 2);
   grid->addWidget(newHeading(tr("Outline")), 0, 3);

@@ -16,6 +16,7 @@ namespace orb::ui {
 namespace {
 
 constexpr int Gap = 12;
+constexpr int RowGap = 6;
 constexpr int ColumnGap = 24;
 constexpr int TextColumns = 60;
 constexpr int NameColumns = 24;
@@ -117,6 +118,8 @@ QLayout* SeasonDialog::newFactsColumn() {
                    std::numeric_limits<std::int16_t>::max());
 
   auto* form = new QFormLayout;
+  form->setVerticalSpacing(RowGap);
+  form->setHorizontalSpacing(Gap);
   form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
   form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   form->addRow(newHeading(tr("Game")));
@@ -143,6 +146,7 @@ QLayout* SeasonDialog::newTextColumn() {
   head->addStretch();
   head->addWidget(m_lineCount);
   auto* column = new QVBoxLayout;
+  column->setSpacing(RowGap);
   column->addLayout(head);
   column->addWidget(m_text, 1);
   return column;
