@@ -1,6 +1,7 @@
 #include "cli/command.h"
 #include "cli/draw_map.h"
 #include "cli/games.h"
+#include "cli/orders_source.h"
 #include "model/errors.h"
 #include "orders/entered_orders.h"
 
@@ -42,11 +43,12 @@ int PixelWidth(const CommandLine& line) {
 }
 
 /// Without the option not even the orders of the game file are drawn: maps go to all players.
-std::vector<orders::OrderOutcome> OrdersToDraw(model::GameState& game, const GamePaths& paths) {
+std::vector<orders::OrderOutcome> OrdersToDraw(model::GameState& game, OrdersSource& source,
+                                               const GamePaths& paths) {
   if (game.Stage == "finished") {
     throw model::FatalError("There are no orders to draw in the stage \"finished\".");
   }
-  TakeOrders(game, paths);
+  source.Take(game, paths);
   return orders::EnteredOrders(game);
 }
 
@@ -57,9 +59,10 @@ int Execute(const CommandLine& line, Console& console) {
   const render::MapOptions options{Mode(line), line.Has(OptionId::CentreCount),
                                    line.Has(OptionId::Borders), line.Has(OptionId::CentreOwners)};
   const std::filesystem::path data = DataDirectory(line);
+  OrdersSource source(line);
   return ForEachGame(
       line, console, PlanPaths(line), [&](model::GameState& game, const GamePaths& paths) {
-        const auto drawn = line.Has(OptionId::Orders) ? OrdersToDraw(game, paths)
+        const auto drawn = line.Has(OptionId::Orders) ? OrdersToDraw(game, source, paths)
                                                       : std::vector<orders::OrderOutcome>{};
         DrawMap({game, options, data, width, picture, format, drawn});
         return true;

@@ -1,6 +1,5 @@
-#include "cli/orders_source.h"
-
 #include "cli/desk.h"
+#include "cli/orders_source.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
