@@ -20,7 +20,6 @@
 namespace orb::tests {
 namespace {
 
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::StartsWith;
 using ui::OrderMark;
