@@ -31,7 +31,8 @@ class EndAfterFirstPaint : public QObject {
         if (line.startsWith("VmRSS:")) std::puts(line.mid(6).trimmed().constData());
       }
     }
-    QApplication::quit();
+    // Not quit(), which would close the window and so write its settings.
+    QApplication::exit();
   }
 };
 

@@ -116,7 +116,7 @@ const render::HitMap& MapPicture::hitMap() {
 
 MapSpot MapPicture::spotAt(QPointF position, Qt::KeyboardModifiers modifiers) {
   const render::Point point{position.x() / width(), position.y() / height()};
-  return {*m_desk.game().Map, hitMap(), point, modifiers};
+  return {m_desk.game(), hitMap(), point, modifiers};
 }
 
 void MapPicture::mousePressEvent(QMouseEvent* event) {

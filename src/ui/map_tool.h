@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/map.h"
+#include "model/game_state.h"
 #include "render/hit_map.h"
 
 #include <Qt>
@@ -11,7 +11,7 @@ namespace orb::ui {
 
 /// A place on the map at which the mouse did something.
 struct MapSpot {
-  const model::Map& map;
+  const model::GameState& game;
   const render::HitMap& hitMap;
   render::Point point;  ///< in fractions of the map's width and height
   Qt::KeyboardModifiers modifiers;
@@ -19,7 +19,7 @@ struct MapSpot {
   /// Row of the location there, as a unit of this type sees it (a fleet stands on a coast); 0:
   /// none.
   int locationFor(std::string_view unitType) const {
-    return hitMap.LocationAt(map, point, unitType);
+    return hitMap.LocationAt(game, point, unitType);
   }
 };
 

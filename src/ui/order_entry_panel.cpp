@@ -232,7 +232,7 @@ void OrderEntryPanel::editSelectedOrder() {
 }
 
 std::string OrderEntryPanel::locationAt(const MapSpot& spot, std::string_view unitType) const {
-  const int row = spot.hitMap.LocationAt(game(), spot.point, unitType);
+  const int row = spot.locationFor(unitType);
   return row == 0 ? std::string() : spot.map.Provinces[row].Name;
 }
 
