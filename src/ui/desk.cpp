@@ -4,6 +4,7 @@
 #include "model/game_file.h"
 #include "model/new_game.h"
 #include "model/seasons.h"
+#include "orders/exchange/order_files.h"
 #include "orders/order_list.h"
 
 #include <utility>
@@ -68,6 +69,12 @@ bool Desk::fileOrder(OrderList list, const std::string& text) {
 
 void Desk::deleteOrder(OrderList list, int position) {
   run([&](Situation& next) { orders::DeleteOrder(next.game.*list, position); });
+}
+
+int Desk::fileOrders(const std::vector<exchange::ReadLine>& lines) {
+  int filed = 0;
+  const bool done = run([&](Situation& next) { filed = exchange::FileOrders(next.game, lines); });
+  return done ? filed : 0;
 }
 
 void Desk::resolve() {

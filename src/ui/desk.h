@@ -2,6 +2,7 @@
 
 #include "model/messages.h"
 #include "model/season_edit.h"
+#include "orders/exchange/read_orders.h"
 #include "ui/situation.h"
 
 #include <QObject>
@@ -44,6 +45,9 @@ class Desk : public QObject {
   /// False when nothing was filed.
   bool fileOrder(OrderList list, const std::string& text);
   void deleteOrder(OrderList list, int position);
+
+  /// Files the orders of lines that were understood into the list of the stage; how many.
+  int fileOrders(const std::vector<exchange::ReadLine>& lines);
 
   void resolve();
   void nextSeason();

@@ -52,7 +52,7 @@ int nearestSymbol(const GameState& game, const MapSpot& spot, const QSizeF& size
   int nearest = 0;
   double least = SymbolReach;
   for (int u = 1; u <= game.Units.Count(); ++u) {
-    const render::Point symbol = unitPoint(spot.map, game.Units[u]);
+    const render::Point symbol = unitPoint(*spot.game.Map, game.Units[u]);
     const double away = std::hypot((spot.point.X - symbol.X) * size.width(),
                                    (spot.point.Y - symbol.Y) * size.height()) /
                         unitScale(game.Units[u]);
@@ -115,7 +115,7 @@ int EditUnitsPanel::unitAt(const MapSpot& spot) const {
   if (symbol != 0 || place == 0) return symbol;
   for (int u = 1; u <= game().Units.Count(); ++u) {
     const Unit& unit = game().Units[u];
-    const bool there = model::SamePlace(unit.Location, spot.map.Provinces[place].Name);
+    const bool there = model::SamePlace(unit.Location, spot.game.Map->Provinces[place].Name);
     if (there && unit.Status != model::Dislodged) return u;
   }
   return 0;
@@ -126,7 +126,7 @@ void EditUnitsPanel::mapClicked(const MapSpot& at) {
   select(unit);
   const int place = at.locationFor("A");
   if (unit != 0 || place == 0) return;
-  const std::string& name = at.map.Provinces[place].Name;
+  const std::string& name = at.game.Map->Provinces[place].Name;
   QMenu* menu = newAddMenu(
       game(), name, m_lastPower, [this](const Unit& chosen) { add(chosen); }, this);
   if (menu != nullptr) return popUp(menu, at.point);
@@ -197,12 +197,12 @@ void EditUnitsPanel::mapDragMoved(const MapSpot& over) {
   const std::string fault =
       m_drag->target == 0
           ? std::string()
-          : orders::MoveFault(game(), m_drag->unit, over.map.Provinces[m_drag->target].Name);
+          : orders::MoveFault(game(), m_drag->unit, over.game.Map->Provinces[m_drag->target].Name);
   m_drag->possible = m_drag->target != 0 && fault.empty();
   map().setCursor(m_drag->possible ? Qt::ClosedHandCursor : Qt::ForbiddenCursor);
   map().update();
   const QString goal = m_drag->target == 0 ? tr("There is no place.")
-                                           : ToQString(orders::PlaceName(over.map, m_drag->target));
+                                           : ToQString(orders::PlaceName(*over.game.Map, m_drag->target));
   emit statusText(fault.empty() ? goal : ToQString(fault));
 }
 
@@ -226,14 +226,14 @@ void EditUnitsPanel::moveTo(int unit, const MapSpot& at) {
   const Unit& moved = game().Units[unit];
   const int target = at.locationFor(moved.UnitType);
   if (target == 0) return;
-  const std::string& name = at.map.Provinces[target].Name;
-  std::vector<int> coasts = orders::StandingPlaces(at.map, moved.UnitType, name);
+  const std::string& name = at.game.Map->Provinces[target].Name;
+  std::vector<int> coasts = orders::StandingPlaces(*at.game.Map, moved.UnitType, name);
   const bool ask = coasts.size() > 1 && !model::SamePlace(name, moved.Location) &&
                    orders::MoveFault(game(), unit, name).empty();
   if (!ask) return move(unit, name);
   std::stable_partition(coasts.begin(), coasts.end(), [&](int row) { return row == target; });
   popUp(newPlaceMenu(
-            at.map, coasts, [this, unit](const std::string& coast) { move(unit, coast); }, this),
+            *at.game.Map, coasts, [this, unit](const std::string& coast) { move(unit, coast); }, this),
         at.point);
 }
 

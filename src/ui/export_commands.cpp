@@ -8,6 +8,7 @@
 #include "render/text_report.h"
 #include "ui/file_dialogs.h"
 #include "ui/file_proposals.h"
+#include "ui/message_boxes.h"
 #include "ui/print_dialog.h"
 #include "ui/print_pages.h"
 
@@ -103,11 +104,7 @@ ExportCommands::ExportCommands(const Desk& desk, model::Messages& messages, QWid
       m_open(QDesktopServices::openUrl) {}
 
 void ExportCommands::attempt(const std::function<void()>& command) {
-  try {
-    command();
-  } catch (const model::FatalError& fault) {
-    m_messages.Show(fault.what(), model::Icon::Stop);
-  }
+  ui::attempt(m_messages, command);
 }
 
 /// The map as it is shown, at the background picture's own resolution.

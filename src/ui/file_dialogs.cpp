@@ -1,6 +1,7 @@
 #include "ui/file_dialogs.h"
 
 #include "model/files.h"
+#include "orders/exchange/order_files.h"
 #include "render/qt/text_codec.h"
 #include "ui/file_proposals.h"
 
@@ -30,6 +31,10 @@ void setUp(QFileDialog& dialog, const QString& title, const QStringList& filters
 
 QString allFiles() {
   return QObject::tr("All files: *.* (*)");
+}
+
+QString textFiles() {
+  return QObject::tr("Text files: *.txt (*.txt)");
 }
 
 void setUpForGames(QFileDialog& dialog, const QString& title, const model::GameState& game) {
@@ -72,6 +77,24 @@ std::optional<std::filesystem::path> askForNewFile(
   return std::nullopt;
 }
 
+struct ExportTexts {
+  QString title;
+  QString filter;
+  std::string proposal;
+};
+
+ExportTexts textsOf(ExportKind kind, const model::GameState& game) {
+  switch (kind) {
+    case ExportKind::Bitmap:
+      return {QObject::tr(" Export Bitmap"), QObject::tr("Bitmap files: *.bmp (*.bmp)"),
+              proposedExportFile(game, ".bmp")};
+    case ExportKind::Orders:
+      return {QObject::tr(" Export Orders"), textFiles(), exchange::ProposedOrdersFile(game)};
+    default:
+      return {QObject::tr(" Export Text"), textFiles(), proposedExportFile(game, ".txt")};
+  }
+}
+
 }  // namespace
 
 std::optional<OpenChoice> askGameToOpen(QWidget* parent, const model::GameState& game) {
@@ -87,6 +110,15 @@ std::optional<OpenChoice> askGameToOpen(QWidget* parent, const model::GameState&
   return OpenChoice{chosenFile(dialog), readOnly->isChecked()};
 }
 
+std::optional<std::filesystem::path> askOrdersToImport(QWidget* parent,
+                                                       const model::GameState& game) {
+  QFileDialog dialog(parent);
+  setUp(dialog, QObject::tr(" Import Orders"), {textFiles(), allFiles()}, game);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return chosenFile(dialog);
+}
+
 std::optional<std::filesystem::path> askWhereToSave(QWidget* parent, const model::GameState& game,
                                                     model::Messages& messages) {
   QFileDialog dialog(parent);
@@ -97,14 +129,10 @@ std::optional<std::filesystem::path> askWhereToSave(QWidget* parent, const model
 std::optional<std::filesystem::path> askWhereToExport(QWidget* parent, ExportKind kind,
                                                       const model::GameState& game,
                                                       model::Messages& messages) {
-  const bool bitmap = kind == ExportKind::Bitmap;
+  const ExportTexts texts = textsOf(kind, game);
   QFileDialog dialog(parent);
-  setUp(dialog, bitmap ? QObject::tr(" Export Bitmap") : QObject::tr(" Export Text"),
-        {bitmap ? QObject::tr("Bitmap files: *.bmp (*.bmp)")
-                : QObject::tr("Text files: *.txt (*.txt)"),
-         allFiles()},
-        game);
-  return askForNewFile(dialog, proposedExportFile(game, bitmap ? ".bmp" : ".txt"), messages,
+  setUp(dialog, texts.title, {texts.filter, allFiles()}, game);
+  return askForNewFile(dialog, texts.proposal, messages,
                        [](const std::filesystem::path& typed) { return typed; });
 }
 

@@ -19,11 +19,15 @@ struct OpenChoice {
 /// Asks for a game file to open; nothing when cancelled.
 std::optional<OpenChoice> askGameToOpen(QWidget* parent, const model::GameState& game);
 
+/// Asks for a text file of orders; nothing when cancelled.
+std::optional<std::filesystem::path> askOrdersToImport(QWidget* parent,
+                                                       const model::GameState& game);
+
 /// Asks where to save the game and whether a file there may be replaced; nothing when cancelled.
 std::optional<std::filesystem::path> askWhereToSave(QWidget* parent, const model::GameState& game,
                                                     model::Messages& messages);
 
-enum class ExportKind { Bitmap, Text };
+enum class ExportKind { Bitmap, Text, Orders };
 
 /// Asks for the file to export to, whose name is taken as it stands, and whether one there may be
 /// replaced; nothing when cancelled.

@@ -1,6 +1,7 @@
 #include "ui/file_menu.h"
 
 #include "ui/controls.h"
+#include "ui/exchange_commands.h"
 #include "ui/export_commands.h"
 #include "ui/file_dialogs.h"
 #include "ui/recent_files_menu.h"
@@ -8,7 +9,7 @@
 namespace orb::ui {
 
 FileMenu::FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory,
-                   ExportCommands& exports, QWidget* window)
+                   ExportCommands& exports, ExchangeCommands& exchange, QWidget* window)
     : QMenu(tr("&File"), window), m_desk(desk), m_messages(messages), m_window(window) {
   setObjectName(QStringLiteral("mnuFile"));
   QAction* create = newEntry(*this, QStringLiteral("mnuFileNew"), tr("&New"), QKeySequence::New);
@@ -18,6 +19,8 @@ FileMenu::FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory,
   m_save = newEntry(*this, QStringLiteral("mnuFileSave"), tr("&Save"), QKeySequence::Save);
   QAction* saveAs = newEntry(*this, QStringLiteral("mnuFileSaveAs"), tr("Save &As..."),
                              Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+  addSeparator();
+  addExchange(exchange);
   addSeparator();
   addExports(exports);
   addSeparator();
@@ -32,13 +35,21 @@ FileMenu::FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory,
   showState();
 }
 
+void FileMenu::addExchange(ExchangeCommands& exchange) {
+  m_importOrders = newEntry(*this, QStringLiteral("mnuFileImportOrders"), tr("I&mport orders..."),
+                            Qt::CTRL | Qt::Key_I);
+  m_exportOrders = newEntry(*this, QStringLiteral("mnuFileExportOrders"), tr("Export or&ders..."));
+  connect(m_importOrders, &QAction::triggered, &exchange, &ExchangeCommands::importOrders);
+  connect(m_exportOrders, &QAction::triggered, &exchange, &ExchangeCommands::exportOrders);
+}
+
 void FileMenu::addExports(ExportCommands& exports) {
   QAction* bitmap = newEntry(*this, QStringLiteral("mnuFileExportBMP"), tr("Export B&itmap..."));
   m_exportText = newEntry(*this, QStringLiteral("mnuFileExportText"), tr("Export &Text..."));
   m_print = newEntry(*this, QStringLiteral("mnuFilePrint"), tr("&Print..."), QKeySequence::Print);
   addSeparator();
-  m_animate = newEntry(*this, QStringLiteral("mnuFileAnimate"), tr("A&nimate..."));
-  m_animateMove = newEntry(*this, QStringLiteral("mnuFileAnimateMove"), tr("Animate &move"));
+  m_animate = newEntry(*this, QStringLiteral("mnuFileAnimate"), tr("Animat&e..."));
+  m_animateMove = newEntry(*this, QStringLiteral("mnuFileAnimateMove"), tr("Animate mo&ve"));
   connect(bitmap, &QAction::triggered, &exports, &ExportCommands::exportBitmap);
   connect(m_exportText, &QAction::triggered, &exports, &ExportCommands::exportText);
   connect(m_print, &QAction::triggered, &exports, &ExportCommands::print);
@@ -64,6 +75,8 @@ void FileMenu::saveAs() {
 
 void FileMenu::showState() {
   m_save->setEnabled(!m_desk.now().readOnly || m_desk.game().FileName.empty());
+  m_importOrders->setEnabled(takesOrders(m_desk.game()));
+  m_exportOrders->setEnabled(hasOrders(m_desk.game()));
   m_animateMove->setEnabled(m_desk.game().Stage == "finished");
 }
 

@@ -7,6 +7,7 @@
 
 namespace orb::ui {
 
+class ExchangeCommands;
 class ExportCommands;
 
 /// The commands on game files.
@@ -16,14 +17,16 @@ class FileMenu : public QMenu {
  public:
   /// Dialogs come up over the window; Exit closes it.
   FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory, ExportCommands& exports,
-           QWidget* window);
+           ExchangeCommands& exchange, QWidget* window);
 
   QAction* openEntry() const { return m_open; }
   QAction* saveEntry() const { return m_save; }
+  QAction* importOrdersEntry() const { return m_importOrders; }
   QAction* exportTextEntry() const { return m_exportText; }
   QAction* printEntry() const { return m_print; }
 
  private:
+  void addExchange(ExchangeCommands& exchange);
   void addExports(ExportCommands& exports);
   void open();
   void save();
@@ -35,6 +38,8 @@ class FileMenu : public QMenu {
   QWidget* m_window;
   QAction* m_open;
   QAction* m_save;
+  QAction* m_importOrders;
+  QAction* m_exportOrders;
   QAction* m_exportText;
   QAction* m_print;
   QAction* m_animate;

@@ -8,6 +8,7 @@
 #include "ui/edit_menu.h"
 #include "ui/edit_provinces_panel.h"
 #include "ui/edit_units_panel.h"
+#include "ui/exchange_commands.h"
 #include "ui/export_commands.h"
 #include "ui/file_dialogs.h"
 #include "ui/file_menu.h"
@@ -136,8 +137,10 @@ void MainWindow::layOutPanels() {
 void MainWindow::createMenus() {
   m_exports = new ExportCommands(m_desk, m_messages, this);
   connect(m_exports, &ExportCommands::noted, this, &MainWindow::showStatus);
-  m_fileMenu = new FileMenu(m_desk, m_messages, m_memory, *m_exports, this);
-  m_editMenu = new EditMenu(*m_exports, m_map, this);
+  m_exchange = new ExchangeCommands(m_desk, m_messages, this);
+  connect(m_exchange, &ExchangeCommands::noted, this, &MainWindow::showStatus);
+  m_fileMenu = new FileMenu(m_desk, m_messages, m_memory, *m_exports, *m_exchange, this);
+  m_editMenu = new EditMenu(m_desk, *m_exports, *m_exchange, m_map, this);
   m_gameMenu = new GameMenu(m_desk, this);
   m_mapMenu = new MapMenu(m_desk, *m_view, this);
   menuBar()->addMenu(m_fileMenu);
@@ -154,6 +157,11 @@ void MainWindow::createToolbar() {
                    m_fileMenu->openEntry());
   tools->addButton(QStringLiteral("butFileSave"), QStringLiteral("save"), tr("Save the game"),
                    m_fileMenu->saveEntry());
+  tools->addSeparator();
+  tools->addButton(QStringLiteral("butFileImportOrders"), QStringLiteral("import-orders"),
+                   tr("Import orders from a text file"), m_fileMenu->importOrdersEntry());
+  tools->addButton(QStringLiteral("butEditPasteOrders"), QStringLiteral("paste-orders"),
+                   tr("Paste the orders of one power"), m_editMenu->pasteOrdersEntry());
   tools->addSeparator();
   tools->addButton(QStringLiteral("butEditCopyMap"), QStringLiteral("copy-map"), tr("Copy the map"),
                    m_editMenu->copyMapEntry());

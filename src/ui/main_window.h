@@ -19,6 +19,7 @@ class EditMenu;
 class EditProvincesPanel;
 class EditUnitsPanel;
 class ElidedLabel;
+class ExchangeCommands;
 class ExportCommands;
 class FileMenu;
 class GameMenu;
@@ -76,6 +77,7 @@ class MainWindow : public QMainWindow {
   QTabWidget* m_tabs = nullptr;
   ReportPanel* m_report = nullptr;
   ExportCommands* m_exports = nullptr;
+  ExchangeCommands* m_exchange = nullptr;
   FileMenu* m_fileMenu = nullptr;
   EditMenu* m_editMenu = nullptr;
   GameMenu* m_gameMenu = nullptr;

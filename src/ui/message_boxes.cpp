@@ -1,5 +1,6 @@
 #include "ui/message_boxes.h"
 
+#include "model/errors.h"
 #include "render/qt/text_codec.h"
 
 #include <QMessageBox>
@@ -41,6 +42,14 @@ QString displayText(const std::string& text) {
   QString shown = utf8(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
   if (utf8.hasError()) shown = render::ToQString(text);
   return shown.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+}
+
+void attempt(model::Messages& messages, const std::function<void()>& command) {
+  try {
+    command();
+  } catch (const model::FatalError& fault) {
+    messages.Show(fault.what(), model::Icon::Stop);
+  }
 }
 
 bool MessageBoxes::Warn(const std::string& text) {

@@ -233,7 +233,7 @@ void OrderEntryPanel::editSelectedOrder() {
 
 std::string OrderEntryPanel::locationAt(const MapSpot& spot, std::string_view unitType) const {
   const int row = spot.locationFor(unitType);
-  return row == 0 ? std::string() : spot.map.Provinces[row].Name;
+  return row == 0 ? std::string() : game().Map->Provinces[row].Name;
 }
 
 }  // namespace orb::ui

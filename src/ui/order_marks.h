@@ -9,7 +9,7 @@ enum class OrderMark : std::uint8_t {
   None,
   Passes,    ///< a thin tick
   Doubtful,  ///< a triangle with an exclamation mark
-  Stopped,   ///< a filled disc with a bar: the resolution stopped here
+  Stopped,   ///< a filled disc with a bar: the line stopped the resolution or is not understood
 };
 
 /// Where an item of a list keeps its OrderMark, as an int.

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "model/game_state.h"
+#include "orders/exchange/read_orders.h"
+
+#include <QAbstractTableModel>
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace orb::ui {
+
+/// A text of orders line by line: what was written and the order that was understood. Every order
+/// can be taken or left out, every line written anew.
+class ExchangeModel : public QAbstractTableModel {
+  Q_OBJECT
+
+ public:
+  enum Column { Take, Written, Understood, ColumnCount };
+
+  struct Counts {
+    int orders = 0;    ///< understood, of other powers too
+    int unclear = 0;   ///< not understood or ambiguous
+    int ofOthers = 0;  ///< orders of other powers than the chosen one
+    int taken = 0;
+  };
+
+  /// The game must outlive the model. The text is UTF-8 or Windows-1252.
+  ExchangeModel(const model::GameState& game, std::string text,
+                std::vector<exchange::TextRepair> repairs, QObject* parent);
+
+  /// The abbreviation of the power whose orders the text should hold; empty: those of all. Lines
+  /// that were written anew stay so.
+  void setPower(const std::string& power);
+
+  /// Shows what a line would mean until it is written or the trial ends.
+  void tryText(int row, const QString& text);
+  void endTrial();
+
+  /// The power that the text itself is for, as far as it says so; else empty.
+  std::string powerOfText() const;
+
+  const exchange::ReadLine& line(int row) const;
+  bool isNoOrder(int row) const;
+
+  /// The part of the written text that made the line unclear: offset and length in characters.
+  std::pair<int, int> fault(int row) const { return at(row).fault; }
+
+  Counts counts() const;
+  std::vector<exchange::ReadLine> takenLines() const;
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+  Qt::ItemFlags flags(const QModelIndex& index) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+ private:
+  struct Line {
+    exchange::ReadLine read;
+    QString written;
+    QString original;           ///< before it was written anew
+    std::string power;          ///< that the lines there are for
+    std::pair<int, int> fault;  ///< in the written text
+    bool taken = false;
+  };
+
+  exchange::ReadLine read(const Line& line, const QString& text) const;
+  void rewrite(Line& line, const QString& text);
+  void readUnclearAgain();
+  void takeAnew(const std::vector<Line>& before);
+  bool isOfOther(const exchange::ReadLine& line) const;
+  bool isRepeatedBelow(int row) const;
+  QString doubt(int row, const exchange::ReadLine& line) const;
+  QVariant understoodData(int row, int role) const;
+  QVariant writtenData(int row, int role) const;
+  const Line& at(int row) const { return m_lines[static_cast<std::size_t>(row)]; }
+  Line& at(int row) { return m_lines[static_cast<std::size_t>(row)]; }
+
+  const model::GameState& m_game;
+  std::string m_text;
+  std::vector<exchange::TextRepair> m_repairs;
+  std::string m_power;
+  std::vector<Line> m_lines;
+  std::optional<std::pair<int, exchange::ReadLine>> m_trial;
+};
+
+}  // namespace orb::ui

@@ -1,0 +1,202 @@
+#include "model/files.h"
+#include "support/directories.h"
+#include "ui/exchange_model.h"
+#include "ui/modal_script.h"
+#include "ui/order_marks.h"
+#include "ui/window_fixture.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace orb::tests {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+using ui::ExchangeModel;
+using ui::OrderMark;
+
+/// The preview as a test sees it.
+struct Preview {
+  explicit Preview(QDialog& dialog)
+      : table(*dialog.findChild<QTableView*>(QStringLiteral("tblExchange"))),
+        ok(*dialog.findChild<QPushButton*>(QStringLiteral("butExchangeOK"))) {}
+
+  QVariant Data(int row, ExchangeModel::Column column, int role = Qt::DisplayRole) const {
+    return table.model()->index(row, column).data(role);
+  }
+  std::string Understood(int row) const {
+    return Data(row, ExchangeModel::Understood).toString().toStdString();
+  }
+  OrderMark Mark(int row) const {
+    return static_cast<OrderMark>(Data(row, ExchangeModel::Understood, ui::OrderMarkRole).toInt());
+  }
+  bool IsTaken(int row) const {
+    return Data(row, ExchangeModel::Take, Qt::CheckStateRole).toInt() == Qt::Checked;
+  }
+  std::string Label(const char* name) const {
+    return table.window()->findChild<QLabel*>(QLatin1String(name))->text().toStdString();
+  }
+  void Choose(const char* power) const {
+    auto& box = *table.window()->findChild<QComboBox*>(QStringLiteral("cmbExchangePower"));
+    box.setCurrentText(QLatin1String(power));
+  }
+
+  QTableView& table;
+  QPushButton& ok;
+};
+
+QString Shown(const std::filesystem::path& path) {
+  return QString::fromStdString(path.string());
+}
+
+TEST_F(WindowTest, ImportedLinesAreCorrectedWhereTheyStand) {
+  const auto file = directory_.Write(
+      "orders.txt", "FRANCE\nHello!\nA Paris to Burgundy\nF Brest - \xC9hc\nA Mar S Par - Bur\n");
+  const auto correct = [](QDialog& dialog) {
+    const Preview preview(dialog);
+    EXPECT_EQ(dialog.windowTitle(), "ORB v5.5 Import Orders");
+    EXPECT_EQ(preview.Understood(2), "FRA A(Par) - Bur");
+    EXPECT_EQ(preview.Mark(2), OrderMark::Passes);
+    EXPECT_EQ(preview.Mark(3), OrderMark::Stopped);
+    EXPECT_EQ(preview.Data(3, ExchangeModel::Written).toString(),
+              QString::fromUtf8("F Brest - \u00c9hc"));
+    EXPECT_TRUE(preview.table.isRowHidden(1));
+    EXPECT_EQ(preview.Label("lblExchangeCount"), "2 orders, 1 unclear");
+    EXPECT_THAT(preview.Label("lblExchangeResult"), HasSubstr("1 unclear line is left out."));
+    EXPECT_EQ(preview.table.currentIndex().row(), 3);
+
+    Press(Qt::Key_F2);
+    auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_NE(editor, nullptr);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return editor->selectedText() == editor->text().mid(10); }))
+        << "what is not understood is selected";
+    Type("ech");
+    EXPECT_EQ(preview.Understood(3), "FRA F(Bre) - ECH") << "as it is typed";
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(preview.Mark(3), OrderMark::Stopped);
+    Press(Qt::Key_F2);
+    Type("brest mid");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(preview.Label("lblExchangeCount"), "3 orders, 0 unclear");
+    Press(Qt::Key_Return);
+  };
+  const ModalScript answers({FileChosen(Shown(file)), correct});
+  Enter("FRA F(Bre) hold");
+  Trigger("mnuFileImportOrders");
+  EXPECT_THAT(Lines("lstOrders"),
+              ElementsAre("FRA A(Par) - Bur", "FRA F(Bre) - MID", "FRA A(Mar) S A(Par) - Bur"));
+}
+
+TEST_F(WindowTest, PastedOrdersOfAnotherPowerAreFiledOnlyWhenTicked) {
+  QApplication::clipboard()->setText("Orders for France:\nA Par \u2013 Bur\nENG F(Lon) - NTH\n");
+  const auto cancel = [](QDialog& dialog) {
+    const Preview preview(dialog);
+    EXPECT_FALSE(preview.IsTaken(2));
+    EXPECT_EQ(preview.Mark(2), OrderMark::Doubtful);
+    EXPECT_EQ(preview.Label("lblExchangeCount"), "1 order, 0 unclear, 1 of another power");
+    Press(Qt::Key_Escape);
+  };
+  const auto accept = [](QDialog& /*dialog*/) { Press(Qt::Key_Return); };
+  const auto tick = [](QDialog& dialog) {
+    const Preview preview(dialog);
+    preview.table.setCurrentIndex(preview.table.model()->index(2, ExchangeModel::Written));
+    Press(Qt::Key_Space);
+    EXPECT_TRUE(preview.IsTaken(2));
+    Press(Qt::Key_Return);
+  };
+  const ModalScript answers({cancel, accept, tick});
+  Trigger("mnuEditPasteOrders");
+  EXPECT_THAT(Lines("lstOrders"), IsEmpty());
+  Trigger("mnuEditPasteOrders");
+  EXPECT_THAT(Lines("lstOrders"), ElementsAre("FRA A(Par) - Bur"));
+  Trigger("mnuEditPasteOrders");
+  EXPECT_THAT(Lines("lstOrders"), ElementsAre("FRA A(Par) - Bur", "ENG F(Lon) - NTH"));
+}
+
+TEST_F(WindowTest, ThePowerOfAPasteIsChosenAndMeaningsAreOffered) {
+  QApplication::clipboard()->setText(
+      "ENG F(Lon) - NTH\nFRA A(Par) - Nor\nFRA A(Par) hold\nF Lon x");
+  const auto choose = [](QDialog& dialog) {
+    const Preview preview(dialog);
+    EXPECT_FALSE(preview.ok.isEnabled()) << "no power is named by all";
+    auto& model = *preview.table.model();
+    model.setData(model.index(3, ExchangeModel::Written), "F Lon - ECH");
+    EXPECT_THAT(preview.Understood(0), HasSubstr("replaced by a line below"));
+    preview.Choose("England");
+    EXPECT_EQ(preview.Understood(3), "ENG F(Lon) - ECH") << "kept when another power is chosen";
+    EXPECT_FALSE(preview.IsTaken(2));
+    EXPECT_TRUE(preview.ok.isEnabled());
+    Press(Qt::Key_Return, Qt::NoModifier);
+  };
+  const ModalScript answers({choose});
+  Trigger("mnuEditPasteOrders");
+  EXPECT_THAT(Lines("lstOrders"), ElementsAre("ENG F(Lon) - ECH"));
+}
+
+TEST_F(WindowTest, OrdersHandedOutAreReadAgain) {
+  EXPECT_FALSE(Find<QAction>("mnuFileExportOrders").isEnabled()) << "there are none";
+  const std::vector<std::string> orders{"FRA A(Par) - Bur", "FRA A(Mar) S A(Par) - Bur",
+                                        "RUS F(Stp.s) - GOB"};
+  for (const std::string& order : orders)
+    Enter(QString::fromStdString(order));
+  const auto file = directory_.Path() / "handed out.txt";
+  const auto propose = [&](QDialog& dialog) {
+    EXPECT_EQ(dialog.windowTitle(), "ORB v5.5 Export Orders");
+    EXPECT_EQ(dialog.findChild<QLineEdit*>()->text(), "s01_orders.txt");
+    FileChosen(Shown(file))(dialog);
+  };
+  const auto accept = [](QDialog& /*dialog*/) { Press(Qt::Key_Return); };
+  const ModalScript answers({propose, FileChosen(Shown(file)), accept});
+  Trigger("mnuFileExportOrders");
+  Trigger("mnuEditCopyOrders");
+  const std::string written = model::ReadFile(file);
+  EXPECT_THAT(written, StartsWith("FRA A(Par) - Bur\r\n"));
+  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), written);
+  Trigger("mnuFileNew");
+  Trigger("mnuFileImportOrders");
+  EXPECT_EQ(Lines("lstOrders"), orders);
+}
+
+TEST_F(WindowTest, TextsThatCannotBeReadAreRefused) {
+  const auto folder = directory_.Path().string() + "/";
+  directory_.Write("long.txt", std::string(200'001, 'a'));
+  directory_.Write("binary.txt", std::string("a\0b", 3));
+  directory_.Write("good.txt", "A Par - Bur");
+  const auto told = [](const std::string& part) {
+    return [part](QDialog& dialog) {
+      EXPECT_THAT(dynamic_cast<QMessageBox&>(dialog).text().toStdString(), HasSubstr(part));
+      dialog.accept();
+    };
+  };
+  QApplication::clipboard()->clear();
+  std::filesystem::remove(program_.Path() / "fixpaste.dat");
+  program_.Write("fixpaste.dat", "\"no pair");
+  const ModalScript answers(
+      {FileChosen(QString::fromStdString(folder + "long.txt")), told("200001 bytes"),
+       FileChosen(QString::fromStdString(folder + "binary.txt")), told("value 0"),
+       FileChosen(QString::fromStdString(folder + "good.txt")), told("fixpaste.dat"),
+       told("no text on the clipboard")});
+  for (int i = 0; i < 3; ++i)
+    Trigger("mnuFileImportOrders");
+  Trigger("mnuEditPasteOrders");
+  EXPECT_THAT(Lines("lstOrders"), IsEmpty());
+}
+
+}  // namespace
+}  // namespace orb::tests
