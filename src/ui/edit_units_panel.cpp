@@ -201,8 +201,9 @@ void EditUnitsPanel::mapDragMoved(const MapSpot& over) {
   m_drag->possible = m_drag->target != 0 && fault.empty();
   map().setCursor(m_drag->possible ? Qt::ClosedHandCursor : Qt::ForbiddenCursor);
   map().update();
-  const QString goal = m_drag->target == 0 ? tr("There is no place.")
-                                           : ToQString(orders::PlaceName(*over.game.Map, m_drag->target));
+  const QString goal = m_drag->target == 0
+                           ? tr("There is no place.")
+                           : ToQString(orders::PlaceName(*over.game.Map, m_drag->target));
   emit statusText(fault.empty() ? goal : ToQString(fault));
 }
 
@@ -233,7 +234,8 @@ void EditUnitsPanel::moveTo(int unit, const MapSpot& at) {
   if (!ask) return move(unit, name);
   std::stable_partition(coasts.begin(), coasts.end(), [&](int row) { return row == target; });
   popUp(newPlaceMenu(
-            *at.game.Map, coasts, [this, unit](const std::string& coast) { move(unit, coast); }, this),
+            *at.game.Map, coasts, [this, unit](const std::string& coast) { move(unit, coast); },
+            this),
         at.point);
 }
 

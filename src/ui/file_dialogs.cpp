@@ -10,7 +10,10 @@
 #include <QFileDialog>
 #include <QGridLayout>
 
+#include <algorithm>
 #include <functional>
+#include <iterator>
+#include <string_view>
 
 namespace orb::ui {
 namespace {
@@ -44,8 +47,12 @@ void setUpForGames(QFileDialog& dialog, const QString& title, const model::GameS
   dialog.selectNameFilter(filters[static_cast<qsizetype>(gameFilterFor(game.FileName))]);
 }
 
+std::filesystem::path pathOf(const QString& file) {
+  return QFile::encodeName(file).toStdString();
+}
+
 std::filesystem::path chosenFile(const QFileDialog& dialog) {
-  return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
+  return pathOf(dialog.selectedFiles().constFirst());
 }
 
 /// Whether the file may be written as far as the user is concerned.
@@ -77,6 +84,7 @@ std::optional<std::filesystem::path> askForNewFile(
   return std::nullopt;
 }
 
+/// What the dialog of an export says and proposes.
 struct ExportTexts {
   QString title;
   QString filter;
@@ -88,6 +96,9 @@ ExportTexts textsOf(ExportKind kind, const model::GameState& game) {
     case ExportKind::Bitmap:
       return {QObject::tr(" Export Bitmap"), QObject::tr("Bitmap files: *.bmp (*.bmp)"),
               proposedExportFile(game, ".bmp")};
+    case ExportKind::Animation:
+      return {QObject::tr(" Export Animation"), QObject::tr("GIF pictures: *.gif (*.gif)"),
+              proposedExportFile(game, ".gif")};
     case ExportKind::Orders:
       return {QObject::tr(" Export Orders"), textFiles(), exchange::ProposedOrdersFile(game)};
     default:
@@ -117,6 +128,18 @@ std::optional<std::filesystem::path> askOrdersToImport(QWidget* parent,
   dialog.setFileMode(QFileDialog::ExistingFile);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return chosenFile(dialog);
+}
+
+std::vector<std::filesystem::path> askGamesToAnimate(QWidget* parent,
+                                                     const model::GameState& game) {
+  QFileDialog dialog(parent);
+  setUpForGames(dialog, QObject::tr(" Animate"), game);
+  dialog.setFileMode(QFileDialog::ExistingFiles);
+  std::vector<std::filesystem::path> files;
+  if (dialog.exec() != QDialog::Accepted) return files;
+  const QStringList chosen = dialog.selectedFiles();
+  std::transform(chosen.begin(), chosen.end(), std::back_inserter(files), pathOf);
+  return files;
 }
 
 std::optional<std::filesystem::path> askWhereToSave(QWidget* parent, const model::GameState& game,

@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <vector>
 
 namespace orb::ui {
 
@@ -23,11 +24,14 @@ std::optional<OpenChoice> askGameToOpen(QWidget* parent, const model::GameState&
 std::optional<std::filesystem::path> askOrdersToImport(QWidget* parent,
                                                        const model::GameState& game);
 
+/// Asks for game files to animate; none when cancelled.
+std::vector<std::filesystem::path> askGamesToAnimate(QWidget* parent, const model::GameState& game);
+
 /// Asks where to save the game and whether a file there may be replaced; nothing when cancelled.
 std::optional<std::filesystem::path> askWhereToSave(QWidget* parent, const model::GameState& game,
                                                     model::Messages& messages);
 
-enum class ExportKind { Bitmap, Text, Orders };
+enum class ExportKind { Bitmap, Text, Orders, Animation };
 
 /// Asks for the file to export to, whose name is taken as it stands, and whether one there may be
 /// replaced; nothing when cancelled.

@@ -24,6 +24,8 @@ class FileMenu : public QMenu {
   QAction* importOrdersEntry() const { return m_importOrders; }
   QAction* exportTextEntry() const { return m_exportText; }
   QAction* printEntry() const { return m_print; }
+  QAction* animateEntry() const { return m_animate; }
+  QAction* animateMoveEntry() const { return m_animateMove; }
 
  private:
   void addExchange(ExchangeCommands& exchange);

@@ -4,6 +4,7 @@
 #include "render/qt/text_codec.h"
 #include "render/settings.h"
 #include "ui/adjustments_panel.h"
+#include "ui/animation_player.h"
 #include "ui/controls.h"
 #include "ui/edit_menu.h"
 #include "ui/edit_provinces_panel.h"
@@ -102,6 +103,9 @@ void MainWindow::createPanels() {
   connect(m_map, &MapPicture::hovered, this, &MainWindow::showPlace);
   connect(m_view, &MapView::zoomChanged, this, &MainWindow::leaveSpareWidth);
   connect(m_report, &ReportPanel::unitsPicked, m_map, &MapPicture::setMarks);
+  m_player = new AnimationPlayer(m_desk, m_messages, *m_map, this);
+  connect(m_player, &AnimationPlayer::changed, this, &MainWindow::showAnimation);
+  connect(m_player, &AnimationPlayer::noted, this, &MainWindow::showStatus);
 }
 
 void MainWindow::layOutPanels() {
@@ -125,11 +129,16 @@ void MainWindow::layOutPanels() {
   // As wide as it likes to be; on a small screen it gives way.
   panels->addItem(new QSpacerItem(ColumnWidth, 0, QSizePolicy::Preferred));
 
+  auto* mapSide = new QVBoxLayout;
+  mapSide->setSpacing(Gap);
+  mapSide->addWidget(m_view, 1);
+  mapSide->addWidget(m_player->bar());
+
   auto* desk = new QWidget;
   auto* sides = new QHBoxLayout(desk);
   sides->setContentsMargins(Margin, Margin, Margin, Margin);
   sides->setSpacing(Gap);
-  sides->addWidget(m_view, 1);
+  sides->addLayout(mapSide, 1);
   sides->addWidget(m_column);
   setCentralWidget(desk);
 }
@@ -140,6 +149,10 @@ void MainWindow::createMenus() {
   m_exchange = new ExchangeCommands(m_desk, m_messages, this);
   connect(m_exchange, &ExchangeCommands::noted, this, &MainWindow::showStatus);
   m_fileMenu = new FileMenu(m_desk, m_messages, m_memory, *m_exports, *m_exchange, this);
+  connect(m_fileMenu->animateEntry(), &QAction::triggered, m_player,
+          &AnimationPlayer::askAndPlayFiles);
+  connect(m_fileMenu->animateMoveEntry(), &QAction::triggered, m_player,
+          &AnimationPlayer::playSeason);
   m_editMenu = new EditMenu(m_desk, *m_exports, *m_exchange, m_map, this);
   m_gameMenu = new GameMenu(m_desk, this);
   m_mapMenu = new MapMenu(m_desk, *m_view, this);
@@ -179,6 +192,7 @@ void MainWindow::createToolbar() {
   tools->addButton(QStringLiteral("butMapShowOrders"), QStringLiteral("show-orders"),
                    tr("Show the orders on the map"), m_mapMenu->showOrders());
   addToolBar(tools);
+  m_tools = tools;
 }
 
 void MainWindow::createStatusBar() {
@@ -251,7 +265,7 @@ void MainWindow::showGame() {
 /// Only the map shows in view-only mode, and nothing that belongs to playing.
 void MainWindow::showViewOnly() {
   const bool viewOnly = m_desk.now().viewOnly;
-  m_gameMenu->setEnabled(!viewOnly);
+  m_gameMenu->setEnabled(!viewOnly && !m_player->isOn());
   if (m_column->isHidden() == viewOnly) return;
   m_column->setVisible(!viewOnly);
   chooseTool();
@@ -307,6 +321,18 @@ void MainWindow::chooseTool() {
 
 void MainWindow::showPlace(int location) {
   showStatus(placeText(m_desk.game(), location));
+}
+
+/// While an animation has the map's place nothing may change the game.
+void MainWindow::showAnimation() {
+  const bool playing = m_player->isOn();
+  for (QWidget* control :
+       {static_cast<QWidget*>(m_fileMenu), static_cast<QWidget*>(m_editMenu),
+        static_cast<QWidget*>(m_gameMenu), static_cast<QWidget*>(m_tools), m_column}) {
+    control->setEnabled(!playing);
+  }
+  setAcceptDrops(!playing);
+  showViewOnly();
 }
 
 /// What the fitted map cannot use goes to the column.

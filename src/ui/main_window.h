@@ -12,9 +12,11 @@
 #include <utility>
 
 class QTabWidget;
+class QToolBar;
 
 namespace orb::ui {
 
+class AnimationPlayer;
 class EditMenu;
 class EditProvincesPanel;
 class EditUnitsPanel;
@@ -59,6 +61,7 @@ class MainWindow : public QMainWindow {
   void showStatus(const QString& text);
   void chooseTool();
   void showPlace(int location);
+  void showAnimation();
   void leaveSpareWidth();
 
   MessageBoxes m_messages;
@@ -68,6 +71,8 @@ class MainWindow : public QMainWindow {
   MapPicture* m_map = nullptr;
   MapView* m_view = nullptr;
   QWidget* m_column = nullptr;
+  QToolBar* m_tools = nullptr;
+  AnimationPlayer* m_player = nullptr;
   OrderEntryPanel* m_orders = nullptr;
   OrderEntryPanel* m_retreats = nullptr;
   OrderEntryPanel* m_adjustments = nullptr;

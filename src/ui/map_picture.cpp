@@ -3,13 +3,13 @@
 #include "model/errors.h"
 #include "render/qt/map_file.h"
 #include "render/qt/painter_surface.h"
+#include "ui/picture_painting.h"
 
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace orb::ui {
@@ -60,16 +60,7 @@ int MapPicture::locationAt(QPointF position) {
 void MapPicture::paintEvent(QPaintEvent* /*event*/) {
   if (m_picture.width() != fittingPixelWidth()) drawAgain();
   QPainter painter(this);
-  const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
-  // A difference of a pixel is rounding, and scaling for it would blur every line.
-  if (std::abs(m_picture.width() - pixels.width()) <= 1) {
-    m_picture.setDevicePixelRatio(devicePixelRatioF());
-    painter.fillRect(rect(), Qt::black);
-    painter.drawPixmap(0, 0, m_picture);
-  } else {
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawPixmap(QRectF(rect()), m_picture, QRectF(m_picture.rect()));
-  }
+  paintFilling(*this, m_picture, painter);
   render::PainterSurface surface(painter, QRectF(rect()), QSizeF(m_naturalSize) * TwipsPerPixel,
                                  m_pictures);
   paintMarks(surface);

@@ -28,6 +28,9 @@ class MapPicture : public QWidget {
   /// The size at which the map is meant to be seen, in pixels at 96 dpi.
   QSize naturalSize() const { return m_naturalSize; }
 
+  /// The width of a picture that is drawn for the map's size now.
+  int fittingPixelWidth() const;
+
   /// What the left mouse button means from now on; the tool must outlive the map or be replaced.
   void setTool(MapTool* tool) { m_tool = tool; }
 
@@ -53,7 +56,6 @@ class MapPicture : public QWidget {
   void leaveEvent(QEvent* event) override;
 
  private:
-  int fittingPixelWidth() const;
   void drawAgain();
   void paintMarks(render::Surface& surface) const;
   const render::HitMap& hitMap();
