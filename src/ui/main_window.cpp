@@ -129,16 +129,15 @@ void MainWindow::layOutPanels() {
   // As wide as it likes to be; on a small screen it gives way.
   panels->addItem(new QSpacerItem(ColumnWidth, 0, QSizePolicy::Preferred));
 
-  auto* mapSide = new QVBoxLayout;
-  mapSide->setSpacing(Gap);
-  mapSide->addWidget(m_view, 1);
-  mapSide->addWidget(m_player->bar());
-
   auto* desk = new QWidget;
-  auto* sides = new QHBoxLayout(desk);
-  sides->setContentsMargins(Margin, Margin, Margin, Margin);
+  auto* rows = new QVBoxLayout(desk);
+  rows->setContentsMargins(Margin, Margin, Margin, Margin);
+  rows->setSpacing(Gap);
+  auto* sides = new QHBoxLayout;
+  rows->addLayout(sides, 1);
+  rows->addWidget(m_player->bar());
   sides->setSpacing(Gap);
-  sides->addLayout(mapSide, 1);
+  sides->addWidget(m_view, 1);
   sides->addWidget(m_column);
   setCentralWidget(desk);
 }
