@@ -52,6 +52,7 @@ TEST_F(AnimationTest, TheSeasonIsPlayedInTheMapsPlaceAndTheGameIsBackAfterIt) {
   Enter("FRA A(Par) - Bur");
   Enter("GER A(Mun) - Bur");
   Resolve("ENG F(Lon)");
+  QCoreApplication::processEvents();
   const QImage end = Map();
   const std::vector<std::string> report = Lines("lstReport");
 
