@@ -55,7 +55,7 @@ struct Entry {
     const model::Map& map = *RealMap();
     const auto hitMap = render::LoadHitMap(DataDirectory(), map, 1.2);
     const model::Province& at = map.Provinces[FindProvince(map, place)];
-    panel.mapClicked({map, hitMap, {at.UnitX, at.UnitY}, modifiers});
+    panel.mapClicked({desk.game(), hitMap, {at.UnitX, at.UnitY}, modifiers});
   }
   std::string Text() const { return text.text().toStdString(); }
   std::string Missing() const {
