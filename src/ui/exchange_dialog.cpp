@@ -3,6 +3,7 @@
 #include "model/messages.h"
 #include "render/qt/text_codec.h"
 #include "ui/exchange_table.h"
+#include "ui/power_choice.h"
 
 #include <QScreen>
 #include <QVBoxLayout>
@@ -40,7 +41,7 @@ ExchangeDialog::ExchangeDialog(const model::GameState& game, ExchangeKind kind, 
   m_table->setAccessibleName(tr("Lines of the text"));
   m_noOrders->setObjectName(QStringLiteral("chkExchangeNoOrders"));
   m_reason->setWordWrap(true);
-  m_reason->setMinimumHeight(2 * fontMetrics().lineSpacing());
+  m_reason->setMinimumHeight(3 * fontMetrics().lineSpacing());
   m_reason->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 
   auto* column = new QVBoxLayout(this);
@@ -70,8 +71,9 @@ QLayout* ExchangeDialog::newPowerRow(const model::GameState& game) {
   m_power = new QComboBox;
   m_power->setObjectName(QStringLiteral("cmbExchangePower"));
   m_power->setPlaceholderText(tr("Choose a power"));
-  for (const model::Country& power : game.Countries) {
-    m_power->addItem(render::ToQString(power.Name), QByteArray::fromStdString(power.Abbreviation));
+  for (int row = 1; row <= game.Countries.Count(); ++row) {
+    m_power->addItem(powerIcon(game.Countries, row), powerName(game.Countries, row),
+                     QByteArray::fromStdString(game.Countries[row].Abbreviation));
   }
   const QByteArray named = QByteArray::fromStdString(m_model.powerOfText());
   m_power->setCurrentIndex(named.isEmpty() ? -1 : m_power->findData(named));
@@ -133,17 +135,16 @@ void ExchangeDialog::showReason() {
   if (!current.isValid()) return m_reason->clear();
   const exchange::ReadLine& line = m_model.line(current.row());
   const QModelIndex understood = m_model.index(current.row(), ExchangeModel::Understood);
-  QStringList text{tr("Line %1").arg(line.Number)};
-  const QString reason = understood.data(Qt::ToolTipRole).toString();
-  if (!reason.isEmpty()) text.last() += QStringLiteral(": ") + reason;
+  QStringList hints{tr("F2 edits the line.")};
   if (line.Kind == exchange::LineKind::Ambiguous) {
-    text << tr("F2 in the right column or a right click offers what it can mean.");
+    hints << tr("A right click, or F2 in the right column, offers what it can mean.");
   }
-  text << tr("F2 edits the line.");
   if (line.Kind == exchange::LineKind::Order)
-    text << tr("The space bar takes it or leaves it out.");
-  m_reason->setText(
-      text.join(QStringLiteral(". ")).replace(QStringLiteral(".. "), QStringLiteral(". ")));
+    hints << tr("The space bar takes it or leaves it out.");
+  QString text = tr("Line %1").arg(line.Number);
+  const QString reason = understood.data(Qt::ToolTipRole).toString();
+  if (!reason.isEmpty()) text += QStringLiteral(": ") + reason;
+  m_reason->setText(text + QLatin1Char('\n') + hints.join(QLatin1Char(' ')));
 }
 
 void ExchangeDialog::accept() {

@@ -141,14 +141,20 @@ void ExchangeModel::readUnclearAgain() {
 
 void ExchangeModel::tryText(int row, const QString& text) {
   m_trial.emplace(row, read(at(row), text));
-  emit dataChanged(index(row, Take), index(row, Understood));
+  emitMeaning(row);
 }
 
 void ExchangeModel::endTrial() {
   if (!m_trial) return;
   const int row = m_trial->first;
   m_trial.reset();
-  if (row < rowCount()) emit dataChanged(index(row, Take), index(row, Understood));
+  if (row < rowCount()) emitMeaning(row);
+}
+
+/// What is written stays out of it: its editor would begin anew.
+void ExchangeModel::emitMeaning(int row) {
+  emit dataChanged(index(row, Take), index(row, Take));
+  emit dataChanged(index(row, Understood), index(row, Understood));
 }
 
 const ReadLine& ExchangeModel::line(int row) const {
@@ -201,9 +207,9 @@ bool ExchangeModel::isRepeatedBelow(int row) const {
 QString ExchangeModel::doubt(int row, const ReadLine& line) const {
   if (line.Kind != LineKind::Order) return {};
   QStringList doubts;
-  if (isOfOther(line)) doubts << tr("an order of another power, filed only when ticked");
+  if (isOfOther(line)) doubts << tr("of another power");
   if (!line.Reason.empty()) doubts << displayText(line.Reason);
-  if (isRepeatedBelow(row)) doubts << tr("replaced by a line below it for the same unit");
+  if (isRepeatedBelow(row)) doubts << tr("ordered again below");
   return doubts.join(QStringLiteral("; "));
 }
 

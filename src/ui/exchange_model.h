@@ -71,6 +71,7 @@ class ExchangeModel : public QAbstractTableModel {
   exchange::ReadLine read(const Line& line, const QString& text) const;
   void rewrite(Line& line, const QString& text);
   void readUnclearAgain();
+  void emitMeaning(int row);
   void takeAnew(const std::vector<Line>& before);
   bool isOfOther(const exchange::ReadLine& line) const;
   bool isRepeatedBelow(int row) const;

@@ -91,8 +91,9 @@ TEST_F(WindowTest, ImportedLinesAreCorrectedWhereTheyStand) {
     Press(Qt::Key_Escape);
     EXPECT_EQ(preview.Mark(3), OrderMark::Stopped);
     Press(Qt::Key_F2);
-    Type("brest mid");
+    Type("brest - mao");
     Press(Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return preview.table.hasFocus(); }));
     EXPECT_EQ(preview.Label("lblExchangeCount"), "3 orders, 0 unclear");
     Press(Qt::Key_Return);
   };
@@ -100,7 +101,7 @@ TEST_F(WindowTest, ImportedLinesAreCorrectedWhereTheyStand) {
   Enter("FRA F(Bre) hold");
   Trigger("mnuFileImportOrders");
   EXPECT_THAT(Lines("lstOrders"),
-              ElementsAre("FRA A(Par) - Bur", "FRA F(Bre) - MID", "FRA A(Mar) S A(Par) - Bur"));
+              ElementsAre("FRA A(Par) - Bur", "FRA F(Bre) - MAO", "FRA A(Mar) S A(Par) - Bur"));
 }
 
 TEST_F(WindowTest, PastedOrdersOfAnotherPowerAreFiledOnlyWhenTicked) {
@@ -131,28 +132,37 @@ TEST_F(WindowTest, PastedOrdersOfAnotherPowerAreFiledOnlyWhenTicked) {
 
 TEST_F(WindowTest, ThePowerOfAPasteIsChosenAndMeaningsAreOffered) {
   QApplication::clipboard()->setText(
-      "ENG F(Lon) - NTH\nFRA A(Par) - Nor\nFRA A(Par) hold\nF Lon x");
+      "FRA A(Par) - Bur\nFRA A(Mar) - Bur\nGER A Mun S Bur\nGER F(Kie) - Hol\nF Kie x");
   const auto choose = [](QDialog& dialog) {
     const Preview preview(dialog);
     EXPECT_FALSE(preview.ok.isEnabled()) << "no power is named by all";
     auto& model = *preview.table.model();
-    model.setData(model.index(3, ExchangeModel::Written), "F Lon - ECH");
-    EXPECT_THAT(preview.Understood(0), HasSubstr("replaced by a line below"));
-    preview.Choose("England");
-    EXPECT_EQ(preview.Understood(3), "ENG F(Lon) - ECH") << "kept when another power is chosen";
-    EXPECT_FALSE(preview.IsTaken(2));
+    EXPECT_THAT(preview.Understood(2), StartsWith("It can mean "));
+    preview.table.setFocus();
+    preview.table.setCurrentIndex(model.index(2, ExchangeModel::Understood));
+    Press(Qt::Key_F2);
+    auto* meanings = dialog.findChild<QComboBox*>(QStringLiteral("cmbExchangeMeaning"));
+    ASSERT_NE(meanings, nullptr);
+    meanings->setCurrentIndex(meanings->findText("GER A(Mun) S FRA A(Mar) - Bur"));
+    emit meanings->activated(meanings->currentIndex());
+    EXPECT_EQ(preview.Mark(2), OrderMark::Passes);
+    model.setData(model.index(4, ExchangeModel::Written), "F Kie - Den");
+    EXPECT_THAT(preview.Understood(3), HasSubstr("ordered again below"));
+    preview.Choose("Germany");
+    EXPECT_EQ(preview.Understood(4), "GER F(Kie) - Den") << "kept when the power is chosen";
+    EXPECT_FALSE(preview.IsTaken(0));
     EXPECT_TRUE(preview.ok.isEnabled());
-    Press(Qt::Key_Return, Qt::NoModifier);
+    preview.ok.click();
   };
   const ModalScript answers({choose});
   Trigger("mnuEditPasteOrders");
-  EXPECT_THAT(Lines("lstOrders"), ElementsAre("ENG F(Lon) - ECH"));
+  EXPECT_THAT(Lines("lstOrders"), ElementsAre("GER A(Mun) S FRA A(Mar) - Bur", "GER F(Kie) - Den"));
 }
 
 TEST_F(WindowTest, OrdersHandedOutAreReadAgain) {
   EXPECT_FALSE(Find<QAction>("mnuFileExportOrders").isEnabled()) << "there are none";
   const std::vector<std::string> orders{"FRA A(Par) - Bur", "FRA A(Mar) S A(Par) - Bur",
-                                        "RUS F(Stp.s) - GOB"};
+                                        "RUS F(Stp.s) - BOT"};
   for (const std::string& order : orders)
     Enter(QString::fromStdString(order));
   const auto file = directory_.Path() / "handed out.txt";
