@@ -6,7 +6,6 @@
 #include "ui/animation_files.h"
 #include "ui/file_dialogs.h"
 
-#include <QApplication>
 
 #include <algorithm>
 #include <iterator>
@@ -107,7 +106,7 @@ void AnimationPlayer::play(std::vector<render::ReplayPart> parts) {
   m_playhead = Playhead(lengthsOf(m_parts));
   m_shownSeason = 0;
   m_bar->setSeasonCount(m_playhead.seasonCount());
-  m_focusBefore = QApplication::focusWidget();
+  m_focusBefore = m_bar->window()->focusWidget();
   m_bar->show();
   m_bar->setFocus();
   m_picture->show();
