@@ -147,10 +147,10 @@ class TextReader {
     const bool hasOrder =
         std::any_of(lines_.begin() + static_cast<std::ptrdiff_t>(before), lines_.end(), IsOrder);
     if (hasOrder) inSignature_ = false;
-    if (said.empty()) return;
-    const bool isOrder = body.Begin == body.End
-                             ? !IsNoOrder(said, situation_.Names, inSignature_)
-                             : IsUnderstood(ReadPart(said.subspan(1), situation_, context));
+    const bool isOrder =
+        !said.empty() &&
+        (body.Begin == body.End ? !IsNoOrder(said, situation_.Names, inSignature_)
+                                : IsUnderstood(ReadPart(said.subspan(1), situation_, context)));
     if (isOrder) {
       AddUnclear(line, comment, {comment.Begin, comment.Begin + 1}, "it stands in a comment");
     } else if (lines_.size() == before) {

@@ -1,0 +1,130 @@
+#include "model/errors.h"
+#include "model/map_files.h"
+#include "model/new_game.h"
+#include "orders/exchange/order_files.h"
+#include "orders/exchange/read_orders.h"
+
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The first byte tells the stage, the power and the board; the bytes up to the first NUL are a file
+// of repairs, the others the text. Without a NUL there are no repairs.
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+namespace orb {
+namespace {
+
+using exchange::LineKind;
+using exchange::ReadLine;
+
+void Require(bool holds, std::string_view what, const ReadLine& line) {
+  if (holds) return;
+  std::cerr << what << "\nwritten: " << line.Written << "\norder: " << line.Order
+            << "\nreason: " << line.Reason << '\n';
+  std::abort();
+}
+
+/// Two units in one place, fleets on and off their coasts, and what no good file holds.
+void Crowd(model::GameState& game) {
+  const std::array<model::Unit, 9> units{{
+      {"FRA", "A", "Bur", "dislodged", "Mun", "", 0},
+      {"GER", "A", "Bur", "", "", "", 0},
+      {"FRA", "F", "Spa.n", "", "", "", 0},
+      {"ITA", "F", "Spa.s", "dislodged", "WES", "", 0},
+      {"TUR", "F", "Bul", "dislodged", "AEG", "", 0},
+      {"AUS", "A", "NTH", "", "", "", 0},
+      {"XXX", "F", "MAO", "", "", "", 0},
+      {"ENG", "", "Wal", "", "", "", 0},
+      {"RUS", "Fleet", "Nowhere", "dislodged", "", "", 0},
+  }};
+  for (const model::Unit& unit : units)
+    game.Units.Append(unit);
+}
+
+model::GameState StartingGame() {
+  model::GameState game = model::EmptyGame(model::LoadMap(ORB_DATA_DIRECTORY));
+  model::NewGame(game, ORB_DATA_DIRECTORY);
+  return game;
+}
+
+model::GameState GameFor(std::uint8_t choice) {
+  static const model::GameState start = StartingGame();
+  constexpr std::array<const char*, 4> stages{"moves", "retreats", "adjustments", "finished"};
+  model::GameState game = start;
+  if ((choice & 0x20U) != 0) Crowd(game);
+  game.Stage = (choice & 0x40U) != 0 ? "moves" : stages[choice & 3U];
+  return game;
+}
+
+bool IsInside(exchange::Span span, std::string_view text) {
+  return span.Offset <= text.size() && span.Length <= text.size() - span.Offset;
+}
+
+void CheckLine(std::string_view text, const ReadLine& line) {
+  Require(IsInside(line.Place, text), "the place is outside", line);
+  Require(text.substr(line.Place.Offset, line.Place.Length) == line.Written, "not there", line);
+  Require(IsInside(line.ReasonPlace, text), "the reason is outside", line);
+  Require((line.Kind == LineKind::Order) == !line.Order.empty(), "an order in vain", line);
+  Require(!IsUnclear(line) || !line.Reason.empty(), "no reason", line);
+  Require((line.Kind == LineKind::Ambiguous) == (line.Candidates.size() > 1), "candidates", line);
+}
+
+/// Every order and candidate must read as itself.
+void ReadAgain(const model::GameState& game, const std::vector<ReadLine>& lines) {
+  std::vector<std::string> orders;
+  for (const ReadLine& line : lines) {
+    if (line.Kind == LineKind::Order) orders.push_back(line.Order);
+    orders.insert(orders.end(), line.Candidates.begin(), line.Candidates.end());
+  }
+  std::string text;
+  for (const std::string& order : orders)
+    text.append(order).append("\r\n");
+  const std::vector<ReadLine> again = exchange::ReadOrders(game, text, {});
+  if (again.size() != orders.size()) std::abort();
+  for (std::size_t i = 0; i < orders.size(); ++i)
+    Require(again[i].Order == orders[i], "does not read as itself", again[i]);
+}
+
+void ReadAll(model::GameState game, std::string_view text,
+             const exchange::ReadingOptions& options) {
+  const std::vector<ReadLine> lines = exchange::ReadOrders(game, text, options);
+  int number = 0;
+  for (const ReadLine& line : lines) {
+    Require(line.Number == number || line.Number == number + 1, "a line is missing", line);
+    number = line.Number;
+    CheckLine(text, line);
+  }
+  ReadAgain(game, lines);
+  CheckLine(text, exchange::ReadOrder(game, text, options, lines));
+  exchange::FileOrders(game, lines);
+}
+
+std::vector<exchange::TextRepair> Repairs(std::string_view bytes) {
+  try {
+    return exchange::LoadTextRepairs(bytes, "repairs");
+  } catch (const model::FileError&) {
+    return {};
+  }
+}
+
+}  // namespace
+}  // namespace orb
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  if (size == 0) return 0;
+  const std::string bytes(data + 1, data + size);
+  const std::string_view input = bytes;
+  const std::size_t nul = input.find('\0');
+  const bool hasRepairs = nul != std::string_view::npos;
+  const auto repairs = orb::Repairs(hasRepairs ? input.substr(0, nul) : std::string_view());
+  const std::string_view text = hasRepairs ? input.substr(nul + 1) : input;
+  constexpr std::array<const char*, 8> powers{"", "ENG", "FRA", "GER", "RUS", "TUR", "AUS", "ITA"};
+  orb::ReadAll(orb::GameFor(data[0]), text, {powers[data[0] >> 2U & 7U], repairs});
+  return 0;
+}
