@@ -29,6 +29,10 @@ bool HoldsOrders(Tokens tokens, const PlaceNames& names) {
   return false;
 }
 
+bool HasAddress(Tokens tokens) {
+  return std::ranges::find(tokens, "@", &Token::Text) != tokens.end();
+}
+
 bool Is(Tokens tokens, std::size_t at, TokenKind kind) {
   return at < tokens.size() && IsA(tokens[at], kind);
 }
@@ -191,10 +195,14 @@ std::size_t PastLineStart(Tokens tokens) {
   return behind;
 }
 
-bool IsMailHead(Tokens tokens) {
+bool IsMailHead(Tokens tokens, const PlaceNames& names) {
   if (tokens.empty()) return false;
   const bool isReplyTo = IsWord(tokens[0], "reply") && tokens.size() > 3 && IsWord(tokens[2], "to");
-  if (IsMailHeader(tokens[0]) && (Is(tokens, 1, TokenKind::Colon) || isReplyTo)) return true;
+  if (IsMailHeader(tokens[0]) && (Is(tokens, 1, TokenKind::Colon) || isReplyTo)) {
+    // "From: Par To: Bur" is the head of no mail.
+    const bool isRoad = IsWord(tokens[0], "from") || IsWord(tokens[0], "to");
+    return !isRoad || HasAddress(tokens) || !HoldsOrders(tokens.subspan(2), names);
+  }
   const auto isQuoting = [](const Token& token) {
     return IsWord(token, "wrote") || IsWord(token, "writes") || IsWord(token, "schrieb") ||
            IsWord(token, "said");

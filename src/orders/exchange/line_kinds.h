@@ -21,7 +21,7 @@ std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names);
 std::size_t PastLineStart(Tokens tokens);
 
 /// Whether a line belongs to the head of a mail or tells whose words are quoted.
-bool IsMailHead(Tokens tokens);
+bool IsMailHead(Tokens tokens, const PlaceNames& names);
 
 /// Whether a text that was not understood is surely no order: a greeting or words with none, or
 /// hardly any, that orders are made of. `inSignature`: places alone make no order there.

@@ -1,5 +1,6 @@
 #include "orders/exchange/read_orders.h"
 
+#include "model/errors.h"
 #include "model/text.h"
 #include "orders/exchange/comments.h"
 #include "orders/exchange/exact_line.h"
@@ -117,7 +118,7 @@ class TextReader {
       AddLine(line, LineKind::PassedOver);
       return;
     }
-    if (IsMailHead(PartOf(line, body))) {
+    if (IsMailHead(PartOf(line, body), situation_.Names)) {
       AddLine(line, LineKind::PassedOver);
       return;
     }
@@ -317,6 +318,10 @@ void LearnMoves(const std::vector<ReadLine>& lines, Situation& situation) {
 
 std::vector<ReadLine> ReadOrders(const model::GameState& game, std::string_view text,
                                  const ReadingOptions& options) {
+  if (text.size() > TextBound) {
+    throw model::FatalError("A text of orders has at most " + std::to_string(TextBound) +
+                            " characters; this one has " + std::to_string(text.size()) + ".");
+  }
   const PlaceNames names(*game.Map);
   Situation situation(game, names, StageOf(game));
   std::vector<ReadLine> lines = TextReader(situation, options).Read(text);

@@ -12,6 +12,9 @@
 
 namespace orb::exchange {
 
+/// The longest text that is read, in bytes; what is longer is no mail with orders.
+constexpr std::size_t TextBound = 500'000;
+
 enum class LineKind : std::uint8_t {
   Order,          ///< understood
   Waive,          ///< understood, and asks for nothing
@@ -45,7 +48,7 @@ struct ReadingOptions {
 /// order; one that holds several orders as several. The text is UTF-8 or Windows-1252, each line
 /// by itself; lines end in LF, CR LF or CR. A line in the exact form always reads as itself. No
 /// order is guessed: what can be read in two ways is ambiguous, unless only one of them can be
-/// meant in the situation.
+/// meant in the situation. Throws FatalError for a text beyond the bound.
 std::vector<ReadLine> ReadOrders(const model::GameState& game, std::string_view text,
                                  const ReadingOptions& options);
 

@@ -78,22 +78,23 @@ constexpr std::array<std::string_view, 16> Fillers{"the", "my",    "our",   "an"
                                                    "plz", "will",  "shall", "is",   "are",    "his",
                                                    "her", "their", "unit",  "units"};
 
-constexpr std::array<std::string_view, 27> Conditions{
-    "if",        "unless",  "otherwise", "else",   "or",    "either",    "maybe",
-    "perhaps",   "instead", "not",       "dont",   "never", "cancel",    "except",
-    "depending", "should",  "could",     "might",  "may",   "cancelled", "canceled",
-    "provided",  "when",    "until",     "ignore", "no",    "wont"};
+constexpr std::array<std::string_view, 35> Conditions{
+    "if",          "unless",        "otherwise", "else",     "or",       "either",    "maybe",
+    "perhaps",     "instead",       "not",       "dont",     "never",    "cancel",    "except",
+    "depending",   "should",        "could",     "might",    "may",      "cancelled", "canceled",
+    "provided",    "when",          "until",     "ignore",   "no",       "wont",      "option",
+    "alternative", "alternatively", "draft",     "proposal", "proposed", "suggest",   "suggestion"};
 
-constexpr std::array<std::string_view, 61> HeadingWords{
-    "orders",     "order",       "for",     "from",         "of",        "the",      "my",
-    "our",        "your",        "here",    "are",          "is",        "follow",   "follows",
-    "following",  "these",       "as",      "below",        "in",        "and",      "spring",
-    "autumn",     "fall",        "winter",  "summer",       "season",    "year",     "turn",
-    "phase",      "game",        "player",  "power",        "country",   "moves",    "move",
-    "movement",   "movements",   "retreat", "retreats",     "build",     "builds",   "building",
-    "adjustment", "adjustments", "removal", "removals",     "disband",   "disbands", "final",
-    "new",        "set",         "all",     "press",        "submitted", "by",       "revised",
-    "updated",    "gm",          "this",    "disbandments", "with"};
+constexpr std::array<std::string_view, 60> HeadingWords{
+    "orders",     "order",       "for",          "from",      "of",      "the",      "my",
+    "our",        "your",        "here",         "are",       "is",      "follow",   "follows",
+    "following",  "these",       "as",           "below",     "in",      "and",      "spring",
+    "autumn",     "fall",        "winter",       "summer",    "season",  "year",     "turn",
+    "phase",      "game",        "player",       "power",     "country", "moves",    "move",
+    "movement",   "movements",   "retreat",      "retreats",  "build",   "builds",   "building",
+    "adjustment", "adjustments", "removal",      "removals",  "disband", "disbands", "final",
+    "new",        "set",         "press",        "submitted", "by",      "revised",  "updated",
+    "gm",         "this",        "disbandments", "with"};
 
 constexpr std::array<std::string_view, 28> Greetings{
     "hi",      "hello",  "hey",    "dear",    "greetings", "good",      "morning",
