@@ -1,5 +1,6 @@
 #include "ui/power_choice.h"
 
+#include "render/qt/colours.h"
 #include "render/qt/text_codec.h"
 
 #include <QObject>
@@ -13,11 +14,6 @@ namespace {
 constexpr int Side = 64;
 constexpr int Outline = 6;
 
-QColor toQColor(model::Colour colour) {
-  return {static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
-          static_cast<int>(colour >> 16 & 0xFF)};
-}
-
 }  // namespace
 
 QIcon powerIcon(const model::CountryTable& countries, int power) {
@@ -28,8 +24,8 @@ QIcon powerIcon(const model::CountryTable& countries, int power) {
   if (power == 0) {
     painter.setPen(QPen(Qt::gray, Outline, Qt::DotLine));
   } else {
-    painter.setPen(QPen(toQColor(countries[power].TextColour), Outline));
-    painter.setBrush(toQColor(countries[power].Colour));
+    painter.setPen(QPen(render::ToQColor(countries[power].TextColour), Outline));
+    painter.setBrush(render::ToQColor(countries[power].Colour));
   }
   painter.drawEllipse(picture.rect().adjusted(Outline, Outline, -Outline, -Outline));
   return QIcon(picture);
