@@ -88,6 +88,7 @@ ColoursDialog::ColoursDialog(Desk& desk, QWidget* parent)
   layOut();
   connect(m_defaults, &QPushButton::clicked, this, [this] { take(model::FixedCountries()); });
   showColours();
+  m_buttons.front().button->setFocus();
 }
 
 void ColoursDialog::layOut() {
