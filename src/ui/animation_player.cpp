@@ -6,7 +6,6 @@
 #include "ui/animation_files.h"
 #include "ui/file_dialogs.h"
 
-
 #include <algorithm>
 #include <iterator>
 #include <memory>
