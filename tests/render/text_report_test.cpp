@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <regex>
 #include <sstream>
 
 namespace orb::render {
@@ -111,7 +110,9 @@ TEST(TextReport, IsWrittenWithLineEndsForAnyEditor) {
   const tests::TemporaryDirectory directory;
   const model::GameState game = SampleGame();
   WriteTextReport(game, directory.Path() / "a02.txt");
-  const std::string expected = std::regex_replace(TextReport(game), std::regex("\n"), "\r\n");
+  std::string expected;
+  for (const char character : TextReport(game))
+    expected += character == '\n' ? std::string("\r\n") : std::string(1, character);
   EXPECT_EQ(model::ReadFile(directory.Path() / "a02.txt"), expected);
 }
 
