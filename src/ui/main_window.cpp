@@ -79,6 +79,14 @@ MainWindow::MainWindow(Situation start, const Places& places)
   showGame();
 }
 
+/// The panels use the desk, and tell the window when they are hidden: they go first, and in
+/// silence.
+MainWindow::~MainWindow() {
+  for (QObject* child : findChildren<QObject*>())
+    child->disconnect(this);
+  qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+}
+
 void MainWindow::createPanels() {
   m_map = new MapPicture(m_desk, m_messages);
   m_view = new MapView(m_map);

@@ -40,6 +40,9 @@ class MainWindow : public QMainWindow {
  public:
   /// Throws FatalError when the map cannot be drawn.
   MainWindow(Situation start, const Places& places);
+  MainWindow(const MainWindow&) = delete;
+  MainWindow& operator=(const MainWindow&) = delete;
+  ~MainWindow() override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
