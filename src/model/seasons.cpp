@@ -13,6 +13,16 @@ bool HasNoStart(const Unit& unit) {
   return unit.PreviousLocation.empty() || unit.PreviousLocation == Unknown;
 }
 
+/// A game whose units stand nowhere could not be read again.
+void CheckStarts(const GameState& game) {
+  for (const Unit& unit : game.Units) {
+    if (!HasNoStart(unit) && FindProvince(*game.Map, unit.PreviousLocation) == 0) {
+      throw IndexOutOfRange("A unit came from an unknown province: " + unit.Power + " " +
+                            unit.UnitType + "(" + unit.PreviousLocation + ").");
+    }
+  }
+}
+
 void RestoreUnits(GameState& game) {
   for (int i = game.Units.Count(); i >= 1; --i) {
     if (HasNoStart(game.Units[i])) game.Units.Remove(i);
@@ -64,6 +74,7 @@ bool UndoSeason(GameState& game, Messages& messages) {
     messages.Show("Original supply centre ownerships unknown;\rcan't undo.", Icon::None);
     return false;
   }
+  CheckStarts(game);
   const auto lost = std::count_if(game.Units.begin(), game.Units.end(), HasNoStart);
   if (lost > 0 && !messages.Warn(std::to_string(lost) +
                                  " units do not have original locations recorded.\rContinue?")) {

@@ -19,7 +19,7 @@ void RestoreOwners(GameState& game);
 
 /// Puts the season back to its start from the positions and owners that the last moves recorded.
 /// False, nothing changed, for a finished Autumn season or when the user declines to lose the
-/// units whose start is not recorded.
+/// units whose start is not recorded. Throws IndexOutOfRange for a unit from an unknown province.
 bool UndoSeason(GameState& game, Messages& messages);
 
 }  // namespace orb::model

@@ -142,6 +142,10 @@ TEST(UndoSeason, LosesUnitsWithoutAKnownStartWhenTheUserAgrees) {
   EXPECT_TRUE(model::UndoSeason(game, yes));
   EXPECT_EQ(DrawUnits(game), "RUS F(Stp.n)\nITA A(Ven)\n");
   EXPECT_EQ(Live(game, "Nwy").Owner, "TUR") << "one unknown owner leaves all as they are";
+  game = UsedGame();
+  game.Units[1].PreviousLocation = "Xyz";
+  EXPECT_THROW(model::UndoSeason(game, yes), model::IndexOutOfRange);
+  EXPECT_EQ(DrawUnits(game), DrawUnits(UsedGame()));
 }
 
 }  // namespace
