@@ -35,10 +35,11 @@ int Execute(const CommandLine& line, Console& console) {
     if (!paths.Reasons.empty()) reasons = JoinLines(adjudication::ExplainReport(game, resolution));
     const bool printsReport = paths.Report.empty() || paths.Report == StandardOutput;
     const bool printsReasons = paths.Reasons == StandardOutput;
+    const std::string resolved = model::FormatGameFile(game);
     // The game file comes last: a resolved game without its report could not be resolved again.
     if (!printsReport) WriteText(paths.Report, report);
     if (!printsReasons && !paths.Reasons.empty()) WriteText(paths.Reasons, reasons);
-    model::ReplaceFile(paths.Output, model::FormatGameFile(game));
+    model::ReplaceFile(paths.Output, resolved);
     if (printsReport) PrintUnderHeading(console, plan, paths, report);
     if (printsReasons) console.Print(reasons);
     return true;

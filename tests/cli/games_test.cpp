@@ -167,6 +167,11 @@ TEST(Games, AreReplacedWholeOrNotAtAll) {
     EXPECT_EQ(desk.Listing(), "a.orb folder ") << line;
     EXPECT_EQ(desk.Read("a.orb"), TwoUnitGame()) << line;
   }
+  std::string quoted = TwoUnitGame();
+  quoted.replace(quoted.find(R"("FRA","")"), 8, R"(FRA,Jo "J")");
+  desk.Write("a.orb", quoted);
+  EXPECT_EQ(desk.Run("resolve --yes --in-place --report @r.txt @a.orb").Status, 1);
+  EXPECT_EQ(desk.Read("r.txt"), "none") << "the report of a game that cannot be stored";
 }
 
 TEST(Resolve, WritesReportAndReasonsToDevicesToo) {
