@@ -1,35 +1,32 @@
 #include "render/ownership.h"
 
-#include <string>
 #include <string_view>
+#include <utility>
 
 namespace orb::render {
 namespace {
 
-bool IsCentreOf(const model::GameState& game, int province, std::string_view owner) {
-  return game.Map->Provinces[province].IsSupplyCentre != 0 &&
-         game.Provinces[province].Owner == owner;
+void AddGroup(const model::GameState& game, std::string_view owner, std::string_view heading,
+              std::vector<CentreGroup>& groups) {
+  CentreGroup group{std::string(heading), {}};
+  for (int p = 1; p <= game.Provinces.Count(); ++p) {
+    const model::Province& province = game.Map->Provinces[p];
+    if (province.IsSupplyCentre != 0 && game.Provinces[p].Owner == owner)
+      group.Centres.push_back(province.Name);
+  }
+  if (!group.Centres.empty()) groups.push_back(std::move(group));
 }
 
-int CountCentres(const model::GameState& game, std::string_view owner) {
-  int count = 0;
-  for (int p = 1; p <= game.Provinces.Count(); ++p)
-    count += IsCentreOf(game, p, owner) ? 1 : 0;
-  return count;
-}
-
-void PrintHeading(std::string_view heading, int count, Surface& surface) {
+void PrintHeading(const CentreGroup& group, Surface& surface) {
   surface.FontUnderline = true;
-  surface.Print(heading);
+  surface.Print(group.Heading);
   surface.FontUnderline = false;
-  surface.PrintLine(" (" + std::to_string(count) + ")");
+  surface.PrintLine(" (" + std::to_string(group.Centres.size()) + ")");
 }
 
 /// The list's last line stays open.
-void PrintCentres(const model::GameState& game, std::string_view owner, Surface& surface) {
-  for (int p = 1; p <= game.Provinces.Count(); ++p) {
-    if (!IsCentreOf(game, p, owner)) continue;
-    const std::string& name = game.Map->Provinces[p].Name;
+void PrintCentres(const CentreGroup& group, Surface& surface) {
+  for (const std::string& name : group.Centres) {
     if (surface.CurrentX + surface.TextWidth(" " + name) > surface.ScaleWidth()) {
       surface.PrintLine("");
     }
@@ -37,24 +34,25 @@ void PrintCentres(const model::GameState& game, std::string_view owner, Surface&
   }
 }
 
-void PrintGroup(const model::GameState& game, std::string_view owner, std::string_view heading,
-                Surface& surface) {
-  const int count = CountCentres(game, owner);
-  if (count == 0) return;
-  // Ends the list before it; before the first group this leaves an empty line.
-  surface.PrintLine("");
-  PrintHeading(heading, count, surface);
-  PrintCentres(game, owner, surface);
-}
-
 }  // namespace
+
+std::vector<CentreGroup> CentreGroups(const model::GameState& game) {
+  std::vector<CentreGroup> groups;
+  for (const model::Country& country : game.Countries)
+    AddGroup(game, country.Abbreviation, country.Name, groups);
+  AddGroup(game, "", "Neutral", groups);
+  return groups;
+}
 
 double ShowCentreOwnership(const model::GameState& game, Surface& surface) {
   surface.Clear();
   surface.PrintLine("OWNERSHIP OF SUPPLY CENTRES");
-  for (const model::Country& country : game.Countries)
-    PrintGroup(game, country.Abbreviation, country.Name, surface);
-  PrintGroup(game, "", "Neutral", surface);
+  for (const CentreGroup& group : CentreGroups(game)) {
+    // Ends the list before it; before the first group this leaves an empty line.
+    surface.PrintLine("");
+    PrintHeading(group, surface);
+    PrintCentres(group, surface);
+  }
   const double openLine = surface.CurrentX > 0 ? surface.TextHeight("") : 0;
   return surface.CurrentY + openLine;
 }

@@ -3,6 +3,7 @@
 #include "render/ownership.h"
 #include "render/qt/colours.h"
 #include "render/qt/painter_surface.h"
+#include "render/qt/text_codec.h"
 
 #include <QPainter>
 #include <QVBoxLayout>
@@ -20,7 +21,24 @@ constexpr double TwipsPerPoint = 20;
 OwnersPicture::OwnersPicture(const Desk& desk, QWidget* parent) : QWidget(parent), m_desk(desk) {
   setObjectName(QStringLiteral("picOwners"));
   setAccessibleName(tr("Ownership of supply centres"));
-  connect(&m_desk, &Desk::changed, this, qOverload<>(&QWidget::update));
+  connect(&m_desk, &Desk::changed, this, &OwnersPicture::showOwners);
+  showOwners();
+}
+
+/// A picture says nothing to a screen reader: its description does.
+void OwnersPicture::showOwners() {
+  QStringList groups;
+  for (const render::CentreGroup& group : render::CentreGroups(m_desk.game())) {
+    QStringList centres;
+    for (const std::string& centre : group.Centres)
+      centres << render::ToQString(centre);
+    groups << QStringLiteral("%1 (%2): %3")
+                  .arg(render::ToQString(group.Heading))
+                  .arg(centres.size())
+                  .arg(centres.join(QLatin1Char(' ')));
+  }
+  setAccessibleDescription(groups.join(QLatin1Char('\n')));
+  update();
 }
 
 void OwnersPicture::paintEvent(QPaintEvent* /*event*/) {

@@ -18,6 +18,8 @@ class OwnersPicture : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void showOwners();
+
   const Desk& m_desk;
   render::PictureCache m_noPictures;
 };
