@@ -7,7 +7,6 @@
 #include "ui/controls.h"
 
 #include <QColorDialog>
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QPainter>
 #include <QScreen>
@@ -105,15 +104,13 @@ void ColoursDialog::layOut() {
   m_warning->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   m_warning->setFixedHeight((static_cast<int>(WarningLines) + 1) *
                             m_warning->fontMetrics().lineSpacing());
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  for (QAbstractButton* button : buttons->buttons())
-    button->setIcon({});
+  QDialogButtonBox* buttons = newOkCancel(*this);
   buttons->addButton(m_defaults, QDialogButtonBox::ResetRole);
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* rows = new QVBoxLayout(this);
   rows->setSpacing(Gap);
   rows->addLayout(grid);
+  if (!render::InColour(m_desk.now().mapOptions.Mode))
+    rows->addWidget(new QLabel(tr("The map is drawn without these colours now.")));
   rows->addWidget(m_warning);
   rows->addStretch();
   rows->addWidget(buttons);

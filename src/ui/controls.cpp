@@ -2,6 +2,7 @@
 
 #include "render/qt/text_codec.h"
 
+#include <QAbstractButton>
 #include <QPainter>
 #include <QStyle>
 
@@ -19,6 +20,15 @@ QPushButton* newButton(const QString& name, const QString& caption) {
   button->setObjectName(name);
   button->setAutoDefault(true);
   return button;
+}
+
+QDialogButtonBox* newOkCancel(QDialog& dialog) {
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  for (QAbstractButton* button : buttons->buttons())
+    button->setIcon({});
+  QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+  QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+  return buttons;
 }
 
 QLabel* newHeading(const QString& text) {

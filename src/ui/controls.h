@@ -2,6 +2,8 @@
 
 #include <QAction>
 #include <QColor>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QKeySequence>
 #include <QLabel>
 #include <QListWidget>
@@ -16,6 +18,9 @@ namespace orb::ui {
 
 /// A push button that the Enter key presses as the space key does.
 QPushButton* newButton(const QString& name, const QString& caption);
+
+/// OK and Cancel, which accept and reject the dialog; as plain as the panels' buttons.
+QDialogButtonBox* newOkCancel(QDialog& dialog);
 
 /// The heading of a panel.
 QLabel* newHeading(const QString& text);

@@ -5,7 +5,6 @@
 #include "ui/controls.h"
 #include "ui/power_choice.h"
 
-#include <QDialogButtonBox>
 #include <QFormLayout>
 
 namespace orb::ui {
@@ -24,7 +23,7 @@ ProvinceDialog::ProvinceDialog(const model::GameState& game, int province, QWidg
   name->setObjectName(QStringLiteral("lblFullName"));
   auto* home = new QLabel(homeText());
   home->setObjectName(QStringLiteral("lblPartOf"));
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  QDialogButtonBox* buttons = newOkCancel(*this);
   auto* form = new QFormLayout(this);
   form->addRow(name);
   form->addRow(home);
@@ -32,8 +31,6 @@ ProvinceDialog::ProvinceDialog(const model::GameState& game, int province, QWidg
   form->addRow(m_contested);
   form->addRow(buttons);
   fillIn();
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 
 QString ProvinceDialog::homeText() const {

@@ -3,7 +3,6 @@
 #include "render/qt/text_codec.h"
 #include "ui/controls.h"
 
-#include <QDialogButtonBox>
 #include <QFontDatabase>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -63,11 +62,7 @@ SeasonDialog::SeasonDialog(const model::GameState& game, QWidget* parent)
   setWindowTitle(tr("Edit season"));
   std::generate(m_players.begin(), m_players.end(), [] { return new QLineEdit; });
   nameControls();
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  for (QAbstractButton* button : buttons->buttons())
-    button->setIcon({});
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  QDialogButtonBox* buttons = newOkCancel(*this);
 
   auto* columns = new QHBoxLayout;
   columns->setSpacing(ColumnGap);
@@ -123,15 +118,15 @@ QLayout* SeasonDialog::newFactsColumn() {
   form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
   form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   form->addRow(newHeading(tr("Game")));
-  form->addRow(tr("&Title"), m_title);
-  form->addRow(tr("&Season"), m_season);
-  form->addRow(tr("&Year"), m_year);
-  form->addRow(tr("St&age"), m_stage);
+  form->addRow(tr("&Title:"), m_title);
+  form->addRow(tr("&Season:"), m_season);
+  form->addRow(tr("&Year:"), m_year);
+  form->addRow(tr("St&age:"), m_stage);
   form->addRow(QString(), m_stageNote);
   form->addRow(newHeading(tr("Players")));
   for (std::size_t i = 0; i < m_players.size(); ++i) {
     QString caption = render::ToQString(m_game.Countries[static_cast<int>(i) + 1].Name);
-    form->addRow(caption.insert(Mnemonics[i], QLatin1Char('&')), m_players[i]);
+    form->addRow(caption.insert(Mnemonics[i], QLatin1Char('&')) + QLatin1Char(':'), m_players[i]);
   }
   return form;
 }

@@ -3,9 +3,9 @@
 #include "orders/editing.h"
 #include "orders/lookups.h"
 #include "render/qt/text_codec.h"
+#include "ui/controls.h"
 #include "ui/power_choice.h"
 
-#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 
@@ -61,7 +61,7 @@ void UnitDialog::layOut() {
   m_fault->setTextFormat(Qt::PlainText);
   m_fault->setAlignment(Qt::AlignTop | Qt::AlignLeft);
   m_fault->setMinimumHeight(FaultLines * fontMetrics().lineSpacing());
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  QDialogButtonBox* buttons = newOkCancel(*this);
   m_ok = buttons->button(QDialogButtonBox::Ok);
   auto* form = new QFormLayout(this);
   form->addRow(tr("&Power:"), m_power);
@@ -72,8 +72,6 @@ void UnitDialog::layOut() {
   form->addRow(tr("Place &before the moves:"), m_previous);
   form->addRow(m_fault);
   form->addRow(buttons);
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 
 void UnitDialog::fillIn() {
