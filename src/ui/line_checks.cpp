@@ -45,9 +45,11 @@ void showMarks(QListWidget& list, const ListCheck& check,
   for (int row = 0; row < list.count(); ++row) {
     const QString reason = lines(check.Lines.at(static_cast<std::size_t>(row)));
     if (stopped && stopped->row == row) {
-      const QString stop =
-          QObject::tr("Resolving stopped here: %1").arg(render::ToQString(stopped->result));
-      showMark(*list.item(row), OrderMark::Stopped, stop + QLatin1Char('\n') + reason);
+      const QString result = render::ToQString(stopped->result);
+      // The check says the same as a rule, and more.
+      const QString why = reason.startsWith(result) ? reason : result + QLatin1Char('\n') + reason;
+      showMark(*list.item(row), OrderMark::Stopped,
+               QObject::tr("Resolving stopped here: %1").arg(why));
     } else {
       showMark(*list.item(row), reason.isEmpty() ? OrderMark::Passes : OrderMark::Doubtful, reason);
     }
