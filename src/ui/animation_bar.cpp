@@ -25,6 +25,7 @@ void setTip(QPushButton& button, const QString& tip, int key) {
 
 AnimationBar::AnimationBar(QWidget* parent) : QFrame(parent), m_row(new QHBoxLayout(this)) {
   setObjectName(QStringLiteral("fraAnimate"));
+  setAccessibleName(tr("Animation"));
   setFocusPolicy(Qt::ClickFocus);
   m_row->setContentsMargins({});
   m_row->setSpacing(Gap);
