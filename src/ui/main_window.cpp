@@ -119,6 +119,7 @@ void MainWindow::createPanels() {
 void MainWindow::layOutPanels() {
   m_tabs = new QTabWidget;
   m_tabs->setObjectName(QStringLiteral("tabFacts"));
+  m_tabs->setAccessibleName(tr("Supply centres and report"));
   m_tabs->setDocumentMode(true);
   m_tabs->addTab(new OwnersPanel(m_desk), tr("Supply &centres"));
   m_tabs->addTab(m_report, tr("Repor&t"));
@@ -213,8 +214,8 @@ void MainWindow::createStatusBar() {
     label->setContentsMargins(Margin, 0, Margin, 0);
   }
   statusBar()->setSizeGripEnabled(false);
-  statusBar()->addWidget(m_status, 3);
-  statusBar()->addWidget(m_fileName, 2);
+  statusBar()->addWidget(m_status, 1);
+  statusBar()->addWidget(m_fileName);
 }
 
 void MainWindow::restoreSize() {
@@ -227,6 +228,8 @@ void MainWindow::restoreSize() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+  // The next start is to know the normal width, also when it begins with the map alone.
+  if (m_desk.now().viewOnly && !isMaximized() && !isFullScreen()) restoreWidth();
   m_memory.setGeometry(saveGeometry());
   m_memory.setZoom(m_view->zoom());
   m_memory.setFlag(ShowOrders, m_desk.now().showOrders);
@@ -281,9 +284,13 @@ void MainWindow::showViewOnly() {
     m_widthBeforeViewOnly = width();
     resize(m_view->fittingSize(m_view->height()).width() + 2 * Margin, height());
   } else {
-    resize(std::max(m_widthBeforeViewOnly, width()), height());
+    restoreWidth();
   }
   leaveSpareWidth();
+}
+
+void MainWindow::restoreWidth() {
+  resize(std::max(m_widthBeforeViewOnly, width()), height());
 }
 
 void MainWindow::showStagePanel() {

@@ -60,6 +60,7 @@ class MainWindow : public QMainWindow {
 
   void showGame();
   void showViewOnly();
+  void restoreWidth();
   void showStagePanel();
   void showStatus(const QString& text);
   void chooseTool();

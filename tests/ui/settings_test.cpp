@@ -79,6 +79,12 @@ TEST_F(SettingsTest, ViewOnlyLeavesTheMapAlone) {
   EXPECT_TRUE(column.isVisible());
   EXPECT_TRUE(Find<QMenu>("mnuGame").isEnabled());
   EXPECT_EQ(window_->width(), normal);
+  Trigger("mnuMapViewOnly");
+  window_->close();
+  Open();
+  EXPECT_LT(window_->width(), normal);
+  Trigger("mnuMapViewOnly");
+  EXPECT_EQ(window_->width(), normal) << "also after a start with the map alone";
 }
 
 TEST_F(SettingsTest, SizeZoomAndFilesAreRemembered) {
