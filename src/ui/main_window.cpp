@@ -128,12 +128,8 @@ void MainWindow::layOutPanels() {
   auto* panels = new QVBoxLayout(m_column);
   panels->setContentsMargins({});
   panels->setSpacing(Gap);
-  for (QWidget* panel : {static_cast<QWidget*>(m_orders), static_cast<QWidget*>(m_retreats),
-                         static_cast<QWidget*>(m_adjustments), static_cast<QWidget*>(m_editUnits),
-                         static_cast<QWidget*>(m_editProvinces)}) {
-    panels->addWidget(panel, 3);
-  }
-  panels->addWidget(m_seasonFinished);
+  for (QWidget* panel : stagePanels())
+    panels->addWidget(panel, panel == m_seasonFinished ? 0 : 3);
   panels->addWidget(m_tabs, 2);
   // As wide as it likes to be; on a small screen it gives way.
   panels->addItem(new QSpacerItem(ColumnWidth, 0, QSizePolicy::Preferred));
@@ -298,11 +294,13 @@ void MainWindow::showStagePanel() {
   const auto& [shownStage, editing] = *m_shownPanel;
   const std::array<std::pair<std::string_view, OrderEntryPanel*>, 3> entryPanels{
       {{"moves", m_orders}, {"retreats", m_retreats}, {"adjustments", m_adjustments}}};
-  m_seasonFinished->setVisible(shownStage == "finished" && editing == Editing::None);
-  for (const auto& [stage, panel] : entryPanels)
-    panel->setVisible(stage == shownStage && editing == Editing::None);
-  m_editUnits->setVisible(editing == Editing::Units);
-  m_editProvinces->setVisible(editing == Editing::Provinces);
+  QWidget* shown = m_seasonFinished;
+  for (const auto& [stage, panel] : entryPanels) {
+    if (stage == shownStage) shown = panel;
+  }
+  if (editing == Editing::Units) shown = m_editUnits;
+  if (editing == Editing::Provinces) shown = m_editProvinces;
+  showInstead(shown);
   const bool report = m_desk.game().ReportLines.Count() > 0 && editing != Editing::Provinces;
   m_tabs->setCurrentIndex(report ? 1 : 0);
   chooseTool();
@@ -313,6 +311,18 @@ void MainWindow::showStagePanel() {
   }
   // Not the button: an Enter too many would drop the report unread.
   m_report->startReading();
+}
+
+std::array<QWidget*, 6> MainWindow::stagePanels() const {
+  return {m_orders, m_retreats, m_adjustments, m_editUnits, m_editProvinces, m_seasonFinished};
+}
+
+/// Never two panels at once: the window would grow to hold them.
+void MainWindow::showInstead(QWidget* shown) {
+  for (QWidget* panel : stagePanels()) {
+    if (panel != shown) panel->hide();
+  }
+  shown->show();
 }
 
 void MainWindow::showStatus(const QString& text) {

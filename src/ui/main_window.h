@@ -7,6 +7,7 @@
 
 #include <QMainWindow>
 
+#include <array>
 #include <optional>
 #include <string>
 #include <utility>
@@ -62,6 +63,8 @@ class MainWindow : public QMainWindow {
   void showViewOnly();
   void restoreWidth();
   void showStagePanel();
+  std::array<QWidget*, 6> stagePanels() const;
+  void showInstead(QWidget* shown);
   void showStatus(const QString& text);
   void chooseTool();
   void showPlace(int location);

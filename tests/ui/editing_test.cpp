@@ -172,6 +172,17 @@ TEST_F(EditingTest, APropertiesDialogRefusesWhatCannotBe) {
   EXPECT_EQ(Selected("lstUnits"), "ENG F(ECH)  English Channel");
 }
 
+TEST_F(EditingTest, PanelsTakeTurnsWithoutAnEffectOnTheWindow) {
+  window_->showNormal();
+  window_->resize(900, 600);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window_->height() == 600; }));
+  for (const char* entry : {"mnuGameEditUnits", "mnuGameEditProvinces", "mnuGameEnterOrders"}) {
+    Trigger(entry);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window_->size(), QSize(900, 600)) << entry;
+  }
+}
+
 TEST_F(EditingTest, CentresAreGivenByAClickAndPropertiesOpenByTwo) {
   Trigger("mnuGameEditProvinces");
   EXPECT_TRUE(Find<QWidget>("picOwners").isVisible());
