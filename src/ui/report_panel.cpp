@@ -8,11 +8,13 @@
 #include <QEvent>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace orb::ui {
 namespace {
 
+constexpr int FewestReasonLines = 2;
 constexpr int ReasonLines = 4;
 
 }  // namespace
@@ -29,7 +31,6 @@ ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
   m_reason->setWordWrap(true);
   m_reason->setTextFormat(Qt::PlainText);
   m_reason->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-  m_reason->setMinimumHeight(ReasonLines * fontMetrics().lineSpacing());
   m_reason->setTextInteractionFlags(Qt::TextSelectableByMouse);
   layOut();
   addListActions();
@@ -39,10 +40,19 @@ ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
 }
 
 void ReportPanel::layOut() {
+  // A long reason is scrolled to where the window is low.
+  auto* reason = new QScrollArea;
+  reason->setFrameShape(QFrame::NoFrame);
+  reason->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  reason->setWidgetResizable(true);
+  reason->setFocusPolicy(Qt::NoFocus);
+  reason->setWidget(m_reason);
+  reason->setMinimumHeight(FewestReasonLines * fontMetrics().lineSpacing());
+  reason->setMaximumHeight(ReasonLines * fontMetrics().lineSpacing());
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});
   column->addWidget(m_lines, 1);
-  column->addWidget(m_reason);
+  column->addWidget(reason);
 }
 
 void ReportPanel::addListActions() {
