@@ -128,7 +128,11 @@ bool CanReplaceFile(const fs::path& path) {
 }
 
 fs::path LowerCaseName(const fs::path& path) {
-  const fs::path lower = path.parent_path() / LowerCase(path.filename().string());
+  return path.parent_path() / LowerCase(path.filename().string());
+}
+
+fs::path FileInAnyCase(const fs::path& path) {
+  const fs::path lower = LowerCaseName(path);
   std::error_code ignored;
   return !fs::exists(lower, ignored) && fs::exists(path, ignored) ? path : lower;
 }

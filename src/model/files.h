@@ -17,9 +17,12 @@ void ReplaceFile(const std::filesystem::path& path, std::string_view bytes);
 /// Whether ReplaceFile may write the file, as far as permissions tell.
 bool CanReplaceFile(const std::filesystem::path& path);
 
-/// The path of a file named by a user who may not know of letter case: the file's own name in
-/// small letters, unless only the name as given exists. Directories stay as given.
+/// The path with the file's own name in small letters; directories stay as given.
 std::filesystem::path LowerCaseName(const std::filesystem::path& path);
+
+/// The file meant by a user who may not know of letter case: the one with its own name in small
+/// letters, unless only the name as given exists.
+std::filesystem::path FileInAnyCase(const std::filesystem::path& path);
 
 /// The directory of the running program's file, links resolved.
 std::filesystem::path ProgramDirectory();

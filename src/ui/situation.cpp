@@ -96,7 +96,7 @@ Situation startSituation(const Places& places, const std::filesystem::path& game
   if (gameFile.empty()) {
     model::NewGame(situation.game, places.program);
   } else {
-    model::ReadGameFile(situation.game, model::LowerCaseName(gameFile), places.program, messages);
+    model::ReadGameFile(situation.game, model::FileInAnyCase(gameFile), places.program, messages);
   }
   return situation;
 }

@@ -139,15 +139,16 @@ TEST(ReplaceFile, IsWholeWhenTheProgramIsKilled) {
   }
 }
 
-TEST(LowerCaseName, ChangesTheFilesOwnNameAlone) {
+TEST(FileInAnyCase, HasItsOwnNameInSmallLettersWhereItCan) {
   const TemporaryDirectory directory;
   const fs::path sub = directory.Path() / "Sub";
   fs::create_directory(sub);
   for (const char* name : {"Sub/Only.ORB", "Sub/Both.orb", "Sub/both.orb"})
     directory.Write(name, "");
-  EXPECT_EQ(model::LowerCaseName(sub / "New.ORB"), sub / "new.orb");
-  EXPECT_EQ(model::LowerCaseName(sub / "Only.ORB"), sub / "Only.ORB");
-  EXPECT_EQ(model::LowerCaseName(sub / "Both.orb"), sub / "both.orb");
+  EXPECT_EQ(model::FileInAnyCase(sub / "New.ORB"), sub / "new.orb");
+  EXPECT_EQ(model::FileInAnyCase(sub / "Only.ORB"), sub / "Only.ORB");
+  EXPECT_EQ(model::FileInAnyCase(sub / "Both.orb"), sub / "both.orb");
+  EXPECT_EQ(model::LowerCaseName(sub / "Only.ORB"), sub / "only.orb");
 }
 
 }  // namespace
