@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
 
 #include <algorithm>
@@ -27,8 +28,8 @@ void setUp(QFileDialog& dialog, const QString& title, const QStringList& filters
   dialog.setWindowTitle(render::ToQString(model::ProgramName) + title);
   dialog.setNameFilters(filters);
   if (!game.FileName.empty()) {
-    const std::filesystem::path directory = std::filesystem::path(game.FileName).parent_path();
-    dialog.setDirectory(displayPath(directory.string()));
+    // A name given on the command line may have no directory.
+    dialog.setDirectory(QFileInfo(displayPath(game.FileName)).absolutePath());
   }
 }
 
