@@ -223,10 +223,15 @@ void MainWindow::restoreSize() {
   if (!roomy) setWindowState(Qt::WindowMaximized);
 }
 
-void MainWindow::closeEvent(QCloseEvent* event) {
-  // The next start is to know the normal width, also when it begins with the map alone.
-  if (m_desk.now().viewOnly && !isMaximized() && !isFullScreen()) restoreWidth();
+/// What is remembered is the window with its panels.
+void MainWindow::rememberSize() {
+  const bool narrowed = m_column->isHidden() && !isMaximized() && !isFullScreen();
+  if (narrowed) resize(m_normalWidth, height());
   m_memory.setGeometry(saveGeometry());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  rememberSize();
   m_memory.setZoom(m_view->zoom());
   m_memory.setFlag(ShowOrders, m_desk.now().showOrders);
   try {
@@ -273,20 +278,23 @@ void MainWindow::showViewOnly() {
   const bool viewOnly = m_desk.now().viewOnly;
   m_gameMenu->setEnabled(!viewOnly && !m_player->isOn());
   if (m_column->isHidden() == viewOnly) return;
+  const bool sizeIsFree = !isMaximized() && !isFullScreen();
+  if (viewOnly) m_normalWidth = sizeIsFree ? width() : normalGeometry().width();
   m_column->setVisible(!viewOnly);
   chooseTool();
-  if (isMaximized() || isFullScreen()) return leaveSpareWidth();
-  if (viewOnly) {
-    m_widthBeforeViewOnly = width();
-    resize(m_view->fittingSize(m_view->height()).width() + 2 * Margin, height());
-  } else {
-    restoreWidth();
-  }
+  if (sizeIsFree) resize(viewOnly ? mapOnlyWidth() : m_normalWidth, height());
   leaveSpareWidth();
 }
 
-void MainWindow::restoreWidth() {
-  resize(std::max(m_widthBeforeViewOnly, width()), height());
+int MainWindow::mapOnlyWidth() {
+  // At the start nothing has its size yet.
+  layout()->activate();
+  const int wanted = m_view->fittingWidth(mapHeight()) + 2 * Margin;
+  return std::min(wanted, screen()->availableSize().width());
+}
+
+int MainWindow::mapHeight() const {
+  return centralWidget()->height() - 2 * Margin;
 }
 
 void MainWindow::showStagePanel() {
@@ -362,9 +370,8 @@ void MainWindow::showAnimation() {
 /// What the fitted map cannot use goes to the column.
 void MainWindow::leaveSpareWidth() {
   const bool fitted = !m_view->zoom() && !m_column->isHidden();
-  const int height = centralWidget()->height() - 2 * Margin;
   m_view->setMaximumWidth(
-      fitted ? std::max(m_view->minimumSizeHint().width(), m_view->fittingSize(height).width())
+      fitted ? std::max(m_view->minimumSizeHint().width(), m_view->fittingWidth(mapHeight()))
              : QWIDGETSIZE_MAX);
 }
 

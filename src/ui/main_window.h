@@ -58,10 +58,12 @@ class MainWindow : public QMainWindow {
   void createToolbar();
   void createStatusBar();
   void restoreSize();
+  void rememberSize();
 
   void showGame();
   void showViewOnly();
-  void restoreWidth();
+  int mapOnlyWidth();
+  int mapHeight() const;
   void showStagePanel();
   std::array<QWidget*, 6> stagePanels() const;
   void showInstead(QWidget* shown);
@@ -98,7 +100,7 @@ class MainWindow : public QMainWindow {
   ElidedLabel* m_status = nullptr;
   ElidedLabel* m_fileName = nullptr;
   std::optional<std::pair<std::string, Editing>> m_shownPanel;
-  int m_widthBeforeViewOnly = 0;
+  int m_normalWidth = 0;  ///< of the window, while only the map shows
 };
 
 }  // namespace orb::ui

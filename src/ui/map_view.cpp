@@ -41,8 +41,12 @@ void MapView::zoomOut() {
   zoomTo(shownZoom() / ZoomStep, QPointF(viewport()->rect().center()));
 }
 
-QSize MapView::fittingSize(int height) const {
-  return m_map->naturalSize().scaled(QWIDGETSIZE_MAX, height, Qt::KeepAspectRatio);
+int MapView::fittingWidth(int height) const {
+  const QSize natural = m_map->naturalSize();
+  if (!m_zoom) return natural.scaled(QWIDGETSIZE_MAX, height, Qt::KeepAspectRatio).width();
+  const QSize zoomed = natural * *m_zoom;
+  const int scrollBar = zoomed.height() > height ? verticalScrollBar()->sizeHint().width() : 0;
+  return zoomed.width() + scrollBar;
 }
 
 double MapView::shownZoom() const {

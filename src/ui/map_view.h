@@ -24,8 +24,8 @@ class MapView : public QScrollArea {
   void zoomIn();
   void zoomOut();
 
-  /// The size that the map has when it fits a view of that height.
-  QSize fittingSize(int height) const;
+  /// The width of a view of that height that shows the map's whole width, as it is zoomed now.
+  int fittingWidth(int height) const;
 
   QSize sizeHint() const override { return {300, 250}; }
   QSize minimumSizeHint() const override { return sizeHint(); }
