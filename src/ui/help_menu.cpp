@@ -19,20 +19,36 @@ QString topicOf(const Situation& situation) {
   return QObject::tr("Entering orders");
 }
 
+QString shownAsIs(QString text) {
+  return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+/// The caption with its first letter that no entry before has taken as the entry's key.
+QString withKey(const QString& caption, QString& taken) {
+  for (qsizetype i = 0; i < caption.size(); ++i) {
+    const QChar key = caption[i].toLower();
+    if (!key.isLetter() || taken.contains(key)) continue;
+    taken += key;
+    return shownAsIs(caption.left(i)) + QLatin1Char('&') + shownAsIs(caption.mid(i));
+  }
+  return shownAsIs(caption);
+}
+
 }  // namespace
 
 HelpMenu::HelpMenu(const Desk& desk, model::Messages& messages, QWidget* window)
     : QMenu(tr("&Help"), window), m_desk(desk), m_messages(messages), m_window(window) {
   setObjectName(QStringLiteral("mnuHelp"));
-  addTopics();
+  QString takenKeys;
+  addTopics(takenKeys);
   addSeparator();
-  QAction* about = newEntry(*this, QStringLiteral("mnuHelpAbout"), tr("&About"));
+  QAction* about = newEntry(*this, QStringLiteral("mnuHelpAbout"), withKey(tr("About"), takenKeys));
   connect(about, &QAction::triggered, this, &HelpMenu::about);
   connect(&m_desk, &Desk::changed, this, &HelpMenu::showStage);
   showStage();
 }
 
-void HelpMenu::addTopics() {
+void HelpMenu::addTopics(QString& takenKeys) {
   try {
     m_topics = render::LoadHelpTopics(m_desk.dataDirectory());
   } catch (const model::FatalError& fault) {
@@ -41,9 +57,8 @@ void HelpMenu::addTopics() {
   }
   for (const render::HelpTopic& topic : m_topics) {
     const QString caption = render::ToQString(topic.Caption);
-    QString text = caption;
     QAction* entry = newEntry(*this, QStringLiteral("mnuHelpTopic%1").arg(m_entries.size() + 1),
-                              text.replace(QLatin1Char('&'), QLatin1String("&&")));
+                              withKey(caption, takenKeys));
     connect(entry, &QAction::triggered, this, [this, caption] { showTopic(caption); });
     m_entries.push_back(entry);
   }

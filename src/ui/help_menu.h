@@ -24,7 +24,7 @@ class HelpMenu : public QMenu {
   void showTopic(const QString& caption);
 
  private:
-  void addTopics();
+  void addTopics(QString& takenKeys);
   void showStage();
   void about();
 
