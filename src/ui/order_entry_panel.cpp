@@ -6,6 +6,7 @@
 #include "ui/text_validator.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QShortcut>
 
 #include <algorithm>
@@ -42,6 +43,7 @@ OrderEntryPanel::OrderEntryPanel(Desk& desk, std::string_view stage, Desk::Order
   m_text->setAccessibleName(tr("Order"));
   m_text->setPlaceholderText(texts.example);
   m_text->setValidator(new TextValidator(m_text));
+  m_text->installEventFilter(this);
   layOut(texts);
   connectControls(texts.helpTopic);
   connectKeys();
@@ -113,7 +115,10 @@ void OrderEntryPanel::connectControls(const QString& helpTopic) {
   });
   connect(m_cancel, &QPushButton::clicked, this, &OrderEntryPanel::cancelOrder);
   connect(m_delete, &QPushButton::clicked, this, &OrderEntryPanel::deleteOrder);
-  connect(m_help, &QPushButton::clicked, this, [this, helpTopic] { emit helpWanted(helpTopic); });
+  connect(m_help, &QPushButton::clicked, this, [this, helpTopic] {
+    focusText();
+    emit helpWanted(helpTopic);
+  });
   connect(m_resolve, &QPushButton::clicked, &m_desk, &Desk::resolve);
   connect(m_list, &QListWidget::itemClicked, this, &OrderEntryPanel::editSelectedOrder);
   connect(m_list, &QListWidget::itemActivated, this, &OrderEntryPanel::editSelectedOrder);
@@ -204,7 +209,18 @@ void OrderEntryPanel::changeEvent(QEvent* event) {
 
 void OrderEntryPanel::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
+  // Keeps the text, but not the steps that led to it.
+  m_text->setText(m_text->text());
   emit statusText({});
+}
+
+/// A text box that has nothing to take back leaves the key for it to the game.
+bool OrderEntryPanel::eventFilter(QObject* watched, QEvent* event) {
+  const bool undoes = event->type() == QEvent::ShortcutOverride &&
+                      static_cast<QKeyEvent*>(event)->matches(QKeySequence::Undo);
+  if (!undoes || m_text->isUndoAvailable()) return QWidget::eventFilter(watched, event);
+  event->ignore();
+  return true;
 }
 
 void OrderEntryPanel::fileOrder() {

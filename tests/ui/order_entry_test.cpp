@@ -100,6 +100,7 @@ TEST(OrderEntry, CommandsWriteOnAndLeaveTheCaretAtTheEnd) {
          {"butOrderHold", "ENG A(Lvp) hold "},
          {"butOrderSupport", "ENG A(Lvp) S "},
          {"butOrderConvoy", "ENG A(Lvp) C "},
+         {"butOrdersHelp", "ENG A(Lvp) "},
          {"butOrderCancel", ""}});
   check(std::make_unique<RetreatsEntry>(EmptyBoard("Spring", "retreats")),
         {{"butRetreatRetreat", "ENG A(Lvp) retreat "},
