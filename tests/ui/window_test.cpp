@@ -1,4 +1,5 @@
 #include "model/errors.h"
+#include "model/files.h"
 #include "model/game_file.h"
 #include "support/directories.h"
 #include "support/scripted_messages.h"
@@ -6,13 +7,19 @@
 #include "ui/modal_script.h"
 #include "ui/window_fixture.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
+#include <QDir>
 #include <QFileDialog>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QTest>
 #include <gmock/gmock.h>
@@ -60,6 +67,26 @@ TEST_F(WindowTest, AYearIsPlayedByKeyboard) {
   Press(Qt::Key_N, Qt::AltModifier);
   EXPECT_EQ(StagePanel(), "fraOrders");
   EXPECT_FALSE(Find<QWidget>("lstReport").isVisible());
+}
+
+TEST_F(WindowTest, EveryControlHasANameAndEveryEntryAKey) {
+  for (QWidget* widget : window_->findChildren<QWidget*>()) {
+    // A label is named by its text, which some have only at times.
+    if (widget->focusPolicy() == Qt::NoFocus || qobject_cast<QLabel*>(widget)) continue;
+    const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(widget);
+    EXPECT_FALSE(told->text(QAccessible::Name).isEmpty())
+        << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
+  }
+  for (const QAction* top : window_->menuBar()->actions()) {
+    const QMenu* menu = top->menu();
+    QStringList keys;
+    for (const QAction* entry : menu->actions()) {
+      if (!entry->isSeparator()) keys << QKeySequence::mnemonic(entry->text()).toString();
+    }
+    EXPECT_FALSE(keys.contains(QString())) << menu->title().toStdString();
+    const int twins = menu->objectName() == "mnuMap" ? 1 : 0;
+    EXPECT_EQ(keys.removeDuplicates(), twins) << menu->title().toStdString();
+  }
 }
 
 TEST_F(WindowTest, NoLeavesEverythingAsItWas) {
@@ -125,6 +152,52 @@ TEST_F(WindowTest, AGameThatCannotBeDrawnIsNotOpened) {
   EXPECT_EQ(Map(), map);
 }
 
+TEST_F(WindowTest, OpenBeginsWithTheFilterOfTheLastFileAndMayBeForReadingOnly) {
+  const std::string game = model::ReadFile(examples_ / "1902-1-spring-2-retreats.orb");
+  const auto open = [&](const char* filter, const char* name, bool readOnly) {
+    const auto file = directory_.Write(name, game);
+    const ModalScript answers({[&](QDialog& dialog) {
+      const auto& files = dynamic_cast<QFileDialog&>(dialog);
+      EXPECT_EQ(files.windowTitle(), "ORB v5.5 Open");
+      EXPECT_EQ(files.fileMode(), QFileDialog::ExistingFile);
+      EXPECT_EQ(files.findChild<QLineEdit*>()->text(), "");
+      EXPECT_EQ(files.selectedNameFilter(), filter);
+      files.findChild<QCheckBox*>("chkReadOnly")->setChecked(readOnly);
+      FileChosen(QString::fromStdString(file.string()))(dialog);
+    }});
+    Trigger("mnuFileOpen");
+    EXPECT_EQ(Find<QLabel>("lblFileName").text().toStdString(), file.string());
+    EXPECT_EQ(Find<QAction>("mnuFileSave").isEnabled(), !readOnly);
+  };
+  open("Concordat files: *.orb", "Old.DAT", true);
+  open("Data files: *.dat", "game.txt", false);
+  open("All files: *.*", "a.dat.ORB", true);
+  open("Concordat files: *.orb", "game", false);
+}
+
+TEST_F(WindowTest, TheStageEntriesTellTheStage) {
+  const std::vector<std::pair<const char*, const char*>> stages{
+      {"mnuGameEnterOrders", "1901-2-autumn-0-start.orb"},
+      {"mnuGameEnterRetreats", "1902-1-spring-1-moves.orb"},
+      {"mnuGameEnterAdjustments", "1902-2-autumn-2-retreats.orb"},
+      {"mnuGameSeasonFinished", "1902-1-spring-2-retreats.orb"}};
+  const auto entries = [&](bool (QAction::*is)() const) {
+    std::string names;
+    for (const auto& [name, file] : stages)
+      names += (Find<QAction>(name).*is)() ? name : "";
+    return names;
+  };
+  for (const auto& [name, file] : stages) {
+    Open(examples_ / file);
+    Trigger(name);
+    EXPECT_EQ(entries(&QAction::isChecked), name) << "choosing it changes nothing";
+    EXPECT_EQ(entries(&QAction::isEnabled), name);
+    Trigger("mnuGameEditProvinces");
+    EXPECT_EQ(entries(&QAction::isChecked), "");
+    EXPECT_TRUE(Find<QWidget>("picOwners").isVisible());
+  }
+}
+
 TEST_F(WindowTest, SaveAsksProposesAndLowersTheName) {
   const auto taken = directory_.Write("game.orb", "old");
   const QString path = QString::fromStdString((directory_.Path() / "GAME.ORB").string());
@@ -150,6 +223,19 @@ TEST_F(WindowTest, SaveAsksProposesAndLowersTheName) {
   EXPECT_TRUE(Find<QLabel>("lblFileName").isVisible());
   EXPECT_GT(std::filesystem::file_size(taken), 100U);
   EXPECT_EQ(directory_.EntryCount(), 1);
+
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(directory_.Path());
+  Open("game.orb");
+  {
+    const ModalScript answers({[this](QDialog& dialog) {
+      const QDir shown = dynamic_cast<QFileDialog&>(dialog).directory();
+      EXPECT_EQ(shown, QDir(QString::fromStdString(directory_.Path().string())));
+      dialog.reject();
+    }});
+    Trigger("mnuFileSaveAs");
+  }
+  std::filesystem::current_path(before);
 }
 
 TEST_F(WindowTest, ASelectedReportLineSaysWhyAndUndoTakesAllBack) {
@@ -175,6 +261,16 @@ TEST_F(WindowTest, ASelectedReportLineSaysWhyAndUndoTakesAllBack) {
   Trigger("mnuGameUndo");
   EXPECT_EQ(StagePanel(), "fraOrders");
   EXPECT_EQ(Map(), before);
+}
+
+TEST_F(WindowTest, TheKeyOfUndoTakesBackWhatWasTypedBeforeTheSeason) {
+  Open(examples_ / "1902-1-spring-1-moves.orb");
+  Type("AUS");
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Find<QLineEdit>("txtRetreat").text(), "");
+  EXPECT_EQ(StagePanel(), "fraRetreats");
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(StagePanel(), "fraOrders");
 }
 
 TEST_F(WindowTest, AMapModeWithoutItsBitmapIsNotTaken) {
