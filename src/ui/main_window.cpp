@@ -302,7 +302,7 @@ void MainWindow::showStagePanel() {
   const auto& [shownStage, editing] = *m_shownPanel;
   const std::array<std::pair<std::string_view, OrderEntryPanel*>, 3> entryPanels{
       {{"moves", m_orders}, {"retreats", m_retreats}, {"adjustments", m_adjustments}}};
-  QWidget* shown = m_seasonFinished;
+  QWidget* shown = shownStage == "finished" ? m_seasonFinished : nullptr;
   for (const auto& [stage, panel] : entryPanels) {
     if (stage == shownStage) shown = panel;
   }
@@ -330,7 +330,7 @@ void MainWindow::showInstead(QWidget* shown) {
   for (QWidget* panel : stagePanels()) {
     if (panel != shown) panel->hide();
   }
-  shown->show();
+  if (shown != nullptr) shown->show();
 }
 
 void MainWindow::showStatus(const QString& text) {

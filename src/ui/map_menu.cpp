@@ -20,7 +20,7 @@ MapMenu::MapMenu(Desk& desk, MapView& view, QWidget* parent)
   addSeparator();
   addToggle(QStringLiteral("mnuShowCentreCount"), tr("Show ce&ntre count"),
             &MapOptions::ShowCentreCount);
-  addToggle(QStringLiteral("mnuMapColourBordersByOwner"), tr("Colour border&s by owner"),
+  addToggle(QStringLiteral("mnuMapColourBordersByOwner"), tr("&Colour borders by owner"),
             &MapOptions::ColourBordersByOwner);
   addToggle(QStringLiteral("mnuShowCentreOwners"), tr("Show centre &owners"),
             &MapOptions::ShowCentreOwners);
