@@ -13,7 +13,8 @@
 #include <vector>
 
 // The first byte tells the stage, the power and the board; the bytes up to the first NUL are a file
-// of repairs, the others the text. Without a NUL there are no repairs.
+// of repairs, the others the text. Without a NUL there are no repairs. Its highest bit makes a file
+// in UTF-16 of the other bytes.
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
@@ -105,6 +106,15 @@ void ReadAll(model::GameState game, std::string_view text,
   exchange::FileOrders(game, lines);
 }
 
+/// What the bytes are as a file in UTF-16; empty for one that is refused.
+std::string FromUtf16(std::string_view bytes) {
+  try {
+    return exchange::OrdersFileText("\xFF\xFE" + std::string(bytes), "orders");
+  } catch (const model::FileError&) {
+    return {};
+  }
+}
+
 std::vector<exchange::TextRepair> Repairs(std::string_view bytes) {
   try {
     return exchange::LoadTextRepairs(bytes, "repairs");
@@ -118,7 +128,8 @@ std::vector<exchange::TextRepair> Repairs(std::string_view bytes) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
-  const std::string bytes(data + 1, data + size);
+  std::string bytes(data + 1, data + size);
+  if ((data[0] & 0x80U) != 0) bytes = orb::FromUtf16(bytes);
   const std::string_view input = bytes;
   const std::size_t nul = input.find('\0');
   const bool hasRepairs = nul != std::string_view::npos;

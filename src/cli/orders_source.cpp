@@ -7,6 +7,7 @@
 #include "orders/order_list.h"
 
 #include <system_error>
+#include <utility>
 
 namespace orb::cli {
 
@@ -42,13 +43,14 @@ std::vector<exchange::ReadLine> OrdersSource::Take(model::GameState& game, const
   std::error_code ignored;
   const auto type = std::filesystem::symlink_status(paths.Orders, ignored).type();
   const bool isMissing = type == std::filesystem::file_type::not_found;
-  const std::string text =
+  std::string text =
       isMissing && paths.OrdersMayLack ? std::string() : model::ReadFile(paths.Orders);
   if (!isLoose_) {
     orders::StageList(game) = OrderLines(text);
     return {};
   }
   if (!repairs_) repairs_ = exchange::ReadTextRepairs(data_);
+  text = exchange::OrdersFileText(std::move(text), paths.Orders.string());
   std::vector<exchange::ReadLine> lines = exchange::ReadOrders(game, text, {power_, *repairs_});
   orders::StageList(game).clear();
   exchange::FileOrders(game, lines);

@@ -82,6 +82,24 @@ TEST(OrderFiles, ATextTellsWhoseOrdersItHolds) {
     EXPECT_EQ(exchange::PowerOf(exchange::ReadOrders(game, text, {})), power) << text;
 }
 
+TEST(OrderFiles, TextsInUtf16AreConvertedAndNoOthersWithNulsTaken) {
+  using namespace std::string_literals;
+  const std::vector<std::pair<std::string, std::string>> cases{
+      {"A Par \x96 Bur", "A Par \x96 Bur"},
+      {"\xFF\xFE"
+       "A\0\x13\x20\xE9\0\r\0\n\0"s,
+       "A\xE2\x80\x93\xC3\xA9\r\n"},
+      {"\xFE\xFF\0A\xD8\x3D\xDE\x00"s, "A\xF0\x9F\x98\x80"},
+      {"\xFE\xFF\xD8\x3D\0A\xDE\0\xD8\x3D"s,
+       "\xEF\xBF\xBD"
+       "A\xEF\xBF\xBD\xEF\xBF\xBD"},
+  };
+  for (const auto& [bytes, text] : cases)
+    EXPECT_EQ(exchange::OrdersFileText(bytes, "f"), text);
+  for (const std::string& bytes : {"A\0P\0"s, "\xFF\xFE\0\0"s})
+    EXPECT_THROW(exchange::OrdersFileText(bytes, "f"), model::FileError);
+}
+
 TEST(ReadOrder, IsOneOrderWhateverItLooksLike) {
   const model::GameState game = StartingGame();
   const auto kind = [&](std::string_view text) {

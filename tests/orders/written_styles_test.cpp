@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <string>
 #include <vector>
@@ -180,6 +181,40 @@ TEST(WrittenStyles, EveryOrderReadsBackAsItself) {
     const std::string written = writer.Decorated(Written(writer, order, withPower));
     ExpectReadAs(game, written, withPower ? "" : order.Power, line);
   }
+}
+
+/// Whether two of the units that the orders name stand in one place.
+bool IsCrowded(const model::GameState& game) {
+  for (const Unit& unit : game.Units) {
+    if (std::count_if(game.Units.begin(), game.Units.end(), [&](const Unit& other) {
+          return model::SamePlace(unit.Location, other.Location);
+        }) > 1) {
+      return true;
+    }
+  }
+  return false;
+}
+
+TEST(WrittenStyles, OrdersRunTogetherAreReadSingly) {
+  Writer writer(1902);
+  int tried = 0;
+  int understood = 0;
+  for (int round = 0; round < 2000; ++round) {
+    model::GameState game = EmptyBoard("Autumn", "moves");
+    const OrderLine first = AnyOrder(writer, game, OrderStage::Moves);
+    const OrderLine second = AnyOrder(writer, game, OrderStage::Moves);
+    if (IsCrowded(game) || OnlyExact(game, first) || OnlyExact(game, second)) continue;
+    const std::string text =
+        Written(writer, first, writer.Sometimes()) + " " + Written(writer, second, true);
+    const auto lines = exchange::ReadOrders(game, text, {});
+    ++tried;
+    if (lines.size() == 1 && lines[0].Kind == LineKind::NotUnderstood) continue;
+    ++understood;
+    ASSERT_EQ(lines.size(), 2U) << text << "\n" << lines[0].Order << lines[0].Reason;
+    EXPECT_EQ(lines[0].Order, exchange::FormatOrder(first, OrderStage::Moves)) << text;
+    EXPECT_EQ(lines[1].Order, exchange::FormatOrder(second, OrderStage::Moves)) << text;
+  }
+  EXPECT_GT(understood * 10, tried * 8) << tried;
 }
 
 }  // namespace

@@ -64,6 +64,10 @@ bool IsRemark(Tokens tokens, const PlaceNames& names) {
   if (std::ranges::any_of(tokens, IsCoastWord)) return false;
   const auto words = std::ranges::count_if(tokens, isWord);
   if (words == 0 || std::ranges::all_of(tokens, IsNumber)) return true;
+  if (std::ranges::all_of(tokens,
+                          [&](const Token& token) { return !isWord(token) || IsFiller(token); })) {
+    return true;
+  }
   if (words == 1) {
     const auto word = std::ranges::find_if(tokens, isWord);
     if (!names.NearlyNamed(word->Text).empty()) return false;

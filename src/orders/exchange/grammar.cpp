@@ -29,6 +29,7 @@ class Grammar {
     }
     std::vector<WrittenOrder> orders;
     for (State& state : all) {
+      TakeOwner(state);
       if (phrases_.Ends(state.Next)) orders.push_back(std::move(state.Order));
     }
     return orders;
@@ -37,6 +38,15 @@ class Grammar {
  private:
   static void Append(States& all, States more) {
     std::move(more.begin(), more.end(), std::back_inserter(all));
+  }
+
+  /// Takes "(GER)" behind an order for the power of the unit that it is about.
+  void TakeOwner(State& state) {
+    const PowerName name = phrases_.PowerInBrackets(state.Next);
+    WrittenUnit& unit = state.Order.Other.Place.Rows.empty() ? state.Order.Unit : state.Order.Other;
+    if (name.Power == 0 || unit.Power != 0) return;
+    unit.Power = name.Power;
+    state.Next = name.Next;
   }
 
   /// With and without a power at the front.
@@ -92,8 +102,15 @@ class Grammar {
       return {};
     }
     switch (verb) {
-      case Verb::Move:
-        return Moves(state);
+      case Verb::Move: {
+        States all = Moves(state);
+        const std::size_t via = phrases_.PastVia(state.Next);
+        if (via != state.Next) Append(all, ConvoyedMoves(state, via));
+        return all;
+      }
+      case Verb::Hold:
+        state.Next = phrases_.PastPlace(state.Next, state.Order.Unit.Place);
+        return {state};
       case Verb::Support:
         return Supports(state);
       case Verb::Convoy:
@@ -103,6 +120,16 @@ class Grammar {
       default:
         return {state};
     }
+  }
+
+  /// "by convoy to PLACE", the verb read from the token on.
+  States ConvoyedMoves(State state, std::size_t at) {
+    const auto [verb, next] = phrases_.VerbAt(at);
+    if (verb != Verb::Move || state.Order.Unit.Type == 'F') return {};
+    state.Order.What = Verb::Move;
+    state.Order.ByConvoy = true;
+    state.Next = next;
+    return Moves(state);
   }
 
   bool IsAllowed(Verb verb) const {
@@ -134,10 +161,24 @@ class Grammar {
     return order.Other.Place.Rows.empty() ? order.Unit : order.Other;
   }
 
+  /// The first place of a move; where a fleet is named, the move goes on over its water.
+  States FirstPlaces(const State& state) {
+    States places = Destinations(state);
+    const auto [type, next] = phrases_.TypeAt(state.Next);
+    if (type != 'F') return places;
+    State fleet = state;
+    fleet.Next = next;
+    for (State& place : Destinations(fleet)) {
+      const bool goesOn = phrases_.VerbAt(place.Next).first == Verb::Move;
+      if (goesOn && phrases_.IsWater(place.Order.Destination)) places.push_back(std::move(place));
+    }
+    return places;
+  }
+
   /// A destination, or a road over waters to it.
   States Moves(const State& state) {
     States ends;
-    States roads = Destinations(state);
+    States roads = FirstPlaces(state);
     std::vector<std::size_t> seen;
     while (!roads.empty()) {
       State road = std::move(roads.back());
@@ -151,11 +192,12 @@ class Grammar {
         State further = road;
         further.Next = next;
         further.Order.ByConvoy = true;
-        Append(roads, Destinations(further));
+        Append(roads, FirstPlaces(further));
       }
-      if (const std::size_t via = phrases_.PastVia(road.Next); via != road.Next) {
+      const std::size_t via = phrases_.PastVia(road.Next);
+      if (const std::size_t end = phrases_.PastConvoy(via); end != road.Next) {
         road.Order.ByConvoy = true;
-        road.Next = via;
+        road.Next = end;
       }
       ends.push_back(std::move(road));
     }
@@ -165,29 +207,40 @@ class Grammar {
   States Supports(State state) {
     States all;
     state.Next = phrases_.PastNoun(state.Next);
-    if (const auto [verb, next] = phrases_.VerbAt(state.Next); verb == Verb::Move) {
-      State aimed = state;
-      aimed.Next = next;
-      aimed.Order.OtherWhat = Verb::Move;
+    const auto [verb, next] = phrases_.VerbAt(state.Next);
+    State behind = state;
+    behind.Next = next;
+    if (verb == Verb::Move) {
+      State aimed = behind;
+      aimed.Order.OtherWhat = verb;
       Append(all, Destinations(aimed));
-    }
-    for (State& read : Units(state, &WrittenOrder::Other)) {
-      all.push_back(read);
-      const auto [verb, next] = phrases_.VerbAt(read.Next);
-      if (verb != Verb::Move && verb != Verb::Hold) continue;
-      read.Next = next;
-      read.Order.OtherWhat = verb;
-      if (verb == Verb::Hold) {
-        all.push_back(std::move(read));
-      } else {
-        Append(all, Moves(read));
+      for (const State& read : Units(behind, &WrittenOrder::Other)) {
+        const bool moves = phrases_.VerbAt(read.Next).first == Verb::Move;
+        if (moves || read.Order.Other.Type != 0) AddSupports(all, read);
       }
+    } else if (verb == Verb::Hold) {
+      behind.Order.OtherWhat = verb;
+      Append(all, Units(behind, &WrittenOrder::Other));
     }
+    for (const State& read : Units(state, &WrittenOrder::Other))
+      AddSupports(all, read);
     return all;
   }
 
+  /// Adds what the supported unit can do.
+  void AddSupports(States& all, State state) {
+    all.push_back(state);
+    const auto [verb, next] = phrases_.VerbAt(state.Next);
+    if (verb != Verb::Move && verb != Verb::Hold) return;
+    state.Next = next;
+    state.Order.OtherWhat = verb;
+    if (verb == Verb::Move) return Append(all, Moves(state));
+    state.Next = phrases_.PastPlace(next, state.Order.Other.Place);
+    all.push_back(std::move(state));
+  }
+
   States Convoys(State state) {
-    States all;
+    States all = ConvoyedMoves(state, state.Next);
     state.Next = phrases_.PastNoun(state.Next);
     for (State& read : Units(state, &WrittenOrder::Other)) {
       all.push_back(read);

@@ -37,7 +37,13 @@ bool Is(Tokens tokens, std::size_t at, TokenKind kind) {
   return at < tokens.size() && IsA(tokens[at], kind);
 }
 
-/// Behind "1.", "1)", "1:", "(1)", "#1", "a)"; the letters A and F only before a unit type.
+/// "i" to "xxxix".
+bool IsRoman(const Token& token) {
+  constexpr std::size_t longest = 6;
+  return token.Text.size() <= longest && token.Text.find_first_not_of("ivx") == std::string::npos;
+}
+
+/// Behind "1.", "1)", "1:", "(1)", "#1", "iv.", "a)"; the letters A and F only before a unit type.
 std::size_t PastNumber(Tokens tokens, std::size_t at) {
   std::size_t next = at;
   constexpr std::size_t longest = 3;
@@ -52,14 +58,35 @@ std::size_t PastNumber(Tokens tokens, std::size_t at) {
   if (IsNumber(word) && word.Text.size() <= longest && (isMarked || !isOpen)) {
     return next + (isMarked ? 1 : 0);
   }
+  if (isMarked && IsRoman(word)) return next + 1;
   if (word.Text.size() != 1 || !Is(tokens, next, TokenKind::Close)) return at;
   const bool startsUnit = next + 1 < tokens.size() && (UnitTypeOf(tokens[next + 1]) != 0 ||
                                                        PowerAt(tokens, next + 1).Power != 0);
   return UnitTypeOf(word) == 0 || startsUnit ? next + 1 : at;
 }
 
-/// Behind "[10:15, 3/1/2024]" or "<name>".
+/// Behind "10:15" and "2024-03-01, 10:15:30 pm"; the same token when no time stands there.
+std::size_t PastTime(Tokens tokens, std::size_t at) {
+  bool isTime = false;
+  std::size_t next = at;
+  while (next < tokens.size()) {
+    const Token& token = tokens[next];
+    const bool isHalf = IsWord(token, "am") || IsWord(token, "pm");
+    const bool isColon = token.Kind == TokenKind::Colon && token.Glued &&
+                         Is(tokens, next + 1, TokenKind::Word) && tokens[next + 1].Glued &&
+                         IsNumber(tokens[next + 1]);
+    const bool isMark = token.Text == "-" || token.Kind == TokenKind::Slash ||
+                        token.Kind == TokenKind::Dot || token.Kind == TokenKind::Comma;
+    isTime = isTime || isColon;
+    if (!isHalf && !isColon && !isMark && !IsNumber(token)) break;
+    ++next;
+  }
+  return isTime ? next : at;
+}
+
+/// Behind "[10:15, 3/1/2024]", "10:15", "<name>" or "10:15 <name>".
 std::size_t PastStamp(Tokens tokens, std::size_t at) {
+  at = PastTime(tokens, at);
   if (Is(tokens, at, TokenKind::Mark) && tokens[at].Text == "<") {
     for (std::size_t next = at + 1; next < tokens.size(); ++next) {
       const bool isStruckOut = IsWord(tokens[next], "s") || IsWord(tokens[next], "del") ||
@@ -84,6 +111,10 @@ std::size_t PastStamp(Tokens tokens, std::size_t at) {
 
 constexpr int Strong = 2;
 
+bool IsSign(const Token& token) {
+  return token.Kind == TokenKind::Dash || token.Kind == TokenKind::Open;
+}
+
 /// How much the verb at a token speaks for an order: 0 to 2.
 int VerbEvidence(Tokens tokens, std::size_t at) {
   const Token& token = tokens[at];
@@ -98,14 +129,15 @@ int VerbEvidence(Tokens tokens, std::size_t at) {
   return verb == Verb::Move ? 1 : Strong;
 }
 
-/// How much a place at a token speaks for an order. War, gas and bar are words as well.
-int PlaceEvidence(Tokens tokens, std::size_t at, const PlaceNames& names) {
+/// How much a place at a token speaks for an order. War, gas and bar are words as well, but hardly
+/// where there are no others.
+int PlaceEvidence(Tokens tokens, std::size_t at, const PlaceNames& names, bool isBrief) {
   const auto matches = names.At(tokens, at);
   const std::string& word = tokens[at].Text;
   constexpr std::size_t shortName = 3;
   if (matches.empty()) return names.NearlyNamed(word).empty() ? 0 : Strong;
   if (word.size() <= shortName && matches.back().Next == at + 1) {
-    return tokens[at].Capital && matches.back().IsExact ? Strong : 1;
+    return (tokens[at].Capital || isBrief) && matches.back().IsExact ? Strong : 1;
   }
   return Strong;
 }
@@ -128,11 +160,18 @@ Evidence Weigh(Tokens tokens, const PlaceNames& names) {
     const bool moves = VerbOf(token) == Verb::Move && token.Kind == TokenKind::Word;
     (moves ? evidence.Moves : evidence.Commands) += verb != 0 && words <= few ? Strong : verb;
     if (!IsWordToken(token)) continue;
-    evidence.Places += PlaceEvidence(tokens, at, names);
+    evidence.Places += PlaceEvidence(tokens, at, names, words <= few);
     if (UnitTypeOf(token) != 0 && token.Text.size() > 1) evidence.Commands += Strong;
-    if (isFirst && UnitTypeOf(token) != 0) ++evidence.Moves;
-    if (isFirst && words < few && PowerAt(tokens, at).Power != 0) evidence.Commands += Strong;
-    isFirst = false;
+    if (isFirst && UnitTypeOf(token) != 0) {
+      // "A" begins many sentences, but few that are short and not of words alone.
+      const bool isShort = words > 1 && words <= few + 1;
+      const bool isMarked = UnitTypeOf(token) == 'F' || std::ranges::any_of(tokens, IsSign);
+      evidence.Moves += isShort && isMarked ? Strong : 1;
+    }
+    const PowerName power = isFirst ? PowerAt(tokens, at) : PowerName{};
+    if (power.Power != 0 && words < few) evidence.Commands += Strong;
+    // A unit may follow a power.
+    isFirst = power.Power != 0;
   }
   return evidence;
 }
@@ -160,12 +199,15 @@ std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
       continue;
     }
     ++at;
-    if (token.Kind == TokenKind::Mark && token.Text != "#") return {};
+    const bool isSymbol = static_cast<unsigned char>(token.Text[0]) >= 0x80;
+    if (token.Kind == TokenKind::Mark && token.Text != "#" && !isSymbol) return {};
     if (token.Kind != TokenKind::Word) continue;
     if (!IsHeadingWord(token)) return {};
     hasWord = true;
     const Verb verb = VerbOf(token);
-    if (verb == Verb::Build || verb == Verb::Disband) heading.Orders = verb;
+    if (verb == Verb::Build || verb == Verb::Disband || verb == Verb::Retreat) {
+      heading.Orders = verb;
+    }
   }
   return hasWord ? std::optional(heading) : std::nullopt;
 }
@@ -203,11 +245,20 @@ bool IsMailHead(Tokens tokens, const PlaceNames& names) {
     const bool isRoad = IsWord(tokens[0], "from") || IsWord(tokens[0], "to");
     return !isRoad || HasAddress(tokens) || !HoldsOrders(tokens.subspan(2), names);
   }
+  return IsQuotationHead(tokens);
+}
+
+bool IsQuotationHead(Tokens tokens) {
   const auto isQuoting = [](const Token& token) {
     return IsWord(token, "wrote") || IsWord(token, "writes") || IsWord(token, "schrieb") ||
            IsWord(token, "said");
   };
-  return Is(tokens, tokens.size() - 1, TokenKind::Colon) && std::ranges::any_of(tokens, isQuoting);
+  for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
+    const bool isOld = IsWord(tokens[at], "original") || IsWord(tokens[at], "forwarded");
+    if (isOld && IsWord(tokens[at + 1], "message")) return true;
+  }
+  return !tokens.empty() && IsA(tokens.back(), TokenKind::Colon) &&
+         std::ranges::any_of(tokens, isQuoting);
 }
 
 bool IsNoOrder(Tokens tokens, const PlaceNames& names, bool inSignature) {

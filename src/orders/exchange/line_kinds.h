@@ -2,6 +2,7 @@
 
 #include "orders/exchange/place_names.h"
 #include "orders/exchange/vocabulary.h"
+#include "orders/exchange/written_order.h"
 
 #include <optional>
 
@@ -10,8 +11,13 @@ namespace orb::exchange {
 /// What a heading says of the lines below it.
 struct Heading {
   int Power = 0;             ///< 1..7, 0: none named
-  Verb Orders = Verb::None;  ///< Build or Disband for "Builds:"
+  Verb Orders = Verb::None;  ///< Build, Disband or Retreat for "Builds:" and the like
 };
+
+/// Whether the stage has such headings: "Remove:" takes a move back.
+inline bool IsHeadingOf(OrderStage stage, const Heading& heading) {
+  return stage != OrderStage::Moves || heading.Orders != Verb::Disband;
+}
 
 /// The heading that all the tokens are; nothing when they are none.
 std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names);
@@ -22,6 +28,9 @@ std::size_t PastLineStart(Tokens tokens);
 
 /// Whether a line belongs to the head of a mail or tells whose words are quoted.
 bool IsMailHead(Tokens tokens, const PlaceNames& names);
+
+/// Whether what is quoted follows the line: "Tom wrote:", "--- Original Message ---".
+bool IsQuotationHead(Tokens tokens);
 
 /// Whether a text that was not understood is surely no order: a greeting or words with none, or
 /// hardly any, that orders are made of. `inSignature`: places alone make no order there.

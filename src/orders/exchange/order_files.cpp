@@ -1,11 +1,75 @@
 #include "orders/exchange/order_files.h"
 
+#include "model/errors.h"
 #include "model/seasons.h"
 #include "orders/order_list.h"
 
 #include <algorithm>
 
 namespace orb::exchange {
+namespace {
+
+void AppendUtf8(std::string& text, char32_t character) {
+  constexpr char32_t low = 0x3F;
+  const auto add = [&](char32_t byte) { text += static_cast<char>(byte); };
+  if (character < 0x80) return add(character);
+  if (character < 0x800) {
+    add(0xC0 | (character >> 6U));
+  } else if (character < 0x10000) {
+    add(0xE0 | (character >> 12U));
+    add(0x80 | ((character >> 6U) & low));
+  } else {
+    add(0xF0 | (character >> 18U));
+    add(0x80 | ((character >> 12U) & low));
+    add(0x80 | ((character >> 6U) & low));
+  }
+  add(0x80 | (character & low));
+}
+
+/// Bytes of UTF-16 as UTF-8; half characters become U+FFFD.
+std::string FromUtf16(std::string_view bytes, bool isLowFirst) {
+  constexpr char32_t replacement = 0xFFFD;
+  std::string text;
+  char32_t high = 0;
+  const auto end = [&] {
+    if (high != 0) AppendUtf8(text, replacement);
+    high = 0;
+  };
+  for (std::size_t at = 0; at + 1 < bytes.size(); at += 2) {
+    const auto first = static_cast<unsigned char>(bytes[at + (isLowFirst ? 1 : 0)]);
+    const auto second = static_cast<unsigned char>(bytes[at + (isLowFirst ? 0 : 1)]);
+    const char32_t unit = static_cast<char32_t>(first) << 8U | second;
+    if (unit >= 0xDC00 && unit < 0xE000 && high != 0) {
+      AppendUtf8(text, 0x10000 + ((high - 0xD800) << 10U) + (unit - 0xDC00));
+      high = 0;
+      continue;
+    }
+    end();
+    if (unit >= 0xD800 && unit < 0xDC00) {
+      high = unit;
+    } else {
+      AppendUtf8(text, unit >= 0xDC00 && unit < 0xE000 ? replacement : unit);
+    }
+  }
+  end();
+  return text;
+}
+
+}  // namespace
+
+std::string OrdersFileText(std::string bytes, const std::string& fileName) {
+  const bool isLowFirst = bytes.starts_with("\xFF\xFE");
+  if (isLowFirst || bytes.starts_with("\xFE\xFF")) {
+    bytes = FromUtf16(std::string_view(bytes).substr(2), isLowFirst);
+  }
+  if (bytes.find('\0') != std::string::npos) {
+    throw model::FileError(fileName +
+                           " is no text file that can be read: it holds bytes of value 0. Orders "
+                           "are read from texts in UTF-8, Windows-1252 or UTF-16 with its byte "
+                           "order mark.");
+  }
+  return bytes;
+}
 
 int FileOrders(model::GameState& game, const std::vector<ReadLine>& lines, std::string_view power) {
   int filed = 0;

@@ -9,6 +9,10 @@
 
 namespace orb::exchange {
 
+/// The text that a file of orders holds, in UTF-8 or Windows-1252: UTF-16 with its byte order mark
+/// is converted. Throws FileError, naming the file, for what is no such text.
+std::string OrdersFileText(std::string bytes, const std::string& fileName);
+
 /// Files what was understood into the list of the game's stage, each line by the rule of a typed
 /// one; with a power, that power's orders alone. How many were filed. Unclear lines are left out.
 int FileOrders(model::GameState& game, const std::vector<ReadLine>& lines,

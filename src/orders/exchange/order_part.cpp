@@ -7,20 +7,45 @@
 namespace orb::exchange {
 namespace {
 
-/// Behind a heading that ends in a colon, whose power and orders go into the context.
-std::size_t PastHeading(Tokens tokens, const PlaceNames& names, Context& context) {
-  const auto colon = std::ranges::find(tokens, TokenKind::Colon, &Token::Kind);
-  const auto length = static_cast<std::size_t>(colon - tokens.begin());
-  if (length + 1 >= tokens.size()) return 0;
-  const auto heading = ReadHeading(tokens.first(length), names);
-  if (!heading) return 0;
-  if (heading->Power != 0) context.Power = heading->Power;
-  if (heading->Orders != Verb::None) context.Orders = heading->Orders;
-  return length + 1;
+/// Behind the words "my orders are", or 0.
+std::size_t PastOrdersAre(Tokens tokens) {
+  std::size_t past = 0;
+  bool isOfOrders = false;
+  for (std::size_t at = 0; at < tokens.size(); ++at) {
+    const PowerName power = PowerAt(tokens, at);
+    if (power.Power == 0 && !IsHeadingWord(tokens[at])) break;
+    const bool isOrders = IsWord(tokens[at], "order") || IsWord(tokens[at], "orders");
+    isOfOrders = isOfOrders || isOrders;
+    if (isOrders || (isOfOrders && IsWord(tokens[at], "are"))) past = at + 1;
+    if (power.Power != 0) at = power.Next - 1;
+  }
+  return past;
 }
 
-void LeaveInContext(const WrittenOrder& order, Context& context) {
+/// Behind a heading before the order, whose power and orders go into the context.
+std::size_t PastHeading(Tokens tokens, const Situation& situation, Context& context) {
+  const auto lengthTo = [&](TokenKind kind) {
+    return static_cast<std::size_t>(std::ranges::find(tokens, kind, &Token::Kind) - tokens.begin());
+  };
+  const std::size_t colon = lengthTo(TokenKind::Colon);
+  const std::size_t dot = lengthTo(TokenKind::Dot);
+  for (const auto& [length, past] : {std::pair(colon, colon + 1), std::pair(dot, dot + 1),
+                                     std::pair(PastOrdersAre(tokens), PastOrdersAre(tokens))}) {
+    if (length == 0 || past >= tokens.size()) continue;
+    const auto heading = ReadHeading(tokens.first(length), situation.Names);
+    if (!heading || !IsHeadingOf(situation.Stage, *heading)) continue;
+    if (heading->Power != 0) context.Power = heading->Power;
+    if (heading->Orders != Verb::None) context.Orders = heading->Orders;
+    return past;
+  }
+  return 0;
+}
+
+/// `first` is the order's first token: in retreats "A Bur D" says nothing of the unit behind it.
+void LeaveInContext(const WrittenOrder& order, const Token& first, OrderStage stage,
+                    Context& context) {
   if (order.Power != 0) context.Power = order.Power;
+  if (stage == OrderStage::Retreats && VerbOf(first) == Verb::None) return;
   if (order.What == Verb::Build || order.What == Verb::Disband) context.Orders = order.What;
 }
 
@@ -28,19 +53,23 @@ void LeaveInContext(const WrittenOrder& order, Context& context) {
 
 PartRead ReadPart(Tokens tokens, const Situation& situation, Context& context) {
   PartRead part;
-  const std::size_t start = PastHeading(tokens, situation.Names, context);
-  const Verb verb = situation.Stage == OrderStage::Adjustments ? context.Orders : Verb::None;
+  std::size_t start = 0;
+  for (std::size_t past = 1; past != 0; start += past)
+    past = PastHeading(tokens.subspan(start), situation, context);
+  const bool isImplied =
+      situation.Stage == OrderStage::Adjustments || context.Orders == Verb::Disband;
+  const Verb verb = isImplied ? context.Orders : Verb::None;
   const Parse parse = ParseWrittenOrder(tokens.subspan(start), situation.Names, *situation.Game.Map,
                                         situation.Stage, verb);
   if (!parse.Orders.empty() && parse.Orders[0].What == Verb::Waive) {
-    LeaveInContext(parse.Orders[0], context);
+    LeaveInContext(parse.Orders.back(), tokens[start], situation.Stage, context);
     part.Power = context.Power;
     part.Kind = LineKind::Waive;
     return part;
   }
   part.Meant = FindMeanings(parse.Orders, situation, context.Power);
   if (!part.Meant.All.empty()) {
-    LeaveInContext(parse.Orders.back(), context);
+    LeaveInContext(parse.Orders.back(), tokens[start], situation.Stage, context);
     part.Kind = part.Meant.All.size() == 1 ? LineKind::Order : LineKind::Ambiguous;
     return part;
   }

@@ -9,7 +9,7 @@ namespace orb::exchange {
 /// What holds for the orders of a text or line that do not say it themselves.
 struct Context {
   int Power = 0;             ///< 1..7, 0: none
-  Verb Orders = Verb::None;  ///< Build or Disband
+  Verb Orders = Verb::None;  ///< Build, Disband or Retreat
 };
 
 /// Some tokens read as one order.

@@ -17,9 +17,10 @@ bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& word
 constexpr std::array<std::string_view, 5> InWords{"in", "at", "from", "of", "the"};
 constexpr std::array<std::string_view, 6> ViaWords{"via", "by", "using", "with", "through", "over"};
 constexpr std::array<std::string_view, 6> SeaWords{"convoy", "convoys", "sea", "c", "water", "cv"};
-constexpr std::array<std::string_view, 6> HoldTails{"position", "fast",  "still",
-                                                    "in",       "place", "firm"};
-constexpr std::array<std::string_view, 5> MoveTails{"against", "toward", "towards", "on", "upon"};
+constexpr std::array<std::string_view, 7> HoldTails{"position", "fast", "still", "in",
+                                                    "place",    "firm", "put"};
+constexpr std::array<std::string_view, 6> MoveTails{"against", "toward", "towards",
+                                                    "on",      "upon",   "for"};
 constexpr std::array<std::string_view, 4> Nouns{"move", "attack", "advance", "of"};
 constexpr std::array<std::string_view, 12> CountWords{
     "one", "two", "a", "all", "remaining", "rest", "any", "other", "of", "both", "last", "for"};
@@ -44,23 +45,44 @@ bool Phrases::Is(std::size_t at, std::string_view word) const {
   return at < tokens_.size() && IsWord(tokens_[at], word);
 }
 
+bool Phrases::IsPassedOver(std::size_t at) const {
+  return Is(at, TokenKind::Open) || Is(at, TokenKind::Close) || Is(at, TokenKind::Comma) ||
+         Is(at, TokenKind::Dot) || (at < tokens_.size() && IsFiller(tokens_[at]));
+}
+
 std::size_t Phrases::Skip(std::size_t at) const {
-  while (at < tokens_.size()) {
-    const Token& token = tokens_[at];
-    const bool counts = token.Kind != TokenKind::Open && token.Kind != TokenKind::Close &&
-                        token.Kind != TokenKind::Comma && token.Kind != TokenKind::Dot;
-    if (counts && !IsFiller(token)) break;
+  while (IsPassedOver(at))
     ++at;
-  }
   return at;
 }
 
-/// A bracket that opens between a unit and its verb begins a comment.
-std::size_t Phrases::SkipNoBracket(std::size_t at) const {
-  const std::size_t end = Skip(at);
-  const Tokens passed = tokens_.subspan(std::min(at, end), end - std::min(at, end));
-  return std::ranges::find(passed, TokenKind::Open, &Token::Kind) == passed.end() ? end
-                                                                                  : tokens_.size();
+/// "(H)"; "(S)" before a move is a coast.
+bool Phrases::IsVerbInBrackets(std::size_t at) const {
+  if (!Is(at, TokenKind::Open) || !Is(at + 2, TokenKind::Close)) return false;
+  if (VerbOf(tokens_[at + 1]) == Verb::None) return false;
+  const std::size_t next = at + 3;
+  const bool moves = next < tokens_.size() && VerbOf(tokens_[next]) == Verb::Move;
+  return !moves || CoastLetter(tokens_[at + 1].Text) == 0;
+}
+
+/// Where the verb of a unit can stand. A bracket that opens before it begins a comment, unless it
+/// holds a verb alone or tells that the unit is dislodged.
+std::size_t Phrases::ToVerb(std::size_t at) const {
+  while (at < tokens_.size()) {
+    if (Is(at, TokenKind::Open)) {
+      if (IsVerbInBrackets(at)) return at + 1;
+      const std::size_t close = ClosingBracket(tokens_, at);
+      if (!Is(at + 1, "dislodged") || close == tokens_.size()) return tokens_.size();
+      at = close;
+    } else if (Is(at, TokenKind::Colon)) {
+      const std::size_t next = ToVerb(at + 1);
+      return next < tokens_.size() && VerbOf(tokens_[next]) != Verb::None ? next : at;
+    } else if (!IsPassedOver(at)) {
+      break;
+    }
+    ++at;
+  }
+  return at;
 }
 
 PowerName Phrases::Power(std::size_t at) const {
@@ -75,7 +97,7 @@ std::vector<int> Phrases::CoastRows(const std::vector<int>& provinces, char lett
   return rows;
 }
 
-/// "Spa(sc)", "Spa/s", "Spa.s", "Spa-sc", "Spain, south coast".
+/// "Spa(sc)", "Spa/s", "Spa.s", "Spa-sc", "Spa (s.c.)", "Spain, south coast".
 void Phrases::AddCoasts(const PlaceMatch& match, std::size_t at, Read<WrittenPlace>& places) const {
   std::size_t next = match.Next;
   const bool isOpen = Is(next, TokenKind::Open);
@@ -87,8 +109,12 @@ void Phrases::AddCoasts(const PlaceMatch& match, std::size_t at, Read<WrittenPla
   const char letter = CoastLetter(tokens_[next].Text);
   std::vector<int> rows = CoastRows(match.Rows, letter);
   if (letter == 0 || rows.empty()) return;
-  ++next;
-  if (Is(next, "coast") || Is(next, "cst")) ++next;
+  const bool isShort = tokens_[next++].Text.size() == 1;
+  if (isShort && Is(next, TokenKind::Dot) && Is(next + 1, "c")) {
+    next += Is(next + 2, TokenKind::Dot) ? 3 : 2;
+  } else if (Is(next, "coast") || Is(next, "cst")) {
+    ++next;
+  }
   if (isOpen && Is(next, TokenKind::Close)) ++next;
   places.push_back({{std::move(rows), {at, next}}, next});
 }
@@ -123,6 +149,33 @@ void Phrases::AddLeadingCoast(std::size_t at, Read<WrittenPlace>& places) const 
     std::vector<int> rows = CoastRows(match.Rows, letter);
     if (!rows.empty()) places.push_back({{std::move(rows), {at, match.Next}}, match.Next});
   }
+}
+
+PowerName Phrases::PowerInBrackets(std::size_t at) const {
+  while (!Is(at, TokenKind::Open) && IsPassedOver(at))
+    ++at;
+  if (!Is(at, TokenKind::Open)) return {};
+  PowerName name = PowerAt(tokens_, at + 1);
+  if (name.Power == 0 || !Is(name.Next, TokenKind::Close)) return {};
+  ++name.Next;
+  return name;
+}
+
+std::pair<char, std::size_t> Phrases::TypeAt(std::size_t at) const {
+  const std::size_t next = Skip(at);
+  const char type = next < tokens_.size() ? UnitTypeOf(tokens_[next]) : '\0';
+  return {type, type == 0 ? at : next + 1};
+}
+
+/// Behind a mark that joins a type to its place: "A-Par", "A: Par".
+std::size_t Phrases::PastMark(std::size_t type) const {
+  const std::size_t mark = type + 1;
+  if (Is(mark, TokenKind::Colon)) return mark + 1;
+  const bool isJoint =
+      Is(mark, TokenKind::Slash) || (mark < tokens_.size() && tokens_[mark].Text == "-");
+  const bool isGlued =
+      isJoint && tokens_[mark].Glued && Is(mark + 1, TokenKind::Word) && tokens_[mark + 1].Glued;
+  return isGlued ? mark + 1 : mark;
 }
 
 /// Behind the same place once more in brackets, "Par (Paris)"; else 0.
@@ -167,7 +220,7 @@ Phrases::Read<WrittenUnit> Phrases::Units(std::size_t at) {
       ++next;
     }
     if (next < tokens_.size()) head.Type = UnitTypeOf(tokens_[next]);
-    if (head.Type != 0) next = Skip(next + 1);
+    if (head.Type != 0) next = Skip(PastMark(next));
     while (next < tokens_.size() && IsOneOf(tokens_[next], InWords))
       next = Skip(next + 1);
     const bool isBare = next == Skip(at);
@@ -178,7 +231,13 @@ Phrases::Read<WrittenUnit> Phrases::Units(std::size_t at) {
       const bool hasTail = behind < tokens_.size() && tokens_[behind].Text.size() > 1;
       if (unit.Type == 0 && hasTail) unit.Type = UnitTypeOf(tokens_[behind]);
       const bool isTail = head.Type == 0 && unit.Type != 0;
-      units.push_back({std::move(unit), behind + (isTail ? 1 : 0)});
+      if (isTail) ++behind;
+      if (const PowerName owner = PowerInBrackets(behind); owner.Power != 0 && unit.Power == 0) {
+        WrittenUnit owned = unit;
+        owned.Power = owner.Power;
+        units.push_back({std::move(owned), owner.Next});
+      }
+      units.push_back({std::move(unit), behind});
     }
   }
   return units;
@@ -186,8 +245,7 @@ Phrases::Read<WrittenUnit> Phrases::Units(std::size_t at) {
 
 std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
   Verb verb = Verb::None;
-  for (std::size_t next = SkipNoBracket(at); next < tokens_.size();
-       next = SkipNoBracket(next + 1)) {
+  for (std::size_t next = ToVerb(at); next < tokens_.size(); next = ToVerb(next + 1)) {
     const Verb word = VerbOf(tokens_[next]);
     const bool isFirst = verb == Verb::None;
     const bool isTail = (verb == Verb::Hold && IsOneOf(tokens_[next], HoldTails)) ||
@@ -203,7 +261,7 @@ std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
 bool Phrases::MayLead(std::size_t at) const {
   at = Skip(at);
   if (at >= tokens_.size() || IsA(tokens_[at], TokenKind::Dash)) return false;
-  return VerbOf(tokens_[at]) != Verb::Move || Is(at, "move") || Is(at, "moves");
+  return VerbOf(tokens_[at]) != Verb::Move || Is(at, "move") || Is(at, "moves") || Is(at, "send");
 }
 
 bool Phrases::IsWater(const WrittenPlace& place) const {
@@ -239,7 +297,23 @@ std::size_t Phrases::PastVia(std::size_t at) const {
   return end;
 }
 
+std::size_t Phrases::PastConvoy(std::size_t at) const {
+  const std::size_t next = Skip(at);
+  return Is(next, "convoy") && !Is(next + 1, TokenKind::Word) ? next + 1 : at;
+}
+
+std::size_t Phrases::PastPlace(std::size_t at, const WrittenPlace& place) const {
+  std::size_t next = Skip(at);
+  while (next < tokens_.size() && IsOneOf(tokens_[next], InWords))
+    next = Skip(next + 1);
+  for (const PlaceMatch& match : names_.At(tokens_.subspan(std::min(next, tokens_.size())), 0)) {
+    if (match.Rows == place.Rows) return next + match.Next;
+  }
+  return at;
+}
+
 std::size_t Phrases::PastNoun(std::size_t at) const {
+  if (Is(at, TokenKind::Colon)) ++at;
   std::size_t next = Skip(at);
   while (next + 1 < tokens_.size() && IsOneOf(tokens_[next], Nouns) &&
          VerbOf(tokens_[Skip(next + 1) < tokens_.size() ? Skip(next + 1) : next]) == Verb::None) {
@@ -306,7 +380,7 @@ void Phrases::SetProblem(std::string reason, TokenRange at) {
 void Phrases::Unknown(std::size_t at, std::string_view reason, std::size_t end) {
   std::string quoted = Quoted(tokens_.subspan(at, end - at));
   const std::string_view near = names_.NearlyNamed(tokens_[at].Text);
-  if (!near.empty()) {
+  if (!near.empty() && names_.At(tokens_, at).empty()) {
     return SetProblem(quoted.append(NotOnTheMap).append("; ").append(near).append("?"), {at, end});
   }
   SetProblem(quoted.append(reason), {at, end});

@@ -38,10 +38,18 @@ class Phrases {
 
   bool IsWater(const WrittenPlace& place) const;
 
+  /// The power alone in brackets here, "(GER)", and the token behind them.
+  PowerName PowerInBrackets(std::size_t at) const;
+
+  /// The type of unit here, or 0, and the token behind it.
+  std::pair<char, std::size_t> TypeAt(std::size_t at) const;
+
   // Behind words that may stand there; the same token when there are none.
-  std::size_t PastVia(std::size_t at) const;    ///< "via convoy", "by F NTH"
-  std::size_t PastNoun(std::size_t at) const;   ///< "the move of"
-  std::size_t PastCount(std::size_t at) const;  ///< "2 builds"
+  std::size_t PastVia(std::size_t at) const;     ///< "via convoy", "by F NTH"
+  std::size_t PastConvoy(std::size_t at) const;  ///< "(convoy)" behind a move
+  std::size_t PastNoun(std::size_t at) const;    ///< "the move of"
+  std::size_t PastPlace(std::size_t at, const WrittenPlace& place) const;  ///< "in Paris"
+  std::size_t PastCount(std::size_t at) const;                             ///< "2 builds"
   std::size_t PastMarks(std::size_t at) const;  ///< punctuation behind a power or a verb
 
   /// Whether nothing but punctuation and comments is left; else a fault.
@@ -53,7 +61,10 @@ class Phrases {
 
  private:
   std::size_t Skip(std::size_t at) const;
-  std::size_t SkipNoBracket(std::size_t at) const;
+  bool IsPassedOver(std::size_t at) const;
+  std::size_t ToVerb(std::size_t at) const;
+  bool IsVerbInBrackets(std::size_t at) const;
+  std::size_t PastMark(std::size_t type) const;
   bool Is(std::size_t at, TokenKind kind) const;
   bool Is(std::size_t at, std::string_view word) const;
   void SetProblem(std::string reason, TokenRange at);

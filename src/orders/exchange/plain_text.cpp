@@ -9,7 +9,8 @@
 namespace orb::exchange {
 namespace {
 
-/// Characters of one range and what stands for all of them.
+/// Characters of one range and what stands for all of them. Those from U+F000 on are the bullets
+/// and arrows of word processors, those from U+1F1E6 on make flags.
 struct Folding {
   char32_t First;
   char32_t Last;
@@ -27,10 +28,13 @@ constexpr std::array Foldings{
     Folding{0x205F, 0x205F, " "},   Folding{0x2060, 0x2064, ""},   Folding{0x2192, 0x2192, "->"},
     Folding{0x21A6, 0x21A6, "->"},  Folding{0x21D2, 0x21D2, "->"}, Folding{0x2212, 0x2212, "-"},
     Folding{0x25A0, 0x25FF, "*"},   Folding{0x2794, 0x2794, "->"}, Folding{0x2799, 0x279E, "->"},
-    Folding{0x27A1, 0x27A1, "->"},  Folding{0x27F6, 0x27F6, "->"}, Folding{0x27F9, 0x27F9, "->"},
-    Folding{0x2B95, 0x2B95, "->"},  Folding{0x3000, 0x3000, " "},  Folding{0xFE00, 0xFE0F, ""},
-    Folding{0xFE58, 0xFE58, "--"},  Folding{0xFE63, 0xFE63, "-"},  Folding{0xFEFF, 0xFEFF, ""},
-    Folding{0xFF0D, 0xFF0D, "-"},
+    Folding{0x2610, 0x2611, "*"},   Folding{0x2705, 0x2705, "*"},  Folding{0x2713, 0x2714, "*"},
+    Folding{0x27A2, 0x27A4, "*"},   Folding{0xF0A7, 0xF0A8, "*"},  Folding{0xF0B7, 0xF0B7, "*"},
+    Folding{0xF0D8, 0xF0D8, "*"},   Folding{0xF0E0, 0xF0E0, "->"}, Folding{0xF0E8, 0xF0E8, "->"},
+    Folding{0x1F1E6, 0x1F1FF, ""},  Folding{0x27A1, 0x27A1, "->"}, Folding{0x27F6, 0x27F6, "->"},
+    Folding{0x27F9, 0x27F9, "->"},  Folding{0x2B95, 0x2B95, "->"}, Folding{0x3000, 0x3000, " "},
+    Folding{0xFE00, 0xFE0F, ""},    Folding{0xFE58, 0xFE58, "--"}, Folding{0xFE63, 0xFE63, "-"},
+    Folding{0xFEFF, 0xFEFF, ""},    Folding{0xFF0D, 0xFF0D, "-"},
 };
 
 /// The letters U+00C0 to U+00FF without their accents.

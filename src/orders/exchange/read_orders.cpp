@@ -4,9 +4,13 @@
 #include "model/text.h"
 #include "orders/exchange/comments.h"
 #include "orders/exchange/exact_line.h"
+#include "orders/exchange/glued_types.h"
 #include "orders/exchange/line_kinds.h"
+#include "orders/exchange/markup.h"
 #include "orders/exchange/order_part.h"
 #include "orders/exchange/phrases.h"
+#include "orders/exchange/quotations.h"
+#include "orders/exchange/run_on.h"
 
 #include <algorithm>
 
@@ -33,6 +37,7 @@ SourceLine CutLine(int number, std::string_view bytes, std::size_t offset,
   line.Bytes = bytes.substr(start, end == std::string_view::npos ? 0 : end + 1 - start);
   line.Plain = ToPlain(line.Bytes, line.Offset);
   line.IsTooLong = !Repair(line.Plain, repairs);
+  if (!line.IsTooLong) DropTags(line.Plain);
   return line;
 }
 
@@ -82,6 +87,7 @@ class TextReader {
                                 options_.Repairs);
       ReadLineOf(line);
     }
+    SetAsideReplaced(lines_, quoted_, situation_.Stage == OrderStage::Adjustments);
     return std::move(lines_);
   }
 
@@ -91,7 +97,7 @@ class TextReader {
     if (line.Bytes.empty()) {
       AddLine(line, LineKind::PassedOver);
     } else if (!ReadExact(line)) {
-      line.All = CutTokens(line.Plain.Text);
+      CutLineTokens(line);
       const TokenRange body{PastLineStart(line.All), line.All.size()};
       Context context = context_;
       const PartRead part = ReadPart(PartOf(line, body), situation_, context);
@@ -105,11 +111,17 @@ class TextReader {
     return Tokens(line.All).subspan(range.Begin, range.End - range.Begin);
   }
 
+  void CutLineTokens(SourceLine& line) const {
+    line.All = CutTokens(line.Plain.Text);
+    PartGluedTypes(line.All, situation_.Names);
+  }
+
   void ReadLineOf(SourceLine& line) {
+    if (!line.IsTooLong) CutLineTokens(line);
+    const Tokens tokens = line.All;
+    quotations_.Take(line.Plain.Text, IsQuotationHead(tokens));
     if (ReadExact(line)) return;
     if (line.IsTooLong) return AddTooLong(line);
-    line.All = CutTokens(line.Plain.Text);
-    const Tokens tokens = line.All;
     TokenRange body{PastLineStart(tokens), tokens.size()};
     const bool hasWord = std::ranges::any_of(
         tokens, [](const Token& token) { return token.Kind == TokenKind::Word; });
@@ -122,8 +134,11 @@ class TextReader {
       AddLine(line, LineKind::PassedOver);
       return;
     }
-    if (const auto heading = ReadHeading(PartOf(line, body), situation_.Names))
+    const auto heading = ReadHeading(PartOf(line, body), situation_.Names);
+    if (heading && IsHeadingOf(situation_.Stage, *heading) &&
+        !IsOrderAlone(PartOf(line, body), *heading)) {
       return AddHeading(line, *heading);
+    }
     const auto isSign = [](const Token& token) {
       return token.Kind == TokenKind::Mark && (token.Text == "#" || token.Text.starts_with("//"));
     };
@@ -132,6 +147,13 @@ class TextReader {
         body.Begin + static_cast<std::size_t>(sign - PartOf(line, body).begin()), body.End};
     body.End = comment.Begin;
     ReadBody(line, body, comment);
+  }
+
+  /// "France: disband" is meant for a dislodged unit, which it does not name.
+  bool IsOrderAlone(Tokens tokens, const Heading& heading) const {
+    return situation_.Stage == OrderStage::Retreats && heading.Orders == Verb::Disband &&
+           VerbOf(tokens.back()) == Verb::Disband &&
+           (tokens.size() == 1 || PowerAt(tokens, 0).Power != 0);
   }
 
   void ReadBody(const SourceLine& line, TokenRange body, TokenRange comment) {
@@ -172,6 +194,10 @@ class TextReader {
                                 ReadParts(line, segment, Seam::FullStop, context))) {
       return;
     }
+    if (!IsUnderstood(read)) {
+      const PartsRead parts = ReadRunOn(PartOf(line, segment), situation_, context);
+      if (!parts.empty()) return AddParts(line, Moved(parts, segment.Begin), context);
+    }
     context = whole;
     AddPart(line, segment, read, context);
   }
@@ -180,13 +206,21 @@ class TextReader {
   /// is an order. As full stops also follow abbreviations, none may stay unclear between them.
   bool ReadParts(const SourceLine& line, TokenRange segment, Seam seam, Context& context) {
     Context tried = context;
-    std::vector<std::pair<TokenRange, PartRead>> parts;
+    PartsRead parts;
     std::size_t condition = segment.End;
     bool isClear = true;
     for (const TokenRange range : Split(line.All, segment, seam)) {
       const Tokens tokens = PartOf(line, range);
-      const PartRead& part = parts.emplace_back(range, ReadPart(tokens, situation_, tried)).second;
-      if (IsUnderstood(part)) continue;
+      Context before = tried;
+      parts.emplace_back(range, ReadPart(tokens, situation_, tried));
+      if (IsUnderstood(parts.back().second)) continue;
+      const PartsRead runOn = Moved(ReadRunOn(tokens, situation_, before), range.Begin);
+      if (!runOn.empty()) {
+        parts.pop_back();
+        parts.insert(parts.end(), runOn.begin(), runOn.end());
+        tried = before;
+        continue;
+      }
       const std::size_t at = FindCondition(tokens);
       if (at < tokens.size() && condition == segment.End) condition = range.Begin + at;
       isClear = isClear && IsNoOrder(tokens, situation_.Names, inSignature_);
@@ -199,9 +233,21 @@ class TextReader {
       AddUnclear(line, segment, {condition, condition + 1}, NotUnderstoodText(line, condition));
       return true;
     }
+    AddParts(line, parts, context);
+    return true;
+  }
+
+  static PartsRead Moved(PartsRead parts, std::size_t begin) {
+    for (auto& [range, part] : parts) {
+      range.Begin += begin;
+      range.End += begin;
+    }
+    return parts;
+  }
+
+  void AddParts(const SourceLine& line, const PartsRead& parts, const Context& context) {
     for (const auto& [range, part] : parts)
       AddPart(line, range, part, context);
-    return true;
   }
 
   bool ReadExact(const SourceLine& line) {
@@ -218,6 +264,7 @@ class TextReader {
 
   ReadLine& Add(const SourceLine& line, Span place, LineKind kind, int power) {
     ReadLine& read = lines_.emplace_back();
+    quoted_.push_back(quotations_.IsQuoted());
     read.Number = line.Number;
     read.Place = place;
     read.Written = line.Bytes.substr(place.Offset - line.Offset, place.Length);
@@ -302,7 +349,9 @@ class TextReader {
   Context context_;
   bool inSignature_ = false;
   bool isSingle_ = false;  ///< the text is an order, whatever it looks like
+  Quotations quotations_;
   std::vector<ReadLine> lines_;
+  std::vector<bool> quoted_;  ///< one for each of the lines
 };
 
 void LearnMoves(const std::vector<ReadLine>& lines, Situation& situation) {

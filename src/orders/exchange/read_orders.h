@@ -36,6 +36,7 @@ struct ReadLine {
   std::string Reason;  ///< why it is unclear; of Order: why it cannot be carried out, or empty
   Span ReasonPlace;  ///< what the reason is about; empty behind the text when something is missing
   std::vector<std::string> Candidates;  ///< of Ambiguous: the orders that it can mean
+  bool IsReplaced = false;              ///< unclear for no other reason than that it is quoted
 };
 
 struct ReadingOptions {

@@ -29,7 +29,7 @@ constexpr std::array Verbs{
     VerbWords{Verb::Move,
               "to into m mv move moves moving attack attacks attacking go goes going advance "
               "advances march marches sail sails enter enters invade "
-              "invades"},
+              "invades head heads heading proceed proceeds travel travels send"},
     VerbWords{Verb::Hold, "h hold holds holding hld stand stands stay stays remain remains"},
     VerbWords{Verb::Support, "s sup supp supports support supporting spt sprt su"},
     VerbWords{Verb::Convoy,
@@ -72,29 +72,38 @@ constexpr std::array Nicknames{
     PowerWords{3, "germans"},
     PowerWords{4, "russians"},
     PowerWords{6, "austrians"},
+    PowerWords{1, "uk"},
+    PowerWords{1, "gb"},
+    PowerWords{5, "ottomans"},
+    PowerWords{6, "ah"},
+    PowerWords{6, "a h"},
 };
 
-constexpr std::array<std::string_view, 16> Fillers{"the", "my",    "our",   "an",   "please", "pls",
-                                                   "plz", "will",  "shall", "is",   "are",    "his",
-                                                   "her", "their", "unit",  "units"};
+constexpr std::array<std::string_view, 17> Fillers{
+    "the", "my",  "our", "an",  "please", "pls",  "plz",   "will",     "shall",
+    "is",  "are", "his", "her", "their",  "unit", "units", "dislodged"};
 
-constexpr std::array<std::string_view, 35> Conditions{
+constexpr std::array<std::string_view, 43> Conditions{
     "if",          "unless",        "otherwise", "else",     "or",       "either",    "maybe",
     "perhaps",     "instead",       "not",       "dont",     "never",    "cancel",    "except",
     "depending",   "should",        "could",     "might",    "may",      "cancelled", "canceled",
     "provided",    "when",          "until",     "ignore",   "no",       "wont",      "option",
-    "alternative", "alternatively", "draft",     "proposal", "proposed", "suggest",   "suggestion"};
+    "alternative", "alternatively", "draft",     "proposal", "proposed", "suggest",   "suggestion",
+    "disregard",   "forget",        "scratch",   "delete",   "undo",     "revoke",    "previously",
+    "old"};
 
-constexpr std::array<std::string_view, 60> HeadingWords{
-    "orders",     "order",       "for",          "from",      "of",      "the",      "my",
-    "our",        "your",        "here",         "are",       "is",      "follow",   "follows",
-    "following",  "these",       "as",           "below",     "in",      "and",      "spring",
-    "autumn",     "fall",        "winter",       "summer",    "season",  "year",     "turn",
-    "phase",      "game",        "player",       "power",     "country", "moves",    "move",
-    "movement",   "movements",   "retreat",      "retreats",  "build",   "builds",   "building",
-    "adjustment", "adjustments", "removal",      "removals",  "disband", "disbands", "final",
-    "new",        "set",         "press",        "submitted", "by",      "revised",  "updated",
-    "gm",         "this",        "disbandments", "with"};
+constexpr std::array<std::string_view, 71> HeadingWords{
+    "orders",     "order",       "for",          "from",        "of",        "the",      "my",
+    "our",        "your",        "here",         "are",         "is",        "follow",   "follows",
+    "following",  "these",       "as",           "below",       "in",        "and",      "spring",
+    "autumn",     "fall",        "winter",       "summer",      "season",    "year",     "turn",
+    "phase",      "game",        "player",       "power",       "country",   "moves",    "move",
+    "movement",   "movements",   "retreat",      "retreats",    "build",     "builds",   "building",
+    "adjustment", "adjustments", "removal",      "removals",    "disband",   "disbands", "final",
+    "new",        "set",         "press",        "submitted",   "by",        "revised",  "updated",
+    "gm",         "this",        "disbandments", "with",        "remove",    "removes",  "removing",
+    "disbanding", "destroys",    "correction",   "corrections", "corrected", "change",   "changes",
+    "update"};
 
 constexpr std::array<std::string_view, 28> Greetings{
     "hi",      "hello",  "hey",    "dear",    "greetings", "good",      "morning",

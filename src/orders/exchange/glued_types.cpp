@@ -1,0 +1,46 @@
+#include "orders/exchange/glued_types.h"
+
+#include "orders/exchange/vocabulary.h"
+
+namespace orb::exchange {
+namespace {
+
+bool IsGluedType(const std::vector<Token>& tokens, std::size_t at, const PlaceNames& names) {
+  const Token& word = tokens[at];
+  constexpr std::size_t shortest = 4;
+  const bool isLong = word.Kind == TokenKind::Word && word.Text.size() >= shortest &&
+                      word.Text.size() == word.Written.size();
+  if (!isLong || (word.Text[0] != 'a' && word.Text[0] != 'f') || word.Text == "from") return false;
+  const auto commands = [&](std::size_t beside) {
+    return beside < tokens.size() &&
+           (VerbOf(tokens[beside]) != Verb::None || IsA(tokens[beside], TokenKind::Open) ||
+            IsA(tokens[beside], TokenKind::Slash));
+  };
+  if (!commands(at + 1) && (at == 0 || !commands(at - 1))) return false;
+  Token place = word;
+  place.Text.erase(0, 1);
+  const auto places = names.At({&place, 1}, 0);
+  return !places.empty() && places[0].IsExact && names.At(tokens, at).empty() &&
+         PowerAt(tokens, at).Power == 0 && VerbOf(word) == Verb::None;
+}
+
+}  // namespace
+
+void PartGluedTypes(std::vector<Token>& tokens, const PlaceNames& names) {
+  for (std::size_t at = 0; at < tokens.size(); ++at) {
+    if (!IsGluedType(tokens, at, names)) continue;
+    Token place = tokens[at];
+    place.Text.erase(0, 1);
+    place.Written.remove_prefix(1);
+    ++place.Begin;
+    place.Glued = true;
+    Token& type = tokens[at];
+    type.Text.resize(1);
+    type.Written = type.Written.substr(0, 1);
+    type.End = place.Begin;
+    ++at;
+    tokens.insert(tokens.begin() + static_cast<std::ptrdiff_t>(at), std::move(place));
+  }
+}
+
+}  // namespace orb::exchange

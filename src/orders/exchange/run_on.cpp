@@ -1,0 +1,132 @@
+#include "orders/exchange/run_on.h"
+
+#include "orders/exchange/comments.h"
+
+#include <map>
+#include <set>
+#include <string>
+#include <tuple>
+
+namespace orb::exchange {
+namespace {
+
+/// More orders than a power, or all of them in a season, have; and longer ones.
+constexpr std::size_t OrderBound = 48;
+constexpr std::size_t LengthBound = 40;
+
+/// Whether "2." or "2)" stands here, before an order of a list.
+bool IsNumbered(Tokens tokens, std::size_t at) {
+  return tokens[at].Kind == TokenKind::Word &&
+         tokens[at].Text.find_first_not_of("0123456789") == std::string::npos &&
+         at + 2 < tokens.size() &&
+         (IsA(tokens[at + 1], TokenKind::Dot) || IsA(tokens[at + 1], TokenKind::Close));
+}
+
+bool MayStart(Tokens tokens, std::size_t at) {
+  if (IsNumbered(tokens, at)) return true;
+  if (UnitTypeOf(tokens[at]) != 0 || PowerAt(tokens, at).Power != 0) return true;
+  const Verb verb = VerbOf(tokens[at]);
+  return tokens[at].Text.size() > 2 && (verb == Verb::Build || verb == Verb::Disband ||
+                                        verb == Verb::Retreat || verb == Verb::Waive);
+}
+
+/// Where an order may begin or the last one ends; those in brackets are left out.
+std::vector<std::size_t> Starts(Tokens tokens) {
+  std::vector<std::size_t> starts{0};
+  for (std::size_t at = 0; at < tokens.size(); ++at) {
+    if (IsA(tokens[at], TokenKind::Open)) {
+      const std::size_t close = ClosingBracket(tokens, at);
+      if (close < tokens.size()) at = close;
+    } else if (at > 0 && MayStart(tokens, at)) {
+      starts.push_back(at);
+    }
+  }
+  starts.push_back(tokens.size());
+  return starts;
+}
+
+/// Finds every way to part tokens into orders.
+class Parting {
+ public:
+  Parting(Tokens tokens, const Situation& situation)
+      : tokens_(tokens), situation_(situation), starts_(Starts(tokens)) {}
+
+  bool IsWorthwhile() const { return starts_.size() > 2 && starts_.size() <= OrderBound; }
+
+  /// How the tokens from a start on can be parted, the first part of one of the ways.
+  struct Ways {
+    int Count = 0;  ///< 2 stands for more too
+    std::size_t Next = 0;
+    Context Behind;
+    PartRead Part;
+  };
+
+  const Ways& From(std::size_t start, const Context& context) {
+    const auto key = std::make_tuple(start, context.Power, context.Orders);
+    if (const auto known = known_.find(key); known != known_.end()) return known->second;
+    Ways ways;
+    for (std::size_t next = start + 1; next < starts_.size() && ways.Count < 2; ++next) {
+      const std::size_t length = starts_[next] - starts_[start];
+      if (length > LengthBound) break;
+      Context behind = context;
+      PartRead part =
+          ReadPart(tokens_.subspan(First(start), starts_[next] - First(start)), situation_, behind);
+      if (!IsUnderstood(part)) continue;
+      const int further = next + 1 == starts_.size() ? 1 : From(next, behind).Count;
+      if (further == 0) continue;
+      ways.Count += further;
+      ways.Next = next;
+      ways.Behind = behind;
+      ways.Part = std::move(part);
+    }
+    return known_[key] = std::move(ways);
+  }
+
+  PartsRead Only(Context& context) {
+    PartsRead parts;
+    if (From(0, context).Count != 1) return parts;
+    for (std::size_t start = 0; start + 1 < starts_.size();) {
+      const Ways& ways = From(start, context);
+      parts.emplace_back(TokenRange{First(start), starts_[ways.Next]}, ways.Part);
+      context = ways.Behind;
+      start = ways.Next;
+    }
+    return parts;
+  }
+
+ private:
+  /// The first token of an order, behind its number.
+  std::size_t First(std::size_t start) const {
+    return starts_[start] + (IsNumbered(tokens_, starts_[start]) ? 2 : 0);
+  }
+
+  Tokens tokens_;
+  const Situation& situation_;
+  std::vector<std::size_t> starts_;
+  std::map<std::tuple<std::size_t, int, Verb>, Ways> known_;
+};
+
+/// Whether two of the orders are for one unit: they may be meant as a choice.
+bool RepeatsUnit(const PartsRead& parts) {
+  std::set<std::string> units;
+  for (const auto& [range, part] : parts) {
+    if (part.Kind != LineKind::Order) continue;
+    const std::string& order = part.Meant.All[0].Line;
+    if (!units.insert(order.substr(0, order.find(')'))).second) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+PartsRead ReadRunOn(Tokens tokens, const Situation& situation, Context& context) {
+  Parting parting(tokens, situation);
+  if (!parting.IsWorthwhile()) return {};
+  Context behind = context;
+  PartsRead parts = parting.Only(behind);
+  if (parts.empty() || RepeatsUnit(parts)) return {};
+  context = behind;
+  return parts;
+}
+
+}  // namespace orb::exchange
