@@ -37,12 +37,7 @@ std::string readOrdersFile(const fs::path& file) {
   if (!error) checkLength(size, file.string());
   std::string text = model::ReadFile(file);
   checkLength(text.size(), file.string());
-  if (text.find('\0') != std::string::npos) {
-    throw model::FileError(file.string() +
-                           " is no text file that can be read: it holds bytes of value 0. Orders "
-                           "are read from texts in UTF-8 or Windows-1252.");
-  }
-  return text;
+  return exchange::OrdersFileText(std::move(text), file.string());
 }
 
 QString countedOrders(int count) {
@@ -82,6 +77,8 @@ void ExchangeCommands::pasteOrders() {
 void ExchangeCommands::preview(ExchangeKind kind, std::string text) {
   ExchangeDialog dialog(m_desk.game(), kind, std::move(text),
                         exchange::ReadTextRepairs(m_desk.dataDirectory()), m_window);
+  connect(&dialog, &ExchangeDialog::helpWanted, this,
+          [&](const QString& topic) { emit helpWanted(topic, &dialog); });
   if (dialog.exec() != QDialog::Accepted) return;
   const int filed = m_desk.fileOrders(dialog.orders());
   if (filed > 0) emit noted(tr("%1 filed.").arg(countedOrders(filed)));

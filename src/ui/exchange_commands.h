@@ -37,6 +37,9 @@ class ExchangeCommands : public QObject {
   /// Something for the status bar: what was done.
   void noted(const QString& text);
 
+  /// The help topic that a dialog asks for.
+  void helpWanted(const QString& topic, QWidget* dialog);
+
  private:
   void preview(ExchangeKind kind, std::string text);
 

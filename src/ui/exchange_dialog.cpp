@@ -6,6 +6,7 @@
 #include "ui/power_choice.h"
 
 #include <QScreen>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace orb::ui {
@@ -94,13 +95,22 @@ QLayout* ExchangeDialog::newButtonRow() {
   m_ok->setToolTip(tr("Puts the ticked orders into the list (Enter)"));
   auto* cancel = newButton(QStringLiteral("butExchangeCancel"), tr("Ca&ncel"));
   cancel->setToolTip(tr("Leaves the list as it is (Esc)"));
+  auto* help = newButton(QStringLiteral("butExchangeHelp"), tr("&Help"));
+  help->setToolTip(tr("Opens the help (F1)"));
+  connect(help, &QPushButton::clicked, this, &ExchangeDialog::wantHelp);
+  new QShortcut(QKeySequence(Qt::Key_F1), this, this, &ExchangeDialog::wantHelp);
   connect(m_ok, &QPushButton::clicked, this, &ExchangeDialog::accept);
   connect(cancel, &QPushButton::clicked, this, &ExchangeDialog::reject);
   auto* row = new QHBoxLayout;
   row->addWidget(m_result, 1);
   row->addWidget(m_ok);
   row->addWidget(cancel);
+  row->addWidget(help);
   return row;
+}
+
+void ExchangeDialog::wantHelp() {
+  emit helpWanted(tr("Exchanging orders"));
 }
 
 void ExchangeDialog::choosePower() {
@@ -120,7 +130,11 @@ void ExchangeDialog::showCounts() {
 
   const bool chosen = m_power == nullptr || m_power->currentIndex() >= 0;
   m_ok->setEnabled(chosen && counts.taken > 0);
-  QStringList result{tr("OK files %1.").arg(counted(counts.taken, tr("order"), tr("orders")))};
+  const QString filed = counted(counts.taken, tr("order"), tr("orders"));
+  QStringList result{counts.replacing == 0 ? tr("OK files %1.").arg(filed)
+                                           : tr("OK files %1, %2 in place of what is in the list.")
+                                                 .arg(filed)
+                                                 .arg(counts.replacing)};
   if (!chosen) result = QStringList{tr("Choose the power first.")};
   const int leftOut = counts.orders - counts.taken;
   if (counts.unclear == 1) result << tr("1 unclear line is left out.");

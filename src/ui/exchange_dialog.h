@@ -34,9 +34,13 @@ class ExchangeDialog : public QDialog {
 
   void accept() override;
 
+ signals:
+  void helpWanted(const QString& topic);
+
  private:
   QLayout* newPowerRow(const model::GameState& game);
   QLayout* newButtonRow();
+  void wantHelp();
   void choosePower();
   void showCounts();
   void showReason();

@@ -1,6 +1,7 @@
 #include "ui/exchange_model.h"
 
 #include "orders/exchange/order_files.h"
+#include "orders/order_list.h"
 #include "render/qt/text_codec.h"
 #include "ui/message_boxes.h"
 #include "ui/order_marks.h"
@@ -135,7 +136,7 @@ void ExchangeModel::rewrite(Line& line, const QString& text) {
 /// What a support can mean depends on the other lines.
 void ExchangeModel::readUnclearAgain() {
   for (Line& line : m_lines) {
-    if (IsUnclear(line.read)) rewrite(line, line.written);
+    if (IsUnclear(line.read) && !line.read.IsReplaced) rewrite(line, line.written);
   }
 }
 
@@ -174,12 +175,15 @@ std::string ExchangeModel::powerOfText() const {
 
 ExchangeModel::Counts ExchangeModel::counts() const {
   Counts counts;
-  for (const Line& line : m_lines) {
+  for (int row = 0; row < rowCount(); ++row) {
+    const Line& line = at(row);
     const bool order = line.read.Kind == LineKind::Order;
     counts.orders += order ? 1 : 0;
     counts.unclear += IsUnclear(line.read) ? 1 : 0;
     counts.ofOthers += isOfOther(line.read) ? 1 : 0;
     counts.taken += order && line.taken ? 1 : 0;
+    const bool isLast = order && line.taken && !isRepeatedBelow(row);
+    counts.replacing += isLast && isReplacing(line.read) ? 1 : 0;
   }
   return counts;
 }
@@ -200,6 +204,13 @@ bool ExchangeModel::isRepeatedBelow(int row) const {
   const std::string_view unit = unitOf(line(row));
   return std::any_of(m_lines.begin() + row + 1, m_lines.end(), [&](const Line& below) {
     return below.read.Kind == LineKind::Order && below.taken && unitOf(below.read) == unit;
+  });
+}
+
+bool ExchangeModel::isReplacing(const ReadLine& line) const {
+  const auto& list = orders::StageList(m_game);
+  return std::any_of(list.begin(), list.end(), [&](const std::string& filed) {
+    return filed != line.Order && filed.starts_with(unitOf(line));
   });
 }
 

@@ -25,6 +25,7 @@ class ExchangeModel : public QAbstractTableModel {
     int unclear = 0;   ///< not understood or ambiguous
     int ofOthers = 0;  ///< orders of other powers than the chosen one
     int taken = 0;
+    int replacing = 0;  ///< units whose orders in the list give way to those that are taken
   };
 
   /// The game must outlive the model. The text is UTF-8 or Windows-1252.
@@ -75,6 +76,7 @@ class ExchangeModel : public QAbstractTableModel {
   void takeAnew(const std::vector<Line>& before);
   bool isOfOther(const exchange::ReadLine& line) const;
   bool isRepeatedBelow(int row) const;
+  bool isReplacing(const exchange::ReadLine& line) const;
   QString doubt(int row, const exchange::ReadLine& line) const;
   QVariant understoodData(int row, int role) const;
   QVariant writtenData(int row, int role) const;

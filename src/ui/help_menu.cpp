@@ -73,6 +73,17 @@ void HelpMenu::showTopic(const QString& caption) {
   m_help->showTopic(caption);
 }
 
+void HelpMenu::showTopicOver(const QString& caption, QWidget* dialog) {
+  if (m_topics.empty()) return m_messages.Show(m_fault, model::Icon::Exclamation);
+  // A modal dialog keeps all windows from the user but those over it.
+  auto* help = dialog->findChild<HelpWindow*>();
+  if (help == nullptr) {
+    help = new HelpWindow(m_topics, dialog);
+    help->setWindowFlag(Qt::Window);
+  }
+  help->showTopic(caption);
+}
+
 /// F1 opens the topic of the current stage.
 void HelpMenu::showStage() {
   const QString wanted = topicOf(m_desk.now());

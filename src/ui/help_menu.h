@@ -23,6 +23,9 @@ class HelpMenu : public QMenu {
   /// Opens the help window on a topic.
   void showTopic(const QString& caption);
 
+  /// Opens one that can be used while the dialog is up, and closes with it.
+  void showTopicOver(const QString& caption, QWidget* dialog);
+
  private:
   void addTopics(QString& takenKeys);
   void showStage();

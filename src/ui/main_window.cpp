@@ -166,6 +166,7 @@ void MainWindow::createMenus() {
   menuBar()->addMenu(m_mapMenu);
   m_helpMenu = new HelpMenu(m_desk, m_messages, this);
   menuBar()->addMenu(m_helpMenu);
+  connect(m_exchange, &ExchangeCommands::helpWanted, m_helpMenu, &HelpMenu::showTopicOver);
 }
 
 void MainWindow::createToolbar() {

@@ -1,6 +1,7 @@
 #include "model/files.h"
 #include "support/directories.h"
 #include "ui/exchange_model.h"
+#include "ui/help_window.h"
 #include "ui/modal_script.h"
 #include "ui/order_marks.h"
 #include "ui/window_fixture.h"
@@ -14,6 +15,7 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
+#include <QTextBrowser>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -78,7 +80,7 @@ TEST_F(WindowTest, ImportedLinesAreCorrectedWhereTheyStand) {
               QString::fromUtf8("F Brest - \u00c9hc"));
     EXPECT_TRUE(preview.table.isRowHidden(1));
     EXPECT_EQ(preview.Label("lblExchangeCount"), "2 orders, 1 unclear");
-    EXPECT_THAT(preview.Label("lblExchangeResult"), HasSubstr("1 unclear line is left out."));
+    EXPECT_EQ(preview.Label("lblExchangeResult"), "OK files 2 orders. 1 unclear line is left out.");
     EXPECT_EQ(preview.table.currentIndex().row(), 3);
 
     Press(Qt::Key_F2);
@@ -95,6 +97,8 @@ TEST_F(WindowTest, ImportedLinesAreCorrectedWhereTheyStand) {
     Press(Qt::Key_Return);
     EXPECT_TRUE(QTest::qWaitFor([&] { return preview.table.hasFocus(); }));
     EXPECT_EQ(preview.Label("lblExchangeCount"), "3 orders, 0 unclear");
+    EXPECT_EQ(preview.Label("lblExchangeResult"),
+              "OK files 3 orders, 1 in place of what is in the list.");
     Press(Qt::Key_Return);
   };
   const ModalScript answers({FileChosen(Shown(file)), correct});
@@ -111,6 +115,12 @@ TEST_F(WindowTest, PastedOrdersOfAnotherPowerAreFiledOnlyWhenTicked) {
     EXPECT_FALSE(preview.IsTaken(2));
     EXPECT_EQ(preview.Mark(2), OrderMark::Doubtful);
     EXPECT_EQ(preview.Label("lblExchangeCount"), "1 order, 0 unclear, 1 of another power");
+    dialog.findChild<QPushButton*>(QStringLiteral("butExchangeHelp"))->click();
+    auto* help = dialog.findChild<ui::HelpWindow*>();
+    ASSERT_NE(help, nullptr) << "one that the dialog does not block";
+    EXPECT_THAT(help->findChild<QTextBrowser*>()->toPlainText().toStdString(),
+                HasSubstr("fixpaste.dat"));
+    help->close();
     Press(Qt::Key_Escape);
   };
   const auto accept = [](QDialog& /*dialog*/) { Press(Qt::Key_Return); };
