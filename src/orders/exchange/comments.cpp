@@ -42,6 +42,17 @@ std::pair<int, int> CountWords(Tokens tokens, const PlaceNames& names) {
   return count;
 }
 
+/// Whether a type, its place and a verb stand there.
+bool OrdersUnit(Tokens tokens, const PlaceNames& names) {
+  for (std::size_t at = 0; at + 2 < tokens.size(); ++at) {
+    if (UnitTypeOf(tokens[at]) == 0 || !IsA(tokens[at + 1], TokenKind::Word)) continue;
+    for (const PlaceMatch& place : names.At(tokens, at + 1)) {
+      if (place.Next < tokens.size() && VerbOf(tokens[place.Next]) != Verb::None) return true;
+    }
+  }
+  return false;
+}
+
 }  // namespace
 
 std::size_t ClosingBracket(Tokens tokens, std::size_t open) {
@@ -61,7 +72,7 @@ bool IsProse(Tokens tokens, const PlaceNames& names) {
 bool IsRemark(Tokens tokens, const PlaceNames& names) {
   const auto isWord = [](const Token& token) { return token.Kind == TokenKind::Word; };
   if (FindCondition(tokens) != tokens.size()) return false;
-  if (std::ranges::any_of(tokens, IsCoastWord)) return false;
+  if (std::ranges::any_of(tokens, IsCoastWord) || OrdersUnit(tokens, names)) return false;
   const auto words = std::ranges::count_if(tokens, isWord);
   if (words == 0 || std::ranges::all_of(tokens, IsNumber)) return true;
   if (std::ranges::all_of(tokens,

@@ -11,7 +11,7 @@ std::size_t ClosingBracket(Tokens tokens, std::size_t open);
 bool IsProse(Tokens tokens, const PlaceNames& names);
 
 /// Whether what stands in brackets behind an order says nothing about it: not only words of orders,
-/// none that names a coast or makes a condition, no place with a slip.
+/// none that names a coast or makes a condition, no place with a slip, no unit with a verb.
 bool IsRemark(Tokens tokens, const PlaceNames& names);
 
 /// The first word that makes a condition, or the number of tokens.

@@ -14,6 +14,8 @@ constexpr std::array<std::string_view, 19> BlockTags{
 constexpr std::array<std::string_view, 12> InlineTags{"b",    "i", "em", "strong", "u",    "span",
                                                       "font", "a", "td", "th",     "code", "o:p"};
 
+constexpr std::array<std::string_view, 6> ForumTags{"b", "i", "u", "color", "size", "font"};
+
 template <std::size_t Count>
 bool IsOneOf(std::string_view name, const std::array<std::string_view, Count>& names) {
   return std::ranges::find(names, name) != names.end();
@@ -30,15 +32,17 @@ void DropTags(PlainText& line) {
   std::vector<Span> origins;
   std::size_t at = 0;
   while (at < line.Text.size()) {
-    const std::size_t close = line.Text[at] == '<' ? line.Text.find('>', at) : std::string::npos;
+    const bool isForum = line.Text[at] == '[';
+    const bool isOpen = isForum || line.Text[at] == '<';
+    const std::size_t close = isOpen ? line.Text.find(isForum ? ']' : '>', at) : std::string::npos;
     std::string name;
     if (close != std::string::npos) {
       const std::size_t start = at + (line.Text[at + 1] == '/' ? 2 : 1);
-      const std::size_t end = line.Text.find_first_of(" />", start);
+      const std::size_t end = line.Text.find_first_of(" /=>]", start);
       name = model::LowerCase(std::string_view(line.Text).substr(start, end - start));
     }
-    const bool isBlock = IsOneOf(name, BlockTags);
-    if (!isBlock && !IsOneOf(name, InlineTags)) {
+    const bool isBlock = !isForum && IsOneOf(name, BlockTags);
+    if (!isBlock && !(isForum ? IsOneOf(name, ForumTags) : IsOneOf(name, InlineTags))) {
       text += line.Text[at];
       origins.push_back(line.Origins[at++]);
       continue;

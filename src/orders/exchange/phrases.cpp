@@ -21,7 +21,7 @@ constexpr std::array<std::string_view, 7> HoldTails{"position", "fast", "still",
                                                     "place",    "firm", "put"};
 constexpr std::array<std::string_view, 6> MoveTails{"against", "toward", "towards",
                                                     "on",      "upon",   "for"};
-constexpr std::array<std::string_view, 4> Nouns{"move", "attack", "advance", "of"};
+constexpr std::array<std::string_view, 5> Nouns{"move", "attack", "advance", "of", "for"};
 constexpr std::array<std::string_view, 12> CountWords{
     "one", "two", "a", "all", "remaining", "rest", "any", "other", "of", "both", "last", "for"};
 

@@ -209,10 +209,12 @@ class TextReader {
     PartsRead parts;
     std::size_t condition = segment.End;
     bool isClear = true;
+    const auto isOrder = [](const auto& part) { return IsUnderstood(part.second); };
     for (const TokenRange range : Split(line.All, segment, seam)) {
       const Tokens tokens = PartOf(line, range);
       Context before = tried;
       parts.emplace_back(range, ReadPart(tokens, situation_, tried));
+      const bool isOrdered = std::ranges::any_of(parts, isOrder);
       if (IsUnderstood(parts.back().second)) continue;
       const PartsRead runOn = Moved(ReadRunOn(tokens, situation_, before), range.Begin);
       if (!runOn.empty()) {
@@ -221,11 +223,10 @@ class TextReader {
         tried = before;
         continue;
       }
-      const std::size_t at = FindCondition(tokens);
+      const std::size_t at = isOrdered ? FindCondition(tokens) : FindDoubt(tokens);
       if (at < tokens.size() && condition == segment.End) condition = range.Begin + at;
       isClear = isClear && IsNoOrder(tokens, situation_.Names, inSignature_);
     }
-    const auto isOrder = [](const auto& part) { return IsUnderstood(part.second); };
     if (std::ranges::none_of(parts, isOrder)) return false;
     if (seam == Seam::FullStop && !isClear) return false;
     context = tried;
@@ -235,6 +236,12 @@ class TextReader {
     }
     AddParts(line, parts, context);
     return true;
+  }
+
+  /// The first word that makes a condition of orders behind it or sets them aside.
+  static std::size_t FindDoubt(Tokens tokens) {
+    const auto doubts = [](const Token& token) { return IsCondition(token) || IsAside(token); };
+    return static_cast<std::size_t>(std::ranges::find_if(tokens, doubts) - tokens.begin());
   }
 
   static PartsRead Moved(PartsRead parts, std::size_t begin) {

@@ -76,21 +76,24 @@ constexpr std::array Nicknames{
     PowerWords{1, "gb"},
     PowerWords{5, "ottomans"},
     PowerWords{6, "ah"},
-    PowerWords{6, "a h"},
 };
 
-constexpr std::array<std::string_view, 17> Fillers{
-    "the", "my",  "our", "an",  "please", "pls",  "plz",   "will",     "shall",
-    "is",  "are", "his", "her", "their",  "unit", "units", "dislodged"};
+constexpr std::array<std::string_view, 20> Fillers{
+    "the", "my",  "our", "an",    "please", "pls",   "plz",       "will",  "shall", "is",
+    "are", "his", "her", "their", "unit",   "units", "dislodged", "gives", "lends", "provides"};
 
-constexpr std::array<std::string_view, 43> Conditions{
-    "if",          "unless",        "otherwise", "else",     "or",       "either",    "maybe",
-    "perhaps",     "instead",       "not",       "dont",     "never",    "cancel",    "except",
-    "depending",   "should",        "could",     "might",    "may",      "cancelled", "canceled",
-    "provided",    "when",          "until",     "ignore",   "no",       "wont",      "option",
-    "alternative", "alternatively", "draft",     "proposal", "proposed", "suggest",   "suggestion",
-    "disregard",   "forget",        "scratch",   "delete",   "undo",     "revoke",    "previously",
-    "old"};
+constexpr std::array<std::string_view, 44> Conditions{
+    "if",     "unless",    "otherwise", "else",     "or",          "either",
+    "maybe",  "perhaps",   "instead",   "not",      "dont",        "never",
+    "cancel", "except",    "depending", "should",   "could",       "might",
+    "may",    "cancelled", "canceled",  "provided", "when",        "until",
+    "ignore", "no",        "wont",      "option",   "alternative", "alternatively",
+    "draft",  "proposal",  "proposed",  "suggest",  "suggestion",  "disregard",
+    "forget", "scratch",   "delete",    "undo",     "revoke",      "assuming",
+    "case",   "old"};
+
+constexpr std::array<std::string_view, 9> Asides{
+    "previously", "formerly", "last", "next", "later", "tomorrow", "example", "eg", "previous"};
 
 constexpr std::array<std::string_view, 71> HeadingWords{
     "orders",     "order",       "for",          "from",        "of",        "the",      "my",
@@ -233,6 +236,10 @@ bool IsFiller(const Token& token) {
 
 bool IsCondition(const Token& token) {
   return IsIn(token, Conditions);
+}
+
+bool IsAside(const Token& token) {
+  return IsIn(token, Asides);
 }
 
 bool IsHeadingWord(const Token& token) {

@@ -45,6 +45,9 @@ bool IsFiller(const Token& token);
 /// Words by which an order depends on something or is taken back: "if", "or", "not".
 bool IsCondition(const Token& token);
 
+/// Words that, before an order, tell that it is not for now: "last turn", "for example".
+bool IsAside(const Token& token);
+
 /// Words of headings: "orders", "for", "spring", numbers, "s1901m".
 bool IsHeadingWord(const Token& token);
 
