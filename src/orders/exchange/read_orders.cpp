@@ -85,7 +85,9 @@ class TextReader {
       const std::string_view bytes = model::NextLine(text);
       SourceLine line = CutLine(++number, bytes, static_cast<std::size_t>(bytes.data() - begin),
                                 options_.Repairs);
+      const std::size_t before = lines_.size();
       ReadLineOf(line);
+      if (before > 0 && before + 1 == lines_.size()) CheckGoesOn(lines_[before - 1], line);
     }
     SetAsideReplaced(lines_, quoted_, situation_.Stage == OrderStage::Adjustments);
     return std::move(lines_);
@@ -109,6 +111,20 @@ class TextReader {
  private:
   static Tokens PartOf(const SourceLine& line, TokenRange range) {
     return Tokens(line.All).subspan(range.Begin, range.End - range.Begin);
+  }
+
+  /// A line like "- Bur" may be the rest of the order above, which then is not all there.
+  void CheckGoesOn(ReadLine& above, const SourceLine& line) {
+    const bool isRest = lines_.back().Kind == LineKind::NotUnderstood && !line.IsTooLong &&
+                        !line.All.empty() && VerbOf(line.All[0]) != Verb::None;
+    if (!isRest || above.Kind != LineKind::Order || above.Number + 1 != line.Number) return;
+    const std::string joined = ToPlain(above.Written, 0).Text + " " + line.Plain.Text;
+    Context context{model::FindCountry(above.Power), Verb::None};
+    if (!IsUnderstood(ReadPart(CutTokens(joined), situation_, context))) return;
+    above.Kind = LineKind::NotUnderstood;
+    above.Order.clear();
+    above.Reason = "it may go on in the line below";
+    above.ReasonPlace = {above.Place.Offset + above.Place.Length, 0};
   }
 
   void CutLineTokens(SourceLine& line) const {
