@@ -49,7 +49,7 @@ class Writer {
 
   std::string UnitText(const Unit& unit, bool mayLackType) {
     const std::string name = unit.UnitType == "A" ? "army" : "fleet";
-    const std::string place = Place(unit.Location);
+    std::string place = Place(unit.Location);
     if (mayLackType && Below(4) == 0) return place;
     return Any({unit.UnitType + "(" + place + ")", unit.UnitType + " " + place,
                 name + " in " + place, unit.UnitType + " [" + place + "]"});

@@ -124,7 +124,7 @@ bool IsNumber(std::string_view word) {
 /// "s01", "f1901m", "1901", "1901s", "1st": letters about a number.
 bool IsSeasonCode(std::string_view word) {
   const std::size_t first = word.find_first_of("0123456789");
-  if (first == std::string_view::npos || first > 1) return false;
+  if (first > 1) return false;
   const std::size_t end = std::min(word.find_first_not_of("0123456789", first), word.size());
   return word.size() - end <= 2;
 }
