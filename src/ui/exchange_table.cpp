@@ -14,7 +14,6 @@ namespace orb::ui {
 namespace {
 
 using exchange::LineKind;
-using exchange::ReadLine;
 
 /// Writes a line anew and shows at every key what it would mean.
 class WrittenDelegate : public QStyledItemDelegate {
