@@ -88,6 +88,7 @@ std::vector<EditingPanel::Entry> EditUnitsPanel::entries() const {
   const auto power = [this](int unit) { return model::FindCountry(game().Units[unit].Power); };
   std::stable_sort(order.begin(), order.end(), [&](int a, int b) { return power(a) < power(b); });
   std::vector<Entry> found;
+  found.reserve(order.size());
   for (const int unit : order) {
     found.push_back(
         {unit, unitLine(game(), game().Units[unit]), powerIcon(game().Countries, power(unit))});

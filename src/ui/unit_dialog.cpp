@@ -9,6 +9,8 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 
+#include <utility>
+
 namespace orb::ui {
 namespace {
 
@@ -23,11 +25,11 @@ Button* newChoice(const QString& name, const QString& caption) {
 
 }  // namespace
 
-UnitDialog::UnitDialog(const model::GameState& game, const model::Unit& shown, int replaced,
+UnitDialog::UnitDialog(const model::GameState& game, model::Unit shown, int replaced,
                        QWidget* parent)
     : QDialog(parent),
       m_game(game),
-      m_shown(shown),
+      m_shown(std::move(shown)),
       m_replaced(replaced),
       m_power(new QComboBox),
       m_army(newChoice<QRadioButton>(QStringLiteral("optArmy"), tr("&Army"))),

@@ -19,7 +19,7 @@ class UnitDialog : public QDialog {
  public:
   /// Shows a unit to be put in place of that one in the game; 0: to be added. The game must outlive
   /// the dialog.
-  UnitDialog(const model::GameState& game, const model::Unit& shown, int replaced, QWidget* parent);
+  UnitDialog(const model::GameState& game, model::Unit shown, int replaced, QWidget* parent);
 
   /// The unit with the properties that are set.
   model::Unit unit() const;
