@@ -35,7 +35,7 @@ void Settle() {
 void Toggle(benchmark::State& state) {
   const auto window = NewWindow();
   auto* entry = window->findChild<QAction*>(QStringLiteral("mnuShowCentreCount"));
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     entry->trigger();
     Settle();
   }
@@ -46,7 +46,7 @@ void Click(benchmark::State& state) {
   const auto window = NewWindow();
   auto* map = window->findChild<QWidget*>(QStringLiteral("picMap"));
   const QPointF place(map->width() * 0.2735, map->height() * 0.6065);
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
       QMouseEvent event(type, place, map->mapToGlobal(place), Qt::LeftButton, Qt::LeftButton,
                         Qt::NoModifier);
@@ -61,7 +61,7 @@ BENCHMARK(Click)->Unit(benchmark::kMillisecond);
 void FileOrder(benchmark::State& state) {
   const auto window = NewWindow();
   auto* text = window->findChild<QLineEdit*>(QStringLiteral("txtOrder"));
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     text->setText(QStringLiteral("FRA A(Par) - Bur"));
     emit text->returnPressed();
     Settle();

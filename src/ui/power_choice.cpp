@@ -28,7 +28,7 @@ QIcon powerIcon(const model::CountryTable& countries, int power) {
     painter.setBrush(render::ToQColor(countries[power].Colour));
   }
   painter.drawEllipse(picture.rect().adjusted(Outline, Outline, -Outline, -Outline));
-  return QIcon(picture);
+  return {picture};
 }
 
 QString powerName(const model::CountryTable& countries, int power) {

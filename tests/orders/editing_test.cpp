@@ -16,7 +16,6 @@ namespace {
 using model::GameState;
 using model::Unit;
 using orders::NewUnit;
-using testing::ElementsAre;
 using testing::HasSubstr;
 
 GameState Occupied() {
