@@ -7,6 +7,7 @@
 #include "render/qt/map_file.h"
 #include "render/qt/painter_surface.h"
 #include "render/qt/replay_picture.h"
+#include "settings/map_options.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -52,8 +53,8 @@ model::GameState OrderedBoard() {
 
 /// Drawing on an image of the given width, as the window does after every change, with the orders
 /// of the list if there are any.
-void DrawMap(benchmark::State& state, render::MapMode mode, const model::GameState& game) {
-  const render::MapOptions options{mode, true, true, true};
+void DrawMap(benchmark::State& state, settings::MapMode mode, const model::GameState& game) {
+  const settings::MapOptions options{mode, true, true, true};
   const std::vector<orders::OrderOutcome> orders = orders::EnteredOrders(game);
   render::PictureCache pictures;
   const auto width = static_cast<int>(state.range(0));
@@ -79,9 +80,9 @@ void DrawFrame(benchmark::State& state) {
   }
   render::PictureCache pictures;
   const auto width = static_cast<int>(state.range(0));
-  const render::ReplayPicture picture(render::SeasonReplay(game),
-                                      {render::MapMode::Colour3D, true, true, true}, DataDirectory,
-                                      width, pictures);
+  const render::ReplayPicture picture(history::SeasonReplay(game),
+                                      {settings::MapMode::Colour3D, true, true, true},
+                                      DataDirectory, width, pictures);
   QImage image = picture.Still().copy();
   double progress = 0;
   while (state.KeepRunning()) {
@@ -92,14 +93,14 @@ void DrawFrame(benchmark::State& state) {
   }
 }
 
-BENCHMARK_CAPTURE(DrawMap, Colour3D, render::MapMode::Colour3D, FullBoard())
+BENCHMARK_CAPTURE(DrawMap, Colour3D, settings::MapMode::Colour3D, FullBoard())
     ->Arg(1000)
     ->Arg(2000)
     ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(DrawMap, Orders, render::MapMode::Colour3D, OrderedBoard())
+BENCHMARK_CAPTURE(DrawMap, Orders, settings::MapMode::Colour3D, OrderedBoard())
     ->Arg(1000)
     ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(DrawMap, BlackWhite, render::MapMode::BlackWhite, FullBoard())
+BENCHMARK_CAPTURE(DrawMap, BlackWhite, settings::MapMode::BlackWhite, FullBoard())
     ->Arg(1000)
     ->Arg(2000)
     ->Unit(benchmark::kMillisecond);

@@ -1,8 +1,8 @@
 // The start of the program as its own main does it, up to the first picture on the screen.
 #include "first_paint.h"
 
-#include "ui/main_window.h"
-#include "ui/message_boxes.h"
+#include "ui/widgets/message_boxes.h"
+#include "ui/window/main_window.h"
 
 #include <filesystem>
 #include <utility>

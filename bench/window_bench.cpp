@@ -1,5 +1,5 @@
-#include "ui/main_window.h"
-#include "ui/message_boxes.h"
+#include "ui/widgets/message_boxes.h"
+#include "ui/window/main_window.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,9 +1,10 @@
 #include "adjudication/adjustments.h"
 
 #include "adjudication/stages.h"
-#include "model/text.h"
+#include "model/counts.h"
+#include "model/lookups.h"
+#include "model/place.h"
 #include "orders/later_stages.h"
-#include "orders/lookups.h"
 
 #include <algorithm>
 #include <utility>
@@ -45,7 +46,7 @@ struct Fault {
 constexpr Fault NoFault{};
 
 Fault DisbandFault(const GameState& game, const OrderLine& order) {
-  const int u = orders::FindUnitAt(game, order.Location);
+  const int u = model::FindUnitAt(game, order.Location);
   if (u != 0 && game.Units[u].UnitType == order.UnitType && game.Units[u].Power == order.Power &&
       game.Units[u].Location == order.Location) {
     return NoFault;
@@ -70,10 +71,10 @@ Fault BuildFault(const GameState& game, const OrderLine& order) {
   if (game.Provinces[centre].Owner != order.Power) {
     return {"centre not owned", "centre not owned."};
   }
-  if (orders::FindUnitAt(game, order.Location) != 0) {
+  if (model::FindUnitAt(game, order.Location) != 0) {
     return {"centre not empty1", "centre not empty1."};
   }
-  if (!orders::CanStandIn(map, order.UnitType, order.Location)) {
+  if (!model::CanStandIn(map, order.UnitType, order.Location)) {
     return {"impossible unit", "impossible unit."};
   }
   return NoFault;
@@ -114,7 +115,7 @@ bool CheckAdjustmentOrders(const GameState& game, Resolution& resolution, Messag
 
 bool CheckAdjustmentCounts(const GameState& game, const OrderTable& table, Messages& messages) {
   for (const model::Country& country : game.Countries) {
-    const PowerCount count = CountPower(game, country.Abbreviation);
+    const model::PowerCount count = model::CountPower(game, country.Abbreviation);
     const int units = count.Units + ChangeOf(table, country.Abbreviation);
     if (count.Centres < units) {
       messages.Show("Error: " + country.Abbreviation + " too many units.",
@@ -144,7 +145,7 @@ void ApplyAdjustments(GameState& game, const OrderTable& table, Messages& messag
   for (const OrderLine& order : table) {
     if (!order.Active) continue;
     if (!IsBuild(order)) {
-      game.Units.Remove(orders::FindUnitAt(game, order.Location));
+      game.Units.Remove(model::FindUnitAt(game, order.Location));
     } else if (game.Units.Count() == model::UnitBound) {
       messages.Show("Too many units", model::Icon::Stop);
       return;
@@ -155,18 +156,6 @@ void ApplyAdjustments(GameState& game, const OrderTable& table, Messages& messag
 }
 
 }  // namespace
-
-PowerCount CountPower(const GameState& game, std::string_view power) {
-  PowerCount count;
-  for (int p = 1; p <= game.Provinces.Count(); ++p) {
-    const bool centre = game.Map->Provinces[p].IsSupplyCentre != 0;
-    if (centre && game.Provinces[p].Owner == power) ++count.Centres;
-  }
-  for (const model::Unit& unit : game.Units) {
-    if (unit.Power == power) ++count.Units;
-  }
-  return count;
-}
 
 int ChangeOf(const OrderTable& table, std::string_view power) {
   int change = 0;

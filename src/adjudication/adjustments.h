@@ -9,15 +9,6 @@ namespace orb::adjudication {
 // An adjustment order: POWER BUILD TYPE(LOC), or POWER DISBAND TYPE(LOC); power and verb in any
 // case.
 
-/// What a power owns and has on the board.
-struct PowerCount {
-  int Centres = 0;
-  int Units = 0;
-};
-
-/// Counts the supply centres and units of a power, by its abbreviation.
-PowerCount CountPower(const model::GameState& game, std::string_view power);
-
 /// How many units the valid orders add to a power; below 0 when they take some away.
 int ChangeOf(const orders::OrderTable& table, std::string_view power);
 

@@ -1,6 +1,6 @@
 #include "adjudication/battlefield.h"
 
-#include "model/text.h"
+#include "model/place.h"
 
 namespace orb::adjudication {
 

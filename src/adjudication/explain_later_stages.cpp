@@ -1,7 +1,8 @@
 #include "adjudication/adjustments.h"
 #include "adjudication/explain.h"
 #include "adjudication/explain_parts.h"
-#include "orders/lookups.h"
+#include "model/counts.h"
+#include "model/lookups.h"
 
 namespace orb::adjudication {
 namespace {
@@ -22,7 +23,7 @@ std::string RejectedRetreat(const model::Map& map, const Resolution& resolution,
 
 std::string PlaceTakenText(const Resolution& resolution, int order) {
   const model::Unit& unit = resolution.UnitsBefore[resolution.Reasons[order].Blocker];
-  const std::string text = "It was disbanded: " + orders::UnitText(unit) + " stands in " +
+  const std::string text = "It was disbanded: " + model::UnitText(unit) + " stands in " +
                            resolution.Orders[order].Target;
   return unit.Status == model::Dislodged
              ? text + ", itself dislodged but still there when retreats are decided"
@@ -60,7 +61,7 @@ std::string DoneText(int built, int removed) {
 /// that is nothing.
 std::string CountsOf(const model::GameState& after, const Resolution& resolution,
                      const std::string& power) {
-  const int centres = CountPower(after, power).Centres;
+  const int centres = model::CountPower(after, power).Centres;
   int units = 0;
   for (const model::Unit& unit : resolution.UnitsBefore)
     units += unit.Power == power ? 1 : 0;

@@ -1,7 +1,7 @@
 #include "adjudication/explain.h"
 #include "adjudication/explain_parts.h"
-#include "model/text.h"
-#include "orders/lookups.h"
+#include "model/lookups.h"
+#include "model/place.h"
 
 namespace orb::adjudication {
 namespace {
@@ -14,15 +14,15 @@ std::string CoastsOf(const Map& map, std::string_view location) {
   std::string names;
   for (const model::Province& province : map.Provinces) {
     if (province.Name == location || !model::SamePlace(province.Name, location)) continue;
-    if (!orders::CanStandIn(map, "F", province.Name)) continue;
+    if (!model::CanStandIn(map, "F", province.Name)) continue;
     names += (names.empty() ? "" : " or ") + province.Name;
   }
   return names;
 }
 
 bool IsCoastal(const Map& map, std::string_view location) {
-  return orders::CanStandIn(map, "A", location) &&
-         (orders::CanStandIn(map, "F", location) || !CoastsOf(map, location).empty());
+  return model::CanStandIn(map, "A", location) &&
+         (model::CanStandIn(map, "F", location) || !CoastsOf(map, location).empty());
 }
 
 }  // namespace
@@ -51,7 +51,7 @@ std::string UnitThere(const Resolution& resolution, std::string_view power,
     const bool own = unit.Power == power;
     if (!own && !there.empty()) continue;
     there = own ? "; its unit there is " + unit.UnitType + "(" + unit.Location + ")"
-                : "; the unit there is " + orders::UnitText(unit);
+                : "; the unit there is " + model::UnitText(unit);
     if (own) break;
   }
   return there;
@@ -60,7 +60,7 @@ std::string UnitThere(const Resolution& resolution, std::string_view power,
 std::string NoSuchUnit(const Resolution& resolution, const OrderLine& order) {
   const std::string verdict = "There is no such unit: ";
   for (const model::Unit& unit : resolution.UnitsBefore) {
-    if (resolution.Stage == ResolvedStage::Retreats && orders::UnitText(unit) == UnitName(order)) {
+    if (resolution.Stage == ResolvedStage::Retreats && model::UnitText(unit) == UnitName(order)) {
       return verdict + UnitName(order) + " is not dislodged";
     }
   }
@@ -74,14 +74,14 @@ std::string CannotStandText(const Map& map, const OrderLine& order, const std::s
     if (const std::string coasts = CoastsOf(map, location); !coasts.empty()) {
       return "a fleet must name the coast: " + coasts;
     }
-  } else if (place != location && orders::CanStandIn(map, "A", place)) {
+  } else if (place != location && model::CanStandIn(map, "A", place)) {
     return "an army must name the place without a coast: " + place;
   }
   return "no " + std::string(TypeName(order)) + " can stand in " + location;
 }
 
 std::string NoWayText(const Map& map, const OrderLine& order) {
-  if (!orders::CanStandIn(map, order.UnitType, order.Target)) {
+  if (!model::CanStandIn(map, order.UnitType, order.Target)) {
     return CannotStandText(map, order, order.Target);
   }
   return "no " + std::string(TypeName(order)) + " can move from " + order.Location + " to " +

@@ -1,6 +1,6 @@
 #include "adjudication/explain.h"
 #include "adjudication/explain_parts.h"
-#include "model/text.h"
+#include "model/place.h"
 
 namespace orb::adjudication {
 namespace {

@@ -5,7 +5,8 @@
 #include "adjudication/moves.h"
 #include "adjudication/retreats.h"
 #include "adjudication/stages.h"
-#include "orders/lookups.h"
+#include "model/counts.h"
+#include "model/lookups.h"
 #include "orders/parser.h"
 
 #include <algorithm>
@@ -74,7 +75,7 @@ LineProblems ProblemsOf(const GameState& game, const Resolution& resolution, int
 std::vector<PowerProblem> CountProblems(const GameState& game, const OrderTable& table) {
   std::vector<PowerProblem> problems;
   for (const model::Country& country : game.Countries) {
-    const PowerCount count = CountPower(game, country.Abbreviation);
+    const model::PowerCount count = model::CountPower(game, country.Abbreviation);
     const int units = count.Units + ChangeOf(table, country.Abbreviation);
     if (units == count.Centres) continue;
     problems.push_back(
@@ -99,7 +100,7 @@ std::vector<int> FirstOrders(const GameState& game, std::vector<std::string> lin
   for (const model::Unit& unit : game.Units) {
     if (!NeedsOrder(game, unit)) continue;
     int k = 1;
-    while (k <= table.Count() && UnitName(table[k]) != orders::UnitText(unit))
+    while (k <= table.Count() && UnitName(table[k]) != model::UnitText(unit))
       ++k;
     firsts.push_back(k);
   }

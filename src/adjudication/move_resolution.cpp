@@ -1,6 +1,6 @@
 #include "adjudication/move_resolution.h"
 
-#include "model/text.h"
+#include "model/place.h"
 
 #include <array>
 

@@ -3,9 +3,9 @@
 #include "adjudication/move_resolution.h"
 #include "adjudication/stages.h"
 #include "adjudication/support_cutting.h"
-#include "model/text.h"
+#include "model/lookups.h"
+#include "model/place.h"
 #include "orders/binding.h"
-#include "orders/lookups.h"
 #include "orders/parser.h"
 
 #include <algorithm>
@@ -46,7 +46,7 @@ bool AttacksConvoyingFleet(const model::Map& map, Battlefield& field, int k) {
   if (!IsMove(field.Order(k))) return false;
   const int unit = field.LastUnitAt(k);
   return unit != 0 && IsConvoy(field.Order(field.OrderOf(unit))) &&
-         !orders::CanStandIn(map, "A", field.Order(k).Target);
+         !model::CanStandIn(map, "A", field.Order(k).Target);
 }
 
 OrderSet FindConvoyAttacks(const model::Map& map, Battlefield& field) {

@@ -2,9 +2,9 @@
 
 #include "adjudication/explain.h"
 #include "adjudication/explain_parts.h"
-#include "model/text.h"
+#include "model/lookups.h"
+#include "model/place.h"
 #include "orders/binding.h"
-#include "orders/lookups.h"
 
 #include <algorithm>
 
@@ -151,7 +151,7 @@ void AddUnitOf(const Resolution& resolution, int order, Locations& locations) {
     return;
   }
   for (int u = 1; u <= resolution.UnitsBefore.Count(); ++u) {
-    if (orders::UnitText(resolution.UnitsBefore[u]) == UnitName(line)) {
+    if (model::UnitText(resolution.UnitsBefore[u]) == UnitName(line)) {
       AddUnit(resolution, u, locations);
     }
   }

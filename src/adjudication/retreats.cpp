@@ -1,9 +1,9 @@
 #include "adjudication/retreats.h"
 
 #include "adjudication/stages.h"
-#include "model/text.h"
+#include "model/lookups.h"
+#include "model/place.h"
 #include "orders/later_stages.h"
-#include "orders/lookups.h"
 
 #include <algorithm>
 #include <utility>
@@ -61,7 +61,7 @@ bool FindDislodgedUnits(const GameState& game, OrderTable& table, Messages& mess
 
 void AppendDisband(Unit& unit, int unitIndex, OrderTable& table) {
   OrderLine& order = table.Append();
-  order.Text = orders::UnitText(unit) + " disband";
+  order.Text = model::UnitText(unit) + " disband";
   order.Power = unit.Power;
   order.UnitType = unit.UnitType;
   order.Location = unit.Location;
@@ -82,7 +82,7 @@ bool DisbandUnordered(GameState& game, OrderTable& table, Messages& messages) {
     }
     if (unit.OrderIndex != 0) continue;
     AppendDisband(unit, u, table);
-    if (!messages.Warn(model::WarningText(orders::UnitText(unit) + " unordered."))) return false;
+    if (!messages.Warn(model::WarningText(model::UnitText(unit) + " unordered."))) return false;
   }
   return true;
 }
@@ -96,12 +96,12 @@ void CheckRetreatMoves(const GameState& game, OrderTable& table) {
   for (OrderLine& order : table) {
     if (!order.Active || !IsRetreat(order)) continue;
     const std::string& type = game.Units[order.UnitIndex].UnitType;
-    if (!orders::CanStandIn(map, type, order.Target) ||
-        !orders::IsAdjacent(map, type, order.Location, order.Target)) {
+    if (!model::CanStandIn(map, type, order.Target) ||
+        !model::IsAdjacent(map, type, order.Location, order.Target)) {
       orders::Reject(order, "impossible move");
     }
     if (game.Provinces[model::FindProvince(map, order.Target)].Uncontested) continue;
-    if (orders::FindUnitAt(game, order.Target) != 0) {
+    if (model::FindUnitAt(game, order.Target) != 0) {
       order.Result = "occupied";
     } else {
       orders::Reject(order, "impossible (standoff)");
@@ -129,7 +129,7 @@ void Lose(OrderLine& order, Reason& reason, Ruling ruling, int blocker) {
 
 /// The last report line about the unit; a new one if there is none.
 int ReportLineOf(const Unit& unit, GameState& game) {
-  const std::string key = orders::UnitText(unit);
+  const std::string key = model::UnitText(unit);
   constexpr std::size_t lead = 2;
   for (int i = game.ReportLines.Count(); i >= 1; --i) {
     if (game.ReportLines[i].compare(std::min(lead, game.ReportLines[i].size()), key.size(), key) ==
@@ -191,7 +191,7 @@ void ResolveRetreatStandoffs(const GameState& game, Resolution& resolution) {
     const Unit& unit = game.Units[order.UnitIndex];
     if (model::SamePlace(order.Target, unit.DislodgedFrom)) {
       Lose(order, reason, Ruling::BackToAttacker, 0);
-    } else if (const int occupant = orders::FindUnitAt(game, order.Target); occupant != 0) {
+    } else if (const int occupant = model::FindUnitAt(game, order.Target); occupant != 0) {
       Lose(order, reason, Ruling::PlaceTaken, occupant);
     } else if (const int other = CollidingRetreat(table, i); other != 0) {
       Lose(order, reason, Ruling::RetreatsCollide, other);

@@ -1,6 +1,6 @@
 #include "adjudication/support_cutting.h"
 
-#include "model/text.h"
+#include "model/place.h"
 
 namespace orb::adjudication {
 

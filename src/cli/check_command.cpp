@@ -3,8 +3,8 @@
 #include "cli/games.h"
 #include "cli/orders_source.h"
 #include "model/errors.h"
-#include "model/text.h"
 #include "orders/order_list.h"
+#include "text/strings.h"
 
 namespace orb::cli {
 namespace {
@@ -25,7 +25,7 @@ std::string ProblemLines(const model::GameState& game, const std::string& path,
   const adjudication::ListCheck check = adjudication::CheckList(game);
   for (std::size_t i = 0; i < check.Lines.size(); ++i) {
     for (const std::string& problem : check.Lines[i])
-      add(model::Trim(list[i]), problem);
+      add(text::Trim(list[i]), problem);
   }
   for (const std::string& unit : check.Unordered)
     add(unit, "unordered");

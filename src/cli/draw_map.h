@@ -3,6 +3,7 @@
 #include "model/game_state.h"
 #include "render/map_format.h"
 #include "render/map_view.h"
+#include "settings/map_options.h"
 
 #include <filesystem>
 #include <string>
@@ -14,7 +15,7 @@ namespace orb::cli {
 /// drawing is a module beside the program that is loaded only for it.
 struct MapRequest {
   const model::GameState& Game;
-  render::MapOptions Options;
+  settings::MapOptions Options;
   std::filesystem::path DataDirectory;
   int PixelWidth = 0;  ///< 0: the background picture's own
   std::filesystem::path Picture;

@@ -4,6 +4,7 @@
 #include "cli/orders_source.h"
 #include "model/errors.h"
 #include "orders/entered_orders.h"
+#include "settings/map_options.h"
 
 #include <charconv>
 
@@ -20,12 +21,12 @@ render::MapFormat Format(const std::filesystem::path& picture) {
   return *format;
 }
 
-render::MapMode Mode(const CommandLine& line) {
+settings::MapMode Mode(const CommandLine& line) {
   const std::string mode = line.Value(OptionId::Mode).value_or("colour3d");
-  if (mode == "colour3d") return render::MapMode::Colour3D;
-  if (mode == "colour") return render::MapMode::Colour;
-  if (mode == "grey") return render::MapMode::Grey;
-  if (mode == "bw") return render::MapMode::BlackWhite;
+  if (mode == "colour3d") return settings::MapMode::Colour3D;
+  if (mode == "colour") return settings::MapMode::Colour;
+  if (mode == "grey") return settings::MapMode::Grey;
+  if (mode == "bw") return settings::MapMode::BlackWhite;
   throw UsageError("map: The mode is one of colour3d, colour, grey and bw, not \"" + mode + "\".");
 }
 
@@ -56,8 +57,8 @@ int Execute(const CommandLine& line, Console& console) {
   const std::filesystem::path picture = *line.Value(OptionId::Output);
   const render::MapFormat format = Format(picture);
   const int width = PixelWidth(line);
-  const render::MapOptions options{Mode(line), line.Has(OptionId::CentreCount),
-                                   line.Has(OptionId::Borders), line.Has(OptionId::CentreOwners)};
+  const settings::MapOptions options{Mode(line), line.Has(OptionId::CentreCount),
+                                     line.Has(OptionId::Borders), line.Has(OptionId::CentreOwners)};
   const std::filesystem::path data = DataDirectory(line);
   OrdersSource source(line);
   return ForEachGame(

@@ -1,10 +1,10 @@
 #include "cli/command.h"
 #include "cli/games.h"
-#include "cli/text_encoding.h"
 #include "model/files.h"
 #include "model/game_file.h"
 #include "model/map_files.h"
 #include "model/new_game.h"
+#include "text/encoding.h"
 
 namespace orb::cli {
 namespace {
@@ -16,7 +16,7 @@ std::string TitleBytes(const std::string& title) {
   if (title.find_first_of("\"\r\n") != std::string::npos) {
     throw UsageError("new: A title with a double quote or a line end cannot be stored.");
   }
-  auto bytes = ToWindows1252(title);
+  auto bytes = text::ToWindows1252(title);
   if (!bytes) throw UsageError("new: The title has a character that game files cannot hold.");
   return *bytes;
 }

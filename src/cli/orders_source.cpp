@@ -2,9 +2,9 @@
 
 #include "model/country.h"
 #include "model/files.h"
-#include "model/text.h"
 #include "orders/exchange/order_files.h"
 #include "orders/order_list.h"
+#include "text/strings.h"
 
 #include <system_error>
 #include <utility>
@@ -30,7 +30,7 @@ OrdersSource::OrdersSource(const CommandLine& line) : isLoose_(line.Has(OptionId
   if (isLoose_) data_ = DataDirectory(line);
   if (!line.Has(OptionId::Power)) return;
   if (!isLoose_) throw UsageError("--power goes with --loose.");
-  power_ = model::UpperCase(*line.Value(OptionId::Power));
+  power_ = text::UpperCase(*line.Value(OptionId::Power));
   if (model::FindCountry(power_) == 0) {
     throw UsageError("\"" + *line.Value(OptionId::Power) +
                      "\" is no power: --power takes ENG, FRA, GER, RUS, TUR, AUS or ITA.");

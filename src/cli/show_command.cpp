@@ -1,6 +1,6 @@
 #include "cli/command.h"
 #include "cli/games.h"
-#include "render/text_report.h"
+#include "report/text_report.h"
 
 namespace orb::cli {
 namespace {
@@ -9,7 +9,7 @@ int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);
   return ForEachGame(line, console, plan,
                      [&](const model::GameState& game, const GamePaths& paths) {
-                       PrintUnderHeading(console, plan, paths, render::TextReport(game));
+                       PrintUnderHeading(console, plan, paths, report::TextReport(game));
                        return true;
                      });
 }

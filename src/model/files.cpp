@@ -1,7 +1,7 @@
 #include "model/files.h"
 
 #include "model/errors.h"
-#include "model/text.h"
+#include "text/strings.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -128,7 +128,7 @@ bool CanReplaceFile(const fs::path& path) {
 }
 
 fs::path LowerCaseName(const fs::path& path) {
-  return path.parent_path() / LowerCase(path.filename().string());
+  return path.parent_path() / text::LowerCase(path.filename().string());
 }
 
 fs::path FileInAnyCase(const fs::path& path) {

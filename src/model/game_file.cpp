@@ -4,7 +4,7 @@
 #include "model/files.h"
 #include "model/new_game.h"
 #include "model/record_file.h"
-#include "model/text.h"
+#include "text/strings.h"
 
 #include <algorithm>
 #include <charconv>
@@ -28,7 +28,7 @@ struct Layout {
 
 /// The number that a text begins with, blanks aside, or 0.
 double LeadingNumber(std::string_view text) {
-  text = Trim(text);
+  text = text::Trim(text);
   double number = 0;
   if (text.find_first_of("0123456789.") != 0) return number;
   std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/place.h"
 #include "model/table.h"
 
 #include <array>

@@ -2,8 +2,9 @@
 
 #include "model/errors.h"
 #include "model/files.h"
+#include "model/place.h"
 #include "model/record_file.h"
-#include "model/text.h"
+#include "text/strings.h"
 
 namespace orb::model {
 namespace {
@@ -21,7 +22,7 @@ void LoadAdjacencyLine(std::string_view line, const Map& map, Adjacency& adjacen
   std::string fixed(line);
   FixNames(map, fixed);
   std::string_view rest = fixed;
-  const std::string_view name = NextField(rest);
+  const std::string_view name = text::NextField(rest);
   const int row = FindProvince(map, name);
   if (row == 0) {
     FailAtLine(fileName, lineNumber,
@@ -29,7 +30,7 @@ void LoadAdjacencyLine(std::string_view line, const Map& map, Adjacency& adjacen
   }
   auto& neighbours = adjacency[static_cast<std::size_t>(row - 1)];
   for (std::size_t k = 0; !rest.empty(); ++k) {
-    const std::string_view neighbour = NextField(rest);
+    const std::string_view neighbour = text::NextField(rest);
     if (k == neighbours.size()) {
       FailAtLine(fileName, lineNumber,
                  "expected at most " + std::to_string(NeighbourBound) + " neighbours of " +
@@ -91,7 +92,7 @@ void LoadAdjacency(std::string_view bytes, const std::string& fileName, const Ma
     throw FileError(fileName + ": expected the connections of a location, found an empty file.");
   }
   for (int line = 1; !bytes.empty(); ++line) {
-    LoadAdjacencyLine(NextLine(bytes), map, adjacency, fileName, line);
+    LoadAdjacencyLine(text::NextLine(bytes), map, adjacency, fileName, line);
   }
 }
 

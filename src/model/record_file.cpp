@@ -1,7 +1,7 @@
 #include "model/record_file.h"
 
 #include "model/errors.h"
-#include "model/text.h"
+#include "text/strings.h"
 
 #include <array>
 #include <charconv>
@@ -55,7 +55,7 @@ std::string_view RecordReader::Text(std::string_view expected) {
   std::size_t end = position_;
   while (end < bytes_.size() && bytes_[end] != ',' && !IsLineEnd(bytes_[end]))
     ++end;
-  const std::string_view field = Trim(bytes_.substr(position_, end - position_));
+  const std::string_view field = text::Trim(bytes_.substr(position_, end - position_));
   position_ = end;
   EndField(expected);
   return field;

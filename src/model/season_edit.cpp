@@ -1,6 +1,6 @@
 #include "model/season_edit.h"
 
-#include "model/text.h"
+#include "text/strings.h"
 
 #include <algorithm>
 #include <utility>
@@ -31,7 +31,7 @@ void EditSeason(GameState& game, const SeasonFacts& facts) {
     lines.Append(line);
   game.TextLines = std::move(lines);
   if (StageIsBefore(facts.Stage, game.Stage)) game.ReportLines.SetCount(0);
-  game.Title = Trim(facts.Title).empty() ? std::string(DefaultTitle) : facts.Title;
+  game.Title = text::Trim(facts.Title).empty() ? std::string(DefaultTitle) : facts.Title;
   game.Season = facts.Season;
   game.Year = facts.Year;
   game.Stage = facts.Stage;

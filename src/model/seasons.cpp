@@ -1,7 +1,7 @@
 #include "model/seasons.h"
 
 #include "model/errors.h"
-#include "model/text.h"
+#include "text/strings.h"
 
 #include <algorithm>
 #include <limits>
@@ -38,7 +38,7 @@ void RestoreUnits(GameState& game) {
 }  // namespace
 
 std::string SeasonCode(const GameState& game) {
-  const std::string season = LowerCase(std::string_view(game.Season).substr(0, 1));
+  const std::string season = text::LowerCase(std::string_view(game.Season).substr(0, 1));
   const std::string year = std::to_string(game.Year);
   return season + year.substr(year.size() - std::min<std::size_t>(2, year.size()));
 }

@@ -1,7 +1,7 @@
 #include "orders/binding.h"
 
-#include "model/text.h"
-#include "orders/lookups.h"
+#include "model/lookups.h"
+#include "model/place.h"
 
 #include <array>
 #include <cstdint>

@@ -1,7 +1,8 @@
 #include "orders/click_entry.h"
 
-#include "model/text.h"
-#include "orders/lookups.h"
+#include "model/lookups.h"
+#include "model/place.h"
+#include "text/strings.h"
 
 namespace orb::orders {
 namespace {
@@ -14,7 +15,7 @@ void AppendAction(OrderEntry& entry, std::string_view location) {
     entry.Text += "hold ";
     return;
   }
-  if (!model::Trim(entry.Text).ends_with('-')) entry.Text += "- ";
+  if (!text::Trim(entry.Text).ends_with('-')) entry.Text += "- ";
   entry.Text.append(location).append(" ");
 }
 
@@ -37,7 +38,7 @@ int FindDislodgedAt(const GameState& game, std::string_view location) {
 
 bool IsBuildMeant(const std::string& text, bool unitThere) {
   if (text.find(')') == std::string::npos) {
-    const std::string words = model::UpperCase(text);
+    const std::string words = text::UpperCase(text);
     if (words.find("BUILD") != std::string::npos) return true;
     if (words.find("DISBAND") != std::string::npos) return false;
   }
@@ -103,7 +104,7 @@ std::string WithUnitType(const std::string& text, std::string_view unitType) {
     const std::size_t start = line.substr(0, open).find_last_of(' ') + 1;
     return line.replace(start, open - start, unitType);
   }
-  if (model::Trim(line).empty()) return line;
+  if (text::Trim(line).empty()) return line;
   if (!line.ends_with(' ')) line += ' ';
   return line.append(unitType).append("(");
 }

@@ -1,8 +1,8 @@
 #include "orders/entered_orders.h"
 
-#include "model/text.h"
 #include "orders/later_stages.h"
 #include "orders/parser.h"
+#include "text/strings.h"
 
 #include <algorithm>
 #include <string>
@@ -19,7 +19,7 @@ std::vector<OrderOutcome> Read(const std::vector<std::string>& list, const model
   std::string work;
   for (const std::string& line : list) {
     OrderLine order;
-    order.Text = model::Trim(line);
+    order.Text = text::Trim(line);
     parse(order, work);
     if (findFault(map, order) == SyntaxFault::None) {
       read.push_back(OutcomeOf(order, Outcome::Entered));

@@ -1,8 +1,8 @@
 #include "orders/later_stages.h"
 
 #include "model/country.h"
-#include "model/text.h"
 #include "orders/parser.h"
+#include "text/strings.h"
 
 namespace orb::orders {
 namespace {
@@ -20,14 +20,14 @@ void ParseRetreat(OrderLine& order, std::string& work) {
   order.Power = fields.UpTo(' ');
   order.UnitType = fields.UpTo('(');
   order.Location = fields.UpTo(')');
-  order.Kind = model::UpperCase(fields.UpTo(' '));
+  order.Kind = text::UpperCase(fields.UpTo(' '));
   if (order.Kind == "RETREAT") order.Target = fields.UpTo(' ');
 }
 
 void ParseAdjustment(OrderLine& order, std::string& work) {
   FieldCutter fields(order.Text, work);
-  order.Power = model::UpperCase(fields.UpTo(' '));
-  order.Kind = model::UpperCase(fields.UpTo(' '));
+  order.Power = text::UpperCase(fields.UpTo(' '));
+  order.Kind = text::UpperCase(fields.UpTo(' '));
   order.UnitType = fields.UpTo('(');
   order.Location = fields.UpTo(')');
 }

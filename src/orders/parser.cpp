@@ -1,7 +1,7 @@
 #include "orders/parser.h"
 
 #include "model/country.h"
-#include "model/text.h"
+#include "text/strings.h"
 
 #include <algorithm>
 #include <utility>
@@ -19,7 +19,7 @@ void ParseSupport(FieldCutter& fields, OrderLine& order) {
   order.Power2 = SecondPower(fields, order);
   order.UnitType2 = fields.UpTo('(');
   order.Target = fields.UpTo(')');
-  order.Kind2 = model::UpperCase(fields.UpTo(' '));
+  order.Kind2 = text::UpperCase(fields.UpTo(' '));
   if (order.Kind2 == "-") order.Target2 = fields.UpTo(' ');
 }
 
@@ -36,7 +36,7 @@ bool IsUnitType(std::string_view type) {
 }
 
 bool IsWater(std::string_view location) {
-  return model::UpperCase(location) == location;
+  return text::UpperCase(location) == location;
 }
 
 SyntaxFault SecondUnitFault(const model::Map& map, const OrderLine& order) {
@@ -73,7 +73,7 @@ FieldCutter::FieldCutter(std::string_view text, std::string& work) {
 std::string_view FieldCutter::UpTo(char separator) {
   const std::size_t end = std::min(rest_.find(separator), rest_.size());
   const std::string_view field = rest_.substr(0, end);
-  rest_ = model::Trim(rest_.substr(std::min(end + 1, rest_.size())));
+  rest_ = text::Trim(rest_.substr(std::min(end + 1, rest_.size())));
   return field;
 }
 
@@ -83,7 +83,7 @@ bool FieldCutter::BracketBeforeBlank() const {
 
 void SetOrderTexts(std::vector<std::string> lines, OrderTable& orders) {
   for (std::string& line : lines) {
-    const std::string_view trimmed = model::Trim(line);
+    const std::string_view trimmed = text::Trim(line);
     OrderLine& order = orders.Append();
     if (trimmed.size() == line.size()) {
       order.Text = std::move(line);
@@ -99,7 +99,7 @@ void ParseOrder(OrderLine& order, std::string& work) {
   order.Power = fields.UpTo(' ');
   order.UnitType = fields.UpTo('(');
   order.Location = fields.UpTo(')');
-  order.Kind = model::UpperCase(fields.UpTo(' '));
+  order.Kind = text::UpperCase(fields.UpTo(' '));
   if (IsMove(order)) order.Target = fields.UpTo(' ');
   if (IsSupport(order)) ParseSupport(fields, order);
   if (IsConvoy(order)) ParseConvoy(fields, order);

@@ -1,6 +1,6 @@
 #include "orders/syntax_fault.h"
 
-#include "model/text.h"
+#include "text/strings.h"
 
 namespace orb::orders {
 namespace {
@@ -16,7 +16,7 @@ std::string Faulty(std::string_view what, std::string_view field, const std::str
 }
 
 std::string Quoted(std::string_view field) {
-  return std::string("\"").append(model::Trim(field)).append("\"");
+  return std::string("\"").append(text::Trim(field)).append("\"");
 }
 
 std::string NotAPower(std::string_view what, std::string_view field) {

@@ -1,8 +1,10 @@
 #include "render/animation_view.h"
 
+#include "model/lookups.h"
 #include "render/drawing.h"
 #include "render/paths.h"
 #include "render/symbols.h"
+#include "settings/map_options.h"
 
 #include <algorithm>
 #include <vector>
@@ -24,23 +26,23 @@ constexpr double PushStart = 0.7;
 /// Smaller ones are not to be seen.
 constexpr double LeastScale = 0.05;
 
-bool StandsAside(const Journey& journey) {
+bool StandsAside(const history::Journey& journey) {
   return journey.Dislodged || journey.DislodgedAtFirst;
 }
 
-bool VanishesFromAside(const Journey& journey) {
+bool VanishesFromAside(const history::Journey& journey) {
   return journey.Vanishes && StandsAside(journey) && journey.Retreat.empty();
 }
 
-bool TakesPartInMoves(const Journey& journey) {
+bool TakesPartInMoves(const history::Journey& journey) {
   return !journey.Aim.empty() || journey.Dislodged;
 }
 
-bool TakesPartInRetreats(const Journey& journey) {
+bool TakesPartInRetreats(const history::Journey& journey) {
   return !journey.Retreat.empty() || VanishesFromAside(journey);
 }
 
-bool TakesPartInAdjustments(const Journey& journey) {
+bool TakesPartInAdjustments(const history::Journey& journey) {
   return journey.Appears || (journey.Vanishes && !VanishesFromAside(journey));
 }
 
@@ -50,10 +52,10 @@ struct Clock {
   double Seconds = FirstRest + LastRest;
 };
 
-Clock ClockAt(const std::vector<Journey>& journeys, double seconds) {
+Clock ClockAt(const std::vector<history::Journey>& journeys, double seconds) {
   Clock clock;
   double begin = FirstRest;
-  const auto part = [&](bool (*takesPart)(const Journey&), double length) {
+  const auto part = [&](bool (*takesPart)(const history::Journey&), double length) {
     if (std::none_of(journeys.begin(), journeys.end(), takesPart)) return 1.0;
     const double done = std::clamp((seconds - begin) / length, 0.0, 1.0);
     begin += length + RestAfterStage;
@@ -96,12 +98,12 @@ void Bring(Pose& pose, Point to, double scale, double part) {
   pose.Scale = Between(pose.Scale, scale, part);
 }
 
-void MoveUnit(const model::Map& map, const Journey& journey, double part, Pose& pose) {
+void MoveUnit(const model::Map& map, const history::Journey& journey, double part, Pose& pose) {
   if (journey.Aim.empty()) return;
   Path way = {pose.At};
   for (const std::string& fleet : journey.Fleets)
-    way.push_back(UnitPoint(PlaceOf(map, fleet)));
-  way.push_back(UnitPoint(PlaceOf(map, journey.Aim)));
+    way.push_back(UnitPoint(model::PlaceOf(map, fleet)));
+  way.push_back(UnitPoint(model::PlaceOf(map, journey.Aim)));
   double gone = Eased(part);
   if (journey.Bounces) {
     const double done = journey.Dislodged ? std::min(1.0, part / PushStart) : part;
@@ -111,24 +113,25 @@ void MoveUnit(const model::Map& map, const Journey& journey, double part, Pose& 
   if (part > 0 && part < 1) pose.Layer = Layer::Moving;
 }
 
-void PushUnit(const model::Map& map, const Journey& journey, double part, Pose& pose) {
+void PushUnit(const model::Map& map, const history::Journey& journey, double part, Pose& pose) {
   if (!journey.Dislodged || part <= PushStart) return;
-  const model::Province& place = PlaceOf(map, HasMoved(journey) ? journey.Aim : journey.From);
+  const model::Province& place =
+      model::PlaceOf(map, history::HasMoved(journey) ? journey.Aim : journey.From);
   Bring(pose, LabelPoint(place), DislodgedScale, Eased((part - PushStart) / (1 - PushStart)));
   pose.Layer = Layer::Aside;
 }
 
-void RetreatUnit(const model::Map& map, const Journey& journey, double part, Pose& pose) {
+void RetreatUnit(const model::Map& map, const history::Journey& journey, double part, Pose& pose) {
   if (VanishesFromAside(journey)) {
     pose.Scale *= 1 - Eased(part);
   } else if (!journey.Retreat.empty()) {
-    Bring(pose, UnitPoint(PlaceOf(map, journey.Retreat)), 1, Eased(part));
+    Bring(pose, UnitPoint(model::PlaceOf(map, journey.Retreat)), 1, Eased(part));
     if (part >= 1) pose.Layer = Layer::Standing;
   }
 }
 
-Pose PoseAt(const model::Map& map, const Journey& journey, const Clock& clock) {
-  const model::Province& first = PlaceOf(map, journey.From);
+Pose PoseAt(const model::Map& map, const history::Journey& journey, const Clock& clock) {
+  const model::Province& first = model::PlaceOf(map, journey.From);
   Pose pose{UnitPoint(first)};
   if (journey.DislodgedAtFirst) {
     pose = {LabelPoint(first), DislodgedScale, Layer::Aside};
@@ -147,28 +150,28 @@ Pose PoseAt(const model::Map& map, const Journey& journey, const Clock& clock) {
 
 }  // namespace
 
-double Seconds(const Replay& replay) {
+double Seconds(const history::Replay& replay) {
   return ClockAt(replay.Journeys, 0).Seconds;
 }
 
-void DrawStill(const Replay& replay, const MapOptions& options,
+void DrawStill(const history::Replay& replay, const settings::MapOptions& options,
                const std::filesystem::path& dataDirectory, Surface& surface) {
   DrawBelowUnits(replay.Start, options, dataDirectory, surface);
 }
 
-void DrawMoving(const Replay& replay, const MapOptions& options, double progress,
+void DrawMoving(const history::Replay& replay, const settings::MapOptions& options, double progress,
                 Surface& surface) {
   const Clock clock = ClockAt(replay.Journeys, progress * Seconds(replay));
   std::vector<Pose> poses;
   poses.reserve(replay.Journeys.size());
-  for (const Journey& journey : replay.Journeys)
+  for (const history::Journey& journey : replay.Journeys)
     poses.push_back(PoseAt(*replay.Start.Map, journey, clock));
   const SymbolStyle style{replay.Start.Countries, options.Mode};
   for (const Layer layer : {Layer::Standing, Layer::Moving, Layer::Aside}) {
     for (std::size_t i = 0; i < poses.size(); ++i) {
       const Pose& pose = poses[i];
       if (pose.Layer != layer || pose.Scale < LeastScale) continue;
-      const Journey& journey = replay.Journeys[i];
+      const history::Journey& journey = replay.Journeys[i];
       DrawUnit(surface, style, journey.UnitType, pose.At, model::FindCountry(journey.Power),
                pose.Scale);
     }
@@ -176,7 +179,7 @@ void DrawMoving(const Replay& replay, const MapOptions& options, double progress
   DrawAboveUnits(replay.Start, options, surface);
 }
 
-void DrawFrame(const Replay& replay, const MapOptions& options,
+void DrawFrame(const history::Replay& replay, const settings::MapOptions& options,
                const std::filesystem::path& dataDirectory, double progress, Surface& surface) {
   DrawStill(replay, options, dataDirectory, surface);
   DrawMoving(replay, options, progress, surface);

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "render/animation.h"
+#include "history/replay.h"
 #include "render/map_view.h"
 #include "render/surface.h"
+#include "settings/map_options.h"
 
 #include <filesystem>
 
@@ -13,17 +14,18 @@
 namespace orb::render {
 
 /// How long the replay takes at normal speed, in seconds.
-double Seconds(const Replay& replay);
+double Seconds(const history::Replay& replay);
 
 /// Draws what stays the same in every frame. Throws FileError for a missing or broken bitmap.
-void DrawStill(const Replay& replay, const MapOptions& options,
+void DrawStill(const history::Replay& replay, const settings::MapOptions& options,
                const std::filesystem::path& dataDirectory, Surface& surface);
 
 /// Draws the units, and what lies over them, at a progress of 0..1 on top of the still.
-void DrawMoving(const Replay& replay, const MapOptions& options, double progress, Surface& surface);
+void DrawMoving(const history::Replay& replay, const settings::MapOptions& options, double progress,
+                Surface& surface);
 
 /// Draws a frame whole.
-void DrawFrame(const Replay& replay, const MapOptions& options,
+void DrawFrame(const history::Replay& replay, const settings::MapOptions& options,
                const std::filesystem::path& dataDirectory, double progress, Surface& surface);
 
 }  // namespace orb::render

@@ -9,10 +9,6 @@ void SetPens(Surface& surface) {
   surface.DrawWidth = 1;
 }
 
-const model::Province& PlaceOf(const model::Map& map, std::string_view location) {
-  return map.Provinces[model::FindProvince(map, location)];
-}
-
 Point LabelPoint(const model::Province& province) {
   return {province.LabelX, province.LabelY};
 }

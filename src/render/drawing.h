@@ -16,9 +16,6 @@ constexpr model::Colour White = model::Rgb(255, 255, 255);
 /// Sets a black pen of width 1 and solid black filling.
 void SetPens(Surface& surface);
 
-/// The row of a location. Throws IndexOutOfRange for one that is not on the map.
-const model::Province& PlaceOf(const model::Map& map, std::string_view location);
-
 /// Where a dislodged unit is drawn, and the name.
 Point LabelPoint(const model::Province& province);
 

@@ -2,7 +2,7 @@
 
 #include "model/errors.h"
 #include "model/files.h"
-#include "model/text.h"
+#include "model/place.h"
 
 #include <algorithm>
 #include <cmath>

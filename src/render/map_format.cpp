@@ -1,6 +1,6 @@
 #include "render/map_format.h"
 
-#include "model/text.h"
+#include "text/strings.h"
 
 #include <array>
 #include <string>
@@ -15,7 +15,7 @@ std::optional<MapFormat> FormatOf(const std::filesystem::path& file) {
        {".png", MapFormat::Png},
        {".svg", MapFormat::Svg},
        {".pdf", MapFormat::Pdf}}};
-  const std::string extension = model::LowerCase(file.extension().string());
+  const std::string extension = text::LowerCase(file.extension().string());
   for (const auto& [text, format] : formats) {
     if (extension == text) return format;
   }

@@ -1,7 +1,7 @@
 #include "render/map_view.h"
 
-#include "model/text.h"
-#include "orders/lookups.h"
+#include "model/lookups.h"
+#include "model/place.h"
 #include "render/drawing.h"
 #include "render/order_drawing.h"
 #include "render/symbols.h"
@@ -34,7 +34,8 @@ void DrawOwnerBox(Surface& surface, Point corner, std::string_view label, model:
   SetPens(surface);
 }
 
-void DrawLabel(Surface& surface, const GameState& game, const MapOptions& options, int row) {
+void DrawLabel(Surface& surface, const GameState& game, const settings::MapOptions& options,
+               int row) {
   const model::Province& province = game.Map->Provinces[row];
   const std::string_view label = LabelText(province);
   const Point corner = LabelCorner(surface, province);
@@ -48,7 +49,8 @@ void DrawLabel(Surface& surface, const GameState& game, const MapOptions& option
 }
 
 /// Over the lines of orders, from which a light seam keeps the letters and the dot apart.
-void DrawLabelAgain(Surface& surface, const GameState& game, const MapOptions& options, int row) {
+void DrawLabelAgain(Surface& surface, const GameState& game, const settings::MapOptions& options,
+                    int row) {
   const model::Province& province = game.Map->Provinces[row];
   constexpr std::array<Point, 8> around = {
       {{-18, 0}, {18, 0}, {0, -18}, {0, 18}, {-13, -13}, {13, -13}, {-13, 13}, {13, 13}}};
@@ -63,7 +65,8 @@ void DrawLabelAgain(Surface& surface, const GameState& game, const MapOptions& o
   DrawLabel(surface, game, options, row);
 }
 
-void DrawLabelsAndCentres(Surface& surface, const GameState& game, const MapOptions& options) {
+void DrawLabelsAndCentres(Surface& surface, const GameState& game,
+                          const settings::MapOptions& options) {
   for (int row = 1; row <= game.Map->Provinces.Count(); ++row) {
     DrawLabel(surface, game, options, row);
   }
@@ -94,7 +97,7 @@ void DrawStandoffMarkers(Surface& surface, const GameState& game) {
   for (int row = 1; row <= game.Map->Provinces.Count(); ++row) {
     const model::Province& province = game.Map->Provinces[row];
     if (game.Provinces[row].Uncontested || province.Name.size() != 3) continue;
-    if (orders::FindUnitAt(game, province.Name) == 0) {
+    if (model::FindUnitAt(game, province.Name) == 0) {
       DrawStandoffMarker(surface, UnitPoint(province));
     }
   }
@@ -121,31 +124,32 @@ bool IsAmong(const Orders& orders, const Unit& dislodged) {
 }
 
 /// Old game files do not tell where a unit was dislodged from: no line then.
-void DrawAttackLines(Surface& surface, const GameState& game, MapMode mode, const Orders& orders) {
+void DrawAttackLines(Surface& surface, const GameState& game, settings::MapMode mode,
+                     const Orders& orders) {
   for (const Unit& unit : game.Units) {
     if (unit.Status != model::Dislodged || unit.DislodgedFrom.empty()) continue;
-    if (orders::FindUnitAt(game, unit.DislodgedFrom) != 0 || IsAmong(orders, unit)) continue;
+    if (model::FindUnitAt(game, unit.DislodgedFrom) != 0 || IsAmong(orders, unit)) continue;
     const Unit* attacker = FindAttacker(game, unit);
     if (attacker == nullptr) continue;
     const int power = model::FindCountry(attacker->Power);
-    DrawMoveLine(surface, UnitPoint(PlaceOf(*game.Map, unit.DislodgedFrom)),
-                 UnitPoint(PlaceOf(*game.Map, attacker->Location)),
-                 InColour(mode) ? game.Countries[power].Colour : Black);
+    DrawMoveLine(surface, UnitPoint(model::PlaceOf(*game.Map, unit.DislodgedFrom)),
+                 UnitPoint(model::PlaceOf(*game.Map, attacker->Location)),
+                 settings::InColour(mode) ? game.Countries[power].Colour : Black);
   }
 }
 
-void DrawUnits(Surface& surface, const GameState& game, MapMode mode, bool dislodged) {
+void DrawUnits(Surface& surface, const GameState& game, settings::MapMode mode, bool dislodged) {
   const SymbolStyle style{game.Countries, mode};
   for (const Unit& unit : game.Units) {
     const int power = model::FindCountry(unit.Power);
-    const model::Province& province = PlaceOf(*game.Map, unit.Location);
+    const model::Province& province = model::PlaceOf(*game.Map, unit.Location);
     if (unit.Status != (dislodged ? model::Dislodged : std::string_view{})) continue;
     DrawUnit(surface, style, unit.UnitType, dislodged ? LabelPoint(province) : UnitPoint(province),
              power, dislodged ? DislodgedScale : 1.0);
   }
 }
 
-void DrawCentreOwners(Surface& surface, const GameState& game, MapMode mode) {
+void DrawCentreOwners(Surface& surface, const GameState& game, settings::MapMode mode) {
   for (int row = 1; row <= game.Map->Provinces.Count(); ++row) {
     if (game.Map->Provinces[row].IsSupplyCentre != 0) {
       DrawCentreOwnerMarker(surface, game, mode, row);
@@ -219,7 +223,7 @@ std::vector<LabelBoxes> BoxesToKeepClear(const Surface& surface, const GameState
   return orders.empty() ? std::vector<LabelBoxes>{} : LabelBoxesOf(surface, *game.Map);
 }
 
-void DrawGround(const GameState& game, const MapOptions& options,
+void DrawGround(const GameState& game, const settings::MapOptions& options,
                 const std::filesystem::path& dataDirectory, Surface& surface,
                 const Orders& orders) {
   surface.LoadPicture(BackgroundFile(dataDirectory, options.Mode));
@@ -235,25 +239,27 @@ void DrawGround(const GameState& game, const MapOptions& options,
 
 }  // namespace
 
-std::filesystem::path BackgroundFile(const std::filesystem::path& dataDirectory, MapMode mode) {
-  if (InColour(mode)) return dataDirectory / "map.bmp";
-  return dataDirectory / (mode == MapMode::Grey ? "mapgrey.bmp" : "mapbw.bmp");
+std::filesystem::path BackgroundFile(const std::filesystem::path& dataDirectory,
+                                     settings::MapMode mode) {
+  if (settings::InColour(mode)) return dataDirectory / "map.bmp";
+  return dataDirectory / (mode == settings::MapMode::Grey ? "mapgrey.bmp" : "mapbw.bmp");
 }
 
-void DrawBelowUnits(const GameState& game, const MapOptions& options,
+void DrawBelowUnits(const GameState& game, const settings::MapOptions& options,
                     const std::filesystem::path& dataDirectory, Surface& surface) {
   DrawGround(game, options, dataDirectory, surface, {});
 }
 
-void DrawAboveUnits(const GameState& game, const MapOptions& options, Surface& surface) {
+void DrawAboveUnits(const GameState& game, const settings::MapOptions& options, Surface& surface) {
   SetFont(surface);
   if (options.ShowCentreOwners) DrawCentreOwners(surface, game, options.Mode);
   if (options.ShowCentreCount) {
-    InColour(options.Mode) ? DrawColourLegend(surface, game) : DrawPlainLegend(surface, game);
+    settings::InColour(options.Mode) ? DrawColourLegend(surface, game)
+                                     : DrawPlainLegend(surface, game);
   }
 }
 
-void RenderMap(const GameState& game, const MapOptions& options,
+void RenderMap(const GameState& game, const settings::MapOptions& options,
                const std::filesystem::path& dataDirectory, Surface& surface,
                std::span<const orders::OrderOutcome> orders) {
   DrawGround(game, options, dataDirectory, surface, orders);

@@ -1,10 +1,11 @@
 #include "render/order_drawing.h"
 
-#include "model/text.h"
-#include "orders/lookups.h"
+#include "model/lookups.h"
+#include "model/place.h"
 #include "render/drawing.h"
 #include "render/order_strokes.h"
 #include "render/symbols.h"
+#include "settings/map_options.h"
 
 #include <algorithm>
 
@@ -30,8 +31,8 @@ bool IsDark(model::Colour colour) {
 }
 
 /// Dark colours have a light edge, light ones a dark one.
-OrderPen PenOf(const model::Country& country, MapMode mode, double width) {
-  if (!InColour(mode)) return {Black, White, width, EdgeWidthWithoutColour};
+OrderPen PenOf(const model::Country& country, settings::MapMode mode, double width) {
+  if (!settings::InColour(mode)) return {Black, White, width, EdgeWidthWithoutColour};
   if (IsDark(country.Colour)) return {country.Colour, White, width, EdgeWidth};
   const model::Colour edge = IsDark(country.TextColour) ? country.TextColour : Black;
   return {country.Colour, edge, width, EdgeWidth};
@@ -49,7 +50,7 @@ bool GoesThrough(Outcome outcome) {
 /// Draws orders one by one.
 class Artist {
  public:
-  Artist(Surface& surface, const model::GameState& game, MapMode mode)
+  Artist(Surface& surface, const model::GameState& game, settings::MapMode mode)
       : surface_(surface), game_(game), mode_(mode) {}
 
   void DrawArrow(const OrderRoute& route) const {
@@ -109,7 +110,7 @@ class Artist {
 
   void DrawDisband(const OrderRoute& route) const {
     if (!GoesThrough(route.Order->Outcome)) return DrawRing(route);
-    const model::Province& place = PlaceOf(*game_.Map, route.Order->Location);
+    const model::Province& place = model::PlaceOf(*game_.Map, route.Order->Location);
     const auto point = HasAttacker(*route.Order) ? LabelPoint : UnitPoint;
     DrawCross(surface_, {Black, White, MoveWidth, EdgeWidth}, OnSurface(surface_, point(place)),
               DisbandReach);
@@ -122,9 +123,9 @@ class Artist {
       const Point at = MarkOnRing(RingPath(route.Unit, RingRadius)).At;
       DrawPlus(surface_, Pen(route, MoveWidth), at, MarkReach);
     }
-    if (order.Outcome != Outcome::Entered || orders::FindUnitAt(game_, order.Location) != 0) return;
+    if (order.Outcome != Outcome::Entered || model::FindUnitAt(game_, order.Location) != 0) return;
     DrawUnit(surface_, {game_.Countries, mode_}, order.UnitType,
-             UnitPoint(PlaceOf(*game_.Map, order.Location)), route.Power, 1);
+             UnitPoint(model::PlaceOf(*game_.Map, order.Location)), route.Power, 1);
   }
 
  private:
@@ -166,7 +167,7 @@ class Artist {
 
   Surface& surface_;
   const model::GameState& game_;
-  MapMode mode_;
+  settings::MapMode mode_;
 };
 
 /// A unit that stays: it was told to, or was told to go or give support to where it stands.
@@ -183,7 +184,7 @@ bool IsSupportLine(const OrderRoute& route) {
 }  // namespace
 
 void DrawOrdersBelowUnits(Surface& surface, const model::GameState& game,
-                          std::span<const OrderRoute> routes, MapMode mode) {
+                          std::span<const OrderRoute> routes, settings::MapMode mode) {
   const Artist artist(surface, game, mode);
   // What is void lies below what counts.
   std::vector<OrderRoute> sorted(routes.begin(), routes.end());
@@ -204,7 +205,7 @@ void DrawOrdersBelowUnits(Surface& surface, const model::GameState& game,
 }
 
 void DrawOrdersAboveUnits(Surface& surface, const model::GameState& game,
-                          std::span<const OrderRoute> routes, MapMode mode) {
+                          std::span<const OrderRoute> routes, settings::MapMode mode) {
   const Artist artist(surface, game, mode);
   for (const OrderRoute& route : routes) {
     if (route.Order->Kind == "DISBAND") artist.DrawDisband(route);

@@ -1,7 +1,8 @@
 #include "render/order_routes.h"
 
-#include "model/text.h"
-#include "render/convoys.h"
+#include "history/convoys.h"
+#include "model/lookups.h"
+#include "model/place.h"
 #include "render/drawing.h"
 #include "render/order_strokes.h"
 
@@ -95,7 +96,7 @@ class Router {
     for (OrderRoute& route : routes_) {
       const OrderOutcome& order = *route.Order;
       const auto at = order.Kind == "RETREAT" ? LabelPoint : UnitPoint;
-      route.Unit = OnSurface(surface_, at(PlaceOf(map_, order.Location)));
+      route.Unit = OnSurface(surface_, at(model::PlaceOf(map_, order.Location)));
       if (!GoesToUnit(order)) continue;
       const bool hasOpposite = HasOpposite(order);
       const double endLength = order.Kind == "S" ? EndDotRadius : HeadLength;
@@ -110,7 +111,7 @@ class Router {
 
  private:
   Point UnitAt(const std::string& location) const {
-    return OnSurface(surface_, UnitPoint(PlaceOf(map_, location)));
+    return OnSurface(surface_, UnitPoint(model::PlaceOf(map_, location)));
   }
 
   /// Orders that lead from a place to itself have no line.
@@ -124,7 +125,7 @@ class Router {
   Path StopsOf(const OrderRoute& route, bool hasOpposite) const {
     const OrderOutcome& order = *route.Order;
     Path stops = {route.Unit};
-    for (const std::string& fleet : FleetsOf(map_, order, orders_))
+    for (const std::string& fleet : history::FleetsOf(map_, order, orders_))
       stops.push_back(UnitAt(fleet));
     stops.push_back(UnitAt(EndOf(order)));
     const Point right = Right(Towards(stops.front(), stops.back()));
@@ -212,7 +213,7 @@ class Router {
   /// The move that a support or convoy is for; nothing when no order goes it.
   const OrderRoute* FindMove(const OrderOutcome& order) const {
     const auto move = std::ranges::find_if(routes_, [&order](const OrderRoute& other) {
-      return IsForMove(order, *other.Order) && !other.Way.Line.empty();
+      return history::IsForMove(order, *other.Order) && !other.Way.Line.empty();
     });
     return move == routes_.end() ? nullptr : &*move;
   }

@@ -1,6 +1,7 @@
 #include "render/symbols.h"
 
 #include "render/drawing.h"
+#include "settings/map_options.h"
 
 #include <algorithm>
 #include <array>
@@ -69,9 +70,10 @@ constexpr std::array<Device, model::CountryCount> Devices = {{{185, false, true}
 
 Paint PaintOf(const SymbolStyle& style, int power) {
   const model::Country& country = style.Countries[power];
-  if (InColour(style.Mode)) return {country.Colour, country.TextColour, Black, false, false};
+  if (settings::InColour(style.Mode))
+    return {country.Colour, country.TextColour, Black, false, false};
   const Device& device = Devices[static_cast<std::size_t>(power - 1)];
-  if (style.Mode == MapMode::Grey) {
+  if (style.Mode == settings::MapMode::Grey) {
     const Colour letter = device.Grey < 128 ? White : Black;
     return {Rgb(device.Grey, device.Grey, device.Grey), Black, letter, true, false};
   }
@@ -160,7 +162,7 @@ void DrawArmy(Surface& surface, const SymbolStyle& style, Point at, int power, d
   SetPaint(surface, paint);
   surface.Circle(centre, ArmyRadius * scale);
   const double inner = (ArmyRadius - 17) * scale;
-  if (style.Mode == MapMode::Colour3D) ShadeCircle(surface, centre, inner);
+  if (style.Mode == settings::MapMode::Colour3D) ShadeCircle(surface, centre, inner);
   if (paint.HasRing) {
     surface.FillStyle = Fill::Transparent;
     surface.ForeColour = paint.Letter;
@@ -179,7 +181,7 @@ void DrawFleet(Surface& surface, const SymbolStyle& style, Point at, int power, 
   const std::vector<Point> ship = Placed(Ship, centre, scale);
   SetPaint(surface, paint);
   surface.Polygon(ship);
-  if (style.Mode == MapMode::Colour3D) ShadeFigure(surface, Inset(ship, 16 * scale));
+  if (style.Mode == settings::MapMode::Colour3D) ShadeFigure(surface, Inset(ship, 16 * scale));
   if (paint.HasRing) {
     surface.ForeColour = paint.Letter;
     surface.DrawWidth = 2 * scale;
@@ -224,7 +226,7 @@ void DrawStandoffMarker(Surface& surface, Point at) {
   }
 }
 
-void DrawCentreOwnerMarker(Surface& surface, const model::GameState& game, MapMode mode,
+void DrawCentreOwnerMarker(Surface& surface, const model::GameState& game, settings::MapMode mode,
                            int province) {
   const int owner = model::FindCountry(game.Provinces[province].Owner);
   if (owner == 0) return;

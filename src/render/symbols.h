@@ -3,6 +3,7 @@
 #include "model/game_state.h"
 #include "render/map_view.h"
 #include "render/surface.h"
+#include "settings/map_options.h"
 
 #include <string_view>
 
@@ -17,7 +18,7 @@ constexpr double DislodgedScale = 0.75;
 /// What a unit's looks depend on beside its power.
 struct SymbolStyle {
   const model::CountryTable& Countries;
-  MapMode Mode;
+  settings::MapMode Mode;
 };
 
 /// An army: a disc of 115 twips radius times the scale.
@@ -37,7 +38,7 @@ void DrawMoveLine(Surface& surface, Point from, Point to, model::Colour colour);
 void DrawStandoffMarker(Surface& surface, Point at);
 
 /// A shield in the owner's colour over the dot of a supply centre; nothing for a neutral one.
-void DrawCentreOwnerMarker(Surface& surface, const model::GameState& game, MapMode mode,
+void DrawCentreOwnerMarker(Surface& surface, const model::GameState& game, settings::MapMode mode,
                            int province);
 
 }  // namespace orb::render

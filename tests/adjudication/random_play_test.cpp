@@ -2,10 +2,11 @@
 #include "adjudication/explain.h"
 #include "adjudication/participants.h"
 #include "adjudication/stages.h"
+#include "model/counts.h"
+#include "model/lookups.h"
 #include "model/new_game.h"
+#include "model/place.h"
 #include "model/seasons.h"
-#include "model/text.h"
-#include "orders/lookups.h"
 #include "support/directories.h"
 #include "support/scripted_messages.h"
 #include "support/situation.h"
@@ -42,7 +43,7 @@ class Player {
     for (int tries = 0; tries < 200 && game.Units.Count() < wanted; ++tries) {
       const std::string& place = RandomPlace();
       const std::string type = Chance(50) ? "A" : "F";
-      if (!orders::CanStandIn(*RealMap(), type, place)) continue;
+      if (!model::CanStandIn(*RealMap(), type, place)) continue;
       if (!taken.insert(place.substr(0, 3)).second) continue;
       Unit& unit = game.Units.Append();
       unit.Power = game.Countries[1 + Below(model::CountryCount)].Abbreviation;
@@ -59,7 +60,7 @@ class Player {
     for (int u = 1; u <= game.Units.Count(); ++u)
       Assist(game, u, plans);
     for (int u = 1; u <= game.Units.Count(); ++u) {
-      const std::string text = orders::UnitText(game.Units[u]) + " ";
+      const std::string text = model::UnitText(game.Units[u]) + " ";
       std::string& plan = plans[static_cast<std::size_t>(u - 1)];
       if (Chance(2)) plan[static_cast<std::size_t>(Below(static_cast<int>(plan.size())))]++;
       if (Chance(95)) game.OrdersList.push_back(text + plan);
@@ -71,7 +72,7 @@ class Player {
   void OrderRetreats(GameState& game) {
     for (const Unit& unit : game.Units) {
       if (unit.Status.empty() || Chance(5)) continue;
-      const std::string text = orders::UnitText(unit);
+      const std::string text = model::UnitText(unit);
       game.RetreatsList.push_back(text + (Chance(10) ? " disband" : " retreat " + Aim(unit)));
     }
   }
@@ -79,11 +80,11 @@ class Player {
   void OrderAdjustments(GameState& game) {
     for (const model::Country& country : game.Countries) {
       const std::string& power = country.Abbreviation;
-      const adjudication::PowerCount count = adjudication::CountPower(game, power);
+      const model::PowerCount count = model::CountPower(game, power);
       int surplus = count.Units - count.Centres;
       for (const Unit& unit : game.Units) {
         if (unit.Power != power || surplus-- <= 0) continue;
-        game.AdjustmentsList.push_back(power + " disband " + orders::UnitText(unit).substr(4));
+        game.AdjustmentsList.push_back(power + " disband " + model::UnitText(unit).substr(4));
       }
       for (const model::Province& place : game.Map->Provinces) {
         if (place.HomeCountry != power || count.Units >= count.Centres || Chance(30)) continue;
@@ -107,12 +108,12 @@ class Player {
       const std::string place = moves ? helped.substr(2) : unit.Location;
       if (wanted < 10 && game.Units[u].UnitType == "F" && unit.UnitType == "A") {
         if (!moves || Chance(50)) helped = "- " + RandomPlace();
-        plan = "c " + orders::UnitText(unit) + " " + helped;
+        plan = "c " + model::UnitText(unit) + " " + helped;
         return;
       }
       if (wanted >= 10 && wanted < 60 && (moves || helped == "hold") &&
-          orders::CanSupportInto(*RealMap(), game.Units[u], place)) {
-        plan = "s " + orders::UnitText(unit) + " " + helped;
+          model::CanSupportInto(*RealMap(), game.Units[u], place)) {
+        plan = "s " + model::UnitText(unit) + " " + helped;
         return;
       }
     }
@@ -126,7 +127,7 @@ class Player {
   std::string Aim(const Unit& unit) {
     std::vector<std::string> near;
     for (const model::Province& place : RealMap()->Provinces) {
-      if (orders::IsAdjacent(*RealMap(), unit.UnitType, unit.Location, place.Name)) {
+      if (model::IsAdjacent(*RealMap(), unit.UnitType, unit.Location, place.Name)) {
         near.push_back(place.Name);
       }
     }
@@ -147,10 +148,10 @@ void CheckMovedUnit(const Resolution& resolution, const GameState& before, const
                     int u) {
   const Unit& old = before.Units[u];
   const Unit& unit = after.Units[u];
-  SCOPED_TRACE(orders::UnitText(old) + " now in " + unit.Location + " <" + unit.DislodgedFrom);
+  SCOPED_TRACE(model::UnitText(old) + " now in " + unit.Location + " <" + unit.DislodgedFrom);
   EXPECT_EQ(unit.Power + unit.UnitType + unit.PreviousLocation,
             old.Power + old.UnitType + old.Location);
-  EXPECT_TRUE(orders::CanStandIn(*after.Map, unit.UnitType, unit.Location));
+  EXPECT_TRUE(model::CanStandIn(*after.Map, unit.UnitType, unit.Location));
   EXPECT_TRUE(unit.Location == old.Location || AnyMove(resolution, [&](const OrderLine& o) {
                 return !o.Failed && o.UnitIndex == u && o.Target == unit.Location;
               }));
@@ -211,15 +212,15 @@ void CheckRetreats(const GameState& before, const GameState& after) {
     const Unit unit = next <= after.Units.Count() ? after.Units[next] : Unit();
     const bool same = unit.PreviousLocation == old.PreviousLocation && unit.Power == old.Power;
     EXPECT_TRUE(old.Status == model::Dislodged || (same && unit.Location == old.Location))
-        << orders::UnitText(old);
+        << model::UnitText(old);
     if (!same) continue;
     ++next;
     EXPECT_TRUE(unit.Status.empty());
     if (old.Status.empty()) continue;
-    EXPECT_EQ(orders::FindUnitAt(before, unit.Location), 0);
+    EXPECT_EQ(model::FindUnitAt(before, unit.Location), 0);
     EXPECT_FALSE(model::SamePlace(unit.Location, old.DislodgedFrom));
     EXPECT_TRUE(before.Provinces[model::FindProvince(*before.Map, unit.Location)].Uncontested);
-    EXPECT_TRUE(orders::IsAdjacent(*before.Map, old.UnitType, old.Location, unit.Location));
+    EXPECT_TRUE(model::IsAdjacent(*before.Map, old.UnitType, old.Location, unit.Location));
   }
   EXPECT_EQ(next, after.Units.Count() + 1);
   EXPECT_EQ(after.Stage, before.Season == "Spring" ? "finished" : "adjustments");
@@ -234,14 +235,14 @@ void CheckAdjustments(const Resolution& resolution, const GameState& before,
     const std::string place = unit.Location.substr(0, 3);
     places.insert(place);
     const model::Province& province = after.Map->Provinces[model::FindProvince(*after.Map, place)];
-    const int old = orders::FindUnitAt(before, place);
+    const int old = model::FindUnitAt(before, place);
     EXPECT_TRUE(old != 0 ? before.Units[old].Power == unit.Power
                          : province.HomeCountry == unit.Power && province.IsSupplyCentre != 0)
-        << orders::UnitText(unit);
+        << model::UnitText(unit);
   }
   EXPECT_EQ(places.size(), static_cast<std::size_t>(after.Units.Count()));
   for (const model::Country& country : after.Countries) {
-    const adjudication::PowerCount count = adjudication::CountPower(after, country.Abbreviation);
+    const model::PowerCount count = model::CountPower(after, country.Abbreviation);
     EXPECT_LE(count.Units, count.Centres) << country.Abbreviation;
   }
 }
@@ -264,7 +265,7 @@ void CheckParticipants(const Resolution& resolution, const GameState& before,
   const auto sentences = adjudication::ExplainReport(after, resolution);
   const auto participants = adjudication::ReportParticipants(after, resolution);
   for (int u = 1; u <= before.Units.Count(); ++u) {
-    const std::string name = orders::UnitText(before.Units[u]);
+    const std::string name = model::UnitText(before.Units[u]);
     for (std::size_t i = 0; i < sentences.size(); ++i) {
       if (sentences[i].find(name) == std::string::npos) continue;
       EXPECT_THAT(participants[i], testing::Contains(after.Units[u].Location)) << sentences[i];

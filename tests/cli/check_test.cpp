@@ -1,5 +1,5 @@
 #include "cli/desk.h"
-#include "model/text.h"
+#include "text/strings.h"
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ void ExpectProblems(const std::vector<Case>& cases) {
     const Outcome outcome = desk.Run("check --orders @o.txt @a.orb");
     std::string expected;
     for (std::string_view rest = c.Out; !rest.empty();)
-      expected.append("@a.orb: ").append(model::NextLine(rest)).append("\n");
+      expected.append("@a.orb: ").append(text::NextLine(rest)).append("\n");
     EXPECT_EQ(outcome.Out + outcome.Err, expected);
     EXPECT_EQ(outcome.Status, c.Out.empty() ? 0 : 1);
     EXPECT_EQ(desk.Read("a.orb"), c.Game);

@@ -2,7 +2,7 @@
 #include "cli/desk.h"
 #include "cli/help.h"
 #include "cli/run.h"
-#include "cli/text_encoding.h"
+#include "text/encoding.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -119,10 +119,10 @@ TEST(TextEncoding, FindsTheEightBitFormOfEveryCharacterThatHasOne) {
       {"\u20ac\u0152\u0178\u2122", "\x80\x8c\x9f\x99"},
       {"\u0081\u009d", "\x81\x9d"}};
   for (const auto& [utf8, bytes] : cases)
-    EXPECT_EQ(cli::ToWindows1252(utf8), bytes) << utf8;
+    EXPECT_EQ(text::ToWindows1252(utf8), bytes) << utf8;
   for (const char* none : {"\u0080", "\u0416", "\U0001F600", "\xe9", "\xc3", "\xc3(", "\x80",
                            "\xc1\xa9", "\xe0\x83\xa9", "\xff\xa9\xa9\xa9"}) {
-    EXPECT_EQ(cli::ToWindows1252(none), std::nullopt) << none;
+    EXPECT_EQ(text::ToWindows1252(none), std::nullopt) << none;
   }
 }
 

@@ -3,8 +3,8 @@
 #include "cli/run.h"
 #include "model/files.h"
 #include "model/game_file.h"
-#include "model/text.h"
 #include "support/situation.h"
+#include "text/strings.h"
 
 #include <set>
 #include <sstream>
@@ -67,7 +67,7 @@ std::string GameFile(std::string_view season, std::string_view stage, std::strin
                      std::string_view owners) {
   model::GameState game = EmptyBoard(season, stage);
   while (!units.empty())
-    AddDrawnUnit(game, model::NextLine(units));
+    AddDrawnUnit(game, text::NextLine(units));
   Own(game, owners);
   return model::FormatGameFile(game);
 }

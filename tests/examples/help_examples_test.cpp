@@ -1,11 +1,11 @@
 #include "adjudication/stages.h"
+#include "help/help_topics.h"
 #include "model/new_game.h"
 #include "model/seasons.h"
-#include "model/text.h"
-#include "render/help_topics.h"
 #include "support/directories.h"
 #include "support/scripted_messages.h"
 #include "support/situation.h"
+#include "text/strings.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -18,8 +18,8 @@
 namespace orb::tests {
 namespace {
 
+using help::HelpTopic;
 using model::GameState;
-using render::HelpTopic;
 using testing::Contains;
 using testing::Each;
 using testing::HasSubstr;
@@ -27,15 +27,15 @@ using testing::HasSubstr;
 std::vector<std::string> LinesOf(std::string_view text) {
   std::vector<std::string> lines;
   while (!text.empty())
-    lines.emplace_back(model::NextLine(text));
+    lines.emplace_back(text::NextLine(text));
   return lines;
 }
 
 /// The blocks of lines that stand as they are.
 std::vector<std::string> Blocks(const HelpTopic& topic) {
   std::vector<std::string> texts;
-  for (const render::HelpBlock& block : render::HelpBlocks(topic.Text)) {
-    if (block.Form == render::HelpBlockForm::Literal) texts.push_back(block.Text);
+  for (const help::HelpBlock& block : help::HelpBlocks(topic.Text)) {
+    if (block.Form == help::HelpBlockForm::Literal) texts.push_back(block.Text);
   }
   return texts;
 }
@@ -55,7 +55,7 @@ Example ReadExample(const std::string& block) {
     section = &example[line.substr(0, colon)];
     std::string_view rest = std::string_view(line).substr(colon + 1);
     while (!rest.empty())
-      section->emplace_back(model::Trim(model::NextField(rest)));
+      section->emplace_back(text::Trim(text::NextField(rest)));
   }
   return example;
 }
@@ -68,7 +68,7 @@ std::string OrderIn(const std::string& reportLine) {
 
 std::vector<std::string> Trimmed(std::vector<std::string> lines) {
   for (std::string& line : lines)
-    line = model::Trim(line);
+    line = text::Trim(line);
   return lines;
 }
 
@@ -116,7 +116,7 @@ void CheckExample(Example example) {
 
 TEST(HelpExamples, ComeOutAsTheHelpSays) {
   int count = 0;
-  for (const HelpTopic& topic : render::LoadHelpTopics(DataDirectory())) {
+  for (const HelpTopic& topic : help::LoadHelpTopics(DataDirectory())) {
     for (const std::string& block : Blocks(topic)) {
       Example example = ReadExample(block);
       if (example.count("Report") == 0 && example.count("Message") == 0) continue;
@@ -130,21 +130,21 @@ TEST(HelpExamples, ComeOutAsTheHelpSays) {
 
 /// A mark that is left over is one that was not closed, or a link to no topic.
 TEST(HelpExamples, EveryMarkAndEveryLinkIsGood) {
-  const render::HelpTopics topics = render::LoadHelpTopics(DataDirectory());
+  const help::HelpTopics topics = help::LoadHelpTopics(DataDirectory());
   for (const HelpTopic& topic : topics) {
-    for (const render::HelpBlock& block : render::HelpBlocks(topic.Text)) {
-      if (block.Form == render::HelpBlockForm::Literal) continue;
-      for (const render::HelpSpan& span : render::HelpSpans(block.Text, topics))
+    for (const help::HelpBlock& block : help::HelpBlocks(topic.Text)) {
+      if (block.Form == help::HelpBlockForm::Literal) continue;
+      for (const help::HelpSpan& span : help::HelpSpans(block.Text, topics))
         EXPECT_EQ(span.Text.find_first_of("[]*`%"), std::string::npos) << span.Text;
     }
   }
   for (const char* opened : {"Entering orders", "Retreats", "Adjustments", "Reading the report"})
-    EXPECT_TRUE(render::FindHelpTopic(topics, opened)) << opened;
+    EXPECT_TRUE(help::FindHelpTopic(topics, opened)) << opened;
 }
 
 /// Every block of the first topic that holds orders is a stage of the year told there.
 TEST(HelpExamples, TheFirstYearGoesAsTold) {
-  const render::HelpTopics topics = render::LoadHelpTopics(DataDirectory());
+  const help::HelpTopics topics = help::LoadHelpTopics(DataDirectory());
   ASSERT_FALSE(topics.empty());
   GameState game = model::EmptyGame(RealMap());
   model::NewGame(game, DataDirectory());

@@ -1,7 +1,7 @@
 #include "map_data/hit_picture.h"
 
 #include "model/files.h"
-#include "orders/lookups.h"
+#include "model/lookups.h"
 
 #include <algorithm>
 #include <limits>
@@ -68,7 +68,7 @@ int NearestCoast(const HitPicture& picture, const model::Map& map, int province,
 }  // namespace
 
 bool IsWater(const model::Map& map, int row) {
-  return row != 0 && !orders::CanStandIn(map, "A", map.Provinces[row].Name.substr(0, 3));
+  return row != 0 && !model::CanStandIn(map, "A", map.Provinces[row].Name.substr(0, 3));
 }
 
 HitPicture ReadHitPicture(const std::filesystem::path& path) {

@@ -2,9 +2,9 @@
 
 #include "model/country.h"
 #include "model/game_state.h"
+#include "model/lookups.h"
 #include "model/new_game.h"
-#include "model/text.h"
-#include "orders/lookups.h"
+#include "model/place.h"
 #include "render/hit_map.h"
 #include "support/directories.h"
 #include "support/situation.h"
@@ -119,7 +119,7 @@ TEST_F(MapDataTest, UnitsStandInTheirOwnProvinceOrOffTheirCoast) {
     const bool coast = location.Name.size() > 3;
     const int row = hitMap.LocationAt(*map_, {location.UnitX, location.UnitY}, coast ? "F" : "A");
     ASSERT_NE(row, 0) << location.Name;
-    const bool offCoast = coast && orders::IsAdjacent(*map_, "F", location.Name, Name(row));
+    const bool offCoast = coast && model::IsAdjacent(*map_, "F", location.Name, Name(row));
     EXPECT_TRUE(offCoast || Name(row) == location.Name)
         << location.Name << " is drawn in " << Name(row);
   }
@@ -152,7 +152,7 @@ TEST_F(MapDataTest, EveryHomeCentreStartsWithAUnitOfItsPower) {
   std::map<std::string, std::string> units;
   std::vector<std::string> fleets;
   for (const model::Unit& unit : game.Units) {
-    EXPECT_TRUE(orders::CanStandIn(*map_, unit.UnitType, unit.Location)) << unit.Location;
+    EXPECT_TRUE(model::CanStandIn(*map_, unit.UnitType, unit.Location)) << unit.Location;
     EXPECT_TRUE(units.emplace(ProvinceOf(unit.Location), unit.Power).second) << unit.Location;
     if (unit.UnitType == "F") fleets.push_back(unit.Location);
   }

@@ -1,10 +1,11 @@
 #include "model/country.h"
 #include "model/errors.h"
 #include "model/map_files.h"
+#include "model/place.h"
 #include "model/small_map.h"
 #include "model/table.h"
-#include "model/text.h"
 #include "support/directories.h"
+#include "text/strings.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -64,16 +65,16 @@ TEST(Text, IsCutAndChangedByteByByte) {
   std::string_view line = "a, b,,c";
   std::vector<std::string> fields;
   while (!line.empty())
-    fields.emplace_back(model::NextField(line));
+    fields.emplace_back(text::NextField(line));
   EXPECT_THAT(fields, ElementsAre("a", " b", "", "c"));
   std::string_view text = "one\r\ntwo\rthree\n\nfour";
   std::vector<std::string> lines;
   while (!text.empty())
-    lines.emplace_back(model::NextLine(text));
+    lines.emplace_back(text::NextLine(text));
   EXPECT_THAT(lines, ElementsAre("one", "two", "three", "", "four"));
-  EXPECT_EQ(model::UpperCase("az\xe4\xfc{"), "AZ\xe4\xfc{");
-  EXPECT_EQ(model::LowerCase("AZ\xc4\xdc["), "az\xc4\xdc[");
-  EXPECT_EQ(model::Trim("  \ta b\t "), "\ta b\t");
+  EXPECT_EQ(text::UpperCase("az\xe4\xfc{"), "AZ\xe4\xfc{");
+  EXPECT_EQ(text::LowerCase("AZ\xc4\xdc["), "az\xc4\xdc[");
+  EXPECT_EQ(text::Trim("  \ta b\t "), "\ta b\t");
 }
 
 TEST(Text, APlaceIsItsFirstThreeCharacters) {

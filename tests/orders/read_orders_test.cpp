@@ -1,10 +1,10 @@
 #include "orders/exchange/read_orders.h"
 
 #include "model/new_game.h"
-#include "model/text.h"
 #include "support/directories.h"
 #include "support/drawn_cases.h"
 #include "support/situation.h"
+#include "text/strings.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -26,7 +26,7 @@ model::GameState DrawnGame(const DrawnCase& drawn) {
   } else {
     const std::string units = drawn.Note("units");
     for (std::string_view rest = units; !rest.empty();)
-      AddDrawnUnit(game, model::Trim(model::NextField(rest)));
+      AddDrawnUnit(game, text::Trim(text::NextField(rest)));
   }
   game.Stage = drawn.Note("stage", "moves");
   return game;
@@ -112,7 +112,7 @@ TEST(TextRepairs, EveryShippedPairHelps) {
     };
     EXPECT_EQ(read({{}, repairs}), order) << written;
     EXPECT_NE(read({}), order) << written;
-    all += model::LowerCase(written) + "\n";
+    all += text::LowerCase(written) + "\n";
   }
   for (const exchange::TextRepair& repair : repairs)
     EXPECT_NE(all.find(repair.From), std::string::npos) << repair.From;

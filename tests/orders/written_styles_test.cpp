@@ -1,9 +1,10 @@
-#include "model/text.h"
+#include "model/lookups.h"
+#include "model/place.h"
 #include "orders/exchange/exact_line.h"
 #include "orders/exchange/read_orders.h"
-#include "orders/lookups.h"
 #include "orders/parser.h"
 #include "support/situation.h"
+#include "text/strings.h"
 
 #include <gtest/gtest.h>
 
@@ -69,7 +70,7 @@ class Writer {
   std::string Decorated(const std::string& order) {
     std::string line = Any({"", "", "1. ", "> ", "- ", "* ", "(2) "}) + order +
                        Any({"", "", ".", ";", " (as agreed)", " // good luck", " please"});
-    return Any({line, model::LowerCase(line), model::UpperCase(line)});
+    return Any({line, text::LowerCase(line), text::UpperCase(line)});
   }
 
  private:

@@ -2,6 +2,7 @@
 
 #include "model/errors.h"
 #include "render/recorder.h"
+#include "settings/map_options.h"
 #include "support/situation.h"
 
 #include <gmock/gmock.h>
@@ -17,8 +18,8 @@ namespace orb::tests {
 namespace {
 
 using model::GameState;
-using render::MapMode;
-using render::MapOptions;
+using settings::MapMode;
+using settings::MapOptions;
 using ::testing::ElementsAre;
 
 /// The map of a situation as it is drawn.
@@ -185,7 +186,7 @@ TEST(MapView, AttackLines) {
       if (test.From.empty()) continue;
       EXPECT_EQ(At(lines[0].Points[0]) + At(lines[0].Points[1]),
                 UnitAt(test.From) + UnitAt(test.To));
-      EXPECT_EQ(lines[0].Fore, render::InColour(mode) ? game.Countries[test.Power].Colour : 0U);
+      EXPECT_EQ(lines[0].Fore, settings::InColour(mode) ? game.Countries[test.Power].Colour : 0U);
     }
   }
 }

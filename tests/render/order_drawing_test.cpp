@@ -1,8 +1,10 @@
 #include "render/order_drawing.h"
 
+#include "model/lookups.h"
 #include "orders/entered_orders.h"
 #include "render/drawing.h"
 #include "render/recorder.h"
+#include "settings/map_options.h"
 #include "support/situation.h"
 
 #include <gtest/gtest.h>
@@ -27,12 +29,12 @@ constexpr double MovePen = 2.2;
 struct DrawnOrders : Recorder {
   explicit DrawnOrders(const GameState& game) : DrawnOrders(game, orders::EnteredOrders(game)) {}
   DrawnOrders(const GameState& game, const Orders& orders) {
-    RenderMap(game, {render::MapMode::BlackWhite}, "dir", *this, orders);
+    RenderMap(game, {settings::MapMode::BlackWhite}, "dir", *this, orders);
   }
 };
 
 render::Point UnitAt(std::string_view place) {
-  return render::OnSurface(Recorder(), render::UnitPoint(render::PlaceOf(*RealMap(), place)));
+  return render::OnSurface(Recorder(), render::UnitPoint(model::PlaceOf(*RealMap(), place)));
 }
 
 /// How far a point lies to the right of the line from one unit to another one.
@@ -181,7 +183,7 @@ TEST(OrderDrawing, DisbandsCrossOutTheUnitWhereItLies) {
     return render::SpotAt(lines.at(0).Points, render::LengthOf(lines.at(0).Points) / 2).At;
   };
   const render::Point label =
-      render::OnSurface(Recorder(), render::LabelPoint(render::PlaceOf(*RealMap(), "Bur")));
+      render::OnSurface(Recorder(), render::LabelPoint(model::PlaceOf(*RealMap(), "Bur")));
   EXPECT_EQ(At(crossed({"GER A(Bur)"})), At(UnitAt("Bur")));
   EXPECT_EQ(At(crossed({})), At(UnitAt("Bur"))) << "removed in the adjustments";
   EXPECT_EQ(At(crossed({"FRA A(Bur)", "GER A(Bur) <Mun"})), At(label));

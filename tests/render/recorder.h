@@ -3,6 +3,7 @@
 #include "model/errors.h"
 #include "render/map_view.h"
 #include "render/surface.h"
+#include "settings/map_options.h"
 
 #include <array>
 #include <cmath>
@@ -11,8 +12,8 @@
 
 namespace orb::tests {
 
-inline constexpr std::array AllModes = {render::MapMode::Colour3D, render::MapMode::Colour,
-                                        render::MapMode::Grey, render::MapMode::BlackWhite};
+inline constexpr std::array AllModes = {settings::MapMode::Colour3D, settings::MapMode::Colour,
+                                        settings::MapMode::Grey, settings::MapMode::BlackWhite};
 
 /// One thing drawn: its kind ("picture", "white", "text", "line", "box", "circle", "arc",
 /// "polygon"), what it is made of and the pens it was drawn with.

@@ -1,6 +1,7 @@
 #include "render/symbols.h"
 
 #include "render/recorder.h"
+#include "settings/map_options.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +13,7 @@
 namespace orb::tests {
 namespace {
 
-using render::MapMode;
+using settings::MapMode;
 
 constexpr render::Point Middle = {0.5, 0.5};  // 5000,4000 on the recorder
 
@@ -48,7 +49,7 @@ TEST(Symbols, KeepToTheModesColoursAndLeaveThePensAsTheMapWantsThem) {
       for (const Stroke& stroke : surface.Strokes) {
         for (const model::Colour colour : {stroke.Fore, stroke.Fill}) {
           const unsigned red = colour & 0xFF;
-          EXPECT_TRUE(render::InColour(mode) || colour == model::Rgb(red, red, red));
+          EXPECT_TRUE(settings::InColour(mode) || colour == model::Rgb(red, red, red));
           EXPECT_TRUE(mode != MapMode::BlackWhite || red == 0 || red == 255);
         }
       }

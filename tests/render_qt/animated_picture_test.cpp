@@ -5,6 +5,7 @@
 #include "model/game_file.h"
 #include "render/qt/map_file.h"
 #include "render/qt/replay_picture.h"
+#include "settings/map_options.h"
 #include "support/directories.h"
 #include "support/situation.h"
 
@@ -22,11 +23,11 @@ namespace orb::tests {
 namespace {
 
 namespace fs = std::filesystem;
+using history::Replay;
 using model::GameState;
-using render::MapOptions;
-using render::Replay;
+using settings::MapOptions;
 
-constexpr MapOptions AllShown = {render::MapMode::Colour3D, true, true, true};
+constexpr MapOptions AllShown = {settings::MapMode::Colour3D, true, true, true};
 
 /// The situations of the example game in their order.
 std::vector<GameState> ExampleGame() {
@@ -62,7 +63,7 @@ TEST(ReplayPicture, BeginsAndEndsAsTheMapIsDrawn) {
     const auto image = [&](const GameState& game) {
       return render::MapImage(game, AllShown, DataDirectory(), 400, pictures);
     };
-    const Replay replay = render::ReplayBetween(games[i - 1], games[i]);
+    const Replay replay = history::ReplayBetween(games[i - 1], games[i]);
     const render::ReplayPicture picture(replay, AllShown, DataDirectory(), 400, pictures);
     EXPECT_EQ(picture.Frame(0), image(games[i - 1])) << i;
     if (games[i - 1].Stage == "retreats") continue;  // its marks go with its units
@@ -111,8 +112,8 @@ double MeanDifference(const QImage& a, const QImage& b) {
 
 TEST(SaveAnimation, WritesTheWholeOrNothing) {
   const std::vector<GameState> games = ExampleGame();
-  const std::vector<Replay> replays = {render::ReplayBetween(games[4], games[5]),
-                                       render::ReplayBetween(games[5], games[6])};
+  const std::vector<Replay> replays = {history::ReplayBetween(games[4], games[5]),
+                                       history::ReplayBetween(games[5], games[6])};
   const TemporaryDirectory directory;
   const fs::path file = directory.Write("a.gif", "precious");
   render::PictureCache pictures;

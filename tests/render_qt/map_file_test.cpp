@@ -4,6 +4,7 @@
 #include "model/files.h"
 #include "model/map_files.h"
 #include "model/new_game.h"
+#include "settings/map_options.h"
 #include "support/directories.h"
 #include "support/situation.h"
 
@@ -22,9 +23,9 @@ namespace {
 
 namespace fs = std::filesystem;
 using render::MapFormat;
-using render::MapMode;
-using render::MapOptions;
 using render::PictureCache;
+using settings::MapMode;
+using settings::MapOptions;
 using testing::AllOf;
 using testing::HasSubstr;
 using testing::StartsWith;

@@ -1,9 +1,9 @@
 #include "support/drawn_cases.h"
 
 #include "model/files.h"
-#include "model/text.h"
 #include "support/directories.h"
 #include "support/situation.h"
+#include "text/strings.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -23,7 +23,7 @@ void AddLine(DrawnCase& drawn, std::string_view line) {
   if (end == std::string_view::npos) {
     drawn.Drawing.emplace_back(line);
   } else {
-    drawn.Notes[std::string(line.substr(0, end))].emplace_back(model::Trim(line.substr(end + 1)));
+    drawn.Notes[std::string(line.substr(0, end))].emplace_back(text::Trim(line.substr(end + 1)));
   }
 }
 
@@ -57,7 +57,7 @@ std::vector<DrawnCase> LoadDrawnCases(std::string_view fileName) {
   const std::string bytes = model::ReadFile(TestFile(fileName));
   std::vector<DrawnCase> cases;
   for (std::string_view rest = bytes; !rest.empty();) {
-    const std::string_view line = model::NextLine(rest);
+    const std::string_view line = text::NextLine(rest);
     if (line.empty() || line.starts_with('#')) continue;
     if (line.starts_with("== ")) {
       cases.emplace_back().Name = line.substr(3);

@@ -2,8 +2,8 @@
 
 #include "model/game_file.h"
 #include "model/map_files.h"
-#include "model/text.h"
 #include "support/directories.h"
+#include "text/strings.h"
 
 #include <algorithm>
 #include <sstream>
@@ -42,11 +42,11 @@ bool ReadUnit(std::string_view& line, Unit& unit) {
       model::FindProvince(*RealMap(), read.Location) == 0) {
     return false;
   }
-  line = model::Trim(line.substr(close + 1));
+  line = text::Trim(line.substr(close + 1));
   if (line.starts_with('<')) {
     read.Status = model::Dislodged;
     read.DislodgedFrom = line.substr(1, line.find(' ') - 1);
-    line = model::Trim(line.substr(std::min(line.size(), line.find(' '))));
+    line = text::Trim(line.substr(std::min(line.size(), line.find(' '))));
   }
   unit = read;
   return true;

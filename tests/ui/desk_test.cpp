@@ -1,4 +1,4 @@
-#include "ui/desk.h"
+#include "ui/session/desk.h"
 
 #include "model/errors.h"
 #include "support/directories.h"

@@ -1,9 +1,9 @@
 #include "model/files.h"
 #include "support/directories.h"
-#include "ui/exchange_model.h"
-#include "ui/help_window.h"
+#include "ui/exchange/exchange_model.h"
+#include "ui/help/help_window.h"
 #include "ui/modal_script.h"
-#include "ui/order_marks.h"
+#include "ui/widgets/order_marks.h"
 #include "ui/window_fixture.h"
 
 #include <QApplication>

@@ -1,13 +1,14 @@
 #include "model/files.h"
 #include "render/qt/map_file.h"
-#include "render/qt/text_codec.h"
-#include "render/text_report.h"
+#include "report/text_report.h"
+#include "settings/map_options.h"
 #include "support/directories.h"
 #include "support/scripted_messages.h"
-#include "ui/export_commands.h"
+#include "text/qt/text_codec.h"
 #include "ui/modal_script.h"
-#include "ui/print_dialog.h"
-#include "ui/print_pages.h"
+#include "ui/output/export_commands.h"
+#include "ui/output/print_dialog.h"
+#include "ui/output/print_pages.h"
 
 #include <QClipboard>
 #include <QComboBox>
@@ -51,7 +52,7 @@ ui::Situation GameInGrey() {
   situation.game.Season = "Autumn";
   situation.game.Year = 1910;
   situation.game.TextLines.Append("caf\xE9 \x80");
-  situation.mapOptions = {render::MapMode::Grey, true, true, true};
+  situation.mapOptions = {settings::MapMode::Grey, true, true, true};
   return situation;
 }
 
@@ -66,7 +67,7 @@ class ExportTest : public testing::Test {
   }
 
   std::string Report() const {
-    render::WriteTextReport(desk_.game(), "expected.txt");
+    report::WriteTextReport(desk_.game(), "expected.txt");
     return model::ReadFile("expected.txt");
   }
 
@@ -122,14 +123,14 @@ TEST_F(ExportTest, TheCopiedTextIsThatOfTheScratchFile) {
   qputenv("XDG_CACHE_HOME", QByteArray::fromStdString((folder_.Path() / "cache").string()));
   QClipboard& clipboard = *QGuiApplication::clipboard();
   commands_.copyText();
-  EXPECT_EQ(render::ToBytes(clipboard.text()), Report());
+  EXPECT_EQ(text::ToBytes(clipboard.text()), Report());
   EXPECT_EQ(model::ReadFile("orb_text.tmp"), Report());
 
   fs::remove("orb_text.tmp");
   fs::create_directory("orb_text.tmp");
   clipboard.clear();
   commands_.copyText();
-  EXPECT_EQ(render::ToBytes(clipboard.text()), Report()) << "the working folder takes no file";
+  EXPECT_EQ(text::ToBytes(clipboard.text()), Report()) << "the working folder takes no file";
   fs::remove_all("cache");
   folder_.Write("cache", "no folder");
   commands_.copyText();
@@ -171,7 +172,7 @@ TEST_F(ExportTest, PrintsToAPdfFile) {
   const QString text = PdfPages(file).join(' ').simplified();
   EXPECT_TRUE(text.contains("before moves"));
   EXPECT_TRUE(text.contains("CONCORDAT, Autumn 1910 Page 2 of 2"));
-  EXPECT_TRUE(text.contains(render::ToQString("Text ---- caf\xE9 \x80"))) << text.toStdString();
+  EXPECT_TRUE(text.contains(text::ToQString("Text ---- caf\xE9 \x80"))) << text.toStdString();
 }
 
 TEST(Print, OnceACopyOnTheDefaultPrinterOnly) {

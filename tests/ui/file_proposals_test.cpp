@@ -1,4 +1,4 @@
-#include "ui/file_proposals.h"
+#include "ui/output/file_proposals.h"
 
 #include "support/situation.h"
 

@@ -1,4 +1,4 @@
-#include "ui/help_window.h"
+#include "ui/help/help_window.h"
 
 #include "support/directories.h"
 
@@ -34,9 +34,9 @@ class HelpWindowTest : public testing::Test {
   }
 
   ui::HelpWindow window_{
-      render::ReadHelpTopics("%A & <b>\n<i>1 < 2</i> [B] &amp; %1 %2\n"
-                             "%B\nTwo  words\nand two\nwords\n"
-                             "%C\nNothing\n    Order  Two words\n")};
+      help::ReadHelpTopics("%A & <b>\n<i>1 < 2</i> [B] &amp; %1 %2\n"
+                           "%B\nTwo  words\nand two\nwords\n"
+                           "%C\nNothing\n    Order  Two words\n")};
 };
 
 TEST_F(HelpWindowTest, LinksAndKeysLeadThroughTheTopics) {

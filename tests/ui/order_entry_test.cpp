@@ -1,10 +1,10 @@
 #include "support/directories.h"
 #include "support/scripted_messages.h"
 #include "support/situation.h"
-#include "ui/adjustments_panel.h"
-#include "ui/order_marks.h"
-#include "ui/orders_panel.h"
-#include "ui/retreats_panel.h"
+#include "ui/entry/adjustments_panel.h"
+#include "ui/entry/orders_panel.h"
+#include "ui/entry/retreats_panel.h"
+#include "ui/widgets/order_marks.h"
 
 #include <QAbstractButton>
 #include <QKeySequence>

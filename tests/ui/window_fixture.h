@@ -1,7 +1,7 @@
 #pragma once
 
 #include "support/directories.h"
-#include "ui/main_window.h"
+#include "ui/window/main_window.h"
 
 #include <QAction>
 #include <QImage>

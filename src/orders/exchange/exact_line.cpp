@@ -1,8 +1,8 @@
 #include "orders/exchange/exact_line.h"
 
-#include "model/text.h"
 #include "orders/later_stages.h"
 #include "orders/parser.h"
+#include "text/strings.h"
 
 namespace orb::exchange {
 namespace {
@@ -39,7 +39,7 @@ std::string SecondPower(const OrderLine& order, bool always) {
 
 std::string Format(const OrderLine& order, OrderStage stage, bool alwaysNamesPower) {
   const std::string unit = UnitText(order.UnitType, order.Location);
-  const std::string verb = order.Kind.size() > 1 ? model::LowerCase(order.Kind) : order.Kind;
+  const std::string verb = order.Kind.size() > 1 ? text::LowerCase(order.Kind) : order.Kind;
   std::string line = order.Power;
   line.append(" ");
   if (stage == OrderStage::Adjustments) return line.append(verb).append(" ").append(unit);
@@ -71,11 +71,11 @@ std::optional<OrderLine> ReadExactLine(const model::Map& map, OrderStage stage,
   OrderLine order;
   order.Text = line;
   if (Parse(map, stage, order) != orders::SyntaxFault::None) return std::nullopt;
-  const std::string upper = model::UpperCase(line);
+  const std::string upper = text::UpperCase(line);
   // Names that the parser has found are spelled exactly, but for the power of an adjustment.
   const bool isExact =
-      line.starts_with(order.Power) && (upper == model::UpperCase(Format(order, stage, false)) ||
-                                        upper == model::UpperCase(Format(order, stage, true)));
+      line.starts_with(order.Power) && (upper == text::UpperCase(Format(order, stage, false)) ||
+                                        upper == text::UpperCase(Format(order, stage, true)));
   return isExact ? std::optional(order) : std::nullopt;
 }
 

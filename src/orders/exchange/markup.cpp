@@ -1,6 +1,6 @@
 #include "orders/exchange/markup.h"
 
-#include "model/text.h"
+#include "text/strings.h"
 
 #include <algorithm>
 #include <array>
@@ -39,7 +39,7 @@ void DropTags(PlainText& line) {
     if (close != std::string::npos) {
       const std::size_t start = at + (line.Text[at + 1] == '/' ? 2 : 1);
       const std::size_t end = line.Text.find_first_of(" /=>]", start);
-      name = model::LowerCase(std::string_view(line.Text).substr(start, end - start));
+      name = text::LowerCase(std::string_view(line.Text).substr(start, end - start));
     }
     const bool isBlock = !isForum && IsOneOf(name, BlockTags);
     if (!isBlock && !(isForum ? IsOneOf(name, ForumTags) : IsOneOf(name, InlineTags))) {

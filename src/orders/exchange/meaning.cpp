@@ -1,9 +1,8 @@
 #include "orders/exchange/meaning.h"
 
-#include "model/text.h"
+#include "model/lookups.h"
 #include "orders/exchange/exact_line.h"
 #include "orders/exchange/supports.h"
-#include "orders/lookups.h"
 #include "orders/parser.h"
 #include "orders/syntax_fault.h"
 
@@ -59,12 +58,12 @@ std::vector<Unit> UnitsBuilt(const WrittenUnit& written, const Situation& situat
       const std::string unitType(1, type);
       std::vector<std::string> places;
       for (const int location : situation.Names.Locations(row)) {
-        if (orders::CanStandIn(map, unitType, situation.NameOf(location))) {
+        if (model::CanStandIn(map, unitType, situation.NameOf(location))) {
           places.push_back(situation.NameOf(location));
         }
       }
       if (type == 'A' || places.empty()) {
-        const bool stands = orders::CanStandIn(map, unitType, situation.NameOf(row));
+        const bool stands = model::CanStandIn(map, unitType, situation.NameOf(row));
         if (written.Type == 0 && !stands) continue;
         places = {situation.NameOf(row)};
       }

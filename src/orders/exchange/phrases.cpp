@@ -1,7 +1,7 @@
 #include "orders/exchange/phrases.h"
 
-#include "model/text.h"
 #include "orders/exchange/comments.h"
+#include "text/strings.h"
 
 #include <algorithm>
 #include <array>
@@ -266,7 +266,7 @@ bool Phrases::MayLead(std::size_t at) const {
 
 bool Phrases::IsWater(const WrittenPlace& place) const {
   return std::ranges::all_of(place.Rows, [&](int row) {
-    return model::UpperCase(map_.Provinces[row].Name) == map_.Provinces[row].Name;
+    return text::UpperCase(map_.Provinces[row].Name) == map_.Provinces[row].Name;
   });
 }
 

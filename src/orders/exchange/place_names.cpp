@@ -1,7 +1,7 @@
 #include "orders/exchange/place_names.h"
 
-#include "model/text.h"
 #include "orders/exchange/spellings.h"
+#include "text/strings.h"
 
 #include <algorithm>
 #include <array>
@@ -126,7 +126,7 @@ std::vector<PlaceMatch> PlaceNames::At(Tokens tokens, std::size_t at) const {
 int PlaceNames::Coast(int province, char letter) const {
   for (const int row : Locations(province)) {
     const std::string& name = map_.Provinces[row].Name;
-    if (row != province && model::LowerCase(name).back() == letter) return row;
+    if (row != province && text::LowerCase(name).back() == letter) return row;
   }
   return 0;
 }

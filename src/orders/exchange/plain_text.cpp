@@ -1,7 +1,7 @@
 #include "orders/exchange/plain_text.h"
 
-#include "model/utf8.h"
-#include "model/windows_1252.h"
+#include "text/utf8.h"
+#include "text/windows_1252.h"
 
 #include <algorithm>
 #include <array>
@@ -55,7 +55,7 @@ std::string_view Fold(char32_t character, std::string_view bytes) {
 
 bool IsUtf8(std::string_view line) {
   while (!line.empty()) {
-    if (!model::NextCharacter(line)) return false;
+    if (!text::NextCharacter(line)) return false;
   }
   return true;
 }
@@ -75,11 +75,11 @@ PlainText ToPlain(std::string_view line, std::size_t offset) {
   plain.Origins.reserve(line.size());
   while (!line.empty()) {
     std::string_view rest = line;
-    const auto character = utf8 ? model::NextCharacter(rest) : std::nullopt;
+    const auto character = utf8 ? text::NextCharacter(rest) : std::nullopt;
     if (!character) rest.remove_prefix(1);
     const std::string_view bytes = line.substr(0, line.size() - rest.size());
     plain.Text += Fold(
-        character ? *character : model::CharacterOf(static_cast<unsigned char>(bytes[0])), bytes);
+        character ? *character : text::CharacterOf(static_cast<unsigned char>(bytes[0])), bytes);
     plain.Origins.resize(plain.Text.size(), {offset, bytes.size()});
     offset += bytes.size();
     line = rest;

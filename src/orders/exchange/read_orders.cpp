@@ -1,7 +1,6 @@
 #include "orders/exchange/read_orders.h"
 
 #include "model/errors.h"
-#include "model/text.h"
 #include "orders/exchange/comments.h"
 #include "orders/exchange/exact_line.h"
 #include "orders/exchange/glued_types.h"
@@ -11,6 +10,7 @@
 #include "orders/exchange/phrases.h"
 #include "orders/exchange/quotations.h"
 #include "orders/exchange/run_on.h"
+#include "text/strings.h"
 
 #include <algorithm>
 
@@ -82,7 +82,7 @@ class TextReader {
     int number = 0;
     const char* const begin = text.data();
     while (!text.empty()) {
-      const std::string_view bytes = model::NextLine(text);
+      const std::string_view bytes = text::NextLine(text);
       SourceLine line = CutLine(++number, bytes, static_cast<std::size_t>(bytes.data() - begin),
                                 options_.Repairs);
       const std::size_t before = lines_.size();

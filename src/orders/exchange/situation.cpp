@@ -1,7 +1,7 @@
 #include "orders/exchange/situation.h"
 
-#include "model/text.h"
-#include "orders/lookups.h"
+#include "model/lookups.h"
+#include "model/place.h"
 
 #include <algorithm>
 
@@ -51,8 +51,8 @@ std::vector<UnitMeant> Situation::UnitsMeant(const WrittenUnit& written, int pow
   fault.At = written.Place.At;
   if (other != nullptr) {
     const bool settled = Stage == OrderStage::Retreats && other->Status != model::Dislodged;
-    fault.Reason = settled ? orders::UnitText(*other) + " is not dislodged"
-                           : "the unit there is " + orders::UnitText(*other);
+    fault.Reason = settled ? model::UnitText(*other) + " is not dislodged"
+                           : "the unit there is " + model::UnitText(*other);
     return meant;
   }
   if (written.Type == 0 || fallback == 0) {
@@ -64,7 +64,7 @@ std::vector<UnitMeant> Situation::UnitsMeant(const WrittenUnit& written, int pow
     unit.Power = PowerText(fallback);
     unit.UnitType = std::string(1, written.Type);
     unit.Location = NameOf(row);
-    meant.push_back({unit, "there is no " + orders::UnitText(unit)});
+    meant.push_back({unit, "there is no " + model::UnitText(unit)});
   }
   return meant;
 }
@@ -78,15 +78,15 @@ std::vector<std::string> Situation::DestinationsMeant(const WrittenPlace& writte
   for (const int row : written.Rows) {
     std::vector<std::string> reached;
     for (const int location : Names.Locations(row)) {
-      if (orders::IsAdjacent(map, unit.UnitType, unit.Location, NameOf(location))) {
+      if (model::IsAdjacent(map, unit.UnitType, unit.Location, NameOf(location))) {
         reached.push_back(NameOf(location));
       }
     }
     if (unit.UnitType != "F" || reached.empty()) reached = {NameOf(row)};
     for (const std::string& location : reached) {
       all.push_back(location);
-      if (orders::CanStandIn(map, unit.UnitType, location)) possible.push_back(location);
-      if (orders::IsAdjacent(map, unit.UnitType, unit.Location, location)) near.push_back(location);
+      if (model::CanStandIn(map, unit.UnitType, location)) possible.push_back(location);
+      if (model::IsAdjacent(map, unit.UnitType, unit.Location, location)) near.push_back(location);
     }
   }
   if (written.Rows.size() == 1) return all;
@@ -104,7 +104,7 @@ std::string Situation::Objection(const orders::OrderLine& order) const {
   };
   const auto missing = [](const std::string& power, const std::string& type,
                           const std::string& location) {
-    return "there is no " + orders::UnitText({power, type, location, {}, {}, {}});
+    return "there is no " + model::UnitText({power, type, location, {}, {}, {}});
   };
   if (order.Kind != "BUILD" && !stands(order.Power, order.UnitType, order.Location)) {
     return missing(order.Power, order.UnitType, order.Location);

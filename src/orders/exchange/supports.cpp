@@ -1,7 +1,7 @@
 #include "orders/exchange/supports.h"
 
-#include "model/text.h"
-#include "orders/lookups.h"
+#include "model/lookups.h"
+#include "model/place.h"
 
 #include <algorithm>
 #include <utility>
@@ -86,7 +86,7 @@ class Helper {
     if (written_.OtherWhat == Verb::Move) return AddMoves(other);
     if (written_.OtherWhat == Verb::Hold) return Add(other);
     const auto reaches = [&](const std::string& place) {
-      return orders::CanSupportInto(*situation_.Game.Map, unit_.Unit, place);
+      return model::CanSupportInto(*situation_.Game.Map, unit_.Unit, place);
     };
     if (const std::string* move = situation_.OrderedMove(other.Unit); move != nullptr) {
       if (reaches(other.Unit.Location) || !reaches(*move)) Add(other);
@@ -113,7 +113,7 @@ class Helper {
     for (const Unit& mover : situation_.Game.Units) {
       if (IsSupporter(mover) || IsAt(place, mover.Location)) continue;
       for (const std::string& destination : situation_.DestinationsMeant(place, mover, false)) {
-        if (orders::IsAdjacent(*situation_.Game.Map, mover.UnitType, mover.Location, destination)) {
+        if (model::IsAdjacent(*situation_.Game.Map, mover.UnitType, mover.Location, destination)) {
           Add({mover, {}}, destination);
         }
       }

@@ -2,7 +2,7 @@
 
 #include "model/files.h"
 #include "model/record_file.h"
-#include "model/text.h"
+#include "text/strings.h"
 
 #include <system_error>
 
@@ -70,7 +70,7 @@ std::vector<TextRepair> LoadTextRepairs(std::string_view bytes, const std::strin
     }
     const std::string_view to = reader.Text("the text that takes its place");
     CheckLength(reader, to);
-    repairs.push_back({model::LowerCase(ToPlain(from, 0).Text), ToPlain(to, 0).Text});
+    repairs.push_back({text::LowerCase(ToPlain(from, 0).Text), ToPlain(to, 0).Text});
   }
   return repairs;
 }
@@ -84,12 +84,12 @@ std::vector<TextRepair> ReadTextRepairs(const std::filesystem::path& directory) 
 }
 
 bool Repair(PlainText& line, std::span<const TextRepair> repairs) {
-  std::string lower = model::LowerCase(line.Text);
+  std::string lower = text::LowerCase(line.Text);
   for (const TextRepair& repair : repairs) {
     if (line.Text.size() > LineBound) return false;
     if (repair.From.empty() || FindWhole(lower, repair.From, 0) == std::string::npos) continue;
     line = Repaired(line, lower, repair);
-    lower = model::LowerCase(line.Text);
+    lower = text::LowerCase(line.Text);
   }
   return line.Text.size() <= LineBound;
 }

@@ -1,7 +1,6 @@
 #include "orders/exchange/vocabulary.h"
 
 #include "model/country.h"
-#include "model/text.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "orders/exchange/words.h"
 
-#include "model/text.h"
+#include "text/strings.h"
 
 #include <algorithm>
 
@@ -24,7 +24,7 @@ std::size_t WordEnd(std::string_view text, std::size_t at) {
 }
 
 std::string WordText(std::string_view written) {
-  std::string word = model::LowerCase(written);
+  std::string word = text::LowerCase(written);
   if (word.ends_with("'s")) word.resize(word.size() - 2);
   std::erase(word, '\'');
   return word;

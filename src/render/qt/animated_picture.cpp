@@ -6,6 +6,7 @@
 #include "render/qt/gif_writer.h"
 #include "render/qt/map_file.h"
 #include "render/qt/replay_picture.h"
+#include "settings/map_options.h"
 
 #include <algorithm>
 #include <utility>
@@ -16,20 +17,20 @@ namespace {
 constexpr int FrameHundredths = 5;
 constexpr int LastMapHundredths = 250;
 
-int FrameCount(const Replay& replay) {
+int FrameCount(const history::Replay& replay) {
   return std::max(1, qRound(Seconds(replay) * 100 / FrameHundredths));
 }
 
 /// What is drawn, on what, and how large.
 struct Show {
-  const std::vector<Replay>& Replays;
-  const MapOptions& Options;
+  const std::vector<history::Replay>& Replays;
+  const settings::MapOptions& Options;
   const std::filesystem::path& DataDirectory;
   int PixelWidth;
   PictureCache& Pictures;
 };
 
-ReplayPicture PictureOf(const Show& show, const Replay& replay) {
+ReplayPicture PictureOf(const Show& show, const history::Replay& replay) {
   return {replay, show.Options, show.DataDirectory, show.PixelWidth, show.Pictures};
 }
 
@@ -42,7 +43,7 @@ QImage LastMap(const Show& show) {
 class Frames {
  public:
   explicit Frames(const Show& show) : show_(show) {
-    for (const Replay& replay : show.Replays)
+    for (const history::Replay& replay : show.Replays)
       all_ += FrameCount(replay);
   }
 
@@ -53,7 +54,7 @@ class Frames {
     if (done_ == all_) return std::nullopt;
     ++done_;
     if (replay_ == show_.Replays.size()) return AnimationFrame{LastMap(show_), LastMapHundredths};
-    const Replay& replay = show_.Replays[replay_];
+    const history::Replay& replay = show_.Replays[replay_];
     if (!picture_) picture_.emplace(PictureOf(show_, replay));
     const int count = FrameCount(replay);
     AnimationFrame frame{picture_->Frame(static_cast<double>(inReplay_) / count), FrameHundredths};
@@ -104,7 +105,7 @@ std::string AnimatedGif(const FrameSource& next, const std::vector<QRgb>& colour
   return writer.Finish();
 }
 
-bool SaveAnimation(const std::vector<Replay>& replays, const MapOptions& options,
+bool SaveAnimation(const std::vector<history::Replay>& replays, const settings::MapOptions& options,
                    const std::filesystem::path& dataDirectory, int pixelWidth,
                    PictureCache& pictures, const std::filesystem::path& file,
                    const FrameProgress& progress) {

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "render/animation.h"
+#include "history/replay.h"
 #include "render/map_view.h"
 #include "render/qt/palette.h"
 #include "render/qt/picture_cache.h"
+#include "settings/map_options.h"
 
 #include <QImage>
 
@@ -38,7 +39,7 @@ std::string AnimatedGif(const FrameSource& next, const std::vector<QRgb>& colour
 /// background's own width): twenty frames a second, and the last one's end for a while. The file
 /// is replaced whole or not at all; false, nothing written, when progress stops it. Throws what
 /// MapImage throws, FileError also without replays and when it cannot be written.
-bool SaveAnimation(const std::vector<Replay>& replays, const MapOptions& options,
+bool SaveAnimation(const std::vector<history::Replay>& replays, const settings::MapOptions& options,
                    const std::filesystem::path& dataDirectory, int pixelWidth,
                    PictureCache& pictures, const std::filesystem::path& file,
                    const FrameProgress& progress);

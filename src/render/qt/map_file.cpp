@@ -4,7 +4,8 @@
 #include "model/files.h"
 #include "render/qt/canvas.h"
 #include "render/qt/painter_surface.h"
-#include "render/qt/text_codec.h"
+#include "settings/map_options.h"
+#include "text/qt/text_codec.h"
 
 #include <QBuffer>
 #include <QPageSize>
@@ -17,14 +18,14 @@ namespace {
 /// What is drawn and how large.
 struct Job {
   const model::GameState& Game;
-  const MapOptions& Options;
+  const settings::MapOptions& Options;
   const std::filesystem::path& DataDirectory;
   PictureCache& Pictures;
   Canvas Size;
   std::span<const orders::OrderOutcome> Orders;
 };
 
-Job Plan(const model::GameState& game, const MapOptions& options,
+Job Plan(const model::GameState& game, const settings::MapOptions& options,
          const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures,
          std::span<const orders::OrderOutcome> orders) {
   return {game,
@@ -58,7 +59,7 @@ void WriteSvg(const Job& job, QBuffer& buffer) {
   generator.setResolution(qRound(job.Size.PixelsPerInch));
   generator.setSize(job.Size.Pixels);
   generator.setViewBox(QRect(QPoint(0, 0), job.Size.Pixels));
-  generator.setTitle(ToQString(job.Game.Title));
+  generator.setTitle(text::ToQString(job.Game.Title));
   QPainter painter(&generator);
   Draw(job, painter, QRectF(QPointF(0, 0), QSizeF(job.Size.Pixels)));
 }
@@ -66,7 +67,7 @@ void WriteSvg(const Job& job, QBuffer& buffer) {
 void WritePdf(const Job& job, QBuffer& buffer) {
   constexpr double pointsPerInch = 72;
   QPdfWriter writer(&buffer);
-  writer.setTitle(ToQString(job.Game.Title));
+  writer.setTitle(text::ToQString(job.Game.Title));
   writer.setPageSize(QPageSize(QSizeF(job.Size.Pixels) * (pointsPerInch / job.Size.PixelsPerInch),
                                QPageSize::Point, QString(), QPageSize::ExactMatch));
   writer.setPageMargins(QMarginsF());
@@ -76,13 +77,13 @@ void WritePdf(const Job& job, QBuffer& buffer) {
 
 }  // namespace
 
-QImage MapImage(const model::GameState& game, const MapOptions& options,
+QImage MapImage(const model::GameState& game, const settings::MapOptions& options,
                 const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures,
                 std::span<const orders::OrderOutcome> orders) {
   return DrawImage(Plan(game, options, dataDirectory, pixelWidth, pictures, orders));
 }
 
-void PaintMap(const model::GameState& game, const MapOptions& options,
+void PaintMap(const model::GameState& game, const settings::MapOptions& options,
               const std::filesystem::path& dataDirectory, PictureCache& pictures, QPainter& painter,
               const QRectF& target, std::span<const orders::OrderOutcome> orders) {
   const QImage& picture = pictures.Picture(BackgroundFile(dataDirectory, options.Mode));
@@ -90,7 +91,7 @@ void PaintMap(const model::GameState& game, const MapOptions& options,
   RenderMap(game, options, dataDirectory, surface, orders);
 }
 
-void SaveMap(const model::GameState& game, const MapOptions& options,
+void SaveMap(const model::GameState& game, const settings::MapOptions& options,
              const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures,
              const std::filesystem::path& file, MapFormat format,
              std::span<const orders::OrderOutcome> orders) {

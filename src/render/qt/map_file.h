@@ -4,6 +4,7 @@
 #include "render/map_format.h"
 #include "render/map_view.h"
 #include "render/qt/picture_cache.h"
+#include "settings/map_options.h"
 
 #include <QImage>
 #include <QPainter>
@@ -17,20 +18,20 @@ namespace orb::render {
 /// The map as a picture of the given width in pixels (0: the background's own). The width scales
 /// the whole drawing, symbols and texts with it. Orders are drawn as RenderMap does. Throws what
 /// RenderMap throws, FileError also for a width outside 0..MaxPixelWidth.
-QImage MapImage(const model::GameState& game, const MapOptions& options,
+QImage MapImage(const model::GameState& game, const settings::MapOptions& options,
                 const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures,
                 std::span<const orders::OrderOutcome> orders = {});
 
 /// Draws the map over a rectangle of the painter's coordinates: vectors over the bitmap. Throws
 /// what RenderMap throws.
-void PaintMap(const model::GameState& game, const MapOptions& options,
+void PaintMap(const model::GameState& game, const settings::MapOptions& options,
               const std::filesystem::path& dataDirectory, PictureCache& pictures, QPainter& painter,
               const QRectF& target, std::span<const orders::OrderOutcome> orders = {});
 
 /// Saves the map in a format, whatever the file's extension: Bmp is uncompressed, Svg and Pdf hold
 /// vectors over the bitmap. The file is replaced whole or not at all. Throws as MapImage does,
 /// FileError also when it cannot be written.
-void SaveMap(const model::GameState& game, const MapOptions& options,
+void SaveMap(const model::GameState& game, const settings::MapOptions& options,
              const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures,
              const std::filesystem::path& file, MapFormat format,
              std::span<const orders::OrderOutcome> orders = {});

@@ -1,7 +1,7 @@
 #include "render/qt/painter_surface.h"
 
-#include "render/qt/colours.h"
-#include "render/qt/text_codec.h"
+#include "colour/qt/colours.h"
+#include "text/qt/text_codec.h"
 
 #include <QPaintEngine>
 #include <QPolygonF>
@@ -91,7 +91,7 @@ const QFontMetricsF& PainterSurface::UseFont() const {
 }
 
 double PainterSurface::TextWidth(std::string_view text) const {
-  return UseFont().horizontalAdvance(ToQString(text));
+  return UseFont().horizontalAdvance(text::ToQString(text));
 }
 
 double PainterSurface::TextHeight(std::string_view /*text*/) const {
@@ -101,18 +101,18 @@ double PainterSurface::TextHeight(std::string_view /*text*/) const {
 void PainterSurface::DrawText(Point corner, std::string_view text) {
   const double ascent = UseFont().ascent();
   painter_.setFont(font_);
-  painter_.setPen(ToQColor(ForeColour));
-  painter_.drawText(QPointF(corner.X, corner.Y + ascent), ToQString(text));
+  painter_.setPen(colour::ToQColor(ForeColour));
+  painter_.drawText(QPointF(corner.X, corner.Y + ascent), text::ToQString(text));
 }
 
 void PainterSurface::SetPenAndBrush() {
   if (DrawWidth > 0) {
-    painter_.setPen(QPen(ToQColor(ForeColour), DrawWidth * TwipsPerPixel, Qt::SolidLine,
+    painter_.setPen(QPen(colour::ToQColor(ForeColour), DrawWidth * TwipsPerPixel, Qt::SolidLine,
                          Qt::RoundCap, Qt::MiterJoin));
   } else {
     painter_.setPen(Qt::NoPen);
   }
-  painter_.setBrush(FillStyle == Fill::Solid ? QBrush(ToQColor(FillColour)) : QBrush());
+  painter_.setBrush(FillStyle == Fill::Solid ? QBrush(colour::ToQColor(FillColour)) : QBrush());
 }
 
 void PainterSurface::Line(Point from, Point to) {

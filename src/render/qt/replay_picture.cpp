@@ -1,12 +1,13 @@
 #include "render/qt/replay_picture.h"
 
 #include "render/qt/painter_surface.h"
+#include "settings/map_options.h"
 
 #include <utility>
 
 namespace orb::render {
 
-ReplayPicture::ReplayPicture(Replay replay, const MapOptions& options,
+ReplayPicture::ReplayPicture(history::Replay replay, const settings::MapOptions& options,
                              const std::filesystem::path& dataDirectory, int pixelWidth,
                              PictureCache& pictures)
     : replay_(std::move(replay)),

@@ -3,6 +3,7 @@
 #include "render/animation_view.h"
 #include "render/qt/canvas.h"
 #include "render/qt/picture_cache.h"
+#include "settings/map_options.h"
 
 #include <QImage>
 #include <QPainter>
@@ -17,10 +18,10 @@ class ReplayPicture {
  public:
   /// Draws the still, some pixels wide (0: the background's own width). Throws FileError as
   /// MapImage does. The cache must outlive the picture.
-  ReplayPicture(Replay replay, const MapOptions& options,
+  ReplayPicture(history::Replay replay, const settings::MapOptions& options,
                 const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures);
 
-  const Replay& Content() const { return replay_; }
+  const history::Replay& Content() const { return replay_; }
 
   /// The map without its units and what lies over them.
   const QImage& Still() const { return still_; }
@@ -32,8 +33,8 @@ class ReplayPicture {
   QImage Frame(double progress) const;
 
  private:
-  Replay replay_;
-  MapOptions options_;
+  history::Replay replay_;
+  settings::MapOptions options_;
   PictureCache& pictures_;
   Canvas canvas_;
   QImage still_;

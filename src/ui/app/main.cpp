@@ -1,6 +1,6 @@
 #include "model/errors.h"
 #include "model/files.h"
-#include "ui/main_window.h"
+#include "ui/window/main_window.h"
 
 #include <QApplication>
 #include <QFile>

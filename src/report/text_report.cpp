@@ -1,0 +1,215 @@
+#include "report/text_report.h"
+
+#include "model/counts.h"
+#include "model/files.h"
+#include "model/lookups.h"
+#include "text/strings.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace orb::report {
+namespace {
+
+using model::GameState;
+
+/// The text with blanks in place of its tabs, which lead to every eighth column.
+std::string WithoutTabs(std::string_view text) {
+  constexpr std::size_t tabWidth = 8;
+  std::string plain;
+  for (const char c : text) {
+    const bool isTab = c == '\t';
+    plain.append(isTab ? tabWidth - plain.size() % tabWidth : 1, isTab ? ' ' : c);
+  }
+  return plain;
+}
+
+/// Adds a text in lines no longer than the width: broken at blanks where there are any. Lines
+/// after the first begin with `indent` blanks.
+void AddWrapped(std::string_view line, std::size_t indent, std::string& report) {
+  const std::string plain = WithoutTabs(line);
+  std::string_view text = plain;
+  std::size_t width = TextReportWidth;
+  while (text.size() > width) {
+    std::size_t end = text.substr(0, width + 1).rfind(' ');
+    const bool atBlank = end != std::string_view::npos &&
+                         text.substr(0, end).find_first_not_of(' ') != std::string_view::npos;
+    if (!atBlank) end = width;
+    report.append(text.substr(0, end)).append("\n").append(indent, ' ');
+    text.remove_prefix(atBlank ? end + 1 : end);
+    width = TextReportWidth - indent;
+  }
+  report.append(text).append("\n");
+}
+
+/// One titled part of the report; a part without lines is left out.
+class Section {
+ public:
+  explicit Section(std::string_view title) : title_(title) {}
+
+  void AddLine(std::string_view text, std::size_t indent) { AddWrapped(text, indent, lines_); }
+
+  /// A name and what belongs to it, the latter in a column of its own.
+  void AddRow(std::string_view name, std::string_view contents) {
+    constexpr std::size_t nameWidth = 24;
+    std::string row = "  ";
+    row += name;
+    if (!contents.empty()) row.append(nameWidth - std::min(nameWidth - 1, row.size()), ' ');
+    AddLine(row.append(contents), nameWidth);
+  }
+
+  void AddTo(std::string& report) const {
+    if (lines_.empty()) return;
+    report.append("\n").append(title_).append("\n").append(title_.size(), '-').append("\n");
+    report += lines_;
+  }
+
+ private:
+  std::string_view title_;
+  std::string lines_;
+};
+
+void AddToList(std::string_view item, std::string& list) {
+  if (!list.empty()) list += ", ";
+  list += item;
+}
+
+std::string Counted(std::string_view name, int count) {
+  return std::string(name) + " (" + std::to_string(count) + ")";
+}
+
+/// "A(Lon)", as order lines spell a unit.
+std::string UnitInPlace(const model::Unit& unit) {
+  return unit.UnitType + "(" + unit.Location + ")";
+}
+
+bool IsCentre(const GameState& game, int province) {
+  return game.Map->Provinces[province].IsSupplyCentre != 0;
+}
+
+/// The centres owned by a power; without one those that no power owns.
+std::string CentresOf(const GameState& game, const model::Country* owner, int& count) {
+  std::string list;
+  for (int p = 1; p <= game.Provinces.Count(); ++p) {
+    const std::string& name = game.Provinces[p].Owner;
+    const bool owned =
+        owner != nullptr ? name == owner->Abbreviation : model::FindCountry(name) == 0;
+    if (!IsCentre(game, p) || !owned) continue;
+    ++count;
+    AddToList(game.Map->Provinces[p].Name, list);
+  }
+  return list;
+}
+
+std::string UnitsOf(const GameState& game, const model::Country& country, int& count) {
+  std::string list;
+  for (const model::Unit& unit : game.Units) {
+    if (unit.Power != country.Abbreviation) continue;
+    ++count;
+    AddToList(UnitInPlace(unit), list);
+  }
+  return list;
+}
+
+Section Report(const GameState& game) {
+  Section section("Report");
+  for (const std::string& line : game.ReportLines) {
+    const std::size_t end = line.find_last_not_of(' ');
+    constexpr std::size_t indent = 6;
+    if (end != std::string::npos) section.AddLine(line.substr(0, end + 1), indent);
+  }
+  return section;
+}
+
+Section Units(const GameState& game) {
+  Section section("Units");
+  for (const model::Country& country : game.Countries) {
+    int count = 0;
+    const std::string list = UnitsOf(game, country, count);
+    section.AddRow(Counted(country.Name, count), list);
+  }
+  std::string others;
+  for (const model::Unit& unit : game.Units) {
+    if (model::FindCountry(unit.Power) == 0) AddToList(model::UnitText(unit), others);
+  }
+  if (!others.empty()) section.AddRow("Others", others);
+  return section;
+}
+
+Section DislodgedUnits(const GameState& game) {
+  Section section("Dislodged");
+  for (const model::Unit& unit : game.Units) {
+    if (unit.Status != model::Dislodged) continue;
+    section.AddRow(model::UnitText(unit), "attacked from " + unit.DislodgedFrom);
+  }
+  return section;
+}
+
+Section SupplyCentres(const GameState& game) {
+  Section section("Supply centres");
+  for (const model::Country& country : game.Countries) {
+    int count = 0;
+    const std::string list = CentresOf(game, &country, count);
+    section.AddRow(Counted(country.Name, count), list);
+  }
+  int count = 0;
+  const std::string list = CentresOf(game, nullptr, count);
+  if (count > 0) section.AddRow(Counted("Nobody", count), list);
+  return section;
+}
+
+Section AdjustmentsDue(const GameState& game) {
+  Section section("Adjustments due");
+  if (game.Stage != "adjustments") return section;
+  for (const model::Country& country : game.Countries) {
+    int centres = 0;
+    int units = 0;
+    CentresOf(game, &country, centres);
+    UnitsOf(game, country, units);
+    const int builds = centres - units;
+    const std::string number = std::to_string(std::abs(builds));
+    if (builds > 0) section.AddRow(country.Name, "build " + number);
+    if (builds < 0) section.AddRow(country.Name, "disband " + number);
+  }
+  return section;
+}
+
+Section Players(const GameState& game) {
+  Section section("Players");
+  for (const model::Country& country : game.Countries) {
+    if (!country.PlayerName.empty()) section.AddRow(country.Name, country.PlayerName);
+  }
+  return section;
+}
+
+Section FreeText(const GameState& game) {
+  Section section("Text");
+  for (const std::string& line : game.TextLines)
+    section.AddLine(line, 0);
+  return section;
+}
+
+}  // namespace
+
+std::string TextReport(const GameState& game) {
+  std::string report;
+  AddWrapped(game.Title, 0, report);
+  report.append(std::min(game.Title.size(), TextReportWidth), '=').append("\n");
+  AddWrapped(game.Season + " " + std::to_string(game.Year) + ", " + game.Stage, 0, report);
+  for (const Section& section :
+       {Report(game), Units(game), DislodgedUnits(game), SupplyCentres(game), AdjustmentsDue(game),
+        Players(game), FreeText(game)}) {
+    section.AddTo(report);
+  }
+  return report;
+}
+
+void WriteTextReport(const GameState& game, const std::filesystem::path& file) {
+  const std::string report = TextReport(game);
+  std::string lines;
+  for (std::string_view rest = report; !rest.empty();)
+    lines.append(text::NextLine(rest)).append("\r\n");
+  model::ReplaceFile(file, lines);
+}
+
+}  // namespace orb::report

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "model/game_state.h"
+
+#include <filesystem>
+#include <string>
+
+namespace orb::report {
+
+/// The widest line of a text report.
+constexpr std::size_t TextReportWidth = 78;
+
+/// The situation as plain text for a mail or a printer: title, season and stage, the report, units,
+/// supply centres, adjustments due, players and free text. Orders not yet resolved are left out:
+/// they are secret. Lines end in LF and are at most TextReportWidth bytes long.
+std::string TextReport(const model::GameState& game);
+
+/// Writes the text report to a file, whole or not at all; its lines end in CR LF. Throws FileError.
+void WriteTextReport(const model::GameState& game, const std::filesystem::path& file);
+
+}  // namespace orb::report

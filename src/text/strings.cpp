@@ -1,0 +1,45 @@
+#include "text/strings.h"
+
+namespace orb::text {
+
+std::string_view Trim(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string UpperCase(std::string_view text) {
+  std::string upper(text);
+  for (char& c : upper) {
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  }
+  return upper;
+}
+
+std::string LowerCase(std::string_view text) {
+  std::string lower(text);
+  for (char& c : lower) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  return lower;
+}
+
+std::string_view NextField(std::string_view& line) {
+  const auto comma = line.find(',');
+  const std::string_view field = line.substr(0, comma);
+  line = comma == std::string_view::npos ? std::string_view{} : line.substr(comma + 1);
+  return field;
+}
+
+std::string_view NextLine(std::string_view& text) {
+  const auto end = text.find_first_of("\r\n");
+  const std::string_view line = text.substr(0, end);
+  if (end == std::string_view::npos) {
+    text = {};
+  } else {
+    text.remove_prefix(text.substr(end, 2) == "\r\n" ? end + 2 : end + 1);
+  }
+  return line;
+}
+
+}  // namespace orb::text

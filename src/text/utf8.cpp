@@ -1,0 +1,27 @@
+#include "text/utf8.h"
+
+#include <array>
+
+namespace orb::text {
+
+std::optional<char32_t> NextCharacter(std::string_view& utf8) {
+  const auto first = static_cast<unsigned char>(utf8.front());
+  const std::size_t length = first < 0x80 ? 1 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
+  constexpr std::array<unsigned, 5> leadBits{0, 0x7F, 0x1F, 0x0F, 0x07};
+  constexpr std::array<char32_t, 5> smallest{0, 0, 0x80, 0x800, 0x10000};
+  constexpr unsigned lastLead = 0xF7;
+  if ((first >= 0x80 && first < 0xC0) || first > lastLead || utf8.size() < length) {
+    return std::nullopt;
+  }
+  char32_t character = first & leadBits[length];
+  for (const char c : utf8.substr(1, length - 1)) {
+    const auto byte = static_cast<unsigned char>(c);
+    if ((byte & 0xC0U) != 0x80) return std::nullopt;
+    character = character << 6 | (byte & 0x3FU);
+  }
+  if (character < smallest[length]) return std::nullopt;
+  utf8.remove_prefix(length);
+  return character;
+}
+
+}  // namespace orb::text

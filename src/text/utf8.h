@@ -1,0 +1,12 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+namespace orb::text {
+
+/// Cuts the first character off a text that is not empty. Nothing, and nothing is cut, when the
+/// text does not begin with a character in UTF-8.
+std::optional<char32_t> NextCharacter(std::string_view& utf8);
+
+}  // namespace orb::text

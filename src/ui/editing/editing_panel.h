@@ -1,0 +1,96 @@
+#pragma once
+
+#include "ui/map/map_picture.h"
+#include "ui/map/map_tool.h"
+#include "ui/session/desk.h"
+
+#include <QListWidget>
+#include <QPushButton>
+#include <QWidget>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace orb::ui {
+
+/// What tells the panels for editing apart: the names of their controls and their texts.
+struct EditingTexts {
+  QString panel;
+  QString list;
+  QString heading;
+  QString hint;  ///< what the mouse does
+  QString undo;
+  QString redo;
+  QString done;
+  QString help;
+};
+
+/// A list of what is edited, also for those without a mouse, beside the map on which it is edited.
+class EditingPanel : public QWidget, public MapTool {
+  Q_OBJECT
+
+ public:
+  /// The user is about to edit.
+  void startEditing();
+
+ signals:
+  /// Why something was refused, or what is about to be done.
+  void statusText(const QString& text);
+  void helpWanted(const QString& topic);
+
+ protected:
+  /// An entry of the list. The key is 1 or more and no other entry's.
+  struct Entry {
+    int key;
+    QString text;
+    QIcon icon;
+  };
+
+  /// The desk and the map must outlive the panel.
+  EditingPanel(Desk& desk, MapPicture& map, const EditingTexts& texts, QWidget* parent);
+
+  Desk& desk() const { return m_desk; }
+  const model::GameState& game() const { return m_desk.game(); }
+  MapPicture& map() const { return m_map; }
+  QListWidget& list() const { return *m_list; }
+
+  /// Lays the panel out; the options may be null.
+  void layOut(QWidget* options, const std::vector<QPushButton*>& commands);
+
+  /// A key that does something wherever the keyboard goes to while the panel is shown.
+  void addKey(const QKeySequence& key, const std::function<void()>& command);
+
+  /// Takes a step; when it is refused it says so and returns false.
+  bool edit(const std::function<std::string(model::GameState&)>& change);
+
+  /// The key of the selected entry; 0: none is.
+  int selected() const;
+  void select(int key);
+
+  virtual std::vector<Entry> entries() const = 0;
+  virtual void openProperties() = 0;
+  virtual void selectionChanged() = 0;
+
+  /// Paints over the map while the panel is shown.
+  virtual void paintOver(QPainter& painter, render::Surface& surface) = 0;
+
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  void showGame();
+  void showEntries();
+  int keyOf(int row) const;
+
+  Desk& m_desk;
+  MapPicture& m_map;
+  EditingTexts m_texts;
+  QListWidget* m_list;
+  QPushButton* m_undo;
+  QPushButton* m_redo;
+  QPushButton* m_done;
+  QPushButton* m_help;
+};
+
+}  // namespace orb::ui

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ui/session/desk.h"
+
+#include <QLabel>
+#include <QWidget>
+
+#include <vector>
+
+namespace orb::ui {
+
+/// A table of the powers: their centres, their units, and how many units are due to each.
+class AdjustmentCounts : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit AdjustmentCounts(const Desk& desk, QWidget* parent = nullptr);
+
+ private:
+  struct Column {
+    QLabel* power;
+    QLabel* centres;
+    QLabel* units;
+    QLabel* due;
+  };
+
+  void showCounts();
+
+  const Desk& m_desk;
+  std::vector<Column> m_columns;  ///< one a power
+};
+
+}  // namespace orb::ui

@@ -1,0 +1,54 @@
+#include "ui/entry/adjustments_panel.h"
+
+#include "orders/click_entry.h"
+#include "ui/entry/adjustment_counts.h"
+
+namespace orb::ui {
+
+AdjustmentsPanel::AdjustmentsPanel(Desk& desk, QWidget* parent)
+    : OrderEntryPanel(desk, "adjustments", &model::GameState::AdjustmentsList,
+                      {.panel = QStringLiteral("fraAdjustments"),
+                       .list = QStringLiteral("lstAdjustments"),
+                       .missing = QStringLiteral("lblAdjustmentsMissing"),
+                       .text = QStringLiteral("txtAdjustment"),
+                       .ok = QStringLiteral("butAdjustmentOK"),
+                       .cancel = QStringLiteral("butAdjustmentCancel"),
+                       .remove = QStringLiteral("butAdjustmentDelete"),
+                       .help = QStringLiteral("butAdjustmentsHelp"),
+                       .resolve = QStringLiteral("butAdjustmentsResolve"),
+                       .heading = tr("Adjustments"),
+                       .example = tr("ENG build F(Lon)"),
+                       .helpTopic = tr("Adjustments"),
+                       .resolveTip = tr("Carries out the builds and disbands of all powers")},
+                      parent) {
+  addBelowHeading(new AdjustmentCounts(desk));
+  addCommand({QStringLiteral("butAdjustmentBuild"), tr("&Build"),
+              tr("The power builds a unit in a home centre"), QStringLiteral(" build ")});
+  addCommand({QStringLiteral("butAdjustmentDisband"), tr("D&isband"),
+              tr("The power takes a unit away"), QStringLiteral(" disband ")});
+  addTypeOption(QStringLiteral("optAdjustmentArmy"), tr("&Army"), "A")->setChecked(true);
+  m_fleet = addTypeOption(QStringLiteral("optAdjustmentFleet"), tr("F&leet"), "F");
+}
+
+QRadioButton* AdjustmentsPanel::addTypeOption(const QString& name, const QString& caption,
+                                              std::string_view unitType) {
+  auto* option = new QRadioButton(caption);
+  option->setObjectName(name);
+  option->setToolTip(
+      tr("What the order builds; writes %1( into it")
+          .arg(QLatin1String(unitType.data(), static_cast<qsizetype>(unitType.size()))));
+  addToCommands(option);
+  connect(option, &QRadioButton::clicked, this,
+          [this, unitType] { write(orders::WithUnitType(line(), unitType)); });
+  return option;
+}
+
+void AdjustmentsPanel::mapClicked(const MapSpot& at) {
+  const std::string_view unitType = m_fleet->isChecked() ? "F" : "A";
+  const std::string location = locationAt(at, unitType);
+  if (!location.empty()) {
+    write(orders::ClickAdjustment(game(), line(), location, unitType));
+  }
+}
+
+}  // namespace orb::ui

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ui/entry/order_entry_panel.h"
+
+#include <QRadioButton>
+
+#include <string_view>
+
+namespace orb::ui {
+
+/// The orders to build and to disband, below the count of centres and units.
+class AdjustmentsPanel : public OrderEntryPanel {
+  Q_OBJECT
+
+ public:
+  explicit AdjustmentsPanel(Desk& desk, QWidget* parent = nullptr);
+
+  /// Writes the order to disband the unit there, or to build one of the chosen type.
+  void mapClicked(const MapSpot& at) override;
+
+ private:
+  QRadioButton* addTypeOption(const QString& name, const QString& caption,
+                              std::string_view unitType);
+
+  QRadioButton* m_fleet;
+};
+
+}  // namespace orb::ui

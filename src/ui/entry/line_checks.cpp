@@ -1,0 +1,72 @@
+#include "ui/entry/line_checks.h"
+
+#include "text/qt/text_codec.h"
+#include "ui/widgets/order_marks.h"
+
+namespace orb::ui {
+namespace {
+
+using adjudication::ListCheck;
+
+QString lines(const std::vector<std::string>& texts) {
+  QStringList shown;
+  for (const std::string& text : texts)
+    shown << text::ToQString(text);
+  return shown.join(QLatin1Char('\n'));
+}
+
+void showMark(QListWidgetItem& item, OrderMark mark, const QString& reason) {
+  item.setData(OrderMarkRole, static_cast<int>(mark));
+  item.setToolTip(reason);
+  item.setData(Qt::AccessibleDescriptionRole, reason);
+}
+
+QString countedUnits(std::size_t count, const QString& kind) {
+  return QStringLiteral("%1 %2%3 without an order")
+      .arg(count)
+      .arg(kind, QLatin1String(count == 1 ? "" : "s"));
+}
+
+QString missingUnits(std::size_t count, bool dislodged) {
+  const QString kind = dislodged ? QObject::tr("dislodged unit") : QObject::tr("unit");
+  return count == 0 ? QObject::tr("Every %1 has an order").arg(kind) : countedUnits(count, kind);
+}
+
+QString unfitPowers(std::size_t count) {
+  if (count == 0) return QObject::tr("The numbers of all powers fit");
+  return count == 1 ? QObject::tr("1 power whose numbers do not fit")
+                    : QObject::tr("%1 powers whose numbers do not fit").arg(count);
+}
+
+}  // namespace
+
+void showMarks(QListWidget& list, const ListCheck& check,
+               const std::optional<StoppedLine>& stopped) {
+  for (int row = 0; row < list.count(); ++row) {
+    const QString reason = lines(check.Lines.at(static_cast<std::size_t>(row)));
+    if (stopped && stopped->row == row) {
+      const QString result = text::ToQString(stopped->result);
+      // The check says the same as a rule, and more.
+      const QString why = reason.startsWith(result) ? reason : result + QLatin1Char('\n') + reason;
+      showMark(*list.item(row), OrderMark::Stopped,
+               QObject::tr("Resolving stopped here: %1").arg(why));
+    } else {
+      showMark(*list.item(row), reason.isEmpty() ? OrderMark::Passes : OrderMark::Doubtful, reason);
+    }
+  }
+}
+
+void showMissing(QLabel& label, const ListCheck& check, std::string_view stage) {
+  if (stage == "adjustments") {
+    std::vector<std::string> powers;
+    for (const adjudication::PowerProblem& problem : check.Powers)
+      powers.push_back(problem.Power + ": " + problem.Text);
+    label.setText(unfitPowers(powers.size()));
+    label.setToolTip(lines(powers));
+  } else {
+    label.setText(missingUnits(check.Unordered.size(), stage == "retreats"));
+    label.setToolTip(lines(check.Unordered));
+  }
+}
+
+}  // namespace orb::ui

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "adjudication/list_check.h"
+#include "ui/session/situation.h"
+
+#include <QLabel>
+#include <QListWidget>
+
+#include <optional>
+#include <string_view>
+
+namespace orb::ui {
+
+/// Marks every line of the stage's list by what the checks say of it; tooltips tell the reasons.
+void showMarks(QListWidget& list, const adjudication::ListCheck& check,
+               const std::optional<StoppedLine>& stopped);
+
+/// Tells how many units, or in the adjustments powers, are not yet provided for, and in the tooltip
+/// which.
+void showMissing(QLabel& label, const adjudication::ListCheck& check, std::string_view stage);
+
+}  // namespace orb::ui

@@ -1,0 +1,255 @@
+#include "ui/entry/order_entry_panel.h"
+
+#include "text/qt/text_codec.h"
+#include "ui/entry/line_checks.h"
+#include "ui/widgets/order_marks.h"
+#include "ui/widgets/text_validator.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QShortcut>
+
+#include <algorithm>
+
+namespace orb::ui {
+namespace {
+
+constexpr int GridColumns = 4;
+constexpr int TextRow = 0;
+constexpr int CommandRow = 1;
+constexpr int GapRow = 2;
+constexpr int ListRow = 3;
+constexpr int Gap = 2;
+
+}  // namespace
+
+OrderEntryPanel::OrderEntryPanel(Desk& desk, std::string_view stage, Desk::OrderList list,
+                                 const OrderEntryTexts& texts, QWidget* parent)
+    : QWidget(parent),
+      m_desk(desk),
+      m_stage(stage),
+      m_orders(list),
+      m_column(new QVBoxLayout(this)),
+      m_grid(new QGridLayout),
+      m_list(new QListWidget),
+      m_missing(new ElidedLabel),
+      m_text(new QLineEdit) {
+  setObjectName(texts.panel);
+  m_list->setObjectName(texts.list);
+  m_list->setAccessibleName(texts.heading);
+  m_list->setItemDelegate(new OrderMarkDelegate(m_list));
+  m_missing->setObjectName(texts.missing);
+  m_text->setObjectName(texts.text);
+  m_text->setAccessibleName(tr("Order"));
+  m_text->setPlaceholderText(texts.example);
+  m_text->setValidator(new TextValidator(m_text));
+  m_text->installEventFilter(this);
+  layOut(texts);
+  connectControls(texts.helpTopic);
+  connectKeys();
+  showLines();
+}
+
+void OrderEntryPanel::layOut(const OrderEntryTexts& texts) {
+  m_column->setContentsMargins({});
+  m_column->addWidget(newHeading(texts.heading));
+  m_column->addWidget(m_list, 1);
+  m_column->addWidget(m_missing);
+  m_column->addLayout(m_grid);
+  m_grid->addWidget(m_text, TextRow, 0, 1, GridColumns - 1);
+  m_ok = addButton(texts.ok, tr("&OK"), tr("Puts the order into the list (Enter)"), TextRow,
+                   GridColumns - 1);
+  m_cancel = addButton(texts.cancel, tr("Ca&ncel"), tr("Empties the text box (Esc)"), ListRow, 0);
+  m_delete =
+      addButton(texts.remove, tr("&Delete"),
+                tr("Removes the selected order from the list (Del in the list)"), ListRow, 1);
+  m_help = addButton(texts.help, tr("Hel&p"), tr("Tells how orders are entered"), ListRow, 2);
+  m_resolve = addButton(texts.resolve, tr("&Resolve"), texts.resolveTip, ListRow, 3);
+  m_resolve->setDefault(true);
+  m_grid->setRowMinimumHeight(GapRow, Gap);
+  m_lastCommand = m_ok;
+}
+
+/// All as wide as the widest button.
+void OrderEntryPanel::alignColumns() {
+  int width = 0;
+  for (const QPushButton* button : findChildren<QPushButton*>())
+    width = std::max(width, button->sizeHint().width() + fontMetrics().averageCharWidth());
+  for (int column = 0; column < GridColumns; ++column) {
+    m_grid->setColumnStretch(column, 1);
+    m_grid->setColumnMinimumWidth(column, width);
+  }
+}
+
+QPushButton* OrderEntryPanel::addButton(const QString& name, const QString& caption,
+                                        const QString& tip, int row, int column) {
+  QPushButton* button = newButton(name, caption);
+  button->setToolTip(tip);
+  m_grid->addWidget(button, row, column);
+  return button;
+}
+
+QPushButton* OrderEntryPanel::addCommand(const EntryCommand& command) {
+  QPushButton* button = newButton(command.name, command.caption);
+  button->setToolTip(command.tip);
+  connect(button, &QPushButton::clicked, this, [this, words = command.words] { append(words); });
+  addToCommands(button);
+  return button;
+}
+
+void OrderEntryPanel::addToCommands(QWidget* control) {
+  m_grid->addWidget(control, CommandRow, m_commandCount++);
+  setTabOrder(m_lastCommand, control);
+  m_lastCommand = control;
+}
+
+void OrderEntryPanel::addBelowHeading(QWidget* control) {
+  m_column->insertWidget(1, control);
+}
+
+void OrderEntryPanel::connectControls(const QString& helpTopic) {
+  connect(m_ok, &QPushButton::clicked, this, &OrderEntryPanel::fileOrder);
+  connect(m_text, &QLineEdit::returnPressed, this, &OrderEntryPanel::fileOrder);
+  connect(m_text, &QLineEdit::textChanged, this, [this](const QString& text) {
+    if (text.isEmpty()) beginLine();
+  });
+  connect(m_cancel, &QPushButton::clicked, this, &OrderEntryPanel::cancelOrder);
+  connect(m_delete, &QPushButton::clicked, this, &OrderEntryPanel::deleteOrder);
+  connect(m_help, &QPushButton::clicked, this, [this, helpTopic] {
+    focusText();
+    emit helpWanted(helpTopic);
+  });
+  connect(m_resolve, &QPushButton::clicked, &m_desk, &Desk::resolve);
+  connect(m_list, &QListWidget::itemClicked, this, &OrderEntryPanel::editSelectedOrder);
+  connect(m_list, &QListWidget::itemActivated, this, &OrderEntryPanel::editSelectedOrder);
+  connect(m_list, &QListWidget::itemSelectionChanged, this, &OrderEntryPanel::tellStatus);
+  connect(&m_desk, &Desk::changed, this, &OrderEntryPanel::showLines);
+  connect(&m_desk, &Desk::stopped, this, &OrderEntryPanel::showStoppedLine);
+}
+
+void OrderEntryPanel::connectKeys() {
+  const auto connectKey = [this](QWidget* control, Qt::Key key, auto command) {
+    auto* shortcut = new QShortcut(key, control, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(shortcut, &QShortcut::activated, this, command);
+  };
+  connectKey(m_text, Qt::Key_Escape, &OrderEntryPanel::cancelOrder);
+  connectKey(m_text, Qt::Key_Up, &OrderEntryPanel::focusList);
+  connectKey(m_list, Qt::Key_Escape, &OrderEntryPanel::focusText);
+  connectKey(m_list, Qt::Key_Delete, &OrderEntryPanel::deleteOrder);
+}
+
+void OrderEntryPanel::startEntry() {
+  beginLine();
+  focusText();
+}
+
+void OrderEntryPanel::focusText() {
+  m_text->setFocus();
+  m_text->end(false);
+}
+
+void OrderEntryPanel::focusList() {
+  if (m_list->count() == 0) return;
+  if (m_list->selectedItems().isEmpty()) m_list->setCurrentRow(m_list->count() - 1);
+  m_list->setFocus();
+}
+
+std::string OrderEntryPanel::line() const {
+  return bytesOf(*m_text);
+}
+
+void OrderEntryPanel::write(const std::string& line) {
+  const QString text = text::ToQString(line);
+  if (text.startsWith(m_text->text())) return append(text.mid(m_text->text().size()));
+  m_text->setText(text);
+  focusText();
+}
+
+/// As if typed, so that it can be taken back.
+void OrderEntryPanel::append(const QString& words) {
+  m_text->end(false);
+  m_text->insert(words);
+  focusText();
+}
+
+void OrderEntryPanel::showLines() {
+  showTexts(*m_list, m_desk.game().*m_orders);
+  if (m_desk.game().Stage == m_stage) markLines();
+}
+
+void OrderEntryPanel::markLines() {
+  const adjudication::ListCheck check = adjudication::CheckList(m_desk.game());
+  showMarks(*m_list, check, m_desk.now().stoppedLine);
+  showMissing(*m_missing, check, m_stage);
+  tellStatus();
+}
+
+void OrderEntryPanel::showStoppedLine() {
+  if (m_desk.game().Stage != m_stage || !m_desk.now().stoppedLine) return;
+  m_list->setCurrentRow(m_desk.now().stoppedLine->row);
+  m_list->setFocus();
+}
+
+void OrderEntryPanel::tellStatus() {
+  if (m_desk.game().Stage != m_stage) return;
+  const QList<QListWidgetItem*> selected = m_list->selectedItems();
+  const QString reason = selected.isEmpty() ? QString() : selected.first()->toolTip();
+  emit statusText(reason.split(QLatin1Char('\n')).join(QStringLiteral("; ")));
+}
+
+void OrderEntryPanel::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  alignColumns();
+}
+
+void OrderEntryPanel::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) alignColumns();
+}
+
+void OrderEntryPanel::hideEvent(QHideEvent* event) {
+  QWidget::hideEvent(event);
+  // Keeps the text, but not the steps that led to it.
+  m_text->setText(m_text->text());
+  emit statusText({});
+}
+
+/// A text box that has nothing to take back leaves the key for it to the game.
+bool OrderEntryPanel::eventFilter(QObject* watched, QEvent* event) {
+  const bool undoes = event->type() == QEvent::ShortcutOverride &&
+                      static_cast<QKeyEvent*>(event)->matches(QKeySequence::Undo);
+  if (!undoes || m_text->isUndoAvailable()) return QWidget::eventFilter(watched, event);
+  event->ignore();
+  return true;
+}
+
+void OrderEntryPanel::fileOrder() {
+  if (m_desk.fileOrder(m_orders, line())) {
+    m_list->setCurrentRow(m_list->count() - 1);
+    m_text->clear();
+  }
+  startEntry();
+}
+
+void OrderEntryPanel::cancelOrder() {
+  m_text->clear();
+  startEntry();
+}
+
+void OrderEntryPanel::deleteOrder() {
+  if (m_list->selectedItems().isEmpty()) return;
+  m_desk.deleteOrder(m_orders, m_list->currentRow());
+  cancelOrder();
+}
+
+void OrderEntryPanel::editSelectedOrder() {
+  m_text->setText(m_list->currentItem()->text());
+  startEntry();
+}
+
+std::string OrderEntryPanel::locationAt(const MapSpot& spot, std::string_view unitType) const {
+  const int row = spot.locationFor(unitType);
+  return row == 0 ? std::string() : game().Map->Provinces[row].Name;
+}
+
+}  // namespace orb::ui

@@ -1,0 +1,122 @@
+#pragma once
+
+#include "ui/map/map_tool.h"
+#include "ui/session/desk.h"
+#include "ui/widgets/controls.h"
+
+#include <QGridLayout>
+#include <QLineEdit>
+#include <QVBoxLayout>
+#include <QWidget>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orb::ui {
+
+/// A button that appends words to the line.
+struct EntryCommand {
+  QString name;
+  QString caption;
+  QString tip;
+  QString words;
+};
+
+/// What tells the panels of the three stages apart: the names of their controls and their texts.
+struct OrderEntryTexts {
+  QString panel;
+  QString list;
+  QString missing;  ///< the label below the list
+  QString text;
+  QString ok;
+  QString cancel;
+  QString remove;
+  QString help;
+  QString resolve;
+  QString heading;
+  QString example;  ///< shown in the empty text box
+  QString helpTopic;
+  QString resolveTip;
+};
+
+/// A list of order lines with the box in which a line is written, by keyboard, by buttons or by
+/// clicks on the map, and the command that resolves them.
+class OrderEntryPanel : public QWidget, public MapTool {
+  Q_OBJECT
+
+ public:
+  /// The user is about to write an order.
+  void startEntry();
+
+ signals:
+  void helpWanted(const QString& topic);
+
+  /// What is to be said about the selected line; empty for nothing.
+  void statusText(const QString& text);
+
+ protected:
+  /// The stage is that of the list.
+  OrderEntryPanel(Desk& desk, std::string_view stage, Desk::OrderList list,
+                  const OrderEntryTexts& texts, QWidget* parent);
+
+  const model::GameState& game() const { return m_desk.game(); }
+  std::string line() const;
+
+  /// Shows a line that is to be written on.
+  void write(const std::string& line);
+
+  /// Abbreviation of the location at the spot as a unit of this type sees it; empty for none.
+  std::string locationAt(const MapSpot& spot, std::string_view unitType) const;
+
+  QPushButton* addCommand(const EntryCommand& command);
+
+  /// Adds a control behind the commands.
+  void addToCommands(QWidget* control);
+  void addBelowHeading(QWidget* control);
+
+  /// The next click on the map begins a line.
+  virtual void beginLine() {}
+
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QPushButton* addButton(const QString& name, const QString& caption, const QString& tip, int row,
+                         int column);
+  void layOut(const OrderEntryTexts& texts);
+  void alignColumns();
+  void connectControls(const QString& helpTopic);
+  void connectKeys();
+  void focusText();
+  void focusList();
+  void append(const QString& words);
+  void showLines();
+  void markLines();
+  void showStoppedLine();
+  void tellStatus();
+  void fileOrder();
+  void cancelOrder();
+  void deleteOrder();
+  void editSelectedOrder();
+
+  Desk& m_desk;
+  std::string m_stage;
+  Desk::OrderList m_orders;
+  QVBoxLayout* m_column;
+  QGridLayout* m_grid;
+  QListWidget* m_list;
+  ElidedLabel* m_missing;
+  QLineEdit* m_text;
+  QPushButton* m_ok;
+  QPushButton* m_cancel;
+  QPushButton* m_delete;
+  QPushButton* m_help;
+  QPushButton* m_resolve;
+  QWidget* m_lastCommand;
+  int m_commandCount = 0;
+};
+
+}  // namespace orb::ui

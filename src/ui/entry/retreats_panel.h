@@ -1,0 +1,18 @@
+#pragma once
+
+#include "ui/entry/order_entry_panel.h"
+
+namespace orb::ui {
+
+/// The orders of dislodged units.
+class RetreatsPanel : public OrderEntryPanel {
+  Q_OBJECT
+
+ public:
+  explicit RetreatsPanel(Desk& desk, QWidget* parent = nullptr);
+
+  /// Picks a dislodged unit and, after that, where it retreats to or that it disbands.
+  void mapClicked(const MapSpot& at) override;
+};
+
+}  // namespace orb::ui

@@ -1,0 +1,101 @@
+#include "ui/exchange/exchange_commands.h"
+
+#include "model/errors.h"
+#include "model/files.h"
+#include "orders/exchange/order_files.h"
+#include "orders/order_list.h"
+#include "text/qt/text_codec.h"
+#include "ui/output/file_dialogs.h"
+#include "ui/widgets/message_boxes.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include <system_error>
+#include <utility>
+
+namespace orb::ui {
+namespace {
+
+namespace fs = std::filesystem;
+
+void checkLength(std::uintmax_t bytes, const std::string& where) {
+  if (bytes <= OrdersTextBound) return;
+  throw model::FileError(where + " is too long for a text of orders: it has " +
+                         std::to_string(bytes) + " bytes, and at most " +
+                         std::to_string(OrdersTextBound) + " are read.");
+}
+
+/// The bytes of a file that can be a text of orders.
+std::string readOrdersFile(const fs::path& file) {
+  std::error_code error;
+  const fs::file_status status = fs::status(file, error);
+  if (fs::exists(status) && !fs::is_regular_file(status)) {
+    throw model::FileError(file.string() + " is no ordinary file.");
+  }
+  const std::uintmax_t size = fs::file_size(file, error);
+  if (!error) checkLength(size, file.string());
+  std::string text = model::ReadFile(file);
+  checkLength(text.size(), file.string());
+  return exchange::OrdersFileText(std::move(text), file.string());
+}
+
+QString countedOrders(int count) {
+  return count == 1 ? QObject::tr("1 order") : QObject::tr("%1 orders").arg(count);
+}
+
+}  // namespace
+
+bool takesOrders(const model::GameState& game) {
+  return game.Stage == "moves" || game.Stage == "retreats" || game.Stage == "adjustments";
+}
+
+bool hasOrders(const model::GameState& game) {
+  return !orders::StageList(game).empty();
+}
+
+ExchangeCommands::ExchangeCommands(Desk& desk, model::Messages& messages, QWidget* window)
+    : QObject(window), m_desk(desk), m_messages(messages), m_window(window) {}
+
+void ExchangeCommands::importOrders() {
+  const auto file = askOrdersToImport(m_window, m_desk.game());
+  if (!file) return;
+  attempt(m_messages, [&] { preview(ExchangeKind::Import, readOrdersFile(*file)); });
+}
+
+void ExchangeCommands::pasteOrders() {
+  attempt(m_messages, [this] {
+    std::string text = QGuiApplication::clipboard()->text().toStdString();
+    checkLength(text.size(), "The text on the clipboard");
+    if (text.find_first_not_of(" \t\r\n") == std::string::npos) {
+      throw model::FatalError("There is no text on the clipboard.");
+    }
+    preview(ExchangeKind::Paste, std::move(text));
+  });
+}
+
+void ExchangeCommands::preview(ExchangeKind kind, std::string text) {
+  ExchangeDialog dialog(m_desk.game(), kind, std::move(text),
+                        exchange::ReadTextRepairs(m_desk.dataDirectory()), m_window);
+  connect(&dialog, &ExchangeDialog::helpWanted, this,
+          [&](const QString& topic) { emit helpWanted(topic, &dialog); });
+  if (dialog.exec() != QDialog::Accepted) return;
+  const int filed = m_desk.fileOrders(dialog.orders());
+  if (filed > 0) emit noted(tr("%1 filed.").arg(countedOrders(filed)));
+}
+
+void ExchangeCommands::exportOrders() {
+  const auto file = askWhereToExport(m_window, ExportKind::Orders, m_desk.game(), m_messages);
+  if (!file) return;
+  attempt(m_messages, [&] {
+    model::ReplaceFile(*file, exchange::OrdersText(m_desk.game()));
+    emit noted(tr("The orders are in %1.").arg(displayPath(file->string())));
+  });
+}
+
+void ExchangeCommands::copyOrders() {
+  QGuiApplication::clipboard()->setText(text::ToQString(exchange::OrdersText(m_desk.game())));
+  emit noted(tr("The orders are on the clipboard."));
+}
+
+}  // namespace orb::ui

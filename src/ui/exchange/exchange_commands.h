@@ -1,0 +1,51 @@
+#pragma once
+
+#include "ui/exchange/exchange_dialog.h"
+#include "ui/session/desk.h"
+
+#include <QObject>
+
+#include <filesystem>
+#include <string>
+
+namespace orb::ui {
+
+/// The longest text of orders that is read, in bytes: many times all mails of a season.
+constexpr std::size_t OrdersTextBound = 200'000;
+
+/// Whether orders can be entered in the game's stage.
+bool takesOrders(const model::GameState& game);
+
+/// Whether the list of the game's stage holds orders to hand out.
+bool hasOrders(const model::GameState& game);
+
+/// The commands that take orders in from files and the clipboard and hand them out. What goes
+/// wrong is told in a message box, and the lists, files and the clipboard stay as they were.
+class ExchangeCommands : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Dialogs come up over the window.
+  ExchangeCommands(Desk& desk, model::Messages& messages, QWidget* window);
+
+  void importOrders();
+  void pasteOrders();
+  void exportOrders();
+  void copyOrders();
+
+ signals:
+  /// Something for the status bar: what was done.
+  void noted(const QString& text);
+
+  /// The help topic that a dialog asks for.
+  void helpWanted(const QString& topic, QWidget* dialog);
+
+ private:
+  void preview(ExchangeKind kind, std::string text);
+
+  Desk& m_desk;
+  model::Messages& m_messages;
+  QWidget* m_window;
+};
+
+}  // namespace orb::ui

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "ui/exchange/exchange_model.h"
+#include "ui/widgets/controls.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+
+#include <string>
+#include <vector>
+
+namespace orb::ui {
+
+class ExchangeTable;
+
+enum class ExchangeKind {
+  Import,  ///< a file with orders of any powers
+  Paste,   ///< a text with orders of one power, which is chosen
+};
+
+/// A text of orders before it is filed, line by line: what was written, what was understood, what
+/// is unclear. Everything can be corrected here; nothing is filed here.
+class ExchangeDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// The game must outlive the dialog. The text is UTF-8 or Windows-1252.
+  ExchangeDialog(const model::GameState& game, ExchangeKind kind, std::string text,
+                 std::vector<exchange::TextRepair> repairs, QWidget* parent);
+
+  /// The orders to file.
+  std::vector<exchange::ReadLine> orders() const { return m_model.takenLines(); }
+
+  void accept() override;
+
+ signals:
+  void helpWanted(const QString& topic);
+
+ private:
+  QLayout* newPowerRow(const model::GameState& game);
+  QLayout* newButtonRow();
+  void wantHelp();
+  void choosePower();
+  void showCounts();
+  void showReason();
+
+  ExchangeModel m_model;
+  ExchangeTable* m_table;
+  QComboBox* m_power = nullptr;  ///< only when pasting
+  QLabel* m_count;
+  QCheckBox* m_noOrders;
+  QLabel* m_reason;
+  QLabel* m_result;
+  QPushButton* m_ok;
+};
+
+}  // namespace orb::ui

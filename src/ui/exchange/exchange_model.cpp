@@ -1,0 +1,321 @@
+#include "ui/exchange/exchange_model.h"
+
+#include "orders/exchange/order_files.h"
+#include "orders/order_list.h"
+#include "text/qt/text_codec.h"
+#include "ui/widgets/message_boxes.h"
+#include "ui/widgets/order_marks.h"
+
+#include <QFont>
+#include <QGuiApplication>
+#include <QPalette>
+
+#include <algorithm>
+#include <string_view>
+
+namespace orb::ui {
+namespace {
+
+using exchange::LineKind;
+using exchange::ReadLine;
+using exchange::Span;
+
+/// The beginning by which filing knows the unit's previous order.
+std::string_view unitOf(const ReadLine& line) {
+  return std::string_view(line.Order).substr(0, line.Order.find(')') + 1);
+}
+
+QString sentence(const std::string& text) {
+  QString shown = displayText(text);
+  if (!shown.isEmpty()) shown[0] = shown[0].toUpper();
+  return shown;
+}
+
+/// The place of a fault in a text that begins at the offset, in characters.
+std::pair<int, int> faultIn(std::string_view text, Span fault, std::size_t offset) {
+  const std::size_t start = std::min(std::max(fault.Offset, offset) - offset, text.size());
+  const auto length = [](std::string_view part) {
+    return static_cast<int>(displayText(std::string(part)).size());
+  };
+  return {length(text.substr(0, start)), length(text.substr(start, fault.Length))};
+}
+
+OrderMark markOf(const ReadLine& line, bool doubtful) {
+  switch (line.Kind) {
+    case LineKind::Order:
+      return doubtful ? OrderMark::Doubtful : OrderMark::Passes;
+    case LineKind::Waive:
+      return OrderMark::Passes;
+    case LineKind::NotUnderstood:
+    case LineKind::Ambiguous:
+      return OrderMark::Stopped;
+    default:
+      return OrderMark::None;
+  }
+}
+
+QString meaningOf(const ReadLine& line) {
+  switch (line.Kind) {
+    case LineKind::Order:
+      return text::ToQString(line.Order);
+    case LineKind::Waive:
+      return QObject::tr("waived, nothing to file");
+    case LineKind::Heading:
+      return line.Power.empty() ? QObject::tr("heading")
+                                : QObject::tr("heading: %1").arg(text::ToQString(line.Power));
+    case LineKind::PassedOver:
+      return QObject::tr("no order");
+    default:
+      return sentence(line.Reason);
+  }
+}
+
+}  // namespace
+
+ExchangeModel::ExchangeModel(const model::GameState& game, std::string text,
+                             std::vector<exchange::TextRepair> repairs, QObject* parent)
+    : QAbstractTableModel(parent),
+      m_game(game),
+      m_text(std::move(text)),
+      m_repairs(std::move(repairs)) {
+  setPower({});
+}
+
+void ExchangeModel::setPower(const std::string& power) {
+  beginResetModel();
+  m_power = power;
+  m_trial.reset();
+  const std::vector<Line> before = std::exchange(m_lines, {});
+  for (ReadLine& read : exchange::ReadOrders(m_game, m_text, {m_power, m_repairs})) {
+    if (read.Written.empty()) continue;
+    const QString written = displayText(read.Written);
+    const auto fault = faultIn(read.Written, read.ReasonPlace, read.Place.Offset);
+    const std::string context = read.Power;
+    const bool taken = !isOfOther(read);
+    m_lines.push_back({std::move(read), written, written, context, fault, taken});
+  }
+  takeAnew(before);
+  endResetModel();
+}
+
+/// Writes anew what was written anew before.
+void ExchangeModel::takeAnew(const std::vector<Line>& before) {
+  bool any = false;
+  for (const Line& old : before) {
+    if (old.written == old.original) continue;
+    const auto same = std::find_if(m_lines.begin(), m_lines.end(), [&](const Line& line) {
+      return line.read.Place.Offset == old.read.Place.Offset;
+    });
+    if (same == m_lines.end()) continue;
+    rewrite(*same, old.written);
+    any = true;
+  }
+  if (any) readUnclearAgain();
+}
+
+/// Reads a text in place of the line's own.
+ReadLine ExchangeModel::read(const Line& line, const QString& text) const {
+  std::vector<ReadLine> others;
+  for (const Line& other : m_lines) {
+    if (&other != &line) others.push_back(other.read);
+  }
+  ReadLine read = exchange::ReadOrder(m_game, text.toStdString(), {line.power, m_repairs}, others);
+  read.Number = line.read.Number;
+  return read;
+}
+
+void ExchangeModel::rewrite(Line& line, const QString& text) {
+  const Span place = line.read.Place;
+  line.read = read(line, text);
+  line.fault = faultIn(text.toStdString(), line.read.ReasonPlace, 0);
+  line.read.Place = place;
+  line.written = text;
+  line.taken = !isOfOther(line.read);
+}
+
+/// What a support can mean depends on the other lines.
+void ExchangeModel::readUnclearAgain() {
+  for (Line& line : m_lines) {
+    if (IsUnclear(line.read) && !line.read.IsReplaced) rewrite(line, line.written);
+  }
+}
+
+void ExchangeModel::tryText(int row, const QString& text) {
+  m_trial.emplace(row, read(at(row), text));
+  emitMeaning(row);
+}
+
+void ExchangeModel::endTrial() {
+  if (!m_trial) return;
+  const int row = m_trial->first;
+  m_trial.reset();
+  if (row < rowCount()) emitMeaning(row);
+}
+
+/// What is written stays out of it: its editor would begin anew.
+void ExchangeModel::emitMeaning(int row) {
+  emit dataChanged(index(row, Take), index(row, Take));
+  emit dataChanged(index(row, Understood), index(row, Understood));
+}
+
+const ReadLine& ExchangeModel::line(int row) const {
+  return m_trial && m_trial->first == row ? m_trial->second : at(row).read;
+}
+
+bool ExchangeModel::isNoOrder(int row) const {
+  return at(row).read.Kind == LineKind::PassedOver && at(row).written == at(row).original;
+}
+
+std::string ExchangeModel::powerOfText() const {
+  std::vector<ReadLine> lines;
+  for (const Line& line : m_lines)
+    lines.push_back(line.read);
+  return exchange::PowerOf(lines);
+}
+
+ExchangeModel::Counts ExchangeModel::counts() const {
+  Counts counts;
+  for (int row = 0; row < rowCount(); ++row) {
+    const Line& line = at(row);
+    const bool order = line.read.Kind == LineKind::Order;
+    counts.orders += order ? 1 : 0;
+    counts.unclear += IsUnclear(line.read) ? 1 : 0;
+    counts.ofOthers += isOfOther(line.read) ? 1 : 0;
+    counts.taken += order && line.taken ? 1 : 0;
+    const bool isLast = order && line.taken && !isRepeatedBelow(row);
+    counts.replacing += isLast && isReplacing(line.read) ? 1 : 0;
+  }
+  return counts;
+}
+
+std::vector<ReadLine> ExchangeModel::takenLines() const {
+  std::vector<ReadLine> lines;
+  for (const Line& line : m_lines) {
+    if (line.read.Kind == LineKind::Order && line.taken) lines.push_back(line.read);
+  }
+  return lines;
+}
+
+bool ExchangeModel::isOfOther(const ReadLine& line) const {
+  return line.Kind == LineKind::Order && !m_power.empty() && line.Power != m_power;
+}
+
+bool ExchangeModel::isRepeatedBelow(int row) const {
+  const std::string_view unit = unitOf(line(row));
+  return std::any_of(m_lines.begin() + row + 1, m_lines.end(), [&](const Line& below) {
+    return below.read.Kind == LineKind::Order && below.taken && unitOf(below.read) == unit;
+  });
+}
+
+bool ExchangeModel::isReplacing(const ReadLine& line) const {
+  const auto& list = orders::StageList(m_game);
+  return std::any_of(list.begin(), list.end(), [&](const std::string& filed) {
+    return filed != line.Order && filed.starts_with(unitOf(line));
+  });
+}
+
+/// Why an order that was understood may not be wanted; empty when nothing is known against it.
+QString ExchangeModel::doubt(int row, const ReadLine& line) const {
+  if (line.Kind != LineKind::Order) return {};
+  QStringList doubts;
+  if (isOfOther(line)) doubts << tr("of another power");
+  if (!line.Reason.empty()) doubts << displayText(line.Reason);
+  if (isRepeatedBelow(row)) doubts << tr("ordered again below");
+  return doubts.join(QStringLiteral("; "));
+}
+
+int ExchangeModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(m_lines.size());
+}
+
+int ExchangeModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(ColumnCount);
+}
+
+QVariant ExchangeModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  const int row = index.row();
+  if (role == Qt::ForegroundRole) {
+    const LineKind kind = line(row).Kind;
+    const bool aside = kind == LineKind::PassedOver || kind == LineKind::Heading;
+    return aside ? QVariant(QGuiApplication::palette().brush(QPalette::PlaceholderText))
+                 : QVariant();
+  }
+  if (index.column() == Understood) return understoodData(row, role);
+  if (index.column() == Written) return writtenData(row, role);
+  if (line(row).Kind != LineKind::Order) return {};
+  if (role == Qt::CheckStateRole) return at(row).taken ? Qt::Checked : Qt::Unchecked;
+  if (role == Qt::AccessibleTextRole) return at(row).taken ? tr("taken") : tr("left out");
+  return {};
+}
+
+QVariant ExchangeModel::understoodData(int row, int role) const {
+  const ReadLine& shown = line(row);
+  const QString against = doubt(row, shown);
+  switch (role) {
+    case Qt::DisplayRole:
+      return against.isEmpty() ? meaningOf(shown) : tr("%1  (%2)").arg(meaningOf(shown), against);
+    case Qt::EditRole:
+      return meaningOf(shown);
+    case Qt::ToolTipRole:
+      return against.isEmpty() ? sentence(shown.Reason) : against;
+    case OrderMarkRole:
+      return static_cast<int>(markOf(shown, !against.isEmpty()));
+    default:
+      return {};
+  }
+}
+
+QVariant ExchangeModel::writtenData(int row, int role) const {
+  const Line& shown = at(row);
+  const bool anew = shown.written != shown.original;
+  if (role == Qt::DisplayRole || role == Qt::EditRole) return shown.written;
+  if (role == Qt::ToolTipRole && anew) return tr("Was: %1").arg(shown.original);
+  if (role == Qt::FontRole && anew) {
+    QFont font = QGuiApplication::font();
+    font.setItalic(true);
+    return font;
+  }
+  return {};
+}
+
+bool ExchangeModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+  Line& line = at(index.row());
+  m_trial.reset();
+  if (index.column() == Take && role == Qt::CheckStateRole) {
+    line.taken = value.toInt() == Qt::Checked;
+  } else if (role == Qt::EditRole && value.toString() != line.written) {
+    rewrite(line, value.toString());
+    readUnclearAgain();
+  }
+  emit dataChanged(this->index(0, Take), this->index(rowCount() - 1, Understood));
+  return true;
+}
+
+Qt::ItemFlags ExchangeModel::flags(const QModelIndex& index) const {
+  const Qt::ItemFlags shown = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+  const LineKind kind = line(index.row()).Kind;
+  switch (index.column()) {
+    case Take:
+      return kind == LineKind::Order ? shown | Qt::ItemIsUserCheckable : shown;
+    case Written:
+      return shown | Qt::ItemIsEditable;
+    default:
+      return kind == LineKind::Ambiguous ? shown | Qt::ItemIsEditable : shown;
+  }
+}
+
+QVariant ExchangeModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (role != Qt::DisplayRole) return QAbstractTableModel::headerData(section, orientation, role);
+  if (orientation == Qt::Vertical) return at(section).read.Number;
+  switch (section) {
+    case Take:
+      return tr("Take");
+    case Written:
+      return tr("What is written");
+    default:
+      return tr("The order understood");
+  }
+}
+
+}  // namespace orb::ui

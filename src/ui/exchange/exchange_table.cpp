@@ -1,0 +1,193 @@
+#include "ui/exchange/exchange_table.h"
+
+#include "text/qt/text_codec.h"
+#include "ui/widgets/order_marks.h"
+
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTimer>
+
+namespace orb::ui {
+namespace {
+
+using exchange::LineKind;
+
+/// Writes a line anew and shows at every key what it would mean.
+class WrittenDelegate : public QStyledItemDelegate {
+ public:
+  WrittenDelegate(ExchangeModel& model, QObject* parent)
+      : QStyledItemDelegate(parent), m_model(model) {}
+
+  QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
+                        const QModelIndex& index) const override {
+    auto* editor = new QLineEdit(parent);
+    editor->setObjectName(QStringLiteral("txtExchangeLine"));
+    editor->setAccessibleName(QObject::tr("The line"));
+    const int row = index.row();
+    connect(editor, &QLineEdit::textEdited, &m_model,
+            [&model = m_model, row](const QString& text) { model.tryText(row, text); });
+    // The view selects all of the text once it has opened the editor.
+    if (IsUnclear(m_model.line(row))) {
+      const auto [start, length] = m_model.fault(row);
+      QTimer::singleShot(0, editor, [editor, start = start, length = length] {
+        if (!editor->isModified()) editor->setSelection(start, length);
+      });
+    }
+    return editor;
+  }
+
+  void destroyEditor(QWidget* editor, const QModelIndex& index) const override {
+    m_model.endTrial();
+    QStyledItemDelegate::destroyEditor(editor, index);
+  }
+
+ private:
+  ExchangeModel& m_model;
+};
+
+/// Shows the order that was understood and offers those that a line can mean.
+class UnderstoodDelegate : public OrderMarkDelegate {
+ public:
+  UnderstoodDelegate(ExchangeModel& model, QObject* parent)
+      : OrderMarkDelegate(parent), m_model(model) {}
+
+  QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
+                        const QModelIndex& index) const override {
+    auto* box = new QComboBox(parent);
+    box->setObjectName(QStringLiteral("cmbExchangeMeaning"));
+    box->setAccessibleName(QObject::tr("What the line means"));
+    box->setPlaceholderText(QObject::tr("Choose what it means"));
+    for (const std::string& order : m_model.line(index.row()).Candidates)
+      box->addItem(text::ToQString(order));
+    box->setCurrentIndex(-1);
+    auto* self = const_cast<UnderstoodDelegate*>(this);
+    connect(box, &QComboBox::activated, self, [self, box] {
+      emit self->commitData(box);
+      emit self->closeEditor(box);
+    });
+    QTimer::singleShot(0, box, &QComboBox::showPopup);
+    return box;
+  }
+
+  void setEditorData(QWidget* /*editor*/, const QModelIndex& /*index*/) const override {}
+
+  void setModelData(QWidget* editor, QAbstractItemModel* model,
+                    const QModelIndex& index) const override {
+    const auto* box = qobject_cast<const QComboBox*>(editor);
+    if (box != nullptr && box->currentIndex() >= 0) model->setData(index, box->currentText());
+  }
+
+ private:
+  ExchangeModel& m_model;
+};
+
+}  // namespace
+
+ExchangeTable::ExchangeTable(ExchangeModel& model, QWidget* parent)
+    : QTableView(parent), m_model(model) {
+  setModel(&model);
+  setItemDelegateForColumn(ExchangeModel::Written, new WrittenDelegate(model, this));
+  setItemDelegateForColumn(ExchangeModel::Understood, new UnderstoodDelegate(model, this));
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(SingleSelection);
+  setEditTriggers(DoubleClicked | EditKeyPressed);
+  setTabKeyNavigation(false);
+  setWordWrap(false);
+  setShowGrid(false);
+  setAlternatingRowColors(true);
+  setHorizontalScrollMode(ScrollPerPixel);
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
+  verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  horizontalHeader()->setSectionResizeMode(ExchangeModel::Take, QHeaderView::ResizeToContents);
+  horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setStretchLastSection(true);
+  connect(&model, &QAbstractItemModel::modelReset, this, &ExchangeTable::applyHiding);
+  applyHiding();
+}
+
+void ExchangeTable::showNoOrders(bool shown) {
+  m_noOrdersShown = shown;
+  applyHiding();
+}
+
+void ExchangeTable::applyHiding() {
+  for (int row = 0; row < m_model.rowCount(); ++row)
+    setRowHidden(row, !m_noOrdersShown && m_model.isNoOrder(row));
+}
+
+void ExchangeTable::selectFirst() {
+  int first = -1;
+  for (int row = m_model.rowCount() - 1; row >= 0; --row) {
+    if (isRowHidden(row)) continue;
+    const bool unclear = IsUnclear(m_model.line(row));
+    if (unclear || first < 0 || !IsUnclear(m_model.line(first))) first = row;
+  }
+  if (first >= 0) setCurrentIndex(m_model.index(first, ExchangeModel::Written));
+}
+
+/// An editor that loses the keyboard hands over its text.
+void ExchangeTable::finishEditing() {
+  if (state() == EditingState) setFocus();
+}
+
+void ExchangeTable::editWritten(int row) {
+  const QModelIndex cell = m_model.index(row, ExchangeModel::Written);
+  setCurrentIndex(cell);
+  edit(cell);
+}
+
+void ExchangeTable::toggle(int row) {
+  const QModelIndex box = m_model.index(row, ExchangeModel::Take);
+  if (!box.flags().testFlag(Qt::ItemIsUserCheckable)) return;
+  const bool taken = box.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+  m_model.setData(box, taken ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+}
+
+void ExchangeTable::keyPressEvent(QKeyEvent* event) {
+  const QModelIndex current = currentIndex();
+  if (current.isValid() && event->key() == Qt::Key_Space) return toggle(current.row());
+  if (current.isValid() && event->key() == Qt::Key_F2) {
+    return current.flags().testFlag(Qt::ItemIsEditable) ? edit(current)
+                                                        : editWritten(current.row());
+  }
+  QTableView::keyPressEvent(event);
+}
+
+void ExchangeTable::contextMenuEvent(QContextMenuEvent* event) {
+  const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+  const QModelIndex at = byKey ? currentIndex() : indexAt(event->pos());
+  if (!at.isValid()) return;
+  const int row = at.row();
+  const QRect cell = visualRect(m_model.index(row, ExchangeModel::Understood));
+  QMenu menu(this);
+  for (const std::string& order : m_model.line(row).Candidates) {
+    const QString text = text::ToQString(order);
+    connect(menu.addAction(text), &QAction::triggered, this, [this, row, text] {
+      m_model.setData(m_model.index(row, ExchangeModel::Understood), text, Qt::EditRole);
+    });
+  }
+  if (!menu.isEmpty()) menu.addSeparator();
+  connect(menu.addAction(tr("&Edit the line")), &QAction::triggered, this,
+          [this, row] { editWritten(row); });
+  QAction* take = menu.addAction(tr("&Take the order"));
+  take->setCheckable(true);
+  take->setEnabled(m_model.line(row).Kind == LineKind::Order);
+  const auto box = m_model.index(row, ExchangeModel::Take).data(Qt::CheckStateRole);
+  take->setChecked(box.toInt() == Qt::Checked);
+  connect(take, &QAction::triggered, this, [this, row] { toggle(row); });
+  menu.exec(viewport()->mapToGlobal(byKey ? cell.bottomLeft() : event->pos()));
+}
+
+void ExchangeTable::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  if (event->oldSize().width() == event->size().width()) return;
+  const int rest = viewport()->width() - columnWidth(ExchangeModel::Take);
+  setColumnWidth(ExchangeModel::Written, rest * 2 / 5);
+}
+
+}  // namespace orb::ui

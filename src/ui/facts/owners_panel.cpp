@@ -1,0 +1,71 @@
+#include "ui/facts/owners_panel.h"
+
+#include "colour/qt/colours.h"
+#include "model/counts.h"
+#include "render/ownership.h"
+#include "render/qt/painter_surface.h"
+#include "text/qt/text_codec.h"
+
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace orb::ui {
+namespace {
+
+constexpr double TwipsPerPixel = 15;
+constexpr double TwipsPerPoint = 20;
+
+}  // namespace
+
+OwnersPicture::OwnersPicture(const Desk& desk, QWidget* parent) : QWidget(parent), m_desk(desk) {
+  setObjectName(QStringLiteral("picOwners"));
+  setAccessibleName(tr("Ownership of supply centres"));
+  connect(&m_desk, &Desk::changed, this, &OwnersPicture::showOwners);
+  showOwners();
+}
+
+/// A picture says nothing to a screen reader: its description does.
+void OwnersPicture::showOwners() {
+  QStringList groups;
+  for (const model::CentreGroup& group : model::CentreGroups(m_desk.game())) {
+    QStringList centres;
+    for (const std::string& centre : group.Centres)
+      centres << text::ToQString(centre);
+    groups << QStringLiteral("%1 (%2): %3")
+                  .arg(text::ToQString(group.Heading))
+                  .arg(centres.size())
+                  .arg(centres.join(QLatin1Char(' ')));
+  }
+  setAccessibleDescription(groups.join(QLatin1Char('\n')));
+  update();
+}
+
+void OwnersPicture::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  render::PainterSurface surface(painter, rect(), QSizeF(size()) * TwipsPerPixel, m_noPictures);
+  surface.SetPaper(palette().color(QPalette::Base));
+  surface.SetFontFamily(font().family());
+  surface.FontSize = QFontInfo(font()).pixelSize() * TwipsPerPixel / TwipsPerPoint;
+  surface.ForeColour = colour::ToColour(palette().color(QPalette::Text));
+  const double height = render::ShowCentreOwnership(m_desk.game(), surface) / TwipsPerPixel;
+  // What does not fit is scrolled to; the width alone decides how high the list is.
+  setMinimumHeight(static_cast<int>(std::ceil(height)));
+}
+
+OwnersPanel::OwnersPanel(const Desk& desk, QWidget* parent) : QScrollArea(parent) {
+  setObjectName(QStringLiteral("fraOwners"));
+  setAccessibleName(tr("Supply centres"));
+  setFrameShape(QFrame::NoFrame);
+  setWidgetResizable(true);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  auto* page = new QWidget;
+  page->setBackgroundRole(QPalette::Base);
+  page->setAutoFillBackground(true);
+  auto* margins = new QVBoxLayout(page);
+  margins->addWidget(new OwnersPicture(desk));
+  setWidget(page);
+}
+
+}  // namespace orb::ui

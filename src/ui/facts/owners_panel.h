@@ -1,0 +1,35 @@
+#pragma once
+
+#include "render/qt/picture_cache.h"
+#include "ui/session/desk.h"
+
+#include <QScrollArea>
+
+namespace orb::ui {
+
+/// A picture of the supply centres of every power, as wide as it is given and as high as it needs.
+class OwnersPicture : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit OwnersPicture(const Desk& desk, QWidget* parent = nullptr);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void showOwners();
+
+  const Desk& m_desk;
+  render::PictureCache m_noPictures;
+};
+
+/// The supply-centre ownership panel.
+class OwnersPanel : public QScrollArea {
+  Q_OBJECT
+
+ public:
+  explicit OwnersPanel(const Desk& desk, QWidget* parent = nullptr);
+};
+
+}  // namespace orb::ui

@@ -1,0 +1,121 @@
+#include "ui/facts/report_panel.h"
+
+#include "text/qt/text_codec.h"
+#include "ui/widgets/controls.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QEvent>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace orb::ui {
+namespace {
+
+constexpr int FewestReasonLines = 2;
+constexpr int ReasonLines = 4;
+
+}  // namespace
+
+ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
+    : QWidget(parent), m_desk(desk), m_lines(new QListWidget), m_reason(new QLabel) {
+  setObjectName(QStringLiteral("fraReport"));
+  m_lines->setObjectName(QStringLiteral("lstReport"));
+  m_lines->setAccessibleName(tr("Report"));
+  m_lines->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  m_lines->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  m_lines->setWordWrap(true);
+  m_reason->setObjectName(QStringLiteral("lblReason"));
+  m_reason->setWordWrap(true);
+  m_reason->setTextFormat(Qt::PlainText);
+  m_reason->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  m_reason->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  layOut();
+  addListActions();
+  connect(m_lines, &QListWidget::itemSelectionChanged, this, &ReportPanel::showReason);
+  connect(&m_desk, &Desk::changed, this, &ReportPanel::showReport);
+  showReport();
+}
+
+void ReportPanel::layOut() {
+  // A long reason is scrolled to where the window is low.
+  auto* reason = new QScrollArea;
+  reason->setFrameShape(QFrame::NoFrame);
+  reason->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  reason->setWidgetResizable(true);
+  reason->setFocusPolicy(Qt::NoFocus);
+  reason->setWidget(m_reason);
+  reason->setMinimumHeight(FewestReasonLines * fontMetrics().lineSpacing());
+  reason->setMaximumHeight(ReasonLines * fontMetrics().lineSpacing());
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins({});
+  column->addWidget(m_lines, 1);
+  column->addWidget(reason);
+}
+
+void ReportPanel::addListActions() {
+  auto* copy = new QAction(tr("&Copy"), m_lines);
+  copy->setShortcut(QKeySequence::Copy);
+  auto* selectAll = new QAction(tr("Select &all"), m_lines);
+  selectAll->setShortcut(QKeySequence::SelectAll);
+  for (QAction* action : {copy, selectAll}) {
+    action->setShortcutContext(Qt::WidgetShortcut);
+    m_lines->addAction(action);
+  }
+  m_lines->setContextMenuPolicy(Qt::ActionsContextMenu);
+  connect(copy, &QAction::triggered, this, &ReportPanel::copySelectedLines);
+  connect(selectAll, &QAction::triggered, m_lines, &QListWidget::selectAll);
+}
+
+void ReportPanel::startReading() {
+  m_lines->setFocus();
+  m_lines->setCurrentRow(0);
+}
+
+void ReportPanel::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) colourLines();
+}
+
+void ReportPanel::showReport() {
+  const auto& report = m_desk.game().ReportLines;
+  if (showTexts(*m_lines, {report.begin(), report.end()})) {
+    colourLines();
+    showReason();
+  }
+  setVisible(report.Count() > 0);
+}
+
+void ReportPanel::colourLines() {
+  const std::vector<ReportNote>& notes = m_desk.now().reportNotes;
+  for (int row = 0; row < m_lines->count(); ++row) {
+    const bool failed = notes.at(static_cast<std::size_t>(row)).failed;
+    const QColor background = palette().color(QPalette::Base);
+    m_lines->item(row)->setForeground(failed ? failureColour(background) : QBrush());
+  }
+}
+
+void ReportPanel::showReason() {
+  const QListWidgetItem* current = m_lines->currentItem();
+  const bool chosen = current != nullptr && current->isSelected();
+  m_reason->setForegroundRole(chosen ? QPalette::WindowText : QPalette::PlaceholderText);
+  m_reason->setText(tr("Select a line to read why it came out so."));
+  if (!chosen) return emit unitsPicked({});
+  const ReportNote& note =
+      m_desk.now().reportNotes.at(static_cast<std::size_t>(m_lines->currentRow()));
+  m_reason->setText(text::ToQString(note.reason));
+  emit unitsPicked(note.locations);
+}
+
+void ReportPanel::copySelectedLines() {
+  QString text;
+  for (int row = 0; row < m_lines->count(); ++row) {
+    const QListWidgetItem* item = m_lines->item(row);
+    if (item->isSelected()) text += item->text() + QLatin1Char('\n');
+  }
+  QGuiApplication::clipboard()->setText(text);
+}
+
+}  // namespace orb::ui

@@ -1,0 +1,103 @@
+#include "ui/help/help_menu.h"
+
+#include "model/errors.h"
+#include "text/qt/text_codec.h"
+#include "ui/help/help_window.h"
+#include "ui/widgets/controls.h"
+
+#include <QMessageBox>
+
+namespace orb::ui {
+namespace {
+
+/// The caption of the topic that helps in a stage.
+QString topicOf(const Situation& situation) {
+  if (situation.editing != Editing::None) return QObject::tr("Editing");
+  if (situation.game.Stage == "retreats") return QObject::tr("Retreats");
+  if (situation.game.Stage == "adjustments") return QObject::tr("Adjustments");
+  if (situation.game.Stage == "finished") return QObject::tr("Reading the report");
+  return QObject::tr("Entering orders");
+}
+
+QString shownAsIs(QString text) {
+  return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+/// The caption with its first letter that no entry before has taken as the entry's key.
+QString withKey(const QString& caption, QString& taken) {
+  for (qsizetype i = 0; i < caption.size(); ++i) {
+    const QChar key = caption[i].toLower();
+    if (!key.isLetter() || taken.contains(key)) continue;
+    taken += key;
+    return shownAsIs(caption.left(i)) + QLatin1Char('&') + shownAsIs(caption.mid(i));
+  }
+  return shownAsIs(caption);
+}
+
+}  // namespace
+
+HelpMenu::HelpMenu(const Desk& desk, model::Messages& messages, QWidget* window)
+    : QMenu(tr("&Help"), window), m_desk(desk), m_messages(messages), m_window(window) {
+  setObjectName(QStringLiteral("mnuHelp"));
+  QString takenKeys;
+  addTopics(takenKeys);
+  addSeparator();
+  QAction* about = newEntry(*this, QStringLiteral("mnuHelpAbout"), withKey(tr("About"), takenKeys));
+  connect(about, &QAction::triggered, this, &HelpMenu::about);
+  connect(&m_desk, &Desk::changed, this, &HelpMenu::showStage);
+  showStage();
+}
+
+void HelpMenu::addTopics(QString& takenKeys) {
+  try {
+    m_topics = help::LoadHelpTopics(m_desk.dataDirectory());
+  } catch (const model::FatalError& fault) {
+    // A window without its help is better than none.
+    m_fault = fault.what();
+  }
+  for (const help::HelpTopic& topic : m_topics) {
+    const QString caption = text::ToQString(topic.Caption);
+    QAction* entry = newEntry(*this, QStringLiteral("mnuHelpTopic%1").arg(m_entries.size() + 1),
+                              withKey(caption, takenKeys));
+    connect(entry, &QAction::triggered, this, [this, caption] { showTopic(caption); });
+    m_entries.push_back(entry);
+  }
+}
+
+void HelpMenu::showTopic(const QString& caption) {
+  if (m_topics.empty()) return m_messages.Show(m_fault, model::Icon::Exclamation);
+  if (m_help == nullptr) {
+    m_help = new HelpWindow(m_topics, m_window);
+    m_help->setWindowFlag(Qt::Window);
+  }
+  m_help->showTopic(caption);
+}
+
+void HelpMenu::showTopicOver(const QString& caption, QWidget* dialog) {
+  if (m_topics.empty()) return m_messages.Show(m_fault, model::Icon::Exclamation);
+  // A modal dialog keeps all windows from the user but those over it.
+  auto* help = dialog->findChild<HelpWindow*>();
+  if (help == nullptr) {
+    help = new HelpWindow(m_topics, dialog);
+    help->setWindowFlag(Qt::Window);
+  }
+  help->showTopic(caption);
+}
+
+/// F1 opens the topic of the current stage.
+void HelpMenu::showStage() {
+  const QString wanted = topicOf(m_desk.now());
+  for (std::size_t i = 0; i < m_entries.size(); ++i) {
+    const bool here = text::ToQString(m_topics[i].Caption) == wanted;
+    m_entries[i]->setShortcut(here ? QKeySequence(Qt::Key_F1) : QKeySequence());
+  }
+}
+
+void HelpMenu::about() {
+  QMessageBox::about(
+      m_window, text::ToQString(model::ProgramName),
+      tr("<h3>ORB v5.5</h3><p>Holds a game of seven powers, their armies and fleets, "
+         "draws its map and resolves its orders.</p>"));
+}
+
+}  // namespace orb::ui

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "help/help_topics.h"
+
+#include <QPagedPaintDevice>
+#include <QWidget>
+
+namespace orb::ui {
+
+/// Prints topics of the help, each beginning a page of its own. Links are read in `all`.
+void printHelp(const help::HelpTopics& topics, const help::HelpTopics& all,
+               QPagedPaintDevice& device);
+
+/// The same on the printer, or into the PDF file, that the user chooses in a dialog.
+void askToPrintHelp(const help::HelpTopics& topics, const help::HelpTopics& all, QWidget* parent);
+
+}  // namespace orb::ui

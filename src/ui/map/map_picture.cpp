@@ -1,0 +1,162 @@
+#include "ui/map/map_picture.h"
+
+#include "model/errors.h"
+#include "render/qt/map_file.h"
+#include "render/qt/painter_surface.h"
+#include "ui/map/picture_painting.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <utility>
+
+namespace orb::ui {
+namespace {
+
+constexpr double TwipsPerPixel = 15;
+
+/// Beyond this the picture is enlarged rather than drawn larger: it would only cost memory.
+constexpr int LargestPicture = 4096;
+
+}  // namespace
+
+MapPicture::MapPicture(const Desk& desk, model::Messages& messages, QWidget* parent)
+    : QWidget(parent), m_desk(desk), m_messages(messages) {
+  setObjectName(QStringLiteral("picMap"));
+  setAccessibleName(tr("Map"));
+  setMouseTracking(true);
+  setFocusPolicy(Qt::ClickFocus);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void MapPicture::draw(const Situation& situation) {
+  const QImage image =
+      render::MapImage(situation.game, situation.mapOptions, m_desk.dataDirectory(),
+                       fittingPixelWidth(), m_pictures, shownOrders(situation));
+  m_picture = QPixmap::fromImage(image);
+  const QImage& background =
+      m_pictures.Picture(render::BackgroundFile(m_desk.dataDirectory(), situation.mapOptions.Mode));
+  m_naturalSize = (render::NaturalSize(background) / TwipsPerPixel).toSize();
+  update();
+}
+
+void MapPicture::setMarks(std::vector<std::string> locations) {
+  if (m_marks == locations) return;
+  m_marks = std::move(locations);
+  update();
+}
+
+void MapPicture::setOverlay(MapOverlay overlay) {
+  m_overlay = std::move(overlay);
+  update();
+}
+
+int MapPicture::locationAt(QPointF position) {
+  return spotAt(position, Qt::NoModifier).locationFor("A");
+}
+
+void MapPicture::paintEvent(QPaintEvent* /*event*/) {
+  if (m_picture.width() != fittingPixelWidth()) drawAgain();
+  QPainter painter(this);
+  paintFilling(*this, m_picture, painter);
+  render::PainterSurface surface(painter, QRectF(rect()), QSizeF(m_naturalSize) * TwipsPerPixel,
+                                 m_pictures);
+  paintMarks(surface);
+  if (m_overlay) m_overlay(painter, surface);
+}
+
+void MapPicture::drawAgain() {
+  try {
+    draw(m_desk.now());
+  } catch (const model::FatalError&) {
+    // A bitmap that vanished meanwhile is reported by the next command; till then the old picture
+    // stays.
+  }
+}
+
+void MapPicture::paintMarks(render::Surface& surface) const {
+  for (const std::string& location : m_marks) {
+    const int row = model::FindProvince(*m_desk.game().Map, location);
+    if (row == 0) continue;
+    const model::Province& province = m_desk.game().Map->Provinces[row];
+    // The first is the order's own unit.
+    drawRing(surface, {province.UnitX, province.UnitY},
+             location == m_marks.front() ? BoldRing : ThinRing);
+  }
+}
+
+int MapPicture::fittingPixelWidth() const {
+  const double pixels = width() * devicePixelRatioF();
+  return std::clamp(static_cast<int>(pixels), 1, LargestPicture);
+}
+
+const render::HitMap& MapPicture::hitMap() {
+  if (!m_hitMap) {
+    const double aspect = static_cast<double>(m_naturalSize.width()) / m_naturalSize.height();
+    m_hitMap.emplace(aspect);
+    try {
+      m_hitMap = render::LoadHitMap(m_desk.dataDirectory(), *m_desk.game().Map, aspect);
+    } catch (const model::FatalError& fault) {
+      m_messages.Show(fault.what(), model::Icon::Stop);
+    }
+  }
+  return *m_hitMap;
+}
+
+MapSpot MapPicture::spotAt(QPointF position, Qt::KeyboardModifiers modifiers) {
+  const render::Point point{position.x() / width(), position.y() / height()};
+  return {m_desk.game(), hitMap(), point, modifiers};
+}
+
+void MapPicture::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return event->ignore();
+  m_pressed = event->position();
+  m_dragging = false;
+}
+
+void MapPicture::mouseMoveEvent(QMouseEvent* event) {
+  // The view scrolls with the middle button.
+  event->setAccepted((event->buttons() & Qt::MiddleButton) == 0);
+  hover(locationAt(event->position()));
+  if (m_tool == nullptr || !m_pressed) return;
+  const bool far =
+      (event->position() - *m_pressed).manhattanLength() >= QApplication::startDragDistance();
+  if (!m_dragging && far) {
+    m_dragging = m_tool->mapDragStarted(spotAt(*m_pressed, event->modifiers()));
+    if (!m_dragging) m_pressed.reset();
+  }
+  if (m_dragging) m_tool->mapDragMoved(spotAt(event->position(), event->modifiers()));
+}
+
+void MapPicture::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return event->ignore();
+  const bool pressed = m_pressed.has_value();
+  m_pressed.reset();
+  if (m_tool == nullptr || !pressed) return;
+  const MapSpot spot = spotAt(event->position(), event->modifiers());
+  if (std::exchange(m_dragging, false)) {
+    m_tool->mapDropped(spot);
+  } else {
+    m_tool->mapClicked(spot);
+  }
+}
+
+void MapPicture::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton || m_tool == nullptr) return event->ignore();
+  if (!m_tool->mapDoubleClicked(spotAt(event->position(), event->modifiers()))) {
+    mousePressEvent(event);
+  }
+}
+
+void MapPicture::leaveEvent(QEvent* event) {
+  QWidget::leaveEvent(event);
+  hover(0);
+}
+
+void MapPicture::hover(int location) {
+  if (std::exchange(m_hovered, location) != location) emit hovered(location);
+}
+
+}  // namespace orb::ui

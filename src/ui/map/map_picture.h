@@ -1,0 +1,79 @@
+#pragma once
+
+#include "render/qt/picture_cache.h"
+#include "ui/map/map_overlay.h"
+#include "ui/map/map_tool.h"
+#include "ui/session/desk.h"
+
+#include <QPixmap>
+#include <QWidget>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orb::ui {
+
+/// The map, drawn at the screen's own resolution for whatever size it has.
+class MapPicture : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// The desk and the messages must outlive the map.
+  MapPicture(const Desk& desk, model::Messages& messages, QWidget* parent = nullptr);
+
+  /// Draws a situation whole. Throws FatalError, the picture shown so far kept.
+  void draw(const Situation& situation);
+
+  /// The size at which the map is meant to be seen, in pixels at 96 dpi.
+  QSize naturalSize() const { return m_naturalSize; }
+
+  /// The width of a picture that is drawn for the map's size now.
+  int fittingPixelWidth() const;
+
+  /// What the left mouse button means from now on; the tool must outlive the map or be replaced.
+  void setTool(MapTool* tool) { m_tool = tool; }
+
+  /// Rings the units at these locations till the next call.
+  void setMarks(std::vector<std::string> locations);
+
+  /// Paints over the map from now on, on a surface that lies over all of it; empty: no longer.
+  void setOverlay(MapOverlay overlay);
+
+  /// The row of the location under a point of the widget, as an army sees it; 0: none.
+  int locationAt(QPointF position);
+
+ signals:
+  /// The mouse has come over the location with this row; 0: over none.
+  void hovered(int location);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+
+ private:
+  void drawAgain();
+  void paintMarks(render::Surface& surface) const;
+  const render::HitMap& hitMap();
+  void hover(int location);
+  MapSpot spotAt(QPointF position, Qt::KeyboardModifiers modifiers);
+
+  const Desk& m_desk;
+  model::Messages& m_messages;
+  render::PictureCache m_pictures;
+  std::optional<render::HitMap> m_hitMap;
+  QPixmap m_picture;
+  QSize m_naturalSize;
+  MapTool* m_tool = nullptr;
+  MapOverlay m_overlay;
+  int m_hovered = 0;
+  std::optional<QPointF> m_pressed;
+  bool m_dragging = false;
+  std::vector<std::string> m_marks;
+};
+
+}  // namespace orb::ui

@@ -1,0 +1,126 @@
+#include "ui/map/map_view.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+
+namespace orb::ui {
+namespace {
+
+constexpr double LeastZoom = 0.25;
+constexpr double GreatestZoom = 4.0;
+constexpr double ZoomStep = 1.25;
+
+}  // namespace
+
+MapView::MapView(MapPicture* map, QWidget* parent) : QScrollArea(parent), m_map(map) {
+  setObjectName(QStringLiteral("scrMap"));
+  setFrameShape(QFrame::NoFrame);
+  setAlignment(Qt::AlignCenter);
+  setFocusPolicy(Qt::NoFocus);
+  setWidget(map);
+  map->installEventFilter(this);
+}
+
+void MapView::setZoom(std::optional<double> zoom) {
+  m_zoom = zoom;
+  if (m_zoom) m_zoom = std::clamp(*m_zoom, LeastZoom, GreatestZoom);
+  resizeMap();
+  emit zoomChanged();
+}
+
+void MapView::zoomIn() {
+  zoomTo(shownZoom() * ZoomStep, QPointF(viewport()->rect().center()));
+}
+
+void MapView::zoomOut() {
+  zoomTo(shownZoom() / ZoomStep, QPointF(viewport()->rect().center()));
+}
+
+int MapView::fittingWidth(int height) const {
+  const QSize natural = m_map->naturalSize();
+  if (!m_zoom) return natural.scaled(QWIDGETSIZE_MAX, height, Qt::KeepAspectRatio).width();
+  const QSize zoomed = natural * *m_zoom;
+  const int scrollBar = zoomed.height() > height ? verticalScrollBar()->sizeHint().width() : 0;
+  return zoomed.width() + scrollBar;
+}
+
+double MapView::shownZoom() const {
+  return static_cast<double>(m_map->width()) / m_map->naturalSize().width();
+}
+
+/// The point of the map under the anchor, a point of the viewport, stays where it is.
+void MapView::zoomTo(double zoom, QPointF anchor) {
+  const QPointF onMap = anchor - QPointF(m_map->pos());
+  const QPointF fraction(onMap.x() / m_map->width(), onMap.y() / m_map->height());
+  setZoom(zoom);
+  horizontalScrollBar()->setValue(qRound(fraction.x() * m_map->width() - anchor.x()));
+  verticalScrollBar()->setValue(qRound(fraction.y() * m_map->height() - anchor.y()));
+}
+
+void MapView::resizeMap() {
+  const QSize natural = m_map->naturalSize();
+  if (natural.isEmpty()) return;
+  const QSize wanted =
+      m_zoom ? natural * *m_zoom : natural.scaled(maximumViewportSize(), Qt::KeepAspectRatio);
+  m_map->resize(wanted.expandedTo(QSize(1, 1)));
+}
+
+void MapView::resizeEvent(QResizeEvent* event) {
+  QScrollArea::resizeEvent(event);
+  if (!m_zoom) resizeMap();
+}
+
+void MapView::wheelEvent(QWheelEvent* event) {
+  if ((event->modifiers() & Qt::ControlModifier) == 0) return QScrollArea::wheelEvent(event);
+  const double notches =
+      event->angleDelta().y() / static_cast<double>(QWheelEvent::DefaultDeltasPerStep);
+  zoomTo(shownZoom() * std::pow(ZoomStep, notches), event->position());
+  event->accept();
+}
+
+void MapView::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Plus:
+      return zoomIn();
+    case Qt::Key_Minus:
+      return zoomOut();
+    default:
+      return QScrollArea::keyPressEvent(event);
+  }
+}
+
+bool MapView::eventFilter(QObject* watched, QEvent* event) {
+  return scrollByDragging(*event) || QScrollArea::eventFilter(watched, event);
+}
+
+bool MapView::scrollByDragging(QEvent& event) {
+  if (event.type() != QEvent::MouseButtonPress && event.type() != QEvent::MouseMove &&
+      event.type() != QEvent::MouseButtonRelease) {
+    return false;
+  }
+  auto& mouse = static_cast<QMouseEvent&>(event);
+  const QPoint position = mouse.globalPosition().toPoint();
+  if (event.type() == QEvent::MouseButtonPress && mouse.button() == Qt::MiddleButton) {
+    m_grip = position;
+    m_map->setCursor(Qt::ClosedHandCursor);
+    return true;
+  }
+  if (!m_grip) return false;
+  if (event.type() == QEvent::MouseMove) {
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + m_grip->x() - position.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + m_grip->y() - position.y());
+    m_grip = position;
+    return true;
+  }
+  if (mouse.button() != Qt::MiddleButton) return false;
+  m_grip.reset();
+  m_map->unsetCursor();
+  return true;
+}
+
+}  // namespace orb::ui

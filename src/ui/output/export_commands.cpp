@@ -1,0 +1,195 @@
+#include "ui/output/export_commands.h"
+
+#include "model/errors.h"
+#include "model/files.h"
+#include "render/qt/map_file.h"
+#include "report/text_report.h"
+#include "text/qt/text_codec.h"
+#include "text/strings.h"
+#include "ui/output/file_dialogs.h"
+#include "ui/output/file_proposals.h"
+#include "ui/output/print_dialog.h"
+#include "ui/output/print_pages.h"
+#include "ui/widgets/message_boxes.h"
+
+#include <QBuffer>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QDir>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QPdfWriter>
+#include <QPrinterInfo>
+#include <QStandardPaths>
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace orb::ui {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr double MarginMillimetres = 15;
+
+std::string_view bytesOf(const QByteArray& bytes) {
+  return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+QByteArray encoded(const QImage& picture, const char* format) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  if (!buffer.open(QIODevice::WriteOnly) || !picture.save(&buffer, format)) {
+    throw model::FileError(std::string("The map cannot be written as ") + format + ".");
+  }
+  return bytes;
+}
+
+/// Writes the report to the scratch file in the working folder; where nothing can be written there,
+/// in a folder of the user's own.
+fs::path writeScratchFile(const model::GameState& game) {
+  const char* name = "orb_text.tmp";
+  std::error_code error;
+  fs::path workingFile = fs::current_path(error) / name;
+  try {
+    report::WriteTextReport(game, workingFile);
+    return workingFile;
+  } catch (const model::FileError&) {
+    const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+    if (cache.isEmpty() || !QDir().mkpath(cache)) throw;
+    fs::path file = fs::path(QFile::encodeName(cache).toStdString()) / name;
+    report::WriteTextReport(game, file);
+    return file;
+  }
+}
+
+/// A file's path for the print dialog: beside the game, else in the user's home.
+QString proposedPdf(const model::GameState& game) {
+  const QDir folder(game.FileName.empty()
+                        ? QDir::homePath()
+                        : displayPath(fs::path(game.FileName).parent_path().string()));
+  return folder.absoluteFilePath(text::ToQString(proposedExportFile(game, ".pdf")));
+}
+
+/// "CONCORDAT, Spring 1901".
+QString printedTitle(const model::GameState& game) {
+  const std::string season = game.Season + " " + std::to_string(game.Year);
+  return text::ToQString(game.Title.empty() ? season : game.Title + ", " + season);
+}
+
+/// A PDF file is replaced whole or not at all.
+void printToFile(const QPrinter& printer, const PrintedGame& game) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  {
+    QPdfWriter writer(&buffer);
+    writer.setTitle(game.footer);
+    writer.setCreator(text::ToQString(model::ProgramName));
+    writer.setPageLayout(printer.pageLayout());
+    printGame(writer, game);
+  }
+  model::ReplaceFile(QFile::encodeName(printer.outputFileName()).toStdString(), bytesOf(bytes));
+}
+
+}  // namespace
+
+ExportCommands::ExportCommands(const Desk& desk, model::Messages& messages, QWidget* window)
+    : QObject(window),
+      m_desk(desk),
+      m_messages(messages),
+      m_window(window),
+      m_open(QDesktopServices::openUrl) {}
+
+void ExportCommands::attempt(const std::function<void()>& command) {
+  ui::attempt(m_messages, command);
+}
+
+/// The map as it is shown, at the background picture's own resolution.
+QImage ExportCommands::mapPicture() {
+  const Situation& now = m_desk.now();
+  return render::MapImage(now.game, now.mapOptions, m_desk.dataDirectory(), 0, m_pictures,
+                          shownOrders(now));
+}
+
+void ExportCommands::copyMap() {
+  attempt([this] {
+    const QImage picture = mapPicture();
+    auto content = std::make_unique<QMimeData>();
+    content->setImageData(picture);
+    content->setData(QStringLiteral("image/png"), encoded(picture, "PNG"));
+    QGuiApplication::clipboard()->setMimeData(content.release());
+    emit noted(tr("The map is on the clipboard."));
+  });
+}
+
+void ExportCommands::copyText() {
+  attempt([this] {
+    const std::string written = model::ReadFile(writeScratchFile(m_desk.game()));
+    std::string_view rest = written;
+    QString text;
+    while (!rest.empty())
+      text += text::ToQString(text::NextLine(rest)) + QLatin1String("\r\n");
+    QGuiApplication::clipboard()->setText(text);
+    emit noted(tr("The text is on the clipboard."));
+  });
+}
+
+void ExportCommands::exportBitmap() {
+  const auto file = askWhereToExport(m_window, ExportKind::Bitmap, m_desk.game(), m_messages);
+  if (!file) return;
+  attempt([&] {
+    model::ReplaceFile(*file, bytesOf(encoded(mapPicture(), "BMP")));
+    emit noted(tr("The map is in %1.").arg(displayPath(file->string())));
+  });
+}
+
+void ExportCommands::exportText() {
+  const auto file = askWhereToExport(m_window, ExportKind::Text, m_desk.game(), m_messages);
+  if (!file) return;
+  attempt([&] {
+    report::WriteTextReport(m_desk.game(), *file);
+    const QString shown = displayPath(file->string());
+    const bool opened = m_open(QUrl::fromLocalFile(shown));
+    emit noted(opened ? tr("The text is in %1.").arg(shown)
+                      : tr("The text is in %1; no program to open it was found.").arg(shown));
+  });
+}
+
+void ExportCommands::print() {
+  QPrinter printer(QPrinter::HighResolution);
+  const QMarginsF margins(MarginMillimetres, MarginMillimetres, MarginMillimetres,
+                          MarginMillimetres);
+  printer.setPageMargins(margins, QPageLayout::Millimeter);
+  if (m_pageLayout) printer.setPageLayout(*m_pageLayout);
+  if (!askHowToPrint(m_window, proposedPdf(m_desk.game()), printer)) return;
+  m_pageLayout = printer.pageLayout();
+  const PrintChoice choice = choiceOf(printer);
+  printer.setCopyCount(1);
+  attempt([&] {
+    printCopies(choice, QPrinterInfo::defaultPrinterName(), m_messages,
+                [&] { printOnce(printer); });
+  });
+}
+
+void ExportCommands::printOnce(QPrinter& printer) {
+  const Situation& now = m_desk.now();
+  const fs::path background = render::BackgroundFile(m_desk.dataDirectory(), now.mapOptions.Mode);
+  const PrintedGame game{printedTitle(now.game), text::ToQString(report::TextReport(now.game)),
+                         m_pictures.Picture(background).size(),
+                         [&](QPainter& painter, const QRectF& target) {
+                           render::PaintMap(now.game, now.mapOptions, m_desk.dataDirectory(),
+                                            m_pictures, painter, target, shownOrders(now));
+                         }};
+  if (printer.outputFormat() == QPrinter::PdfFormat) {
+    printToFile(printer, game);
+    emit noted(tr("The map and the report are in %1.").arg(printer.outputFileName()));
+  } else {
+    printer.setDocName(game.footer);
+    printGame(printer, game);
+  }
+}
+
+}  // namespace orb::ui

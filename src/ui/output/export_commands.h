@@ -1,0 +1,53 @@
+#pragma once
+
+#include "render/qt/picture_cache.h"
+#include "ui/session/desk.h"
+
+#include <QImage>
+#include <QObject>
+#include <QPageLayout>
+#include <QPrinter>
+#include <QUrl>
+
+#include <functional>
+#include <optional>
+
+namespace orb::ui {
+
+/// The commands that hand the map and the text report to the world outside: clipboard, files and
+/// paper. What goes wrong is told in a message box, and the files and the clipboard stay as they
+/// were.
+class ExportCommands : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Dialogs come up over the window.
+  ExportCommands(const Desk& desk, model::Messages& messages, QWidget* window);
+
+  /// What opens a written text, the system's text editor unless set; false when it cannot.
+  void setOpener(std::function<bool(const QUrl&)> open) { m_open = std::move(open); }
+
+  void copyMap();
+  void copyText();
+  void exportBitmap();
+  void exportText();
+  void print();
+
+ signals:
+  /// Something for the status bar: what was done.
+  void noted(const QString& text);
+
+ private:
+  void attempt(const std::function<void()>& command);
+  QImage mapPicture();
+  void printOnce(QPrinter& printer);
+
+  const Desk& m_desk;
+  model::Messages& m_messages;
+  QWidget* m_window;
+  std::function<bool(const QUrl&)> m_open;
+  render::PictureCache m_pictures;
+  std::optional<QPageLayout> m_pageLayout;  ///< as it was chosen last
+};
+
+}  // namespace orb::ui

@@ -1,0 +1,167 @@
+#include "ui/output/file_dialogs.h"
+
+#include "model/files.h"
+#include "orders/exchange/order_files.h"
+#include "text/qt/text_codec.h"
+#include "ui/output/file_proposals.h"
+
+#include <QCheckBox>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGridLayout>
+
+#include <algorithm>
+#include <functional>
+#include <iterator>
+#include <string_view>
+
+namespace orb::ui {
+namespace {
+
+/// Qt's own dialog: those of the desktops take neither the texts of the filters as they stand nor
+/// a further box.
+void setUp(QFileDialog& dialog, const QString& title, const QStringList& filters,
+           const model::GameState& game) {
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
+  dialog.setWindowTitle(text::ToQString(model::ProgramName) + title);
+  dialog.setNameFilters(filters);
+  if (!game.FileName.empty()) {
+    // A name given on the command line may have no directory.
+    dialog.setDirectory(QFileInfo(displayPath(game.FileName)).absolutePath());
+  }
+}
+
+QString allFiles() {
+  return QObject::tr("All files: *.* (*)");
+}
+
+QString textFiles() {
+  return QObject::tr("Text files: *.txt (*.txt)");
+}
+
+void setUpForGames(QFileDialog& dialog, const QString& title, const model::GameState& game) {
+  const QStringList filters{QObject::tr("Concordat files: *.orb (*.orb)"),
+                            QObject::tr("Data files: *.dat (*.dat)"), allFiles()};
+  setUp(dialog, title, filters, game);
+  dialog.selectNameFilter(filters[static_cast<qsizetype>(gameFilterFor(game.FileName))]);
+}
+
+std::filesystem::path pathOf(const QString& file) {
+  return QFile::encodeName(file).toStdString();
+}
+
+std::filesystem::path chosenFile(const QFileDialog& dialog) {
+  return pathOf(dialog.selectedFiles().constFirst());
+}
+
+/// Whether the file may be written as far as the user is concerned.
+bool mayWrite(const std::filesystem::path& file, model::Messages& messages) {
+  std::error_code ignored;
+  if (!std::filesystem::is_directory(file.parent_path(), ignored)) {
+    messages.Show("There is no folder " + file.parent_path().string() + ".",
+                  model::Icon::Exclamation);
+    return false;
+  }
+  return !std::filesystem::exists(file, ignored) ||
+         messages.Warn(file.string() + " already exists.\rReplace it?");
+}
+
+/// Asks until a file may be written or the dialog is cancelled. `written` turns the name as it was
+/// typed into the one that is written.
+std::optional<std::filesystem::path> askForNewFile(
+    QFileDialog& dialog, const std::string& proposal, model::Messages& messages,
+    const std::function<std::filesystem::path(const std::filesystem::path&)>& written) {
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  // The dialog would ask about the name as typed, which is not always the one written.
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  dialog.selectFile(text::ToQString(proposal));
+  while (dialog.exec() == QDialog::Accepted) {
+    std::filesystem::path file = written(chosenFile(dialog));
+    if (mayWrite(file, messages)) return file;
+  }
+  return std::nullopt;
+}
+
+/// What the dialog of an export says and proposes.
+struct ExportTexts {
+  QString title;
+  QString filter;
+  std::string proposal;
+};
+
+ExportTexts textsOf(ExportKind kind, const model::GameState& game) {
+  switch (kind) {
+    case ExportKind::Bitmap:
+      return {QObject::tr(" Export Bitmap"), QObject::tr("Bitmap files: *.bmp (*.bmp)"),
+              proposedExportFile(game, ".bmp")};
+    case ExportKind::Animation:
+      return {QObject::tr(" Export Animation"), QObject::tr("GIF pictures: *.gif (*.gif)"),
+              proposedExportFile(game, ".gif")};
+    case ExportKind::Orders:
+      return {QObject::tr(" Export Orders"), textFiles(), exchange::ProposedOrdersFile(game)};
+    default:
+      return {QObject::tr(" Export Text"), textFiles(), proposedExportFile(game, ".txt")};
+  }
+}
+
+}  // namespace
+
+std::optional<OpenChoice> askGameToOpen(QWidget* parent, const model::GameState& game) {
+  QFileDialog dialog(parent);
+  setUpForGames(dialog, QObject::tr(" Open"), game);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  auto* readOnly = new QCheckBox(QObject::tr("Open as &read-only"), &dialog);
+  readOnly->setObjectName(QStringLiteral("chkReadOnly"));
+  if (auto* grid = qobject_cast<QGridLayout*>(dialog.layout())) {
+    grid->addWidget(readOnly, grid->rowCount(), 1);
+  }
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return OpenChoice{chosenFile(dialog), readOnly->isChecked()};
+}
+
+std::optional<std::filesystem::path> askOrdersToImport(QWidget* parent,
+                                                       const model::GameState& game) {
+  QFileDialog dialog(parent);
+  setUp(dialog, QObject::tr(" Import Orders"), {textFiles(), allFiles()}, game);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return chosenFile(dialog);
+}
+
+std::vector<std::filesystem::path> askGamesToAnimate(QWidget* parent,
+                                                     const model::GameState& game) {
+  QFileDialog dialog(parent);
+  setUpForGames(dialog, QObject::tr(" Animate"), game);
+  dialog.setFileMode(QFileDialog::ExistingFiles);
+  std::vector<std::filesystem::path> files;
+  if (dialog.exec() != QDialog::Accepted) return files;
+  const QStringList chosen = dialog.selectedFiles();
+  std::transform(chosen.begin(), chosen.end(), std::back_inserter(files), pathOf);
+  return files;
+}
+
+std::optional<std::filesystem::path> askWhereToSave(QWidget* parent, const model::GameState& game,
+                                                    model::Messages& messages) {
+  QFileDialog dialog(parent);
+  setUpForGames(dialog, QObject::tr(" Save As"), game);
+  return askForNewFile(dialog, proposedGameFile(game), messages, model::LowerCaseName);
+}
+
+std::optional<std::filesystem::path> askWhereToExport(QWidget* parent, ExportKind kind,
+                                                      const model::GameState& game,
+                                                      model::Messages& messages) {
+  const ExportTexts texts = textsOf(kind, game);
+  QFileDialog dialog(parent);
+  setUp(dialog, texts.title, {texts.filter, allFiles()}, game);
+  return askForNewFile(dialog, texts.proposal, messages,
+                       [](const std::filesystem::path& typed) { return typed; });
+}
+
+QString displayPath(const std::string& file) {
+  return QFile::decodeName(QByteArray::fromStdString(file));
+}
+
+}  // namespace orb::ui

@@ -1,0 +1,64 @@
+#include "ui/replay/animation_export.h"
+
+#include "model/errors.h"
+#include "render/qt/animated_picture.h"
+#include "settings/map_options.h"
+#include "text/qt/text_codec.h"
+#include "ui/output/file_dialogs.h"
+
+#include <QProgressDialog>
+
+#include <algorithm>
+#include <iterator>
+
+namespace orb::ui {
+namespace {
+
+std::vector<history::Replay> replaysOf(const std::vector<history::ReplayPart>& parts) {
+  std::vector<history::Replay> replays;
+  std::transform(parts.begin(), parts.end(), std::back_inserter(replays),
+                 [](const history::ReplayPart& part) { return part.Replay; });
+  return replays;
+}
+
+void setUp(QProgressDialog& dialog) {
+  dialog.setObjectName(QStringLiteral("frmAnimateExport"));
+  dialog.setWindowTitle(text::ToQString(model::ProgramName));
+  dialog.setLabelText(QObject::tr("The animation is drawn..."));
+  dialog.setWindowModality(Qt::WindowModal);
+  dialog.setMinimumDuration(0);
+  // Only the caller knows when it is over: after the last frame the file is still to be written.
+  dialog.setAutoReset(false);
+  dialog.setAutoClose(false);
+  dialog.setValue(0);
+}
+
+}  // namespace
+
+std::optional<std::filesystem::path> exportAnimation(const std::vector<history::ReplayPart>& parts,
+                                                     const settings::MapOptions& options,
+                                                     const std::filesystem::path& dataDirectory,
+                                                     model::Messages& messages, QWidget* window) {
+  const auto file =
+      askWhereToExport(window, ExportKind::Animation, parts.back().Replay.End, messages);
+  if (!file) return std::nullopt;
+  QProgressDialog dialog(window);
+  setUp(dialog);
+  const auto goesOn = [&dialog](int done, int all) {
+    dialog.setMaximum(all);
+    dialog.setValue(done);
+    return !dialog.wasCanceled();
+  };
+  try {
+    render::PictureCache pictures;
+    const bool saved = render::SaveAnimation(replaysOf(parts), options, dataDirectory,
+                                             render::AnimationWidth, pictures, *file, goesOn);
+    return saved ? file : std::nullopt;
+  } catch (const model::FatalError& fault) {
+    dialog.reset();
+    messages.Show(fault.what(), model::Icon::Stop);
+    return std::nullopt;
+  }
+}
+
+}  // namespace orb::ui

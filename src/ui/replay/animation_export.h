@@ -1,0 +1,24 @@
+#pragma once
+
+#include "history/replay_sequence.h"
+#include "model/messages.h"
+#include "render/map_view.h"
+#include "settings/map_options.h"
+
+#include <QWidget>
+
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+namespace orb::ui {
+
+/// Asks where to and saves an animation, which may be cancelled while it is drawn. Returns the file
+/// written; nothing after a cancellation or an error, which is told in a message box and leaves
+/// no file behind.
+std::optional<std::filesystem::path> exportAnimation(const std::vector<history::ReplayPart>& parts,
+                                                     const settings::MapOptions& options,
+                                                     const std::filesystem::path& dataDirectory,
+                                                     model::Messages& messages, QWidget* window);
+
+}  // namespace orb::ui

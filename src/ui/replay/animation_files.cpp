@@ -1,0 +1,65 @@
+#include "ui/replay/animation_files.h"
+
+#include "history/replay.h"
+#include "history/sequence_names.h"
+#include "history/unit_matching.h"
+#include "model/errors.h"
+#include "model/files.h"
+#include "model/game_file.h"
+
+#include <utility>
+
+namespace orb::ui {
+namespace {
+
+namespace fs = std::filesystem;
+using model::GameState;
+
+/// Throws FatalError for a file that cannot be played, too.
+GameState readGame(const fs::path& file, const GameState& current) {
+  GameState game = model::EmptyGame(current.Map);
+  game.Countries = current.Countries;
+  const std::string name = file.string();
+  if (const auto unknown = model::ParseGameFile(model::ReadFile(file), name, game)) {
+    throw model::FileError(name + ": Unknown province: " + *unknown);
+  }
+  game.FileName = name;
+  static_cast<void>(history::SeasonReplay(game));
+  return game;
+}
+
+void checkOrder(const std::vector<GameState>& games, const GameState& next) {
+  if (games.empty() || history::SeasonsBetween(games.back(), next) >= 0) return;
+  throw model::FileError(next.FileName + ": It holds " + next.Season + " " +
+                         std::to_string(next.Year) + ", which is before " +
+                         fs::path(games.back().FileName).filename().string() + ".");
+}
+
+std::string namesOf(const std::vector<fs::path>& files) {
+  std::string names;
+  for (const fs::path& file : files)
+    names += (names.empty() ? "" : ", ") + file.filename().string();
+  return names;
+}
+
+}  // namespace
+
+AnimationFiles readAnimationFiles(const std::vector<fs::path>& files, const GameState& current) {
+  const history::FileSequence sequence = history::SortBySeason(files);
+  AnimationFiles result;
+  if (!sequence.Unfit.empty()) {
+    result.leftOut = "No season (S01, A01) in the name of: " + namesOf(sequence.Unfit) + ".\r";
+  }
+  for (const fs::path& file : sequence.Files) {
+    try {
+      GameState game = readGame(file, current);
+      checkOrder(result.games, game);
+      result.games.push_back(std::move(game));
+    } catch (const model::FatalError& fault) {
+      result.leftOut += std::string(fault.what()) + "\r";
+    }
+  }
+  return result;
+}
+
+}  // namespace orb::ui

@@ -1,0 +1,95 @@
+#include "ui/widgets/free_text_box.h"
+
+#include "model/game_state.h"
+#include "text/qt/text_codec.h"
+#include "ui/widgets/text_validator.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QTextBlock>
+
+namespace orb::ui {
+namespace {
+
+bool endsLine(const QKeyEvent& event) {
+  return event.matches(QKeySequence::InsertParagraphSeparator) ||
+         event.matches(QKeySequence::InsertLineSeparator);
+}
+
+bool typesText(const QKeyEvent& event) {
+  return !event.text().isEmpty() && event.text().at(0) >= QLatin1Char(' ') &&
+         event.text().at(0) != QChar(0x7F);
+}
+
+}  // namespace
+
+FreeTextBox::FreeTextBox(QWidget* parent) : QPlainTextEdit(parent) {
+  setTabChangesFocus(true);
+}
+
+void FreeTextBox::setLines(const std::vector<std::string>& lines) {
+  m_setLines = lines;
+  QStringList texts;
+  for (const std::string& line : lines)
+    texts << text::ToQString(line);
+  setPlainText(texts.join(QLatin1Char('\n')));
+  document()->setModified(false);
+}
+
+std::vector<std::string> FreeTextBox::lines() const {
+  if (!document()->isModified()) return m_setLines;
+  std::vector<std::string> lines;
+  if (document()->isEmpty()) return lines;
+  // Not the plain text of the whole, in which a fixed blank has become a blank.
+  for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+    lines.push_back(text::ToBytes(storablePart(block.text())).value());
+  return lines;
+}
+
+int FreeTextBox::lineCount() const {
+  return document()->isEmpty() ? 0 : blockCount();
+}
+
+void FreeTextBox::keyPressEvent(QKeyEvent* event) {
+  if (endsLine(*event)) return insert(QStringLiteral("\n"));
+  const QString fault = typesText(*event) ? storageFault(event->text()) : QString();
+  if (fault.isEmpty()) return QPlainTextEdit::keyPressEvent(event);
+  emit refused(fault);
+}
+
+void FreeTextBox::insertFromMimeData(const QMimeData* source) {
+  insert(source->text());
+}
+
+void FreeTextBox::inputMethodEvent(QInputMethodEvent* event) {
+  const QString committed = event->commitString();
+  event->setCommitString({}, event->replacementStart(), event->replacementLength());
+  QPlainTextEdit::inputMethodEvent(event);
+  if (!committed.isEmpty()) insert(committed);
+}
+
+void FreeTextBox::insert(QString text) {
+  text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  for (const QChar lineEnd :
+       {QChar(QLatin1Char('\r')), QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator)})
+    text.replace(lineEnd, QLatin1Char('\n'));
+  const QString part = storablePart(text);
+  QTextCursor cursor = textCursor();
+  const qsizetype count = blockCount() + part.count(QLatin1Char('\n')) -
+                          cursor.selectedText().count(QChar(QChar::ParagraphSeparator));
+  if (count > model::TextLineBound) {
+    emit refused(tr("A game keeps at most %1 lines of text.").arg(model::TextLineBound));
+    return;
+  }
+  cursor.insertText(part);
+  setTextCursor(cursor);
+  ensureCursorVisible();
+  const qsizetype leftOut = text.size() - part.size();
+  if (leftOut == 0) return;
+  const QString told = leftOut == 1 ? tr("1 character was left out.")
+                                    : tr("%1 characters were left out.").arg(leftOut);
+  emit refused(told + QLatin1Char(' ') + storageFault(text));
+}
+
+}  // namespace orb::ui

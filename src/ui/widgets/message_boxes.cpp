@@ -1,0 +1,87 @@
+#include "ui/widgets/message_boxes.h"
+
+#include "model/errors.h"
+#include "text/qt/text_codec.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStringDecoder>
+
+namespace orb::ui {
+namespace {
+
+QMessageBox::Icon boxIcon(model::Icon icon) {
+  switch (icon) {
+    case model::Icon::Exclamation:
+      return QMessageBox::Warning;
+    case model::Icon::Information:
+      return QMessageBox::Information;
+    case model::Icon::Stop:
+      return QMessageBox::Critical;
+    default:
+      return QMessageBox::NoIcon;
+  }
+}
+
+void setUp(QMessageBox& box, const std::string& text, QMessageBox::Icon icon,
+           QMessageBox::StandardButtons buttons) {
+  box.setWindowTitle(text::ToQString(model::ProgramName));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(displayText(text));
+  box.setIcon(icon);
+  box.setStandardButtons(buttons);
+  // Not every button has an icon of its own; either all or none.
+  for (QAbstractButton* button : box.buttons())
+    button->setIcon({});
+}
+
+}  // namespace
+
+QString displayText(const std::string& text) {
+  QStringDecoder utf8(QStringDecoder::Utf8);
+  QString shown = utf8(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
+  if (utf8.hasError()) shown = text::ToQString(text);
+  return shown.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+}
+
+void attempt(model::Messages& messages, const std::function<void()>& command) {
+  try {
+    command();
+  } catch (const model::FatalError& fault) {
+    messages.Show(fault.what(), model::Icon::Stop);
+  }
+}
+
+bool MessageBoxes::Warn(const std::string& text) {
+  QMessageBox box(m_parent);
+  setUp(box, text, QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No);
+  box.setDefaultButton(QMessageBox::Yes);
+  box.setEscapeButton(QMessageBox::No);
+  return box.exec() == QMessageBox::Yes;
+}
+
+model::Answer MessageBoxes::Ask(const std::string& text) {
+  QMessageBox box(m_parent);
+  box.setObjectName(QStringLiteral("frmDialog"));
+  setUp(box, text, QMessageBox::Question,
+        QMessageBox::Yes | QMessageBox::No | QMessageBox::YesToAll);
+  box.button(QMessageBox::YesToAll)->setText(QObject::tr("Yes to &all"));
+  box.setDefaultButton(QMessageBox::Yes);
+  box.setEscapeButton(QMessageBox::No);
+  switch (box.exec()) {
+    case QMessageBox::Yes:
+      return model::Answer::Yes;
+    case QMessageBox::YesToAll:
+      return model::Answer::YesToAll;
+    default:
+      return model::Answer::No;
+  }
+}
+
+void MessageBoxes::Show(const std::string& text, model::Icon icon) {
+  QMessageBox box(m_parent);
+  setUp(box, text, boxIcon(icon), QMessageBox::Ok);
+  box.exec();
+}
+
+}  // namespace orb::ui

@@ -1,0 +1,111 @@
+#include "ui/widgets/order_marks.h"
+
+#include "ui/widgets/controls.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <array>
+
+namespace orb::ui {
+namespace {
+
+/// The marks are drawn on a field of this many units.
+constexpr double Field = 16;
+
+struct MarkColours {
+  QColor shape;
+  QColor sign;  ///< on the shape
+};
+
+/// Colours that can be made out on the item's background, light, dark or selected.
+MarkColours coloursOf(OrderMark mark, const QStyleOptionViewItem& item) {
+  const QPalette::ColorGroup group =
+      item.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+  if (item.state.testFlag(QStyle::State_Selected)) {
+    return {item.palette.color(group, QPalette::HighlightedText),
+            item.palette.color(group, QPalette::Highlight)};
+  }
+  const QColor background = item.palette.color(group, QPalette::Base);
+  switch (mark) {
+    case OrderMark::Doubtful:
+      return {doubtColour(background), background};
+    case OrderMark::Stopped:
+      return {failureColour(background), background};
+    default:
+      return {item.palette.color(group, QPalette::PlaceholderText), background};
+  }
+}
+
+void paintTick(QPainter& painter, const MarkColours& colours) {
+  constexpr std::array<QPointF, 3> Tick{QPointF(3.5, 8.5), QPointF(6.5, 11.5), QPointF(12.5, 4.5)};
+  painter.setPen(QPen(colours.shape, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(Tick.data(), static_cast<int>(Tick.size()));
+}
+
+void paintTriangle(QPainter& painter, const MarkColours& colours) {
+  constexpr std::array<QPointF, 3> Triangle{QPointF(8, 2.5), QPointF(14, 13.5), QPointF(2, 13.5)};
+  painter.setPen(QPen(colours.shape, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setBrush(colours.shape);
+  painter.drawPolygon(Triangle.data(), static_cast<int>(Triangle.size()));
+  painter.setPen(QPen(colours.sign, 1.6, Qt::SolidLine, Qt::RoundCap));
+  painter.drawLine(QPointF(8, 6), QPointF(8, 9.3));
+  painter.drawPoint(QPointF(8, 11.9));
+}
+
+void paintStop(QPainter& painter, const MarkColours& colours) {
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(colours.shape);
+  painter.drawEllipse(QPointF(8, 8), 6.5, 6.5);
+  painter.setPen(QPen(colours.sign, 2, Qt::SolidLine, Qt::RoundCap));
+  painter.drawLine(QPointF(5, 8), QPointF(11, 8));
+}
+
+void paintMark(OrderMark mark, QPainter& painter, const MarkColours& colours) {
+  switch (mark) {
+    case OrderMark::Passes:
+      return paintTick(painter, colours);
+    case OrderMark::Doubtful:
+      return paintTriangle(painter, colours);
+    case OrderMark::Stopped:
+      return paintStop(painter, colours);
+    case OrderMark::None:
+      break;
+  }
+}
+
+}  // namespace
+
+void OrderMarkDelegate::initStyleOption(QStyleOptionViewItem* option,
+                                        const QModelIndex& index) const {
+  QStyledItemDelegate::initStyleOption(option, index);
+  const int side = option->fontMetrics.ascent() + 1;
+  option->features |= QStyleOptionViewItem::HasDecoration;
+  option->decorationSize = QSize(side, side);
+}
+
+QSize OrderMarkDelegate::sizeHint(const QStyleOptionViewItem& option,
+                                  const QModelIndex& index) const {
+  const QSize size = QStyledItemDelegate::sizeHint(option, index);
+  return {size.width(), std::max(size.height(), option.fontMetrics.height() * 5 / 4)};
+}
+
+void OrderMarkDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                              const QModelIndex& index) const {
+  QStyledItemDelegate::paint(painter, option, index);
+  QStyleOptionViewItem item = option;
+  initStyleOption(&item, index);
+  const QStyle* style = item.widget != nullptr ? item.widget->style() : QApplication::style();
+  const QRectF place = style->subElementRect(QStyle::SE_ItemViewItemDecoration, &item, item.widget);
+  const auto mark = static_cast<OrderMark>(index.data(OrderMarkRole).toInt());
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->translate(place.topLeft());
+  painter->scale(place.width() / Field, place.height() / Field);
+  paintMark(mark, *painter, coloursOf(mark, item));
+  painter->restore();
+}
+
+}  // namespace orb::ui

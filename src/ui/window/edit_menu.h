@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ui/session/desk.h"
+
+#include <QMenu>
+
+namespace orb::ui {
+
+class ExchangeCommands;
+class ExportCommands;
+
+/// What goes to the clipboard and comes from it.
+class EditMenu : public QMenu {
+  Q_OBJECT
+
+ public:
+  /// Ctrl+C copies the map while the map has the keyboard.
+  EditMenu(Desk& desk, ExportCommands& commands, ExchangeCommands& exchange, QWidget* map,
+           QWidget* parent);
+
+  QAction* copyMapEntry() const { return m_copyMap; }
+  QAction* pasteOrdersEntry() const { return m_pasteOrders; }
+
+ private:
+  void showState();
+
+  Desk& m_desk;
+  QAction* m_copyMap;
+  QAction* m_copyOrders;
+  QAction* m_pasteOrders;
+};
+
+}  // namespace orb::ui

@@ -1,0 +1,83 @@
+#include "ui/window/file_menu.h"
+
+#include "ui/exchange/exchange_commands.h"
+#include "ui/output/export_commands.h"
+#include "ui/output/file_dialogs.h"
+#include "ui/widgets/controls.h"
+#include "ui/window/recent_files_menu.h"
+
+namespace orb::ui {
+
+FileMenu::FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory,
+                   ExportCommands& exports, ExchangeCommands& exchange, QWidget* window)
+    : QMenu(tr("&File"), window), m_desk(desk), m_messages(messages), m_window(window) {
+  setObjectName(QStringLiteral("mnuFile"));
+  QAction* create = newEntry(*this, QStringLiteral("mnuFileNew"), tr("&New"), QKeySequence::New);
+  QAction* blank = newEntry(*this, QStringLiteral("mnuFileBlank"), tr("&Blank"));
+  m_open = newEntry(*this, QStringLiteral("mnuFileOpen"), tr("&Open..."), QKeySequence::Open);
+  addMenu(new RecentFilesMenu(desk, memory, this));
+  m_save = newEntry(*this, QStringLiteral("mnuFileSave"), tr("&Save"), QKeySequence::Save);
+  QAction* saveAs = newEntry(*this, QStringLiteral("mnuFileSaveAs"), tr("Save &As..."),
+                             Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+  addSeparator();
+  addExchange(exchange);
+  addSeparator();
+  addExports(exports);
+  addSeparator();
+  QAction* exit = newEntry(*this, QStringLiteral("mnuFileExit"), tr("E&xit"), Qt::CTRL | Qt::Key_Q);
+  connect(create, &QAction::triggered, &m_desk, &Desk::newGame);
+  connect(blank, &QAction::triggered, &m_desk, &Desk::blankGame);
+  connect(m_open, &QAction::triggered, this, &FileMenu::open);
+  connect(m_save, &QAction::triggered, this, &FileMenu::save);
+  connect(saveAs, &QAction::triggered, this, &FileMenu::saveAs);
+  connect(exit, &QAction::triggered, m_window, &QWidget::close);
+  connect(&m_desk, &Desk::changed, this, &FileMenu::showState);
+  showState();
+}
+
+void FileMenu::addExchange(ExchangeCommands& exchange) {
+  m_importOrders = newEntry(*this, QStringLiteral("mnuFileImportOrders"), tr("I&mport orders..."),
+                            Qt::CTRL | Qt::Key_I);
+  m_exportOrders = newEntry(*this, QStringLiteral("mnuFileExportOrders"), tr("Export or&ders..."));
+  connect(m_importOrders, &QAction::triggered, &exchange, &ExchangeCommands::importOrders);
+  connect(m_exportOrders, &QAction::triggered, &exchange, &ExchangeCommands::exportOrders);
+}
+
+void FileMenu::addExports(ExportCommands& exports) {
+  QAction* bitmap = newEntry(*this, QStringLiteral("mnuFileExportBMP"), tr("Export B&itmap..."));
+  m_exportText = newEntry(*this, QStringLiteral("mnuFileExportText"), tr("Export &Text..."));
+  m_print = newEntry(*this, QStringLiteral("mnuFilePrint"), tr("&Print..."), QKeySequence::Print);
+  addSeparator();
+  m_animate = newEntry(*this, QStringLiteral("mnuFileAnimate"), tr("Animat&e..."));
+  m_animateMove = newEntry(*this, QStringLiteral("mnuFileAnimateMove"), tr("Animate mo&ve"));
+  connect(bitmap, &QAction::triggered, &exports, &ExportCommands::exportBitmap);
+  connect(m_exportText, &QAction::triggered, &exports, &ExportCommands::exportText);
+  connect(m_print, &QAction::triggered, &exports, &ExportCommands::print);
+}
+
+void FileMenu::open() {
+  const auto choice = askGameToOpen(m_window, m_desk.game());
+  if (choice) m_desk.openGame(choice->file, choice->readOnly);
+}
+
+void FileMenu::save() {
+  if (m_desk.game().FileName.empty()) {
+    saveAs();
+  } else {
+    m_desk.saveGame();
+  }
+}
+
+void FileMenu::saveAs() {
+  const auto file = askWhereToSave(m_window, m_desk.game(), m_messages);
+  if (file) m_desk.saveGameAs(*file);
+}
+
+void FileMenu::showState() {
+  m_save->setEnabled(!m_desk.now().readOnly || m_desk.game().FileName.empty());
+  m_importOrders->setEnabled(takesOrders(m_desk.game()));
+  m_exportOrders->setEnabled(hasOrders(m_desk.game()));
+  m_animateMove->setEnabled(m_desk.game().Stage == "finished");
+}
+
+}  // namespace orb::ui

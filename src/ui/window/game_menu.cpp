@@ -1,0 +1,74 @@
+#include "ui/window/game_menu.h"
+
+#include "ui/editing/colours_dialog.h"
+#include "ui/editing/season_dialog.h"
+#include "ui/widgets/controls.h"
+
+namespace orb::ui {
+
+GameMenu::GameMenu(Desk& desk, QWidget* parent) : QMenu(tr("&Game"), parent), m_desk(desk) {
+  setObjectName(QStringLiteral("mnuGame"));
+  addStage(QStringLiteral("mnuGameEnterOrders"), tr("Enter &orders"), "moves");
+  addStage(QStringLiteral("mnuGameEnterRetreats"), tr("Enter &retreats"), "retreats");
+  addStage(QStringLiteral("mnuGameEnterAdjustments"), tr("Enter &adjustments"), "adjustments");
+  addStage(QStringLiteral("mnuGameSeasonFinished"), tr("Season &finished"), "finished");
+  addSeparator();
+  addEditing(QStringLiteral("mnuGameEditUnits"), tr("Edit &units"), Editing::Units);
+  addEditing(QStringLiteral("mnuGameEditProvinces"), tr("Edit &provinces"), Editing::Provinces);
+  connect(newEntry(*this, QStringLiteral("mnuGameEditSeason"), tr("Edit &season...")),
+          &QAction::triggered, this, [this] { editSeason(m_desk, parentWidget()); });
+  connect(newEntry(*this, QStringLiteral("mnuGameColours"), tr("Unit co&lours...")),
+          &QAction::triggered, this, [this] { editColours(m_desk, parentWidget()); });
+  addEditSteps();
+  addSeparator();
+  m_undo = newEntry(*this, QStringLiteral("mnuGameUndo"), tr("U&ndo season"), QKeySequence::Undo);
+  connect(m_undo, &QAction::triggered, &desk, &Desk::undoSeason);
+  connect(&desk, &Desk::changed, this, &GameMenu::showState);
+  showState();
+}
+
+/// The stage entries tell the stage and choose nothing but its panel.
+void GameMenu::addStage(const QString& name, const QString& caption, std::string_view stage) {
+  QAction* entry = newEntry(*this, name, caption);
+  entry->setCheckable(true);
+  m_stages.emplace_back(entry, stage);
+  connect(entry, &QAction::triggered, this, [this] { m_desk.setEditing(Editing::None); });
+}
+
+void GameMenu::addEditing(const QString& name, const QString& caption, Editing editing) {
+  QAction* entry = newEntry(*this, name, caption);
+  entry->setCheckable(true);
+  m_editings.emplace_back(entry, editing);
+  connect(entry, &QAction::triggered, this,
+          [this, editing](bool on) { m_desk.setEditing(on ? editing : Editing::None); });
+}
+
+void GameMenu::addEditSteps() {
+  m_undoEdit =
+      newEntry(*this, QStringLiteral("mnuGameUndoEdit"), tr("Undo e&dit"), QKeySequence::Undo);
+  m_redoEdit = newEntry(*this, QStringLiteral("mnuGameRedoEdit"), tr("Redo ed&it"),
+                        Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
+  connect(m_undoEdit, &QAction::triggered, &m_desk, &Desk::undoEdit);
+  connect(m_redoEdit, &QAction::triggered, &m_desk, &Desk::redoEdit);
+}
+
+void GameMenu::showState() {
+  const std::string& now = m_desk.game().Stage;
+  const Editing edited = m_desk.now().editing;
+  for (const auto& [entry, stage] : m_stages) {
+    entry->setChecked(stage == now && edited == Editing::None);
+    entry->setEnabled(stage == now);
+  }
+  for (const auto& [entry, editing] : m_editings)
+    entry->setChecked(editing == edited);
+  // The keys of a hidden entry do nothing.
+  for (QAction* entry : {m_undoEdit, m_redoEdit})
+    entry->setVisible(edited != Editing::None);
+  m_undoEdit->setEnabled(m_desk.now().edits.CanUndo());
+  m_redoEdit->setEnabled(m_desk.now().edits.CanRedo());
+  m_undo->setEnabled(now != "moves");
+  // While something is edited the keys take back a step of the editing.
+  m_undo->setShortcut(edited == Editing::None ? QKeySequence::Undo : QKeySequence());
+}
+
+}  // namespace orb::ui

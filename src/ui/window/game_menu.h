@@ -1,0 +1,34 @@
+#pragma once
+
+#include "ui/session/desk.h"
+
+#include <QMenu>
+
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace orb::ui {
+
+/// The stage, what is edited in its place, and the commands on the season.
+class GameMenu : public QMenu {
+  Q_OBJECT
+
+ public:
+  GameMenu(Desk& desk, QWidget* parent);
+
+ private:
+  void addStage(const QString& name, const QString& caption, std::string_view stage);
+  void addEditing(const QString& name, const QString& caption, Editing editing);
+  void addEditSteps();
+  void showState();
+
+  Desk& m_desk;
+  std::vector<std::pair<QAction*, std::string_view>> m_stages;
+  std::vector<std::pair<QAction*, Editing>> m_editings;
+  QAction* m_undoEdit = nullptr;
+  QAction* m_redoEdit = nullptr;
+  QAction* m_undo = nullptr;
+};
+
+}  // namespace orb::ui

@@ -1,0 +1,379 @@
+#include "ui/window/main_window.h"
+
+#include "model/errors.h"
+#include "settings/settings_file.h"
+#include "text/qt/text_codec.h"
+#include "ui/editing/edit_provinces_panel.h"
+#include "ui/editing/edit_units_panel.h"
+#include "ui/entry/adjustments_panel.h"
+#include "ui/entry/orders_panel.h"
+#include "ui/entry/retreats_panel.h"
+#include "ui/entry/season_finished_panel.h"
+#include "ui/exchange/exchange_commands.h"
+#include "ui/facts/owners_panel.h"
+#include "ui/facts/report_panel.h"
+#include "ui/help/help_menu.h"
+#include "ui/map/map_view.h"
+#include "ui/output/export_commands.h"
+#include "ui/output/file_dialogs.h"
+#include "ui/replay/animation_player.h"
+#include "ui/widgets/controls.h"
+#include "ui/widgets/icons.h"
+#include "ui/widgets/place_text.h"
+#include "ui/window/edit_menu.h"
+#include "ui/window/file_menu.h"
+#include "ui/window/game_menu.h"
+#include "ui/window/map_menu.h"
+#include "ui/window/toolbar.h"
+
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScreen>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include <array>
+#include <string_view>
+#include <utility>
+
+namespace orb::ui {
+namespace {
+
+constexpr int Margin = 10;
+constexpr int Gap = 12;
+constexpr int ColumnWidth = 345;
+const QString ShowOrders = QStringLiteral("map/showOrders");
+constexpr QSize PreferredSize(1280, 800);
+
+/// The one local file that is dragged; empty when it is anything else.
+QString draggedFile(const QMimeData& data) {
+  const QList<QUrl> urls = data.urls();
+  return urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Situation start, const Places& places)
+    : m_messages(this),
+      m_desk(std::move(start), places.program, m_messages, nullptr),
+      m_places(places),
+      m_memory(places.config) {
+  setAcceptDrops(true);
+  setWindowIcon(programIcon());
+  createStatusBar();
+  createPanels();
+  layOutPanels();
+  createMenus();
+  createToolbar();
+  restoreSize();
+  m_desk.setShowOrders(m_memory.flag(ShowOrders));
+  m_map->draw(m_desk.now());
+  m_view->setZoom(m_memory.zoom());
+  m_desk.setDrawing([this](const Situation& situation) { m_map->draw(situation); });
+  connect(&m_desk, &Desk::changed, this, &MainWindow::showGame);
+  showGame();
+}
+
+/// The panels use the desk, and tell the window when they are hidden: they go first, and in
+/// silence.
+MainWindow::~MainWindow() {
+  for (QObject* child : findChildren<QObject*>())
+    child->disconnect(this);
+  qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+}
+
+void MainWindow::createPanels() {
+  m_map = new MapPicture(m_desk, m_messages);
+  m_view = new MapView(m_map);
+  m_orders = new OrdersPanel(m_desk);
+  m_retreats = new RetreatsPanel(m_desk);
+  m_adjustments = new AdjustmentsPanel(m_desk);
+  m_seasonFinished = new SeasonFinishedPanel(m_desk);
+  m_editUnits = new EditUnitsPanel(m_desk, *m_map);
+  m_editProvinces = new EditProvincesPanel(m_desk, *m_map);
+  m_report = new ReportPanel(m_desk);
+  for (OrderEntryPanel* panel : {m_orders, m_retreats, m_adjustments}) {
+    connect(panel, &OrderEntryPanel::statusText, this, &MainWindow::showStatus);
+    connect(panel, &OrderEntryPanel::helpWanted, this,
+            [this](const QString& topic) { m_helpMenu->showTopic(topic); });
+  }
+  for (EditingPanel* panel :
+       {static_cast<EditingPanel*>(m_editUnits), static_cast<EditingPanel*>(m_editProvinces)}) {
+    connect(panel, &EditingPanel::statusText, this, &MainWindow::showStatus);
+    connect(panel, &EditingPanel::helpWanted, this,
+            [this](const QString& topic) { m_helpMenu->showTopic(topic); });
+  }
+  connect(m_map, &MapPicture::hovered, this, &MainWindow::showPlace);
+  connect(m_view, &MapView::zoomChanged, this, &MainWindow::leaveSpareWidth);
+  connect(m_report, &ReportPanel::unitsPicked, m_map, &MapPicture::setMarks);
+  m_player = new AnimationPlayer(m_desk, m_messages, *m_map, this);
+  connect(m_player, &AnimationPlayer::changed, this, &MainWindow::showAnimation);
+  connect(m_player, &AnimationPlayer::noted, this, &MainWindow::showStatus);
+}
+
+void MainWindow::layOutPanels() {
+  m_tabs = new QTabWidget;
+  m_tabs->setObjectName(QStringLiteral("tabFacts"));
+  m_tabs->setAccessibleName(tr("Supply centres and report"));
+  m_tabs->setDocumentMode(true);
+  m_tabs->addTab(new OwnersPanel(m_desk), tr("Supply &centres"));
+  m_tabs->addTab(m_report, tr("Repor&t"));
+
+  m_column = new QWidget;
+  auto* panels = new QVBoxLayout(m_column);
+  panels->setContentsMargins({});
+  panels->setSpacing(Gap);
+  for (QWidget* panel : stagePanels())
+    panels->addWidget(panel, panel == m_seasonFinished ? 0 : 3);
+  panels->addWidget(m_tabs, 2);
+  // As wide as it likes to be; on a small screen it gives way.
+  panels->addItem(new QSpacerItem(ColumnWidth, 0, QSizePolicy::Preferred));
+
+  auto* desk = new QWidget;
+  auto* rows = new QVBoxLayout(desk);
+  rows->setContentsMargins(Margin, Margin, Margin, Margin);
+  rows->setSpacing(Gap);
+  auto* sides = new QHBoxLayout;
+  rows->addLayout(sides, 1);
+  rows->addWidget(m_player->bar());
+  sides->setSpacing(Gap);
+  sides->addWidget(m_view, 1);
+  sides->addWidget(m_column);
+  setCentralWidget(desk);
+}
+
+void MainWindow::createMenus() {
+  m_exports = new ExportCommands(m_desk, m_messages, this);
+  connect(m_exports, &ExportCommands::noted, this, &MainWindow::showStatus);
+  m_exchange = new ExchangeCommands(m_desk, m_messages, this);
+  connect(m_exchange, &ExchangeCommands::noted, this, &MainWindow::showStatus);
+  m_fileMenu = new FileMenu(m_desk, m_messages, m_memory, *m_exports, *m_exchange, this);
+  connect(m_fileMenu->animateEntry(), &QAction::triggered, m_player,
+          &AnimationPlayer::askAndPlayFiles);
+  connect(m_fileMenu->animateMoveEntry(), &QAction::triggered, m_player,
+          &AnimationPlayer::playSeason);
+  m_editMenu = new EditMenu(m_desk, *m_exports, *m_exchange, m_map, this);
+  m_gameMenu = new GameMenu(m_desk, this);
+  m_mapMenu = new MapMenu(m_desk, *m_view, this);
+  menuBar()->addMenu(m_fileMenu);
+  menuBar()->addMenu(m_editMenu);
+  menuBar()->addMenu(m_gameMenu);
+  menuBar()->addMenu(m_mapMenu);
+  m_helpMenu = new HelpMenu(m_desk, m_messages, this);
+  menuBar()->addMenu(m_helpMenu);
+  connect(m_exchange, &ExchangeCommands::helpWanted, m_helpMenu, &HelpMenu::showTopicOver);
+}
+
+void MainWindow::createToolbar() {
+  auto* tools = new Toolbar(this);
+  tools->addButton(QStringLiteral("butFileOpen"), QStringLiteral("open"), tr("Open a game"),
+                   m_fileMenu->openEntry());
+  tools->addButton(QStringLiteral("butFileSave"), QStringLiteral("save"), tr("Save the game"),
+                   m_fileMenu->saveEntry());
+  tools->addSeparator();
+  tools->addButton(QStringLiteral("butFileImportOrders"), QStringLiteral("import-orders"),
+                   tr("Import orders from a text file"), m_fileMenu->importOrdersEntry());
+  tools->addButton(QStringLiteral("butEditPasteOrders"), QStringLiteral("paste-orders"),
+                   tr("Paste the orders of one power"), m_editMenu->pasteOrdersEntry());
+  tools->addSeparator();
+  tools->addButton(QStringLiteral("butEditCopyMap"), QStringLiteral("copy-map"), tr("Copy the map"),
+                   m_editMenu->copyMapEntry());
+  tools->addButton(QStringLiteral("butFileExportText"), QStringLiteral("export-text"),
+                   tr("Export the text report"), m_fileMenu->exportTextEntry());
+  tools->addButton(QStringLiteral("butFilePrint"), QStringLiteral("print"),
+                   tr("Print the map and the report"), m_fileMenu->printEntry());
+  tools->addSeparator();
+  tools->addButton(QStringLiteral("butMapZoomIn"), QStringLiteral("zoom-in"), tr("Enlarge the map"),
+                   m_mapMenu->zoomIn());
+  tools->addButton(QStringLiteral("butMapZoomOut"), QStringLiteral("zoom-out"),
+                   tr("Show the map smaller"), m_mapMenu->zoomOut());
+  tools->addButton(QStringLiteral("butMapZoomFit"), QStringLiteral("zoom-fit"),
+                   tr("Fit the map to the window"), m_mapMenu->zoomToFit());
+  tools->addButton(QStringLiteral("butMapShowOrders"), QStringLiteral("show-orders"),
+                   tr("Show the orders on the map"), m_mapMenu->showOrders());
+  addToolBar(tools);
+  m_tools = tools;
+}
+
+void MainWindow::createStatusBar() {
+  m_status = new ElidedLabel;
+  m_status->setObjectName(QStringLiteral("lblStatus"));
+  m_fileName = new ElidedLabel;
+  m_fileName->setObjectName(QStringLiteral("lblFileName"));
+  m_fileName->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  for (ElidedLabel* label : {m_status, m_fileName}) {
+    label->setTextFormat(Qt::PlainText);
+    label->setContentsMargins(Margin, 0, Margin, 0);
+  }
+  statusBar()->setSizeGripEnabled(false);
+  statusBar()->addWidget(m_status, 1);
+  statusBar()->addWidget(m_fileName);
+}
+
+void MainWindow::restoreSize() {
+  if (restoreGeometry(m_memory.geometry())) return;
+  const QSize available = screen()->availableSize();
+  resize(PreferredSize.boundedTo(available));
+  // The window's frame needs room too.
+  const bool roomy = available.width() > width() && available.height() > height();
+  if (!roomy) setWindowState(Qt::WindowMaximized);
+}
+
+/// What is remembered is the window with its panels.
+void MainWindow::rememberSize() {
+  const bool narrowed = m_column->isHidden() && !isMaximized() && !isFullScreen();
+  if (narrowed) resize(m_normalWidth, height());
+  m_memory.setGeometry(saveGeometry());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  rememberSize();
+  m_memory.setZoom(m_view->zoom());
+  m_memory.setFlag(ShowOrders, m_desk.now().showOrders);
+  try {
+    const Situation& now = m_desk.now();
+    settings::WriteSettingsFile(settings::SettingsFileForWriting(m_places.program, m_places.config),
+                                {now.mapOptions, now.viewOnly}, now.game.Countries);
+  } catch (const model::FatalError& fault) {
+    m_messages.Show(fault.what(), model::Icon::Stop);
+  }
+  event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!draggedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  const QString file = draggedFile(*event->mimeData());
+  if (file.isEmpty()) return;
+  event->acceptProposedAction();
+  m_desk.openGame(QFile::encodeName(file).toStdString(), false);
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  leaveSpareWidth();
+}
+
+void MainWindow::showGame() {
+  const model::GameState& game = m_desk.game();
+  setWindowTitle(text::ToQString(model::Caption(game)));
+  const QString file = displayPath(game.FileName);
+  if (file != m_fileName->text()) {
+    m_fileName->setText(file);
+    m_fileName->setToolTip(file);
+    if (!file.isEmpty()) m_memory.addRecentFile(QFileInfo(file).absoluteFilePath());
+  }
+  if (m_shownPanel != std::pair(game.Stage, m_desk.now().editing)) showStagePanel();
+  showViewOnly();
+}
+
+/// Only the map shows in view-only mode, and nothing that belongs to playing.
+void MainWindow::showViewOnly() {
+  const bool viewOnly = m_desk.now().viewOnly;
+  m_gameMenu->setEnabled(!viewOnly && !m_player->isOn());
+  if (m_column->isHidden() == viewOnly) return;
+  const bool sizeIsFree = !isMaximized() && !isFullScreen();
+  if (viewOnly) m_normalWidth = sizeIsFree ? width() : normalGeometry().width();
+  m_column->setVisible(!viewOnly);
+  chooseTool();
+  if (sizeIsFree) resize(viewOnly ? mapOnlyWidth() : m_normalWidth, height());
+  leaveSpareWidth();
+}
+
+int MainWindow::mapOnlyWidth() {
+  // At the start nothing has its size yet.
+  layout()->activate();
+  const int wanted = m_view->fittingWidth(mapHeight()) + 2 * Margin;
+  return std::min(wanted, screen()->availableSize().width());
+}
+
+int MainWindow::mapHeight() const {
+  return centralWidget()->height() - 2 * Margin;
+}
+
+void MainWindow::showStagePanel() {
+  m_shownPanel = {m_desk.game().Stage, m_desk.now().editing};
+  const auto& [shownStage, editing] = *m_shownPanel;
+  const std::array<std::pair<std::string_view, OrderEntryPanel*>, 3> entryPanels{
+      {{"moves", m_orders}, {"retreats", m_retreats}, {"adjustments", m_adjustments}}};
+  QWidget* shown = shownStage == "finished" ? m_seasonFinished : nullptr;
+  for (const auto& [stage, panel] : entryPanels) {
+    if (stage == shownStage) shown = panel;
+  }
+  if (editing == Editing::Units) shown = m_editUnits;
+  if (editing == Editing::Provinces) shown = m_editProvinces;
+  showInstead(shown);
+  const bool report = m_desk.game().ReportLines.Count() > 0 && editing != Editing::Provinces;
+  m_tabs->setCurrentIndex(report ? 1 : 0);
+  chooseTool();
+  if (editing == Editing::Units) return m_editUnits->startEditing();
+  if (editing == Editing::Provinces) return m_editProvinces->startEditing();
+  for (const auto& [stage, panel] : entryPanels) {
+    if (stage == shownStage) return panel->startEntry();
+  }
+  // Not the button: an Enter too many would drop the report unread.
+  m_report->startReading();
+}
+
+std::array<QWidget*, 6> MainWindow::stagePanels() const {
+  return {m_orders, m_retreats, m_adjustments, m_editUnits, m_editProvinces, m_seasonFinished};
+}
+
+/// Never two panels at once: the window would grow to hold them.
+void MainWindow::showInstead(QWidget* shown) {
+  for (QWidget* panel : stagePanels()) {
+    if (panel != shown) panel->hide();
+  }
+  if (shown != nullptr) shown->show();
+}
+
+void MainWindow::showStatus(const QString& text) {
+  m_status->setText(text);
+}
+
+/// A map that is only viewed does nothing.
+void MainWindow::chooseTool() {
+  MapTool* tool = nullptr;
+  const auto consider = [&](auto* panel) {
+    if (!panel->isHidden() && !m_desk.now().viewOnly) tool = panel;
+  };
+  consider(m_orders);
+  consider(m_retreats);
+  consider(m_adjustments);
+  consider(m_editUnits);
+  consider(m_editProvinces);
+  m_map->setTool(tool);
+}
+
+void MainWindow::showPlace(int location) {
+  showStatus(placeText(m_desk.game(), location));
+}
+
+/// While an animation has the map's place nothing may change the game.
+void MainWindow::showAnimation() {
+  const bool playing = m_player->isOn();
+  for (QWidget* control :
+       {static_cast<QWidget*>(m_fileMenu), static_cast<QWidget*>(m_editMenu),
+        static_cast<QWidget*>(m_gameMenu), static_cast<QWidget*>(m_tools), m_column}) {
+    control->setEnabled(!playing);
+  }
+  setAcceptDrops(!playing);
+  showViewOnly();
+}
+
+/// What the fitted map cannot use goes to the column.
+void MainWindow::leaveSpareWidth() {
+  const bool fitted = !m_view->zoom() && !m_column->isHidden();
+  m_view->setMaximumWidth(
+      fitted ? std::max(m_view->minimumSizeHint().width(), m_view->fittingWidth(mapHeight()))
+             : QWIDGETSIZE_MAX);
+}
+
+}  // namespace orb::ui

@@ -1,0 +1,106 @@
+#pragma once
+
+#include "ui/session/desk.h"
+#include "ui/session/places.h"
+#include "ui/widgets/message_boxes.h"
+#include "ui/window/window_memory.h"
+
+#include <QMainWindow>
+
+#include <array>
+#include <optional>
+#include <string>
+#include <utility>
+
+class QTabWidget;
+class QToolBar;
+
+namespace orb::ui {
+
+class AnimationPlayer;
+class EditMenu;
+class EditProvincesPanel;
+class EditUnitsPanel;
+class ElidedLabel;
+class ExchangeCommands;
+class ExportCommands;
+class FileMenu;
+class GameMenu;
+class HelpMenu;
+class MapMenu;
+class MapPicture;
+class MapView;
+class OrderEntryPanel;
+class ReportPanel;
+class SeasonFinishedPanel;
+
+/// The map at the left, the panels at the right, menus and tools above, the status below.
+class MainWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  /// Throws FatalError when the map cannot be drawn.
+  MainWindow(Situation start, const Places& places);
+  MainWindow(const MainWindow&) = delete;
+  MainWindow& operator=(const MainWindow&) = delete;
+  ~MainWindow() override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void createPanels();
+  void layOutPanels();
+  void createMenus();
+  void createToolbar();
+  void createStatusBar();
+  void restoreSize();
+  void rememberSize();
+
+  void showGame();
+  void showViewOnly();
+  int mapOnlyWidth();
+  int mapHeight() const;
+  void showStagePanel();
+  std::array<QWidget*, 6> stagePanels() const;
+  void showInstead(QWidget* shown);
+  void showStatus(const QString& text);
+  void chooseTool();
+  void showPlace(int location);
+  void showAnimation();
+  void leaveSpareWidth();
+
+  MessageBoxes m_messages;
+  Desk m_desk;
+  Places m_places;
+  WindowMemory m_memory;
+  MapPicture* m_map = nullptr;
+  MapView* m_view = nullptr;
+  QWidget* m_column = nullptr;
+  QToolBar* m_tools = nullptr;
+  AnimationPlayer* m_player = nullptr;
+  OrderEntryPanel* m_orders = nullptr;
+  OrderEntryPanel* m_retreats = nullptr;
+  OrderEntryPanel* m_adjustments = nullptr;
+  SeasonFinishedPanel* m_seasonFinished = nullptr;
+  EditUnitsPanel* m_editUnits = nullptr;
+  EditProvincesPanel* m_editProvinces = nullptr;
+  QTabWidget* m_tabs = nullptr;
+  ReportPanel* m_report = nullptr;
+  ExportCommands* m_exports = nullptr;
+  ExchangeCommands* m_exchange = nullptr;
+  FileMenu* m_fileMenu = nullptr;
+  EditMenu* m_editMenu = nullptr;
+  GameMenu* m_gameMenu = nullptr;
+  HelpMenu* m_helpMenu = nullptr;
+  MapMenu* m_mapMenu = nullptr;
+  ElidedLabel* m_status = nullptr;
+  ElidedLabel* m_fileName = nullptr;
+  std::optional<std::pair<std::string, Editing>> m_shownPanel;
+  int m_normalWidth = 0;  ///< of the window, while only the map shows
+};
+
+}  // namespace orb::ui

@@ -1,0 +1,31 @@
+#include "ui/window/toolbar.h"
+
+#include "ui/widgets/icons.h"
+
+#include <QToolButton>
+
+namespace orb::ui {
+
+Toolbar::Toolbar(QWidget* parent) : QToolBar(tr("Toolbar"), parent) {
+  setObjectName(QStringLiteral("barTools"));
+  setMovable(false);
+  setContextMenuPolicy(Qt::PreventContextMenu);
+  const int side = fontMetrics().height() * 3 / 2;
+  setIconSize({side, side});
+}
+
+void Toolbar::addButton(const QString& name, const QString& icon, const QString& tip,
+                        QAction* command) {
+  command->setIcon(newIcon(icon));
+  // In a menu the icons of some entries only would stand out.
+  command->setIconVisibleInMenu(false);
+  const QString keys = command->shortcut().toString(QKeySequence::NativeText);
+  command->setToolTip(keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys));
+  addAction(command);
+  QWidget* button = widgetForAction(command);
+  button->setObjectName(name);
+  button->setAccessibleName(tip);
+  button->setFocusPolicy(Qt::TabFocus);
+}
+
+}  // namespace orb::ui

@@ -1,0 +1,58 @@
+#include "ui/window/window_memory.h"
+
+#include "ui/output/file_dialogs.h"
+
+namespace orb::ui {
+namespace {
+
+const QString Geometry = QStringLiteral("window/geometry");
+const QString Zoom = QStringLiteral("map/zoom");
+const QString RecentFiles = QStringLiteral("files/recent");
+
+}  // namespace
+
+WindowMemory::WindowMemory(const std::filesystem::path& configDirectory)
+    : m_store(displayPath((configDirectory / "window.ini").string()), QSettings::IniFormat) {}
+
+QByteArray WindowMemory::geometry() const {
+  return m_store.value(Geometry).toByteArray();
+}
+
+void WindowMemory::setGeometry(const QByteArray& geometry) {
+  m_store.setValue(Geometry, geometry);
+}
+
+std::optional<double> WindowMemory::zoom() const {
+  bool valid = false;
+  const double zoom = m_store.value(Zoom).toDouble(&valid);
+  return valid && zoom > 0 ? std::optional(zoom) : std::nullopt;
+}
+
+void WindowMemory::setZoom(std::optional<double> zoom) {
+  zoom ? m_store.setValue(Zoom, *zoom) : m_store.remove(Zoom);
+}
+
+bool WindowMemory::flag(const QString& name) const {
+  return m_store.value(name).toBool();
+}
+
+void WindowMemory::setFlag(const QString& name, bool on) {
+  m_store.setValue(name, on);
+}
+
+QStringList WindowMemory::recentFiles() const {
+  return m_store.value(RecentFiles).toStringList().mid(0, RecentFileBound);
+}
+
+void WindowMemory::addRecentFile(const QString& file) {
+  QStringList files = recentFiles();
+  files.removeAll(file);
+  files.prepend(file);
+  m_store.setValue(RecentFiles, QStringList(files.mid(0, RecentFileBound)));
+}
+
+void WindowMemory::clearRecentFiles() {
+  m_store.remove(RecentFiles);
+}
+
+}  // namespace orb::ui

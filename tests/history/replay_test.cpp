@@ -1,0 +1,274 @@
+#include "history/replay.h"
+
+#include "model/errors.h"
+#include "render/animation_view.h"
+#include "render/recorder.h"
+#include "settings/map_options.h"
+#include "support/situation.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace orb::tests {
+namespace {
+
+using history::Journey;
+using history::Replay;
+using model::GameState;
+using orders::OrderOutcome;
+using orders::Outcome;
+using ::testing::ElementsAre;
+
+using Texts = std::vector<std::string>;
+
+/// A situation; a unit is written "FRA A(Bur) Par": it came from Paris; "~" stands for no place.
+/// "GER A(Pic) Bur Par" was dislodged from Burgundy by a move out of Paris.
+GameState Situation(std::string_view stage, const Texts& units, std::string_view contested = {},
+                    std::string_view season = "Spring") {
+  GameState game = EmptyBoard(season, stage);
+  for (const std::string& text : units) {
+    std::string_view rest = text;
+    model::Unit unit;
+    EXPECT_TRUE(ReadUnit(rest, unit)) << text;
+    const Texts places = Words(rest);
+    if (!places.empty() && places[0] != "~") unit.PreviousLocation = places[0];
+    if (places.size() > 1) unit.DislodgedFrom = places[1];
+    game.Units.Append(unit);
+  }
+  for (const std::string& place : Words(contested))
+    Live(game, place).Uncontested = false;
+  return game;
+}
+
+/// "+ENG A(Yor) - Nwy" succeeded, "!" failed, "?" was void; a convoy is "C Yor Nwy", a convoyed
+/// move "- Nwy ~".
+std::vector<OrderOutcome> Outcomes(const Texts& lines) {
+  std::vector<OrderOutcome> outcomes;
+  for (const std::string& line : lines) {
+    std::string_view rest = std::string_view(line).substr(1);
+    model::Unit unit;
+    EXPECT_TRUE(ReadUnit(rest, unit)) << line;
+    const Texts words = Words(rest);
+    OrderOutcome outcome{unit.Power, unit.UnitType, unit.Location, words[0], {}, {}, false, {}};
+    if (words.size() > 1) outcome.Destination = words[words[0] == "C" ? 2 : 1];
+    if (words[0] == "C") outcome.OtherLocation = words[1];
+    outcome.ViaConvoy = words.back() == "~";
+    outcome.Outcome = line[0] == '+'   ? Outcome::Succeeded
+                      : line[0] == '!' ? Outcome::Failed
+                                       : Outcome::Void;
+    outcomes.push_back(outcome);
+  }
+  return outcomes;
+}
+
+std::string Text(const Journey& journey) {
+  std::string text = journey.Power + " " + journey.UnitType + "(" + journey.From + ")";
+  if (journey.DislodgedAtFirst) text += " aside";
+  if (!journey.Aim.empty()) text += (journey.Bounces ? " -x " : " - ") + journey.Aim;
+  for (const std::string& fleet : journey.Fleets)
+    text += " via " + fleet;
+  if (journey.Dislodged) text += " pushed";
+  if (!journey.Retreat.empty()) text += " to " + journey.Retreat;
+  if (journey.Appears) text += " appears";
+  if (journey.Vanishes) text += " vanishes";
+  return text;
+}
+
+Texts Journeys(const Replay& replay) {
+  Texts texts;
+  std::transform(replay.Journeys.begin(), replay.Journeys.end(), std::back_inserter(texts), Text);
+  return texts;
+}
+
+TEST(SeasonReplay, JourneysFollowPositionsAndOutcomes) {
+  struct Case {
+    std::string Name;
+    Texts Units;
+    std::string Contested;
+    Texts Outcomes;
+    Texts Journeys;
+  };
+  const std::vector<Case> cases = {
+      {"moves, stays, built",
+       {"FRA A(Bur) Par", "GER F(Kie) Kie", "GER A(Ber)"},
+       "Bur",
+       {},
+       {"FRA A(Par) - Bur", "GER F(Kie)", "GER A(Ber) appears"}},
+      {"start unknown", {"FRA A(Bur) unknown"}, "", {}, {"FRA A(Bur) appears"}},
+      {"retreat by its marks",
+       {"GER A(Pic) Bur Par", "FRA A(Bur) Par"},
+       "Bur",
+       {},
+       {"GER A(Bur) pushed to Pic", "FRA A(Par) - Bur"}},
+      {"dislodged seasons ago", {"GER A(Pic) Bur Par"}, "Pic", {}, {"GER A(Bur) - Pic"}},
+      {"bounces",
+       {"FRA A(Par) Par", "GER A(Mun) Mun"},
+       "Bur",
+       {"!FRA A(Par) - Bur", "!GER A(Mun) - Bur"},
+       {"FRA A(Par) -x Bur", "GER A(Mun) -x Bur"}},
+      {"void orders do not move", {"FRA A(Par) Par"}, "", {"?FRA A(Par) - Mos"}, {"FRA A(Par)"}},
+      {"fails and retreats",
+       {"GER A(Ruh) Bur", "FRA A(Bur) Par"},
+       "Bur Par",
+       {"!GER A(Bur) - Par", "+FRA A(Par) - Bur", "+GER A(Bur) RETREAT Ruh"},
+       {"GER A(Bur) -x Par pushed to Ruh", "FRA A(Par) - Bur"}},
+      {"dislodged and gone",
+       {"FRA A(Bur) Par"},
+       "Bur",
+       {"+FRA A(Par) - Bur", "!GER A(Bur) HOLD", "+GER A(Bur) DISBAND"},
+       {"FRA A(Par) - Bur", "GER A(Bur) pushed vanishes"}},
+      {"a faulty order's unit is gone",
+       {"FRA A(Bur) Par"},
+       "Bur",
+       {"+FRA A(Par) - Bur", "?GER A(Bur) - Mos", "?GER A(Bur) RETREAT Par", "?ITA A(Rom) HOLD"},
+       {"FRA A(Par) - Bur", "GER A(Bur) pushed vanishes"}},
+      {"moved, retreated, then disbanded",
+       {"GER A(Ber)"},
+       "Kie",
+       {"+ENG F(HEL) - Kie", "!GER A(Bur) HOLD", "+FRA A(Par) - Bur", "+GER A(Bur) RETREAT Bel"},
+       {"ENG F(HEL) - Kie vanishes", "GER A(Bur) pushed to Bel vanishes",
+        "FRA A(Par) - Bur vanishes", "GER A(Ber) appears"}},
+      {"swapped by convoy",
+       {"ENG A(Nwy) Yor", "RUS A(Yor) Nwy", "ENG F(NTH) NTH"},
+       "Nwy Yor",
+       {"+ENG A(Yor) - Nwy ~", "+RUS A(Nwy) - Yor", "+ENG F(NTH) C Yor Nwy"},
+       {"ENG A(Yor) - Nwy via NTH", "RUS A(Nwy) - Yor", "ENG F(NTH)"}},
+      {"fleets in the order of the way",
+       {"ENG A(Bre) Yor", "ENG F(ECH) ECH", "ENG F(NTH) NTH"},
+       "Bre",
+       {"+ENG A(Yor) - Bre ~", "+ENG F(ECH) C Yor Bre", "+ENG F(NTH) C Yor Bre"},
+       {"ENG A(Yor) - Bre via NTH via ECH", "ENG F(ECH)", "ENG F(NTH)"}}};
+  for (const Case& test : cases) {
+    const GameState game = Situation("finished", test.Units, test.Contested, "Autumn");
+    const Replay replay = history::SeasonReplay(game, Outcomes(test.Outcomes));
+    EXPECT_EQ(Journeys(replay), test.Journeys) << test.Name;
+    EXPECT_EQ(
+        replay.Start.Units.Count() + std::count_if(replay.Journeys.begin(), replay.Journeys.end(),
+                                                   [](auto& j) { return j.Appears; }),
+        static_cast<int>(replay.Journeys.size()));
+  }
+}
+
+TEST(SeasonReplay, StartsBeforeTheMovesWithTheOwnersOfThen) {
+  GameState game = Situation("finished", {"FRA A(Bel) Bur"}, "Bel", "Autumn");
+  Own(game, "FRA Bel");
+  Replay replay = history::SeasonReplay(game);
+  EXPECT_EQ(replay.Start.Stage, "moves");
+  EXPECT_EQ(DrawUnits(replay.Start), "FRA A(Bur)\n");
+  EXPECT_EQ(Live(replay.Start, "Bel").Owner, "");
+  EXPECT_EQ(Describe(replay.End), Describe(game));
+  Live(game, "Bre").PreviousOwner = model::Unknown;
+  replay = history::SeasonReplay(game);
+  EXPECT_EQ(Live(replay.Start, "Bel").Owner, "FRA");
+  game.Stage = "moves";
+  EXPECT_EQ(Journeys(history::SeasonReplay(game)), Texts{"FRA A(Bel)"})
+      << "its moves are still to come";
+  game.Units[1].Location = "Xyz";
+  EXPECT_THROW(history::SeasonReplay(game), model::IndexOutOfRange);
+}
+
+TEST(ReplayBetween, MatchesUnits) {
+  struct Case {
+    std::string Name;
+    GameState Earlier, Later;
+    Texts Journeys;
+  };
+  GameState ordered = Situation("moves", {"FRA A(Par)", "GER A(Mun)", "ENG A(Yor)", "ENG F(NTH)"});
+  ordered.OrdersList = {"FRA A(Par) - Bur", "GER A(Mun) - Mos", "ENG A(Yor) - Bel",
+                        "ENG F(NTH) C ENG A(Yor) - Bel", "nonsense"};
+  ordered.OrdersList.resize(200, "FRA A(Par) - Gas");
+  const std::vector<Case> cases = {
+      {"a chain of equal units",
+       Situation("moves", {"FRA A(Par)", "FRA A(Bur)"}),
+       Situation("finished", {"FRA A(Mun) Bur", "FRA A(Bur) Par"}, "Mun Bur"),
+       {"FRA A(Par) - Bur", "FRA A(Bur) - Mun"}},
+      {"failed orders of the list",
+       ordered,
+       Situation("finished",
+                 {"FRA A(Par) Par", "GER A(Mun) Mun", "ENG A(Yor) Yor", "ENG F(NTH) NTH"}),
+       {"FRA A(Par) -x Bur", "GER A(Mun)", "ENG A(Yor) -x Bel via NTH", "ENG F(NTH)"}},
+      {"the list was changed later",
+       ordered,
+       Situation("finished", {"FRA A(Pic) Par", "ENG A(Bel) Yor"}, "Pic Bel"),
+       {"FRA A(Par) - Pic", "GER A(Mun) vanishes", "ENG A(Yor) - Bel via NTH",
+        "ENG F(NTH) vanishes"}},
+      {"to the retreats",
+       Situation("moves", {"GER A(Bur)", "FRA A(Par)"}),
+       Situation("retreats", {"GER A(Bur) <Par", "FRA A(Bur) Par"}, "Bur"),
+       {"GER A(Bur) pushed", "FRA A(Par) - Bur"}},
+      {"out of the retreats",
+       Situation("retreats", {"GER A(Bur) <Par", "FRA A(Bur) Par", "ITA F(TYS) <ION"}),
+       Situation("finished", {"GER A(Ruh) Bur Par", "FRA A(Bur) Par"}),
+       {"GER A(Bur) aside to Ruh", "FRA A(Bur)", "ITA F(TYS) aside vanishes"}},
+      {"a build, and another army gone where it was",
+       Situation("adjustments", {"FRA A(Bur) Par"}, "", "Autumn"),
+       Situation("finished", {"FRA A(Bur) Par", "FRA A(Par)"}, "", "Autumn"),
+       {"FRA A(Bur)", "FRA A(Par) appears"}},
+      {"a year later",
+       Situation("moves", {"FRA A(Par)", "FRA A(Mar)", "TUR A(Con)"}),
+       [] {
+         GameState later = Situation("moves", {"FRA A(Spa) Gas", "FRA A(Par)", "FRA A(Bel) Bur"});
+         later.Year = 1902;
+         return later;
+       }(),
+       {"FRA A(Par) - Bel", "FRA A(Mar) - Spa", "TUR A(Con) vanishes", "FRA A(Par) appears"}},
+      {"positions set by hand",
+       Situation("moves", {"FRA A(Par)", "FRA F(Bre)"}),
+       Situation("moves", {"FRA A(Bur)", "FRA F(MAO)"}, "", "Autumn"),
+       {"FRA A(Par) - Bur", "FRA F(Bre) - MAO"}}};
+  for (const auto& [name, earlier, later, journeys] : cases)
+    EXPECT_EQ(Journeys(history::ReplayBetween(earlier, later)), journeys) << name;
+}
+
+/// Where the armies' discs are drawn, and their radius.
+Texts Discs(const Replay& replay, double seconds) {
+  Recorder surface;
+  DrawMoving(replay, {settings::MapMode::Colour}, seconds / render::Seconds(replay), surface);
+  Texts discs;
+  for (const Stroke& circle : surface.All("circle")) {
+    discs.push_back(At({circle.Points[0].X, circle.Points[0].Y}) + " " +
+                    std::to_string(std::lround(circle.Width)));
+  }
+  return discs;
+}
+
+render::Point UnitAt(std::string_view name) {
+  const auto& place = RealMap()->Provinces[model::FindProvince(*RealMap(), name)];
+  return {place.UnitX * 10000.0, place.UnitY * 8000.0};
+}
+
+render::Point LabelAt(std::string_view name) {
+  const auto& place = RealMap()->Provinces[model::FindProvince(*RealMap(), name)];
+  return {place.LabelX * 10000.0, place.LabelY * 8000.0};
+}
+
+std::string Middle(render::Point a, render::Point b) {
+  return At({(a.X + b.X) / 2, (a.Y + b.Y) / 2});
+}
+
+TEST(AnimationView, UnitsGoTheirWaysOneStageAfterTheOther) {
+  const GameState game =
+      Situation("finished", {"FRA A(Bur) Par", "ITA A(Pie) Pie", "AUS A(Vie)"}, "Bur", "Autumn");
+  const Replay replay = history::SeasonReplay(
+      game, Outcomes({"+FRA A(Par) - Bur", "!ITA A(Pie) - Mar", "!GER A(Bur) HOLD"}));
+  const std::string par = At(UnitAt("Par")) + " 115";
+  const std::string pie = At(UnitAt("Pie")) + " 115";
+  const std::string bur = At(UnitAt("Bur")) + " 115";
+  EXPECT_THAT(Discs(replay, 0.4), ElementsAre(par, pie, bur));
+  // The moves take from 0.5 to 2.1 seconds, retreats from 2.4 to 3.6, builds from 3.9 to 4.8.
+  EXPECT_THAT(Discs(replay, 1.3), ElementsAre(bur, Middle(UnitAt("Par"), UnitAt("Bur")) + " 115",
+                                              Middle(UnitAt("Pie"), UnitAt("Mar")) + " 115"));
+  const std::string aside = At(LabelAt("Bur"));
+  EXPECT_THAT(Discs(replay, 2.2), ElementsAre(bur, pie, aside + " 86"));
+  EXPECT_THAT(Discs(replay, 3.0), ElementsAre(bur, pie, aside + " 43"));
+  EXPECT_THAT(Discs(replay, 3.7), ElementsAre(bur, pie));
+  EXPECT_THAT(Discs(replay, 4.352), ElementsAre(bur, pie, At(UnitAt("Vie")) + " 58"));
+  EXPECT_THAT(Discs(replay, 5.5), ElementsAre(bur, pie, At(UnitAt("Vie")) + " 115"));
+}
+
+}  // namespace
+}  // namespace orb::tests
