@@ -1,12 +1,8 @@
 #include "history/replay.h"
 
 #include "model/errors.h"
-#include "render/animation_view.h"
-#include "render/recorder.h"
-#include "settings/map_options.h"
 #include "support/situation.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -21,7 +17,6 @@ using history::Replay;
 using model::GameState;
 using orders::OrderOutcome;
 using orders::Outcome;
-using ::testing::ElementsAre;
 
 using Texts = std::vector<std::string>;
 
@@ -222,52 +217,6 @@ TEST(ReplayBetween, MatchesUnits) {
        {"FRA A(Par) - Bur", "FRA F(Bre) - MAO"}}};
   for (const auto& [name, earlier, later, journeys] : cases)
     EXPECT_EQ(Journeys(history::ReplayBetween(earlier, later)), journeys) << name;
-}
-
-/// Where the armies' discs are drawn, and their radius.
-Texts Discs(const Replay& replay, double seconds) {
-  Recorder surface;
-  DrawMoving(replay, {settings::MapMode::Colour}, seconds / render::Seconds(replay), surface);
-  Texts discs;
-  for (const Stroke& circle : surface.All("circle")) {
-    discs.push_back(At({circle.Points[0].X, circle.Points[0].Y}) + " " +
-                    std::to_string(std::lround(circle.Width)));
-  }
-  return discs;
-}
-
-render::Point UnitAt(std::string_view name) {
-  const auto& place = RealMap()->Provinces[model::FindProvince(*RealMap(), name)];
-  return {place.UnitX * 10000.0, place.UnitY * 8000.0};
-}
-
-render::Point LabelAt(std::string_view name) {
-  const auto& place = RealMap()->Provinces[model::FindProvince(*RealMap(), name)];
-  return {place.LabelX * 10000.0, place.LabelY * 8000.0};
-}
-
-std::string Middle(render::Point a, render::Point b) {
-  return At({(a.X + b.X) / 2, (a.Y + b.Y) / 2});
-}
-
-TEST(AnimationView, UnitsGoTheirWaysOneStageAfterTheOther) {
-  const GameState game =
-      Situation("finished", {"FRA A(Bur) Par", "ITA A(Pie) Pie", "AUS A(Vie)"}, "Bur", "Autumn");
-  const Replay replay = history::SeasonReplay(
-      game, Outcomes({"+FRA A(Par) - Bur", "!ITA A(Pie) - Mar", "!GER A(Bur) HOLD"}));
-  const std::string par = At(UnitAt("Par")) + " 115";
-  const std::string pie = At(UnitAt("Pie")) + " 115";
-  const std::string bur = At(UnitAt("Bur")) + " 115";
-  EXPECT_THAT(Discs(replay, 0.4), ElementsAre(par, pie, bur));
-  // The moves take from 0.5 to 2.1 seconds, retreats from 2.4 to 3.6, builds from 3.9 to 4.8.
-  EXPECT_THAT(Discs(replay, 1.3), ElementsAre(bur, Middle(UnitAt("Par"), UnitAt("Bur")) + " 115",
-                                              Middle(UnitAt("Pie"), UnitAt("Mar")) + " 115"));
-  const std::string aside = At(LabelAt("Bur"));
-  EXPECT_THAT(Discs(replay, 2.2), ElementsAre(bur, pie, aside + " 86"));
-  EXPECT_THAT(Discs(replay, 3.0), ElementsAre(bur, pie, aside + " 43"));
-  EXPECT_THAT(Discs(replay, 3.7), ElementsAre(bur, pie));
-  EXPECT_THAT(Discs(replay, 4.352), ElementsAre(bur, pie, At(UnitAt("Vie")) + " 58"));
-  EXPECT_THAT(Discs(replay, 5.5), ElementsAre(bur, pie, At(UnitAt("Vie")) + " 115"));
 }
 
 }  // namespace

@@ -150,6 +150,22 @@ TEST(OrderDrawing, ConvoyedMovesPassThroughTheirFleetsInTurn) {
   EXPECT_EQ(ends[0] + ends[1], At(UnitAt("ECH")) + At(UnitAt("MAO")));
 }
 
+TEST(OrderDrawing, WhatIsVoidLiesBelowWhatCounts) {
+  constexpr double voidPen = 1.5;
+  const GameState game = Board("Spring", "moves", {});
+  const OrderOutcome counts = {"FRA", "A", "Par", "-", "", "Bur", false, Outcome::Succeeded};
+  const OrderOutcome isVoid = {"GER", "A", "Mun", "-", "", "Tyr", false, Outcome::Void};
+  for (const Orders& orders : {Orders{counts, isVoid}, Orders{isVoid, counts}}) {
+    const DrawnOrders surface(game, orders);
+    const auto penIs = [](double pen) {
+      return [pen](const Stroke& stroke) { return stroke.Kind == "line" && stroke.Pen == pen; };
+    };
+    const auto first = std::ranges::find_if(surface.Strokes, penIs(MovePen));
+    ASSERT_TRUE(std::ranges::any_of(surface.Strokes, penIs(voidPen)));
+    EXPECT_TRUE(std::none_of(first, surface.Strokes.end(), penIs(voidPen)));
+  }
+}
+
 TEST(OrderDrawing, LabelsComeBackOverLines) {
   const GameState game = Board("Spring", "moves", {});
   const Orders longMove = {{"RUS", "A", "Mos", "-", "", "Por"}};
