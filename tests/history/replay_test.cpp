@@ -132,11 +132,12 @@ TEST(SeasonReplay, JourneysFollowPositionsAndOutcomes) {
        "Nwy Yor",
        {"+ENG A(Yor) - Nwy ~", "+RUS A(Nwy) - Yor", "+ENG F(NTH) C Yor Nwy"},
        {"ENG A(Yor) - Nwy via NTH", "RUS A(Nwy) - Yor", "ENG F(NTH)"}},
-      {"fleets in the order of the way",
-       {"ENG A(Bre) Yor", "ENG F(ECH) ECH", "ENG F(NTH) NTH"},
-       "Bre",
-       {"+ENG A(Yor) - Bre ~", "+ENG F(ECH) C Yor Bre", "+ENG F(NTH) C Yor Bre"},
-       {"ENG A(Yor) - Bre via NTH via ECH", "ENG F(ECH)", "ENG F(NTH)"}}};
+      {"fleets in the order of the way: the last is nearer to the start than the one before",
+       {"ENG A(Yor) Lvp", "ENG F(ECH) ECH", "ENG F(NTH) NTH", "ENG F(IRI) IRI"},
+       "Yor",
+       {"+ENG A(Lvp) - Yor ~", "+ENG F(ECH) C Lvp Yor", "+ENG F(NTH) C Lvp Yor",
+        "+ENG F(IRI) C Lvp Yor"},
+       {"ENG A(Lvp) - Yor via IRI via ECH via NTH", "ENG F(ECH)", "ENG F(NTH)", "ENG F(IRI)"}}};
   for (const Case& test : cases) {
     const GameState game = Situation("finished", test.Units, test.Contested, "Autumn");
     const Replay replay = history::SeasonReplay(game, Outcomes(test.Outcomes));
