@@ -14,6 +14,9 @@ namespace orb::model {
 namespace {
 
 constexpr std::string_view OldestHeader = "ORB v0.1";
+
+/// Names the form of the records, which a new version of the program need not change.
+constexpr std::string_view WrittenHeader = "ORB v5.5";
 constexpr std::size_t VersionPosition = 5;
 
 /// What the records of a game file hold, which depends on its version.
@@ -163,7 +166,7 @@ std::optional<std::string> ParseGameFile(std::string_view bytes, const std::stri
 
 std::string FormatGameFile(const GameState& game) {
   RecordWriter writer;
-  writer.Text(ProgramName).EndRecord();
+  writer.Text(WrittenHeader).EndRecord();
   writer.Text(game.Title).Text(game.Season).Number(game.Year).Text(game.Stage).EndRecord();
   writer.Number(game.Units.Count()).EndRecord();
   for (const Unit& unit : game.Units) {

@@ -64,7 +64,7 @@ constexpr std::string_view Dislodged = "dislodged";
 /// A situation on this map before any game is set up: no units, no owners, no texts.
 GameState EmptyGame(std::shared_ptr<const Map> map);
 
-/// The window caption: "ORB v5.5", followed by a blank and the title when the game has its own.
+/// The window caption: ProgramName, followed by a blank and the title when the game has its own.
 std::string Caption(const GameState& game);
 
 /// Every supply centre that holds a unit now belongs to that unit's power. Throws

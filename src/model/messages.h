@@ -5,8 +5,8 @@
 
 namespace orb::model {
 
-/// The caption of every message box.
-constexpr std::string_view ProgramName = "ORB v5.5";
+/// "ORB v" and the version that CMakeLists.txt names: the caption of every message box.
+extern const std::string_view ProgramName;
 
 enum class Icon { None, Exclamation, Information, Stop };
 

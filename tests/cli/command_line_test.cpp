@@ -2,6 +2,7 @@
 #include "cli/desk.h"
 #include "cli/help.h"
 #include "cli/run.h"
+#include "model/messages.h"
 #include "text/encoding.h"
 
 #include <gmock/gmock.h>
@@ -91,7 +92,7 @@ TEST(CommandLine, HelpNamesEveryOptionOfTheCommandAndGoesToStandardOutput) {
           << command->Name << row;
     }
   }
-  EXPECT_EQ(desk.Run("--version").Out, "ORB v5.5, orbctl\n");
+  EXPECT_EQ(desk.Run("--version").Out, std::string(model::ProgramName) + ", orbctl\n");
 }
 
 TEST(CommandLine, ValuesMayStandBehindAnEqualsSignAndNamesMayBeginWithADash) {

@@ -1,6 +1,7 @@
 #include "model/seasons.h"
 
 #include "model/errors.h"
+#include "model/messages.h"
 #include "model/new_game.h"
 #include "support/directories.h"
 #include "support/scripted_messages.h"
@@ -34,7 +35,7 @@ GameState UsedGame() {
 }
 
 void ExpectCleared(GameState& game) {
-  EXPECT_EQ(model::Caption(game), "ORB v5.5");
+  EXPECT_EQ(model::Caption(game), model::ProgramName);
   EXPECT_EQ(game.Season + std::to_string(game.Year) + game.Stage, "Spring1901moves");
   EXPECT_TRUE(game.OrdersList.empty() && game.RetreatsList.empty() && game.AdjustmentsList.empty());
   EXPECT_EQ(game.TextLines.Count() + game.ReportLines.Count(), 0);
@@ -45,7 +46,7 @@ void ExpectCleared(GameState& game) {
 
 TEST(NewGame, SetsUpTheStartOrAnEmptyBoard) {
   GameState game = UsedGame();
-  EXPECT_EQ(model::Caption(game), "ORB v5.5 Used");
+  EXPECT_EQ(model::Caption(game), std::string(model::ProgramName) + " Used");
   model::NewGame(game, DataDirectory());
   ExpectCleared(game);
   ASSERT_EQ(game.Units.Count(), 22);

@@ -108,7 +108,7 @@ TEST_F(AnimationTest, FilesArePlayedInOrderAndThoseThatDoNotFitAreNamed) {
   {
     const ModalScript answers(
         {[&](QDialog& dialog) {
-           EXPECT_EQ(dialog.windowTitle(), "ORB v5.5 Animate");
+           EXPECT_EQ(dialog.windowTitle(), Titled(" Animate"));
            FileChosen(Typed({"con_S02.orb", "con_a01_built.orb", "plain.orb", "con_a01.orb",
                              "con_s01.orb", "con_s03.orb", "foreign_a02.orb"}))(dialog);
          },

@@ -72,7 +72,7 @@ TEST_F(WindowTest, ImportedLinesAreCorrectedWhereTheyStand) {
       "orders.txt", "FRANCE\nHello!\nA Paris to Burgundy\nF Brest - \xC9hc\nA Mar S Par - Bur\n");
   const auto correct = [](QDialog& dialog) {
     const Preview preview(dialog);
-    EXPECT_EQ(dialog.windowTitle(), "ORB v5.5 Import Orders");
+    EXPECT_EQ(dialog.windowTitle(), Titled(" Import Orders"));
     EXPECT_EQ(preview.Understood(2), "FRA A(Par) - Bur");
     EXPECT_EQ(preview.Mark(2), OrderMark::Passes);
     EXPECT_EQ(preview.Mark(3), OrderMark::Stopped);
@@ -177,7 +177,7 @@ TEST_F(WindowTest, OrdersHandedOutAreReadAgain) {
     Enter(QString::fromStdString(order));
   const auto file = directory_.Path() / "handed out.txt";
   const auto propose = [&](QDialog& dialog) {
-    EXPECT_EQ(dialog.windowTitle(), "ORB v5.5 Export Orders");
+    EXPECT_EQ(dialog.windowTitle(), Titled(" Export Orders"));
     EXPECT_EQ(dialog.findChild<QLineEdit*>()->text(), "s01_orders.txt");
     FileChosen(Shown(file))(dialog);
   };

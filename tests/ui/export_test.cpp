@@ -81,7 +81,7 @@ class ExportTest : public testing::Test {
 };
 
 TEST_F(ExportTest, DialogsProposeAndCancelSilently) {
-  const auto expect = [](const char* title, const char* filter, const char* proposal) {
+  const auto expect = [](const QString& title, const char* filter, const char* proposal) {
     return [=](QDialog& dialog) {
       auto& files = dynamic_cast<QFileDialog&>(dialog);
       EXPECT_EQ(files.windowTitle(), title);
@@ -92,8 +92,8 @@ TEST_F(ExportTest, DialogsProposeAndCancelSilently) {
       files.reject();
     };
   };
-  const ModalScript answers({expect("ORB v5.5 Export Bitmap", "Bitmap files: *.bmp", "a10.bmp"),
-                             expect("ORB v5.5 Export Text", "Text files: *.txt", "a10.txt")});
+  const ModalScript answers({expect(Titled(" Export Bitmap"), "Bitmap files: *.bmp", "a10.bmp"),
+                             expect(Titled(" Export Text"), "Text files: *.txt", "a10.txt")});
   commands_.exportBitmap();
   commands_.exportText();
   EXPECT_EQ(folder_.EntryCount(), 0);
@@ -156,7 +156,7 @@ TEST_F(ExportTest, TheExportedTextIsOpened) {
 TEST_F(ExportTest, PrintsToAPdfFile) {
   const fs::path file = folder_.Path() / "map.pdf";
   const auto print = [&](QDialog& dialog) {
-    EXPECT_EQ(dialog.windowTitle(), "ORB v5.5 Print");
+    EXPECT_EQ(dialog.windowTitle(), Titled(" Print"));
     EXPECT_FALSE(dialog.findChild<QWidget*>("printRange")->isEnabled());
     auto* printers = dialog.findChild<QComboBox*>("printers");
     printers->setCurrentIndex(printers->count() - 1);

@@ -1,5 +1,8 @@
 #include "ui/modal_script.h"
 
+#include "model/messages.h"
+#include "text/qt/text_codec.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
@@ -68,6 +71,10 @@ void Press(int key, Qt::KeyboardModifiers modifiers) {
   }));
 }
 
+QString Titled(const char* rest) {
+  return text::ToQString(model::ProgramName) + QLatin1String(rest);
+}
+
 void Type(const QString& text) {
   QWidget* target = FocusWidget();
   for (const QChar character : text) {
@@ -80,7 +87,7 @@ ModalScript::Step Answered(const QString& text, int key, Qt::KeyboardModifiers m
   return [=](QDialog& dialog) {
     const auto* box = qobject_cast<QMessageBox*>(&dialog);
     EXPECT_EQ(box != nullptr ? box->text().toStdString() : "no message box", text.toStdString());
-    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("ORB v5.5"));
+    EXPECT_EQ(dialog.windowTitle(), Titled());
     QTest::keyClick(&dialog, static_cast<Qt::Key>(key), modifiers);
     if (!QTest::qWaitFor([&] { return !dialog.isVisible(); }, 1000)) {
       ADD_FAILURE() << "the key does not answer the box";

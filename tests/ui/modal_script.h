@@ -26,6 +26,9 @@ class ModalScript {
   QTimer timer_;
 };
 
+/// A window's title: the program's name and what follows it.
+QString Titled(const char* rest = "");
+
 /// Presses a key where the keyboard goes to now.
 void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 

@@ -134,7 +134,7 @@ TEST_F(WindowTest, OpenBeginsWithTheFilterOfTheLastFileAndMayBeForReadingOnly) {
     const auto file = directory_.Write(name, game);
     const ModalScript answers({[&](QDialog& dialog) {
       const auto& files = dynamic_cast<QFileDialog&>(dialog);
-      EXPECT_EQ(files.windowTitle(), "ORB v5.5 Open");
+      EXPECT_EQ(files.windowTitle(), Titled(" Open"));
       EXPECT_EQ(files.fileMode(), QFileDialog::ExistingFile);
       EXPECT_EQ(files.findChild<QLineEdit*>()->text(), "");
       EXPECT_EQ(files.selectedNameFilter(), filter);
@@ -184,7 +184,7 @@ TEST_F(WindowTest, SaveAsksProposesAndLowersTheName) {
     const ModalScript answers({[](QDialog& dialog) {
       auto* files = qobject_cast<QFileDialog*>(&dialog);
       ASSERT_NE(files, nullptr);
-      EXPECT_EQ(files->windowTitle(), "ORB v5.5 Save As");
+      EXPECT_EQ(files->windowTitle(), Titled(" Save As"));
       EXPECT_EQ(files->acceptMode(), QFileDialog::AcceptSave);
       EXPECT_EQ(files->findChild<QLineEdit*>()->text(), "con_s01.orb");
       EXPECT_EQ(files->selectedNameFilter(), "Concordat files: *.orb");

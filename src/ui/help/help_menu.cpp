@@ -94,10 +94,10 @@ void HelpMenu::showStage() {
 }
 
 void HelpMenu::about() {
-  QMessageBox::about(
-      m_window, text::ToQString(model::ProgramName),
-      tr("<h3>ORB v5.5</h3><p>Holds a game of seven powers, their armies and fleets, "
-         "draws its map and resolves its orders.</p>"));
+  QMessageBox::about(m_window, text::ToQString(model::ProgramName),
+                     tr("<h3>%1</h3><p>Holds a game of seven powers, their armies and fleets, "
+                        "draws its map and resolves its orders.</p>")
+                         .arg(text::ToQString(model::ProgramName)));
 }
 
 }  // namespace orb::ui

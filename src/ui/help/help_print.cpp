@@ -1,5 +1,7 @@
 #include "ui/help/help_print.h"
 
+#include "model/messages.h"
+#include "text/qt/text_codec.h"
 #include "ui/help/help_text.h"
 
 #include <QPrintDialog>
@@ -37,7 +39,7 @@ void askToPrintHelp(const help::HelpTopics& topics, const help::HelpTopics& all,
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(QObject::tr("ORB Help"));
   QPrintDialog dialog(&printer, parent);
-  dialog.setWindowTitle(QObject::tr("ORB v5.5 Print Help"));
+  dialog.setWindowTitle(text::ToQString(model::ProgramName) + QObject::tr(" Print Help"));
   dialog.setOptions(QAbstractPrintDialog::PrintToFile);
   if (dialog.exec() == QDialog::Accepted) printHelp(topics, all, printer);
 }
