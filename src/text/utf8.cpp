@@ -24,4 +24,21 @@ std::optional<char32_t> NextCharacter(std::string_view& utf8) {
   return character;
 }
 
+void AppendUtf8(std::string& utf8, char32_t character) {
+  constexpr char32_t low = 0x3F;
+  const auto add = [&](char32_t byte) { utf8 += static_cast<char>(byte); };
+  if (character < 0x80) return add(character);
+  if (character < 0x800) {
+    add(0xC0 | (character >> 6U));
+  } else if (character < 0x10000) {
+    add(0xE0 | (character >> 12U));
+    add(0x80 | ((character >> 6U) & low));
+  } else {
+    add(0xF0 | (character >> 18U));
+    add(0x80 | ((character >> 12U) & low));
+    add(0x80 | ((character >> 6U) & low));
+  }
+  add(0x80 | (character & low));
+}
+
 }  // namespace orb::text

@@ -3,36 +3,21 @@
 #include "model/errors.h"
 #include "model/seasons.h"
 #include "orders/order_list.h"
+#include "text/encoding.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 
 namespace orb::exchange {
 namespace {
 
-void AppendUtf8(std::string& text, char32_t character) {
-  constexpr char32_t low = 0x3F;
-  const auto add = [&](char32_t byte) { text += static_cast<char>(byte); };
-  if (character < 0x80) return add(character);
-  if (character < 0x800) {
-    add(0xC0 | (character >> 6U));
-  } else if (character < 0x10000) {
-    add(0xE0 | (character >> 12U));
-    add(0x80 | ((character >> 6U) & low));
-  } else {
-    add(0xF0 | (character >> 18U));
-    add(0x80 | ((character >> 12U) & low));
-    add(0x80 | ((character >> 6U) & low));
-  }
-  add(0x80 | (character & low));
-}
-
 /// Bytes of UTF-16 as UTF-8; half characters become U+FFFD.
 std::string FromUtf16(std::string_view bytes, bool isLowFirst) {
   constexpr char32_t replacement = 0xFFFD;
-  std::string text;
+  std::string utf8;
   char32_t high = 0;
   const auto end = [&] {
-    if (high != 0) AppendUtf8(text, replacement);
+    if (high != 0) text::AppendUtf8(utf8, replacement);
     high = 0;
   };
   for (std::size_t at = 0; at + 1 < bytes.size(); at += 2) {
@@ -40,7 +25,7 @@ std::string FromUtf16(std::string_view bytes, bool isLowFirst) {
     const auto second = static_cast<unsigned char>(bytes[at + (isLowFirst ? 0 : 1)]);
     const char32_t unit = static_cast<char32_t>(first) << 8U | second;
     if (unit >= 0xDC00 && unit < 0xE000 && high != 0) {
-      AppendUtf8(text, 0x10000 + ((high - 0xD800) << 10U) + (unit - 0xDC00));
+      text::AppendUtf8(utf8, 0x10000 + ((high - 0xD800) << 10U) + (unit - 0xDC00));
       high = 0;
       continue;
     }
@@ -48,11 +33,11 @@ std::string FromUtf16(std::string_view bytes, bool isLowFirst) {
     if (unit >= 0xD800 && unit < 0xDC00) {
       high = unit;
     } else {
-      AppendUtf8(text, unit >= 0xDC00 && unit < 0xE000 ? replacement : unit);
+      text::AppendUtf8(utf8, unit >= 0xDC00 && unit < 0xE000 ? replacement : unit);
     }
   }
   end();
-  return text;
+  return utf8;
 }
 
 }  // namespace
@@ -63,7 +48,7 @@ std::string OrdersFileText(std::string bytes, const std::string& fileName) {
     bytes = FromUtf16(std::string_view(bytes).substr(2), isLowFirst);
   }
   if (bytes.find('\0') != std::string::npos) {
-    throw model::FileError(fileName +
+    throw model::FileError(text::NameInText(fileName) +
                            " is no text file that can be read: it holds bytes of value 0. Orders "
                            "are read from texts in UTF-8, Windows-1252 or UTF-16 with its byte "
                            "order mark.");
