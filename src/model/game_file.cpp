@@ -4,11 +4,16 @@
 #include "model/files.h"
 #include "model/new_game.h"
 #include "model/record_file.h"
+#include "model/unit_fields.h"
+#include "text/encoding.h"
 #include "text/strings.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
-#include <utility>
+#include <cstdint>
+#include <forward_list>
+#include <vector>
 
 namespace orb::model {
 namespace {
@@ -51,121 +56,223 @@ Layout LayoutOf(std::string_view header) {
   return layout;
 }
 
-void ReadSituation(RecordReader& reader, const Layout& layout, GameState& game) {
-  game.Title = layout.HasTitle ? reader.Text("a title") : DefaultTitle;
-  game.Season = reader.Text("a season");
-  game.Year = reader.Number("a year");
-  game.Stage = reader.Text("a stage");
+struct UnitFields {
+  std::string_view Power, UnitType, Location, Status, DislodgedFrom, PreviousLocation;
+};
+
+struct ProvinceFields {
+  std::string_view Owner, PreviousOwner;
+  bool Uncontested = false;
+  bool IsFound = false;
+};
+
+/// What a file was found to hold, as parts of its bytes. The situation takes it over only when all
+/// of it was read, so that a broken file changes nothing and nothing has to be copied for that.
+struct Contents {
+  std::string_view Title = DefaultTitle, Season, Stage;
+  std::int16_t Year = 0;
+  Table<UnitFields, UnitBound> Units;
+  Table<ProvinceFields, ProvinceBound> Provinces;  ///< rows as in the map
+  std::vector<std::string_view> Orders;
+  Table<std::string_view, TextLineBound> TextLines;
+  bool HasPlayers = false;
+  std::array<std::optional<std::string_view>, CountryCount> Players;
+};
+
+/// Reads the records of one file.
+class GameReader {
+ public:
+  GameReader(std::string_view bytes, const std::string& fileName, const Map& map)
+      : map_(map), scan_(map), fileName_(fileName), reader_(bytes, fileName) {
+    std::string_view header = reader_.Text("a header");
+    if (!header.starts_with("ORB")) {
+      header = OldestHeader;
+      reader_ = RecordReader(bytes, fileName);
+    }
+    layout_ = LayoutOf(header);
+  }
+
+  const Layout& FileLayout() const { return layout_; }
+  const Contents& Found() const { return contents_; }
+
+  /// Reads the whole file; the first location name that is not on the map, or nothing.
+  std::optional<std::string> Read() {
+    ReadSituation();
+    ReadUnits();
+    if (auto unknown = ReadProvinces()) return unknown;
+    ReadOrders();
+    ReadTexts();
+    ReadPlayers();
+    CheckUnits();
+    return std::nullopt;
+  }
+
+ private:
+  std::string_view ReadFixed(std::string_view expected) {
+    const std::string_view field = reader_.Text(expected);
+    if (!scan_.Finds(field)) return field;
+    std::string& fixed = fixedTexts_.emplace_front(field);
+    FixNames(map_, fixed);
+    return fixed;
+  }
+
+  void ReadSituation() {
+    if (layout_.HasTitle) contents_.Title = reader_.Text("a title");
+    contents_.Season = reader_.Text("a season");
+    contents_.Year = reader_.Number("a year");
+    contents_.Stage = reader_.Text("a stage");
+  }
+
+  void ReadUnits() {
+    contents_.Units.SetCount(reader_.NumberUpTo(UnitBound, "the number of units"));
+    for (UnitFields& unit : contents_.Units) {
+      unit.Power = ReadPower(reader_);
+      unit.UnitType = ReadUnitType(reader_);
+      unit.Location = ReadFixed("a unit's location");
+      unit.Status = reader_.Text("a unit's status");
+      if (layout_.HasDislodgedFrom) {
+        unit.DislodgedFrom = ReadFixed("where a unit was dislodged from");
+      }
+      unit.PreviousLocation =
+          layout_.HasPreviousLocation ? ReadFixed("a unit's previous location") : Unknown;
+    }
+  }
+
+  std::optional<std::string> ReadProvinces() {
+    const int count = reader_.Number("the number of locations");
+    contents_.Provinces.SetCount(map_.Provinces.Count());
+    for (int i = 1; i <= count; ++i) {
+      const std::string_view name = ReadFixed("a location");
+      const int row = FindProvince(map_, name);
+      if (row == 0) return std::string(name);
+      ProvinceFields& province = contents_.Provinces[row];
+      province.IsFound = true;
+      province.Owner = reader_.Text("a location's owner");
+      province.Uncontested =
+          !layout_.HasUncontested || reader_.Flag("a location's uncontested flag");
+      if (layout_.HasPreviousOwner) province.PreviousOwner = reader_.Text("a previous owner");
+      if (layout_.ForgetsPreviousOwner) province.PreviousOwner = Unknown;
+    }
+    return std::nullopt;
+  }
+
+  void ReadOrders() {
+    const int count = reader_.Number("the number of orders");
+    contents_.Orders.reserve(UnitBound);
+    for (int i = 1; i <= count; ++i)
+      contents_.Orders.push_back(ReadFixed("an order"));
+  }
+
+  void ReadTexts() {
+    if (reader_.AtEnd()) return;
+    contents_.TextLines.SetCount(reader_.NumberUpTo(TextLineBound, "the number of text lines"));
+    for (std::string_view& line : contents_.TextLines)
+      line = ReadFixed("a text line");
+  }
+
+  void ReadPlayers() {
+    contents_.HasPlayers = !reader_.AtEnd();
+    if (!contents_.HasPlayers) return;
+    const int count = reader_.Number("the number of powers");
+    for (int i = 1; i <= count; ++i) {
+      const int country = FindCountry(reader_.Text("a power"));
+      const std::string_view name = reader_.Text("a player's name");
+      if (country != 0) contents_.Players[static_cast<std::size_t>(country - 1)] = name;
+    }
+  }
+
+  /// The file format does not keep a unit from standing nowhere, but nothing could be done with it.
+  void CheckUnits() const {
+    for (const UnitFields& unit : contents_.Units) {
+      if (FindProvince(map_, unit.Location) != 0) continue;
+      std::string text = text::NameInText(fileName_);
+      text += ": expected every unit in a location of the map, found ";
+      text.append(unit.Power).append(" ").append(unit.UnitType);
+      throw FileError(text.append("(").append(unit.Location).append(")."));
+    }
+  }
+
+  const Map& map_;
+  NameFixScan scan_;
+  const std::string& fileName_;
+  RecordReader reader_;
+  Layout layout_;
+  Contents contents_;
+  std::forward_list<std::string> fixedTexts_;  ///< where texts with an old abbreviation live
+};
+
+/// Most texts of a game are empty, which is cheaper to see than to assign.
+void Assign(std::string& text, std::string_view value) {
+  if (value.empty()) return text.clear();
+  text = value;
 }
 
-void ReadFixed(RecordReader& reader, const Map& map, std::string_view expected,
-               std::string& field) {
-  field = reader.Text(expected);
-  FixNames(map, field);
-}
-
-void ReadUnits(RecordReader& reader, const Layout& layout, GameState& game) {
-  game.Units.SetCount(reader.NumberUpTo(UnitBound, "the number of units"));
+void TakeUnits(const Contents& contents, const Layout& layout, GameState& game) {
+  game.Units.SetCount(contents.Units.Count());
+  const UnitFields* fields = contents.Units.begin();
   for (Unit& unit : game.Units) {
-    unit.Power = reader.Text("a unit's power");
-    unit.UnitType = reader.Text("a unit's type");
-    ReadFixed(reader, *game.Map, "a unit's location", unit.Location);
-    unit.Status = reader.Text("a unit's status");
-    if (layout.HasDislodgedFrom) {
-      ReadFixed(reader, *game.Map, "where a unit was dislodged from", unit.DislodgedFrom);
+    Assign(unit.Power, fields->Power);
+    Assign(unit.UnitType, fields->UnitType);
+    Assign(unit.Location, fields->Location);
+    Assign(unit.Status, fields->Status);
+    if (layout.HasDislodgedFrom) Assign(unit.DislodgedFrom, fields->DislodgedFrom);
+    Assign(unit.PreviousLocation, fields->PreviousLocation);
+    ++fields;
+  }
+}
+
+void TakeProvinces(const Contents& contents, const Layout& layout, GameState& game) {
+  ProvinceState* province = game.Provinces.begin();
+  for (const ProvinceFields& fields : contents.Provinces) {
+    if (fields.IsFound) {
+      Assign(province->Owner, fields.Owner);
+      province->Uncontested = fields.Uncontested;
+      if (layout.HasPreviousOwner || layout.ForgetsPreviousOwner) {
+        Assign(province->PreviousOwner, fields.PreviousOwner);
+      }
     }
-    unit.PreviousLocation = Unknown;
-    if (layout.HasPreviousLocation) {
-      ReadFixed(reader, *game.Map, "a unit's previous location", unit.PreviousLocation);
-    }
+    ++province;
   }
 }
 
-std::optional<std::string> ReadProvinces(RecordReader& reader, const Layout& layout,
-                                         GameState& game) {
-  const int count = reader.Number("the number of locations");
-  std::string name;
-  for (int i = 1; i <= count; ++i) {
-    ReadFixed(reader, *game.Map, "a location", name);
-    const int row = FindProvince(*game.Map, name);
-    if (row == 0) return name;
-    ProvinceState& province = game.Provinces[row];
-    province.Owner = reader.Text("a location's owner");
-    province.Uncontested = !layout.HasUncontested || reader.Flag("a location's uncontested flag");
-    if (layout.HasPreviousOwner) province.PreviousOwner = reader.Text("a previous owner");
-    if (layout.ForgetsPreviousOwner) province.PreviousOwner = Unknown;
-  }
-  return std::nullopt;
-}
-
-void ReadOrders(RecordReader& reader, GameState& game) {
-  const int count = reader.Number("the number of orders");
-  game.OrdersList.clear();
-  for (int i = 1; i <= count; ++i) {
-    ReadFixed(reader, *game.Map, "an order", game.OrdersList.emplace_back());
+void TakePlayers(const Contents& contents, GameState& game) {
+  auto player = contents.Players.begin();
+  for (Country& country : game.Countries) {
+    if (*player) country.PlayerName = **player;
+    if (!contents.HasPlayers) country.PlayerName.clear();
+    ++player;
   }
 }
 
-void ReadTexts(RecordReader& reader, GameState& game) {
-  game.TextLines.SetCount(0);
-  if (reader.AtEnd()) return;
-  game.TextLines.SetCount(reader.NumberUpTo(TextLineBound, "the number of text lines"));
-  for (std::string& line : game.TextLines)
-    ReadFixed(reader, *game.Map, "a text line", line);
-}
-
-void ReadPlayers(RecordReader& reader, GameState& game) {
-  if (reader.AtEnd()) {
-    for (Country& country : game.Countries)
-      country.PlayerName.clear();
-    return;
-  }
-  const int count = reader.Number("the number of powers");
-  for (int i = 1; i <= count; ++i) {
-    const int country = FindCountry(reader.Text("a power"));
-    const std::string_view name = reader.Text("a player's name");
-    if (country != 0) game.Countries[country].PlayerName = name;
-  }
-}
-
-/// The file format does not keep a unit from standing nowhere, but nothing could be done with it.
-void CheckUnits(const GameState& game, const std::string& fileName) {
-  for (const Unit& unit : game.Units) {
-    if (FindProvince(*game.Map, unit.Location) == 0) {
-      throw FileError(fileName + ": expected every unit in a location of the map, found " +
-                      unit.Power + " " + unit.UnitType + "(" + unit.Location + ").");
-    }
-  }
+void Take(const Contents& contents, const Layout& layout, GameState& game) {
+  game.Title = contents.Title;
+  game.Season = contents.Season;
+  game.Year = contents.Year;
+  game.Stage = contents.Stage;
+  TakeUnits(contents, layout, game);
+  TakeProvinces(contents, layout, game);
+  game.OrdersList.assign(contents.Orders.begin(), contents.Orders.end());
+  game.TextLines.SetCount(contents.TextLines.Count());
+  std::copy(contents.TextLines.begin(), contents.TextLines.end(), game.TextLines.begin());
+  TakePlayers(contents, game);
+  game.RetreatsList.clear();
+  game.AdjustmentsList.clear();
+  game.ReportLines.SetCount(0);
 }
 
 }  // namespace
 
 std::optional<std::string> ParseGameFile(std::string_view bytes, const std::string& fileName,
                                          GameState& game) {
-  RecordReader reader(bytes, fileName);
-  std::string_view header = reader.Text("a header");
-  if (!header.starts_with("ORB")) {
-    header = OldestHeader;
-    reader = RecordReader(bytes, fileName);
-  }
-  const Layout layout = LayoutOf(header);
-  GameState next = game;
-  ReadSituation(reader, layout, next);
-  ReadUnits(reader, layout, next);
-  if (auto unknown = ReadProvinces(reader, layout, next)) return unknown;
-  ReadOrders(reader, next);
-  ReadTexts(reader, next);
-  ReadPlayers(reader, next);
-  CheckUnits(next, fileName);
-  next.RetreatsList.clear();
-  next.AdjustmentsList.clear();
-  next.ReportLines.SetCount(0);
-  game = std::move(next);
+  GameReader reader(bytes, fileName, *game.Map);
+  if (auto unknown = reader.Read()) return unknown;
+  Take(reader.Found(), reader.FileLayout(), game);
   return std::nullopt;
 }
 
 std::string FormatGameFile(const GameState& game) {
-  RecordWriter writer;
+  constexpr std::size_t usualSize = 4096;
+  RecordWriter writer(usualSize);
   writer.Text(WrittenHeader).EndRecord();
   writer.Text(game.Title).Text(game.Season).Number(game.Year).Text(game.Stage).EndRecord();
   writer.Number(game.Units.Count()).EndRecord();
@@ -190,7 +297,7 @@ std::string FormatGameFile(const GameState& game) {
   for (const Country& country : game.Countries) {
     writer.Text(country.Abbreviation).Text(country.PlayerName).EndRecord();
   }
-  return writer.Bytes();
+  return writer.Take();
 }
 
 void WriteGameFile(const GameState& game) {

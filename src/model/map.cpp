@@ -3,27 +3,45 @@
 namespace orb::model {
 namespace {
 
-std::size_t Hash(std::string_view name) {
-  // FNV-1a, 32 bits.
-  std::uint32_t hash = 2166136261U;
+constexpr std::size_t FixLength = 3;
+constexpr std::size_t ExactLength = 7;
+
+/// A number that is different for every two names of up to ExactLength characters.
+inline std::uint64_t NameCode(std::string_view name) {
+  std::uint64_t code = name.size();
   for (const char c : name)
-    hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;
-  return (hash ^ hash >> 16) & 0xFF;
+    code = code << 8 | static_cast<unsigned char>(c);
+  return code;
+}
+
+/// The slot where the search for a name begins: the upper bits of a product are the well mixed.
+std::size_t FirstSlot(std::uint64_t code) {
+  return static_cast<std::size_t>(code * 0x9E3779B97F4A7C15U >> 56);
+}
+
+std::size_t NextSlot(std::size_t slot) {
+  return (slot + 1) & 0xFF;
 }
 
 }  // namespace
 
 void NameIndex::Insert(const Table<Province, ProvinceBound>& provinces, int row) {
-  if (Find(provinces, provinces[row].Name) != 0) return;
-  std::size_t slot = Hash(provinces[row].Name);
+  const std::string& name = provinces[row].Name;
+  if (Find(provinces, name) != 0) return;
+  const std::uint64_t code = NameCode(name);
+  std::size_t slot = FirstSlot(code);
   while (slots_[slot] != 0)
-    slot = (slot + 1) & 0xFF;
+    slot = NextSlot(slot);
   slots_[slot] = static_cast<std::uint8_t>(row);
+  codes_[slot] = code;
 }
 
 int NameIndex::Find(const Table<Province, ProvinceBound>& provinces, std::string_view name) const {
-  for (std::size_t slot = Hash(name); slots_[slot] != 0; slot = (slot + 1) & 0xFF) {
-    if (provinces[slots_[slot]].Name == name) return slots_[slot];
+  const std::uint64_t code = NameCode(name);
+  for (std::size_t slot = FirstSlot(code); slots_[slot] != 0; slot = NextSlot(slot)) {
+    const bool found = codes_[slot] == code &&
+                       (name.size() <= ExactLength || provinces[slots_[slot]].Name == name);
+    if (found) return slots_[slot];
   }
   return 0;
 }
@@ -35,8 +53,21 @@ int FindProvince(const Map& map, std::string_view name) {
 void FixNames(const Map& map, std::string& text) {
   for (const NameFix& fix : map.NameFixes) {
     const auto position = text.find(fix.From);
-    if (position != std::string::npos) text.replace(position, 3, fix.To);
+    if (position != std::string::npos) text.replace(position, FixLength, fix.To);
   }
+}
+
+NameFixScan::NameFixScan(const Map& map) : fixes_(map.NameFixes) {
+  for (const NameFix& fix : fixes_)
+    starts_[static_cast<unsigned char>(fix.From.front())] = true;
+}
+
+bool NameFixScan::FindsAt(const char* place) const {
+  for (const NameFix& fix : fixes_) {
+    const char* const from = fix.From.data();
+    if (place[0] == from[0] && place[1] == from[1] && place[2] == from[2]) return true;
+  }
+  return false;
 }
 
 }  // namespace orb::model

@@ -41,7 +41,8 @@ class NameIndex {
   int Find(const Table<Province, ProvinceBound>& provinces, std::string_view name) const;
 
  private:
-  std::array<std::uint8_t, 256> slots_{};
+  std::array<std::uint8_t, 256> slots_{};   ///< rows; 0 is free
+  std::array<std::uint64_t, 256> codes_{};  ///< of the names of those rows
 };
 
 /// The map that games are played on: loaded once, never changed by play.
@@ -61,5 +62,28 @@ int FindProvince(const Map& map, std::string_view name);
 /// Applies every name fix in order to the first place where its old text occurs: those three
 /// characters give way to the new abbreviation.
 void FixNames(const Map& map, std::string& text);
+
+/// Tells texts that FixNames leaves alone, which are nearly all, at one look per character. The map
+/// must outlive it.
+class NameFixScan {
+ public:
+  explicit NameFixScan(const Map& map);
+
+  /// Whether any old abbreviation occurs in the text.
+  bool Finds(std::string_view text) const {
+    if (text.size() < 3) return false;
+    const char* const end = text.data() + text.size() - 2;
+    for (const char* at = text.data(); at != end; ++at) {
+      if (starts_[static_cast<unsigned char>(*at)] && FindsAt(at)) return true;
+    }
+    return false;
+  }
+
+ private:
+  bool FindsAt(const char* place) const;
+
+  const Table<NameFix, NameFixBound>& fixes_;
+  std::array<bool, 256> starts_{};  ///< the first characters of the old abbreviations
+};
 
 }  // namespace orb::model

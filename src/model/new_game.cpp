@@ -2,13 +2,15 @@
 
 #include "model/files.h"
 #include "model/record_file.h"
+#include "model/unit_fields.h"
 
+#include <string>
 #include <utility>
 
 namespace orb::model {
 namespace {
 
-/// start.dat: a record of season and year, then one of power, unit type and location a unit.
+/// start.dat: a record of season and year, then one of power, unit type and location per unit.
 class StartFile {
  public:
   explicit StartFile(const std::filesystem::path& dataDirectory)
@@ -30,12 +32,18 @@ void ReadSeason(GameState& game, RecordReader& reader) {
 
 void ReadUnits(GameState& game, RecordReader& reader) {
   while (!reader.AtEnd()) {
+    if (game.Units.Count() == UnitBound) {
+      reader.Fail("at most " + std::to_string(UnitBound) + " units", "more");
+    }
     Unit& unit = game.Units.Append();
     unit = {};
-    unit.Power = reader.Text("a unit's power");
-    unit.UnitType = reader.Text("a unit's type");
+    unit.Power = ReadPower(reader);
+    unit.UnitType = ReadUnitType(reader);
     unit.Location = reader.Text("a unit's location");
     FixNames(*game.Map, unit.Location);
+    if (FindProvince(*game.Map, unit.Location) == 0) {
+      reader.Refuse("a unit's location (on the map)", unit.Location);
+    }
   }
 }
 

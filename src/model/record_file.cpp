@@ -1,7 +1,7 @@
 #include "model/record_file.h"
 
 #include "model/errors.h"
-#include "text/strings.h"
+#include "text/encoding.h"
 
 #include <array>
 #include <charconv>
@@ -11,10 +11,29 @@
 namespace orb::model {
 namespace {
 
-constexpr std::string_view LineEnds = "\r\n";
+/// A table of what a field ends at, for one look a byte: files are read and written by thousands.
+constexpr std::array<bool, 256> Marks(std::string_view characters) {
+  std::array<bool, 256> marks{};
+  for (const char c : characters)
+    marks[static_cast<unsigned char>(c)] = true;
+  return marks;
+}
+
+constexpr std::array<bool, 256> QuotedEnds = Marks("\"\r\n");
+constexpr std::array<bool, 256> PlainEnds = Marks(",\r\n");
+
+bool IsIn(const std::array<bool, 256>& marks, char c) {
+  return marks[static_cast<unsigned char>(c)];
+}
 
 bool IsLineEnd(char c) {
   return c == '\r' || c == '\n';
+}
+
+const char* SkipBlanks(const char* at, const char* end) {
+  while (at != end && *at == ' ')
+    ++at;
+  return at;
 }
 
 /// The field as it is shown in an error text: short, and without bytes that are no text.
@@ -39,60 +58,64 @@ bool Parse(std::string_view text, Number& number) {
 }  // namespace
 
 RecordReader::RecordReader(std::string_view bytes, std::string fileName)
-    : bytes_(bytes), fileName_(std::move(fileName)) {}
+    : next_(bytes.data()), end_(bytes.data() + bytes.size()), fileName_(std::move(fileName)) {}
 
 void RecordReader::Fail(std::string_view expected, std::string_view found) const {
-  std::string text = fileName_ + ", line " + std::to_string(fieldLine_) + ": expected ";
+  std::string text =
+      text::NameInText(fileName_) + ", line " + std::to_string(fieldLine_) + ": expected ";
   throw FileError(text.append(expected).append(", found ").append(found).append("."));
 }
 
+void RecordReader::Refuse(std::string_view expected, std::string_view field) const {
+  Fail(expected, Shown(field));
+}
+
 std::string_view RecordReader::Text(std::string_view expected) {
-  while (position_ < bytes_.size() && bytes_[position_] == ' ')
-    ++position_;
+  const char* at = SkipBlanks(next_, end_);
   fieldLine_ = line_;
-  if (position_ == bytes_.size()) Fail(expected, "the end of the file");
-  if (bytes_[position_] == '"') return QuotedField(expected);
-  std::size_t end = position_;
-  while (end < bytes_.size() && bytes_[end] != ',' && !IsLineEnd(bytes_[end]))
-    ++end;
-  const std::string_view field = text::Trim(bytes_.substr(position_, end - position_));
-  position_ = end;
-  EndField(expected);
-  return field;
-}
-
-std::string_view RecordReader::QuotedField(std::string_view expected) {
-  const std::size_t start = position_ + 1;
-  std::size_t end = start;
-  while (end < bytes_.size() && bytes_[end] != '"' && !IsLineEnd(bytes_[end]))
-    ++end;
-  if (end == bytes_.size() || bytes_[end] != '"') {
-    Fail(expected, "a text without its closing quote");
-  }
-  position_ = end + 1;
-  EndField(expected);
-  return bytes_.substr(start, end - start);
-}
-
-void RecordReader::EndField(std::string_view expected) {
-  while (position_ < bytes_.size() && bytes_[position_] == ' ')
-    ++position_;
-  if (position_ == bytes_.size()) return;
-  if (bytes_[position_] == ',') {
-    ++position_;
-  } else if (IsLineEnd(bytes_[position_])) {
-    position_ += bytes_.substr(position_, 2) == "\r\n" ? 2 : 1;
-    ++line_;
+  if (at == end_) Fail(expected, "the end of the file");
+  if (*at != '"') return PlainField(at, expected);
+  const char* const start = ++at;
+  while (at != end_ && !IsIn(QuotedEnds, *at))
+    ++at;
+  if (at == end_ || *at != '"') Fail(expected, "a text without its closing quote");
+  const char* const last = at++;
+  if (at != end_ && *at == ',') {
+    next_ = at + 1;
   } else {
-    Fail(expected, "more after a closing quote");
+    EndField(at, expected);
   }
+  return {start, last};
+}
+
+std::string_view RecordReader::PlainField(const char* at, std::string_view expected) {
+  const char* const start = at;
+  while (at != end_ && !IsIn(PlainEnds, *at))
+    ++at;
+  const char* last = at;
+  while (last != start && last[-1] == ' ')
+    --last;
+  EndField(at, expected);
+  return {start, last};
+}
+
+void RecordReader::EndField(const char* at, std::string_view expected) {
+  at = SkipBlanks(at, end_);
+  if (at != end_) {
+    const char end = *at++;
+    const bool lineEnds = IsLineEnd(end);
+    if (!lineEnds && end != ',') Fail(expected, "more after a closing quote");
+    if (lineEnds) ++line_;
+    if (end == '\r' && at != end_ && *at == '\n') ++at;
+  }
+  next_ = at;
 }
 
 template <class Whole>
 Whole RecordReader::WholeNumber(std::string_view expected) {
   const std::string_view field = Text(expected);
   Whole number = 0;
-  if (!Parse(field, number)) Fail(std::string(expected) + " (a whole number)", Shown(field));
+  if (!Parse(field, number)) Refuse(std::string(expected) + " (a whole number)", field);
   return number;
 }
 
@@ -112,41 +135,73 @@ float RecordReader::Fraction(std::string_view expected) {
   const std::string_view field = Text(expected);
   float number = 0;
   const bool decimal = field.find_first_not_of("+-.0123456789eE") == std::string_view::npos;
-  if (!decimal || !Parse(field, number)) Fail(std::string(expected) + " (a number)", Shown(field));
+  if (!decimal || !Parse(field, number)) Refuse(std::string(expected) + " (a number)", field);
   return number;
 }
 
 bool RecordReader::AtEnd() const {
-  return bytes_.find_first_not_of(" \r\n", position_) == std::string_view::npos;
+  return std::string_view(next_, end_).find_first_not_of(" \r\n") == std::string_view::npos;
 }
 
-void RecordWriter::StartField() {
-  if (recordStarted_) bytes_ += ',';
+void RecordWriter::Grow(std::size_t size) {
+  constexpr std::size_t smallest = 256;
+  bytes_.resize(2 * bytes_.size() + size + smallest);
+}
+
+inline char* RecordWriter::Room(std::size_t size) {
+  if (bytes_.size() - size_ < size) Grow(size);
+  return bytes_.data() + size_;
+}
+
+/// Where a field of at most this size can be put, after its comma.
+inline char* RecordWriter::StartField(std::size_t size) {
+  char* at = Room(size + 1);
+  *at = ',';
+  if (recordStarted_) ++at;
   recordStarted_ = true;
+  return at;
 }
 
 RecordWriter& RecordWriter::Text(std::string_view text) {
-  if (text.find('"') != std::string_view::npos ||
-      text.find_first_of(LineEnds) != std::string_view::npos) {
-    throw FatalError("A text with a double quote or a line end cannot be stored in a file: " +
-                     Shown(text) + ".");
+  char* at = StartField(text.size() + 2);
+  *at++ = '"';
+  for (const char c : text) {
+    if (IsIn(QuotedEnds, c)) {
+      throw FatalError("A text with a double quote or a line end cannot be stored in a file: " +
+                       Shown(text) + ".");
+    }
+    *at++ = c;
   }
-  StartField();
-  bytes_.append("\"").append(text).append("\"");
+  *at++ = '"';
+  size_ = static_cast<std::size_t>(at - bytes_.data());
+  return *this;
+}
+
+RecordWriter& RecordWriter::Plain(std::string_view field) {
+  char* at = StartField(field.size());
+  for (const char c : field)
+    *at++ = c;
+  size_ = static_cast<std::size_t>(at - bytes_.data());
   return *this;
 }
 
 RecordWriter& RecordWriter::Number(int number) {
-  StartField();
   std::array<char, std::numeric_limits<int>::digits10 + 2> digits{};
   const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), number);
-  bytes_.append(digits.data(), result.ptr);
-  return *this;
+  return Plain({digits.data(), result.ptr});
 }
 
 void RecordWriter::EndRecord() {
-  bytes_ += "\r\n";
+  char* const at = Room(2);
+  at[0] = '\r';
+  at[1] = '\n';
+  size_ += 2;
   recordStarted_ = false;
+}
+
+std::string RecordWriter::Take() {
+  bytes_.resize(size_);
+  return std::move(bytes_);
 }
 
 }  // namespace orb::model

@@ -6,16 +6,17 @@
 
 namespace orb::model {
 
-/// Reads the fields of a record file one after another. Fields are parted by commas and line ends
-/// (CR LF, LF or CR); a field in double quotes may hold commas; blanks round an unquoted field are
-/// dropped. A record with too few fields takes the missing ones from the next line. Every failure
-/// throws FileError naming the file, the line, what was expected and what was found.
+/// Reads the fields of a record file one after another. Fields are separated by commas and line
+/// ends (CR LF, LF or CR); a field in double quotes may hold commas; blanks round an unquoted field
+/// are dropped. A record with too few fields takes the missing ones from the next line. Every
+/// failure throws FileError naming the file, the line, what was expected and what was found.
 class RecordReader {
  public:
   /// `bytes` must outlive the reader; `fileName` is used in error texts.
   RecordReader(std::string_view bytes, std::string fileName);
 
-  /// The next field as text. `expected` says what the field is, for the error text.
+  /// The next field as text, a part of the reader's bytes. `expected` says what the field is, for
+  /// the error text.
   std::string_view Text(std::string_view expected);
 
   /// The next field as a whole decimal number of 16 bits.
@@ -33,38 +34,49 @@ class RecordReader {
   /// Throws the error for a field that was read last and is not what was expected.
   [[noreturn]] void Fail(std::string_view expected, std::string_view found) const;
 
+  /// The same; the field itself is what was found, shown in quotes and not too long.
+  [[noreturn]] void Refuse(std::string_view expected, std::string_view field) const;
+
   /// Whether nothing but blanks and line ends is left.
   bool AtEnd() const;
 
  private:
   template <class Whole>
   Whole WholeNumber(std::string_view expected);
-  std::string_view QuotedField(std::string_view expected);
-  void EndField(std::string_view expected);
+  std::string_view PlainField(const char* at, std::string_view expected);
+  void EndField(const char* at, std::string_view expected);
 
-  std::string_view bytes_;
-  std::size_t position_ = 0;
+  const char* next_;  ///< the first byte that was not read
+  const char* end_;
   int line_ = 1;
   int fieldLine_ = 1;
   std::string fileName_;
 };
 
-/// Writes records: texts in double quotes, numbers as plain decimals, fields parted by commas,
+/// Writes records: texts in double quotes, numbers as plain decimals, fields separated by commas,
 /// lines ended by CR LF.
 class RecordWriter {
  public:
+  /// `expectedSize`: about how many bytes will be written.
+  explicit RecordWriter(std::size_t expectedSize = 0) : bytes_(expectedSize, '\0') {}
+
   /// Throws FatalError when the text holds a double quote or a line end, which no record can store.
   RecordWriter& Text(std::string_view text);
   RecordWriter& Number(int number);
-  RecordWriter& Flag(bool flag) { return Number(flag ? -1 : 0); }
+  RecordWriter& Flag(bool flag) { return flag ? Plain("-1") : Plain("0"); }
   void EndRecord();
 
-  const std::string& Bytes() const { return bytes_; }
+  /// What was written; the writer is done with.
+  std::string Take();
 
  private:
-  void StartField();
+  RecordWriter& Plain(std::string_view field);
+  char* StartField(std::size_t size);
+  char* Room(std::size_t size);
+  void Grow(std::size_t size);
 
-  std::string bytes_;
+  std::string bytes_;     ///< longer than what is written, so that a field is one check for room
+  std::size_t size_ = 0;  ///< the bytes written
   bool recordStarted_ = false;
 };
 

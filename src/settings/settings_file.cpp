@@ -71,7 +71,7 @@ std::string FormatSettings(const Settings& settings, const model::CountryTable& 
     writer.Number(static_cast<int>(country.Colour)).Number(static_cast<int>(country.TextColour));
     writer.EndRecord();
   }
-  return writer.Bytes();
+  return writer.Take();
 }
 
 void ReadSettingsFile(const fs::path& file, Settings& settings, model::CountryTable& countries) {

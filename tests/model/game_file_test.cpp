@@ -183,6 +183,10 @@ TEST(GameFile, ABrokenOneIsRefusedAndChangesNothing) {
       {head + "many\n", "line 3"},
       {head + "41\n", "0 to 40"},
       {head + "-1\n", "0 to 40"},
+      {head + "1\n\"XXX\",\"A\",\"Lon\"",
+       "game.orb, line 4: expected a unit's power (one of ENG, FRA, "
+       "GER, RUS, TUR, AUS, ITA), found \"XXX\"."},
+      {head + "1\n\"ENG\",\"B\",\"Lon\"", "line 4: expected a unit's type (A or F), found \"B\"."},
       {head + "0\n1\n\"Lon\",\"ENG\",true,\"\"\n", "uncontested"},
       {head + "0\n1\n\"Xyz\",\"ENG\",0,\"\"\n", "unknown location Xyz"},
       {head + "0\n0\n3\none\n", "an order"},

@@ -18,6 +18,7 @@ namespace {
 
 using model::GameState;
 using testing::ElementsAre;
+using testing::HasSubstr;
 
 /// A situation with something in every place that a command may have to clear.
 GameState UsedGame() {
@@ -69,11 +70,14 @@ TEST(NewGame, ABrokenStartFileChangesNothing) {
     units += "\"ENG\",\"A\",\"Lon\"\r\n";
   for (const std::string& bytes : std::vector<std::string>{
            "", "\"Spring\"", "\"Spring\",soon", units, "\"Spring\",1901\r\n\"ENG\",\"A\"",
-           "\"Spring\",1901\r\n\"ENG\",\"A\",\"Xyz\""}) {
+           "\"Spring\",1901\r\n\"ENG\",\"A\",\"Xyz\"",
+           "\"Spring\",1901\r\n\"XXX\",\"A\",\"Lon\""}) {
     const TemporaryDirectory directory;
     directory.Write("start.dat", bytes);
     GameState game = UsedGame();
-    EXPECT_THROW(model::NewGame(game, directory.Path()), model::FatalError) << bytes;
+    EXPECT_THAT([&] { model::NewGame(game, directory.Path()); },
+                testing::ThrowsMessage<model::FileError>(HasSubstr("start.dat, line ")))
+        << bytes;
     EXPECT_EQ(Describe(game), Describe(UsedGame())) << bytes;
   }
   GameState game = UsedGame();
