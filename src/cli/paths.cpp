@@ -4,9 +4,10 @@
 #include "model/files.h"
 
 #include <algorithm>
-#include <set>
+#include <functional>
+#include <map>
 #include <system_error>
-#include <unordered_map>
+#include <unordered_set>
 
 namespace orb::cli {
 namespace {
@@ -18,6 +19,21 @@ bool IsDirectory(const fs::path& path) {
   return fs::is_directory(path, ignored);
 }
 
+// What is done for every game of thousands works on the texts of the paths: taking apart and
+// joining std::filesystem::path objects costs as much as a part of the adjudication.
+
+/// The part of a path behind its last "/".
+std::string_view FileName(std::string_view path) {
+  return path.substr(path.rfind('/') + 1);
+}
+
+/// The file's own name without its extension; a name that begins with its only dot has none.
+std::string_view Stem(std::string_view path) {
+  const std::string_view name = FileName(path);
+  const std::size_t dot = name.rfind('.');
+  return dot == 0 || name == ".." ? name : name.substr(0, dot);
+}
+
 /// An option that names a file, or a directory with a file for each game in it.
 class PathOption {
  public:
@@ -27,6 +43,7 @@ class PathOption {
     path_ = *line.Value(id);
     if (path_.empty()) throw UsageError("An empty text is no path.");
     inDirectory_ = IsDirectory(path_);
+    prefix_ = (path_ / "").string();
     if (!inDirectory_ && line.Games.size() > 1) {
       throw UsageError("With several games " + path_.string() + " must be an existing directory.");
     }
@@ -34,14 +51,14 @@ class PathOption {
 
   bool InDirectory() const { return inDirectory_; }
 
-  fs::path For(const fs::path& game) const {
+  fs::path For(const std::string& game) const {
     if (!inDirectory_) return path_;
-    fs::path name = game.stem();
-    return path_ / (name += extension_);
+    return prefix_ + std::string(Stem(game)).append(extension_);
   }
 
  private:
   fs::path path_;
+  std::string prefix_;  ///< of the files in the directory
   std::string_view extension_;
   bool inDirectory_ = false;
 };
@@ -49,27 +66,32 @@ class PathOption {
 /// Tells whether two paths name the same file; directories are looked up once.
 class FileNames {
  public:
-  std::string Of(const fs::path& path) {
+  std::string Of(const std::string& path) {
     std::error_code error;
-    if (fs::is_symlink(path, error)) {
+    if (model::IsLink(path)) {
       fs::path target = fs::weakly_canonical(path, error);
       if (!error) return target.string();
     }
-    const fs::path parent = path.parent_path();
-    auto [known, isNew] = directories_.try_emplace(parent.string());
-    if (isNew) known->second = fs::weakly_canonical(parent.empty() ? "." : parent, error).string();
-    return known->second + "/" + path.filename().string();
+    const std::string_view name = FileName(path);
+    std::string_view directory = std::string_view(path).substr(0, path.size() - name.size());
+    auto known = directories_.find(directory);
+    if (known == directories_.end()) {
+      const fs::path parent = fs::path(path).parent_path();
+      fs::path full = fs::weakly_canonical(parent.empty() ? "." : parent, error);
+      known = directories_.emplace(directory, full.string() + "/").first;
+    }
+    return known->second + std::string(name);
   }
 
  private:
-  std::unordered_map<std::string, std::string> directories_;
+  std::map<std::string, std::string, std::less<>> directories_;
 };
 
 /// A file that is written twice, or read after it was written, would lose what somebody wanted.
 void CheckOverlaps(const std::vector<GamePaths>& plan, bool mayReplace) {
   FileNames names;
-  std::set<std::string> written;
-  std::set<std::string> read;
+  std::unordered_set<std::string> written;
+  std::vector<std::string> read;
   const auto add = [&](const fs::path& path, std::string name) {
     if (written.insert(std::move(name)).second) return;
     throw UsageError(path.string() + " would be written twice.");
@@ -79,17 +101,17 @@ void CheckOverlaps(const std::vector<GamePaths>& plan, bool mayReplace) {
   };
   for (const GamePaths& paths : plan) {
     if (paths.Output.empty()) continue;
-    const std::string game = names.Of(paths.Game);
-    std::string output = paths.Output == paths.Game ? game : names.Of(paths.Output);
-    if (output != game || !mayReplace) read.insert(game);
+    std::string game = names.Of(paths.Game);
+    std::string output = paths.Output.native() == paths.Game ? game : names.Of(paths.Output);
+    if (output != game || !mayReplace) read.push_back(std::move(game));
     add(paths.Output, std::move(output));
     addText(paths.Report);
     addText(paths.Reasons);
-    if (!paths.Orders.empty()) read.insert(names.Of(paths.Orders));
+    if (!paths.Orders.empty()) read.push_back(names.Of(paths.Orders));
   }
-  for (const std::string& name : read) {
-    if (written.contains(name)) throw UsageError(name + " would be both read and written.");
-  }
+  std::erase_if(read, [&](const std::string& name) { return !written.contains(name); });
+  if (read.empty()) return;
+  throw UsageError(*std::ranges::min_element(read) + " would be both read and written.");
 }
 
 }  // namespace

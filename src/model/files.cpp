@@ -1,12 +1,14 @@
 #include "model/files.h"
 
 #include "model/errors.h"
+#include "text/encoding.h"
 #include "text/strings.h"
 
-#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
+#include <optional>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -21,8 +23,9 @@ namespace fs = std::filesystem;
 
 [[noreturn]] void Fail(std::string_view action, const fs::path& path, int error) {
   std::string text("Cannot ");
-  text.append(action).append(" ").append(path.string()).append(": ");
-  throw FileError(text.append(std::generic_category().message(error)).append("."));
+  text.append(action).append(" ").append(text::NameInText(path.string())).append(": ");
+  text.append(text::NameInText(std::generic_category().message(error)));
+  throw FileError(text.append("."));
 }
 
 /// An open file that is closed on every way out.
@@ -51,34 +54,47 @@ bool WriteAll(int descriptor, std::string_view bytes) {
   return true;
 }
 
+/// Where a file is to be written, links followed, and the mode of the file that is there.
+struct Target {
+  fs::path Path;
+  std::optional<mode_t> Mode;
+};
+
+/// Follows links step by step: the file at their end need not exist.
+Target FindTarget(fs::path path) {
+  constexpr int longestChain = 40;
+  for (int i = 0; i < longestChain; ++i) {
+    struct stat status {};
+    if (::lstat(path.c_str(), &status) != 0) break;
+    if (!S_ISLNK(status.st_mode)) return {std::move(path), status.st_mode};
+    std::error_code ignored;
+    path = path.parent_path() / fs::read_symlink(path, ignored);
+  }
+  return {std::move(path), std::nullopt};
+}
+
+/// A file that is there must be an ordinary one that may be written: renaming over it would not
+/// ask.
+void CheckReplaceable(const Target& target) {
+  if (!target.Mode) return;
+  if (!S_ISREG(*target.Mode)) {
+    throw FileError("Cannot write " + text::NameInText(target.Path.string()) +
+                    ": it is no ordinary file.");
+  }
+  if (::access(target.Path.c_str(), W_OK) != 0) Fail("write", target.Path, errno);
+}
+
 /// The mode the finished file shall have: that of the file it replaces, else the usual one.
-mode_t FileMode(const fs::path& target) {
-  struct stat status {};
-  if (::stat(target.c_str(), &status) == 0) return status.st_mode & 07777;
+mode_t FileMode(const Target& target) {
+  if (target.Mode) return *target.Mode & 07777;
   const mode_t mask = ::umask(0);
   ::umask(mask);
   return 0666 & ~mask;
 }
 
-/// Where a link leads, step by step: the file at its end need not exist.
-fs::path FollowLinks(fs::path path) {
-  constexpr int longestChain = 40;
-  std::error_code error;
-  for (int i = 0; i < longestChain && fs::is_symlink(path, error); ++i) {
-    path = path.parent_path() / fs::read_symlink(path, error);
-  }
-  return path;
-}
-
-/// A file that is there must be an ordinary one that may be written: renaming over it would not
-/// ask.
-void CheckReplaceable(const fs::path& target) {
-  std::error_code ignored;
-  if (!fs::exists(target, ignored)) return;
-  if (!fs::is_regular_file(target, ignored)) {
-    throw FileError("Cannot write " + target.string() + ": it is no ordinary file.");
-  }
-  if (::access(target.c_str(), W_OK) != 0) Fail("write", target, errno);
+/// The path without the file's own name, "/" included.
+std::string_view DirectoryPrefix(const fs::path& path) {
+  return std::string_view(path.native()).substr(0, path.native().rfind('/') + 1);
 }
 
 }  // namespace
@@ -86,31 +102,28 @@ void CheckReplaceable(const fs::path& target) {
 std::string ReadFile(const fs::path& path) {
   const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
   if (file.Number() < 0) Fail("read", path, errno);
-  struct stat status {};
-  if (::fstat(file.Number(), &status) != 0) Fail("read", path, errno);
-  constexpr std::size_t smallest = 4096;
-  std::string bytes(std::max(static_cast<std::size_t>(status.st_size) + 1, smallest), '\0');
-  std::size_t size = 0;
+  // Its size is not asked for: nearly every file fits here, and a pipe has none.
+  std::array<char, 65536> buffer;
+  std::string bytes;
   while (true) {
-    const ssize_t got = ::read(file.Number(), bytes.data() + size, bytes.size() - size);
+    const ssize_t got = ::read(file.Number(), buffer.data(), buffer.size());
     if (got < 0 && errno != EINTR) Fail("read", path, errno);
-    if (got == 0) break;
-    if (got > 0) size += static_cast<std::size_t>(got);
-    if (size == bytes.size()) bytes.resize(2 * bytes.size());
+    if (got == 0) return bytes;
+    if (got > 0) bytes.append(buffer.data(), static_cast<std::size_t>(got));
   }
-  bytes.resize(size);
-  return bytes;
 }
 
 void ReplaceFile(const fs::path& path, std::string_view bytes) {
-  const fs::path target = FollowLinks(path);
+  const Target target = FindTarget(path);
   CheckReplaceable(target);
-  std::string beside = (target.parent_path() / ".orb-XXXXXX").string();
+  std::string beside(DirectoryPrefix(target.Path));
+  beside += ".orb-XXXXXX";
   Descriptor file(::mkostemp(beside.data(), O_CLOEXEC));
   if (file.Number() < 0) Fail("write", path, errno);
-  const bool written =
-      WriteAll(file.Number(), bytes) && ::fchmod(file.Number(), FileMode(target)) == 0 &&
-      ::fsync(file.Number()) == 0 && file.Close() && ::rename(beside.c_str(), target.c_str()) == 0;
+  const bool written = WriteAll(file.Number(), bytes) &&
+                       ::fchmod(file.Number(), FileMode(target)) == 0 &&
+                       ::fsync(file.Number()) == 0 && file.Close() &&
+                       ::rename(beside.c_str(), target.Path.c_str()) == 0;
   if (!written) {
     const int error = errno;
     ::unlink(beside.c_str());
@@ -119,12 +132,16 @@ void ReplaceFile(const fs::path& path, std::string_view bytes) {
 }
 
 bool CanReplaceFile(const fs::path& path) {
-  const fs::path target = FollowLinks(path);
-  const fs::path directory = target.has_parent_path() ? target.parent_path() : ".";
+  const Target target = FindTarget(path);
+  const fs::path directory = target.Path.has_parent_path() ? target.Path.parent_path() : ".";
   if (::access(directory.c_str(), W_OK | X_OK) != 0) return false;
-  std::error_code ignored;
-  if (!fs::exists(target, ignored)) return true;
-  return fs::is_regular_file(target, ignored) && ::access(target.c_str(), W_OK) == 0;
+  if (!target.Mode) return true;
+  return S_ISREG(*target.Mode) && ::access(target.Path.c_str(), W_OK) == 0;
+}
+
+bool IsLink(const std::string& path) {
+  struct stat status {};
+  return ::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 
 fs::path LowerCaseName(const fs::path& path) {

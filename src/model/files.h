@@ -17,6 +17,9 @@ void ReplaceFile(const std::filesystem::path& path, std::string_view bytes);
 /// Whether ReplaceFile may write the file, as far as permissions tell.
 bool CanReplaceFile(const std::filesystem::path& path);
 
+/// Whether it is a symbolic link; it may lead nowhere.
+bool IsLink(const std::string& path);
+
 /// The path with the file's own name in small letters; directories stay as given.
 std::filesystem::path LowerCaseName(const std::filesystem::path& path);
 
