@@ -1,5 +1,7 @@
 #include "cli/console.h"
 
+#include "text/encoding.h"
+
 #include <algorithm>
 
 namespace orb::cli {
@@ -7,6 +9,10 @@ namespace {
 
 /// Fewer games are done before anybody could read it.
 constexpr std::size_t ShortRun = 50;
+
+bool IsBeyondAscii(char c) {
+  return static_cast<unsigned char>(c) >= 0x80;
+}
 
 std::string OnOneLine(std::string_view text) {
   std::string line;
@@ -27,8 +33,10 @@ void Console::Print(std::string_view bytes) {
 
 void Console::Say(std::string_view subject, std::string_view text) {
   ClearProgress();
+  // The subject is a path, which is written as it was given. With UTF-8 in it the whole line is.
+  const bool utf8 = text::IsUtf8(subject) && std::ranges::any_of(subject, IsBeyondAscii);
   std::string line(subject);
-  line.append(": ").append(OnOneLine(text)).append("\n");
+  line.append(": ").append(utf8 ? text::ToUtf8(OnOneLine(text)) : OnOneLine(text)).append("\n");
   err_.write(line.data(), static_cast<std::streamsize>(line.size()));
   err_.flush();
 }

@@ -2,6 +2,7 @@
 
 #include "model/errors.h"
 #include "model/files.h"
+#include "text/encoding.h"
 
 #include <dlfcn.h>
 #include <system_error>
@@ -12,7 +13,8 @@ void DrawMap(const MapRequest& request) {
   const std::filesystem::path file = model::ProgramDirectory() / DrawModule;
   std::error_code ignored;
   if (!std::filesystem::exists(file, ignored)) {
-    throw model::FatalError("Maps are drawn by " + file.string() + ", which is missing.");
+    throw model::FatalError("Maps are drawn by " + text::NameInText(file.string()) +
+                            ", which is missing.");
   }
   // Never closed: the toolkit that it brings along does not survive that.
   void* const module = ::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);

@@ -4,6 +4,7 @@
 #include "model/files.h"
 #include "model/game_file.h"
 #include "model/map_files.h"
+#include "text/encoding.h"
 
 #include <exception>
 #include <fstream>
@@ -60,7 +61,7 @@ void WriteText(const std::filesystem::path& path, std::string_view text) {
   if (!IsDevice(path)) return model::ReplaceFile(path, text);
   std::ofstream stream(path, std::ios::binary | std::ios::app);
   if (!stream.write(text.data(), static_cast<std::streamsize>(text.size())).flush()) {
-    throw model::FileError("Cannot write " + path.string() + ".");
+    throw model::FileError("Cannot write " + text::NameInText(path.string()) + ".");
   }
 }
 

@@ -4,6 +4,7 @@
 #include "model/files.h"
 #include "model/place.h"
 #include "model/record_file.h"
+#include "text/encoding.h"
 #include "text/strings.h"
 
 namespace orb::model {
@@ -14,7 +15,8 @@ namespace fs = std::filesystem;
 constexpr std::size_t FixLength = 3;
 
 [[noreturn]] void FailAtLine(const std::string& fileName, int line, const std::string& problem) {
-  throw IndexOutOfRange(fileName + ", line " + std::to_string(line) + ": " + problem);
+  throw IndexOutOfRange(text::NameInText(fileName) + ", line " + std::to_string(line) + ": " +
+                        problem);
 }
 
 void LoadAdjacencyLine(std::string_view line, const Map& map, Adjacency& adjacency,
@@ -67,8 +69,8 @@ void LoadProvinces(std::string_view bytes, const std::string& fileName, Map& map
   RecordReader reader(bytes, fileName);
   do {
     if (map.Provinces.Count() == ProvinceBound) {
-      throw IndexOutOfRange(fileName + ": expected at most " + std::to_string(ProvinceBound) +
-                            " locations, found more.");
+      throw IndexOutOfRange(text::NameInText(fileName) + ": expected at most " +
+                            std::to_string(ProvinceBound) + " locations, found more.");
     }
     Province& province = map.Provinces.Append();
     province.Name = reader.Text("a location's abbreviation");
@@ -89,7 +91,8 @@ void LoadAdjacency(std::string_view bytes, const std::string& fileName, const Ma
                    Adjacency& adjacency) {
   adjacency = {};
   if (bytes.empty()) {
-    throw FileError(fileName + ": expected the connections of a location, found an empty file.");
+    throw FileError(text::NameInText(fileName) +
+                    ": expected the connections of a location, found an empty file.");
   }
   for (int line = 1; !bytes.empty(); ++line) {
     LoadAdjacencyLine(text::NextLine(bytes), map, adjacency, fileName, line);

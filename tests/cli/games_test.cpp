@@ -151,6 +151,28 @@ TEST(Games, ThatCannotBeReadAreRefusedAndTheOthersDone) {
   EXPECT_THAT(outcome.Out, HasSubstr("== @last.orb\n"));
 }
 
+TEST(Games, AreRefusedInLinesOfOneEncoding) {
+  const auto broken = [](const std::string& subject, const std::string& inText) {
+    return "@" + subject + ".orb: @" + inText + R"(, line 2: expected a year (a whole number), )";
+  };
+  const std::vector<std::pair<std::string, std::string>> cases{
+      {"a", broken("a", "a.orb") + "found \"M\xfc\".\n"},
+      {"\xc3\xbc", broken("\xc3\xbc", "\xc3\xbc.orb") + "found \"M\xc3\xbc\".\n"},
+      {"\xc5\x81", broken("\xc5\x81", "?.orb") + "found \"M\xc3\xbc\".\n"},
+      {"\xfc", broken("\xfc", "\xfc.orb") + "found \"M\xfc\".\n"},
+      {"good", "@good.orb: Cannot read @\xfc \x80 ?.txt: No such file or directory.\n"},
+  };
+  const Desk desk;
+  desk.Write("good.orb", TwoUnitGame());
+  for (const auto& [name, line] : cases) {
+    if (name != "good") desk.Write(name + ".orb", "\"ORB v5.5\"\nT,Spring,M\xfc,moves\n");
+    EXPECT_EQ(desk.Run({"resolve", "--in-place", "--orders", "@\xc3\xbc \xe2\x82\xac \xc5\x81.txt",
+                        "@" + name + ".orb"})
+                  .Err,
+              line);
+  }
+}
+
 TEST(Games, AreReplacedWholeOrNotAtAll) {
   const Desk desk;
   desk.Write("a.orb", TwoUnitGame());
