@@ -309,6 +309,7 @@ TEST(Map, IsDrawnInTheFormatOfItsExtension) {
   }
   // A bitmap has its width in bytes 18 and 19.
   EXPECT_EQ(desk.Read("m.BMP").substr(18, 2), "\x90\x01");
+  EXPECT_EQ(desk.Run("map --width 1 -o @m.bmp @a.orb").Status, 0);
 }
 
 TEST(Map, ShowsTheOrdersOfAFile) {

@@ -33,6 +33,23 @@ TEST(ColourVision, DifferenceAgreesWithThePublishedPairs) {
   }
 }
 
+TEST(ColourVision, AMissingConeMakesAlikeWhatOtherEyesTellApart) {
+  struct Pair {
+    Vision Eyes;
+    model::Colour A, B;
+  };
+  const std::vector<Pair> pairs = {
+      {Vision::NoRed, model::Rgb(0, 64, 192), model::Rgb(192, 0, 192)},
+      {Vision::NoGreen, model::Rgb(0, 192, 128), model::Rgb(255, 0, 128)},
+      {Vision::NoBlue, model::Rgb(0, 255, 192), model::Rgb(64, 255, 0)}};
+  for (const Pair& pair : pairs) {
+    for (const Vision eyes : {Vision::Normal, Vision::NoRed, Vision::NoGreen, Vision::NoBlue}) {
+      EXPECT_EQ(Difference(Seen(pair.A, eyes), Seen(pair.B, eyes)) < 12, eyes == pair.Eyes)
+          << static_cast<int>(pair.Eyes) << " " << static_cast<int>(eyes);
+    }
+  }
+}
+
 TEST(DefaultColours, AnyTwoPowersDifferForEveryEye) {
   const model::CountryTable countries = model::FixedCountries();
   for (const Vision vision : {Vision::Normal, Vision::NoRed, Vision::NoGreen, Vision::NoBlue}) {

@@ -1,5 +1,4 @@
-#include "history/replay.h"
-
+#include "history/replay_sequence.h"
 #include "model/errors.h"
 #include "support/situation.h"
 
@@ -218,6 +217,33 @@ TEST(ReplayBetween, MatchesUnits) {
        {"FRA A(Par) - Bur", "FRA F(Bre) - MAO"}}};
   for (const auto& [name, earlier, later, journeys] : cases)
     EXPECT_EQ(Journeys(history::ReplayBetween(earlier, later)), journeys) << name;
+}
+
+TEST(ReplaySequence, PartsAreNamedAfterTheSeasonsTheyShow) {
+  const auto at = [](const char* season, std::int16_t year, const char* stage) {
+    GameState game = Situation(stage, {"FRA A(Par)"}, "", season);
+    game.Year = year;
+    return game;
+  };
+  const GameState start = at("Spring", 1901, "moves");
+  const GameState played = at("Spring", 1901, "finished");
+  const GameState autumn = at("Autumn", 1901, "moves");
+  const GameState nextYear = at("Spring", 1902, "moves");
+  const std::vector<std::pair<std::vector<GameState>, Texts>> cases = {
+      {{}, {}},
+      {{start}, {}},
+      {{played}, {"Spring 1901"}},
+      {{start, played}, {"Spring 1901"}},
+      {{played, autumn}, {"Spring 1901"}},
+      {{start, autumn, nextYear}, {"Spring 1901", "Autumn 1901"}},
+      {{start, nextYear}, {"Spring 1901 - Autumn 1901"}},
+      {{played, at("Spring", 1902, "finished")}, {"Spring 1901", "Autumn 1901 - Spring 1902"}}};
+  for (const auto& [games, names] : cases) {
+    Texts seen;
+    for (const history::ReplayPart& part : history::ReplaySequence(games))
+      seen.push_back(part.Name);
+    EXPECT_EQ(seen, names);
+  }
 }
 
 }  // namespace

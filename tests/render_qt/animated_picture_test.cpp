@@ -4,6 +4,7 @@
 #include "model/files.h"
 #include "model/game_file.h"
 #include "render/qt/map_file.h"
+#include "render/qt/palette.h"
 #include "render/qt/replay_picture.h"
 #include "settings/map_options.h"
 #include "support/directories.h"
@@ -75,6 +76,18 @@ TEST(ReplayPicture, BeginsAndEndsAsTheMapIsDrawn) {
     EXPECT_EQ(plain.Frame(1), render::MapImage(moved, uncounted, DataDirectory(), 400, pictures))
         << i;
   }
+}
+
+TEST(Palette, AColourIsTheShadeOfMostPixelsOrElseTheMean) {
+  QImage picture(10, 1, QImage::Format_RGB32);
+  const auto chosen = [&](int dark, std::size_t count) {
+    for (int x = 0; x < 10; ++x)
+      picture.setPixel(x, 0, x < dark ? qRgb(0, 20, 0) : qRgb(200, 20, 0));
+    return render::ChooseColours({picture}, count);
+  };
+  EXPECT_EQ(chosen(3, 1), std::vector{qRgb(200, 20, 0)});
+  EXPECT_EQ(chosen(5, 1), std::vector{qRgb(100, 20, 0)});
+  EXPECT_EQ(chosen(3, 2), (std::vector{qRgb(0, 20, 0), qRgb(200, 20, 0)}));
 }
 
 TEST(AnimatedGif, HoldsTheFramesAndTheirTimes) {
