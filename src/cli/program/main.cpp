@@ -2,11 +2,25 @@
 
 #include <iostream>
 #include <string>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
 
+namespace {
+
+bool IsSameFile(int a, int b) {
+  struct stat first {};
+  struct stat second {};
+  if (::fstat(a, &first) != 0 || ::fstat(b, &second) != 0) return false;
+  return first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
+  // Only where both go to the same place has a report to be out before the next message.
+  if (!IsSameFile(STDOUT_FILENO, STDERR_FILENO)) std::cerr.tie(nullptr);
   const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
   return orb::cli::Run(arguments, std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1);
 }
