@@ -18,6 +18,7 @@ std::string OnOneLine(std::string_view text) {
   std::string line;
   line.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i) {
+    // Message boxes have their lines separated by CR alone, files by CR LF.
     if (text.substr(i, 2) == "\r\n") ++i;
     line += text[i] == '\r' || text[i] == '\n' ? ' ' : text[i];
   }

@@ -26,7 +26,7 @@ bool Attempt(Console& console, std::string_view subject, const std::function<boo
   try {
     return work();
   } catch (const UsageError&) {
-    throw;
+    throw;  // wrong for every game: the program ends
   } catch (const std::exception& error) {
     console.Say(subject, error.what());
     return false;

@@ -19,8 +19,8 @@ bool IsDirectory(const fs::path& path) {
   return fs::is_directory(path, ignored);
 }
 
-// What is done for every game of thousands works on the texts of the paths: taking apart and
-// joining std::filesystem::path objects costs as much as a part of the adjudication.
+// What is done for each of thousands of games works on the texts of the paths: to take apart and
+// join std::filesystem::path objects would cost as much as a part of the adjudication.
 
 /// The part of a path behind its last "/".
 std::string_view FileName(std::string_view path) {
@@ -68,6 +68,7 @@ class FileNames {
  public:
   std::string Of(const std::string& path) {
     std::error_code error;
+    // Only a link needs to be looked up by itself; the directory of all others is known.
     if (model::IsLink(path)) {
       fs::path target = fs::weakly_canonical(path, error);
       if (!error) return target.string();
@@ -103,12 +104,14 @@ void CheckOverlaps(const std::vector<GamePaths>& plan, bool mayReplace) {
     if (paths.Output.empty()) continue;
     std::string game = names.Of(paths.Game);
     std::string output = paths.Output.native() == paths.Game ? game : names.Of(paths.Output);
+    // A game that is written over itself is read whole before.
     if (output != game || !mayReplace) read.push_back(std::move(game));
     add(paths.Output, std::move(output));
     addText(paths.Report);
     addText(paths.Reasons);
     if (!paths.Orders.empty()) read.push_back(names.Of(paths.Orders));
   }
+  // Looked at last, since a game may be read long before another is written over it.
   std::erase_if(read, [&](const std::string& name) { return !written.contains(name); });
   if (read.empty()) return;
   throw UsageError(*std::ranges::min_element(read) + " would be both read and written.");

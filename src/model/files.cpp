@@ -87,6 +87,7 @@ void CheckReplaceable(const Target& target) {
 /// The mode the finished file shall have: that of the file it replaces, else the usual one.
 mode_t FileMode(const Target& target) {
   if (target.Mode) return *target.Mode & 07777;
+  // The mask can only be asked for by setting it.
   const mode_t mask = ::umask(0);
   ::umask(mask);
   return 0666 & ~mask;
@@ -116,10 +117,12 @@ std::string ReadFile(const fs::path& path) {
 void ReplaceFile(const fs::path& path, std::string_view bytes) {
   const Target target = FindTarget(path);
   CheckReplaceable(target);
+  // In the same directory: a file can be renamed within its file system only.
   std::string beside(DirectoryPrefix(target.Path));
   beside += ".orb-XXXXXX";
   Descriptor file(::mkostemp(beside.data(), O_CLOEXEC));
   if (file.Number() < 0) Fail("write", path, errno);
+  // Flushed before it is renamed, or a power failure could leave an empty file under the name.
   const bool written = WriteAll(file.Number(), bytes) &&
                        ::fchmod(file.Number(), FileMode(target)) == 0 &&
                        ::fsync(file.Number()) == 0 && file.Close() &&

@@ -56,10 +56,12 @@ Layout LayoutOf(std::string_view header) {
   return layout;
 }
 
+/// A unit's record.
 struct UnitFields {
   std::string_view Power, UnitType, Location, Status, DislodgedFrom, PreviousLocation;
 };
 
+/// A location's record. A file need not have one for every location of the map.
 struct ProvinceFields {
   std::string_view Owner, PreviousOwner;
   bool Uncontested = false;
@@ -75,7 +77,7 @@ struct Contents {
   Table<ProvinceFields, ProvinceBound> Provinces;  ///< rows as in the map
   std::vector<std::string_view> Orders;
   Table<std::string_view, TextLineBound> TextLines;
-  bool HasPlayers = false;
+  bool HasPlayers = false;  ///< else nobody has a name
   std::array<std::optional<std::string_view>, CountryCount> Players;
 };
 
@@ -84,6 +86,7 @@ class GameReader {
  public:
   GameReader(std::string_view bytes, const std::string& fileName, const Map& map)
       : map_(map), scan_(map), fileName_(fileName), reader_(bytes, fileName) {
+    // The very first files began with the season; they are read again from their first byte.
     std::string_view header = reader_.Text("a header");
     if (!header.starts_with("ORB")) {
       header = OldestHeader;
@@ -108,6 +111,8 @@ class GameReader {
   }
 
  private:
+  /// A text in which old abbreviations give way to new ones. Hardly any text holds one, so that
+  /// only those that do are copied.
   std::string_view ReadFixed(std::string_view expected) {
     const std::string_view field = reader_.Text(expected);
     if (!scan_.Finds(field)) return field;
@@ -158,12 +163,14 @@ class GameReader {
 
   void ReadOrders() {
     const int count = reader_.Number("the number of orders");
+    // The count may be wrong by any number, so that room is made for a usual one only.
     contents_.Orders.reserve(UnitBound);
     for (int i = 1; i <= count; ++i)
       contents_.Orders.push_back(ReadFixed("an order"));
   }
 
   void ReadTexts() {
+    // Old versions end here, or before the players.
     if (reader_.AtEnd()) return;
     contents_.TextLines.SetCount(reader_.NumberUpTo(TextLineBound, "the number of text lines"));
     for (std::string_view& line : contents_.TextLines)
@@ -177,6 +184,7 @@ class GameReader {
     for (int i = 1; i <= count; ++i) {
       const int country = FindCountry(reader_.Text("a power"));
       const std::string_view name = reader_.Text("a player's name");
+      // The player of a power that this board does not have is passed over.
       if (country != 0) contents_.Players[static_cast<std::size_t>(country - 1)] = name;
     }
   }
@@ -206,6 +214,8 @@ void Assign(std::string& text, std::string_view value) {
   if (value.empty()) return text.clear();
   text = value;
 }
+
+// What a file's version does not hold stays in the situation as it was, or becomes "unknown".
 
 void TakeUnits(const Contents& contents, const Layout& layout, GameState& game) {
   game.Units.SetCount(contents.Units.Count());
@@ -244,6 +254,8 @@ void TakePlayers(const Contents& contents, GameState& game) {
   }
 }
 
+/// Nothing in here fails, so that a situation is never half that of the file. Lists and report
+/// belong to the season that was played before.
 void Take(const Contents& contents, const Layout& layout, GameState& game) {
   game.Title = contents.Title;
   game.Season = contents.Season;

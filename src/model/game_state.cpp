@@ -11,7 +11,7 @@ GameState EmptyGame(std::shared_ptr<const Map> map) {
   game.Provinces.SetCount(map->Provinces.Count());
   game.Map = std::move(map);
   for (ProvinceState& province : game.Provinces)
-    province.Uncontested = true;
+    province.Uncontested = true;  // nothing was ever aimed at it
   return game;
 }
 
@@ -23,6 +23,8 @@ std::string Caption(const GameState& game) {
 
 void SetCentreOwnersFromUnits(GameState& game) {
   for (const Unit& unit : game.Units) {
+    // A fleet on a coast holds the centre of the whole province, which the first three letters
+    // name.
     const int province = FindProvince(*game.Map, std::string_view(unit.Location).substr(0, 3));
     if (province == 0) {
       throw IndexOutOfRange("A unit stands in an unknown province: " + unit.Power + " " +

@@ -4,9 +4,9 @@ namespace orb::model {
 namespace {
 
 constexpr std::size_t FixLength = 3;
-constexpr std::size_t ExactLength = 7;
+constexpr std::size_t ExactLength = 8;
 
-/// A number that is different for every two names of up to ExactLength characters.
+/// A number that differs for every two names of the same length up to ExactLength.
 inline std::uint64_t NameCode(std::string_view name) {
   std::uint64_t code = name.size();
   for (const char c : name)
@@ -38,9 +38,11 @@ void NameIndex::Insert(const Table<Province, ProvinceBound>& provinces, int row)
 
 int NameIndex::Find(const Table<Province, ProvinceBound>& provinces, std::string_view name) const {
   const std::uint64_t code = NameCode(name);
+  // At most 90 of the 256 slots are taken: a search ends at a free one.
   for (std::size_t slot = FirstSlot(code); slots_[slot] != 0; slot = NextSlot(slot)) {
-    const bool found = codes_[slot] == code &&
-                       (name.size() <= ExactLength || provinces[slots_[slot]].Name == name);
+    if (codes_[slot] != code) continue;
+    const std::string& known = provinces[slots_[slot]].Name;
+    const bool found = known.size() == name.size() && (name.size() <= ExactLength || known == name);
     if (found) return slots_[slot];
   }
   return 0;

@@ -36,7 +36,7 @@ void ReadUnits(GameState& game, RecordReader& reader) {
       reader.Fail("at most " + std::to_string(UnitBound) + " units", "more");
     }
     Unit& unit = game.Units.Append();
-    unit = {};
+    unit = {};  // an appended row still holds what an earlier unit left there
     unit.Power = ReadPower(reader);
     unit.UnitType = ReadUnitType(reader);
     unit.Location = reader.Text("a unit's location");
@@ -47,6 +47,7 @@ void ReadUnits(GameState& game, RecordReader& reader) {
   }
 }
 
+/// What belonged to the game that was open before.
 void ClearTexts(GameState& game) {
   game.TextLines.SetCount(0);
   game.OrdersList.clear();
@@ -59,6 +60,9 @@ void ClearTexts(GameState& game) {
 }
 
 }  // namespace
+
+// Both commands build a second situation and move it over the first one only when the file was read
+// to its end.
 
 void NewGame(GameState& game, const std::filesystem::path& dataDirectory) {
   GameState next = game;

@@ -11,7 +11,7 @@
 namespace orb::model {
 namespace {
 
-/// A table of what a field ends at, for one look a byte: files are read and written by thousands.
+/// A table of what a field ends at, for one look per byte: files are read and written by thousands.
 constexpr std::array<bool, 256> Marks(std::string_view characters) {
   std::array<bool, 256> marks{};
   for (const char c : characters)
@@ -19,6 +19,7 @@ constexpr std::array<bool, 256> Marks(std::string_view characters) {
   return marks;
 }
 
+// A quoted text ends with its line too, so that a missing quote is found in the line that lacks it.
 constexpr std::array<bool, 256> QuotedEnds = Marks("\"\r\n");
 constexpr std::array<bool, 256> PlainEnds = Marks(",\r\n");
 
@@ -47,6 +48,8 @@ std::string Shown(std::string_view field) {
   return '"' + shown + '"';
 }
 
+/// Whether the whole text is a number. A leading "+" is read, which the standard function refuses;
+/// a "-" behind it would be taken for the sign.
 template <class Number>
 bool Parse(std::string_view text, Number& number) {
   if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
@@ -72,6 +75,7 @@ void RecordReader::Refuse(std::string_view expected, std::string_view field) con
 
 std::string_view RecordReader::Text(std::string_view expected) {
   const char* at = SkipBlanks(next_, end_);
+  // Errors name the line in which the field begins; the end of the field may begin the next one.
   fieldLine_ = line_;
   if (at == end_) Fail(expected, "the end of the file");
   if (*at != '"') return PlainField(at, expected);
@@ -80,6 +84,7 @@ std::string_view RecordReader::Text(std::string_view expected) {
     ++at;
   if (at == end_ || *at != '"') Fail(expected, "a text without its closing quote");
   const char* const last = at++;
+  // Most fields are followed by a comma at once.
   if (at != end_ && *at == ',') {
     next_ = at + 1;
   } else {
@@ -88,6 +93,7 @@ std::string_view RecordReader::Text(std::string_view expected) {
   return {start, last};
 }
 
+/// A field without quotes: it ends at the next comma or line end, the blanks before that dropped.
 std::string_view RecordReader::PlainField(const char* at, std::string_view expected) {
   const char* const start = at;
   while (at != end_ && !IsIn(PlainEnds, *at))
@@ -99,6 +105,7 @@ std::string_view RecordReader::PlainField(const char* at, std::string_view expec
   return {start, last};
 }
 
+/// Goes past the comma or line end behind a field. The end of the file ends a field as well.
 void RecordReader::EndField(const char* at, std::string_view expected) {
   at = SkipBlanks(at, end_);
   if (at != end_) {
@@ -134,6 +141,7 @@ int RecordReader::NumberUpTo(int bound, std::string_view expected) {
 float RecordReader::Fraction(std::string_view expected) {
   const std::string_view field = Text(expected);
   float number = 0;
+  // The standard function would also read "inf" and "nan".
   const bool decimal = field.find_first_not_of("+-.0123456789eE") == std::string_view::npos;
   if (!decimal || !Parse(field, number)) Refuse(std::string(expected) + " (a number)", field);
   return number;
@@ -145,6 +153,7 @@ bool RecordReader::AtEnd() const {
 
 void RecordWriter::Grow(std::size_t size) {
   constexpr std::size_t smallest = 256;
+  // Doubled, so that a long file is not copied for every record.
   bytes_.resize(2 * bytes_.size() + size + smallest);
 }
 
@@ -156,6 +165,7 @@ inline char* RecordWriter::Room(std::size_t size) {
 /// Where a field of at most this size can be put, after its comma.
 inline char* RecordWriter::StartField(std::size_t size) {
   char* at = Room(size + 1);
+  // A first field overwrites the comma; that is cheaper than a choice for each of hundreds.
   *at = ',';
   if (recordStarted_) ++at;
   recordStarted_ = true;

@@ -31,6 +31,7 @@ bool IsUtf8(std::string_view text) {
 }
 
 std::string NameInText(std::string_view fileName) {
+  // A system without UTF-8 names its files in 8 bits already.
   if (!IsUtf8(fileName)) return std::string(fileName);
   std::string bytes;
   while (!fileName.empty())

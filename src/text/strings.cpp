@@ -8,6 +8,8 @@ std::string_view Trim(std::string_view text) {
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+// Letters are those of ASCII whatever the locale: names in files must not depend on the desktop.
+
 std::string UpperCase(std::string_view text) {
   std::string upper(text);
   for (char& c : upper) {

@@ -6,6 +6,7 @@ namespace orb::text {
 
 std::optional<char32_t> NextCharacter(std::string_view& utf8) {
   const auto first = static_cast<unsigned char>(utf8.front());
+  // The number of leading 1 bits of the first byte is that of all bytes.
   const std::size_t length = first < 0x80 ? 1 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
   constexpr std::array<unsigned, 5> leadBits{0, 0x7F, 0x1F, 0x0F, 0x07};
   constexpr std::array<char32_t, 5> smallest{0, 0, 0x80, 0x800, 0x10000};
@@ -19,6 +20,7 @@ std::optional<char32_t> NextCharacter(std::string_view& utf8) {
     if ((byte & 0xC0U) != 0x80) return std::nullopt;
     character = character << 6 | (byte & 0x3FU);
   }
+  // A longer form than needed is no UTF-8; it could smuggle a character past a check.
   if (character < smallest[length]) return std::nullopt;
   utf8.remove_prefix(length);
   return character;
