@@ -12,7 +12,7 @@ int main(int argc, char* argv[]) {
   orb::ui::MessageBoxes messages(nullptr);
   const orb::ui::Places places{ORB_SOURCE_DIR "/data",
                                std::filesystem::temp_directory_path() / "orb-start-bench"};
-  orb::ui::Situation start = orb::ui::startSituation(places, {}, messages);
+  orb::ui::Start start = orb::ui::startProgram(places, {}, messages);
   orb::ui::MainWindow window(std::move(start), places);
   window.show();
   const orb::EndAfterFirstPaint end(*window.findChild<QWidget*>(QStringLiteral("picMap")));

@@ -19,7 +19,7 @@ std::unique_ptr<ui::MainWindow> NewWindow() {
   ui::MessageBoxes messages(nullptr);
   const ui::Places places{ORB_SOURCE_DIR "/data",
                           std::filesystem::temp_directory_path() / "orb-window-bench"};
-  auto window = std::make_unique<ui::MainWindow>(ui::startSituation(places, {}, messages), places);
+  auto window = std::make_unique<ui::MainWindow>(ui::startProgram(places, {}, messages), places);
   window->show();
   window->findChild<QAction*>(QStringLiteral("mnuMapZoom100"))->trigger();
   QApplication::processEvents();

@@ -9,16 +9,6 @@
 #include <utility>
 
 namespace orb::adjudication {
-namespace {
-
-Resolution ResolveInPlace(model::GameState& game, model::Messages& messages) {
-  if (game.Stage == "moves") return Resolve(game, messages);
-  if (game.Stage == "retreats") return ResolveRetreats(game, messages);
-  if (game.Stage == "adjustments") return ResolveAdjustments(game, messages);
-  throw model::FatalError("There is nothing to resolve in the stage \"" + game.Stage + "\".");
-}
-
-}  // namespace
 
 Resolution StartResolution(ResolvedStage stage, const model::GameState& game,
                            std::vector<std::string> lines) {
@@ -38,9 +28,16 @@ void EndMovement(model::GameState& game) {
   }
 }
 
+Resolution ResolveStageInPlace(model::GameState& game, model::Messages& messages) {
+  if (game.Stage == "moves") return Resolve(game, messages);
+  if (game.Stage == "retreats") return ResolveRetreats(game, messages);
+  if (game.Stage == "adjustments") return ResolveAdjustments(game, messages);
+  throw model::FatalError("There is nothing to resolve in the stage \"" + game.Stage + "\".");
+}
+
 Resolution ResolveStage(model::GameState& game, model::Messages& messages) {
   model::GameState next = game;
-  Resolution resolution = ResolveInPlace(next, messages);
+  Resolution resolution = ResolveStageInPlace(next, messages);
   if (resolution.Completed) game = std::move(next);
   return resolution;
 }

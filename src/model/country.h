@@ -23,6 +23,8 @@ struct Country {
   model::Colour Colour = 0;      ///< fill colour of its units and centres
   model::Colour TextColour = 0;  ///< outline of its colour sample; its count is written in it
   std::string PlayerName;
+
+  bool operator==(const Country&) const = default;
 };
 
 constexpr int CountryCount = 7;

@@ -21,9 +21,13 @@ void EditHistory::State::PutInto(GameState& game) const {
   game.Provinces = Provinces;
 }
 
-void EditHistory::Record(const GameState& before, const GameState& after) {
-  if (State(before).IsOf(after)) return;
+void EditHistory::Begin(const GameState& before) {
+  if (!LeadsTo(before)) Clear();
   if (states_.empty()) states_.push_back(std::make_shared<const State>(before));
+}
+
+void EditHistory::Record(const GameState& after) {
+  if (LeadsTo(after)) return;
   states_.resize(now_ + 1);
   states_.push_back(std::make_shared<const State>(after));
   ++now_;

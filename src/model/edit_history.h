@@ -12,9 +12,13 @@ namespace orb::model {
 /// states they hold. A step back without one before it changes nothing; nor does one forth.
 class EditHistory {
  public:
-  /// A step led from one situation to the other. Where both have the same units and provinces there
-  /// was none. What was undone before can no longer be redone.
-  void Record(const GameState& before, const GameState& after);
+  /// A step begins in this situation. Where the last one did not lead there, all steps are
+  /// forgotten.
+  void Begin(const GameState& before);
+
+  /// The step that was begun led to this situation; where that has the same units and provinces,
+  /// there was none. What was undone before can no longer be redone.
+  void Record(const GameState& after);
 
   bool CanUndo() const { return now_ > 0; }
   bool CanRedo() const { return now_ + 1 < states_.size(); }

@@ -2,7 +2,6 @@
 
 #include "model/errors.h"
 #include "model/files.h"
-#include "model/new_game.h"
 #include "model/record_file.h"
 #include "model/unit_fields.h"
 #include "text/encoding.h"
@@ -316,11 +315,9 @@ void WriteGameFile(const GameState& game) {
   ReplaceFile(game.FileName, FormatGameFile(game));
 }
 
-bool ReadGameFile(GameState& game, const std::filesystem::path& file,
-                  const std::filesystem::path& dataDirectory, Messages& messages) {
+bool ReadGameFile(GameState& game, const std::filesystem::path& file, Messages& messages) {
   if (const auto unknown = ParseGameFile(ReadFile(file), file.string(), game)) {
     messages.Show("Unknown province: " + *unknown, Icon::Exclamation);
-    NewGame(game, dataDirectory);
     return false;
   }
   game.FileName = file.string();

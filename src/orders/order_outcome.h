@@ -28,6 +28,8 @@ struct OrderOutcome {
   bool ViaConvoy = false;     ///< the move is carried by a fleet
   orders::Outcome Outcome = Outcome::Entered;
   bool Unordered = false;  ///< nobody wrote it: the unit holds or disbands for want of an order
+
+  bool operator==(const OrderOutcome&) const = default;
 };
 
 /// What an order says, with the given outcome; what could not be read stays as it was cut.

@@ -234,19 +234,5 @@ TEST(GameFile, DamagedAnywhereIsReadOrRefused) {
   EXPECT_LT(read, 4900);
 }
 
-TEST(ReadGameFile, AnUnknownLocationIsReportedAndBeginsANewGame) {
-  const TemporaryDirectory directory;
-  const auto file = directory.Write(
-      "old.orb", "\"ORB v5.5\"\n\"T\",\"Autumn\",1910,\"moves\"\n0\n1\n\"Xyz\",\"\",0,\"\"\n");
-  ScriptedMessages messages;
-  GameState game = EmptyBoard("Autumn", "finished");
-  game.FileName = "earlier.orb";
-  EXPECT_FALSE(model::ReadGameFile(game, file, DataDirectory(), messages));
-  EXPECT_THAT(messages.Shown,
-              ElementsAre(testing::Pair("Unknown province: Xyz", model::Icon::Exclamation)));
-  EXPECT_EQ(game.Title + game.Season + game.Stage + game.FileName, "CONCORDATSpringmoves");
-  EXPECT_EQ(game.Units.Count(), 22);
-}
-
 }  // namespace
 }  // namespace orb::tests

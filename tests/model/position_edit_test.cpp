@@ -123,9 +123,9 @@ TEST(EditHistory, GoesBackAndForthAndForgetsWhatWasUndone) {
   model::EditHistory history;
   std::vector<std::string> states = {Describe(game)};
   const auto step = [&](const char* to) {
-    const GameState before = game;
+    history.Begin(game);
     ASSERT_EQ(model::MoveUnit(game, 1, to), "");
-    history.Record(before, game);
+    history.Record(game);
     states.push_back(Describe(game));
   };
   step("Bur");

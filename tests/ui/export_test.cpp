@@ -46,14 +46,14 @@ QStringList PdfPages(const fs::path& file) {
   return pages;
 }
 
-ui::Situation GameInGrey() {
+ui::Start GameInGrey() {
   ScriptedMessages none;
-  ui::Situation situation = ui::startSituation({DataDirectory(), {}}, {}, none);
-  situation.game.Season = "Autumn";
-  situation.game.Year = 1910;
-  situation.game.TextLines.Append("caf\xE9 \x80");
-  situation.mapOptions = {settings::MapMode::Grey, true, true, true};
-  return situation;
+  ui::Start start = ui::startProgram({DataDirectory(), {}}, {}, none);
+  start.situation.Game.Season = "Autumn";
+  start.situation.Game.Year = 1910;
+  start.situation.Game.TextLines.Append("caf\xE9 \x80");
+  start.view.mapOptions = {settings::MapMode::Grey, true, true, true};
+  return start;
 }
 
 /// The commands on a game shown in grey, in a working folder of their own.
@@ -63,7 +63,7 @@ class ExportTest : public testing::Test {
   ~ExportTest() override { fs::current_path(before_); }
 
   QImage Picture() {
-    return render::MapImage(desk_.game(), desk_.now().mapOptions, DataDirectory(), 0, pictures_);
+    return render::MapImage(desk_.game(), desk_.view().mapOptions, DataDirectory(), 0, pictures_);
   }
 
   std::string Report() const {

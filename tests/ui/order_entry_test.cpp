@@ -24,18 +24,12 @@ using testing::HasSubstr;
 using testing::StartsWith;
 using ui::OrderMark;
 
-ui::Situation Start(model::GameState game) {
-  ui::Situation situation;
-  situation.game = std::move(game);
-  return situation;
-}
-
 /// A panel with its desk, alone in a window.
 template <class Panel>
 struct Entry {
   explicit Entry(model::GameState game, std::vector<model::Answer> answers = {})
       : messages(std::move(answers)),
-        desk(Start(std::move(game)), DataDirectory(), messages, nullptr),
+        desk({{std::move(game)}}, DataDirectory(), messages, nullptr),
         panel(desk),
         list(*panel.template findChild<QListWidget*>()),
         text(*panel.template findChild<QLineEdit*>()) {
@@ -214,7 +208,7 @@ TEST(OrderEntry, TheLineAtWhichResolvingStoppedIsShown) {
     EXPECT_EQ(entry->Mark(c.Row), OrderMark::Doubtful);
   }
   const auto unordered = stop({"moves", {"ENG A(Lvp)", "FRA A(Par) hold"}, {No}, 0, ""});
-  EXPECT_FALSE(unordered->desk.now().stoppedLine) << "it has no line";
+  EXPECT_FALSE(unordered->desk.now().Stopped) << "it has no line";
 
   model::GameState game =
       Board("Autumn", "adjustments", {"> ENG build A(Lon)", "> nonsense", "> ENG build F(Lon)"});

@@ -15,7 +15,7 @@ void WindowTest::Open(const std::filesystem::path& game) {
   ScriptedMessages none;
   window_.reset();
   const ui::Places places{program_.Path(), directory_.Path() / "config"};
-  window_ = std::make_unique<ui::MainWindow>(ui::startSituation(places, game, none), places);
+  window_ = std::make_unique<ui::MainWindow>(ui::startProgram(places, game, none), places);
   window_->show();
   window_->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));

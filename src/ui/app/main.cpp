@@ -54,7 +54,7 @@ int runProgram(const std::filesystem::path& gameFile, bool display) {
   StartMessages messages(display);
   try {
     const ui::Places places = systemPlaces();
-    ui::Situation start = ui::startSituation(places, gameFile, messages);
+    ui::Start start = ui::startProgram(places, gameFile, messages);
     if (!display) {
       throw model::FatalError(
           "There is no display (DISPLAY, WAYLAND_DISPLAY) for the window; orbctl needs none.");

@@ -110,7 +110,7 @@ void ColoursDialog::layOut() {
   auto* rows = new QVBoxLayout(this);
   rows->setSpacing(Gap);
   rows->addLayout(grid);
-  if (!settings::InColour(m_desk.now().mapOptions.Mode))
+  if (!settings::InColour(m_desk.view().mapOptions.Mode))
     rows->addWidget(new QLabel(tr("The map is drawn without these colours now.")));
   rows->addWidget(m_warning);
   rows->addStretch();

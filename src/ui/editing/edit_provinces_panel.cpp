@@ -157,7 +157,7 @@ void EditProvincesPanel::openProperties() {
 
 /// The owners are shown even where the map does not show them by itself.
 void EditProvincesPanel::paintOver(QPainter& /*painter*/, render::Surface& surface) {
-  const settings::MapOptions& options = desk().now().mapOptions;
+  const settings::MapOptions& options = desk().view().mapOptions;
   for (int row = 1; !options.ShowCentreOwners && row <= game().Map->Provinces.Count(); ++row) {
     if (game().Map->Provinces[row].IsSupplyCentre != 0)
       render::DrawCentreOwnerMarker(surface, game(), options.Mode, row);

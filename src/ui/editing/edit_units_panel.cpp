@@ -262,7 +262,7 @@ void EditUnitsPanel::paintOver(QPainter& painter, render::Surface& surface) {
     m_drag->possible ? drawRing(surface, unitPoint(places, ghost), ThinRing, unitScale(ghost))
                      : drawForbiddenRing(surface, unitPoint(places, ghost));
   }
-  drawGhost(painter, surface, {game().Countries, desk().now().mapOptions.Mode}, ghost, m_drag->at);
+  drawGhost(painter, surface, {game().Countries, desk().view().mapOptions.Mode}, ghost, m_drag->at);
 }
 
 }  // namespace orb::ui

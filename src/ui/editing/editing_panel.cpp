@@ -36,10 +36,13 @@ EditingPanel::EditingPanel(Desk& desk, MapPicture& map, const EditingTexts& text
   });
   connect(m_undo, &QPushButton::clicked, &m_desk, &Desk::undoEdit);
   connect(m_redo, &QPushButton::clicked, &m_desk, &Desk::redoEdit);
-  connect(m_done, &QPushButton::clicked, &m_desk, [this] { m_desk.setEditing(Editing::None); });
+  connect(m_done, &QPushButton::clicked, &m_desk,
+          [this] { m_desk.setEditing(session::Editing::None); });
   connect(m_help, &QPushButton::clicked, this,
           [this] { emit helpWanted(QStringLiteral("Editing")); });
-  connect(&m_desk, &Desk::changed, this, &EditingPanel::showGame);
+  using session::Changes;
+  m_desk.whenChanged(Changes::Season | Changes::Position | Changes::Powers | Changes::Editing, this,
+                     &EditingPanel::showGame);
 }
 
 void EditingPanel::layOut(QWidget* options, const std::vector<QPushButton*>& commands) {
@@ -109,8 +112,8 @@ void EditingPanel::hideEvent(QHideEvent* event) {
 
 void EditingPanel::showGame() {
   if (!isVisible()) return;
-  m_undo->setEnabled(m_desk.now().edits.CanUndo());
-  m_redo->setEnabled(m_desk.now().edits.CanRedo());
+  m_undo->setEnabled(m_desk.now().Edits.CanUndo());
+  m_redo->setEnabled(m_desk.now().Edits.CanRedo());
   showEntries();
   selectionChanged();
 }

@@ -50,7 +50,7 @@ AdjustmentCounts::AdjustmentCounts(const Desk& desk, QWidget* parent)
                          add({}, 2, column), add({}, 3, column)});
     grid->setColumnStretch(column, 1);
   }
-  connect(&m_desk, &Desk::changed, this, &AdjustmentCounts::showCounts);
+  m_desk.whenChanged(session::Changes::Position, this, &AdjustmentCounts::showCounts);
   showCounts();
 }
 

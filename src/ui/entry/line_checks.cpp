@@ -41,11 +41,11 @@ QString unfitPowers(std::size_t count) {
 }  // namespace
 
 void showMarks(QListWidget& list, const ListCheck& check,
-               const std::optional<StoppedLine>& stopped) {
+               const std::optional<session::StoppedLine>& stopped) {
   for (int row = 0; row < list.count(); ++row) {
     const QString reason = lines(check.Lines.at(static_cast<std::size_t>(row)));
-    if (stopped && stopped->row == row) {
-      const QString result = text::ToQString(stopped->result);
+    if (stopped && stopped->Row == row) {
+      const QString result = text::ToQString(stopped->Result);
       // The check says the same as a rule, and more.
       const QString why = reason.startsWith(result) ? reason : result + QLatin1Char('\n') + reason;
       showMark(*list.item(row), OrderMark::Stopped,

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "adjudication/list_check.h"
-#include "ui/session/situation.h"
+#include "session/situation.h"
 
 #include <QLabel>
 #include <QListWidget>
@@ -13,7 +13,7 @@ namespace orb::ui {
 
 /// Marks every line of the stage's list by what the checks say of it; tooltips tell the reasons.
 void showMarks(QListWidget& list, const adjudication::ListCheck& check,
-               const std::optional<StoppedLine>& stopped);
+               const std::optional<session::StoppedLine>& stopped);
 
 /// Tells how many units, or in the adjustments powers, are not yet provided for, and in the tooltip
 /// which.

@@ -14,6 +14,8 @@
 namespace orb::ui {
 namespace {
 
+using session::Changes;
+
 constexpr int GridColumns = 4;
 constexpr int TextRow = 0;
 constexpr int CommandRow = 1;
@@ -23,7 +25,7 @@ constexpr int Gap = 2;
 
 }  // namespace
 
-OrderEntryPanel::OrderEntryPanel(Desk& desk, std::string_view stage, Desk::OrderList list,
+OrderEntryPanel::OrderEntryPanel(Desk& desk, std::string_view stage, OrderList list,
                                  const OrderEntryTexts& texts, QWidget* parent)
     : QWidget(parent),
       m_desk(desk),
@@ -123,7 +125,8 @@ void OrderEntryPanel::connectControls(const QString& helpTopic) {
   connect(m_list, &QListWidget::itemClicked, this, &OrderEntryPanel::editSelectedOrder);
   connect(m_list, &QListWidget::itemActivated, this, &OrderEntryPanel::editSelectedOrder);
   connect(m_list, &QListWidget::itemSelectionChanged, this, &OrderEntryPanel::tellStatus);
-  connect(&m_desk, &Desk::changed, this, &OrderEntryPanel::showLines);
+  m_desk.whenChanged(Changes::Season | Changes::Position | Changes::Orders, this,
+                     &OrderEntryPanel::showLines);
   connect(&m_desk, &Desk::stopped, this, &OrderEntryPanel::showStoppedLine);
 }
 
@@ -178,15 +181,15 @@ void OrderEntryPanel::showLines() {
 }
 
 void OrderEntryPanel::markLines() {
-  const adjudication::ListCheck check = adjudication::CheckList(m_desk.game());
-  showMarks(*m_list, check, m_desk.now().stoppedLine);
+  const adjudication::ListCheck check = session::CheckOrders(m_desk.now());
+  showMarks(*m_list, check, m_desk.now().Stopped);
   showMissing(*m_missing, check, m_stage);
   tellStatus();
 }
 
 void OrderEntryPanel::showStoppedLine() {
-  if (m_desk.game().Stage != m_stage || !m_desk.now().stoppedLine) return;
-  m_list->setCurrentRow(m_desk.now().stoppedLine->row);
+  if (m_desk.game().Stage != m_stage || !m_desk.now().Stopped) return;
+  m_list->setCurrentRow(m_desk.now().Stopped->Row);
   m_list->setFocus();
 }
 
@@ -224,7 +227,7 @@ bool OrderEntryPanel::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void OrderEntryPanel::fileOrder() {
-  if (m_desk.fileOrder(m_orders, line())) {
+  if (m_desk.fileOrder(line())) {
     m_list->setCurrentRow(m_list->count() - 1);
     m_text->clear();
   }
@@ -238,7 +241,7 @@ void OrderEntryPanel::cancelOrder() {
 
 void OrderEntryPanel::deleteOrder() {
   if (m_list->selectedItems().isEmpty()) return;
-  m_desk.deleteOrder(m_orders, m_list->currentRow());
+  m_desk.deleteOrder(m_list->currentRow());
   cancelOrder();
 }
 

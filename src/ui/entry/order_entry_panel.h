@@ -56,9 +56,12 @@ class OrderEntryPanel : public QWidget, public MapTool {
   void statusText(const QString& text);
 
  protected:
+  /// One of the lists of order lines in the game.
+  using OrderList = std::vector<std::string> model::GameState::*;
+
   /// The stage is that of the list.
-  OrderEntryPanel(Desk& desk, std::string_view stage, Desk::OrderList list,
-                  const OrderEntryTexts& texts, QWidget* parent);
+  OrderEntryPanel(Desk& desk, std::string_view stage, OrderList list, const OrderEntryTexts& texts,
+                  QWidget* parent);
 
   const model::GameState& game() const { return m_desk.game(); }
   std::string line() const;
@@ -104,7 +107,7 @@ class OrderEntryPanel : public QWidget, public MapTool {
 
   Desk& m_desk;
   std::string m_stage;
-  Desk::OrderList m_orders;
+  OrderList m_orders;
   QVBoxLayout* m_column;
   QGridLayout* m_grid;
   QListWidget* m_list;

@@ -3,10 +3,9 @@
 #include "model/errors.h"
 #include "model/files.h"
 #include "orders/exchange/order_files.h"
-#include "orders/order_list.h"
 #include "text/qt/text_codec.h"
 #include "ui/output/file_dialogs.h"
-#include "ui/widgets/message_boxes.h"
+#include "ui/session/attempt.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -45,14 +44,6 @@ QString countedOrders(int count) {
 }
 
 }  // namespace
-
-bool takesOrders(const model::GameState& game) {
-  return game.Stage == "moves" || game.Stage == "retreats" || game.Stage == "adjustments";
-}
-
-bool hasOrders(const model::GameState& game) {
-  return !orders::StageList(game).empty();
-}
 
 ExchangeCommands::ExchangeCommands(Desk& desk, model::Messages& messages, QWidget* window)
     : QObject(window), m_desk(desk), m_messages(messages), m_window(window) {}

@@ -13,12 +13,6 @@ namespace orb::ui {
 /// The longest text of orders that is read, in bytes: many times all mails of a season.
 constexpr std::size_t OrdersTextBound = 200'000;
 
-/// Whether orders can be entered in the game's stage.
-bool takesOrders(const model::GameState& game);
-
-/// Whether the list of the game's stage holds orders to hand out.
-bool hasOrders(const model::GameState& game);
-
 /// The commands that take orders in from files and the clipboard and hand them out. What goes
 /// wrong is told in a message box, and the lists, files and the clipboard stay as they were.
 class ExchangeCommands : public QObject {

@@ -14,6 +14,8 @@
 namespace orb::ui {
 namespace {
 
+using session::Changes;
+
 constexpr double TwipsPerPixel = 15;
 constexpr double TwipsPerPoint = 20;
 
@@ -22,7 +24,7 @@ constexpr double TwipsPerPoint = 20;
 OwnersPicture::OwnersPicture(const Desk& desk, QWidget* parent) : QWidget(parent), m_desk(desk) {
   setObjectName(QStringLiteral("picOwners"));
   setAccessibleName(tr("Ownership of supply centres"));
-  connect(&m_desk, &Desk::changed, this, &OwnersPicture::showOwners);
+  m_desk.whenChanged(Changes::Position | Changes::Powers, this, &OwnersPicture::showOwners);
   showOwners();
 }
 

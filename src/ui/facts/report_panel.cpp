@@ -35,7 +35,7 @@ ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
   layOut();
   addListActions();
   connect(m_lines, &QListWidget::itemSelectionChanged, this, &ReportPanel::showReason);
-  connect(&m_desk, &Desk::changed, this, &ReportPanel::showReport);
+  m_desk.whenChanged(session::Changes::Report, this, &ReportPanel::showReport);
   showReport();
 }
 
@@ -89,9 +89,9 @@ void ReportPanel::showReport() {
 }
 
 void ReportPanel::colourLines() {
-  const std::vector<ReportNote>& notes = m_desk.now().reportNotes;
+  const std::vector<session::ReportNote>& notes = m_desk.now().Notes;
   for (int row = 0; row < m_lines->count(); ++row) {
-    const bool failed = notes.at(static_cast<std::size_t>(row)).failed;
+    const bool failed = notes.at(static_cast<std::size_t>(row)).Failed;
     const QColor background = palette().color(QPalette::Base);
     m_lines->item(row)->setForeground(failed ? failureColour(background) : QBrush());
   }
@@ -103,10 +103,10 @@ void ReportPanel::showReason() {
   m_reason->setForegroundRole(chosen ? QPalette::WindowText : QPalette::PlaceholderText);
   m_reason->setText(tr("Select a line to read why it came out so."));
   if (!chosen) return emit unitsPicked({});
-  const ReportNote& note =
-      m_desk.now().reportNotes.at(static_cast<std::size_t>(m_lines->currentRow()));
-  m_reason->setText(text::ToQString(note.reason));
-  emit unitsPicked(note.locations);
+  const session::ReportNote& note =
+      m_desk.now().Notes.at(static_cast<std::size_t>(m_lines->currentRow()));
+  m_reason->setText(text::ToQString(note.Reason));
+  emit unitsPicked(note.Locations);
 }
 
 void ReportPanel::copySelectedLines() {

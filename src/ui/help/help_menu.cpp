@@ -11,11 +11,11 @@ namespace orb::ui {
 namespace {
 
 /// The caption of the topic that helps in a stage.
-QString topicOf(const Situation& situation) {
-  if (situation.editing != Editing::None) return QObject::tr("Editing");
-  if (situation.game.Stage == "retreats") return QObject::tr("Retreats");
-  if (situation.game.Stage == "adjustments") return QObject::tr("Adjustments");
-  if (situation.game.Stage == "finished") return QObject::tr("Reading the report");
+QString topicOf(const session::Situation& situation) {
+  if (situation.Editing != session::Editing::None) return QObject::tr("Editing");
+  if (situation.Game.Stage == "retreats") return QObject::tr("Retreats");
+  if (situation.Game.Stage == "adjustments") return QObject::tr("Adjustments");
+  if (situation.Game.Stage == "finished") return QObject::tr("Reading the report");
   return QObject::tr("Entering orders");
 }
 
@@ -44,7 +44,8 @@ HelpMenu::HelpMenu(const Desk& desk, model::Messages& messages, QWidget* window)
   addSeparator();
   QAction* about = newEntry(*this, QStringLiteral("mnuHelpAbout"), withKey(tr("About"), takenKeys));
   connect(about, &QAction::triggered, this, &HelpMenu::about);
-  connect(&m_desk, &Desk::changed, this, &HelpMenu::showStage);
+  m_desk.whenChanged(session::Changes::Season | session::Changes::Editing, this,
+                     &HelpMenu::showStage);
   showStage();
 }
 

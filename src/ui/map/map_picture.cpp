@@ -4,6 +4,7 @@
 #include "render/qt/map_file.h"
 #include "render/qt/painter_surface.h"
 #include "ui/map/picture_painting.h"
+#include "ui/session/attempt.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -31,13 +32,13 @@ MapPicture::MapPicture(const Desk& desk, model::Messages& messages, QWidget* par
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void MapPicture::draw(const Situation& situation) {
+void MapPicture::draw(const session::Situation& situation, const View& view) {
   const QImage image =
-      render::MapImage(situation.game, situation.mapOptions, m_desk.dataDirectory(),
-                       fittingPixelWidth(), m_pictures, shownOrders(situation));
+      render::MapImage(situation.Game, view.mapOptions, m_desk.dataDirectory(), fittingPixelWidth(),
+                       m_pictures, shownOrders(situation, view));
   m_picture = QPixmap::fromImage(image);
   const QImage& background =
-      m_pictures.Picture(render::BackgroundFile(m_desk.dataDirectory(), situation.mapOptions.Mode));
+      m_pictures.Picture(render::BackgroundFile(m_desk.dataDirectory(), view.mapOptions.Mode));
   m_naturalSize = (render::NaturalSize(background) / TwipsPerPixel).toSize();
   update();
 }
@@ -69,7 +70,7 @@ void MapPicture::paintEvent(QPaintEvent* /*event*/) {
 
 void MapPicture::drawAgain() {
   try {
-    draw(m_desk.now());
+    draw(m_desk.now(), m_desk.view());
   } catch (const model::FatalError&) {
     // A bitmap that vanished meanwhile is reported by the next command; till then the old picture
     // stays.
@@ -96,11 +97,9 @@ const render::HitMap& MapPicture::hitMap() {
   if (!m_hitMap) {
     const double aspect = static_cast<double>(m_naturalSize.width()) / m_naturalSize.height();
     m_hitMap.emplace(aspect);
-    try {
+    attempt(m_messages, [&] {
       m_hitMap = render::LoadHitMap(m_desk.dataDirectory(), *m_desk.game().Map, aspect);
-    } catch (const model::FatalError& fault) {
-      m_messages.Show(fault.what(), model::Icon::Stop);
-    }
+    });
   }
   return *m_hitMap;
 }

@@ -23,7 +23,7 @@ class MapPicture : public QWidget {
   MapPicture(const Desk& desk, model::Messages& messages, QWidget* parent = nullptr);
 
   /// Draws a situation whole. Throws FatalError, the picture shown so far kept.
-  void draw(const Situation& situation);
+  void draw(const session::Situation& situation, const View& view);
 
   /// The size at which the map is meant to be seen, in pixels at 96 dpi.
   QSize naturalSize() const { return m_naturalSize; }

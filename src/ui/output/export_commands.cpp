@@ -10,7 +10,7 @@
 #include "ui/output/file_proposals.h"
 #include "ui/output/print_dialog.h"
 #include "ui/output/print_pages.h"
-#include "ui/widgets/message_boxes.h"
+#include "ui/session/attempt.h"
 
 #include <QBuffer>
 #include <QClipboard>
@@ -109,9 +109,9 @@ void ExportCommands::attempt(const std::function<void()>& command) {
 
 /// The map as it is shown, at the background picture's own resolution.
 QImage ExportCommands::mapPicture() {
-  const Situation& now = m_desk.now();
-  return render::MapImage(now.game, now.mapOptions, m_desk.dataDirectory(), 0, m_pictures,
-                          shownOrders(now));
+  const View& view = m_desk.view();
+  return render::MapImage(m_desk.game(), view.mapOptions, m_desk.dataDirectory(), 0, m_pictures,
+                          shownOrders(m_desk.now(), view));
 }
 
 void ExportCommands::copyMap() {
@@ -175,14 +175,15 @@ void ExportCommands::print() {
 }
 
 void ExportCommands::printOnce(QPrinter& printer) {
-  const Situation& now = m_desk.now();
-  const fs::path background = render::BackgroundFile(m_desk.dataDirectory(), now.mapOptions.Mode);
-  const PrintedGame game{printedTitle(now.game), text::ToQString(report::TextReport(now.game)),
-                         m_pictures.Picture(background).size(),
-                         [&](QPainter& painter, const QRectF& target) {
-                           render::PaintMap(now.game, now.mapOptions, m_desk.dataDirectory(),
-                                            m_pictures, painter, target, shownOrders(now));
-                         }};
+  const model::GameState& now = m_desk.game();
+  const View& view = m_desk.view();
+  const fs::path background = render::BackgroundFile(m_desk.dataDirectory(), view.mapOptions.Mode);
+  const PrintedGame game{
+      printedTitle(now), text::ToQString(report::TextReport(now)),
+      m_pictures.Picture(background).size(), [&](QPainter& painter, const QRectF& target) {
+        render::PaintMap(now, view.mapOptions, m_desk.dataDirectory(), m_pictures, painter, target,
+                         shownOrders(m_desk.now(), view));
+      }};
   if (printer.outputFormat() == QPrinter::PdfFormat) {
     printToFile(printer, game);
     emit noted(tr("The map and the report are in %1.").arg(printer.outputFileName()));

@@ -5,6 +5,7 @@
 #include "ui/output/file_dialogs.h"
 #include "ui/replay/animation_export.h"
 #include "ui/replay/animation_files.h"
+#include "ui/session/attempt.h"
 
 #include <algorithm>
 #include <iterator>
@@ -42,7 +43,7 @@ AnimationPlayer::AnimationPlayer(const Desk& desk, model::Messages& messages, Ma
   m_timer.setTimerType(Qt::PreciseTimer);
   m_timer.setInterval(FrameMilliseconds);
   connect(&m_timer, &QTimer::timeout, this, &AnimationPlayer::tick);
-  connect(&desk, &Desk::changed, this, &AnimationPlayer::showOptions);
+  connect(&desk, &Desk::viewChanged, this, &AnimationPlayer::showOptions);
   connectBar();
 }
 
@@ -64,11 +65,8 @@ void AnimationPlayer::connectBar() {
 }
 
 void AnimationPlayer::playSeason() {
-  try {
-    play({history::SeasonPart(m_desk.game(), m_desk.now().outcomes)});
-  } catch (const model::FatalError& fault) {
-    m_messages.Show(fault.what(), model::Icon::Stop);
-  }
+  attempt(m_messages,
+          [this] { play({history::SeasonPart(m_desk.game(), m_desk.now().Outcomes)}); });
 }
 
 void AnimationPlayer::askAndPlayFiles() {
@@ -77,7 +75,7 @@ void AnimationPlayer::askAndPlayFiles() {
 }
 
 void AnimationPlayer::playFiles(const std::vector<std::filesystem::path>& files) {
-  try {
+  attempt(m_messages, [&] {
     const AnimationFiles read = readAnimationFiles(files, m_desk.game());
     std::vector<history::ReplayPart> parts = history::ReplaySequence(read.games);
     if (parts.empty()) {
@@ -87,16 +85,14 @@ void AnimationPlayer::playFiles(const std::vector<std::filesystem::path>& files)
       m_messages.Show("Left out of the animation:\r" + read.leftOut, model::Icon::Exclamation);
     }
     play(std::move(parts));
-  } catch (const model::FatalError& fault) {
-    m_messages.Show(fault.what(), model::Icon::Stop);
-  }
+  });
 }
 
 /// Throws FatalError when it cannot be drawn; nothing has begun then.
 void AnimationPlayer::play(std::vector<history::ReplayPart> parts) {
   end();
   auto picture = std::make_unique<AnimationPicture>(m_map, m_desk.dataDirectory());
-  picture->setReplay(parts.front().Replay, m_desk.now().mapOptions);
+  picture->setReplay(parts.front().Replay, m_desk.view().mapOptions);
   m_picture = picture.release();
   // A click must not lead the keys to the map below.
   m_picture->setFocusPolicy(Qt::ClickFocus);
@@ -161,7 +157,7 @@ void AnimationPlayer::show() {
   const history::ReplayPart& part = m_parts[static_cast<std::size_t>(season)];
   if (m_shownSeason != season) {
     try {
-      m_picture->setReplay(part.Replay, m_desk.now().mapOptions);
+      m_picture->setReplay(part.Replay, m_desk.view().mapOptions);
     } catch (const model::FatalError& fault) {
       end();
       return m_messages.Show(fault.what(), model::Icon::Stop);
@@ -180,7 +176,7 @@ void AnimationPlayer::showOptions() {
 
 void AnimationPlayer::exportParts() {
   setPlaying(false);
-  const auto file = exportAnimation(m_parts, m_desk.now().mapOptions, m_desk.dataDirectory(),
+  const auto file = exportAnimation(m_parts, m_desk.view().mapOptions, m_desk.dataDirectory(),
                                     m_messages, m_window);
   if (file) emit noted(tr("The animation is in %1.").arg(displayPath(file->string())));
 }

@@ -1,169 +1,137 @@
 #include "ui/session/desk.h"
 
-#include "model/errors.h"
-#include "model/game_file.h"
-#include "model/new_game.h"
-#include "model/seasons.h"
-#include "orders/exchange/order_files.h"
-#include "orders/order_list.h"
-#include "settings/map_options.h"
+#include "ui/session/attempt.h"
 
 #include <utility>
 
 namespace orb::ui {
-namespace {
 
-bool listsDiffer(const model::GameState& a, const model::GameState& b) {
-  return a.OrdersList != b.OrdersList || a.RetreatsList != b.RetreatsList ||
-         a.AdjustmentsList != b.AdjustmentsList;
-}
+using session::Changes;
+using session::Situation;
 
-}  // namespace
-
-Desk::Desk(Situation start, std::filesystem::path dataDirectory, model::Messages& messages,
+Desk::Desk(Start start, std::filesystem::path dataDirectory, model::Messages& messages,
            QObject* parent)
     : QObject(parent),
-      m_now(std::move(start)),
+      m_session(std::move(start.situation)),
+      m_view(start.view),
       m_dataDirectory(std::move(dataDirectory)),
-      m_messages(messages) {}
+      m_messages(messages) {
+  m_session.SetReview([this](const Situation& next) { m_draw(next, m_view); });
+}
 
 void Desk::newGame() {
-  run([this](Situation& next) {
-    next.editing = Editing::None;
-    model::NewGame(next.game, m_dataDirectory);
-  });
+  run([this](Situation& next) { session::NewGame(next, m_dataDirectory); });
 }
 
 void Desk::blankGame() {
-  run([this](Situation& next) {
-    next.editing = Editing::None;
-    model::BlankGame(next.game, m_dataDirectory);
-  });
+  run([this](Situation& next) { session::BlankGame(next, m_dataDirectory); });
 }
 
 void Desk::openGame(const std::filesystem::path& file, bool readOnly) {
   run([&](Situation& next) {
-    next.readOnly = readOnly;
-    next.editing = Editing::None;
-    next.stoppedLine.reset();
-    model::ReadGameFile(next.game, file, m_dataDirectory, m_messages);
+    session::OpenGame(next, file, readOnly, m_dataDirectory, m_messages);
   });
 }
 
 void Desk::saveGame() {
-  run([](Situation& next) { model::WriteGameFile(next.game); });
+  run(session::SaveGame);
 }
 
 void Desk::saveGameAs(const std::filesystem::path& file) {
-  run([&](Situation& next) {
-    next.readOnly = false;
-    next.game.FileName = file.string();
-    model::WriteGameFile(next.game);
-  });
+  run([&](Situation& next) { session::SaveGameAs(next, file); });
 }
 
-bool Desk::fileOrder(OrderList list, const std::string& text) {
-  bool filed = false;
-  const bool done = run([&](Situation& next) { filed = orders::FileOrder(next.game.*list, text); });
-  return done && filed;
+bool Desk::fileOrder(const std::string& text) {
+  return run([&](Situation& next) { return session::FileOrder(next, text); });
 }
 
-void Desk::deleteOrder(OrderList list, int position) {
-  run([&](Situation& next) { orders::DeleteOrder(next.game.*list, position); });
+void Desk::deleteOrder(int row) {
+  run([&](Situation& next) { return session::DeleteOrder(next, row); });
 }
 
 int Desk::fileOrders(const std::vector<exchange::ReadLine>& lines) {
   int filed = 0;
-  const bool done = run([&](Situation& next) { filed = exchange::FileOrders(next.game, lines); });
-  return done ? filed : 0;
+  const auto file = [&](Situation& next) { filed = session::FileOrders(next, lines); };
+  return run(file) ? filed : 0;
 }
 
 void Desk::resolve() {
-  run([this](Situation& next) { resolveStage(next, m_messages); });
-  if (m_now.stoppedLine) emit stopped();
+  run([this](Situation& next) { return session::Resolve(next, m_messages); });
+  if (now().Stopped) emit stopped();
 }
 
 void Desk::nextSeason() {
-  run([](Situation& next) { model::NextSeason(next.game); });
+  run(session::NextSeason);
 }
 
 void Desk::undoSeason() {
-  run([this](Situation& next) {
-    if (model::UndoSeason(next.game, m_messages)) next.editing = Editing::None;
-  });
+  run([this](Situation& next) { return session::UndoSeason(next, m_messages); });
 }
 
 void Desk::editSeason(const model::SeasonFacts& facts) {
-  run([&](Situation& next) {
-    next.editing = Editing::None;
-    model::EditSeason(next.game, facts);
-  });
-}
-
-void Desk::setMapOptions(const settings::MapOptions& options) {
-  run([&](Situation& next) { next.mapOptions = options; });
-}
-
-void Desk::setViewOnly(bool viewOnly) {
-  run([&](Situation& next) { next.viewOnly = viewOnly; });
-}
-
-void Desk::setShowOrders(bool showOrders) {
-  run([&](Situation& next) { next.showOrders = showOrders; });
+  run([&](Situation& next) { session::EditSeason(next, facts); });
 }
 
 void Desk::setColours(const model::CountryTable& colours) {
-  run([&](Situation& next) {
-    for (int i = 1; i <= model::CountryCount; ++i) {
-      next.game.Countries[i].Colour = colours[i].Colour;
-      next.game.Countries[i].TextColour = colours[i].TextColour;
-    }
-  });
+  run([&](Situation& next) { session::SetColours(next, colours); });
 }
 
-void Desk::setEditing(Editing editing) {
-  run([&](Situation& next) { next.editing = editing; });
+void Desk::setEditing(session::Editing editing) {
+  run([&](Situation& next) { session::SetEditing(next, editing); });
 }
 
-std::string Desk::edit(const std::function<std::string(model::GameState&)>& change) {
+std::string Desk::edit(const session::PositionChange& change) {
   std::string refusal;
   run([&](Situation& next) {
-    refusal = change(next.game);
-    next.edits.Record(m_now.game, next.game);
+    refusal = session::Edit(next, change);
+    return refusal.empty();
   });
   return refusal;
 }
 
 void Desk::undoEdit() {
-  run([](Situation& next) { next.edits.Undo(next.game); });
+  run(session::UndoEdit);
 }
 
 void Desk::redoEdit() {
-  run([](Situation& next) { next.edits.Redo(next.game); });
+  run(session::RedoEdit);
 }
 
 void Desk::withdrawEdit() {
-  run([](Situation& next) { next.edits.Withdraw(next.game); });
+  run(session::WithdrawEdit);
 }
 
-bool Desk::run(const std::function<void(Situation&)>& command) {
-  bool done = false;
-  try {
-    Situation next = m_now;
-    command(next);
-    next.reportNotes.resize(static_cast<std::size_t>(next.game.ReportLines.Count()));
-    if (listsDiffer(next.game, m_now.game)) next.stoppedLine.reset();
-    if (next.game.ReportLines.Count() == 0) next.outcomes.clear();
-    const bool edited = next.editing != Editing::None && next.edits.LeadsTo(next.game);
-    if (!edited) next.edits.Clear();
-    m_draw(next);
-    m_now = std::move(next);
-    done = true;
-  } catch (const model::FatalError& fault) {
-    m_messages.Show(fault.what(), model::Icon::Stop);
-  }
-  emit changed();
-  return done;
+void Desk::setMapOptions(const settings::MapOptions& options) {
+  View next = m_view;
+  next.mapOptions = options;
+  show(next);
+}
+
+void Desk::setViewOnly(bool viewOnly) {
+  View next = m_view;
+  next.viewOnly = viewOnly;
+  show(next);
+}
+
+void Desk::setShowOrders(bool showOrders) {
+  View next = m_view;
+  next.showOrders = showOrders;
+  show(next);
+}
+
+bool Desk::run(const session::Command& command) {
+  session::Effect effect{false, Changes::All};
+  attempt(m_messages, [&] { effect = m_session.Run(command); });
+  emit changed(effect.Changed);
+  return effect.Done;
+}
+
+void Desk::show(const View& next) {
+  attempt(m_messages, [&] {
+    m_draw(now(), next);
+    m_view = next;
+  });
+  emit viewChanged();
 }
 
 }  // namespace orb::ui

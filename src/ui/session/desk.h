@@ -1,10 +1,8 @@
 #pragma once
 
 #include "model/messages.h"
-#include "model/season_edit.h"
-#include "orders/exchange/read_orders.h"
-#include "settings/map_options.h"
-#include "ui/session/situation.h"
+#include "session/session.h"
+#include "ui/session/start.h"
 
 #include <QObject>
 
@@ -15,27 +13,35 @@
 
 namespace orb::ui {
 
-/// The one game of the window and the commands on it. Each command is one call into the core on a
-/// copy of the situation, which is then shown and takes the old one's place. A command that meets
-/// a fatal error is reported in an error box, and everything stays as it was.
+/// The one game of the window, how it is shown, and the commands on both: each is handed on to the
+/// session and told in signals that say what changed. A command that meets a fatal error is
+/// reported in an error box, and everything stays as it was.
 class Desk : public QObject {
   Q_OBJECT
 
  public:
-  /// One of the lists of order lines in the game.
-  using OrderList = std::vector<std::string> model::GameState::*;
+  /// Draws a game so that it can be shown; throws FatalError when it cannot be drawn.
+  using Drawing = std::function<void(const session::Situation&, const View&)>;
 
   /// The messages must outlive the desk.
-  Desk(Situation start, std::filesystem::path dataDirectory, model::Messages& messages,
+  Desk(Start start, std::filesystem::path dataDirectory, model::Messages& messages,
        QObject* parent);
 
-  const Situation& now() const { return m_now; }
-  const model::GameState& game() const { return m_now.game; }
+  const session::Situation& now() const { return m_session.Now(); }
+  const model::GameState& game() const { return now().Game; }
+  const View& view() const { return m_view; }
   const std::filesystem::path& dataDirectory() const { return m_dataDirectory; }
 
-  /// Called with each new situation before it is taken over; throws FatalError when it cannot be
-  /// drawn, which abandons the command.
-  void setDrawing(std::function<void(const Situation&)> draw) { m_draw = std::move(draw); }
+  /// Called before anything new is taken over: what cannot be drawn is not.
+  void setDrawing(Drawing draw) { m_draw = std::move(draw); }
+
+  /// Calls the receiver's slot after every command that changed any of these parts.
+  template <class Receiver>
+  void whenChanged(session::Changes parts, Receiver* receiver, void (Receiver::*slot)()) const {
+    connect(this, &Desk::changed, receiver, [=](session::Changes changes) {
+      if (session::Meet(changes, parts)) (receiver->*slot)();
+    });
+  }
 
   void newGame();
   void blankGame();
@@ -44,52 +50,50 @@ class Desk : public QObject {
   void saveGameAs(const std::filesystem::path& file);
 
   /// False when nothing was filed.
-  bool fileOrder(OrderList list, const std::string& text);
-  void deleteOrder(OrderList list, int position);
+  bool fileOrder(const std::string& text);
+  void deleteOrder(int row);
 
-  /// Files the orders of lines that were understood into the list of the stage; how many.
+  /// How many were filed.
   int fileOrders(const std::vector<exchange::ReadLine>& lines);
 
   void resolve();
   void nextSeason();
   void undoSeason();
-
-  /// Ends any other editing.
   void editSeason(const model::SeasonFacts& facts);
+  void setColours(const model::CountryTable& colours);
+
+  void setEditing(session::Editing editing);
+
+  /// The change's own text: empty, or why it is refused.
+  std::string edit(const session::PositionChange& change);
+  void undoEdit();
+  void redoEdit();
+  void withdrawEdit();
 
   void setMapOptions(const settings::MapOptions& options);
   void setViewOnly(bool viewOnly);
   void setShowOrders(bool showOrders);
 
-  /// Takes over both colours of every power, and nothing else of the table.
-  void setColours(const model::CountryTable& colours);
-
-  /// Choosing the stage's own entry ends the editing.
-  void setEditing(Editing editing);
-
-  /// A step of editing, which may be taken back till the editing ends or another command changes
-  /// what is edited. Returns the change's own text: empty, or why it is refused.
-  std::string edit(const std::function<std::string(model::GameState&)>& change);
-  void undoEdit();
-  void redoEdit();
-
-  /// Undoes the last step as if it had never been.
-  void withdrawEdit();
-
  signals:
-  void changed();
+  /// A command changed these parts of the situation. After one that was abandoned, all of them:
+  /// what a control shows already goes back.
+  void changed(session::Changes changes);
 
-  /// A resolution was abandoned at a question; follows changed.
+  void viewChanged();
+
+  /// A resolution was abandoned at a line; follows changed.
   void stopped();
 
  private:
-  /// False when the command was abandoned.
-  bool run(const std::function<void(Situation&)>& command);
+  /// False when the command was declined or abandoned.
+  bool run(const session::Command& command);
+  void show(const View& view);
 
-  Situation m_now;
+  session::Session m_session;
+  View m_view;
   std::filesystem::path m_dataDirectory;
   model::Messages& m_messages;
-  std::function<void(const Situation&)> m_draw = [](const Situation&) {};
+  Drawing m_draw = [](const session::Situation&, const View&) {};
 };
 
 }  // namespace orb::ui

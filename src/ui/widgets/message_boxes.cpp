@@ -44,14 +44,6 @@ QString displayText(const std::string& text) {
   return shown.replace(QLatin1Char('\r'), QLatin1Char('\n'));
 }
 
-void attempt(model::Messages& messages, const std::function<void()>& command) {
-  try {
-    command();
-  } catch (const model::FatalError& fault) {
-    messages.Show(fault.what(), model::Icon::Stop);
-  }
-}
-
 bool MessageBoxes::Warn(const std::string& text) {
   QMessageBox box(m_parent);
   setUp(box, text, QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No);

@@ -5,16 +5,11 @@
 #include <QString>
 #include <QWidget>
 
-#include <functional>
-
 namespace orb::ui {
 
 /// A message text as a box shows it: every line break of the core becomes a new line. Texts of the
 /// system (file names, reasons) are UTF-8, texts of the game Windows-1252.
 QString displayText(const std::string& text);
-
-/// Runs a command; a fatal error is told in a box.
-void attempt(model::Messages& messages, const std::function<void()>& command);
 
 /// Real message boxes over a window.
 class MessageBoxes : public model::Messages {

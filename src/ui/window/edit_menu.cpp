@@ -24,13 +24,14 @@ EditMenu::EditMenu(Desk& desk, ExportCommands& commands, ExchangeCommands& excha
   connect(copyText, &QAction::triggered, &commands, &ExportCommands::copyText);
   connect(m_copyOrders, &QAction::triggered, &exchange, &ExchangeCommands::copyOrders);
   connect(m_pasteOrders, &QAction::triggered, &exchange, &ExchangeCommands::pasteOrders);
-  connect(&m_desk, &Desk::changed, this, &EditMenu::showState);
+  using session::Changes;
+  m_desk.whenChanged(Changes::Season | Changes::Orders, this, &EditMenu::showState);
   showState();
 }
 
 void EditMenu::showState() {
-  m_copyOrders->setEnabled(hasOrders(m_desk.game()));
-  m_pasteOrders->setEnabled(takesOrders(m_desk.game()));
+  m_copyOrders->setEnabled(session::HasOrders(m_desk.game()));
+  m_pasteOrders->setEnabled(session::TakesOrders(m_desk.game()));
 }
 
 }  // namespace orb::ui

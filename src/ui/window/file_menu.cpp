@@ -31,7 +31,8 @@ FileMenu::FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory,
   connect(m_save, &QAction::triggered, this, &FileMenu::save);
   connect(saveAs, &QAction::triggered, this, &FileMenu::saveAs);
   connect(exit, &QAction::triggered, m_window, &QWidget::close);
-  connect(&m_desk, &Desk::changed, this, &FileMenu::showState);
+  using session::Changes;
+  m_desk.whenChanged(Changes::Season | Changes::Orders | Changes::File, this, &FileMenu::showState);
   showState();
 }
 
@@ -74,9 +75,9 @@ void FileMenu::saveAs() {
 }
 
 void FileMenu::showState() {
-  m_save->setEnabled(!m_desk.now().readOnly || m_desk.game().FileName.empty());
-  m_importOrders->setEnabled(takesOrders(m_desk.game()));
-  m_exportOrders->setEnabled(hasOrders(m_desk.game()));
+  m_save->setEnabled(!m_desk.now().ReadOnly || m_desk.game().FileName.empty());
+  m_importOrders->setEnabled(session::TakesOrders(m_desk.game()));
+  m_exportOrders->setEnabled(session::HasOrders(m_desk.game()));
   m_animateMove->setEnabled(m_desk.game().Stage == "finished");
 }
 

@@ -6,6 +6,8 @@
 
 namespace orb::ui {
 
+using session::Editing;
+
 GameMenu::GameMenu(Desk& desk, QWidget* parent) : QMenu(tr("&Game"), parent), m_desk(desk) {
   setObjectName(QStringLiteral("mnuGame"));
   addStage(QStringLiteral("mnuGameEnterOrders"), tr("Enter &orders"), "moves");
@@ -23,7 +25,8 @@ GameMenu::GameMenu(Desk& desk, QWidget* parent) : QMenu(tr("&Game"), parent), m_
   addSeparator();
   m_undo = newEntry(*this, QStringLiteral("mnuGameUndo"), tr("U&ndo season"), QKeySequence::Undo);
   connect(m_undo, &QAction::triggered, &desk, &Desk::undoSeason);
-  connect(&desk, &Desk::changed, this, &GameMenu::showState);
+  m_desk.whenChanged(session::Changes::Season | session::Changes::Editing, this,
+                     &GameMenu::showState);
   showState();
 }
 
@@ -32,7 +35,11 @@ void GameMenu::addStage(const QString& name, const QString& caption, std::string
   QAction* entry = newEntry(*this, name, caption);
   entry->setCheckable(true);
   m_stages.emplace_back(entry, stage);
-  connect(entry, &QAction::triggered, this, [this] { m_desk.setEditing(Editing::None); });
+  connect(entry, &QAction::triggered, this, [this] {
+    m_desk.setEditing(Editing::None);
+    // The click itself has turned the mark.
+    showState();
+  });
 }
 
 void GameMenu::addEditing(const QString& name, const QString& caption, Editing editing) {
@@ -54,7 +61,7 @@ void GameMenu::addEditSteps() {
 
 void GameMenu::showState() {
   const std::string& now = m_desk.game().Stage;
-  const Editing edited = m_desk.now().editing;
+  const Editing edited = m_desk.now().Editing;
   for (const auto& [entry, stage] : m_stages) {
     entry->setChecked(stage == now && edited == Editing::None);
     entry->setEnabled(stage == now);
@@ -64,8 +71,8 @@ void GameMenu::showState() {
   // The keys of a hidden entry do nothing.
   for (QAction* entry : {m_undoEdit, m_redoEdit})
     entry->setVisible(edited != Editing::None);
-  m_undoEdit->setEnabled(m_desk.now().edits.CanUndo());
-  m_redoEdit->setEnabled(m_desk.now().edits.CanRedo());
+  m_undoEdit->setEnabled(m_desk.now().Edits.CanUndo());
+  m_redoEdit->setEnabled(m_desk.now().Edits.CanRedo());
   m_undo->setEnabled(now != "moves");
   // While something is edited the keys take back a step of the editing.
   m_undo->setShortcut(edited == Editing::None ? QKeySequence::Undo : QKeySequence());

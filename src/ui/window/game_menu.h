@@ -19,13 +19,13 @@ class GameMenu : public QMenu {
 
  private:
   void addStage(const QString& name, const QString& caption, std::string_view stage);
-  void addEditing(const QString& name, const QString& caption, Editing editing);
+  void addEditing(const QString& name, const QString& caption, session::Editing editing);
   void addEditSteps();
   void showState();
 
   Desk& m_desk;
   std::vector<std::pair<QAction*, std::string_view>> m_stages;
-  std::vector<std::pair<QAction*, Editing>> m_editings;
+  std::vector<std::pair<QAction*, session::Editing>> m_editings;
   QAction* m_undoEdit = nullptr;
   QAction* m_redoEdit = nullptr;
   QAction* m_undo = nullptr;

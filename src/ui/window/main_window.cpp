@@ -1,6 +1,5 @@
 #include "ui/window/main_window.h"
 
-#include "model/errors.h"
 #include "settings/settings_file.h"
 #include "text/qt/text_codec.h"
 #include "ui/editing/edit_provinces_panel.h"
@@ -17,6 +16,7 @@
 #include "ui/output/export_commands.h"
 #include "ui/output/file_dialogs.h"
 #include "ui/replay/animation_player.h"
+#include "ui/session/attempt.h"
 #include "ui/widgets/controls.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/place_text.h"
@@ -44,6 +44,8 @@
 namespace orb::ui {
 namespace {
 
+using session::Editing;
+
 constexpr int Margin = 10;
 constexpr int Gap = 12;
 constexpr int ColumnWidth = 345;
@@ -58,7 +60,7 @@ QString draggedFile(const QMimeData& data) {
 
 }  // namespace
 
-MainWindow::MainWindow(Situation start, const Places& places)
+MainWindow::MainWindow(Start start, const Places& places)
     : m_messages(this),
       m_desk(std::move(start), places.program, m_messages, nullptr),
       m_places(places),
@@ -72,10 +74,14 @@ MainWindow::MainWindow(Situation start, const Places& places)
   createToolbar();
   restoreSize();
   m_desk.setShowOrders(m_memory.flag(ShowOrders));
-  m_map->draw(m_desk.now());
+  m_map->draw(m_desk.now(), m_desk.view());
   m_view->setZoom(m_memory.zoom());
-  m_desk.setDrawing([this](const Situation& situation) { m_map->draw(situation); });
-  connect(&m_desk, &Desk::changed, this, &MainWindow::showGame);
+  m_desk.setDrawing(
+      [this](const session::Situation& next, const View& view) { m_map->draw(next, view); });
+  using session::Changes;
+  m_desk.whenChanged(Changes::Season | Changes::File | Changes::Editing, this,
+                     &MainWindow::showGame);
+  connect(&m_desk, &Desk::viewChanged, this, &MainWindow::showViewOnly);
   showGame();
 }
 
@@ -234,14 +240,12 @@ void MainWindow::rememberSize() {
 void MainWindow::closeEvent(QCloseEvent* event) {
   rememberSize();
   m_memory.setZoom(m_view->zoom());
-  m_memory.setFlag(ShowOrders, m_desk.now().showOrders);
-  try {
-    const Situation& now = m_desk.now();
+  m_memory.setFlag(ShowOrders, m_desk.view().showOrders);
+  attempt(m_messages, [this] {
+    const View& view = m_desk.view();
     settings::WriteSettingsFile(settings::SettingsFileForWriting(m_places.program, m_places.config),
-                                {now.mapOptions, now.viewOnly}, now.game.Countries);
-  } catch (const model::FatalError& fault) {
-    m_messages.Show(fault.what(), model::Icon::Stop);
-  }
+                                {view.mapOptions, view.viewOnly}, m_desk.game().Countries);
+  });
   event->accept();
 }
 
@@ -270,13 +274,13 @@ void MainWindow::showGame() {
     m_fileName->setToolTip(file);
     if (!file.isEmpty()) m_memory.addRecentFile(QFileInfo(file).absoluteFilePath());
   }
-  if (m_shownPanel != std::pair(game.Stage, m_desk.now().editing)) showStagePanel();
+  if (m_shownPanel != std::pair(game.Stage, m_desk.now().Editing)) showStagePanel();
   showViewOnly();
 }
 
 /// Only the map shows in view-only mode, and nothing that belongs to playing.
 void MainWindow::showViewOnly() {
-  const bool viewOnly = m_desk.now().viewOnly;
+  const bool viewOnly = m_desk.view().viewOnly;
   m_gameMenu->setEnabled(!viewOnly && !m_player->isOn());
   if (m_column->isHidden() == viewOnly) return;
   const bool sizeIsFree = !isMaximized() && !isFullScreen();
@@ -299,7 +303,7 @@ int MainWindow::mapHeight() const {
 }
 
 void MainWindow::showStagePanel() {
-  m_shownPanel = {m_desk.game().Stage, m_desk.now().editing};
+  m_shownPanel = {m_desk.game().Stage, m_desk.now().Editing};
   const auto& [shownStage, editing] = *m_shownPanel;
   const std::array<std::pair<std::string_view, OrderEntryPanel*>, 3> entryPanels{
       {{"moves", m_orders}, {"retreats", m_retreats}, {"adjustments", m_adjustments}}};
@@ -342,7 +346,7 @@ void MainWindow::showStatus(const QString& text) {
 void MainWindow::chooseTool() {
   MapTool* tool = nullptr;
   const auto consider = [&](auto* panel) {
-    if (!panel->isHidden() && !m_desk.now().viewOnly) tool = panel;
+    if (!panel->isHidden() && !m_desk.view().viewOnly) tool = panel;
   };
   consider(m_orders);
   consider(m_retreats);

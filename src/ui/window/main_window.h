@@ -40,7 +40,7 @@ class MainWindow : public QMainWindow {
 
  public:
   /// Throws FatalError when the map cannot be drawn.
-  MainWindow(Situation start, const Places& places);
+  MainWindow(Start start, const Places& places);
   MainWindow(const MainWindow&) = delete;
   MainWindow& operator=(const MainWindow&) = delete;
   ~MainWindow() override;
@@ -99,7 +99,7 @@ class MainWindow : public QMainWindow {
   MapMenu* m_mapMenu = nullptr;
   ElidedLabel* m_status = nullptr;
   ElidedLabel* m_fileName = nullptr;
-  std::optional<std::pair<std::string, Editing>> m_shownPanel;
+  std::optional<std::pair<std::string, session::Editing>> m_shownPanel;
   int m_normalWidth = 0;  ///< of the window, while only the map shows
 };
 

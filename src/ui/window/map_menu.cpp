@@ -35,7 +35,7 @@ MapMenu::MapMenu(Desk& desk, MapView& view, QWidget* parent)
       newEntry(*this, QStringLiteral("mnuMapShowOrders"), tr("Show o&rders"), Qt::CTRL | Qt::Key_D);
   m_showOrders->setCheckable(true);
   connect(m_showOrders, &QAction::triggered, &m_desk, &Desk::setShowOrders);
-  connect(&m_desk, &Desk::changed, this, &MapMenu::showState);
+  connect(&m_desk, &Desk::viewChanged, this, &MapMenu::showState);
   showState();
 }
 
@@ -70,25 +70,25 @@ void MapMenu::addToggle(const QString& name, const QString& caption, Toggle togg
 }
 
 void MapMenu::choose(MapMode mode) {
-  MapOptions options = m_desk.now().mapOptions;
+  MapOptions options = m_desk.view().mapOptions;
   options.Mode = mode;
   m_desk.setMapOptions(options);
 }
 
 void MapMenu::set(Toggle toggle, bool on) {
-  MapOptions options = m_desk.now().mapOptions;
+  MapOptions options = m_desk.view().mapOptions;
   options.*toggle = on;
   m_desk.setMapOptions(options);
 }
 
 void MapMenu::showState() {
-  const MapOptions& options = m_desk.now().mapOptions;
+  const MapOptions& options = m_desk.view().mapOptions;
   for (const auto& [entry, mode] : m_modes)
     entry->setChecked(options.Mode == mode);
   for (const auto& [entry, toggle] : m_toggles)
     entry->setChecked(options.*toggle);
-  m_viewOnly->setChecked(m_desk.now().viewOnly);
-  m_showOrders->setChecked(m_desk.now().showOrders);
+  m_viewOnly->setChecked(m_desk.view().viewOnly);
+  m_showOrders->setChecked(m_desk.view().showOrders);
 }
 
 }  // namespace orb::ui

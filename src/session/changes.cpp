@@ -1,0 +1,56 @@
+#include "session/changes.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace orb::session {
+namespace {
+
+using model::GameState;
+
+bool SameRows(const auto& a, const auto& b) {
+  return std::ranges::equal(a, b);
+}
+
+bool SameSeason(const GameState& a, const GameState& b) {
+  return std::tie(a.Title, a.Season, a.Year, a.Stage) ==
+             std::tie(b.Title, b.Season, b.Year, b.Stage) &&
+         SameRows(a.TextLines, b.TextLines);
+}
+
+bool SamePosition(const GameState& a, const GameState& b) {
+  return a.Map == b.Map && SameRows(a.Units, b.Units) && SameRows(a.Provinces, b.Provinces);
+}
+
+bool SameReport(const Situation& a, const Situation& b) {
+  return SameRows(a.Game.ReportLines, b.Game.ReportLines) &&
+         std::tie(a.Notes, a.Outcomes) == std::tie(b.Notes, b.Outcomes);
+}
+
+bool SameEditing(const Situation& a, const Situation& b) {
+  return a.Editing == b.Editing && a.Edits.CanUndo() == b.Edits.CanUndo() &&
+         a.Edits.CanRedo() == b.Edits.CanRedo();
+}
+
+}  // namespace
+
+bool SameLists(const GameState& a, const GameState& b) {
+  return std::tie(a.OrdersList, a.RetreatsList, a.AdjustmentsList) ==
+         std::tie(b.OrdersList, b.RetreatsList, b.AdjustmentsList);
+}
+
+Changes ChangesBetween(const Situation& before, const Situation& after) {
+  const GameState& a = before.Game;
+  const GameState& b = after.Game;
+  Changes changes = Changes::None;
+  if (!SameSeason(a, b)) changes |= Changes::Season;
+  if (!SamePosition(a, b)) changes |= Changes::Position;
+  if (!SameRows(a.Countries, b.Countries)) changes |= Changes::Powers;
+  if (!SameLists(a, b) || before.Stopped != after.Stopped) changes |= Changes::Orders;
+  if (!SameReport(before, after)) changes |= Changes::Report;
+  if (a.FileName != b.FileName || before.ReadOnly != after.ReadOnly) changes |= Changes::File;
+  if (!SameEditing(before, after)) changes |= Changes::Editing;
+  return changes;
+}
+
+}  // namespace orb::session

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "session/situation.h"
+
+#include <cstdint>
+
+namespace orb::session {
+
+/// Parts of a situation, as a set: what a command changed, or what somebody who shows it depends
+/// on.
+enum class Changes : std::uint8_t {
+  None = 0,
+  Season = 1,    ///< title, season, year, stage, free text
+  Position = 2,  ///< units and centres
+  Powers = 4,    ///< players and colours
+  Orders = 8,    ///< the lists, and the line at which resolving stopped
+  Report = 16,   ///< the report with its notes, and the outcomes of orders
+  File = 32,     ///< the game's file and whether it is only read
+  Editing = 64,  ///< what is edited, and which steps can be taken
+  All = 127,
+};
+
+constexpr Changes operator|(Changes a, Changes b) {
+  return static_cast<Changes>(static_cast<unsigned>(a) | static_cast<unsigned>(b));
+}
+
+constexpr Changes& operator|=(Changes& a, Changes b) {
+  return a = a | b;
+}
+
+/// Whether the two sets have a part in common.
+constexpr bool Meet(Changes a, Changes b) {
+  return (static_cast<unsigned>(a) & static_cast<unsigned>(b)) != 0;
+}
+
+/// Whether the lists of all stages are the same.
+bool SameLists(const model::GameState& a, const model::GameState& b);
+
+Changes ChangesBetween(const Situation& before, const Situation& after);
+
+}  // namespace orb::session

@@ -1,0 +1,106 @@
+#pragma once
+
+#include "model/messages.h"
+#include "model/season_edit.h"
+#include "orders/exchange/read_orders.h"
+#include "session/situation.h"
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Every command of a game, each as one function that works in place: for a program that reads a
+// game, does one thing with it and drops it. What a command refuses it refuses by a FatalError
+// whose sentence is the same in every front end. After a throw or a false the situation may be half
+// changed and must be dropped: class Session keeps the one before, and keeps in step what depends
+// on the game.
+
+namespace orb::session {
+
+// Games and their files.
+
+/// The starting position. The data directory is that of start.dat.
+void NewGame(Situation& situation, const std::filesystem::path& dataDirectory);
+
+/// The empty board.
+void BlankGame(Situation& situation, const std::filesystem::path& dataDirectory);
+
+/// Reads a game file. A location that is not on the map is told in a message: false.
+bool ReadGame(Situation& situation, const std::filesystem::path& file, model::Messages& messages);
+
+/// Reads a game file to work on; the starting position where ReadGame is false.
+void OpenGame(Situation& situation, const std::filesystem::path& file, bool readOnly,
+              const std::filesystem::path& dataDirectory, model::Messages& messages);
+
+/// Writes the game to the file that it came from or was saved to last.
+void SaveGame(const Situation& situation);
+
+/// Writes the game to a file, which is the game's own from then on.
+void SaveGameAs(Situation& situation, const std::filesystem::path& file);
+
+// Orders of the stage.
+
+/// Files a typed order into the stage's list, in place of the unit's previous one. False: it names
+/// no unit.
+bool FileOrder(Situation& situation, std::string_view text);
+
+/// Files the orders of the lines that were understood; how many.
+int FileOrders(Situation& situation, const std::vector<exchange::ReadLine>& lines);
+
+/// Removes the line in this row, counted from 0; false when there is none.
+bool DeleteOrder(Situation& situation, int row);
+
+/// These lines take the place of the stage's list.
+void ReplaceOrders(Situation& situation, std::vector<std::string> lines);
+
+/// The orders in a text as people write it take the place of the stage's list. Returns the lines
+/// that are unclear, which are left out.
+std::vector<exchange::ReadLine> ReplaceOrdersByText(Situation& situation, std::string_view text,
+                                                    const exchange::ReadingOptions& options);
+
+/// Asks whether to go on without each of the lines that were left out; false at the first No.
+bool GoOnWithout(const std::vector<exchange::ReadLine>& unclear, model::Messages& messages);
+
+// The course of the game.
+
+/// Whether a resolution notes why each line of the report came out so, and each order's outcome.
+enum class Noting : std::uint8_t { Full, None };
+
+/// Resolves the stage that the game is in. False when a question was answered No or the numbers of
+/// a power do not fit; Stopped then tells the line that the question was about.
+bool Resolve(Situation& situation, model::Messages& messages, Noting noting = Noting::Full);
+
+/// Starts the season that follows a finished one.
+void NextSeason(Situation& situation);
+
+/// Puts the season back to its start; false when its start is not known or a question was answered
+/// No.
+bool UndoSeason(Situation& situation, model::Messages& messages);
+
+/// Changes names, place in time and texts of the game. Ends any other editing.
+void EditSeason(Situation& situation, const model::SeasonFacts& facts);
+
+/// Takes over both colours of every power, and nothing else of the table.
+void SetColours(Situation& situation, const model::CountryTable& colours);
+
+// Editing the position.
+
+/// Begins to edit something else; None ends the editing.
+void SetEditing(Situation& situation, Editing editing);
+
+/// A change of the position as in model/position_edit.h: why it is refused, or an empty text.
+using PositionChange = std::function<std::string(model::GameState&)>;
+
+/// Makes a change, which can be taken back till the editing ends or another command changes what is
+/// edited. Returns what the change returns.
+std::string Edit(Situation& situation, const PositionChange& change);
+
+void UndoEdit(Situation& situation);
+void RedoEdit(Situation& situation);
+
+/// Undoes the last step as if it had never been.
+void WithdrawEdit(Situation& situation);
+
+}  // namespace orb::session

@@ -1,0 +1,41 @@
+#include "orders/exchange/order_files.h"
+#include "orders/order_list.h"
+#include "session/commands.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace orb::session {
+
+bool FileOrder(Situation& situation, std::string_view text) {
+  return orders::FileOrder(orders::StageList(situation.Game), text);
+}
+
+int FileOrders(Situation& situation, const std::vector<exchange::ReadLine>& lines) {
+  return exchange::FileOrders(situation.Game, lines);
+}
+
+bool DeleteOrder(Situation& situation, int row) {
+  return orders::DeleteOrder(orders::StageList(situation.Game), row);
+}
+
+void ReplaceOrders(Situation& situation, std::vector<std::string> lines) {
+  orders::StageList(situation.Game) = std::move(lines);
+}
+
+std::vector<exchange::ReadLine> ReplaceOrdersByText(Situation& situation, std::string_view text,
+                                                    const exchange::ReadingOptions& options) {
+  std::vector<exchange::ReadLine> lines = exchange::ReadOrders(situation.Game, text, options);
+  ReplaceOrders(situation, {});
+  FileOrders(situation, lines);
+  std::erase_if(lines, [](const exchange::ReadLine& line) { return !IsUnclear(line); });
+  return lines;
+}
+
+bool GoOnWithout(const std::vector<exchange::ReadLine>& unclear, model::Messages& messages) {
+  return std::ranges::all_of(unclear, [&](const exchange::ReadLine& line) {
+    return messages.Warn(model::WarningText(line.Written, line.Reason + "."));
+  });
+}
+
+}  // namespace orb::session

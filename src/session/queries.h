@@ -1,0 +1,31 @@
+#pragma once
+
+#include "adjudication/list_check.h"
+#include "session/situation.h"
+
+#include <vector>
+
+// What a front end asks about a situation without changing it.
+
+namespace orb::session {
+
+/// Whether the game is in a stage that has orders.
+bool TakesOrders(const model::GameState& game);
+
+/// Whether there is any line in the stage's list.
+bool HasOrders(const model::GameState& game);
+
+/// Every problem of the stage's list: the marks of its lines, units without orders, powers whose
+/// numbers do not fit. Throws FatalError in a stage without orders.
+adjudication::ListCheck CheckOrders(const Situation& situation);
+
+/// Throws FatalError for a finished season: it has no orders to draw on the map.
+void ExpectOrdersToDraw(const Situation& situation);
+
+/// The orders in the stage's list, for drawing them on the map. Throws as ExpectOrdersToDraw does.
+std::vector<orders::OrderOutcome> EnteredOrders(const Situation& situation);
+
+/// How the orders of the season came out, then those entered since, for drawing them on the map.
+std::vector<orders::OrderOutcome> SeasonOrders(const Situation& situation);
+
+}  // namespace orb::session

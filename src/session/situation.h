@@ -1,0 +1,46 @@
+#pragma once
+
+#include "model/edit_history.h"
+#include "model/game_state.h"
+#include "orders/order_outcome.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orb::session {
+
+/// What is known about a line of the report apart from its text.
+struct ReportNote {
+  bool Failed = false;
+  std::string Reason;                  ///< why it came out so, in sentences
+  std::vector<std::string> Locations;  ///< of the units that had a part in it; its own one first
+
+  bool operator==(const ReportNote&) const = default;
+};
+
+/// The line of the stage's list at which a resolution was abandoned.
+struct StoppedLine {
+  int Row = 0;         ///< counted from 0
+  std::string Result;  ///< the order's result words
+
+  bool operator==(const StoppedLine&) const = default;
+};
+
+/// What is edited by hand, in place of entering orders.
+enum class Editing : std::uint8_t { None, Units, Provinces };
+
+/// One game as a program works on it: all that it knows of the game, and nothing of how it is
+/// shown. A value: whoever wants to try something out works on a copy.
+struct Situation {
+  model::GameState Game;
+  std::vector<ReportNote> Notes = {};               ///< one for each line of the report
+  std::vector<orders::OrderOutcome> Outcomes = {};  ///< of the season's orders resolved so far
+  std::optional<StoppedLine> Stopped = {};          ///< until the lists change
+  session::Editing Editing = session::Editing::None;
+  model::EditHistory Edits = {};  ///< the steps since the editing began
+  bool ReadOnly = false;          ///< the game's file was opened for reading only
+};
+
+}  // namespace orb::session

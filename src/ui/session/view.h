@@ -1,0 +1,23 @@
+#pragma once
+
+#include "session/queries.h"
+#include "settings/map_options.h"
+
+#include <vector>
+
+namespace orb::ui {
+
+/// How the window shows its game.
+struct View {
+  settings::MapOptions mapOptions = {};
+  bool viewOnly = false;    ///< only the map is shown
+  bool showOrders = false;  ///< orders are drawn on the map
+};
+
+/// The orders to be drawn on the map.
+inline std::vector<orders::OrderOutcome> shownOrders(const session::Situation& situation,
+                                                     const View& view) {
+  return view.showOrders ? session::SeasonOrders(situation) : std::vector<orders::OrderOutcome>();
+}
+
+}  // namespace orb::ui

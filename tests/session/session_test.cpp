@@ -1,0 +1,269 @@
+#include "session/session.h"
+
+#include "model/errors.h"
+#include "model/position_edit.h"
+#include "session/queries.h"
+#include "support/directories.h"
+#include "support/scripted_messages.h"
+#include "support/situation.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace orb::tests {
+namespace {
+
+using model::Answer;
+using session::Changes;
+using session::Command;
+using session::Editing;
+using session::Situation;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::Pair;
+using testing::StartsWith;
+
+constexpr int FrenchArmy = 4;
+constexpr int GermanArmy = 7;
+
+Command File(std::string order) {
+  return [order](Situation& next) { return session::FileOrder(next, order); };
+}
+
+/// All that a command can change, as text.
+std::string All(const Situation& situation) {
+  std::string text = Describe(situation.Game);
+  for (const session::ReportNote& note : situation.Notes)
+    text += "\n" + note.Reason;
+  return text + "\n" + std::to_string(situation.Outcomes.size()) +
+         std::to_string(static_cast<int>(situation.Editing)) +
+         (situation.ReadOnly ? " read only" : "") + (situation.Stopped ? " stopped" : "");
+}
+
+/// A new game, and the messages that its commands show.
+class SessionTest : public testing::Test {
+ protected:
+  SessionTest() {
+    session_.Run([](Situation& next) { session::NewGame(next, DataDirectory()); });
+  }
+
+  const Situation& Now() const { return session_.Now(); }
+  const model::GameState& Game() const { return Now().Game; }
+
+  session::Effect Resolve(std::vector<Answer> answers = {}) {
+    messages_.emplace(std::move(answers));
+    return session_.Run([&](Situation& next) { return session::Resolve(next, *messages_); });
+  }
+  bool FileAll(const std::vector<std::string>& orders) {
+    return std::ranges::all_of(orders,
+                               [&](const auto& order) { return session_.Run(File(order)).Done; });
+  }
+  std::string Move(int unit, const char* to) {
+    std::string refusal;
+    session_.Run([&](Situation& next) {
+      refusal = session::Edit(
+          next, [&](model::GameState& game) { return model::MoveUnit(game, unit, to); });
+      return refusal.empty();
+    });
+    return refusal;
+  }
+  session::Effect Open(const std::filesystem::path& file, bool readOnly = true) {
+    return session_.Run([&](Situation& next) {
+      session::OpenGame(next, file, readOnly, DataDirectory(), *messages_);
+    });
+  }
+  session::Effect SaveAs(const std::filesystem::path& file) {
+    return session_.Run([&](Situation& next) { session::SaveGameAs(next, file); });
+  }
+  session::Effect Edit(Editing editing) {
+    return session_.Run([&](Situation& next) { session::SetEditing(next, editing); });
+  }
+  session::Effect Undo() {
+    return session_.Run([&](Situation& next) { return session::UndoSeason(next, *messages_); });
+  }
+
+  session::Session session_{Situation{model::EmptyGame(RealMap())}};
+  std::optional<ScriptedMessages> messages_{std::in_place};
+  TemporaryDirectory directory_;
+};
+
+TEST_F(SessionTest, AGameIsPlayed) {
+  Edit(Editing::Units);
+  EXPECT_EQ(Move(FrenchArmy, "Bur") + Move(GermanArmy, "Ruh"), "");
+  EXPECT_EQ(Edit(Editing::None).Changed, Changes::Editing);
+
+  ASSERT_TRUE(FileAll({"GER A(Mun) - Bur", "GER A(Ruh) S GER A(Mun) - Bur", "FRA A(Bur) - ?"}));
+  EXPECT_FALSE(FileAll({"no unit"}));
+  const session::Effect stopped = Resolve({Answer::No});
+  EXPECT_FALSE(stopped.Done);
+  EXPECT_EQ(stopped.Changed, Changes::Orders);
+  EXPECT_EQ(Now().Stopped, (session::StoppedLine{2, "syntax error"}));
+  session_.Run([](Situation& next) { return session::DeleteOrder(next, 2); });
+  EXPECT_FALSE(Now().Stopped) << "the list is another";
+
+  EXPECT_EQ(Resolve({Answer::YesToAll}).Changed,
+            Changes::Season | Changes::Position | Changes::Orders | Changes::Report);
+  EXPECT_THAT(messages_->Questions, ElementsAre(HasSubstr("unordered")));
+  ASSERT_EQ(Game().Stage, "retreats");
+  ASSERT_TRUE(FileAll({"FRA A(Bur) retreat Par"}));
+  EXPECT_EQ(session::SeasonOrders(Now()).size(), 23U);
+  Resolve();
+  ASSERT_EQ(Game().Stage, "finished");
+
+  const auto file = directory_.Path() / "game.orb";
+  EXPECT_EQ(SaveAs(file).Changed, Changes::File);
+  const std::string saved = Describe(Game());
+  EXPECT_TRUE(Undo().Done);
+  EXPECT_THAT(DrawUnits(Game()), HasSubstr("FRA A(Bur)\n"));
+  EXPECT_THAT(Now().Notes, IsEmpty());
+  EXPECT_THAT(Now().Outcomes, IsEmpty());
+  Open(file);
+  EXPECT_TRUE(Now().ReadOnly);
+  EXPECT_THAT(DrawUnits(Game()), HasSubstr("FRA A(Par)\n"));
+
+  session_.Run(session::NextSeason);
+  EXPECT_EQ(Game().Season + Game().Stage + Game().FileName, "Autumnmoves");
+  ASSERT_TRUE(FileAll({"GER F(Kie) - Den"}));
+  Resolve({Answer::YesToAll});
+  ASSERT_EQ(Game().Stage, "adjustments");
+  ASSERT_TRUE(FileAll({"GER build A(Kie)", "GER build A(Ber)"}));
+  const std::string before = All(Now());
+  EXPECT_FALSE(Resolve().Done) << "one unit too many";
+  EXPECT_EQ(All(Now()), before);
+  session_.Run([](Situation& next) { return session::DeleteOrder(next, 0); });
+  EXPECT_TRUE(Resolve().Done);
+  session_.Run(session::NextSeason);
+  EXPECT_EQ(Game().Season + std::to_string(Game().Year), "Spring1902");
+  EXPECT_EQ(Game().Units.Count(), 23);
+}
+
+TEST_F(SessionTest, NotesTellOfEveryLineOfTheReportThroughTheYear) {
+  session_.Run([](Situation& next) {
+    model::SeasonFacts autumn = model::SeasonFactsOf(next.Game);
+    autumn.Season = "Autumn";
+    session::EditSeason(next, autumn);
+  });
+  FileAll({"AUS A(Vie) - Tyr", "ENG F(Lon) - ECH", "FRA F(Bre) - ECH"});
+  Resolve();
+  const auto& notes = Now().Notes;
+  ASSERT_EQ(notes.size(), 22U);
+  EXPECT_TRUE(!notes[0].Failed && notes[1].Failed && notes[2].Failed);
+  const std::string whyBounced = notes[1].Reason;
+  EXPECT_THAT(whyBounced, HasSubstr("FRA F(Bre)"));
+  EXPECT_THAT(notes[1].Locations, ElementsAre("Lon", "Bre"));
+
+  FileAll({"AUS disband A(Boh)"});
+  Resolve();
+  ASSERT_EQ(Game().Stage, "finished");
+  ASSERT_EQ(notes.size(), 24U);
+  EXPECT_EQ(notes[1].Reason, whyBounced);
+  EXPECT_TRUE(notes[1].Failed && notes[23].Failed);
+  EXPECT_THAT(notes[23].Reason, Not(IsEmpty()));
+}
+
+TEST_F(SessionTest, StepsOfEditingGoBackAndForth) {
+  Edit(Editing::Units);
+  const std::string start = DrawUnits(Game());
+  EXPECT_EQ(Move(FrenchArmy, "Bur"), "");
+  const std::string moved = DrawUnits(Game());
+  EXPECT_THAT(Move(GermanArmy, "Bur"), Not(IsEmpty()));
+  EXPECT_EQ(DrawUnits(Game()), moved);
+  EXPECT_EQ(session_.Run(session::UndoEdit).Changed, Changes::Position | Changes::Editing);
+  EXPECT_EQ(DrawUnits(Game()), start);
+  session_.Run(session::RedoEdit);
+  EXPECT_EQ(DrawUnits(Game()), moved);
+  session_.Run(session::WithdrawEdit);
+  EXPECT_EQ(DrawUnits(Game()), start);
+  EXPECT_FALSE(Now().Edits.CanRedo());
+
+  EXPECT_EQ(Move(FrenchArmy, "Bur"), "");
+  FileAll({"FRA A(Bur) hold"});
+  EXPECT_TRUE(Now().Edits.CanUndo());
+  Resolve();
+  EXPECT_FALSE(Now().Edits.CanUndo()) << "another command changed what was edited";
+}
+
+TEST_F(SessionTest, WhatFailsOrIsDeclinedLeavesEverything) {
+  FileAll({"ENG A(Lvp) - Yor"});
+  Resolve();
+  session_.Run(session::NextSeason);
+  FileAll({"ENG A(Yor) - Edi"});
+  const std::string before = All(Now());
+  const auto broken = directory_.Write("broken.orb", "\"ORB v5.5\"\r\n\"X\",\"Spring\",1901");
+  EXPECT_THROW(Open(directory_.Path() / "missing.orb"), model::FileError);
+  EXPECT_THROW(Open(broken), model::FileError);
+  EXPECT_THROW(SaveAs(directory_.Path() / "no" / "directory.orb"), model::FileError);
+  EXPECT_THROW(session_.Run([](Situation& next) { session::BlankGame(next, "/nowhere"); }),
+               model::FileError);
+  EXPECT_THROW(session_.Run(session::NextSeason), model::FatalError);
+  EXPECT_FALSE(Resolve({Answer::No}).Done);
+  EXPECT_EQ(All(Now()), before);
+
+  session_.SetReview([](const Situation& next) {
+    if (next.Game.Stage != "moves") throw model::FileError("It cannot be drawn.");
+  });
+  EXPECT_THROW(Resolve(), model::FileError);
+  EXPECT_EQ(All(Now()), before);
+}
+
+TEST_F(SessionTest, AnUnknownLocationBeginsANewGame) {
+  FileAll({"ENG A(Lvp) - Yor"});
+  Open(directory_.Write(
+      "old.orb", "\"ORB v5.5\"\n\"T\",\"Autumn\",1910,\"moves\"\n0\n1\n\"Xyz\",\"\",0,\"\"\n"));
+  EXPECT_THAT(messages_->Shown,
+              ElementsAre(Pair("Unknown province: Xyz", model::Icon::Exclamation)));
+  EXPECT_EQ(Game().Title + Game().Season + Game().Stage + Game().FileName, "CONCORDATSpringmoves");
+  EXPECT_EQ(Game().Units.Count(), 22);
+  EXPECT_THAT(Game().OrdersList, IsEmpty());
+}
+
+TEST(Commands, RefuseInAStageWhereTheyMeanNothing) {
+  struct Case {
+    const char* Stage;
+    session::Command Run;
+    const char* Sentence;
+  };
+  ScriptedMessages messages;
+  const Command next = session::NextSeason;
+  const Command undo = [&](Situation& situation) { session::UndoSeason(situation, messages); };
+  const Command check = [](Situation& situation) { session::CheckOrders(situation); };
+  const Command draw = [](Situation& situation) { session::EnteredOrders(situation); };
+  const Command resolve = [&](Situation& situation) { session::Resolve(situation, messages); };
+  const std::vector<Case> cases = {
+      {"moves", next, "The season is not finished: the game is in the stage \"moves\"."},
+      {"adjustments", next,
+       "The season is not finished: the game is in the stage \"adjustments\"."},
+      {"moves", undo, "There is nothing to take back: the season is at its start."},
+      {"finished", check, "There are no orders to check in the stage \"finished\"."},
+      {"finished", draw, "There are no orders to draw in the stage \"finished\"."},
+      {"finished", resolve, "There is nothing to resolve in the stage \"finished\"."},
+  };
+  for (const Case& c : cases) {
+    Situation situation{EmptyBoard("Spring", c.Stage)};
+    try {
+      c.Run(situation);
+      ADD_FAILURE() << c.Sentence;
+    } catch (const model::FatalError& fault) {
+      EXPECT_STREQ(fault.what(), c.Sentence);
+    }
+  }
+}
+
+TEST(Commands, OrdersOfATextTakeThePlaceOfTheList) {
+  Situation situation{Board("Spring", "moves", {"ENG A(Lon) hold", "ENG F(Edi)", "FRA A(Par)"})};
+  const auto unclear =
+      session::ReplaceOrdersByText(situation, "F Edi-NTH\nA Paris to somewhere\n", {"ENG", {}});
+  EXPECT_THAT(situation.Game.OrdersList, ElementsAre("ENG F(Edi) - NTH"));
+  ASSERT_EQ(unclear.size(), 1U);
+  ScriptedMessages no({Answer::No});
+  EXPECT_FALSE(session::GoOnWithout(unclear, no));
+  EXPECT_THAT(no.Questions, ElementsAre(StartsWith("Warning: A Paris to somewhere\r")));
+}
+
+}  // namespace
+}  // namespace orb::tests
