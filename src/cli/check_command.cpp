@@ -1,9 +1,8 @@
-#include "adjudication/list_check.h"
 #include "cli/command.h"
 #include "cli/games.h"
 #include "cli/orders_source.h"
-#include "model/errors.h"
 #include "orders/order_list.h"
+#include "session/queries.h"
 #include "text/strings.h"
 
 namespace orb::cli {
@@ -13,7 +12,7 @@ constexpr std::array Options{OptionId::Orders, OptionId::Loose, OptionId::Power}
 
 /// One line for each problem: of lines that are unclear, of the orders as listed, of units without
 /// orders, of powers.
-std::string ProblemLines(const model::GameState& game, const std::string& path,
+std::string ProblemLines(const session::Situation& situation, const std::string& path,
                          const std::vector<exchange::ReadLine>& unclear) {
   std::string text;
   const auto add = [&](std::string_view subject, std::string_view problem) {
@@ -21,8 +20,8 @@ std::string ProblemLines(const model::GameState& game, const std::string& path,
   };
   for (const exchange::ReadLine& line : unclear)
     add(line.Written, line.Reason);
-  const std::vector<std::string>& list = orders::StageList(game);
-  const adjudication::ListCheck check = adjudication::CheckList(game);
+  const adjudication::ListCheck check = session::CheckOrders(situation);
+  const std::vector<std::string>& list = orders::StageList(situation.Game);
   for (std::size_t i = 0; i < check.Lines.size(); ++i) {
     for (const std::string& problem : check.Lines[i])
       add(text::Trim(list[i]), problem);
@@ -37,12 +36,9 @@ std::string ProblemLines(const model::GameState& game, const std::string& path,
 int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);
   OrdersSource source(line);
-  return ForEachGame(line, console, plan, [&](model::GameState& game, const GamePaths& paths) {
-    const std::vector<exchange::ReadLine> unclear = source.Take(game, paths);
-    if (game.Stage != "moves" && game.Stage != "retreats" && game.Stage != "adjustments") {
-      throw model::FatalError("There are no orders to check in the stage \"" + game.Stage + "\".");
-    }
-    const std::string text = ProblemLines(game, paths.Game, unclear);
+  return ForEachGame(line, console, plan, [&](GameAtWork& at) {
+    const std::vector<exchange::ReadLine> unclear = source.Take(at.Situation, at.Paths);
+    const std::string text = ProblemLines(at.Situation, at.Paths.Game, unclear);
     console.Print(text);
     return text.empty();
   });

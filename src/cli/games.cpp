@@ -2,8 +2,8 @@
 
 #include "model/errors.h"
 #include "model/files.h"
-#include "model/game_file.h"
 #include "model/map_files.h"
+#include "session/commands.h"
 #include "text/encoding.h"
 
 #include <exception>
@@ -12,15 +12,6 @@
 #include <system_error>
 
 namespace orb::cli {
-namespace {
-
-bool ReadGame(Console& console, const std::string& path, model::GameState& game) {
-  const auto unknown = model::ParseGameFile(model::ReadFile(path), path, game);
-  if (unknown) console.Say(path, "Unknown province: " + *unknown);
-  return !unknown;
-}
-
-}  // namespace
 
 bool Attempt(Console& console, std::string_view subject, const std::function<bool()>& work) {
   try {
@@ -42,19 +33,12 @@ int ForEachGame(const CommandLine& line, Console& console, const std::vector<Gam
   for (const GamePaths& paths : plan) {
     allDone &= Attempt(console, paths.Game, [&] {
       if (!map) map = model::LoadMap(data);
-      model::GameState game = model::EmptyGame(map);
-      return ReadGame(console, paths.Game, game) && work(game, paths);
+      GameAtWork at{{model::EmptyGame(map)}, paths, {console, paths.Game, line.Has(OptionId::Yes)}};
+      return session::ReadGame(at.Situation, paths.Game, at.Messages) && work(at);
     });
     console.ShowProgress(++done, plan.size());
   }
   return allDone ? ExitDone : ExitRefused;
-}
-
-std::string JoinLines(const std::vector<std::string>& lines) {
-  std::string text;
-  for (const std::string& line : lines)
-    text.append(line).append("\n");
-  return text;
 }
 
 void WriteText(const std::filesystem::path& path, std::string_view text) {

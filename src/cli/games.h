@@ -3,7 +3,7 @@
 #include "cli/console.h"
 #include "cli/options.h"
 #include "cli/paths.h"
-#include "model/game_state.h"
+#include "session/situation.h"
 
 #include <filesystem>
 #include <functional>
@@ -13,8 +13,16 @@
 
 namespace orb::cli {
 
+/// A game of the plan while a command works on it. Messages are told under its name, and answered
+/// by --yes.
+struct GameAtWork {
+  session::Situation Situation;
+  const GamePaths& Paths;
+  ConsoleMessages Messages;
+};
+
 /// Does the work on one game that was read; false when it was abandoned, nothing written.
-using GameWork = std::function<bool(model::GameState& game, const GamePaths& paths)>;
+using GameWork = std::function<bool(GameAtWork& at)>;
 
 /// Reads every game of the plan and does the work on it. A game that cannot be read, or whose work
 /// throws, is refused with a line on standard error; the others are still done. The exit status.
@@ -23,9 +31,6 @@ int ForEachGame(const CommandLine& line, Console& console, const std::vector<Gam
 
 /// Does something that may throw; then a line on standard error says why. Whether it was done.
 bool Attempt(Console& console, std::string_view subject, const std::function<bool()>& work);
-
-/// Lines of text, each ended by LF.
-std::string JoinLines(const std::vector<std::string>& lines);
 
 /// Replaces a file whole or not at all; a device or pipe is written to. Throws FileError.
 void WriteText(const std::filesystem::path& path, std::string_view text);

@@ -2,8 +2,7 @@
 #include "cli/draw_map.h"
 #include "cli/games.h"
 #include "cli/orders_source.h"
-#include "model/errors.h"
-#include "orders/entered_orders.h"
+#include "session/queries.h"
 #include "settings/map_options.h"
 
 #include <charconv>
@@ -44,13 +43,11 @@ int PixelWidth(const CommandLine& line) {
 }
 
 /// Without the option not even the orders of the game file are drawn: maps go to all players.
-std::vector<orders::OrderOutcome> OrdersToDraw(model::GameState& game, OrdersSource& source,
+std::vector<orders::OrderOutcome> OrdersToDraw(session::Situation& situation, OrdersSource& source,
                                                const GamePaths& paths) {
-  if (game.Stage == "finished") {
-    throw model::FatalError("There are no orders to draw in the stage \"finished\".");
-  }
-  source.Take(game, paths);
-  return orders::EnteredOrders(game);
+  session::ExpectOrdersToDraw(situation);
+  source.Take(situation, paths);
+  return session::EnteredOrders(situation);
 }
 
 int Execute(const CommandLine& line, Console& console) {
@@ -61,13 +58,12 @@ int Execute(const CommandLine& line, Console& console) {
                                      line.Has(OptionId::Borders), line.Has(OptionId::CentreOwners)};
   const std::filesystem::path data = DataDirectory(line);
   OrdersSource source(line);
-  return ForEachGame(
-      line, console, PlanPaths(line), [&](model::GameState& game, const GamePaths& paths) {
-        const auto drawn = line.Has(OptionId::Orders) ? OrdersToDraw(game, source, paths)
-                                                      : std::vector<orders::OrderOutcome>{};
-        DrawMap({game, options, data, width, picture, format, drawn});
-        return true;
-      });
+  return ForEachGame(line, console, PlanPaths(line), [&](GameAtWork& at) {
+    const auto drawn = line.Has(OptionId::Orders) ? OrdersToDraw(at.Situation, source, at.Paths)
+                                                  : std::vector<orders::OrderOutcome>{};
+    DrawMap({at.Situation.Game, options, data, width, picture, format, drawn});
+    return true;
+  });
 }
 
 }  // namespace

@@ -1,9 +1,7 @@
 #include "cli/command.h"
 #include "cli/games.h"
-#include "model/files.h"
-#include "model/game_file.h"
 #include "model/map_files.h"
-#include "model/new_game.h"
+#include "session/commands.h"
 #include "text/encoding.h"
 
 namespace orb::cli {
@@ -31,10 +29,11 @@ int Execute(const CommandLine& line, Console& console) {
   if (line.Has(OptionId::Title)) title = TitleBytes(*line.Value(OptionId::Title));
   const std::filesystem::path data = DataDirectory(line);
   const bool done = Attempt(console, file, [&] {
-    model::GameState game = model::EmptyGame(model::LoadMap(data));
-    line.Has(OptionId::Blank) ? model::BlankGame(game, data) : model::NewGame(game, data);
-    if (title) game.Title = *title;
-    model::ReplaceFile(file, model::FormatGameFile(game));
+    session::Situation situation{model::EmptyGame(model::LoadMap(data))};
+    line.Has(OptionId::Blank) ? session::BlankGame(situation, data)
+                              : session::NewGame(situation, data);
+    if (title) situation.Game.Title = *title;
+    session::SaveGameAs(situation, file);
     return true;
   });
   return done ? ExitDone : ExitRefused;

@@ -1,9 +1,6 @@
 #include "cli/command.h"
 #include "cli/games.h"
-#include "model/errors.h"
-#include "model/files.h"
-#include "model/game_file.h"
-#include "model/seasons.h"
+#include "session/commands.h"
 
 namespace orb::cli {
 namespace {
@@ -12,13 +9,9 @@ constexpr std::array Options{OptionId::Output, OptionId::InPlace};
 
 int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);
-  return ForEachGame(line, console, plan, [](model::GameState& game, const GamePaths& paths) {
-    if (game.Stage != "finished") {
-      throw model::FatalError("The season is not finished: the game is in the stage \"" +
-                              game.Stage + "\".");
-    }
-    model::NextSeason(game);
-    model::ReplaceFile(paths.Output, model::FormatGameFile(game));
+  return ForEachGame(line, console, plan, [](GameAtWork& at) {
+    session::NextSeason(at.Situation);
+    session::SaveGameAs(at.Situation, at.Paths.Output);
     return true;
   });
 }

@@ -3,7 +3,7 @@
 #include "model/country.h"
 #include "model/files.h"
 #include "orders/exchange/order_files.h"
-#include "orders/order_list.h"
+#include "session/commands.h"
 #include "text/strings.h"
 
 #include <system_error>
@@ -37,7 +37,8 @@ OrdersSource::OrdersSource(const CommandLine& line) : isLoose_(line.Has(OptionId
   }
 }
 
-std::vector<exchange::ReadLine> OrdersSource::Take(model::GameState& game, const GamePaths& paths) {
+std::vector<exchange::ReadLine> OrdersSource::Take(session::Situation& situation,
+                                                   const GamePaths& paths) {
   if (paths.Orders.empty()) return {};
   // A file that cannot be looked at is not missing: reading it will say why.
   std::error_code ignored;
@@ -46,16 +47,12 @@ std::vector<exchange::ReadLine> OrdersSource::Take(model::GameState& game, const
   std::string text =
       isMissing && paths.OrdersMayLack ? std::string() : model::ReadFile(paths.Orders);
   if (!isLoose_) {
-    orders::StageList(game) = OrderLines(text);
+    session::ReplaceOrders(situation, OrderLines(text));
     return {};
   }
   if (!repairs_) repairs_ = exchange::ReadTextRepairs(data_);
   text = exchange::OrdersFileText(std::move(text), paths.Orders.string());
-  std::vector<exchange::ReadLine> lines = exchange::ReadOrders(game, text, {power_, *repairs_});
-  orders::StageList(game).clear();
-  exchange::FileOrders(game, lines);
-  std::erase_if(lines, [](const exchange::ReadLine& line) { return !IsUnclear(line); });
-  return lines;
+  return session::ReplaceOrdersByText(situation, text, {power_, *repairs_});
 }
 
 }  // namespace orb::cli

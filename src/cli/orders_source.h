@@ -2,8 +2,8 @@
 
 #include "cli/options.h"
 #include "cli/paths.h"
-#include "model/game_state.h"
 #include "orders/exchange/read_orders.h"
+#include "session/situation.h"
 
 #include <filesystem>
 #include <optional>
@@ -25,7 +25,7 @@ class OrdersSource {
   /// Fills the stage's list from the orders file where there is one; else only the moves stage has
   /// orders, those of the game file. Read as people write them, lines that are unclear are left
   /// out and returned. Throws FileError.
-  std::vector<exchange::ReadLine> Take(model::GameState& game, const GamePaths& paths);
+  std::vector<exchange::ReadLine> Take(session::Situation& situation, const GamePaths& paths);
 
  private:
   bool isLoose_;

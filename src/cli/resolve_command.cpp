@@ -1,12 +1,11 @@
-#include "adjudication/explain.h"
-#include "adjudication/stages.h"
 #include "cli/command.h"
 #include "cli/games.h"
 #include "cli/orders_source.h"
 #include "model/files.h"
 #include "model/game_file.h"
+#include "session/commands.h"
 
-#include <algorithm>
+#include <functional>
 
 namespace orb::cli {
 namespace {
@@ -15,32 +14,31 @@ constexpr std::array Options{OptionId::Orders, OptionId::Loose,   OptionId::Powe
                              OptionId::Report, OptionId::Reasons, OptionId::Yes,
                              OptionId::Output, OptionId::InPlace};
 
-/// Asks about every line that was not understood; false when the game is to be left alone.
-bool GoOnWithout(const std::vector<exchange::ReadLine>& unclear, model::Messages& messages) {
-  return std::ranges::all_of(unclear, [&](const exchange::ReadLine& line) {
-    return messages.Warn(model::WarningText(line.Written, line.Reason + "."));
-  });
+/// One line for each row, ended by LF.
+std::string JoinLines(const auto& rows, auto textOf) {
+  std::string text;
+  for (const auto& row : rows)
+    text.append(std::invoke(textOf, row)).append("\n");
+  return text;
 }
 
 int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);
   OrdersSource orders(line);
-  return ForEachGame(line, console, plan, [&](model::GameState& game, const GamePaths& paths) {
-    ConsoleMessages messages(console, paths.Game, line.Has(OptionId::Yes));
-    if (!GoOnWithout(orders.Take(game, paths), messages)) return false;
-    const adjudication::Resolution resolution = adjudication::ResolveStage(game, messages);
-    if (!resolution.Completed) return false;
-    const std::string report = JoinLines({game.ReportLines.begin(), game.ReportLines.end()});
-    std::string reasons;
-    if (!paths.Reasons.empty()) reasons = JoinLines(adjudication::ExplainReport(game, resolution));
-    const bool printsReport = paths.Report.empty() || paths.Report == StandardOutput;
-    const bool printsReasons = paths.Reasons == StandardOutput;
-    const std::string resolved = model::FormatGameFile(game);
+  return ForEachGame(line, console, plan, [&](GameAtWork& at) {
+    if (!session::GoOnWithout(orders.Take(at.Situation, at.Paths), at.Messages)) return false;
+    const auto noting = at.Paths.Reasons.empty() ? session::Noting::None : session::Noting::Full;
+    if (!session::Resolve(at.Situation, at.Messages, noting)) return false;
+    const std::string report = JoinLines(at.Situation.Game.ReportLines, std::identity());
+    const std::string reasons = JoinLines(at.Situation.Notes, &session::ReportNote::Reason);
+    const bool printsReport = at.Paths.Report.empty() || at.Paths.Report == StandardOutput;
+    const bool printsReasons = at.Paths.Reasons == StandardOutput;
+    const std::string resolved = model::FormatGameFile(at.Situation.Game);
     // The game file comes last: a resolved game without its report could not be resolved again.
-    if (!printsReport) WriteText(paths.Report, report);
-    if (!printsReasons && !paths.Reasons.empty()) WriteText(paths.Reasons, reasons);
-    model::ReplaceFile(paths.Output, resolved);
-    if (printsReport) PrintUnderHeading(console, plan, paths, report);
+    if (!printsReport) WriteText(at.Paths.Report, report);
+    if (!printsReasons && !at.Paths.Reasons.empty()) WriteText(at.Paths.Reasons, reasons);
+    model::ReplaceFile(at.Paths.Output, resolved);
+    if (printsReport) PrintUnderHeading(console, plan, at.Paths, report);
     if (printsReasons) console.Print(reasons);
     return true;
   });

@@ -7,11 +7,10 @@ namespace {
 
 int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);
-  return ForEachGame(line, console, plan,
-                     [&](const model::GameState& game, const GamePaths& paths) {
-                       PrintUnderHeading(console, plan, paths, report::TextReport(game));
-                       return true;
-                     });
+  return ForEachGame(line, console, plan, [&](const GameAtWork& at) {
+    PrintUnderHeading(console, plan, at.Paths, report::TextReport(at.Situation.Game));
+    return true;
+  });
 }
 
 }  // namespace

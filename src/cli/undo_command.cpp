@@ -1,9 +1,6 @@
 #include "cli/command.h"
 #include "cli/games.h"
-#include "model/errors.h"
-#include "model/files.h"
-#include "model/game_file.h"
-#include "model/seasons.h"
+#include "session/commands.h"
 
 namespace orb::cli {
 namespace {
@@ -12,13 +9,9 @@ constexpr std::array Options{OptionId::Yes, OptionId::Output, OptionId::InPlace}
 
 int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);
-  return ForEachGame(line, console, plan, [&](model::GameState& game, const GamePaths& paths) {
-    if (game.Stage == "moves") {
-      throw model::FatalError("There is nothing to take back: the season is at its start.");
-    }
-    ConsoleMessages messages(console, paths.Game, line.Has(OptionId::Yes));
-    if (!model::UndoSeason(game, messages)) return false;
-    model::ReplaceFile(paths.Output, model::FormatGameFile(game));
+  return ForEachGame(line, console, plan, [](GameAtWork& at) {
+    if (!session::UndoSeason(at.Situation, at.Messages)) return false;
+    session::SaveGameAs(at.Situation, at.Paths.Output);
     return true;
   });
 }

@@ -1,6 +1,5 @@
 #include "ui/widgets/message_boxes.h"
 
-#include "model/errors.h"
 #include "text/qt/text_codec.h"
 
 #include <QMessageBox>
