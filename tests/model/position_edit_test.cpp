@@ -69,6 +69,7 @@ TEST(Editing, WhatCannotBeIsRefusedWithItsReason) {
       {add(With(NewUnit("FRA", "A", "Bur"), [](Unit& unit) { unit.Status = "lost"; })), "\"lost\""},
       {add(Before(NewUnit("FRA", "F", "Bre"), "Par")), "A fleet cannot have stood in Paris (Par)"},
       {move(1, "Mun"), "Munich (Mun) is occupied by GER A(Mun)."},
+      {move(2, "Par"), "Paris (Par) is occupied by FRA A(Par)."},
       {move(1, "NTH"), "An army cannot stand in North Sea (NTH)."},
       {move(3, "Bur"), "cannot have come from there."},
       {change(1, NewUnit("FRA", "A", "Mun")), "is occupied by GER A(Mun)."},
