@@ -36,7 +36,7 @@ std::string ProvinceOf(const std::string& location) {
   return location.substr(0, 3);
 }
 
-class MapDataTest : public testing::Test {
+class MapData : public testing::Test {
  protected:
   const std::string& Name(int row) const { return map_->Provinces[row].Name; }
   bool Water(int row) const { return IsWater(*map_, row); }
@@ -67,7 +67,7 @@ class MapDataTest : public testing::Test {
 
 /// Lands whose border reaches the water: two pixels side by side in a square of four that holds
 /// water as well.
-Links MapDataTest::Shores(const HitPicture& picture) const {
+Links MapData::Shores(const HitPicture& picture) const {
   Links shores;
   for (int y = 0; y + 1 < picture.Height; ++y) {
     for (int x = 0; x + 1 < picture.Width; ++x) {
@@ -86,7 +86,7 @@ Links MapDataTest::Shores(const HitPicture& picture) const {
   return shores;
 }
 
-Links MapDataTest::LinksOf(const model::Adjacency& adjacency) const {
+Links MapData::LinksOf(const model::Adjacency& adjacency) const {
   Links links;
   for (int row = 1; row <= map_->Provinces.Count(); ++row) {
     for (const int neighbour : adjacency.at(static_cast<std::size_t>(row - 1))) {
@@ -96,7 +96,7 @@ Links MapDataTest::LinksOf(const model::Adjacency& adjacency) const {
   return links;
 }
 
-TEST_F(MapDataTest, ArmiesMoveBetweenLandsThatTouchAndNowhereElse) {
+TEST_F(MapData, ArmiesMoveBetweenLandsThatTouchAndNowhereElse) {
   Links touching;
   ForContacts(ReadHitPicture(DataDirectory() / "maphit.bmp"), [&](int a, int b) {
     if (!Water(a) && !Water(b)) Connect(touching, a, b);
@@ -104,7 +104,7 @@ TEST_F(MapDataTest, ArmiesMoveBetweenLandsThatTouchAndNowhereElse) {
   EXPECT_THAT(LinksOf(map_->ArmyAdjacency), ContainerEq(touching));
 }
 
-TEST_F(MapDataTest, FleetsMoveWhereWatersAndCoastsTouchAndAlongCommonShores) {
+TEST_F(MapData, FleetsMoveWhereWatersAndCoastsTouchAndAlongCommonShores) {
   const HitPicture picture = SplitCoasts(ReadHitPicture(DataDirectory() / "maphit.bmp"), *map_);
   Links touching = Shores(picture);
   ForContacts(picture, [&](int a, int b) {
@@ -113,7 +113,7 @@ TEST_F(MapDataTest, FleetsMoveWhereWatersAndCoastsTouchAndAlongCommonShores) {
   EXPECT_THAT(LinksOf(map_->FleetAdjacency), ContainerEq(touching));
 }
 
-TEST_F(MapDataTest, UnitsStandInTheirOwnProvinceOrOffTheirCoast) {
+TEST_F(MapData, UnitsStandInTheirOwnProvinceOrOffTheirCoast) {
   const render::HitMap hitMap = render::LoadHitMap(DataDirectory(), *map_, 1);
   for (const model::Province& location : map_->Provinces) {
     const bool coast = location.Name.size() > 3;
@@ -125,7 +125,7 @@ TEST_F(MapDataTest, UnitsStandInTheirOwnProvinceOrOffTheirCoast) {
   }
 }
 
-TEST_F(MapDataTest, TheBoardHasItsNumberOfPlacesAndConnections) {
+TEST_F(MapData, TheBoardHasItsNumberOfPlacesAndConnections) {
   std::map<std::string, int> kinds;
   for (int row = 1; row <= map_->Provinces.Count(); ++row) {
     const model::Province& location = map_->Provinces[row];
@@ -145,7 +145,7 @@ TEST_F(MapDataTest, TheBoardHasItsNumberOfPlacesAndConnections) {
   EXPECT_EQ(pairs.size(), 206U);
 }
 
-TEST_F(MapDataTest, EveryHomeCentreStartsWithAUnitOfItsPower) {
+TEST_F(MapData, EveryHomeCentreStartsWithAUnitOfItsPower) {
   model::GameState game = model::EmptyGame(map_);
   model::NewGame(game, DataDirectory());
   EXPECT_EQ(game.Season + " " + std::to_string(game.Year), "Spring 1901");
@@ -166,7 +166,7 @@ TEST_F(MapDataTest, EveryHomeCentreStartsWithAUnitOfItsPower) {
   EXPECT_THAT(fleets, ElementsAre("Lon", "Edi", "Bre", "Kie", "Sev", "Stp.s", "Ank", "Tri", "Nap"));
 }
 
-TEST_F(MapDataTest, NameFixesGiveLocationsAndLeaveTheMapsOwnTextsAlone) {
+TEST_F(MapData, NameFixesGiveLocationsAndLeaveTheMapsOwnTextsAlone) {
   ASSERT_GT(map_->NameFixes.Count(), 0);
   std::vector<std::string> texts;
   for (const model::Country& country : model::FixedCountries()) {
