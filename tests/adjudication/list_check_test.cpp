@@ -1,8 +1,14 @@
 #include "adjudication/list_check.h"
 
+#include "orders/order_list.h"
+#include "support/drawn_cases.h"
 #include "support/situation.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
 
 namespace orb::tests {
 namespace {
@@ -11,28 +17,31 @@ using adjudication::CheckList;
 using adjudication::JoinProblems;
 using adjudication::ListCheck;
 
-TEST(ListCheck, TellsLinesUnitsAndPowersApart) {
-  const model::GameState moves =
-      Board("Spring", "moves",
-            {"FRA A(Par) - Bur", "GER A(Mun) S FRA A(Par) - Gas", "GER A(Ruh)", "GER A(Kie)",
-             "> ENG", "GER F(Den) S A(Kie) hold", "> FRA A(Par) - Lon"});
-  const ListCheck check = CheckList(moves);
-  const std::vector<std::string> expected = {
-      "ordered again: FRA A(Par) - Lon",
-      "not used: FRA A(Par) was ordered to move to Lon, not to move to Gas",
-      "syntax error: the unit is missing", "", "impossible move: no army can move from Par to Lon"};
-  ASSERT_EQ(check.Lines.size(), expected.size());
-  for (std::size_t i = 0; i < expected.size(); ++i)
-    EXPECT_EQ(JoinProblems(check.Lines[i]), expected[i]);
-  EXPECT_EQ(check.Unordered, (std::vector<std::string>{"GER A(Ruh)", "GER A(Kie)"}));
-  EXPECT_TRUE(check.Powers.empty());
-  model::GameState adjustments = Board("Autumn", "adjustments", {"> fra build a(Par)"});
-  Own(adjustments, "FRA Par Mar");
-  const ListCheck later = CheckList(adjustments);
-  EXPECT_EQ(JoinProblems(later.Lines.at(0)), "syntax error: \"a\" is neither A nor F");
-  ASSERT_EQ(later.Powers.size(), 1U);
-  EXPECT_EQ(later.Powers[0].Power, "FRA");
-  EXPECT_TRUE(CheckList(EmptyBoard("Spring", "finished")).Lines.empty());
+/// What the check says, in its order: "ENG A(Lon): unordered".
+std::vector<std::string> Problems(const model::GameState& game) {
+  const ListCheck check = CheckList(game);
+  std::vector<std::string> problems;
+  for (std::size_t i = 0; i < check.Lines.size(); ++i) {
+    if (check.Lines[i].empty()) continue;
+    problems.push_back(orders::StageList(game)[i] + ": " + JoinProblems(check.Lines[i]));
+  }
+  for (const std::string& unit : check.Unordered)
+    problems.push_back(unit + ": unordered");
+  for (const auto& [power, text] : check.Powers)
+    problems.push_back(power + ": " + text);
+  return problems;
+}
+
+TEST(ListCheck, SaysAsDrawn) {
+  for (const DrawnCase& drawn : LoadDrawnCases("adjudication/checks.txt")) {
+    SCOPED_TRACE(drawn.Name);
+    model::GameState game = Board("Autumn", drawn.Note("stage"), drawn.Drawing);
+    for (const std::string& note : drawn.Texts("owns"))
+      Own(game, note);
+    for (const std::string& place : Words(drawn.Note("contested")))
+      Live(game, place).Uncontested = false;
+    EXPECT_THAT(Problems(game), testing::ElementsAreArray(drawn.Texts("check")));
+  }
 }
 
 TEST(ListCheck, LinesWithoutRoomAreToldSo) {

@@ -244,16 +244,10 @@ TEST(Games, NamedAgainBehindOutputAreReplacedInPlace) {
   EXPECT_EQ(desk.Run("undo --in-place @link.orb @a.orb").Status, 2);
 }
 
-TEST(Seasons, CommandsRefuseTheWrongStage) {
+TEST(Seasons, CommandsThatRefuseLeaveTheGame) {
   const std::vector<std::vector<std::string>> cases{
-      {"resolve --yes --in-place", "Spring", "finished",
-       "There is nothing to resolve in the stage \"finished\"."},
       {"next --in-place", "Autumn", "retreats",
        "The season is not finished: the game is in the stage \"retreats\"."},
-      {"undo --yes --in-place", "Spring", "moves",
-       "There is nothing to take back: the season is at its start."},
-      {"undo --yes --in-place", "Autumn", "finished",
-       "Original supply centre ownerships unknown; can't undo."},
       {"undo --in-place", "Spring", "retreats",
        "2 units do not have original locations recorded. Continue?"},
       {"check", "Spring", "finished", "There are no orders to check in the stage \"finished\"."},
@@ -267,6 +261,24 @@ TEST(Seasons, CommandsRefuseTheWrongStage) {
     EXPECT_EQ(outcome.Out + outcome.Err, "@a.orb: " + c[3] + "\n");
     EXPECT_EQ(desk.Read("a.orb"), game);
   }
+}
+
+TEST(Check, PrintsEachProblemAndWritesNothing) {
+  const Desk desk;
+  desk.Write("a.orb", TwoUnitGame());
+  desk.Write("o.txt", "FRA A(Par) - Bur\n ENG \nFRA A(Par) - Lon\n");
+  const Outcome outcome = desk.Run("check --orders @o.txt @a.orb");
+  EXPECT_EQ(outcome.Status, 1);
+  EXPECT_EQ(outcome.Err, "");
+  EXPECT_EQ(outcome.Out,
+            "@a.orb: FRA A(Par) - Bur: ordered again: FRA A(Par) - Lon\n"
+            "@a.orb: ENG: syntax error: the unit is missing\n"
+            "@a.orb: FRA A(Par) - Lon: impossible move: no army can move from Par to Lon\n"
+            "@a.orb: GER A(Mun): unordered\n");
+  desk.Write("o.txt", "FRA A(Par) - Bur\nGER A(Mun) hold\n");
+  EXPECT_EQ(desk.Run("check --orders @o.txt @a.orb").Status, 0);
+  EXPECT_EQ(desk.Read("a.orb"), TwoUnitGame());
+  EXPECT_EQ(desk.Listing(), "a.orb o.txt ");
 }
 
 TEST(Progress, IsShownForLongRunsOnATerminalAndClearedAtTheEnd) {
