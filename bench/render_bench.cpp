@@ -25,7 +25,7 @@ const std::filesystem::path DataDirectory = ORB_SOURCE_DIR "/data";
 model::GameState FullBoard() {
   model::GameState game = model::EmptyGame(model::LoadMap(DataDirectory));
   model::NewGame(game, DataDirectory);
-  game.Stage = "retreats";
+  game.Stage = model::Stage::Retreats;
   game.Units.SetCount(0);
   for (int row = 1; row <= game.Provinces.Count(); ++row) {
     const model::Country& power = game.Countries[row % model::CountryCount + 1];
@@ -72,7 +72,7 @@ void DrawMap(benchmark::State& state, settings::MapMode mode, const model::GameS
 /// as the window does it. The range is the width in pixels.
 void DrawFrame(benchmark::State& state) {
   model::GameState game = FullBoard();
-  game.Stage = "finished";
+  game.Stage = model::Stage::Finished;
   const int count = game.Units.Count();
   for (int i = 1; i <= count; ++i) {
     game.Units[i].Status.clear();

@@ -56,10 +56,9 @@ model::GameState StartingGame() {
 
 model::GameState GameFor(std::uint8_t choice) {
   static const model::GameState start = StartingGame();
-  constexpr std::array<const char*, 4> stages{"moves", "retreats", "adjustments", "finished"};
   model::GameState game = start;
   if ((choice & 0x20U) != 0) Crowd(game);
-  game.Stage = (choice & 0x40U) != 0 ? "moves" : stages[choice & 3U];
+  game.Stage = (choice & 0x40U) != 0 ? model::Stage::Moves : static_cast<model::Stage>(choice & 3U);
   return game;
 }
 

@@ -4,7 +4,7 @@
 #include "model/counts.h"
 #include "model/lookups.h"
 #include "model/place.h"
-#include "orders/later_stages.h"
+#include "orders/parser.h"
 
 #include <algorithm>
 #include <utility>
@@ -14,109 +14,95 @@ namespace {
 
 using model::GameState;
 using model::Messages;
+using orders::OrderKind;
 using orders::OrderLine;
+using orders::OrderResult;
 using orders::OrderTable;
+using orders::Questions;
 
 bool IsBuild(const OrderLine& order) {
-  return order.Kind == "BUILD";
+  return order.Kind == OrderKind::Build;
 }
 
-void ParseAdjustmentOrders(OrderTable& table) {
-  std::string work;
-  for (OrderLine& order : table) {
-    orders::ParseAdjustment(order, work);
-  }
-}
-
-bool CheckAdjustmentSyntax(const model::Map& map, OrderTable& table, Messages& messages) {
-  for (OrderLine& order : table) {
-    if (orders::FindAdjustmentFault(map, order) == orders::SyntaxFault::None) continue;
-    orders::Reject(order, "syntax error");
-    if (!messages.Warn(model::WarningText(order.Text, "syntax error."))) return false;
-  }
-  return true;
-}
-
-/// The result word of a failed check and the words that the user sees, which sometimes differ.
+/// What a failed check found, and the words that the user sees, which sometimes differ.
 struct Fault {
-  std::string_view Result;
+  OrderResult Result = OrderResult::None;
   std::string_view Message;
 };
 
-constexpr Fault NoFault{};
-
-Fault DisbandFault(const GameState& game, const OrderLine& order) {
+Fault DisbandFault(const Resolution& resolution, const GameState& game, const OrderLine& order) {
   const int u = model::FindUnitAt(game, order.Location);
-  if (u != 0 && game.Units[u].UnitType == order.UnitType && game.Units[u].Power == order.Power &&
-      game.Units[u].Location == order.Location) {
-    return NoFault;
-  }
-  return {"no such unit", "no such unit."};
+  if (u != 0 && resolution.Pieces[u] == orders::OrderedPiece(order)) return {};
+  return {OrderResult::NoSuchUnit, "no such unit."};
 }
 
 /// Row of the province that a build's location belongs to; 0 when it is unknown.
-int CentreOf(const model::Map& map, const std::string& location) {
-  const int province = model::FindProvince(map, location);
-  if (province == 0 || location.size() < 4) return province;
-  return model::FindProvince(map, std::string_view(location).substr(0, 3));
+int CentreOf(const model::Map& map, int location) {
+  const std::string& name = model::LocationName(map, location);
+  return name.size() < 4 ? location : model::FindProvince(map, name.substr(0, 3));
 }
 
 Fault BuildFault(const GameState& game, const OrderLine& order) {
   const model::Map& map = *game.Map;
   const int centre = CentreOf(map, order.Location);
-  if (centre == 0 || map.Provinces[centre].HomeCountry != order.Power ||
-      map.Provinces[centre].IsSupplyCentre == 0) {
-    return {"not a home centre", "not home centre."};
+  const std::string_view power = model::PowerName(order.Power);
+  if (centre == 0 || power.empty() || map.Provinces[centre].HomeCountry != power ||
+      !model::IsCentre(map, centre)) {
+    return {OrderResult::NotHomeCentre, "not home centre."};
   }
-  if (game.Provinces[centre].Owner != order.Power) {
-    return {"centre not owned", "centre not owned."};
+  if (game.Provinces[centre].Owner != power) {
+    return {OrderResult::CentreNotOwned, "centre not owned."};
   }
   if (model::FindUnitAt(game, order.Location) != 0) {
-    return {"centre not empty1", "centre not empty1."};
+    return {OrderResult::CentreNotEmpty, "centre not empty1."};
   }
   if (!model::CanStandIn(map, order.UnitType, order.Location)) {
-    return {"impossible unit", "impossible unit."};
+    return {OrderResult::ImpossibleUnit, "impossible unit."};
   }
-  return NoFault;
+  return {};
 }
 
-bool CheckEachOrder(const GameState& game, OrderTable& table, Messages& messages) {
-  for (OrderLine& order : table) {
-    const Fault fault = IsBuild(order) ? BuildFault(game, order) : DisbandFault(game, order);
-    if (fault.Result.empty()) continue;
+bool CheckEachOrder(const GameState& game, Resolution& resolution, Questions& questions) {
+  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
+    OrderLine& order = resolution.Orders[k];
+    const Fault fault =
+        IsBuild(order) ? BuildFault(game, order) : DisbandFault(resolution, game, order);
+    if (fault.Result == OrderResult::None) continue;
     orders::Reject(order, fault.Result);
-    if (!messages.Warn(model::WarningText(order.Text, fault.Message))) return false;
+    if (!questions.GoOn(k, model::WarningText(order.Text, fault.Message))) return false;
   }
   return true;
 }
 
 /// Whether order i is active is asked once, before its comparisons: of three orders for one place
 /// all three clash.
-bool CheckClashes(Resolution& resolution, Messages& messages) {
+bool CheckClashes(Resolution& resolution, Questions& questions) {
   OrderTable& table = resolution.Orders;
   for (int i = 1; i < table.Count(); ++i) {
     if (!table[i].Active) continue;
     for (int j = i + 1; j <= table.Count(); ++j) {
-      if (!table[j].Active || !model::SamePlace(table[i].Location, table[j].Location)) continue;
-      orders::Reject(table[i], "clash");
-      orders::Reject(table[j], "clash");
+      const bool clash = table[j].Active &&
+                         model::IsSamePlace(*resolution.Map, table[i].Location, table[j].Location);
+      if (!clash) continue;
+      orders::Reject(table[i], OrderResult::Clash);
+      orders::Reject(table[j], OrderResult::Clash);
       resolution.Reasons[i].Blocker = static_cast<std::int16_t>(j);
       resolution.Reasons[j].Blocker = static_cast<std::int16_t>(i);
-      const std::string clash = table[i].Text + " clashes with " + table[j].Text;
-      if (!messages.Warn(model::WarningText(clash))) return false;
+      const std::string both = table[i].Text + " clashes with " + table[j].Text;
+      if (!questions.GoOn(j, model::WarningText(both))) return false;
     }
   }
   return true;
 }
 
-bool CheckAdjustmentOrders(const GameState& game, Resolution& resolution, Messages& messages) {
-  return CheckEachOrder(game, resolution.Orders, messages) && CheckClashes(resolution, messages);
+bool CheckAdjustmentOrders(const GameState& game, Resolution& resolution, Questions& questions) {
+  return CheckEachOrder(game, resolution, questions) && CheckClashes(resolution, questions);
 }
 
 bool CheckAdjustmentCounts(const GameState& game, const OrderTable& table, Messages& messages) {
   for (const model::Country& country : game.Countries) {
     const model::PowerCount count = model::CountPower(game, country.Abbreviation);
-    const int units = count.Units + ChangeOf(table, country.Abbreviation);
+    const int units = count.Units + ChangeOf(table, model::FindCountry(country.Abbreviation));
     if (count.Centres < units) {
       messages.Show("Error: " + country.Abbreviation + " too many units.",
                     model::Icon::Exclamation);
@@ -135,8 +121,9 @@ void ReportAdjustments(GameState& game, Resolution& resolution) {
   resolution.Entries.push_back({game.ReportLines.Count(), 0});
   for (int k = 1; k <= resolution.Orders.Count(); ++k) {
     const OrderLine& order = resolution.Orders[k];
-    game.ReportLines.Append(order.Active ? order.Text + "  "
-                                         : "[ " + order.Text + " ]  " + order.Result);
+    std::string line = order.Active ? order.Text + "  " : "[ " + order.Text + " ]  ";
+    if (!order.Active) line += orders::ResultWord(order.Result);
+    game.ReportLines.Append(std::move(line));
     resolution.Entries.push_back({game.ReportLines.Count(), k});
   }
 }
@@ -150,14 +137,19 @@ void ApplyAdjustments(GameState& game, const OrderTable& table, Messages& messag
       messages.Show("Too many units", model::Icon::Stop);
       return;
     } else {
-      game.Units.Append({order.Power, order.UnitType, order.Location, {}, {}, {}, 0});
+      game.Units.Append({std::string(model::PowerName(order.Power)),
+                         std::string(model::UnitTypeName(order.UnitType)),
+                         model::LocationName(*game.Map, order.Location),
+                         {},
+                         {},
+                         {}});
     }
   }
 }
 
 }  // namespace
 
-int ChangeOf(const OrderTable& table, std::string_view power) {
+int ChangeOf(const OrderTable& table, int power) {
   int change = 0;
   for (const OrderLine& order : table) {
     if (order.Active && order.Power == power) change += IsBuild(order) ? 1 : -1;
@@ -166,21 +158,25 @@ int ChangeOf(const OrderTable& table, std::string_view power) {
 }
 
 bool CheckAdjustments(const GameState& game, Resolution& resolution, Messages& messages) {
-  ParseAdjustmentOrders(resolution.Orders);
-  resolution.Reasons.SetCount(resolution.Orders.Count());
-  return CheckAdjustmentSyntax(*game.Map, resolution.Orders, messages) &&
-         CheckAdjustmentOrders(game, resolution, messages) &&
-         CheckAdjustmentCounts(game, resolution.Orders, messages);
+  OrderTable& table = resolution.Orders;
+  Questions questions(messages);
+  orders::ParseOrders(*game.Map, model::Stage::Adjustments, table);
+  resolution.Reasons.SetCount(table.Count());
+  const bool goesOn = orders::CheckOrderSyntax(table, questions) &&
+                      CheckAdjustmentOrders(game, resolution, questions) &&
+                      CheckAdjustmentCounts(game, table, messages);
+  resolution.StoppedAt = questions.StoppedAt();
+  return goesOn;
 }
 
 Resolution ResolveAdjustments(GameState& game, Messages& messages) {
   Resolution resolution =
-      StartResolution(ResolvedStage::Adjustments, game, std::move(game.AdjustmentsList));
+      StartResolution(model::Stage::Adjustments, game, std::move(game.AdjustmentsList));
   if (!CheckAdjustments(game, resolution, messages)) return resolution;
   ReportAdjustments(game, resolution);
   ApplyAdjustments(game, resolution.Orders, messages);
   game.AdjustmentsList.clear();
-  game.Stage = "finished";
+  game.Stage = model::Stage::Finished;
   resolution.Completed = true;
   return resolution;
 }

@@ -9,8 +9,8 @@ namespace orb::adjudication {
 // An adjustment order: POWER BUILD TYPE(LOC), or POWER DISBAND TYPE(LOC); power and verb in any
 // case.
 
-/// How many units the valid orders add to a power; below 0 when they take some away.
-int ChangeOf(const orders::OrderTable& table, std::string_view power);
+/// How many units the valid orders add to the power in row 1..7; below 0 when they take some away.
+int ChangeOf(const orders::OrderTable& table, int power);
 
 /// Resolves the adjustments stage in place: builds and removals are carried out, the report block
 /// is added, the season is finished. Not completed when a question was answered No or a power has
@@ -18,7 +18,7 @@ int ChangeOf(const orders::OrderTable& table, std::string_view power);
 Resolution ResolveAdjustments(model::GameState& game, model::Messages& messages);
 
 /// Parses and checks adjustment orders as ResolveAdjustments does, up to the first No or error;
-/// the orders carry the result words.
+/// the orders carry what was found.
 bool CheckAdjustments(const model::GameState& game, Resolution& resolution,
                       model::Messages& messages);
 

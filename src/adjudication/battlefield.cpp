@@ -1,7 +1,5 @@
 #include "adjudication/battlefield.h"
 
-#include "model/place.h"
-
 namespace orb::adjudication {
 
 using orders::IsMove;
@@ -10,22 +8,8 @@ using orders::OrderLine;
 
 Battlefield::Battlefield(model::GameState& game, Resolution& resolution)
     : game_(game), resolution_(resolution) {
-  for (int u = game.Units.Count(); u >= 1; --u) {
-    units_.Prepend(PlaceNumber(model::PlaceCode(game.Units[u].Location)), u);
-  }
-  for (int k = Orders().Count(); k >= 1; --k) {
-    if (!IsMove(Order(k))) continue;
-    const int place = PlaceNumber(model::PlaceCode(Order(k).Target));
-    aims_[static_cast<std::size_t>(k)] = static_cast<std::int8_t>(place);
-  }
-}
-
-int Battlefield::PlaceNumber(std::uint32_t code) {
-  for (int i = 1; i <= placeCount_; ++i) {
-    if (placeCodes_[static_cast<std::size_t>(i)] == code) return i;
-  }
-  placeCodes_[static_cast<std::size_t>(++placeCount_)] = code;
-  return placeCount_;
+  for (int u = resolution.Pieces.Count(); u >= 1; --u)
+    units_.Prepend(PlaceOf(resolution.Pieces[u].Location), u);
 }
 
 void Battlefield::CountForces() {
@@ -67,14 +51,14 @@ int Battlefield::AttackStrength(int m, int defender) const {
   const int attacker = resolution_.Orders[m].UnitIndex;
   for (int k = supports_.First(attacker); k != 0; k = supports_.Next(k)) {
     const int supporter = resolution_.Orders[k].UnitIndex;
-    if (game_.Units[supporter].Power != game_.Units[defender].Power) ++strength;
+    if (PowerOf(supporter) != PowerOf(defender)) ++strength;
   }
   return strength;
 }
 
 void Battlefield::MarkDislodged(int unit, int m) {
   game_.Units[unit].Status = model::Dislodged;
-  game_.Units[unit].DislodgedFrom = Order(m).Location;
+  game_.Units[unit].DislodgedFrom = model::LocationName(*resolution_.Map, Order(m).Location);
   ReasonOf(OrderOf(unit)).Dislodger = static_cast<std::int16_t>(m);
 }
 
@@ -83,7 +67,7 @@ void Battlefield::Dislodge(int unit, int m) {
   const int k = OrderOf(unit);
   Order(k).Failed = true;
   resolution_.Force[unit] = 0;
-  if (!IsSupport(Order(k)) || !model::SamePlace(Order(k).Target2, Order(m).Location)) return;
+  if (!IsSupport(Order(k)) || !IsSamePlace(Order(k).Target2, Order(m).Location)) return;
   if (Order(k).LinkedOrder == 0) return;
   const int supported = Order(Order(k).LinkedOrder).UnitIndex;
   if (supported == 0) return;
@@ -112,7 +96,7 @@ void Battlefield::Record(int m, Ruling ruling, int strength, Opposition oppositi
     reason.Behind = SupportsOf(attacker);
   } else {
     for (int k = supports_.First(attacker); k != 0; k = supports_.Next(k)) {
-      const bool counts = UnitOf(Order(k)).Power != Unit(defender).Power;
+      const bool counts = PowerOf(Order(k).UnitIndex) != PowerOf(defender);
       (counts ? reason.Behind : reason.Discounted).set(static_cast<std::size_t>(k));
     }
   }

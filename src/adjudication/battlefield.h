@@ -2,31 +2,10 @@
 
 #include "adjudication/resolution.h"
 #include "model/game_state.h"
+#include "orders/chains.h"
 #include "orders/order_line.h"
 
-#include <array>
-#include <cstdint>
-
 namespace orb::adjudication {
-
-/// Lists of indices strung together in ascending order, one list a key; 0 ends a list.
-template <int KeyBound, int ItemBound>
-class Chains {
- public:
-  int First(int key) const { return first_[static_cast<std::size_t>(key)]; }
-  int Next(int item) const { return next_[static_cast<std::size_t>(item)]; }
-
-  /// Items must come in descending order.
-  void Prepend(int key, int item) {
-    auto& first = first_[static_cast<std::size_t>(key)];
-    next_[static_cast<std::size_t>(item)] = first;
-    first = static_cast<std::int8_t>(item);
-  }
-
- private:
-  std::array<std::int8_t, KeyBound + 1> first_{};
-  std::array<std::int8_t, ItemBound + 1> next_{};
-};
 
 /// A strength and the order it stands behind.
 struct Opposition {
@@ -47,9 +26,9 @@ class Battlefield {
   orders::OrderTable& Orders() { return resolution_.Orders; }
   orders::OrderLine& Order(int k) { return resolution_.Orders[k]; }
   Reason& ReasonOf(int k) { return resolution_.Reasons[k]; }
-  const model::Unit& UnitOf(const orders::OrderLine& order) { return game_.Units[order.UnitIndex]; }
-  const model::Unit& Unit(int u) const { return game_.Units[u]; }
-  int OrderOf(int unit) const { return game_.Units[unit].OrderIndex; }
+  int OrderOf(int unit) const { return resolution_.OrdersOfUnits[unit]; }
+  int PowerOf(int unit) const { return resolution_.Pieces[unit].Power; }
+  bool IsSamePlace(int a, int b) const { return PlaceOf(a) == PlaceOf(b); }
   int Force(int unit) const { return resolution_.Force[unit]; }
 
   /// The first unit in the place that move m aims at, and the next in the same place; 0: no more.
@@ -79,20 +58,16 @@ class Battlefield {
               int defender);
 
  private:
-  static constexpr int PlaceBound = orders::OrderBound + model::UnitBound;
-
-  int Aim(int order) const { return aims_[static_cast<std::size_t>(order)]; }
-  int PlaceNumber(std::uint32_t code);
+  /// The number of the place that a row of the map belongs to; 0 for row 0.
+  int PlaceOf(int row) const { return row == 0 ? 0 : resolution_.Map->Places[row]; }
+  int Aim(int order) const { return PlaceOf(resolution_.Orders[order].Target); }
   OrderSet SupportsOf(int unit) const;
 
   model::GameState& game_;
   Resolution& resolution_;
-  std::array<std::uint32_t, PlaceBound + 1> placeCodes_{};
-  int placeCount_ = 0;
-  std::array<std::int8_t, orders::OrderBound + 1> aims_{};
-  Chains<PlaceBound, orders::OrderBound> movers_;
-  Chains<PlaceBound, model::UnitBound> units_;
-  Chains<model::UnitBound, orders::OrderBound> supports_;
+  orders::Chains<model::ProvinceBound, orders::OrderBound> movers_;  ///< by the place aimed at
+  orders::Chains<model::ProvinceBound, model::UnitBound> units_;     ///< by the place stood in
+  orders::Chains<model::UnitBound, orders::OrderBound> supports_;    ///< by the supported unit
 };
 
 }  // namespace orb::adjudication

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "adjudication/explain.h"
 #include "adjudication/resolution.h"
 #include "model/game_state.h"
 
@@ -10,47 +11,55 @@
 
 namespace orb::adjudication {
 
-/// The sentences of each stage, as ExplainOrder returns them.
-std::string ExplainMove(const model::GameState& after, const Resolution& resolution, int order);
-std::string ExplainRetreat(const model::GameState& after, const Resolution& resolution, int order);
-std::string ExplainAdjustment(const model::GameState& after, const Resolution& resolution,
+/// The explanations of each stage, as ExplainOrder returns them.
+Explanation ExplainMove(const Resolution& resolution, int order);
+Explanation ExplainRetreat(const Resolution& resolution, int order);
+Explanation ExplainAdjustment(const model::GameState& after, const Resolution& resolution,
                               int order);
 
 /// The order's text in quotes.
 std::string Quoted(const orders::OrderLine& order);
 
+/// "ENG A(Lon)": the ordered unit.
+std::string UnitName(const Resolution& resolution, const orders::OrderLine& order);
+
+/// The abbreviation of the ordering power.
+std::string PowerOf(const orders::OrderLine& order);
+
+/// The abbreviation of the location in a row of the map; empty for row 0.
+const std::string& NameOf(const Resolution& resolution, int location);
+
 /// "army" or "fleet".
-std::string_view TypeName(const orders::OrderLine& order);
+std::string_view TypeName(model::UnitType type);
 
 /// "1 unit", "2 units".
 std::string Counted(int number, std::string_view thing);
 
-/// "It was not understood: why".
-std::string NotUnderstood(const std::string& fault);
+/// Which rule of the text form the order breaks.
+Explanation NotUnderstood(const Resolution& resolution, const orders::OrderLine& order);
 
-/// "There is no such unit: who lacks it", and which unit stands in the place instead.
-std::string NoSuchUnit(const Resolution& resolution, const orders::OrderLine& order);
+/// Who lacks the ordered unit, and which unit stands in the place instead.
+Explanation NoSuchUnit(const Resolution& resolution, const orders::OrderLine& order);
 
 /// Which unit stands in a place where the named one does not: "; its unit there is F(Stp.n)".
-std::string UnitThere(const Resolution& resolution, std::string_view power, std::string_view place);
+std::string UnitThere(const Resolution& resolution, int power, int place);
 
 /// Why no unit of the order's type can stand in the location.
-std::string CannotStandText(const model::Map& map, const orders::OrderLine& order,
-                            const std::string& location);
+std::string CannotStandText(const model::Map& map, const orders::OrderLine& order, int location);
 
 /// Why a move or retreat on foot or keel leads nowhere.
 std::string NoWayText(const model::Map& map, const orders::OrderLine& order);
 
 /// Why a move of the moves stage, which a convoy could have carried, is impossible.
-std::string ImpossibleMoveText(const model::Map& map, const orders::OrderLine& order);
+Explanation ImpossibleMove(const model::Map& map, const orders::OrderLine& order);
 
 /// Why a move succeeded or failed: what its strength was measured against.
-std::string MoveText(const Resolution& resolution, int order);
+Explanation ExplainMovement(const Resolution& resolution, int order);
 
 /// What follows "it held" about the attacks on the unit that failed; empty for none.
 std::string HeldAgainst(const Resolution& resolution, int order);
 
-/// "was dislodged by ...": the attack that dislodged the order's unit and its strength.
+/// "was dislodged by ...": the attack that dislodged the order's unit.
 std::string DislodgedBy(const Resolution& resolution, int order);
 
 /// The move that dislodged the order's unit, which is recorded at the last of the unit's orders; 0

@@ -1,28 +1,30 @@
 #include "adjudication/explain.h"
 #include "adjudication/explain_parts.h"
 #include "model/lookups.h"
-#include "model/place.h"
+
+#include <algorithm>
 
 namespace orb::adjudication {
 namespace {
 
 using model::Map;
+using model::UnitType;
 using orders::OrderLine;
 
 /// The coasts of the location's place where a fleet can stand: "Bul.e or Bul.s".
-std::string CoastsOf(const Map& map, std::string_view location) {
+std::string CoastsOf(const Map& map, int location) {
   std::string names;
-  for (const model::Province& province : map.Provinces) {
-    if (province.Name == location || !model::SamePlace(province.Name, location)) continue;
-    if (!model::CanStandIn(map, "F", province.Name)) continue;
-    names += (names.empty() ? "" : " or ") + province.Name;
+  for (int row = 1; row <= map.Provinces.Count(); ++row) {
+    if (row == location || !model::IsSamePlace(map, row, location)) continue;
+    if (!model::CanStandIn(map, UnitType::Fleet, row)) continue;
+    names += (names.empty() ? "" : " or ") + map.Provinces[row].Name;
   }
   return names;
 }
 
-bool IsCoastal(const Map& map, std::string_view location) {
-  return model::CanStandIn(map, "A", location) &&
-         (model::CanStandIn(map, "F", location) || !CoastsOf(map, location).empty());
+bool IsCoastal(const Map& map, int location) {
+  return model::CanStandIn(map, UnitType::Army, location) &&
+         (model::CanStandIn(map, UnitType::Fleet, location) || !CoastsOf(map, location).empty());
 }
 
 }  // namespace
@@ -31,24 +33,38 @@ std::string Quoted(const OrderLine& order) {
   return "\"" + order.Text + "\"";
 }
 
-std::string_view TypeName(const OrderLine& order) {
-  return order.UnitType == "A" ? "army" : "fleet";
+std::string UnitName(const Resolution& resolution, const OrderLine& order) {
+  return orders::UnitName(*resolution.Map, order);
+}
+
+std::string PowerOf(const OrderLine& order) {
+  return std::string(model::PowerName(order.Power));
+}
+
+const std::string& NameOf(const Resolution& resolution, int location) {
+  return model::LocationName(*resolution.Map, location);
+}
+
+std::string_view TypeName(model::UnitType type) {
+  return type == model::UnitType::Army ? "army" : "fleet";
 }
 
 std::string Counted(int number, std::string_view thing) {
   return std::to_string(number).append(" ").append(thing).append(number == 1 ? "" : "s");
 }
 
-std::string NotUnderstood(const std::string& fault) {
-  return "It was not understood: " + fault;
+Explanation NotUnderstood(const Resolution& resolution, const OrderLine& order) {
+  return {"It was not understood",
+          orders::LineFaultText(*resolution.Map, order.Text, resolution.Stage)};
 }
 
-std::string UnitThere(const Resolution& resolution, std::string_view power,
-                      std::string_view place) {
+std::string UnitThere(const Resolution& resolution, int power, int place) {
   std::string there;
-  for (const model::Unit& unit : resolution.UnitsBefore) {
-    if (!model::SamePlace(unit.Location, place)) continue;
-    const bool own = unit.Power == power;
+  for (int u = 1; u <= resolution.Pieces.Count(); ++u) {
+    const orders::Piece& piece = resolution.Pieces[u];
+    if (!model::IsSamePlace(*resolution.Map, piece.Location, place)) continue;
+    const model::Unit& unit = resolution.UnitsBefore[u];
+    const bool own = piece.Power == power;
     if (!own && !there.empty()) continue;
     there = own ? "; its unit there is " + unit.UnitType + "(" + unit.Location + ")"
                 : "; the unit there is " + model::UnitText(unit);
@@ -57,43 +73,45 @@ std::string UnitThere(const Resolution& resolution, std::string_view power,
   return there;
 }
 
-std::string NoSuchUnit(const Resolution& resolution, const OrderLine& order) {
-  const std::string verdict = "There is no such unit: ";
-  for (const model::Unit& unit : resolution.UnitsBefore) {
-    if (resolution.Stage == ResolvedStage::Retreats && model::UnitText(unit) == UnitName(order)) {
-      return verdict + UnitName(order) + " is not dislodged";
-    }
+Explanation NoSuchUnit(const Resolution& resolution, const OrderLine& order) {
+  const std::string verdict = "There is no such unit";
+  const auto& pieces = resolution.Pieces;
+  if (resolution.Stage == model::Stage::Retreats &&
+      std::ranges::find(pieces, orders::OrderedPiece(order)) != pieces.end()) {
+    return {verdict, UnitName(resolution, order) + " is not dislodged"};
   }
-  return verdict + order.Power + " has no " + order.UnitType + "(" + order.Location + ")" +
-         UnitThere(resolution, order.Power, order.Location);
+  return {verdict, PowerOf(order) + " has no " + std::string(UnitTypeName(order.UnitType)) + "(" +
+                       NameOf(resolution, order.Location) + ")" +
+                       UnitThere(resolution, order.Power, order.Location)};
 }
 
-std::string CannotStandText(const Map& map, const OrderLine& order, const std::string& location) {
-  const std::string place = location.substr(0, 3);
-  if (order.UnitType == "F") {
+std::string CannotStandText(const Map& map, const OrderLine& order, int location) {
+  const std::string& name = model::LocationName(map, location);
+  const std::string place = name.substr(0, 3);
+  if (order.UnitType == UnitType::Fleet) {
     if (const std::string coasts = CoastsOf(map, location); !coasts.empty()) {
       return "a fleet must name the coast: " + coasts;
     }
-  } else if (place != location && model::CanStandIn(map, "A", place)) {
+  } else if (place != name && model::CanStandIn(map, "A", place)) {
     return "an army must name the place without a coast: " + place;
   }
-  return "no " + std::string(TypeName(order)) + " can stand in " + location;
+  return "no " + std::string(TypeName(order.UnitType)) + " can stand in " + name;
 }
 
 std::string NoWayText(const Map& map, const OrderLine& order) {
   if (!model::CanStandIn(map, order.UnitType, order.Target)) {
     return CannotStandText(map, order, order.Target);
   }
-  return "no " + std::string(TypeName(order)) + " can move from " + order.Location + " to " +
-         order.Target;
+  return "no " + std::string(TypeName(order.UnitType)) + " can move from " +
+         model::LocationName(map, order.Location) + " to " + model::LocationName(map, order.Target);
 }
 
-std::string ImpossibleMoveText(const Map& map, const OrderLine& order) {
-  const std::string noWay = "It is impossible: " + NoWayText(map, order);
-  const bool couldSail = order.UnitType == "A" && IsCoastal(map, order.Location) &&
+Explanation ImpossibleMove(const Map& map, const OrderLine& order) {
+  const std::string noWay = NoWayText(map, order);
+  const bool couldSail = order.UnitType == UnitType::Army && IsCoastal(map, order.Location) &&
                          IsCoastal(map, order.Target) &&
-                         !model::SamePlace(order.Location, order.Target);
-  return couldSail ? noWay + " by land, and no order convoys it" : noWay;
+                         !model::IsSamePlace(map, order.Location, order.Target);
+  return {"It is impossible", couldSail ? noWay + " by land, and no order convoys it" : noWay};
 }
 
 }  // namespace orb::adjudication

@@ -1,6 +1,6 @@
 #include "adjudication/explain.h"
 #include "adjudication/explain_parts.h"
-#include "model/place.h"
+#include "model/lookups.h"
 
 namespace orb::adjudication {
 namespace {
@@ -12,30 +12,32 @@ bool InSet(const OrderSet& set, int order) {
   return set.test(static_cast<std::size_t>(order));
 }
 
-std::string JoinUnits(const OrderTable& table, const OrderSet& set) {
+std::string JoinUnits(const Resolution& resolution, const OrderSet& set) {
+  const OrderTable& table = resolution.Orders;
   std::string names;
   for (int k = 1; k <= table.Count(); ++k) {
-    if (InSet(set, k)) names += (names.empty() ? "" : ", ") + UnitName(table[k]);
+    if (InSet(set, k)) names += (names.empty() ? "" : ", ") + UnitName(resolution, table[k]);
   }
   return names;
 }
 
-std::string Strength(const OrderTable& table, int strength, const OrderSet& behind) {
+std::string Strength(const Resolution& resolution, int strength, const OrderSet& behind) {
   std::string text = "strength " + std::to_string(strength);
-  if (behind.any() && strength > 1) text += " (supported by " + JoinUnits(table, behind) + ")";
+  if (behind.any() && strength > 1) text += " (supported by " + JoinUnits(resolution, behind) + ")";
   return text;
 }
 
-std::string OwnStrength(const OrderTable& table, const Reason& reason) {
-  return Strength(table, reason.Strength, reason.Behind);
+std::string OwnStrength(const Resolution& resolution, const Reason& reason) {
+  return Strength(resolution, reason.Strength, reason.Behind);
 }
 
-std::string OpponentStrength(const OrderTable& table, const Reason& reason) {
-  return Strength(table, reason.Against, reason.BehindOpponent);
+std::string OpponentStrength(const Resolution& resolution, const Reason& reason) {
+  return Strength(resolution, reason.Against, reason.BehindOpponent);
 }
 
 /// Whether the order's unit defends with less than the supports for its failed move would give.
-bool LostSupports(const OrderTable& table, int order, int strength) {
+bool LostSupports(const Resolution& resolution, int order, int strength) {
+  const OrderTable& table = resolution.Orders;
   const OrderLine& move = table[order];
   if (strength != 1 || !orders::IsMove(move) || !move.Active) return false;
   for (const OrderLine& support : table) {
@@ -45,27 +47,29 @@ bool LostSupports(const OrderTable& table, int order, int strength) {
 }
 
 /// Whose strength the move had to exceed, and why it stood in the way.
-std::string OpponentText(const OrderTable& table, const Reason& reason) {
+std::string OpponentText(const Resolution& resolution, const Reason& reason) {
+  const OrderTable& table = resolution.Orders;
   const OrderLine& opponent = table[reason.Opponent];
   if (reason.Opponent != reason.Occupant) return "the rival move " + Quoted(opponent);
   if (reason.Ruling == Ruling::HeadToHead) {
-    return UnitName(opponent) + ", which came the opposite way";
+    return UnitName(resolution, opponent) + ", which came the opposite way";
   }
-  if (!orders::IsMove(opponent)) return UnitName(opponent) + ", which stayed there";
-  const bool weakened = LostSupports(table, reason.Opponent, reason.Against);
-  return UnitName(opponent) + ", whose own move failed" +
+  if (!orders::IsMove(opponent)) return UnitName(resolution, opponent) + ", which stayed there";
+  const bool weakened = LostSupports(resolution, reason.Opponent, reason.Against);
+  return UnitName(resolution, opponent) + ", whose own move failed" +
          (weakened ? ", so that it defends with 1 only" : "");
 }
 
-std::string Comparison(const OrderTable& table, const Reason& reason) {
-  std::string text = OwnStrength(table, reason);
+std::string Comparison(const Resolution& resolution, const Reason& reason) {
+  const OrderTable& table = resolution.Orders;
+  std::string text = OwnStrength(resolution, reason);
   text += reason.Strength > reason.Against    ? " beats "
           : reason.Strength == reason.Against ? " is not more than "
                                               : " is less than ";
-  text += OpponentStrength(table, reason) + " of " + OpponentText(table, reason);
+  text += OpponentStrength(resolution, reason) + " of " + OpponentText(resolution, reason);
   if (reason.Discounted.any()) {
-    text += "; the support of " + JoinUnits(table, reason.Discounted) + " did not count, because " +
-            table[reason.Occupant].Power + " is the power attacked";
+    text += "; the support of " + JoinUnits(resolution, reason.Discounted) +
+            " did not count, because " + PowerOf(table[reason.Occupant]) + " is the power attacked";
   }
   return text;
 }
@@ -81,20 +85,22 @@ std::string RingText(const Resolution& resolution, int order) {
 }
 
 /// The fleets that carried the move; empty for none.
-std::string CarriersOf(const OrderTable& table, int order) {
+std::string CarriersOf(const Resolution& resolution, int order) {
+  const OrderTable& table = resolution.Orders;
   OrderSet fleets;
   for (int k = 1; k <= table.Count(); ++k) {
     fleets.set(static_cast<std::size_t>(k),
                table[k].Active && orders::IsConvoy(table[k]) && table[k].LinkedOrder == order);
   }
-  return JoinUnits(table, fleets);
+  return JoinUnits(resolution, fleets);
 }
 
 /// Says that nobody else went for the place. A move can still have aimed there without strength.
-std::string NoRivalText(const OrderTable& table, int order) {
+std::string NoRivalText(const Resolution& resolution, int order) {
+  const OrderTable& table = resolution.Orders;
   for (int k = 1; k <= table.Count(); ++k) {
     if (k != order && table[k].Active && orders::IsMove(table[k]) &&
-        model::SamePlace(table[k].Target, table[order].Target)) {
+        model::IsSamePlace(*resolution.Map, table[k].Target, table[order].Target)) {
       return "the rival move " + Quoted(table[k]) + " had no strength left";
     }
   }
@@ -103,31 +109,29 @@ std::string NoRivalText(const OrderTable& table, int order) {
 
 }  // namespace
 
-std::string MoveText(const Resolution& resolution, int order) {
+Explanation ExplainMovement(const Resolution& resolution, int order) {
   const OrderTable& table = resolution.Orders;
   const bool failed = table[order].Failed;
   const Reason& reason = resolution.Reasons[order];
-  const std::string fleets = CarriersOf(table, order);
-  std::string verdict = failed ? "It failed" : "It moved";
-  if (!fleets.empty()) verdict += (failed ? ", though carried by " : ", carried by ") + fleets;
-  verdict += ": ";
-  switch (reason.Ruling) {
-    case Ruling::HeadToHeadOwn:
-      return verdict + UnitName(table[reason.Occupant]) +
-             ", of the same power, came the opposite way";
-    case Ruling::OccupantOwn:
-      return verdict + UnitName(table[reason.Occupant]) + ", of the same power, was still there";
-    case Ruling::Ring:
-      return RingText(resolution, order);
-    default:
-      break;
+  if (reason.Ruling == Ruling::Ring) return {RingText(resolution, order)};
+  Explanation told{failed ? "It failed" : "It moved"};
+  const std::string fleets = CarriersOf(resolution, order);
+  if (!fleets.empty()) told.Verdict += (failed ? ", though carried by " : ", carried by ") + fleets;
+  const auto occupant = [&] { return UnitName(resolution, table[reason.Occupant]); };
+  if (reason.Ruling == Ruling::HeadToHeadOwn) {
+    told.Why = occupant() + ", of the same power, came the opposite way";
+  } else if (reason.Ruling == Ruling::OccupantOwn) {
+    told.Why = occupant() + ", of the same power, was still there";
+  } else if (reason.Opponent != 0) {
+    told.Why = Comparison(resolution, reason);
+  } else if (failed) {
+    told.Why = "no strength was left to it when it was decided";
+  } else if (reason.Ruling == Ruling::LeftPlace) {
+    told.Why = occupant() + " left and " + NoRivalText(resolution, order);
+  } else {
+    told.Why = "the place was empty and " + NoRivalText(resolution, order);
   }
-  if (reason.Opponent != 0) return verdict + Comparison(table, reason);
-  if (failed) return verdict + "no strength was left to it when it was decided";
-  if (reason.Ruling == Ruling::LeftPlace) {
-    return verdict + UnitName(table[reason.Occupant]) + " left and " + NoRivalText(table, order);
-  }
-  return verdict + "the place was empty and " + NoRivalText(table, order);
+  return told;
 }
 
 std::string HeldAgainst(const Resolution& resolution, int order) {
@@ -139,38 +143,36 @@ std::string HeldAgainst(const Resolution& resolution, int order) {
     if (reason.Occupant != order || !table[m].Failed || reason.Ruling != Ruling::Occupant) continue;
     if (reason.Opponent != order) {
       text += (text.empty() ? ": " : "; ") + Quoted(table[m]) + " failed against the rival " +
-              Quoted(table[reason.Opponent]) + ", " + OpponentStrength(table, reason);
+              Quoted(table[reason.Opponent]) + ", " + OpponentStrength(resolution, reason);
       held = -1;
       continue;
     }
     if (held == reason.Against) {
       text += " and ";
     } else {
-      text += (text.empty() ? " with " : "; it held with ") + OpponentStrength(table, reason) +
+      text += (text.empty() ? " with " : "; it held with ") + OpponentStrength(resolution, reason) +
               " against ";
     }
-    text += OwnStrength(table, reason) + " of " + Quoted(table[m]);
+    text += OwnStrength(resolution, reason) + " of " + Quoted(table[m]);
     held = reason.Against;
   }
   return text;
 }
 
 std::string DislodgingStrengths(const Resolution& resolution, int order) {
-  const OrderTable& table = resolution.Orders;
   const Reason& attack = resolution.Reasons[resolution.Reasons[order].Dislodger];
-  std::string text = OwnStrength(table, attack) + " beats ";
+  std::string text = OwnStrength(resolution, attack) + " beats ";
   if (attack.Opponent != order) {
-    return text + OpponentStrength(table, attack) + " of " + OpponentText(table, attack);
+    return text + OpponentStrength(resolution, attack) + " of " + OpponentText(resolution, attack);
   }
-  text += "its " + OpponentStrength(table, attack);
-  return LostSupports(table, order, attack.Against)
+  text += "its " + OpponentStrength(resolution, attack);
+  return LostSupports(resolution, order, attack.Against)
              ? text + ", all that it defends with after its own move failed"
              : text;
 }
 
 std::string DislodgedBy(const Resolution& resolution, int order) {
-  return "was dislodged by " + Quoted(resolution.Orders[resolution.Reasons[order].Dislodger]) +
-         ": " + DislodgingStrengths(resolution, order);
+  return "was dislodged by " + Quoted(resolution.Orders[resolution.Reasons[order].Dislodger]);
 }
 
 }  // namespace orb::adjudication

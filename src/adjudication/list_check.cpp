@@ -2,6 +2,7 @@
 
 #include "adjudication/adjustments.h"
 #include "adjudication/explain.h"
+#include "adjudication/explain_parts.h"
 #include "adjudication/moves.h"
 #include "adjudication/retreats.h"
 #include "adjudication/stages.h"
@@ -16,6 +17,7 @@ namespace {
 
 using model::GameState;
 using orders::OrderLine;
+using orders::OrderResult;
 using orders::OrderTable;
 
 /// Lets every check go on to its end.
@@ -26,26 +28,20 @@ class YesToEverything : public model::Messages {
   void Show(const std::string& /*text*/, model::Icon /*icon*/) override {}
 };
 
-/// Explanations read "What happened: why."; before a resolution only the why is true.
-std::string WhyOf(const std::string& sentence) {
-  const std::size_t colon = sentence.find(": ");
-  if (colon == std::string::npos) return sentence;
-  const std::size_t start = colon + 2;
-  return sentence.substr(start, sentence.size() - start - (sentence.ends_with('.') ? 1 : 0));
+/// Explanations tell what happened and why; before a resolution only the why is true.
+std::string WhyOf(const GameState& game, const Resolution& resolution, int k) {
+  return ExplainOrder(game, resolution, k).Why;
 }
 
 std::string RejectionText(const GameState& game, const Resolution& resolution, int k) {
   const OrderLine& order = resolution.Orders[k];
-  const std::string& word = order.Result;
-  if (resolution.Stage != ResolvedStage::Moves) {
-    // The adjustments' own checks look at such orders too and overwrite the word.
-    const std::string fault = ExplainSyntax(*game.Map, order, resolution.Stage);
-    if (!fault.empty()) return "syntax error: " + fault;
-  }
-  if (word == "clash") {
+  if (order.Result == OrderResult::Clash && order.Rejection == OrderResult::Clash) {
     return "clash with " + resolution.Orders[resolution.Reasons[k].Blocker].Text;
   }
-  return word + ": " + WhyOf(ExplainOrder(game, resolution, k));
+  // The adjustments' own checks look at faulty orders too and find something else.
+  const OrderResult word =
+      order.Rejection == OrderResult::SyntaxError ? order.Rejection : order.Result;
+  return std::string(ResultWord(word)) + ": " + WhyOf(game, resolution, k);
 }
 
 /// A later order for the same unit, or 0.
@@ -62,9 +58,9 @@ LineProblems ProblemsOf(const GameState& game, const Resolution& resolution, int
   if (!resolution.Orders[k].Active) {
     problems.push_back(RejectionText(game, resolution, k));
   } else if (ruling == Ruling::PlaceTaken) {
-    problems.push_back("occupied: " + WhyOf(ExplainOrder(game, resolution, k)));
+    problems.push_back("occupied: " + WhyOf(game, resolution, k));
   } else if (ruling == Ruling::BackToAttacker) {
-    problems.push_back("impossible: " + WhyOf(ExplainOrder(game, resolution, k)));
+    problems.push_back("impossible: " + WhyOf(game, resolution, k));
   }
   if (const int later = OrderedAgain(resolution.Orders, k); later != 0) {
     problems.push_back("ordered again: " + resolution.Orders[later].Text);
@@ -76,18 +72,19 @@ std::vector<PowerProblem> CountProblems(const GameState& game, const OrderTable&
   std::vector<PowerProblem> problems;
   for (const model::Country& country : game.Countries) {
     const model::PowerCount count = model::CountPower(game, country.Abbreviation);
-    const int units = count.Units + ChangeOf(table, country.Abbreviation);
+    const int units = count.Units + ChangeOf(table, model::FindCountry(country.Abbreviation));
     if (units == count.Centres) continue;
     problems.push_back(
         {country.Abbreviation, (units > count.Centres ? "too many units: " : "not enough units: ") +
                                    std::to_string(units) + " after these orders, with " +
-                                   std::to_string(count.Centres) + " centres"});
+                                   Counted(count.Centres, "centre")});
   }
   return problems;
 }
 
 bool NeedsOrder(const GameState& game, const model::Unit& unit) {
-  return game.Stage == "moves" || (game.Stage == "retreats" && unit.Status == model::Dislodged);
+  return game.Stage == model::Stage::Moves ||
+         (game.Stage == model::Stage::Retreats && unit.Status == model::Dislodged);
 }
 
 /// For each unit that needs an order the first of these lines that gives it one, counted from 1;
@@ -95,12 +92,13 @@ bool NeedsOrder(const GameState& game, const model::Unit& unit) {
 std::vector<int> FirstOrders(const GameState& game, std::vector<std::string> lines) {
   OrderTable table;
   orders::SetOrderTexts(std::move(lines), table);
-  orders::ParseOrders(table);
+  orders::ParseOrders(*game.Map, game.Stage, table);
+  const orders::Pieces pieces = orders::PiecesOf(game);
   std::vector<int> firsts;
-  for (const model::Unit& unit : game.Units) {
-    if (!NeedsOrder(game, unit)) continue;
+  for (int u = 1; u <= game.Units.Count(); ++u) {
+    if (!NeedsOrder(game, game.Units[u])) continue;
     int k = 1;
-    while (k <= table.Count() && UnitName(table[k]) != model::UnitText(unit))
+    while (k <= table.Count() && orders::OrderedPiece(table[k]) != pieces[u])
       ++k;
     firsts.push_back(k);
   }
@@ -122,27 +120,27 @@ std::size_t LinesWithRoom(const GameState& game, const std::vector<std::string>&
   return static_cast<std::size_t>(count);
 }
 
-Resolution CheckLines(GameState& game, std::vector<std::string> lines) {
+Resolution CheckLines(const GameState& game, std::vector<std::string> lines) {
   YesToEverything messages;
   Resolution resolution;
-  if (game.Stage == "moves") {
-    resolution = StartResolution(ResolvedStage::Moves, game, std::move(lines));
-    CheckOrders(game, resolution, messages);
-  } else if (game.Stage == "retreats") {
-    resolution = StartResolution(ResolvedStage::Retreats, game, std::move(lines));
+  if (game.Stage == model::Stage::Moves) {
+    resolution = StartResolution(model::Stage::Moves, game, std::move(lines));
+    CheckOrders(resolution, messages);
+  } else if (game.Stage == model::Stage::Retreats) {
+    resolution = StartResolution(model::Stage::Retreats, game, std::move(lines));
     CheckRetreats(game, resolution, messages);
     ResolveRetreatStandoffs(game, resolution);
   } else {
-    resolution = StartResolution(ResolvedStage::Adjustments, game, std::move(lines));
+    resolution = StartResolution(model::Stage::Adjustments, game, std::move(lines));
     CheckAdjustments(game, resolution, messages);
   }
   return resolution;
 }
 
 const std::vector<std::string>* ListOf(const GameState& game) {
-  if (game.Stage == "moves") return &game.OrdersList;
-  if (game.Stage == "retreats") return &game.RetreatsList;
-  return game.Stage == "adjustments" ? &game.AdjustmentsList : nullptr;
+  if (game.Stage == model::Stage::Moves) return &game.OrdersList;
+  if (game.Stage == model::Stage::Retreats) return &game.RetreatsList;
+  return game.Stage == model::Stage::Adjustments ? &game.AdjustmentsList : nullptr;
 }
 
 }  // namespace
@@ -152,20 +150,18 @@ ListCheck CheckList(const GameState& game) {
   const std::vector<std::string>* const list = ListOf(game);
   if (list == nullptr) return check;
   const std::size_t room = LinesWithRoom(game, *list);
-  GameState tried = game;
   const Resolution resolution =
-      CheckLines(tried, {list->begin(), list->begin() + static_cast<std::ptrdiff_t>(room)});
+      CheckLines(game, {list->begin(), list->begin() + static_cast<std::ptrdiff_t>(room)});
   for (int k = 1; k <= resolution.Orders.Count(); ++k) {
     if (k <= static_cast<int>(room)) {
       check.Lines.push_back(ProblemsOf(game, resolution, k));
     } else {
-      check.Unordered.push_back(UnitName(resolution.Orders[k]));
+      check.Unordered.push_back(UnitName(resolution, resolution.Orders[k]));
     }
   }
-  check.Lines.resize(list->size(),
-                     {"too many orders: no more than " + std::to_string(orders::OrderBound) +
-                      " can be resolved, " + "one for each unit without an order included"});
-  if (game.Stage == "adjustments") check.Powers = CountProblems(game, resolution.Orders);
+  check.Lines.resize(list->size(), {orders::TooManyOrders()});
+  if (game.Stage == model::Stage::Adjustments)
+    check.Powers = CountProblems(game, resolution.Orders);
   return check;
 }
 

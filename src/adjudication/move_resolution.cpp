@@ -1,7 +1,5 @@
 #include "adjudication/move_resolution.h"
 
-#include "model/place.h"
-
 #include <array>
 
 namespace orb::adjudication {
@@ -25,8 +23,8 @@ struct Encounter {
   bool HeadToHead = false;
 };
 
-bool GoesTheOppositeWay(const OrderLine& other, const OrderLine& move) {
-  return other.Active && IsMove(other) && model::SamePlace(other.Target, move.Location) &&
+bool GoesTheOppositeWay(const Battlefield& field, const OrderLine& other, const OrderLine& move) {
+  return other.Active && IsMove(other) && field.IsSamePlace(other.Target, move.Location) &&
          !move.ViaConvoy && !other.ViaConvoy;
 }
 
@@ -35,7 +33,7 @@ Encounter MeetOpposite(Battlefield& field, int m) {
   for (int u = field.FirstUnitAt(m); u != 0; u = field.NextUnit(u)) {
     const OrderLine& order = field.Order(field.OrderOf(u));
     if (!IsMove(order) || order.Failed) met = {u, false};
-    if (GoesTheOppositeWay(order, field.Order(m))) met = {u, true};
+    if (GoesTheOppositeWay(field, order, field.Order(m))) met = {u, true};
   }
   return met;
 }
@@ -76,7 +74,7 @@ bool OppositeMovesPass(Battlefield& field) {
     const Encounter met = MeetOpposite(field, m);
     if (!met.HeadToHead) continue;
     changed = true;
-    if (field.UnitOf(field.Order(m)).Power == field.Unit(met.Occupant).Power) {
+    if (field.PowerOf(field.Order(m).UnitIndex) == field.PowerOf(met.Occupant)) {
       RefuseOwnUnit(field, m, met.Occupant, Ruling::HeadToHeadOwn);
     } else {
       Attack(field, m, met.Occupant, field.Force(met.Occupant), Ruling::HeadToHead);
@@ -99,7 +97,7 @@ bool StayingUnitsPass(Battlefield& field) {
     const int occupant = StayingOccupant(field, m);
     if (occupant == 0) continue;
     changed = true;
-    if (field.UnitOf(field.Order(m)).Power == field.Unit(occupant).Power) {
+    if (field.PowerOf(field.Order(m).UnitIndex) == field.PowerOf(occupant)) {
       RefuseOwnUnit(field, m, occupant, Ruling::OccupantOwn);
     } else {
       Attack(field, m, occupant, Defence(field, occupant), Ruling::Occupant);
@@ -202,7 +200,7 @@ void LetRingsMove(Battlefield& field, const Contests& contests) {
 
 }  // namespace
 
-void ResolveMoves(Battlefield& field) {
+void DecideMoves(Battlefield& field) {
   field.CountForces();
   while (OppositeMovesPass(field)) {
   }

@@ -4,12 +4,11 @@
 #include "adjudication/stages.h"
 #include "adjudication/support_cutting.h"
 #include "model/lookups.h"
-#include "model/place.h"
 #include "orders/binding.h"
 #include "orders/parser.h"
 
 #include <algorithm>
-#include <array>
+#include <bitset>
 #include <utility>
 
 namespace orb::adjudication {
@@ -46,7 +45,7 @@ bool AttacksConvoyingFleet(const model::Map& map, Battlefield& field, int k) {
   if (!IsMove(field.Order(k))) return false;
   const int unit = field.LastUnitAt(k);
   return unit != 0 && IsConvoy(field.Order(field.OrderOf(unit))) &&
-         !model::CanStandIn(map, "A", field.Order(k).Target);
+         !model::CanStandIn(map, model::UnitType::Army, field.Order(k).Target);
 }
 
 OrderSet FindConvoyAttacks(const model::Map& map, Battlefield& field) {
@@ -62,7 +61,7 @@ void ResolveConvoyAttacks(Battlefield& field, const OrderSet& attacks) {
     OrderLine& order = field.Order(k);
     order.Pending = order.Active && attacks.test(static_cast<std::size_t>(k));
   }
-  ResolveMoves(field);
+  DecideMoves(field);
 }
 
 void ResolveOtherMoves(Battlefield& field, const OrderSet& attacks) {
@@ -70,7 +69,7 @@ void ResolveOtherMoves(Battlefield& field, const OrderSet& attacks) {
     OrderLine& order = field.Order(k);
     order.Pending = order.Active && !attacks.test(static_cast<std::size_t>(k));
   }
-  ResolveMoves(field);
+  DecideMoves(field);
 }
 
 /// Losing any one of its fleets breaks a convoy. Returns whether there is an active convoy order.
@@ -82,7 +81,7 @@ bool DisruptConvoys(GameState& game, Resolution& resolution) {
     convoyExists = true;
     if (game.Units[order.UnitIndex].Status != model::Dislodged) continue;
     OrderLine& convoyed = resolution.Orders[order.LinkedOrder];
-    orders::Reject(convoyed, "convoy failed");
+    orders::Reject(convoyed, orders::OrderResult::ConvoyFailed);
     resolution.Reasons[order.LinkedOrder].LostFleet = static_cast<std::int16_t>(k);
     if (convoyed.UnitIndex != 0) resolution.Force[convoyed.UnitIndex] = 0;
   }
@@ -90,35 +89,35 @@ bool DisruptConvoys(GameState& game, Resolution& resolution) {
 }
 
 void ApplyMoves(GameState& game, Resolution& resolution) {
-  for (const model::Unit& unit : game.Units) {
-    if (unit.Status == model::Dislodged) {
-      resolution.Orders[unit.OrderIndex].Result = model::Dislodged;
+  for (int u = 1; u <= game.Units.Count(); ++u) {
+    if (game.Units[u].Status == model::Dislodged) {
+      resolution.Orders[resolution.OrdersOfUnits[u]].Result = orders::OrderResult::Dislodged;
     }
   }
   for (const OrderLine& order : resolution.Orders) {
     if (order.Active && IsMove(order) && !order.Failed) {
-      game.Units[order.UnitIndex].Location = order.Target;
+      game.Units[order.UnitIndex].Location = model::LocationName(*game.Map, order.Target);
     }
   }
 }
 
 void MarkStandoffs(GameState& game, const Resolution& resolution) {
-  std::array<std::uint32_t, orders::OrderBound> aims{};
-  auto* end = aims.begin();
+  const model::Map& map = *game.Map;
+  std::bitset<model::ProvinceBound + 1> contested;
   for (const OrderLine& order : resolution.Orders) {
-    const bool contests = IsMove(order) && order.Active && resolution.Force[order.UnitIndex] > 0;
-    if (contests) *end++ = model::PlaceCode(order.Target);
+    if (!IsMove(order) || !order.Active || resolution.Force[order.UnitIndex] <= 0) continue;
+    contested.set(static_cast<std::size_t>(map.Places[order.Target]));
   }
-  for (int p = 1; p <= game.Provinces.Count(); ++p) {
-    game.Provinces[p].Uncontested = std::find(aims.begin(), end, game.Map->PlaceCodes[p]) == end;
-  }
+  for (int p = 1; p <= game.Provinces.Count(); ++p)
+    game.Provinces[p].Uncontested = !contested.test(static_cast<std::size_t>(map.Places[p]));
 }
 
 std::string ReportLine(const OrderLine& order) {
+  const std::string_view result = orders::ResultWord(order.Result);
   std::string line;
-  line.reserve(order.Text.size() + order.Result.size() + 6);
+  line.reserve(order.Text.size() + result.size() + 6);
   line.append(order.Failed ? "[ " : "  ").append(order.Text).append(order.Failed ? " ]" : "");
-  return line.append("  ").append(order.Result);
+  return line.append("  ").append(result);
 }
 
 void BuildMoveReport(GameState& game, Resolution& resolution) {
@@ -136,7 +135,7 @@ void AdvanceStage(GameState& game) {
       std::any_of(game.Units.begin(), game.Units.end(),
                   [](const model::Unit& unit) { return unit.Status == model::Dislodged; });
   if (retreats) {
-    game.Stage = "retreats";
+    game.Stage = model::Stage::Retreats;
   } else {
     EndMovement(game);
   }
@@ -144,18 +143,23 @@ void AdvanceStage(GameState& game) {
 
 }  // namespace
 
-bool CheckOrders(GameState& game, Resolution& resolution, model::Messages& messages) {
+bool CheckOrders(Resolution& resolution, model::Messages& messages) {
   orders::OrderTable& table = resolution.Orders;
-  orders::ParseOrders(table);
-  return orders::CheckOrderSyntax(*game.Map, table, messages) &&
-         orders::BindOrdersToUnits(game, table, messages) &&
-         orders::CheckImpossibleOrders(game, table, messages);
+  const model::Map& map = *resolution.Map;
+  orders::Questions questions(messages);
+  orders::ParseOrders(map, model::Stage::Moves, table);
+  const bool goesOn = orders::CheckOrderSyntax(table, questions) &&
+                      orders::BindOrdersToUnits(map, resolution.Pieces, table,
+                                                resolution.OrdersOfUnits, questions) &&
+                      orders::CheckImpossibleOrders(map, table, questions);
+  resolution.StoppedAt = questions.StoppedAt();
+  return goesOn;
 }
 
-Resolution Resolve(GameState& game, model::Messages& messages) {
-  Resolution resolution = StartResolution(ResolvedStage::Moves, game, std::move(game.OrdersList));
+Resolution ResolveMoves(GameState& game, model::Messages& messages) {
+  Resolution resolution = StartResolution(model::Stage::Moves, game, std::move(game.OrdersList));
   SavePreviousPositions(game);
-  if (!CheckOrders(game, resolution, messages)) return resolution;
+  if (!CheckOrders(resolution, messages)) return resolution;
   resolution.Reasons.SetCount(resolution.Orders.Count());
   Battlefield field(game, resolution);
   CutByMovesOnLandAndSea(field);

@@ -10,10 +10,10 @@ namespace orb::adjudication {
 /// decided, units moved or dislodged, standoffs marked, the report written, the stage advanced.
 /// Not completed when a question was answered No; then, and on a throw, the situation is half
 /// resolved and must be dropped.
-Resolution Resolve(model::GameState& game, model::Messages& messages);
+Resolution ResolveMoves(model::GameState& game, model::Messages& messages);
 
-/// Checks the orders of the moves stage as Resolve does, up to the first No. The resolution's
-/// orders carry the result words.
-bool CheckOrders(model::GameState& game, Resolution& resolution, model::Messages& messages);
+/// Checks the orders of a started resolution of the moves as ResolveMoves does, up to the first No.
+/// The resolution's orders carry what was found.
+bool CheckOrders(Resolution& resolution, model::Messages& messages);
 
 }  // namespace orb::adjudication

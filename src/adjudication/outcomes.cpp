@@ -7,7 +7,7 @@ namespace {
 
 using orders::Outcome;
 
-/// The result words are not asked: "dislodged" writes over the others.
+/// The results are not asked: "dislodged" takes the place of the others.
 Outcome OutcomeAt(const Resolution& resolution, int k, int endOfRoom) {
   const orders::OrderLine& order = resolution.Orders[k];
   const Reason& reason = resolution.Reasons[k];
@@ -23,12 +23,12 @@ std::vector<orders::OrderOutcome> Outcomes(const Resolution& resolution) {
   std::vector<orders::OrderOutcome> outcomes;
   if (!resolution.Completed) return outcomes;
   const int count = resolution.Orders.Count();
-  const bool builds = resolution.Stage == ResolvedStage::Adjustments;
+  const bool builds = resolution.Stage == model::Stage::Adjustments;
   const int endOfRoom = builds ? FirstNotCarriedOut(resolution) : count + 1;
   outcomes.reserve(static_cast<std::size_t>(count));
   for (int k = 1; k <= count; ++k) {
-    outcomes.push_back(
-        orders::OutcomeOf(resolution.Orders[k], OutcomeAt(resolution, k, endOfRoom)));
+    outcomes.push_back(orders::OutcomeOf(*resolution.Map, resolution.Orders[k],
+                                         OutcomeAt(resolution, k, endOfRoom)));
   }
   return outcomes;
 }

@@ -1,9 +1,7 @@
 #include "adjudication/participants.h"
 
-#include "adjudication/explain.h"
 #include "adjudication/explain_parts.h"
 #include "model/lookups.h"
-#include "model/place.h"
 #include "orders/binding.h"
 
 #include <algorithm>
@@ -11,8 +9,9 @@
 namespace orb::adjudication {
 namespace {
 
+using orders::OrderKind;
 using orders::OrderLine;
-using orders::OrderTable;
+using orders::OrderResult;
 
 using Locations = std::vector<std::string>;
 
@@ -54,8 +53,9 @@ class Parties {
     set_ |= reason.Behind | reason.Discounted | reason.BehindOpponent;
   }
 
-  bool AimsAt(int move, std::string_view place) const {
-    return orders::IsMove(Order(move)) && model::SamePlace(Order(move).Target, place);
+  bool AimsAt(int move, int place) const {
+    return orders::IsMove(Order(move)) &&
+           model::IsSamePlace(*resolution_.Map, Order(move).Target, place);
   }
 
   /// Also those that had lost all strength.
@@ -137,8 +137,10 @@ void AddTo(Locations& locations, const std::string& location) {
 void AddUnit(const Resolution& resolution, int unit, Locations& locations) {
   const std::string* location = &resolution.UnitsBefore[unit].Location;
   for (const OrderLine& order : resolution.Orders) {
-    const bool moves = orders::IsMove(order) || order.Kind == "RETREAT";
-    if (order.UnitIndex == unit && moves && order.Active && !order.Failed) location = &order.Target;
+    const bool moves = orders::IsMove(order) || order.Kind == OrderKind::Retreat;
+    if (order.UnitIndex == unit && moves && order.Active && !order.Failed) {
+      location = &NameOf(resolution, order.Target);
+    }
   }
   AddTo(locations, *location);
 }
@@ -150,18 +152,17 @@ void AddUnitOf(const Resolution& resolution, int order, Locations& locations) {
     AddUnit(resolution, line.UnitIndex, locations);
     return;
   }
-  for (int u = 1; u <= resolution.UnitsBefore.Count(); ++u) {
-    if (model::UnitText(resolution.UnitsBefore[u]) == UnitName(line)) {
-      AddUnit(resolution, u, locations);
-    }
+  for (int u = 1; u <= resolution.Pieces.Count(); ++u) {
+    if (resolution.Pieces[u] == orders::OrderedPiece(line)) AddUnit(resolution, u, locations);
   }
 }
 
 /// The units that stood in the place; of a place with a dislodged unit also the one that came.
-void AddUnitsIn(const Resolution& resolution, std::string_view place, Locations& locations) {
-  for (int u = 1; u <= resolution.UnitsBefore.Count(); ++u) {
-    if (!model::SamePlace(resolution.UnitsBefore[u].Location, place)) continue;
-    AddUnit(resolution, u, locations);
+void AddUnitsIn(const Resolution& resolution, int place, Locations& locations) {
+  for (int u = 1; u <= resolution.Pieces.Count(); ++u) {
+    if (model::IsSamePlace(*resolution.Map, resolution.Pieces[u].Location, place)) {
+      AddUnit(resolution, u, locations);
+    }
   }
 }
 
@@ -172,7 +173,7 @@ void AddToMove(const Resolution& resolution, int order, Locations& locations) {
     if (parties.Has(k)) AddUnitOf(resolution, k, locations);
   }
   if (own.UnitIndex == 0) AddUnitsIn(resolution, own.Location, locations);
-  if (own.Result == "not used") AddUnitsIn(resolution, own.Target, locations);
+  if (own.Rejection == OrderResult::NotUsed) AddUnitsIn(resolution, own.Target, locations);
 }
 
 void AddToRetreat(const Resolution& resolution, int order, Locations& locations) {
@@ -185,24 +186,22 @@ void AddToRetreat(const Resolution& resolution, int order, Locations& locations)
   }
 }
 
-void AddToAdjustment(const model::Map& map, const Resolution& resolution, int order,
-                     Locations& locations) {
+void AddToAdjustment(const Resolution& resolution, int order, Locations& locations) {
   const OrderLine& own = resolution.Orders[order];
-  if (model::FindProvince(map, own.Location) == 0) return;
-  AddTo(locations, own.Location);
+  if (own.Location == 0) return;
+  AddTo(locations, NameOf(resolution, own.Location));
   if (!own.Active) AddUnitsIn(resolution, own.Location, locations);
   const int other = resolution.Reasons[order].Blocker;
-  if (other != 0) AddTo(locations, resolution.Orders[other].Location);
+  if (other != 0) AddTo(locations, NameOf(resolution, resolution.Orders[other].Location));
 }
 
-void AddParticipants(const model::Map& map, const Resolution& resolution, int order,
-                     Locations& locations) {
+void AddParticipants(const Resolution& resolution, int order, Locations& locations) {
   if (order == 0) return;
   AddUnitOf(resolution, order, locations);
-  if (resolution.Stage == ResolvedStage::Moves) AddToMove(resolution, order, locations);
-  if (resolution.Stage == ResolvedStage::Retreats) AddToRetreat(resolution, order, locations);
-  if (resolution.Stage == ResolvedStage::Adjustments) {
-    AddToAdjustment(map, resolution, order, locations);
+  if (resolution.Stage == model::Stage::Moves) AddToMove(resolution, order, locations);
+  if (resolution.Stage == model::Stage::Retreats) AddToRetreat(resolution, order, locations);
+  if (resolution.Stage == model::Stage::Adjustments) {
+    AddToAdjustment(resolution, order, locations);
   }
 }
 
@@ -212,8 +211,7 @@ std::vector<std::vector<std::string>> ReportParticipants(const model::GameState&
                                                          const Resolution& resolution) {
   std::vector<Locations> lines(static_cast<std::size_t>(after.ReportLines.Count()));
   for (const ReportEntry& entry : resolution.Entries) {
-    AddParticipants(*after.Map, resolution, entry.Order,
-                    lines.at(static_cast<std::size_t>(entry.Line - 1)));
+    AddParticipants(resolution, entry.Order, lines.at(static_cast<std::size_t>(entry.Line - 1)));
   }
   return lines;
 }

@@ -1,17 +1,20 @@
 #pragma once
 
 #include "model/game_state.h"
+#include "orders/binding.h"
 #include "orders/order_line.h"
+#include "orders/pieces.h"
 
 #include <bitset>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 namespace orb::adjudication {
 
 /// Which step decided the fate of an order.
 enum class Ruling : std::uint8_t {
-  None,             ///< nothing opposed it, or a check rejected it: the result word tells
+  None,             ///< nothing opposed it, or a check rejected it
   HeadToHead,       ///< decided against a unit moving the opposite way
   HeadToHeadOwn,    ///< the unit moving the opposite way is of the same power
   Occupant,         ///< decided against a unit that stays
@@ -52,16 +55,18 @@ struct ReportEntry {
   int Order = 0;
 };
 
-enum class ResolvedStage : std::uint8_t { Moves, Retreats, Adjustments };
-
 /// All that one resolution worked out, kept for whoever shows or explains it.
 struct Resolution {
-  ResolvedStage Stage = ResolvedStage::Moves;
+  model::Stage Stage = model::Stage::Moves;  ///< the one that was resolved
   bool Completed = false;  ///< false: abandoned at a question or an error, the situation unchanged
+  int StoppedAt = 0;       ///< the order at whose warning the user stopped; 0: at none
+  std::shared_ptr<const model::Map> Map;  ///< what the orders' places are rows of
   orders::OrderTable Orders;
   model::Table<Reason, orders::OrderBound> Reasons;  ///< beside the orders
   model::Table<std::int16_t, model::UnitBound> Force;
   model::Table<model::Unit, model::UnitBound> UnitsBefore;  ///< what orders' unit indices refer to
+  orders::Pieces Pieces;                                    ///< the same in rows
+  orders::OrdersOfUnits OrdersOfUnits;                      ///< the order that stands for each unit
   std::vector<ReportEntry> Entries;
 };
 

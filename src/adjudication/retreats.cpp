@@ -3,7 +3,7 @@
 #include "adjudication/stages.h"
 #include "model/lookups.h"
 #include "model/place.h"
-#include "orders/later_stages.h"
+#include "orders/parser.h"
 
 #include <algorithm>
 #include <utility>
@@ -14,106 +14,80 @@ namespace {
 using model::GameState;
 using model::Messages;
 using model::Unit;
+using orders::OrderKind;
 using orders::OrderLine;
+using orders::OrderResult;
 using orders::OrderTable;
+using orders::Questions;
 
 bool IsRetreat(const OrderLine& order) {
-  return order.Kind == "RETREAT";
+  return order.Kind == OrderKind::Retreat;
 }
 
-void ParseRetreatOrders(OrderTable& table) {
-  std::string work;
-  for (OrderLine& order : table) {
-    orders::ParseRetreat(order, work);
-  }
-}
-
-bool CheckRetreatSyntax(const model::Map& map, OrderTable& table, Messages& messages) {
-  for (OrderLine& order : table) {
-    if (orders::FindRetreatFault(map, order) == orders::SyntaxFault::None) continue;
-    orders::Reject(order, "syntax error");
-    if (!messages.Warn(model::WarningText(order.Text, "syntax error."))) return false;
-  }
-  return true;
-}
-
-bool IsFor(const OrderLine& order, const Unit& unit) {
-  return unit.Power == order.Power && unit.UnitType == order.UnitType &&
-         unit.Location == order.Location;
-}
-
-bool FindDislodgedUnits(const GameState& game, OrderTable& table, Messages& messages) {
-  for (OrderLine& order : table) {
+bool FindDislodgedUnits(const GameState& game, Resolution& resolution, Questions& questions) {
+  OrderTable& table = resolution.Orders;
+  for (int k = 1; k <= table.Count(); ++k) {
+    OrderLine& order = table[k];
     if (!order.Active) continue;
     order.UnitIndex = 0;
     for (int u = 1; u <= game.Units.Count(); ++u) {
-      const Unit& unit = game.Units[u];
-      if (unit.Status == model::Dislodged && IsFor(order, unit)) {
+      const bool fits = resolution.Pieces[u] == orders::OrderedPiece(order);
+      if (fits && game.Units[u].Status == model::Dislodged) {
         order.UnitIndex = static_cast<std::int16_t>(u);
       }
     }
     if (order.UnitIndex != 0) continue;
-    orders::Reject(order, "no such unit");
-    if (!messages.Warn(model::WarningText(order.Text, "no such unit."))) return false;
+    orders::Reject(order, OrderResult::NoSuchUnit);
+    if (!questions.GoOn(k, model::WarningText(order.Text, "no such unit."))) return false;
   }
   return true;
 }
 
-void AppendDisband(Unit& unit, int unitIndex, OrderTable& table) {
-  OrderLine& order = table.Append();
-  order.Text = model::UnitText(unit) + " disband";
-  order.Power = unit.Power;
-  order.UnitType = unit.UnitType;
-  order.Location = unit.Location;
-  order.Kind = "DISBAND";
-  order.Result = "unordered";
-  order.Active = true;
-  order.UnitIndex = static_cast<std::int16_t>(unitIndex);
-  unit.OrderIndex = static_cast<std::int16_t>(table.Count());
+bool IsOrdered(const OrderTable& table, const orders::Piece& piece) {
+  return std::any_of(table.begin(), table.end(),
+                     [&](const OrderLine& order) { return orders::OrderedPiece(order) == piece; });
 }
 
-bool DisbandUnordered(GameState& game, OrderTable& table, Messages& messages) {
+bool DisbandUnordered(const GameState& game, Resolution& resolution, Questions& questions) {
   for (int u = 1; u <= game.Units.Count(); ++u) {
-    Unit& unit = game.Units[u];
-    if (unit.Status != model::Dislodged) continue;
-    unit.OrderIndex = 0;
-    for (int k = 1; k <= table.Count(); ++k) {
-      if (IsFor(table[k], unit)) unit.OrderIndex = static_cast<std::int16_t>(k);
-    }
-    if (unit.OrderIndex != 0) continue;
-    AppendDisband(unit, u, table);
-    if (!messages.Warn(model::WarningText(model::UnitText(unit) + " unordered."))) return false;
+    const orders::Piece& piece = resolution.Pieces[u];
+    if (game.Units[u].Status != model::Dislodged || IsOrdered(resolution.Orders, piece)) continue;
+    OrderLine& order =
+        orders::SupplyOrder(*game.Map, piece, u, OrderKind::Disband, " disband", resolution.Orders);
+    order.Result = OrderResult::Unordered;
+    const std::string unit = UnitName(*game.Map, order);
+    if (!questions.Messages().Warn(model::WarningText(unit + " unordered."))) return false;
   }
   return true;
 }
 
-bool MatchRetreatsToUnits(GameState& game, OrderTable& table, Messages& messages) {
-  return FindDislodgedUnits(game, table, messages) && DisbandUnordered(game, table, messages);
+bool MatchRetreatsToUnits(const GameState& game, Resolution& resolution, Questions& questions) {
+  return FindDislodgedUnits(game, resolution, questions) &&
+         DisbandUnordered(game, resolution, questions);
 }
 
 void CheckRetreatMoves(const GameState& game, OrderTable& table) {
   const model::Map& map = *game.Map;
   for (OrderLine& order : table) {
     if (!order.Active || !IsRetreat(order)) continue;
-    const std::string& type = game.Units[order.UnitIndex].UnitType;
-    if (!model::CanStandIn(map, type, order.Target) ||
-        !model::IsAdjacent(map, type, order.Location, order.Target)) {
-      orders::Reject(order, "impossible move");
+    if (!model::CanStandIn(map, order.UnitType, order.Target) ||
+        !model::IsAdjacent(map, order.UnitType, order.Location, order.Target)) {
+      orders::Reject(order, OrderResult::ImpossibleMove);
     }
-    if (game.Provinces[model::FindProvince(map, order.Target)].Uncontested) continue;
+    if (game.Provinces[order.Target].Uncontested) continue;
     if (model::FindUnitAt(game, order.Target) != 0) {
-      order.Result = "occupied";
+      order.Result = OrderResult::Occupied;
     } else {
-      orders::Reject(order, "impossible (standoff)");
+      orders::Reject(order, OrderResult::Standoff);
     }
   }
 }
 
 /// Another active retreat to the same place, failed or not; 0 for none.
-int CollidingRetreat(const OrderTable& table, int i) {
+int CollidingRetreat(const model::Map& map, const OrderTable& table, int i) {
   for (int k = 1; k <= table.Count(); ++k) {
     if (k != i && IsRetreat(table[k]) && table[k].Active &&
-        model::SamePlace(table[k].Target, table[i].Target)) {
+        model::IsSamePlace(map, table[k].Target, table[i].Target)) {
       return k;
     }
   }
@@ -151,7 +125,7 @@ void ReportRetreats(GameState& game, Resolution& resolution) {
     if (!IsRetreat(order)) {
       line += " disband";
     } else {
-      line.append(" retreat ").append(order.Target);
+      line.append(" retreat ").append(model::LocationName(*game.Map, order.Target));
       if (order.Failed) line += " failed disband";
     }
   }
@@ -160,7 +134,7 @@ void ReportRetreats(GameState& game, Resolution& resolution) {
 void ApplyRetreats(GameState& game, const OrderTable& table) {
   for (const OrderLine& order : table) {
     if (!order.Active || !IsRetreat(order) || order.Failed) continue;
-    game.Units[order.UnitIndex].Location = order.Target;
+    game.Units[order.UnitIndex].Location = model::LocationName(*game.Map, order.Target);
     game.Units[order.UnitIndex].Status.clear();
   }
   for (int u = game.Units.Count(); u >= 1; --u) {
@@ -170,13 +144,15 @@ void ApplyRetreats(GameState& game, const OrderTable& table) {
 
 }  // namespace
 
-bool CheckRetreats(GameState& game, Resolution& resolution, Messages& messages) {
+bool CheckRetreats(const GameState& game, Resolution& resolution, Messages& messages) {
   OrderTable& table = resolution.Orders;
-  ParseRetreatOrders(table);
-  if (!CheckRetreatSyntax(*game.Map, table, messages)) return false;
-  if (!MatchRetreatsToUnits(game, table, messages)) return false;
-  CheckRetreatMoves(game, table);
-  return true;
+  Questions questions(messages);
+  orders::ParseOrders(*game.Map, model::Stage::Retreats, table);
+  const bool goesOn = orders::CheckOrderSyntax(table, questions) &&
+                      MatchRetreatsToUnits(game, resolution, questions);
+  resolution.StoppedAt = questions.StoppedAt();
+  if (goesOn) CheckRetreatMoves(game, table);
+  return goesOn;
 }
 
 void ResolveRetreatStandoffs(const GameState& game, Resolution& resolution) {
@@ -189,11 +165,11 @@ void ResolveRetreatStandoffs(const GameState& game, Resolution& resolution) {
     if (!IsRetreat(order) || !order.Pending || !order.Active) continue;
     Reason& reason = resolution.Reasons[i];
     const Unit& unit = game.Units[order.UnitIndex];
-    if (model::SamePlace(order.Target, unit.DislodgedFrom)) {
+    if (model::SamePlace(model::LocationName(*game.Map, order.Target), unit.DislodgedFrom)) {
       Lose(order, reason, Ruling::BackToAttacker, 0);
     } else if (const int occupant = model::FindUnitAt(game, order.Target); occupant != 0) {
       Lose(order, reason, Ruling::PlaceTaken, occupant);
-    } else if (const int other = CollidingRetreat(table, i); other != 0) {
+    } else if (const int other = CollidingRetreat(*game.Map, table, i); other != 0) {
       Lose(order, reason, Ruling::RetreatsCollide, other);
     }
   }
@@ -201,7 +177,7 @@ void ResolveRetreatStandoffs(const GameState& game, Resolution& resolution) {
 
 Resolution ResolveRetreats(GameState& game, Messages& messages) {
   Resolution resolution =
-      StartResolution(ResolvedStage::Retreats, game, std::move(game.RetreatsList));
+      StartResolution(model::Stage::Retreats, game, std::move(game.RetreatsList));
   if (!CheckRetreats(game, resolution, messages)) return resolution;
   ResolveRetreatStandoffs(game, resolution);
   ReportRetreats(game, resolution);

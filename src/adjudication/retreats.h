@@ -14,8 +14,8 @@ namespace orb::adjudication {
 Resolution ResolveRetreats(model::GameState& game, model::Messages& messages);
 
 /// Parses and checks retreat orders as ResolveRetreats does, up to the first No; the orders carry
-/// the result words.
-bool CheckRetreats(model::GameState& game, Resolution& resolution, model::Messages& messages);
+/// what was found.
+bool CheckRetreats(const model::GameState& game, Resolution& resolution, model::Messages& messages);
 
 /// Decides which of the checked retreats fail: those back to the attacker, to a unit, or to the
 /// same place as another.

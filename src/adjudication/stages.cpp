@@ -10,29 +10,32 @@
 
 namespace orb::adjudication {
 
-Resolution StartResolution(ResolvedStage stage, const model::GameState& game,
+Resolution StartResolution(model::Stage stage, const model::GameState& game,
                            std::vector<std::string> lines) {
   Resolution resolution;
   resolution.Stage = stage;
   orders::SetOrderTexts(std::move(lines), resolution.Orders);
+  resolution.Map = game.Map;
   resolution.UnitsBefore = game.Units;
+  resolution.Pieces = orders::PiecesOf(game);
   return resolution;
 }
 
 void EndMovement(model::GameState& game) {
-  game.Stage = "adjustments";
+  game.Stage = model::Stage::Adjustments;
   if (game.Season == "Spring") {
-    game.Stage = "finished";
+    game.Stage = model::Stage::Finished;
   } else {
     model::SetCentreOwnersFromUnits(game);
   }
 }
 
 Resolution ResolveStageInPlace(model::GameState& game, model::Messages& messages) {
-  if (game.Stage == "moves") return Resolve(game, messages);
-  if (game.Stage == "retreats") return ResolveRetreats(game, messages);
-  if (game.Stage == "adjustments") return ResolveAdjustments(game, messages);
-  throw model::FatalError("There is nothing to resolve in the stage \"" + game.Stage + "\".");
+  if (game.Stage == model::Stage::Moves) return ResolveMoves(game, messages);
+  if (game.Stage == model::Stage::Retreats) return ResolveRetreats(game, messages);
+  if (game.Stage == model::Stage::Adjustments) return ResolveAdjustments(game, messages);
+  throw model::FatalError("There is nothing to resolve in the stage \"" +
+                          std::string(StageText(game)) + "\".");
 }
 
 Resolution ResolveStage(model::GameState& game, model::Messages& messages) {

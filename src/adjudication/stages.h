@@ -15,7 +15,7 @@ Resolution ResolveStage(model::GameState& game, model::Messages& messages);
 Resolution ResolveStageInPlace(model::GameState& game, model::Messages& messages);
 
 /// Starts a resolution: takes over the list's lines as orders and the units as they stand.
-Resolution StartResolution(ResolvedStage stage, const model::GameState& game,
+Resolution StartResolution(model::Stage stage, const model::GameState& game,
                            std::vector<std::string> lines);
 
 /// The stage that follows moves or retreats: "finished" in Spring; otherwise "adjustments", with

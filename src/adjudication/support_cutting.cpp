@@ -1,7 +1,5 @@
 #include "adjudication/support_cutting.h"
 
-#include "model/place.h"
-
 namespace orb::adjudication {
 
 void CutSupports(Battlefield& field, int m) {
@@ -11,8 +9,9 @@ void CutSupports(Battlefield& field, int m) {
   const int k = field.OrderOf(unit);
   orders::OrderLine& support = field.Order(k);
   if (!support.Active || !orders::IsSupport(support)) return;
-  if (support.Kind2 == "-" && model::SamePlace(support.Target2, move.Location)) return;
-  orders::Reject(support, "cut");
+  if (support.Kind2 == orders::OrderKind::Move && field.IsSamePlace(support.Target2, move.Location))
+    return;
+  orders::Reject(support, orders::OrderResult::Cut);
   field.ReasonOf(k).Cutter = static_cast<std::int16_t>(m);
 }
 

@@ -11,7 +11,7 @@ namespace orb::history {
 using orders::OrderOutcome;
 
 bool IsForMove(const OrderOutcome& order, const OrderOutcome& move) {
-  return move.Kind == "-" && order.OtherLocation == move.Location &&
+  return move.Kind == orders::OrderKind::Move && order.OtherLocation == move.Location &&
          model::SamePlace(order.Destination, move.Destination);
 }
 
@@ -20,8 +20,8 @@ std::vector<std::string> FleetsOf(const model::Map& map, const OrderOutcome& mov
   std::vector<std::string> fleets;
   if (!move.ViaConvoy) return fleets;
   for (const OrderOutcome& order : orders) {
-    if (order.Kind == "C" && order.Outcome != orders::Outcome::Void && IsForMove(order, move) &&
-        model::FindProvince(map, order.Location) != 0) {
+    if (order.Kind == orders::OrderKind::Convoy && order.Outcome != orders::Outcome::Void &&
+        IsForMove(order, move) && model::FindProvince(map, order.Location) != 0) {
       fleets.push_back(order.Location);
     }
   }

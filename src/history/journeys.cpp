@@ -28,7 +28,9 @@ bool Served(const OrderOutcome& move, const UnitChange& unit) {
 const OrderOutcome* FindMove(const Map& map, const UnitChange& unit, const Orders& orders) {
   const OrderOutcome* found = nullptr;
   for (const OrderOutcome& order : orders) {
-    if (!IsFor(order, unit) || order.Kind != "-" || order.Outcome == Outcome::Void) continue;
+    if (!IsFor(order, unit) || order.Kind != orders::OrderKind::Move ||
+        order.Outcome == Outcome::Void)
+      continue;
     if (model::FindProvince(map, order.Destination) == 0) continue;
     if (found == nullptr || Served(order, unit)) found = &order;
   }
@@ -44,8 +46,8 @@ bool IsResolved(const UnitChange& unit, const Orders& orders) {
 
 const OrderOutcome* FindRetreat(const Map& map, const UnitChange& unit, const Orders& orders) {
   const auto found = std::find_if(orders.begin(), orders.end(), [&](const OrderOutcome& order) {
-    return IsFor(order, unit) && order.Kind == "RETREAT" && order.Outcome == Outcome::Succeeded &&
-           model::FindProvince(map, order.Destination) != 0;
+    return IsFor(order, unit) && order.Kind == orders::OrderKind::Retreat &&
+           order.Outcome == Outcome::Succeeded && model::FindProvince(map, order.Destination) != 0;
   });
   return found == orders.end() ? nullptr : &*found;
 }
@@ -112,7 +114,8 @@ bool HasMoved(const Journey& journey) {
 }
 
 bool IsMovesStageOrder(const OrderOutcome& order) {
-  return order.Kind == "-" || order.Kind == "HOLD" || order.Kind == "S" || order.Kind == "C";
+  return order.Kind == orders::OrderKind::Move || order.Kind == orders::OrderKind::Hold ||
+         order.Kind == orders::OrderKind::Support || order.Kind == orders::OrderKind::Convoy;
 }
 
 std::vector<Journey> FindJourneys(const Map& map, const std::vector<UnitChange>& changes,

@@ -42,7 +42,7 @@ void CheckKnown(const GameState& game) {
 /// What the unit's row tells of the last season.
 UnitChange RecordedChange(const GameState& game, const Unit& unit) {
   UnitChange change{unit.Power, unit.UnitType, {}, unit.Location, false, IsDislodged(unit), false};
-  if (game.Stage == "moves") {
+  if (game.Stage == model::Stage::Moves) {
     change.From = unit.Location;
     change.DislodgedAtFirst = change.DislodgedAtLast;
     return change;
@@ -66,7 +66,8 @@ bool TellsOfUnit(const model::Map& map, const OrderOutcome& order,
   }
   return order.Outcome != Outcome::Void ||
          std::any_of(outcomes.begin(), outcomes.end(), [&](const OrderOutcome& other) {
-           return IsSameUnit(order, other) && (other.Kind == "RETREAT" || other.Kind == "DISBAND");
+           return IsSameUnit(order, other) && (other.Kind == orders::OrderKind::Retreat ||
+                                               other.Kind == orders::OrderKind::Disband);
          });
 }
 
@@ -91,15 +92,15 @@ void SortNewLast(std::vector<UnitChange>& changes) {
 
 /// The situation before the moves, as far as it is recorded.
 GameState StartOf(const GameState& game, const std::vector<UnitChange>& changes) {
-  if (game.Stage == "moves") return game;
+  if (game.Stage == model::Stage::Moves) return game;
   GameState start = game;
-  start.Stage = "moves";
+  start.Stage = model::Stage::Moves;
   model::RestoreOwners(start);
   start.Units.SetCount(0);
   for (const UnitChange& change : changes) {
     // With gone units and new ones there may have been more than fit into the table at one time.
     if (change.From.empty() || start.Units.Count() == model::UnitBound) continue;
-    start.Units.Append({change.Power, change.UnitType, change.From, {}, {}, {}, 0});
+    start.Units.Append({change.Power, change.UnitType, change.From, {}, {}, {}});
   }
   return start;
 }
@@ -108,9 +109,12 @@ GameState StartOf(const GameState& game, const std::vector<UnitChange>& changes)
 /// moves.
 std::vector<OrderOutcome> ListedOrders(const GameState& game) {
   std::vector<OrderOutcome> listed = orders::EnteredOrders(game);
+  const model::Map& map = *game.Map;
   std::erase_if(listed, [&](const OrderOutcome& order) {
-    return order.Kind == "-" && !orders::IsPossibleMove(*game.Map, order.UnitType, order.Location,
-                                                        order.Destination, order.ViaConvoy);
+    return order.Kind == orders::OrderKind::Move &&
+           !orders::IsPossibleMove(map, model::UnitTypeOf(order.UnitType),
+                                   model::FindProvince(map, order.Location),
+                                   model::FindProvince(map, order.Destination), order.ViaConvoy);
   });
   return listed;
 }
@@ -152,7 +156,7 @@ Replay SeasonReplay(const GameState& game, const std::vector<OrderOutcome>& outc
   for (const Unit& unit : game.Units) {
     if (IsDrawn(unit)) changes.push_back(RecordedChange(game, unit));
   }
-  if (game.Stage != "moves") AddGoneUnits(*game.Map, outcomes, changes);
+  if (game.Stage != model::Stage::Moves) AddGoneUnits(*game.Map, outcomes, changes);
   SortNewLast(changes);
   return {StartOf(game, changes), FindJourneys(*game.Map, changes, outcomes), game};
 }
@@ -160,7 +164,7 @@ Replay SeasonReplay(const GameState& game, const std::vector<OrderOutcome>& outc
 Replay ReplayBetween(const GameState& earlier, const GameState& later) {
   CheckKnown(earlier);
   CheckKnown(later);
-  const bool resolved = earlier.Stage == "moves" && SeasonsBetween(earlier, later) == 1;
+  const bool resolved = earlier.Stage == model::Stage::Moves && SeasonsBetween(earlier, later) == 1;
   const auto orders = resolved ? ListedOrders(earlier) : std::vector<OrderOutcome>();
   return {earlier, FindJourneys(*earlier.Map, ChangesBetween(earlier, later), orders), later};
 }

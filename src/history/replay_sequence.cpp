@@ -10,7 +10,7 @@ namespace {
 using model::GameState;
 
 bool IsBeforeMoves(const GameState& game) {
-  return game.Stage == "moves";
+  return game.Stage == model::Stage::Moves;
 }
 
 std::string SeasonName(std::string_view season, int year) {

@@ -53,7 +53,7 @@ void MatchThose(Matching& matching, Fits fits) {
 /// The number of the season whose start the previous locations tell, two a year.
 int RecordedSeason(const GameState& game) {
   const int season = game.Year * 2 + (game.Season == "Spring" ? 0 : 1);
-  return game.Stage == "moves" ? season - 1 : season;
+  return game.Stage == model::Stage::Moves ? season - 1 : season;
 }
 
 struct Pair {

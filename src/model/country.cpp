@@ -35,6 +35,10 @@ CountryTable FixedCountries() {
   return countries;
 }
 
+std::string_view PowerName(int row) {
+  return row == 0 ? std::string_view{} : Powers.at(static_cast<std::size_t>(row - 1)).Abbreviation;
+}
+
 int FindCountry(std::string_view abbreviation) {
   for (int i = 0; i < CountryCount; ++i) {
     if (Powers[static_cast<std::size_t>(i)].Abbreviation == abbreviation) return i + 1;

@@ -34,6 +34,9 @@ using CountryTable = Table<Country, CountryCount>;
 /// The seven powers in their fixed order with their default colours and no player names.
 CountryTable FixedCountries();
 
+/// The abbreviation of the power in row 1..7; empty for row 0.
+std::string_view PowerName(int row);
+
 /// Row 1..7 of the power with this abbreviation (exact, case-sensitive), or 0.
 int FindCountry(std::string_view abbreviation);
 

@@ -259,7 +259,8 @@ void Take(const Contents& contents, const Layout& layout, GameState& game) {
   game.Title = contents.Title;
   game.Season = contents.Season;
   game.Year = contents.Year;
-  game.Stage = contents.Stage;
+  game.Stage = StageOf(contents.Stage);
+  game.OtherStage = game.Stage == Stage::Other ? contents.Stage : std::string_view{};
   TakeUnits(contents, layout, game);
   TakeProvinces(contents, layout, game);
   game.OrdersList.assign(contents.Orders.begin(), contents.Orders.end());
@@ -285,7 +286,7 @@ std::string FormatGameFile(const GameState& game) {
   constexpr std::size_t usualSize = 4096;
   RecordWriter writer(usualSize);
   writer.Text(WrittenHeader).EndRecord();
-  writer.Text(game.Title).Text(game.Season).Number(game.Year).Text(game.Stage).EndRecord();
+  writer.Text(game.Title).Text(game.Season).Number(game.Year).Text(StageText(game)).EndRecord();
   writer.Number(game.Units.Count()).EndRecord();
   for (const Unit& unit : game.Units) {
     writer.Text(unit.Power).Text(unit.UnitType).Text(unit.Location);

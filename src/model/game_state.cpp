@@ -21,6 +21,10 @@ std::string Caption(const GameState& game) {
   return caption;
 }
 
+std::string_view StageText(const GameState& game) {
+  return game.Stage == Stage::Other ? std::string_view(game.OtherStage) : StageName(game.Stage);
+}
+
 void SetCentreOwnersFromUnits(GameState& game) {
   for (const Unit& unit : game.Units) {
     // A fleet on a coast holds the centre of the whole province, which the first three letters

@@ -2,6 +2,7 @@
 
 #include "model/country.h"
 #include "model/map.h"
+#include "model/stage.h"
 #include "model/table.h"
 
 #include <cstdint>
@@ -33,7 +34,6 @@ struct Unit {
   std::string Status;            ///< "dislodged" or empty
   std::string DislodgedFrom;     ///< where the dislodging attack came from
   std::string PreviousLocation;  ///< Location before the last moves; empty or "unknown": none
-  std::int16_t OrderIndex = 0;   ///< its order while a resolution runs; never saved
 
   bool operator==(const Unit&) const = default;
 };
@@ -45,7 +45,8 @@ struct GameState {
   std::string Title;
   std::string Season;
   std::int16_t Year = 0;
-  std::string Stage;  ///< "moves", "retreats", "adjustments" or "finished"
+  model::Stage Stage = Stage::Moves;
+  std::string OtherStage;                         ///< the file's text for Stage::Other
   Table<ProvinceState, ProvinceBound> Provinces;  ///< rows as in the map
   Table<Unit, UnitBound> Units;
   CountryTable Countries = FixedCountries();
@@ -66,6 +67,9 @@ GameState EmptyGame(std::shared_ptr<const Map> map);
 
 /// The window caption: ProgramName, followed by a blank and the title when the game has its own.
 std::string Caption(const GameState& game);
+
+/// The stage as files and reports have it.
+std::string_view StageText(const GameState& game);
 
 /// Every supply centre that holds a unit now belongs to that unit's power. Throws
 /// IndexOutOfRange for a unit whose province is not on the map.

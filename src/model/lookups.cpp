@@ -9,15 +9,13 @@
 namespace orb::model {
 namespace {
 
-using Row = std::array<std::int16_t, model::NeighbourBound>;
+using Row = std::array<std::int16_t, NeighbourBound>;
 
-/// The location's row in the table of the unit type; nothing for other types and locations.
-const Row* NeighbourRow(const model::Map& map, std::string_view unitType,
-                        std::string_view location) {
-  const int province = model::FindProvince(map, location);
-  if (province == 0 || (unitType != "A" && unitType != "F")) return nullptr;
-  const auto& table = unitType == "A" ? map.ArmyAdjacency : map.FleetAdjacency;
-  return &table[static_cast<std::size_t>(province - 1)];
+/// The neighbours of the location for the unit type; nothing for row 0 and no type.
+const Row* NeighbourRow(const Map& map, UnitType type, int row) {
+  if (row == 0 || type == UnitType::None) return nullptr;
+  const auto& table = type == UnitType::Army ? map.ArmyAdjacency : map.FleetAdjacency;
+  return &table[static_cast<std::size_t>(row - 1)];
 }
 
 template <class Matches>
@@ -52,22 +50,39 @@ int FindUnitAt(const model::GameState& game, std::string_view location) {
   return 0;
 }
 
-bool IsAdjacent(const model::Map& map, std::string_view unitType, std::string_view from,
+int FindUnitAt(const GameState& game, int row) {
+  return row == 0 ? 0 : FindUnitAt(game, LocationName(*game.Map, row));
+}
+
+bool IsAdjacent(const Map& map, UnitType type, int from, int to) {
+  return to != 0 && AnyNeighbour(NeighbourRow(map, type, from),
+                                 [to](int neighbour) { return neighbour == to; });
+}
+
+bool CanStandIn(const Map& map, UnitType type, int row) {
+  const Row* neighbours = NeighbourRow(map, type, row);
+  return neighbours != nullptr && neighbours->front() != 0;
+}
+
+bool CanSupportInto(const Map& map, UnitType type, int from, int target) {
+  return AnyNeighbour(NeighbourRow(map, type, from),
+                      [&](int neighbour) { return IsSamePlace(map, neighbour, target); });
+}
+
+bool IsAdjacent(const Map& map, std::string_view unitType, std::string_view from,
                 std::string_view to) {
-  const int destination = model::FindProvince(map, to);
-  return destination != 0 && AnyNeighbour(NeighbourRow(map, unitType, from),
-                                          [&](int neighbour) { return neighbour == destination; });
+  return IsAdjacent(map, UnitTypeOf(unitType), FindProvince(map, from), FindProvince(map, to));
 }
 
-bool CanStandIn(const model::Map& map, std::string_view unitType, std::string_view location) {
-  const Row* row = NeighbourRow(map, unitType, location);
-  return row != nullptr && row->front() != 0;
+bool CanStandIn(const Map& map, std::string_view unitType, std::string_view location) {
+  return CanStandIn(map, UnitTypeOf(unitType), FindProvince(map, location));
 }
 
-bool CanSupportInto(const model::Map& map, const model::Unit& unit, std::string_view target) {
-  const Row* row = NeighbourRow(map, unit.UnitType, unit.Location);
-  return AnyNeighbour(
-      row, [&](int neighbour) { return model::SamePlace(map.Provinces[neighbour].Name, target); });
+bool CanSupportInto(const Map& map, const Unit& unit, std::string_view target) {
+  const int from = FindProvince(map, unit.Location);
+  return AnyNeighbour(NeighbourRow(map, UnitTypeOf(unit.UnitType), from), [&](int neighbour) {
+    return SamePlace(map.Provinces[neighbour].Name, target);
+  });
 }
 
 }  // namespace orb::model

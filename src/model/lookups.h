@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/game_state.h"
+#include "model/unit_type.h"
 
 #include <string>
 #include <string_view>
@@ -29,5 +30,17 @@ bool CanStandIn(const model::Map& map, std::string_view unitType, std::string_vi
 
 /// Whether the unit can move into the target's province or any of its coasts.
 bool CanSupportInto(const model::Map& map, const model::Unit& unit, std::string_view target);
+
+// The same by rows of the map; row 0 is no location.
+
+int FindUnitAt(const GameState& game, int row);
+bool IsAdjacent(const Map& map, UnitType type, int from, int to);
+bool CanStandIn(const Map& map, UnitType type, int row);
+bool CanSupportInto(const Map& map, UnitType type, int from, int target);
+
+/// Whether two rows are the same place: a province and its coasts.
+inline bool IsSamePlace(const Map& map, int a, int b) {
+  return a != 0 && b != 0 && map.Places[a] == map.Places[b];
+}
 
 }  // namespace orb::model

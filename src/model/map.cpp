@@ -52,6 +52,11 @@ int FindProvince(const Map& map, std::string_view name) {
   return map.Names.Find(map.Provinces, name);
 }
 
+const std::string& LocationName(const Map& map, int row) {
+  static const std::string none;
+  return row == 0 ? none : map.Provinces[row].Name;
+}
+
 void FixNames(const Map& map, std::string& text) {
   for (const NameFix& fix : map.NameFixes) {
     const auto position = text.find(fix.From);

@@ -48,7 +48,7 @@ class NameIndex {
 /// The map that games are played on: loaded once, never changed by play.
 struct Map {
   Table<Province, ProvinceBound> Provinces;
-  Table<std::uint32_t, ProvinceBound> PlaceCodes;  ///< of the provinces' names; see PlaceCode
+  Table<std::int16_t, ProvinceBound> Places;  ///< the first row of the same place, for each row
   Adjacency ArmyAdjacency{};
   Adjacency FleetAdjacency{};
   Table<NameFix, NameFixBound> NameFixes;
@@ -58,6 +58,9 @@ struct Map {
 /// Row 1..count of the location with this abbreviation (exact, case-sensitive), or 0. A coast is
 /// found only under its own abbreviation.
 int FindProvince(const Map& map, std::string_view name);
+
+/// The abbreviation of the location in a row; empty for row 0.
+const std::string& LocationName(const Map& map, int row);
 
 /// Applies every name fix in order to the first place where its old text occurs: those three
 /// characters give way to the new abbreviation.

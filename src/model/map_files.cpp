@@ -51,6 +51,13 @@ std::string ReadNameFixes(const fs::path& file) {
   }
 }
 
+std::int16_t FirstRowOfPlace(const Map& map, std::string_view name) {
+  int row = 1;
+  while (!SamePlace(map.Provinces[row].Name, name))
+    ++row;
+  return static_cast<std::int16_t>(row);
+}
+
 }  // namespace
 
 void LoadNameFixes(std::string_view bytes, const std::string& fileName, Map& map) {
@@ -82,7 +89,7 @@ void LoadProvinces(std::string_view bytes, const std::string& fileName, Map& map
     province.UnitX = reader.Fraction("a unit's x");
     province.UnitY = reader.Fraction("a unit's y");
     province.FullName = reader.Text("a location's full name");
-    map.PlaceCodes.Append(PlaceCode(province.Name));
+    map.Places.Append(FirstRowOfPlace(map, province.Name));
     map.Names.Insert(map.Provinces, map.Provinces.Count());
   } while (!reader.AtEnd());
 }

@@ -27,7 +27,7 @@ void ReadSeason(GameState& game, RecordReader& reader) {
   game.Title = DefaultTitle;
   game.Season = reader.Text("a season");
   game.Year = reader.Number("a year");
-  game.Stage = "moves";
+  game.Stage = Stage::Moves;
 }
 
 void ReadUnits(GameState& game, RecordReader& reader) {

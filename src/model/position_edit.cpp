@@ -171,8 +171,7 @@ std::string ChangeProvince(GameState& game, int row, std::string_view owner, boo
     if (!fault.empty()) return fault;
   }
   for (int other = 1; other <= game.Map->Provinces.Count(); ++other) {
-    if (game.Map->PlaceCodes[other] == game.Map->PlaceCodes[row])
-      game.Provinces[other].Uncontested = !contested;
+    if (IsSamePlace(*game.Map, other, row)) game.Provinces[other].Uncontested = !contested;
   }
   return {};
 }

@@ -6,15 +6,9 @@
 #include <utility>
 
 namespace orb::model {
-namespace {
 
-constexpr std::array<std::string_view, 4> Stages = {"moves", "retreats", "adjustments", "finished"};
-
-}  // namespace
-
-bool StageIsBefore(std::string_view stage, std::string_view other) {
-  return std::find(Stages.begin(), Stages.end(), stage) <
-         std::find(Stages.begin(), Stages.end(), other);
+bool StageIsBefore(Stage stage, Stage other) {
+  return stage < other;
 }
 
 SeasonFacts SeasonFactsOf(const GameState& game) {

@@ -15,13 +15,13 @@ struct SeasonFacts {
   std::string Title;
   std::string Season;
   std::int16_t Year = 0;
-  std::string Stage;
+  model::Stage Stage = Stage::Moves;                  ///< Other: the one that the game has
   std::array<std::string, CountryCount> PlayerNames;  ///< in the order of the powers
   std::vector<std::string> TextLines;                 ///< at most 100
 };
 
 /// Whether a season comes to the first stage before the other.
-bool StageIsBefore(std::string_view stage, std::string_view other);
+bool StageIsBefore(Stage stage, Stage other);
 
 SeasonFacts SeasonFactsOf(const GameState& game);
 

@@ -53,7 +53,7 @@ void NextSeason(GameState& game) {
   } else {
     game.Season = "Autumn";
   }
-  game.Stage = "moves";
+  game.Stage = Stage::Moves;
   game.OrdersList.clear();
   game.TextLines.SetCount(0);
   game.ReportLines.SetCount(0);
@@ -70,7 +70,7 @@ void RestoreOwners(GameState& game) {
 }
 
 bool UndoSeason(GameState& game, Messages& messages) {
-  if (game.Stage == "finished" && game.Season == "Autumn") {
+  if (game.Stage == Stage::Finished && game.Season == "Autumn") {
     messages.Show("Original supply centre ownerships unknown;\rcan't undo.", Icon::None);
     return false;
   }
@@ -82,7 +82,7 @@ bool UndoSeason(GameState& game, Messages& messages) {
   }
   RestoreUnits(game);
   RestoreOwners(game);
-  game.Stage = "moves";
+  game.Stage = Stage::Moves;
   game.RetreatsList.clear();
   game.AdjustmentsList.clear();
   game.ReportLines.SetCount(0);

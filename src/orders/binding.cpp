@@ -1,142 +1,152 @@
 #include "orders/binding.h"
 
 #include "model/lookups.h"
-#include "model/place.h"
+#include "orders/chains.h"
 
-#include <array>
-#include <cstdint>
+#include <string>
 
 namespace orb::orders {
 namespace {
 
-using model::GameState;
-using model::Messages;
-using model::Unit;
+using model::Map;
 
-/// The place codes of a table's locations. Every order is held against every unit, and comparing
-/// these numbers first rules out nearly all of them at no cost.
-template <class Row, int Bound>
-std::array<std::uint32_t, Bound + 1> PlaceCodes(const model::Table<Row, Bound>& table) {
-  std::array<std::uint32_t, Bound + 1> codes{};
-  for (int i = 1; i <= table.Count(); ++i) {
-    codes[static_cast<std::size_t>(i)] = model::PlaceCode(table[i].Location);
-  }
-  return codes;
+/// Which orders are for a unit in each row of the map. Every order is held against the units, and
+/// every support against the orders; only those of one location can fit.
+using OrdersByLocation = Chains<model::ProvinceBound, OrderBound>;
+
+OrdersByLocation ByLocation(const OrderTable& orders) {
+  OrdersByLocation chains;
+  for (int k = orders.Count(); k >= 1; --k)
+    chains.Prepend(orders[k].Location, k);
+  return chains;
 }
 
-/// Whole texts are compared, so coasts must match.
-bool IsFor(const OrderLine& order, const Unit& unit) {
-  return order.Location == unit.Location && order.Power == unit.Power &&
-         order.UnitType == unit.UnitType;
+bool RejectWithWarning(OrderTable& orders, int k, OrderResult result, Questions& questions) {
+  Reject(orders[k], result);
+  return questions.GoOn(
+      k, model::WarningText(orders[k].Text, std::string(ResultWord(result)).append(".")));
 }
 
-bool RejectWithWarning(OrderLine& order, const std::string& result, Messages& messages) {
-  Reject(order, result);
-  return messages.Warn(model::WarningText(order.Text, result + "."));
-}
-
-bool FindUnitsOfOrders(const GameState& game, OrderTable& orders, Messages& messages) {
-  const auto places = PlaceCodes(game.Units);
-  for (OrderLine& order : orders) {
+bool FindUnitsOfOrders(const Pieces& pieces, OrderTable& orders, Questions& questions) {
+  Chains<model::ProvinceBound, model::UnitBound> units;
+  for (int u = pieces.Count(); u >= 1; --u)
+    units.Prepend(pieces[u].Location, u);
+  for (int k = 1; k <= orders.Count(); ++k) {
+    OrderLine& order = orders[k];
     if (!order.Active) continue;
     order.UnitIndex = 0;
-    const std::uint32_t place = model::PlaceCode(order.Location);
-    for (int u = 1; u <= game.Units.Count(); ++u) {
-      if (places[static_cast<std::size_t>(u)] != place) continue;
-      if (IsFor(order, game.Units[u])) order.UnitIndex = static_cast<std::int16_t>(u);
+    // Of several such units the last one is meant.
+    for (int u = units.First(order.Location); u != 0; u = units.Next(u)) {
+      if (pieces[u] == OrderedPiece(order)) order.UnitIndex = static_cast<std::int16_t>(u);
     }
-    if (order.UnitIndex == 0 && !RejectWithWarning(order, "no such unit", messages)) return false;
+    if (order.UnitIndex != 0) continue;
+    if (!RejectWithWarning(orders, k, OrderResult::NoSuchUnit, questions)) return false;
   }
   return true;
 }
 
-void AppendHold(const std::string& unitText, Unit& unit, int unitIndex, OrderTable& orders) {
-  OrderLine& order = orders.Append();
-  order.Text.assign(unitText).append(UnorderedHold);
-  order.Power = unit.Power;
-  order.UnitType = unit.UnitType;
-  order.Location = unit.Location;
-  order.Kind = "HOLD";
-  order.Active = true;
-  order.UnitIndex = static_cast<std::int16_t>(unitIndex);
-  unit.OrderIndex = static_cast<std::int16_t>(orders.Count());
+/// The last order for a unit, a rejected one or one that was supplied for its like included; 0:
+/// none.
+int OrderFor(const Piece& piece, const OrderTable& orders, const OrdersByLocation& written,
+             int writtenCount) {
+  for (int k = orders.Count(); k > writtenCount; --k) {
+    if (OrderedPiece(orders[k]) == piece) return k;
+  }
+  int last = 0;
+  for (int k = written.First(piece.Location); k != 0; k = written.Next(k)) {
+    if (OrderedPiece(orders[k]) == piece) last = k;
+  }
+  return last;
 }
 
-bool FindOrdersOfUnits(GameState& game, OrderTable& orders, Messages& messages) {
+bool FindOrdersOfUnits(const Map& map, const Pieces& pieces, OrderTable& orders,
+                       OrdersOfUnits& ordersOfUnits, Questions& questions) {
+  const OrdersByLocation written = ByLocation(orders);
+  const int writtenCount = orders.Count();
   model::Answer answer = model::Answer::Yes;
-  auto places = PlaceCodes(orders);
-  for (int u = 1; u <= game.Units.Count(); ++u) {
-    Unit& unit = game.Units[u];
-    unit.OrderIndex = 0;
-    const std::uint32_t place = model::PlaceCode(unit.Location);
-    for (int k = 1; k <= orders.Count(); ++k) {
-      if (places[static_cast<std::size_t>(k)] != place) continue;
-      if (IsFor(orders[k], unit)) unit.OrderIndex = static_cast<std::int16_t>(k);
-    }
-    if (unit.OrderIndex != 0) continue;
-    const std::string unitText = UnitText(unit);
-    AppendHold(unitText, unit, u, orders);
-    places[static_cast<std::size_t>(orders.Count())] = place;
+  ordersOfUnits.SetCount(pieces.Count());
+  for (int u = 1; u <= pieces.Count(); ++u) {
+    ordersOfUnits[u] =
+        static_cast<std::int16_t>(OrderFor(pieces[u], orders, written, writtenCount));
+    if (ordersOfUnits[u] != 0) continue;
+    const OrderLine& hold =
+        SupplyOrder(map, pieces[u], u, OrderKind::Hold, " unordered; hold", orders);
+    ordersOfUnits[u] = static_cast<std::int16_t>(orders.Count());
     if (answer == model::Answer::YesToAll) continue;
-    answer = messages.Ask(model::WarningText(unitText + " unordered."));
+    answer = questions.Messages().Ask(model::WarningText(UnitName(map, hold) + " unordered."));
     if (answer == model::Answer::No) return false;
   }
   return true;
 }
 
+/// Links a support or convoy to an order of the unit that it describes, if it describes what that
+/// order does; a support to hold fits every unit that does not move.
 void LinkTo(OrderLine& order, OrderLine& other, int otherIndex) {
   if (order.Target2 == other.Target && order.Kind2 == other.Kind) {
     order.LinkedOrder = static_cast<std::int16_t>(otherIndex);
     if (IsConvoy(order)) other.ViaConvoy = true;
-  } else if (!IsMove(other) && IsSupport(order) && order.Kind2 == "HOLD") {
+  } else if (!IsMove(other) && IsSupport(order) && order.Kind2 == OrderKind::Hold) {
     order.LinkedOrder = static_cast<std::int16_t>(otherIndex);
   }
 }
 
 void LinkOrders(OrderTable& orders) {
+  const OrdersByLocation all = ByLocation(orders);
   for (OrderLine& order : orders) {
     order.LinkedOrder = 0;
     if (!order.Active || !(IsSupport(order) || IsConvoy(order))) continue;
-    for (int t = 1; t <= orders.Count(); ++t) {
+    for (int t = all.First(order.Target); t != 0; t = all.Next(t)) {
       if (RefersTo(order, orders[t])) LinkTo(order, orders[t], t);
     }
-    if (order.LinkedOrder == 0) Reject(order, "not used");
+    if (order.LinkedOrder == 0) Reject(order, OrderResult::NotUsed);
   }
 }
 
 }  // namespace
 
-bool IsPossibleMove(const model::Map& map, std::string_view unitType, std::string_view from,
-                    std::string_view to, bool viaConvoy) {
-  return CanStandIn(map, unitType, to) && (viaConvoy || IsAdjacent(map, unitType, from, to));
+OrderLine& SupplyOrder(const Map& map, const Piece& piece, int unit, OrderKind kind,
+                       std::string_view verb, OrderTable& orders) {
+  OrderLine& order = AppendOrder(orders);
+  order.Power = piece.Power;
+  order.UnitType = piece.UnitType;
+  order.Location = piece.Location;
+  order.Kind = kind;
+  order.Supplied = true;
+  order.Active = true;
+  order.UnitIndex = static_cast<std::int16_t>(unit);
+  order.Text = UnitName(map, order).append(verb);
+  return order;
 }
 
-bool RefersTo(const OrderLine& order, const OrderLine& other) {
-  return model::SamePlace(order.Target, other.Location) && order.Target == other.Location &&
-         order.Power2 == other.Power && order.UnitType2 == other.UnitType;
+bool IsPossibleMove(const Map& map, model::UnitType unitType, int from, int to, bool viaConvoy) {
+  return model::CanStandIn(map, unitType, to) &&
+         (viaConvoy || model::IsAdjacent(map, unitType, from, to));
 }
 
-bool BindOrdersToUnits(GameState& game, OrderTable& orders, Messages& messages) {
-  if (!FindUnitsOfOrders(game, orders, messages)) return false;
-  if (!FindOrdersOfUnits(game, orders, messages)) return false;
+bool BindOrdersToUnits(const Map& map, const Pieces& pieces, OrderTable& orders,
+                       OrdersOfUnits& ordersOfUnits, Questions& questions) {
+  if (!FindUnitsOfOrders(pieces, orders, questions)) return false;
+  if (!FindOrdersOfUnits(map, pieces, orders, ordersOfUnits, questions)) return false;
   for (OrderLine& order : orders)
     order.ViaConvoy = false;
   LinkOrders(orders);
   return true;
 }
 
-bool CheckImpossibleOrders(const GameState& game, OrderTable& orders, Messages& messages) {
-  const model::Map& map = *game.Map;
-  for (OrderLine& order : orders) {
+bool CheckImpossibleOrders(const Map& map, OrderTable& orders, Questions& questions) {
+  for (int k = 1; k <= orders.Count(); ++k) {
+    const OrderLine& order = orders[k];
     if (!order.Active || !IsMove(order)) continue;
-    const Unit& unit = game.Units[order.UnitIndex];
-    if (IsPossibleMove(map, unit.UnitType, unit.Location, order.Target, order.ViaConvoy)) continue;
-    if (!RejectWithWarning(order, "impossible move", messages)) return false;
+    if (IsPossibleMove(map, order.UnitType, order.Location, order.Target, order.ViaConvoy))
+      continue;
+    if (!RejectWithWarning(orders, k, OrderResult::ImpossibleMove, questions)) return false;
   }
-  for (OrderLine& order : orders) {
+  for (int k = 1; k <= orders.Count(); ++k) {
+    const OrderLine& order = orders[k];
     if (!order.Active || !IsSupport(order)) continue;
-    if (CanSupportInto(map, game.Units[order.UnitIndex], SupportedPlace(order))) continue;
-    if (!RejectWithWarning(order, "impossible support", messages)) return false;
+    const int target = SupportedPlace(order);
+    if (model::CanSupportInto(map, order.UnitType, order.Location, target)) continue;
+    if (!RejectWithWarning(orders, k, OrderResult::ImpossibleSupport, questions)) return false;
   }
   return true;
 }

@@ -7,10 +7,10 @@ namespace {
 
 using List = std::vector<std::string>;
 
-List model::GameState::*ListOf(std::string_view stage) {
-  if (stage == "retreats") return &model::GameState::RetreatsList;
-  return stage == "adjustments" ? &model::GameState::AdjustmentsList
-                                : &model::GameState::OrdersList;
+List model::GameState::*ListOf(model::Stage stage) {
+  if (stage == model::Stage::Retreats) return &model::GameState::RetreatsList;
+  return stage == model::Stage::Adjustments ? &model::GameState::AdjustmentsList
+                                            : &model::GameState::OrdersList;
 }
 
 }  // namespace

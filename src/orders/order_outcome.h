@@ -20,9 +20,9 @@ enum class Outcome : std::uint8_t {
 /// Locations are whole abbreviations, coast included.
 struct OrderOutcome {
   std::string Power;
-  std::string UnitType;       ///< "A" or "F"
-  std::string Location;       ///< of the unit when it was ordered; of a build
-  std::string Kind;           ///< "-", "HOLD", "S", "C", "RETREAT", "DISBAND" or "BUILD"
+  std::string UnitType;  ///< "A" or "F"
+  std::string Location;  ///< of the unit when it was ordered; of a build
+  OrderKind Kind = OrderKind::None;
   std::string OtherLocation;  ///< of the supported or convoyed unit; else empty
   std::string Destination;    ///< of the move, also the supported or convoyed one; else empty
   bool ViaConvoy = false;     ///< the move is carried by a fleet
@@ -32,7 +32,7 @@ struct OrderOutcome {
   bool operator==(const OrderOutcome&) const = default;
 };
 
-/// What an order says, with the given outcome; what could not be read stays as it was cut.
-OrderOutcome OutcomeOf(const OrderLine& order, Outcome outcome);
+/// What an order says, with the given outcome; what could not be read is empty.
+OrderOutcome OutcomeOf(const model::Map& map, const OrderLine& order, Outcome outcome);
 
 }  // namespace orb::orders

@@ -72,10 +72,10 @@ void DrawLabelsAndCentres(Surface& surface, const GameState& game,
   }
 }
 
-std::string_view StageCaption(std::string_view stage) {
-  if (stage == "moves") return "before moves";
-  if (stage == "retreats") return "before retreats";
-  if (stage == "adjustments") return "before adjustments";
+std::string_view StageCaption(model::Stage stage) {
+  if (stage == model::Stage::Moves) return "before moves";
+  if (stage == model::Stage::Retreats) return "before retreats";
+  if (stage == model::Stage::Adjustments) return "before adjustments";
   return "end";
 }
 
@@ -117,7 +117,7 @@ const Unit* FindAttacker(const GameState& game, const Unit& dislodged) {
 /// Whether the attack is drawn as an order.
 bool IsAmong(const Orders& orders, const Unit& dislodged) {
   return std::ranges::any_of(orders, [&dislodged](const orders::OrderOutcome& order) {
-    return order.Kind == "-" && order.Outcome == orders::Outcome::Succeeded &&
+    return order.Kind == orders::OrderKind::Move && order.Outcome == orders::Outcome::Succeeded &&
            order.Location == dislodged.DislodgedFrom &&
            model::SamePlace(order.Destination, dislodged.Location);
   });
@@ -177,7 +177,7 @@ std::string CountText(const GameState& game, std::string_view power) {
   const int centres = CountCentres(game, power);
   std::string text = std::to_string(centres);
   const int surplus = centres - CountUnits(game, power);
-  if (game.Stage != "adjustments" || surplus == 0) return text;
+  if (game.Stage != model::Stage::Adjustments || surplus == 0) return text;
   return text.append(surplus > 0 ? "(+" : "(").append(std::to_string(surplus)).append(")");
 }
 
@@ -202,7 +202,7 @@ void DrawPlainLegend(Surface& surface, const GameState& game) {
 void DrawColourLegend(Surface& surface, const GameState& game) {
   const double letter = surface.TextWidth("O");
   const double height = surface.TextHeight("O");
-  const double width = (game.Stage == "adjustments" ? 4.5 : 2.5) * letter;
+  const double width = (game.Stage == model::Stage::Adjustments ? 4.5 : 2.5) * letter;
   const double left = surface.ScaleWidth() - width;
   SetPens(surface);
   for (int power = 1; power <= model::CountryCount; ++power) {
@@ -231,7 +231,7 @@ void DrawGround(const GameState& game, const settings::MapOptions& options,
   SetFont(surface);
   DrawLabelsAndCentres(surface, game, options);
   DrawCaptions(surface, game);
-  if (game.Stage == "retreats") {
+  if (game.Stage == model::Stage::Retreats) {
     DrawStandoffMarkers(surface, game);
     DrawAttackLines(surface, game, options.Mode, orders);
   }

@@ -58,7 +58,7 @@ class Artist {
     const OrderPen pen = Pen(route, outcome == Outcome::Void ? OtherWidth : MoveWidth);
     const Path& line = route.Way.Line;
     const double end = LengthOf(line);
-    const bool retreats = route.Order->Kind == "RETREAT";
+    const bool retreats = route.Order->Kind == orders::OrderKind::Retreat;
     const LineForm form = FormFor(outcome, retreats ? LineForm::LongDashes : LineForm::Solid);
     // The blunt end of the line stays below the head's triangle.
     const double neck = GoesThrough(outcome) ? end - 0.7 * HeadLength : end;
@@ -173,12 +173,13 @@ class Artist {
 /// A unit that stays: it was told to, or was told to go or give support to where it stands.
 bool IsRing(const OrderRoute& route) {
   const OrderOutcome& order = *route.Order;
-  if (order.Kind == "HOLD") return !order.Unordered || !GoesThrough(order.Outcome);
-  return route.Way.Line.empty() && (order.Kind == "-" || order.Kind == "S");
+  if (order.Kind == orders::OrderKind::Hold) return !order.Unordered || !GoesThrough(order.Outcome);
+  return route.Way.Line.empty() &&
+         (order.Kind == orders::OrderKind::Move || order.Kind == orders::OrderKind::Support);
 }
 
 bool IsSupportLine(const OrderRoute& route) {
-  return route.Order->Kind == "S" && !route.Way.Line.empty();
+  return route.Order->Kind == orders::OrderKind::Support && !route.Way.Line.empty();
 }
 
 }  // namespace
@@ -193,7 +194,7 @@ void DrawOrdersBelowUnits(Surface& surface, const model::GameState& game,
   });
   for (const OrderRoute& route : sorted) {
     if (IsRing(route)) artist.DrawRing(route);
-    if (route.Order->Kind == "C") artist.DrawConvoy(route);
+    if (route.Order->Kind == orders::OrderKind::Convoy) artist.DrawConvoy(route);
     if (IsSupportLine(route)) artist.DrawSupport(route);
   }
   for (const OrderRoute& route : sorted) {
@@ -208,8 +209,8 @@ void DrawOrdersAboveUnits(Surface& surface, const model::GameState& game,
                           std::span<const OrderRoute> routes, settings::MapMode mode) {
   const Artist artist(surface, game, mode);
   for (const OrderRoute& route : routes) {
-    if (route.Order->Kind == "DISBAND") artist.DrawDisband(route);
-    if (route.Order->Kind == "BUILD") artist.DrawBuild(route);
+    if (route.Order->Kind == orders::OrderKind::Disband) artist.DrawDisband(route);
+    if (route.Order->Kind == orders::OrderKind::Build) artist.DrawBuild(route);
   }
 }
 

@@ -17,6 +17,7 @@ namespace orb::render {
 namespace {
 
 using model::SamePlace;
+using orders::OrderKind;
 using orders::OrderOutcome;
 using orders::Outcome;
 
@@ -52,31 +53,31 @@ constexpr std::array<Approach, 14> Approaches = {{{0, LabelReach},
                                                   {75, LabelReach}}};
 
 bool IsMove(const OrderOutcome& order) {
-  return order.Kind == "-";
+  return order.Kind == OrderKind::Move;
 }
 
 bool SupportsMove(const OrderOutcome& order) {
-  return order.Kind == "S" && !order.Destination.empty();
+  return order.Kind == OrderKind::Support && !order.Destination.empty();
 }
 
 bool CanBeDrawn(const model::Map& map, const OrderOutcome& order) {
   const auto known = [&map](const std::string& place) {
     return model::FindProvince(map, place) != 0;
   };
-  const auto isOneOf = [&order](std::initializer_list<std::string_view> kinds) {
+  const auto isOneOf = [&order](std::initializer_list<OrderKind> kinds) {
     return std::ranges::find(kinds, order.Kind) != kinds.end();
   };
   if (model::FindCountry(order.Power) == 0 || !known(order.Location)) return false;
-  if (isOneOf({"HOLD", "DISBAND", "BUILD"})) return true;
-  if (isOneOf({"-", "RETREAT"})) return known(order.Destination);
-  if (order.Kind == "C" || SupportsMove(order)) {
+  if (isOneOf({OrderKind::Hold, OrderKind::Disband, OrderKind::Build})) return true;
+  if (isOneOf({OrderKind::Move, OrderKind::Retreat})) return known(order.Destination);
+  if (order.Kind == OrderKind::Convoy || SupportsMove(order)) {
     return known(order.OtherLocation) && known(order.Destination);
   }
-  return order.Kind == "S" && known(order.OtherLocation);
+  return order.Kind == OrderKind::Support && known(order.OtherLocation);
 }
 
 const std::string& EndOf(const OrderOutcome& order) {
-  return order.Kind == "S" ? order.OtherLocation : order.Destination;
+  return order.Kind == OrderKind::Support ? order.OtherLocation : order.Destination;
 }
 
 /// Where supports end on a move, as a part of what is seen of it: near its head, since those who
@@ -95,15 +96,15 @@ class Router {
   void FindWays() {
     for (OrderRoute& route : routes_) {
       const OrderOutcome& order = *route.Order;
-      const auto at = order.Kind == "RETREAT" ? LabelPoint : UnitPoint;
+      const auto at = order.Kind == OrderKind::Retreat ? LabelPoint : UnitPoint;
       route.Unit = OnSurface(surface_, at(model::PlaceOf(map_, order.Location)));
       if (!GoesToUnit(order)) continue;
       const bool hasOpposite = HasOpposite(order);
-      const double endLength = order.Kind == "S" ? EndDotRadius : HeadLength;
+      const double endLength = order.Kind == OrderKind::Support ? EndDotRadius : HeadLength;
       route.Way = WayThrough(StopsOf(route, hasOpposite), endLength, hasOpposite);
     }
     for (OrderRoute& route : routes_) {
-      if (route.Order->Kind == "C") FindConvoy(route);
+      if (route.Order->Kind == OrderKind::Convoy) FindConvoy(route);
       if (SupportsMove(*route.Order)) FindSupport(route);
       if (!route.Way.Line.empty()) FindMark(route);
     }
@@ -116,7 +117,8 @@ class Router {
 
   /// Orders that lead from a place to itself have no line.
   static bool GoesToUnit(const OrderOutcome& order) {
-    return (IsMove(order) || order.Kind == "RETREAT" || order.Kind == "S") &&
+    return (IsMove(order) || order.Kind == OrderKind::Retreat ||
+            order.Kind == OrderKind::Support) &&
            !SupportsMove(order) && EndOf(order) != order.Location;
   }
 
@@ -205,7 +207,7 @@ class Router {
   }
 
   void FindMark(OrderRoute& route) const {
-    route.Mark = route.Order->Kind == "S"
+    route.Mark = route.Order->Kind == OrderKind::Support
                      ? FreeAt(route.Way, 0.5, {0, -0.1, 0.1, -0.2, 0.2})
                      : FreeAt(route.Way, SupportedPart(route.Way) + 0.17, {0, 0.08, -0.3, -0.4});
   }

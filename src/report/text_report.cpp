@@ -160,7 +160,7 @@ Section SupplyCentres(const GameState& game) {
 
 Section AdjustmentsDue(const GameState& game) {
   Section section("Adjustments due");
-  if (game.Stage != "adjustments") return section;
+  if (game.Stage != model::Stage::Adjustments) return section;
   for (const model::Country& country : game.Countries) {
     int centres = 0;
     int units = 0;
@@ -195,7 +195,8 @@ std::string TextReport(const GameState& game) {
   std::string report;
   AddWrapped(game.Title, 0, report);
   report.append(std::min(game.Title.size(), TextReportWidth), '=').append("\n");
-  AddWrapped(game.Season + " " + std::to_string(game.Year) + ", " + game.Stage, 0, report);
+  AddWrapped(game.Season + " " + std::to_string(game.Year) + ", " + std::string(StageText(game)), 0,
+             report);
   for (const Section& section :
        {Report(game), Units(game), DislodgedUnits(game), SupplyCentres(game), AdjustmentsDue(game),
         Players(game), FreeText(game)}) {

@@ -13,8 +13,8 @@ bool SameRows(const auto& a, const auto& b) {
 }
 
 bool SameSeason(const GameState& a, const GameState& b) {
-  return std::tie(a.Title, a.Season, a.Year, a.Stage) ==
-             std::tie(b.Title, b.Season, b.Year, b.Stage) &&
+  return std::tie(a.Title, a.Season, a.Year, a.Stage, a.OtherStage) ==
+             std::tie(b.Title, b.Season, b.Year, b.Stage, b.OtherStage) &&
          SameRows(a.TextLines, b.TextLines);
 }
 

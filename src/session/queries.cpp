@@ -7,7 +7,7 @@
 namespace orb::session {
 
 bool TakesOrders(const model::GameState& game) {
-  return game.Stage == "moves" || game.Stage == "retreats" || game.Stage == "adjustments";
+  return HasOrders(game.Stage);
 }
 
 bool HasOrders(const model::GameState& game) {
@@ -17,13 +17,14 @@ bool HasOrders(const model::GameState& game) {
 adjudication::ListCheck CheckOrders(const Situation& situation) {
   const model::GameState& game = situation.Game;
   if (!TakesOrders(game)) {
-    throw model::FatalError("There are no orders to check in the stage \"" + game.Stage + "\".");
+    throw model::FatalError("There are no orders to check in the stage \"" +
+                            std::string(StageText(game)) + "\".");
   }
   return adjudication::CheckList(game);
 }
 
 void ExpectOrdersToDraw(const Situation& situation) {
-  if (situation.Game.Stage == "finished") {
+  if (situation.Game.Stage == model::Stage::Finished) {
     throw model::FatalError("There are no orders to draw in the stage \"finished\".");
   }
 }

@@ -38,50 +38,17 @@ void AddOutcomes(const adjudication::Resolution& resolution, Situation& situatio
   situation.Outcomes.insert(situation.Outcomes.end(), outcomes.begin(), outcomes.end());
 }
 
-/// Hands messages on and keeps the last warning that was answered No.
-class DeclinedWarning : public model::Messages {
- public:
-  explicit DeclinedWarning(model::Messages& messages) : messages_(messages) {}
-
-  bool Warn(const std::string& text) override {
-    const bool goesOn = messages_.Warn(text);
-    if (!goesOn) text_ = text;
-    return goesOn;
-  }
-  model::Answer Ask(const std::string& text) override { return messages_.Ask(text); }
-  void Show(const std::string& text, model::Icon icon) override { messages_.Show(text, icon); }
-
-  /// Whether it was about this order, or, of two that clash, the latter.
-  bool IsAbout(const orders::OrderLine& order) const {
-    return text_.starts_with("Warning: " + order.Text + "\r") ||
-           text_.find(" clashes with " + order.Text + "\r") != std::string::npos;
-  }
-
- private:
-  model::Messages& messages_;
-  std::string text_;
-};
-
-/// Of equal lines the last one that was judged is meant.
-std::optional<StoppedLine> FindStoppedLine(const adjudication::Resolution& resolution,
-                                           const DeclinedWarning& declined) {
-  if (resolution.Completed) return {};
-  for (int k = resolution.Orders.Count(); k >= 1; --k) {
-    const orders::OrderLine& order = resolution.Orders[k];
-    if (order.Failed && declined.IsAbout(order)) return StoppedLine{k - 1, order.Result};
-  }
-  return {};
-}
-
 }  // namespace
 
 bool Resolve(Situation& situation, model::Messages& messages, Noting noting) {
-  DeclinedWarning asked(messages);
   const adjudication::Resolution resolution =
-      adjudication::ResolveStageInPlace(situation.Game, asked);
-  situation.Stopped = FindStoppedLine(resolution, asked);
+      adjudication::ResolveStageInPlace(situation.Game, messages);
+  situation.Stopped.reset();
+  if (const int k = resolution.StoppedAt; k != 0) {
+    situation.Stopped = StoppedLine{k - 1, resolution.Orders[k].Result};
+  }
   if (!resolution.Completed) return false;
-  if (resolution.Stage == adjudication::ResolvedStage::Moves) {
+  if (resolution.Stage == model::Stage::Moves) {
     situation.Notes.clear();
     situation.Outcomes.clear();
   }

@@ -6,16 +6,15 @@
 namespace orb::session {
 
 void NextSeason(Situation& situation) {
-  const std::string& stage = situation.Game.Stage;
-  if (stage != "finished") {
-    throw model::FatalError("The season is not finished: the game is in the stage \"" + stage +
-                            "\".");
+  if (situation.Game.Stage != model::Stage::Finished) {
+    throw model::FatalError("The season is not finished: the game is in the stage \"" +
+                            std::string(StageText(situation.Game)) + "\".");
   }
   model::NextSeason(situation.Game);
 }
 
 bool UndoSeason(Situation& situation, model::Messages& messages) {
-  if (situation.Game.Stage == "moves") {
+  if (situation.Game.Stage == model::Stage::Moves) {
     throw model::FatalError("There is nothing to take back: the season is at its start.");
   }
   if (!model::UndoSeason(situation.Game, messages)) return false;

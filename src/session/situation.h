@@ -3,6 +3,7 @@
 #include "model/edit_history.h"
 #include "model/game_state.h"
 #include "orders/order_outcome.h"
+#include "orders/order_result.h"
 
 #include <cstdint>
 #include <optional>
@@ -22,8 +23,8 @@ struct ReportNote {
 
 /// The line of the stage's list at which a resolution was abandoned.
 struct StoppedLine {
-  int Row = 0;         ///< counted from 0
-  std::string Result;  ///< the order's result words
+  int Row = 0;  ///< counted from 0
+  orders::OrderResult Result = orders::OrderResult::None;
 
   bool operator==(const StoppedLine&) const = default;
 };

@@ -12,10 +12,14 @@ std::string_view Trim(std::string_view text) {
 
 std::string UpperCase(std::string_view text) {
   std::string upper(text);
-  for (char& c : upper) {
+  MakeUpperCase(upper);
+  return upper;
+}
+
+void MakeUpperCase(std::span<char> text) {
+  for (char& c : text) {
     if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
   }
-  return upper;
 }
 
 std::string LowerCase(std::string_view text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,9 @@ std::string_view Trim(std::string_view text);
 
 /// The text with a to z made capitals; every other byte stays.
 std::string UpperCase(std::string_view text);
+
+/// Makes a to z capitals where they stand.
+void MakeUpperCase(std::span<char> text);
 
 /// The text with A to Z made small; every other byte stays.
 std::string LowerCase(std::string_view text);

@@ -89,7 +89,7 @@ void RunCase(const DrawnCase& drawn, Trial& trial) {
     EXPECT_THAT(Lines(game.ReportLines), ElementsAreArray(trial.Report));
   }
   EXPECT_EQ(DrawUnits(game), DrawUnits(trial.After));
-  EXPECT_EQ(game.Stage, drawn.Note("stage", trial.After.Stage));
+  EXPECT_EQ(StageText(game), drawn.Note("stage", std::string(StageText(trial.After))));
   if (drawn.Has("contested")) {
     EXPECT_THAT(Words(ContestedPlaces(game)),
                 UnorderedElementsAreArray(Words(drawn.Note("contested"))));
@@ -98,7 +98,7 @@ void RunCase(const DrawnCase& drawn, Trial& trial) {
     EXPECT_EQ(OwnedCentres(game), drawn.Note("owners"));
   }
   for (std::size_t k = 0; k < trial.Results.size(); ++k) {
-    EXPECT_EQ(resolution.Orders[static_cast<int>(k) + 1].Result, trial.Results[k])
+    EXPECT_EQ(ResultWord(resolution.Orders[static_cast<int>(k) + 1].Result), trial.Results[k])
         << resolution.Orders[static_cast<int>(k) + 1].Text;
   }
 }
@@ -125,7 +125,7 @@ Trial DrawMoves(const DrawnCase& drawn) {
     const DrawnOrder order = ReadReportLine(line);
     trial.Report.push_back(MoveReportLine(order));
     PlaceUnit(trial, order);
-    if (order.Result == model::Dislodged) trial.After.Stage = "retreats";
+    if (order.Result == model::Dislodged) trial.After.Stage = model::Stage::Retreats;
     if (!order.Text.ends_with(" unordered; hold")) trial.Before.OrdersList.push_back(order.Text);
   }
   if (drawn.Has("board")) {
@@ -194,7 +194,7 @@ Trial DrawAdjustments(const DrawnCase& drawn) {
   }
   for (const std::string& note : drawn.Texts("centres"))
     Own(trial.Before, note);
-  trial.After.Stage = "finished";
+  trial.After.Stage = model::Stage::Finished;
   for (const std::string& unit : drawn.Texts("after"))
     AddDrawnUnit(trial.After, unit);
   return trial;

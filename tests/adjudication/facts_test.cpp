@@ -25,7 +25,7 @@ std::string Explained(const model::GameState& game, const Resolution& resolution
   while (k > 0 && resolution.Orders[k].Text != order)
     --k;
   EXPECT_EQ(k == 0, order == "ADJUSTMENTS") << order;
-  return order + " = " + adjudication::ExplainOrder(game, resolution, k);
+  return order + " = " + Sentence(adjudication::ExplainOrder(game, resolution, k));
 }
 
 std::string Participants(const model::GameState& game, const Resolution& resolution) {

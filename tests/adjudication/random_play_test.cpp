@@ -27,6 +27,7 @@ using adjudication::Resolution;
 using model::GameState;
 using model::Unit;
 using orders::OrderLine;
+using orders::OrderResult;
 
 /// Makes up positions and orders, the same ones for the same seed.
 class Player {
@@ -141,28 +142,31 @@ class Player {
 template <class Test>
 bool AnyMove(const Resolution& resolution, Test test) {
   return std::any_of(resolution.Orders.begin(), resolution.Orders.end(),
-                     [&](const OrderLine& o) { return o.Active && o.Kind == "-" && test(o); });
+                     [&](const OrderLine& o) { return o.Active && orders::IsMove(o) && test(o); });
 }
 
 void CheckMovedUnit(const Resolution& resolution, const GameState& before, const GameState& after,
                     int u) {
   const Unit& old = before.Units[u];
   const Unit& unit = after.Units[u];
+  const model::Map& map = *after.Map;
   SCOPED_TRACE(model::UnitText(old) + " now in " + unit.Location + " <" + unit.DislodgedFrom);
   EXPECT_EQ(unit.Power + unit.UnitType + unit.PreviousLocation,
             old.Power + old.UnitType + old.Location);
   EXPECT_TRUE(model::CanStandIn(*after.Map, unit.UnitType, unit.Location));
   EXPECT_TRUE(unit.Location == old.Location || AnyMove(resolution, [&](const OrderLine& o) {
-                return !o.Failed && o.UnitIndex == u && o.Target == unit.Location;
+                return !o.Failed && o.UnitIndex == u &&
+                       model::LocationName(map, o.Target) == unit.Location;
               }));
   const bool dislodged = unit.Status == model::Dislodged;
   const bool entered = AnyMove(resolution, [&](const OrderLine& o) {
-    return !o.Failed && model::SamePlace(o.Target, old.Location) &&
-           o.Location == unit.DislodgedFrom;
+    return !o.Failed && model::SamePlace(model::LocationName(map, o.Target), old.Location) &&
+           model::LocationName(map, o.Location) == unit.DislodgedFrom;
   });
   // A retreat leaves DislodgedFrom standing, so only a dislodged unit's tells of this season.
   EXPECT_TRUE(dislodged ? entered : unit.DislodgedFrom == old.DislodgedFrom);
-  EXPECT_EQ(dislodged, resolution.Orders[unit.OrderIndex].Result == model::Dislodged);
+  EXPECT_EQ(dislodged,
+            resolution.Orders[resolution.OrdersOfUnits[u]].Result == OrderResult::Dislodged);
 }
 
 /// Units that were not dislodged stand in places of their own. Rules that count a support twice
@@ -193,14 +197,15 @@ void CheckMoves(const Resolution& resolution, const GameState& before, const Gam
   const bool dislodged = std::any_of(after.Units.begin(), after.Units.end(), [](const Unit& unit) {
     return unit.Status == model::Dislodged;
   });
-  EXPECT_EQ(after.Stage, dislodged                   ? "retreats"
-                         : before.Season == "Spring" ? "finished"
-                                                     : "adjustments");
+  EXPECT_EQ(after.Stage, dislodged                   ? model::Stage::Retreats
+                         : before.Season == "Spring" ? model::Stage::Finished
+                                                     : model::Stage::Adjustments);
   for (int p = 1; p <= before.Provinces.Count(); ++p) {
     const std::string& place = after.Map->Provinces[p].Name;
     EXPECT_TRUE(
         after.Provinces[p].Uncontested ||
-        AnyMove(resolution, [&](const OrderLine& o) { return model::SamePlace(o.Target, place); }))
+        AnyMove(resolution,
+                [&](const OrderLine& o) { return model::IsSamePlace(*after.Map, o.Target, p); }))
         << place;
     EXPECT_EQ(after.Provinces[p].PreviousOwner, before.Provinces[p].Owner);
   }
@@ -223,13 +228,14 @@ void CheckRetreats(const GameState& before, const GameState& after) {
     EXPECT_TRUE(model::IsAdjacent(*before.Map, old.UnitType, old.Location, unit.Location));
   }
   EXPECT_EQ(next, after.Units.Count() + 1);
-  EXPECT_EQ(after.Stage, before.Season == "Spring" ? "finished" : "adjustments");
+  EXPECT_EQ(after.Stage,
+            before.Season == "Spring" ? model::Stage::Finished : model::Stage::Adjustments);
 }
 
 void CheckAdjustments(const Resolution& resolution, const GameState& before,
                       const GameState& after) {
   if (!resolution.Completed) return;
-  EXPECT_EQ(after.Stage, "finished");
+  EXPECT_EQ(after.Stage, model::Stage::Finished);
   std::set<std::string> places;
   for (const Unit& unit : after.Units) {
     const std::string place = unit.Location.substr(0, 3);
@@ -282,13 +288,13 @@ void PlayStage(Player& player, GameState& game, Tally& tally) {
   const GameState before = game;
   ScriptedMessages messages;
   const Resolution resolution = adjudication::ResolveStage(game, messages);
-  if (before.Stage == "moves") {
+  if (before.Stage == model::Stage::Moves) {
     CheckMoves(resolution, before, game);
     CheckParticipants(resolution, before, game);
-    tally.Dislodged += game.Stage == "retreats" ? 1 : 0;
+    tally.Dislodged += game.Stage == model::Stage::Retreats ? 1 : 0;
     for (const OrderLine& order : resolution.Orders)
-      tally.ConvoysFailed += order.Result == "convoy failed" ? 1 : 0;
-  } else if (before.Stage == "retreats") {
+      tally.ConvoysFailed += order.Result == OrderResult::ConvoyFailed ? 1 : 0;
+  } else if (before.Stage == model::Stage::Retreats) {
     CheckRetreats(before, game);
     tally.Removed += before.Units.Count() - game.Units.Count();
   } else {
@@ -309,11 +315,11 @@ TEST(RandomPlay, KeepsWhatTheRulesPromise) {
     for (int season = 1; season <= 2; ++season) {
       player.OrderMoves(game);
       PlayStage(player, game, tally);
-      if (game.Stage == "retreats") {
+      if (game.Stage == model::Stage::Retreats) {
         player.OrderRetreats(game);
         PlayStage(player, game, tally);
       }
-      if (game.Stage == "adjustments") {
+      if (game.Stage == model::Stage::Adjustments) {
         player.OrderAdjustments(game);
         PlayStage(player, game, tally);
       }

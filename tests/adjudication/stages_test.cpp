@@ -31,7 +31,7 @@ TEST(Stages, BuildingEndsAtFortyUnits) {
   EXPECT_EQ(game.Units.Count(), model::UnitBound);
   EXPECT_EQ(game.Units[model::UnitBound].Location, "Edi");
   EXPECT_THAT(messages.Shown, ElementsAre(Pair("Too many units", Icon::Stop)));
-  EXPECT_EQ(game.Stage, "finished");
+  EXPECT_EQ(game.Stage, model::Stage::Finished);
   EXPECT_EQ(game.ReportLines.Count(), 4);
 }
 

@@ -151,13 +151,14 @@ TEST(HelpExamples, TheFirstYearGoesAsTold) {
   ScriptedMessages messages({model::Answer::YesToAll});
   for (const std::string& block : Blocks(topics.front())) {
     if (block.find('(') == std::string::npos) continue;
-    if (game.Stage == "finished") model::NextSeason(game);
+    if (game.Stage == model::Stage::Finished) model::NextSeason(game);
     OrdersOf(game) = LinesOf(block);
     adjudication::ResolveStage(game, messages);
     for (const std::string& line : game.ReportLines)
       EXPECT_EQ(line.front() == '[', line.starts_with("[ FRA A(Bur) hold ]")) << line;
   }
-  EXPECT_EQ(game.Season + " " + game.Stage, "Autumn finished");
+  EXPECT_EQ(game.Season, "Autumn");
+  EXPECT_EQ(game.Stage, model::Stage::Finished);
   EXPECT_THAT(messages.Questions, Each(HasSubstr("unordered")));
   for (const char* unit : {"FRA A(Bel)", "FRA F(Bre)", "FRA A(Par)", "FRA A(Mar)", "GER F(Kie)"})
     EXPECT_THAT(LinesOf(DrawUnits(game)), Contains(unit));

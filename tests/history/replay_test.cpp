@@ -40,6 +40,15 @@ GameState Situation(std::string_view stage, const Texts& units, std::string_view
 
 /// "+ENG A(Yor) - Nwy" succeeded, "!" failed, "?" was void; a convoy is "C Yor Nwy", a convoyed
 /// move "- Nwy ~".
+orders::OrderKind KindOf(std::string_view word) {
+  for (const auto stage :
+       {model::Stage::Moves, model::Stage::Retreats, model::Stage::Adjustments}) {
+    const auto kind = orders::KindOf(word, stage);
+    if (kind != orders::OrderKind::None) return kind;
+  }
+  return orders::OrderKind::None;
+}
+
 std::vector<OrderOutcome> Outcomes(const Texts& lines) {
   std::vector<OrderOutcome> outcomes;
   for (const std::string& line : lines) {
@@ -47,7 +56,8 @@ std::vector<OrderOutcome> Outcomes(const Texts& lines) {
     model::Unit unit;
     EXPECT_TRUE(ReadUnit(rest, unit)) << line;
     const Texts words = Words(rest);
-    OrderOutcome outcome{unit.Power, unit.UnitType, unit.Location, words[0], {}, {}, false, {}};
+    OrderOutcome outcome{unit.Power, unit.UnitType, unit.Location, KindOf(words[0]), {}, {}, false,
+                         {}};
     if (words.size() > 1) outcome.Destination = words[words[0] == "C" ? 2 : 1];
     if (words[0] == "C") outcome.OtherLocation = words[1];
     outcome.ViaConvoy = words.back() == "~";
@@ -152,14 +162,14 @@ TEST(SeasonReplay, StartsBeforeTheMovesWithTheOwnersOfThen) {
   GameState game = Situation("finished", {"FRA A(Bel) Bur"}, "Bel", "Autumn");
   Own(game, "FRA Bel");
   Replay replay = history::SeasonReplay(game);
-  EXPECT_EQ(replay.Start.Stage, "moves");
+  EXPECT_EQ(replay.Start.Stage, model::Stage::Moves);
   EXPECT_EQ(DrawUnits(replay.Start), "FRA A(Bur)\n");
   EXPECT_EQ(Live(replay.Start, "Bel").Owner, "");
   EXPECT_EQ(Describe(replay.End), Describe(game));
   Live(game, "Bre").PreviousOwner = model::Unknown;
   replay = history::SeasonReplay(game);
   EXPECT_EQ(Live(replay.Start, "Bel").Owner, "FRA");
-  game.Stage = "moves";
+  game.Stage = model::Stage::Moves;
   EXPECT_EQ(Journeys(history::SeasonReplay(game)), Texts{"FRA A(Bel)"})
       << "its moves are still to come";
   game.Units[1].Location = "Xyz";

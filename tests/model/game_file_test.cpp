@@ -27,7 +27,7 @@ using testing::HasSubstr;
 GameState EarlierGame() {
   GameState game = model::EmptyGame(SmallMap());
   game.Title = "earlier";
-  game.Units.Append({"RUS", "F", "Stp.n", "dislodged", "NTH", "Stp.n", 0});
+  game.Units.Append({"RUS", "F", "Stp.n", "dislodged", "NTH", "Stp.n"});
   for (model::ProvinceState& province : game.Provinces)
     province = {"TUR", "GER", false};
   game.Countries[1].PlayerName = "Ann";
@@ -49,9 +49,9 @@ GameState FullGame() {
   game.Title = " a title, with blanks ";
   game.Season = "Autumn";
   game.Year = -32768;
-  game.Stage = "retreats";
-  game.Units.Append({"ENG", "A", "Lon", "", "", "Wal", 0});
-  game.Units.Append({"RUS", "F", "Stp.n", "dislodged", "NTH", "unknown", 0});
+  game.Stage = model::Stage::Retreats;
+  game.Units.Append({"ENG", "A", "Lon", "", "", "Wal"});
+  game.Units.Append({"RUS", "F", "Stp.n", "dislodged", "NTH", "unknown"});
   game.Provinces[1] = {"ENG", "FRA", true};
   game.Provinces[2] = {"", "unknown", false};
   game.OrdersList = {"ENG A(Lon) - Wal", "", bytes};
@@ -135,7 +135,7 @@ TEST(GameFile, OfEveryVersionIsRead) {
     EXPECT_EQ(game.Title + " " + unit.DislodgedFrom + " " + unit.PreviousLocation +
                   (place.Uncontested ? " 1 " : " 0 ") + place.PreviousOwner,
               c.Read);
-    EXPECT_EQ(game.Season + std::to_string(game.Year) + game.Stage + place.Owner,
+    EXPECT_EQ(game.Season + std::to_string(game.Year) + std::string(StageText(game)) + place.Owner,
               "Spring1901movesENG");
     EXPECT_THAT(game.OrdersList, ElementsAre("an order"));
     EXPECT_EQ(game.TextLines.Count(), 0);

@@ -37,7 +37,8 @@ GameState UsedGame() {
 
 void ExpectCleared(GameState& game) {
   EXPECT_EQ(model::Caption(game), model::ProgramName);
-  EXPECT_EQ(game.Season + std::to_string(game.Year) + game.Stage, "Spring1901moves");
+  EXPECT_EQ(game.Season + std::to_string(game.Year) + std::string(StageText(game)),
+            "Spring1901moves");
   EXPECT_TRUE(game.OrdersList.empty() && game.RetreatsList.empty() && game.AdjustmentsList.empty());
   EXPECT_EQ(game.TextLines.Count() + game.ReportLines.Count(), 0);
   EXPECT_EQ(game.FileName + game.Countries[3].PlayerName, "");
@@ -99,7 +100,7 @@ TEST(NextSeason, FollowsTheCalendar) {
     const std::string units = DrawUnits(game);
     model::NextSeason(game);
     EXPECT_EQ(game.Season + std::to_string(game.Year), after);
-    EXPECT_EQ(game.Stage, "moves");
+    EXPECT_EQ(game.Stage, model::Stage::Moves);
     EXPECT_TRUE(game.OrdersList.empty());
     EXPECT_EQ(game.TextLines.Count(), 0);
     EXPECT_EQ(game.FileName, "");
@@ -115,7 +116,7 @@ TEST(NextSeason, FollowsTheCalendar) {
 
 TEST(UndoSeason, PutsUnitsAndOwnersBack) {
   GameState game = UsedGame();
-  game.Stage = "finished";
+  game.Stage = model::Stage::Finished;
   const std::string before = Describe(game);
   ScriptedMessages messages;
   EXPECT_FALSE(model::UndoSeason(game, messages)) << "a finished autumn";
@@ -126,7 +127,7 @@ TEST(UndoSeason, PutsUnitsAndOwnersBack) {
   EXPECT_EQ(DrawUnits(game), "RUS F(Stp.n)\n");
   EXPECT_EQ(game.Units[1].DislodgedFrom + game.Units[1].PreviousLocation, "");
   EXPECT_EQ(Live(game, "Nwy").Owner, "GER");
-  EXPECT_EQ(game.Stage, "moves");
+  EXPECT_EQ(game.Stage, model::Stage::Moves);
   EXPECT_TRUE(messages.Questions.empty());
 }
 

@@ -24,16 +24,20 @@ using testing::ElementsAre;
 struct Bound {
   GameState Game;
   OrderTable Orders;
+  orders::OrdersOfUnits OrdersOfUnits;
   ScriptedMessages Messages;
   bool Continued = false;
 
   explicit Bound(const std::vector<std::string>& lines, std::vector<Answer> answers = {})
       : Game(Board("Spring", "moves", lines)), Messages(std::move(answers)) {
     orders::SetOrderTexts(Game.OrdersList, Orders);
-    orders::ParseOrders(Orders);
-    Continued = orders::CheckOrderSyntax(*Game.Map, Orders, Messages) &&
-                orders::BindOrdersToUnits(Game, Orders, Messages) &&
-                orders::CheckImpossibleOrders(Game, Orders, Messages);
+    const model::Map& map = *Game.Map;
+    orders::Questions questions(Messages);
+    orders::ParseOrders(map, Game.Stage, Orders);
+    Continued =
+        orders::CheckOrderSyntax(Orders, questions) &&
+        orders::BindOrdersToUnits(map, orders::PiecesOf(Game), Orders, OrdersOfUnits, questions) &&
+        orders::CheckImpossibleOrders(map, Orders, questions);
   }
 };
 
@@ -42,12 +46,12 @@ TEST(Binding, MatchesTypePowerAndWholeLocation) {
                      "> RUS A(Stp.s) hold", "> ENG F(Stp.s) hold", "> RUS F(Stp.s) - BOT"});
   std::vector<std::string> results;
   for (const orders::OrderLine& order : bound.Orders)
-    results.push_back(order.Result);
+    results.emplace_back(ResultWord(order.Result));
   EXPECT_THAT(results,
               ElementsAre("", "no such unit", "no such unit", "no such unit", "no such unit", ""));
   EXPECT_EQ(bound.Orders[1].UnitIndex, 1);
   EXPECT_EQ(bound.Orders[6].UnitIndex, 1);
-  EXPECT_EQ(bound.Game.Units[1].OrderIndex, 6) << "the later of two orders is the unit's";
+  EXPECT_EQ(bound.OrdersOfUnits[1], 6) << "the later of two orders is the unit's";
 }
 
 TEST(Binding, AnUnorderedUnitHoldsAtTheEndOfTheTable) {
@@ -55,10 +59,11 @@ TEST(Binding, AnUnorderedUnitHoldsAtTheEndOfTheTable) {
   ASSERT_EQ(bound.Orders.Count(), 3);
   const orders::OrderLine& order = bound.Orders[3];
   EXPECT_EQ(order.Text, "RUS F(Stp.s) unordered; hold");
-  EXPECT_EQ(order.Power + order.UnitType + order.Location + order.Kind, "RUSFStp.sHOLD");
+  EXPECT_EQ(UnitName(*bound.Game.Map, order), "RUS F(Stp.s)");
+  EXPECT_EQ(order.Kind, orders::OrderKind::Hold);
   EXPECT_EQ(order.UnitIndex, 3);
-  EXPECT_EQ(bound.Game.Units[3].OrderIndex, 3);
-  EXPECT_TRUE(order.Active && !order.Failed && order.Result.empty());
+  EXPECT_EQ(bound.OrdersOfUnits[3], 3);
+  EXPECT_TRUE(order.Active && !order.Failed && order.Supplied);
 }
 
 TEST(Binding, YesToAllEndsTheQuestionsOfOneResolution) {
@@ -89,7 +94,7 @@ TEST(Binding, AsksInTheOrderOfTheChecks) {
                           "Warning: ENG A(Lon) S A(Yor) - NTH\rimpossible support.\rContinue?",
                           "Warning: FRA A(Par) S A(Mar) hold\rimpossible support.\rContinue?"))
       << "an order that is not used is not asked about";
-  EXPECT_EQ(bound.Orders[6].Result, "not used");
+  EXPECT_EQ(bound.Orders[6].Result, orders::OrderResult::NotUsed);
 }
 
 TEST(Linking, ASupportOrConvoyFitsOneOrder) {
@@ -121,7 +126,7 @@ TEST(Linking, ASupportOrConvoyFitsOneOrder) {
     SCOPED_TRACE(testing::PrintToString(c.Lines));
     const Bound bound(c.Lines);
     EXPECT_EQ(bound.Orders[1].LinkedOrder, c.Linked);
-    EXPECT_EQ(bound.Orders[1].Result == "not used", c.Linked == 0);
+    EXPECT_EQ(bound.Orders[1].Result == orders::OrderResult::NotUsed, c.Linked == 0);
     EXPECT_EQ(bound.Orders[2].ViaConvoy, c.Carried);
   }
 }
@@ -148,7 +153,7 @@ TEST(Possible, WhatAUnitCanReach) {
       {{"ENG F(BAR) C A(Lon) - Tun", "ENG A(Lon) - Tun"}, ""},
   };
   for (const auto& [lines, result] : cases)
-    EXPECT_EQ(Bound(lines).Orders[1].Result, result) << lines[0];
+    EXPECT_EQ(ResultWord(Bound(lines).Orders[1].Result), result) << lines[0];
 }
 
 }  // namespace

@@ -36,8 +36,9 @@ TEST(EnteredOrders, AreTheReadableLinesOfTheStage) {
     std::string read;
     for (const orders::OrderOutcome& order : orders::EnteredOrders(game)) {
       EXPECT_EQ(order.Outcome, orders::Outcome::Entered);
-      for (const std::string& field : {order.Power, order.UnitType, order.Location, order.Kind,
-                                       order.OtherLocation, std::string(">"), order.Destination}) {
+      for (const std::string& field :
+           {order.Power, order.UnitType, order.Location, std::string(KindWord(order.Kind)),
+            order.OtherLocation, std::string(">"), order.Destination}) {
         if (!field.empty()) read.append(read.empty() ? "" : " ").append(field);
       }
     }

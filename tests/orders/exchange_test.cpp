@@ -23,7 +23,7 @@ using testing::IsEmpty;
 model::GameState StartingGame(std::string_view stage = "moves") {
   model::GameState game = EmptyBoard("Spring", "moves");
   model::NewGame(game, DataDirectory());
-  game.Stage = stage;
+  game.Stage = model::StageOf(stage);
   return game;
 }
 
@@ -67,7 +67,7 @@ TEST(OrderFiles, NamesAreOfTheSeasonAndTheStage) {
   EXPECT_EQ(exchange::ProposedOrdersFile(game), "s01_orders.txt");
   game.Season = "Autumn";
   game.Year = 1912;
-  game.Stage = "adjustments";
+  game.Stage = model::Stage::Adjustments;
   EXPECT_EQ(exchange::ProposedOrdersFile(game), "a12_adjustments.txt");
 }
 

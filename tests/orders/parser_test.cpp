@@ -3,6 +3,7 @@
 #include "model/errors.h"
 #include "support/scripted_messages.h"
 #include "support/situation.h"
+#include "text/strings.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,22 +15,27 @@
 namespace orb::tests {
 namespace {
 
-using orders::OrderLine;
 using orders::OrderTable;
 using testing::ElementsAre;
 
 OrderTable Parse(const std::vector<std::string>& lines) {
   OrderTable table;
   orders::SetOrderTexts(lines, table);
-  orders::ParseOrders(table);
+  orders::ParseOrders(*RealMap(), model::Stage::Moves, table);
   return table;
 }
 
-/// Every field that the parser fills, parted by bars.
-std::string Fields(const OrderLine& order) {
-  return order.Power + "|" + order.UnitType + "|" + order.Location + "|" + order.Kind + "|" +
-         order.Power2 + "|" + order.UnitType2 + "|" + order.Target + "|" + order.Kind2 + "|" +
-         order.Target2;
+/// Every part that a line of the moves stage is cut into, separated by bars.
+std::string Fields(std::string_view line) {
+  std::string work;
+  const orders::OrderWords order = orders::CutOrder(line, model::Stage::Moves, work);
+  std::string fields(order.Power);
+  for (const std::string_view field :
+       {order.UnitType, order.Location, orders::KindWord(order.Kind), order.Power2, order.UnitType2,
+        order.Target, orders::KindWord(order.Kind2), order.Target2}) {
+    fields.append("|").append(field);
+  }
+  return fields;
 }
 
 TEST(Parser, SplitsALineIntoItsFields) {
@@ -42,27 +48,25 @@ TEST(Parser, SplitsALineIntoItsFields) {
       {"ENG A(Lon) S A(Wal) hOLD - Yor", "ENG|A|Lon|S|ENG|A|Wal|HOLD|"},
       {"ENG A(Lon) S FRA A(Wal) - Yor", "ENG|A|Lon|S|FRA|A|Wal|-|Yor"},
       {"ENG F(NTH) C A(Lon) - Nwy", "ENG|F|NTH|C|ENG|A|Lon|-|Nwy"},
-      {"ENG F(NTH) c FRA A(Lon) hold x", "ENG|F|NTH|C|FRA|A|Lon|hold|x"},
+      {"ENG F(NTH) c FRA A(Lon) hold x", "ENG|F|NTH|C|FRA|A|Lon||x"},
       {"ENG A(Lon) -", "ENG|A|Lon|-|||(X)||"},
-      {"ENG A(Lon)", "ENG|A|Lon|(X)|||||"},
-      {"ENG A(Lon) S", "ENG|A|Lon|S|ENG||X|(X)|"},
-      {"ENG A(Lon) C", "ENG|A|Lon|C|ENG||X|(X)|(X)"},
-      {"ENG", "ENG||X|(X)|||||"},
-      {"", "||X|(X)|||||"},
+      {"ENG A(Lon)", "ENG|A|Lon||||||"},
+      {"ENG A(Lon) S", "ENG|A|Lon|S|ENG||X||"},
+      {"ENG A(Lon) C", "ENG|A|Lon|C|ENG||X||(X)"},
+      {"ENG", "ENG||X||||||"},
+      {"", "||X||||||"},
       {"ENG  A (Lon)-  Wal", "ENG|A |Lon|-|||Wal||"},
       {"ENG A(Lon)- Wal", "ENG|A|Lon|-|||Wal||"},
-      {"ENG A(Lon) -Wal", "ENG|A|Lon|-WAL|||||"},
+      {"ENG A(Lon) -Wal", "ENG|A|Lon||||||"},
       {"ENG A( Lon ) - Wal", "ENG|A|Lon |-|||Wal||"},
-      {"ENG\tA(Lon) - Wal", "ENG\tA(Lon)|- Wal |X|(X)|||||"},
+      {"ENG\tA(Lon) - Wal", "ENG\tA(Lon)|- Wal |X||||||"},
       {"ENG A(Lon) S  FRA  A(Wal)  -  Yor", "ENG|A|Lon|S|FRA|A|Wal|-|Yor"},
-      {"ENG A(Lon) S(Wal) hold", "ENG|A|Lon|S(WAL)|||||"},
+      {"ENG A(Lon) S(Wal) hold", "ENG|A|Lon||||||"},
       {"ENG A(Lon) S (Wal) hold", "ENG|A|Lon|S|ENG||Wal|HOLD|"},
-      {"eng a(lon) \xfc", "eng|a|lon|\xfc|||||"},
+      {"eng a(lon) \xfc", "eng|a|lon||||||"},
   };
   for (const auto& [line, fields] : cases) {
-    const OrderTable table = Parse({line});
-    EXPECT_EQ(Fields(table[1]), fields) << line;
-    EXPECT_TRUE(table[1].Active && !table[1].Failed && table[1].Result.empty()) << line;
+    EXPECT_EQ(Fields(text::Trim(line)), fields) << line;
   }
   EXPECT_EQ(Parse({"  ENG A(Lon)  hold "})[1].Text, "ENG A(Lon)  hold");
 }
@@ -116,13 +120,11 @@ TEST(Syntax, OnlyTheTextFormIsCorrect) {
   for (const auto& [line, correct] : cases) {
     OrderTable table = Parse({line});
     ScriptedMessages messages;
-    EXPECT_TRUE(orders::CheckOrderSyntax(*RealMap(), table, messages));
-    EXPECT_EQ(table[1].Result, correct ? "" : "syntax error") << line;
+    orders::Questions questions(messages);
+    EXPECT_TRUE(orders::CheckOrderSyntax(table, questions));
+    EXPECT_EQ(ResultWord(table[1].Result), correct ? "" : "syntax error") << line;
     EXPECT_EQ(table[1].Active, correct) << line;
     EXPECT_EQ(table[1].Failed, !correct) << line;
-    EXPECT_EQ(orders::FindSyntaxFault(*RealMap(), Parse({line})[1]) == orders::SyntaxFault::None,
-              correct)
-        << line;
     EXPECT_EQ(messages.Questions.size(), correct ? 0U : 1U) << line;
   }
 }
@@ -131,10 +133,12 @@ TEST(Syntax, EveryFaultIsAskedAboutUntilANo) {
   const std::vector<std::string> lines = {" no order ", "ENG A(Lon) hold", "ENG A(Lon) -", "x"};
   OrderTable table = Parse(lines);
   ScriptedMessages messages({model::Answer::Yes, model::Answer::No});
-  EXPECT_FALSE(orders::CheckOrderSyntax(*RealMap(), table, messages));
+  orders::Questions questions(messages);
+  EXPECT_FALSE(orders::CheckOrderSyntax(table, questions));
+  EXPECT_EQ(questions.StoppedAt(), 3);
   EXPECT_THAT(messages.Questions, ElementsAre("Warning: no order\rsyntax error.\rContinue?",
                                               "Warning: ENG A(Lon) -\rsyntax error.\rContinue?"));
-  EXPECT_EQ(table[4].Result, "") << "not looked at any more";
+  EXPECT_EQ(table[4].Result, orders::OrderResult::None) << "not looked at any more";
 }
 
 }  // namespace

@@ -28,7 +28,7 @@ model::GameState DrawnGame(const DrawnCase& drawn) {
     for (std::string_view rest = units; !rest.empty();)
       AddDrawnUnit(game, text::Trim(text::NextField(rest)));
   }
-  game.Stage = drawn.Note("stage", "moves");
+  game.Stage = model::StageOf(drawn.Note("stage", "moves"));
   return game;
 }
 

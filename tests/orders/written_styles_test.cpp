@@ -17,9 +17,9 @@ namespace orb::tests {
 namespace {
 
 using exchange::LineKind;
-using exchange::OrderStage;
+using exchange::PlainOrder;
 using model::Unit;
-using orders::OrderLine;
+using orders::OrderKind;
 using Spellings = std::vector<std::string>;
 
 /// Makes orders that the syntax allows and writes them in one of the ways that people do.
@@ -28,6 +28,7 @@ class Writer {
   explicit Writer(unsigned seed) : random_(seed) {}
 
   const std::string& Any(const Spellings& spellings) { return spellings[Below(spellings.size())]; }
+  OrderKind AnyKind(const std::vector<OrderKind>& kinds) { return kinds[Below(kinds.size())]; }
   std::size_t Below(std::size_t bound) { return random_() % bound; }
   bool Sometimes() { return Below(2) == 0; }
 
@@ -84,74 +85,83 @@ bool HasCoasts(const std::string& location) {
 }
 
 /// An order of the stage; its units are put on the board.
-OrderLine AnyOrder(Writer& writer, model::GameState& game, OrderStage stage) {
+PlainOrder AnyOrder(Writer& writer, model::GameState& game, model::Stage stage) {
   Unit unit = writer.AnyUnit();
-  if (stage == OrderStage::Retreats) unit.Status = model::Dislodged;
-  OrderLine order;
+  if (stage == model::Stage::Retreats) unit.Status = model::Dislodged;
+  PlainOrder order;
   order.Power = unit.Power;
   order.UnitType = unit.UnitType;
   order.Location = unit.Location;
-  order.Kind = stage == OrderStage::Moves      ? writer.Any({"-", "-", "HOLD", "S", "S", "C"})
-               : stage == OrderStage::Retreats ? writer.Any({"RETREAT", "RETREAT", "DISBAND"})
-                                               : writer.Any({"BUILD", "DISBAND"});
-  if (order.Kind == "-" || order.Kind == "RETREAT") order.Target = writer.AnyLocation();
-  if (order.Kind != "BUILD") game.Units.Append(unit);
-  if (order.Kind != "S" && order.Kind != "C") return order;
+  order.Kind = stage == model::Stage::Moves
+                   ? writer.AnyKind({OrderKind::Move, OrderKind::Move, OrderKind::Hold,
+                                     OrderKind::Support, OrderKind::Support, OrderKind::Convoy})
+               : stage == model::Stage::Retreats
+                   ? writer.AnyKind({OrderKind::Retreat, OrderKind::Retreat, OrderKind::Disband})
+                   : writer.AnyKind({OrderKind::Build, OrderKind::Disband});
+  if (order.Kind == OrderKind::Move || order.Kind == OrderKind::Retreat)
+    order.Target = writer.AnyLocation();
+  if (order.Kind != OrderKind::Build) game.Units.Append(unit);
+  if (order.Kind != OrderKind::Support && order.Kind != OrderKind::Convoy) return order;
   Unit other = writer.AnyUnit();
   if (writer.Sometimes()) other.Power = unit.Power;
-  if (order.Kind == "C") other.UnitType = "A";
+  if (order.Kind == OrderKind::Convoy) other.UnitType = "A";
   game.Units.Append(other);
   order.Power2 = other.Power;
   order.UnitType2 = other.UnitType;
   order.Target = other.Location;
-  order.Kind2 = order.Kind == "S" ? writer.Any({"HOLD", "-"}) : "-";
-  if (order.Kind2 == "-") order.Target2 = writer.AnyLocation();
+  order.Kind2 = order.Kind == OrderKind::Support
+                    ? writer.AnyKind({OrderKind::Hold, OrderKind::Move})
+                    : OrderKind::Move;
+  if (order.Kind2 == OrderKind::Move) order.Target2 = writer.AnyLocation();
   return order;
 }
 
 /// Whether only its exact form can be meant: a fleet's coast that is not told, two units in one
 /// place, and what the syntax does not allow.
-bool OnlyExact(const model::GameState& game, const OrderLine& order) {
-  const bool moves = order.Kind == "-" || order.Kind == "RETREAT";
-  if (order.UnitType == "F" && (moves || order.Kind == "BUILD") &&
+bool OnlyExact(const model::GameState& game, const PlainOrder& order) {
+  const bool moves = order.Kind == OrderKind::Move || order.Kind == OrderKind::Retreat;
+  if (order.UnitType == "F" && (moves || order.Kind == OrderKind::Build) &&
       HasCoasts(moves ? order.Target : order.Location)) {
     return true;
   }
   if (order.UnitType2 == "F" && HasCoasts(order.Target2)) return true;
   if (!order.UnitType2.empty() && model::SamePlace(order.Location, order.Target)) return true;
-  return game.Stage == "moves" &&
-         orders::FindSyntaxFault(*game.Map, order) != orders::SyntaxFault::None;
+  return game.Stage == model::Stage::Moves &&
+         orders::FindSyntaxFault(*game.Map, WordsOf(order), game.Stage) !=
+             orders::SyntaxFault::None;
 }
 
-std::string Written(Writer& writer, const OrderLine& order, bool withPower) {
+std::string Written(Writer& writer, const PlainOrder& order, bool withPower) {
   const std::string unit = writer.UnitText(
-      {order.Power, order.UnitType, order.Location, {}, {}, {}}, order.Kind != "BUILD");
+      {order.Power, order.UnitType, order.Location, {}, {}, {}}, order.Kind != OrderKind::Build);
   const std::string other =
       (order.Power2 == order.Power ? "" : writer.Any({order.Power2 + " ", ""})) +
       writer.UnitText(
           {order.Power2, order.UnitType2, order.Target.empty() ? "Par" : order.Target, {}, {}, {}},
           true);
   std::string text = withPower ? writer.Power(order.Power) : "";
-  if (order.Kind == "BUILD" || (order.Kind == "DISBAND" && writer.Sometimes())) {
+  if (order.Kind == OrderKind::Build || (order.Kind == OrderKind::Disband && writer.Sometimes())) {
     return text +
-           (order.Kind == "BUILD" ? writer.Any({"build ", "builds "})
-                                  : writer.Any({"disband ", "Remove "})) +
+           (order.Kind == OrderKind::Build ? writer.Any({"build ", "builds "})
+                                           : writer.Any({"disband ", "Remove "})) +
            unit;
   }
   text += unit;
-  if (order.Kind == "-") {
+  if (order.Kind == OrderKind::Move) {
     const bool convoyed = order.UnitType == "A" && writer.Below(4) == 0;
     return text + writer.Dash() + writer.Place(order.Target) + (convoyed ? " via convoy" : "");
   }
-  if (order.Kind == "HOLD") return text + writer.Any({" H", " hold", " holds", " stands"});
-  if (order.Kind == "RETREAT") {
+  if (order.Kind == OrderKind::Hold) return text + writer.Any({" H", " hold", " holds", " stands"});
+  if (order.Kind == OrderKind::Retreat) {
     return text + writer.Any({" R ", " retreats to ", " retreat ", " -> "}) +
            writer.Place(order.Target);
   }
-  if (order.Kind == "DISBAND") return text + writer.Any({" disband", " disbands", " removed"});
-  text += order.Kind == "S" ? writer.Any({" S ", " supports ", " sup "})
-                            : writer.Any({" C ", " convoys "});
-  if (order.Kind2 == "-") return text + other + writer.Dash() + writer.Place(order.Target2);
+  if (order.Kind == OrderKind::Disband)
+    return text + writer.Any({" disband", " disbands", " removed"});
+  text += order.Kind == OrderKind::Support ? writer.Any({" S ", " supports ", " sup "})
+                                           : writer.Any({" C ", " convoys "});
+  if (order.Kind2 == OrderKind::Move)
+    return text + other + writer.Dash() + writer.Place(order.Target2);
   return text + other + writer.Any({" H", " hold", " holds"});
 }
 
@@ -166,16 +176,18 @@ void ExpectReadAs(const model::GameState& game, const std::string& written,
 TEST(WrittenStyles, EveryOrderReadsBackAsItself) {
   Writer writer(1901);
   for (int round = 0; round < 4000; ++round) {
-    const OrderStage stage = round % 4 == 0   ? OrderStage::Retreats
-                             : round % 4 == 1 ? OrderStage::Adjustments
-                                              : OrderStage::Moves;
-    model::GameState game = EmptyBoard("Autumn", stage == OrderStage::Retreats      ? "retreats"
-                                                 : stage == OrderStage::Adjustments ? "adjustments"
-                                                                                    : "moves");
-    const OrderLine order = AnyOrder(writer, game, stage);
+    const model::Stage stage = round % 4 == 0   ? model::Stage::Retreats
+                               : round % 4 == 1 ? model::Stage::Adjustments
+                                                : model::Stage::Moves;
+    model::GameState game =
+        EmptyBoard("Autumn", stage == model::Stage::Retreats      ? "retreats"
+                             : stage == model::Stage::Adjustments ? "adjustments"
+                                                                  : "moves");
+    const PlainOrder order = AnyOrder(writer, game, stage);
     const std::string line = exchange::FormatOrder(order, stage);
-    const bool isSyntax = stage != OrderStage::Moves ||
-                          orders::FindSyntaxFault(*game.Map, order) == orders::SyntaxFault::None;
+    const bool isSyntax =
+        stage != model::Stage::Moves ||
+        orders::FindSyntaxFault(*game.Map, WordsOf(order), stage) == orders::SyntaxFault::None;
     if (isSyntax) ExpectReadAs(game, line, "", line);
     if (OnlyExact(game, order)) continue;
     const bool withPower = writer.Sometimes();
@@ -202,8 +214,8 @@ TEST(WrittenStyles, OrdersRunTogetherAreReadSingly) {
   int understood = 0;
   for (int round = 0; round < 2000; ++round) {
     model::GameState game = EmptyBoard("Autumn", "moves");
-    const OrderLine first = AnyOrder(writer, game, OrderStage::Moves);
-    const OrderLine second = AnyOrder(writer, game, OrderStage::Moves);
+    const PlainOrder first = AnyOrder(writer, game, model::Stage::Moves);
+    const PlainOrder second = AnyOrder(writer, game, model::Stage::Moves);
     if (IsCrowded(game) || OnlyExact(game, first) || OnlyExact(game, second)) continue;
     const std::string text =
         Written(writer, first, writer.Sometimes()) + " " + Written(writer, second, true);
@@ -212,8 +224,8 @@ TEST(WrittenStyles, OrdersRunTogetherAreReadSingly) {
     if (lines.size() == 1 && lines[0].Kind == LineKind::NotUnderstood) continue;
     ++understood;
     ASSERT_EQ(lines.size(), 2U) << text << "\n" << lines[0].Order << lines[0].Reason;
-    EXPECT_EQ(lines[0].Order, exchange::FormatOrder(first, OrderStage::Moves)) << text;
-    EXPECT_EQ(lines[1].Order, exchange::FormatOrder(second, OrderStage::Moves)) << text;
+    EXPECT_EQ(lines[0].Order, exchange::FormatOrder(first, model::Stage::Moves)) << text;
+    EXPECT_EQ(lines[1].Order, exchange::FormatOrder(second, model::Stage::Moves)) << text;
   }
   EXPECT_GT(understood * 10, tried * 8) << tried;
 }

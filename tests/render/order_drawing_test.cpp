@@ -19,6 +19,7 @@ namespace orb::tests {
 namespace {
 
 using model::GameState;
+using orders::OrderKind;
 using orders::OrderOutcome;
 using orders::Outcome;
 using Orders = std::vector<OrderOutcome>;
@@ -90,8 +91,8 @@ TEST(OrderDrawing, OutcomesDifferInForm) {
     Orders orders = orders::EnteredOrders(game);
     ASSERT_FALSE(orders.empty());
     std::vector<Outcome> outcomes = {Outcome::Succeeded, Outcome::Failed, Outcome::Void};
-    if (orders[0].Kind == "S") outcomes.push_back(Outcome::Cut);
-    if (orders[0].Kind == "DISBAND") std::erase(outcomes, Outcome::Failed);
+    if (orders[0].Kind == orders::OrderKind::Support) outcomes.push_back(Outcome::Cut);
+    if (orders[0].Kind == orders::OrderKind::Disband) std::erase(outcomes, Outcome::Failed);
     for (const Outcome outcome : outcomes) {
       orders[0].Outcome = outcome;
       EXPECT_TRUE(forms.insert(Form(DrawnOrders(game, orders))).second)
@@ -103,13 +104,16 @@ TEST(OrderDrawing, OutcomesDifferInForm) {
 TEST(OrderDrawing, NothingIsDrawnOfWhatHasNoPlaceOrIsNoNews) {
   const GameState game = Board("Spring", "moves", {"FRA A(Par)", "FRA A(Mar)"});
   const std::string plain = Form(DrawnOrders(game, {}));
-  const Orders orders = {{"FRA", "A", "Xyz", "HOLD", "", ""},   {"XYZ", "A", "Par", "HOLD", "", ""},
-                         {"FRA", "A", "Par", "-", "", "(X)"},   {"FRA", "A", "Par", "S", "Xyz", ""},
-                         {"FRA", "A", "Par", "S", "Mar", "Xy"}, {"FRA", "A", "Par", "C", "Mar", ""},
-                         {"FRA", "A", "Par", "JUMP", "", "Bur"}};
+  const Orders orders = {{"FRA", "A", "Xyz", OrderKind::Hold, "", ""},
+                         {"XYZ", "A", "Par", OrderKind::Hold, "", ""},
+                         {"FRA", "A", "Par", OrderKind::Move, "", "(X)"},
+                         {"FRA", "A", "Par", OrderKind::Support, "Xyz", ""},
+                         {"FRA", "A", "Par", OrderKind::Support, "Mar", "Xy"},
+                         {"FRA", "A", "Par", OrderKind::Convoy, "Mar", ""},
+                         {"FRA", "A", "Par", OrderKind::None, "", "Bur"}};
   for (const OrderOutcome& order : orders)
-    EXPECT_EQ(Form(DrawnOrders(game, {order})), plain) << order.Location + order.Kind;
-  OrderOutcome hold = {"FRA", "A", "Par", "HOLD", "", "", false, Outcome::Succeeded, true};
+    EXPECT_EQ(Form(DrawnOrders(game, {order})), plain) << order.Location;
+  OrderOutcome hold = {"FRA", "A", "Par", OrderKind::Hold, "", "", false, Outcome::Succeeded, true};
   EXPECT_EQ(Form(DrawnOrders(game, {hold})), plain);
   hold.Outcome = Outcome::Failed;
   EXPECT_NE(Form(DrawnOrders(game, {hold})), plain);
@@ -153,8 +157,9 @@ TEST(OrderDrawing, ConvoyedMovesPassThroughTheirFleetsInTurn) {
 TEST(OrderDrawing, WhatIsVoidLiesBelowWhatCounts) {
   constexpr double voidPen = 1.5;
   const GameState game = Board("Spring", "moves", {});
-  const OrderOutcome counts = {"FRA", "A", "Par", "-", "", "Bur", false, Outcome::Succeeded};
-  const OrderOutcome isVoid = {"GER", "A", "Mun", "-", "", "Tyr", false, Outcome::Void};
+  const OrderOutcome counts = {"FRA", "A",   "Par", OrderKind::Move,
+                               "",    "Bur", false, Outcome::Succeeded};
+  const OrderOutcome isVoid = {"GER", "A", "Mun", OrderKind::Move, "", "Tyr", false, Outcome::Void};
   for (const Orders& orders : {Orders{counts, isVoid}, Orders{isVoid, counts}}) {
     const DrawnOrders surface(game, orders);
     const auto penIs = [](double pen) {
@@ -168,7 +173,7 @@ TEST(OrderDrawing, WhatIsVoidLiesBelowWhatCounts) {
 
 TEST(OrderDrawing, LabelsComeBackOverLines) {
   const GameState game = Board("Spring", "moves", {});
-  const Orders longMove = {{"RUS", "A", "Mos", "-", "", "Por"}};
+  const Orders longMove = {{"RUS", "A", "Mos", OrderKind::Move, "", "Por"}};
   const auto last = [](const Recorder& surface) {
     return std::ranges::find_if(surface.Strokes.rbegin(), surface.Strokes.rend(),
                                 [](const Stroke& stroke) { return stroke.Kind == "text"; });
@@ -184,7 +189,7 @@ TEST(OrderDrawing, LabelsComeBackOverLines) {
 
 TEST(OrderDrawing, AttacksAreNotDrawnTwice) {
   const GameState game = Board("Spring", "retreats", {"GER A(Bur) <Mun", "FRA A(Bur)"});
-  Orders orders = {{"FRA", "A", "Mun", "-", "", "Bur", false, Outcome::Succeeded}};
+  Orders orders = {{"FRA", "A", "Mun", OrderKind::Move, "", "Bur", false, Outcome::Succeeded}};
   EXPECT_EQ(DrawnOrders(game, {}).All("line", 5).size(), 1U);
   EXPECT_EQ(DrawnOrders(game, orders).All("line", 5).size(), 0U);
   orders[0].Location = "Ruh";
@@ -192,7 +197,7 @@ TEST(OrderDrawing, AttacksAreNotDrawnTwice) {
 }
 
 TEST(OrderDrawing, DisbandsCrossOutTheUnitWhereItLies) {
-  const OrderOutcome disband = {"GER", "A", "Bur", "DISBAND", "", ""};
+  const OrderOutcome disband = {"GER", "A", "Bur", OrderKind::Disband, "", ""};
   const auto crossed = [&disband](const std::vector<std::string>& units) {
     const auto lines =
         DrawnOrders(Board("Spring", "finished", units), {disband}).All("line", MovePen);

@@ -67,7 +67,7 @@ TEST(ReplayPicture, BeginsAndEndsAsTheMapIsDrawn) {
     const Replay replay = history::ReplayBetween(games[i - 1], games[i]);
     const render::ReplayPicture picture(replay, AllShown, DataDirectory(), 400, pictures);
     EXPECT_EQ(picture.Frame(0), image(games[i - 1])) << i;
-    if (games[i - 1].Stage == "retreats") continue;  // its marks go with its units
+    if (games[i - 1].Stage == model::Stage::Retreats) continue;  // its marks go with its units
     GameState moved = games[i - 1];
     moved.Units = games[i].Units;
     // The counts stay those of the start.

@@ -56,8 +56,8 @@ class MapFile : public ::testing::Test {
     auto map = std::make_shared<model::Map>();
     model::LoadProvinces("Lon,,-1,.5,.75,.75,.5,London\r\n", "prov.dat", *map);
     game_ = model::EmptyGame(map);
-    game_.Stage = "moves";
-    game_.Units.Append({"ENG", "A", "Lon", {}, {}, {}, 0});
+    game_.Stage = model::Stage::Moves;
+    game_.Units.Append({"ENG", "A", "Lon", {}, {}, {}});
   }
 
   QImage Image(int width, const MapOptions& options = {MapMode::Colour}) {

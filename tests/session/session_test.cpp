@@ -102,18 +102,18 @@ TEST_F(SessionTest, AGameIsPlayed) {
   const session::Effect stopped = Resolve({Answer::No});
   EXPECT_FALSE(stopped.Done);
   EXPECT_EQ(stopped.Changed, Changes::Orders);
-  EXPECT_EQ(Now().Stopped, (session::StoppedLine{2, "syntax error"}));
+  EXPECT_EQ(Now().Stopped, (session::StoppedLine{2, orders::OrderResult::SyntaxError}));
   session_.Run([](Situation& next) { return session::DeleteOrder(next, 2); });
   EXPECT_FALSE(Now().Stopped) << "the list is another";
 
   EXPECT_EQ(Resolve({Answer::YesToAll}).Changed,
             Changes::Season | Changes::Position | Changes::Orders | Changes::Report);
   EXPECT_THAT(messages_->Questions, ElementsAre(HasSubstr("unordered")));
-  ASSERT_EQ(Game().Stage, "retreats");
+  ASSERT_EQ(Game().Stage, model::Stage::Retreats);
   ASSERT_TRUE(FileAll({"FRA A(Bur) retreat Par"}));
   EXPECT_EQ(session::SeasonOrders(Now()).size(), 23U);
   Resolve();
-  ASSERT_EQ(Game().Stage, "finished");
+  ASSERT_EQ(Game().Stage, model::Stage::Finished);
 
   const auto file = directory_.Path() / "game.orb";
   EXPECT_EQ(SaveAs(file).Changed, Changes::File);
@@ -127,10 +127,10 @@ TEST_F(SessionTest, AGameIsPlayed) {
   EXPECT_THAT(DrawUnits(Game()), HasSubstr("FRA A(Par)\n"));
 
   session_.Run(session::NextSeason);
-  EXPECT_EQ(Game().Season + Game().Stage + Game().FileName, "Autumnmoves");
+  EXPECT_EQ(Game().Season + std::string(StageText(Game())) + Game().FileName, "Autumnmoves");
   ASSERT_TRUE(FileAll({"GER F(Kie) - Den"}));
   Resolve({Answer::YesToAll});
-  ASSERT_EQ(Game().Stage, "adjustments");
+  ASSERT_EQ(Game().Stage, model::Stage::Adjustments);
   ASSERT_TRUE(FileAll({"GER build A(Kie)", "GER build A(Ber)"}));
   const std::string before = All(Now());
   EXPECT_FALSE(Resolve().Done) << "one unit too many";
@@ -159,7 +159,7 @@ TEST_F(SessionTest, NotesTellOfEveryLineOfTheReportThroughTheYear) {
 
   FileAll({"AUS disband A(Boh)"});
   Resolve();
-  ASSERT_EQ(Game().Stage, "finished");
+  ASSERT_EQ(Game().Stage, model::Stage::Finished);
   ASSERT_EQ(notes.size(), 24U);
   EXPECT_EQ(notes[1].Reason, whyBounced);
   EXPECT_TRUE(notes[1].Failed && notes[23].Failed);
@@ -205,7 +205,7 @@ TEST_F(SessionTest, WhatFailsOrIsDeclinedLeavesEverything) {
   EXPECT_EQ(All(Now()), before);
 
   session_.SetReview([](const Situation& next) {
-    if (next.Game.Stage != "moves") throw model::FileError("It cannot be drawn.");
+    if (next.Game.Stage != model::Stage::Moves) throw model::FileError("It cannot be drawn.");
   });
   EXPECT_THROW(Resolve(), model::FileError);
   EXPECT_EQ(All(Now()), before);
@@ -217,7 +217,8 @@ TEST_F(SessionTest, AnUnknownLocationBeginsANewGame) {
       "old.orb", "\"ORB v5.5\"\n\"T\",\"Autumn\",1910,\"moves\"\n0\n1\n\"Xyz\",\"\",0,\"\"\n"));
   EXPECT_THAT(messages_->Shown,
               ElementsAre(Pair("Unknown province: Xyz", model::Icon::Exclamation)));
-  EXPECT_EQ(Game().Title + Game().Season + Game().Stage + Game().FileName, "CONCORDATSpringmoves");
+  EXPECT_EQ(Game().Title + Game().Season + std::string(StageText(Game())) + Game().FileName,
+            "CONCORDATSpringmoves");
   EXPECT_EQ(Game().Units.Count(), 22);
   EXPECT_THAT(Game().OrdersList, IsEmpty());
 }

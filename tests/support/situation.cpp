@@ -23,7 +23,8 @@ GameState EmptyBoard(std::string_view season, std::string_view stage) {
   game.Title = model::DefaultTitle;
   game.Season = season;
   game.Year = 1901;
-  game.Stage = stage;
+  game.Stage = model::StageOf(stage);
+  game.OtherStage = game.Stage == model::Stage::Other ? stage : std::string_view{};
   for (model::ProvinceState& province : game.Provinces)
     province.Uncontested = true;
   return game;
@@ -76,9 +77,9 @@ GameState Board(std::string_view season, std::string_view stage,
 }
 
 std::vector<std::string>& OrdersOf(GameState& game) {
-  return game.Stage == "retreats"      ? game.RetreatsList
-         : game.Stage == "adjustments" ? game.AdjustmentsList
-                                       : game.OrdersList;
+  return game.Stage == model::Stage::Retreats      ? game.RetreatsList
+         : game.Stage == model::Stage::Adjustments ? game.AdjustmentsList
+                                                   : game.OrdersList;
 }
 
 model::ProvinceState& Live(GameState& game, std::string_view place) {

@@ -116,7 +116,7 @@ TEST_F(WindowTest, OrdersAreEditedAndDeleted) {
 
 TEST_F(WindowTest, AGameThatCannotBeDrawnIsNotOpened) {
   model::GameState game = EmptyBoard("Spring", "retreats");
-  game.Units.Append({"XXX", "A", "Lon", {}, {}, {}, 0});
+  game.Units.Append({"XXX", "A", "Lon", {}, {}, {}});
   const auto file = directory_.Write("strange.orb", model::FormatGameFile(game));
   const QImage map = Map();
   {

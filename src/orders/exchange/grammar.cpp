@@ -18,7 +18,7 @@ using States = std::vector<State>;
 /// Reads one order; every step turns the readings so far into all that can follow.
 class Grammar {
  public:
-  Grammar(Phrases& phrases, OrderStage stage, Verb verb)
+  Grammar(Phrases& phrases, model::Stage stage, Verb verb)
       : phrases_(phrases), stage_(stage), verb_(verb) {}
 
   std::vector<WrittenOrder> Read() {
@@ -96,7 +96,7 @@ class Grammar {
   /// What may stand behind a unit and its verb, which was written at the token.
   States Action(State state, std::size_t verbAt) {
     Verb& verb = state.Order.What;
-    if (stage_ == OrderStage::Retreats && verb == Verb::Move) verb = Verb::Retreat;
+    if (stage_ == model::Stage::Retreats && verb == Verb::Move) verb = Verb::Retreat;
     if (!IsAllowed(verb)) {
       phrases_.NotInStage(verbAt);
       return {};
@@ -134,14 +134,14 @@ class Grammar {
 
   bool IsAllowed(Verb verb) const {
     switch (stage_) {
-      case OrderStage::Moves:
+      case model::Stage::Moves:
         return verb == Verb::Move || verb == Verb::Hold || verb == Verb::Support ||
                verb == Verb::Convoy;
-      case OrderStage::Retreats:
+      case model::Stage::Retreats:
         return verb == Verb::Retreat || verb == Verb::Disband;
-      case OrderStage::Adjustments:
+      case model::Stage::Adjustments:
         return verb == Verb::Build || verb == Verb::Disband || verb == Verb::Waive;
-      case OrderStage::None:
+      default:
         break;
     }
     return false;
@@ -283,14 +283,14 @@ class Grammar {
   }
 
   Phrases& phrases_;
-  OrderStage stage_;
+  model::Stage stage_;
   Verb verb_;
 };
 
 }  // namespace
 
 Parse ParseWrittenOrder(Tokens tokens, const PlaceNames& names, const model::Map& map,
-                        OrderStage stage, Verb verb) {
+                        model::Stage stage, Verb verb) {
   Phrases phrases(tokens, names, map, stage);
   Parse parse;
   parse.Orders = Grammar(phrases, stage, verb).Read();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/stage.h"
 #include "orders/exchange/place_names.h"
 #include "orders/exchange/written_order.h"
 
@@ -32,6 +33,6 @@ struct Parse {
 
 /// Reads the tokens as one order. `verb` is the verb of an order that names none, or None.
 Parse ParseWrittenOrder(Tokens tokens, const PlaceNames& names, const model::Map& map,
-                        OrderStage stage, Verb verb = Verb::None);
+                        model::Stage stage, Verb verb = Verb::None);
 
 }  // namespace orb::exchange

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/stage.h"
 #include "orders/exchange/place_names.h"
 #include "orders/exchange/vocabulary.h"
 #include "orders/exchange/written_order.h"
@@ -15,8 +16,8 @@ struct Heading {
 };
 
 /// Whether the stage has such headings: "Remove:" takes a move back.
-inline bool IsHeadingOf(OrderStage stage, const Heading& heading) {
-  return stage != OrderStage::Moves || heading.Orders != Verb::Disband;
+inline bool IsHeadingOf(model::Stage stage, const Heading& heading) {
+  return stage != model::Stage::Moves || heading.Orders != Verb::Disband;
 }
 
 /// The heading that all the tokens are; nothing when they are none.

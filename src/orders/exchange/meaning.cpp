@@ -3,8 +3,6 @@
 #include "model/lookups.h"
 #include "orders/exchange/exact_line.h"
 #include "orders/exchange/supports.h"
-#include "orders/parser.h"
-#include "orders/syntax_fault.h"
 
 #include <algorithm>
 
@@ -12,11 +10,10 @@ namespace orb::exchange {
 namespace {
 
 using model::Unit;
-using orders::OrderLine;
+using orders::OrderKind;
 
 std::vector<Completed> MovesMeant(const WrittenOrder& written, const UnitMeant& unit,
-                                  const Situation& situation, const std::string& kind,
-                                  Fault& fault) {
+                                  const Situation& situation, OrderKind kind, Fault& fault) {
   std::vector<Completed> orders;
   if (written.ByConvoy && unit.Unit.UnitType == "F") {
     fault = {"only an army is convoyed", written.Destination.At};
@@ -24,7 +21,7 @@ std::vector<Completed> MovesMeant(const WrittenOrder& written, const UnitMeant& 
   }
   for (const std::string& destination :
        situation.DestinationsMeant(written.Destination, unit.Unit, written.ByConvoy)) {
-    OrderLine order = OrderOf(unit.Unit, kind);
+    PlainOrder order = OrderOf(unit.Unit, kind);
     order.Target = destination;
     orders.push_back({std::move(order), unit.Objection});
   }
@@ -35,16 +32,17 @@ std::vector<Completed> OrdersMeant(const WrittenOrder& written, const UnitMeant&
                                    const Situation& situation, Fault& fault) {
   switch (written.What) {
     case Verb::Move:
-      return MovesMeant(written, unit, situation, "-", fault);
+      return MovesMeant(written, unit, situation, OrderKind::Move, fault);
     case Verb::Retreat:
-      return MovesMeant(written, unit, situation, "RETREAT", fault);
+      return MovesMeant(written, unit, situation, OrderKind::Retreat, fault);
     case Verb::Support:
       return SupportsMeant(written, unit, situation, fault);
     case Verb::Convoy:
       return ConvoysMeant(written, unit, situation, fault);
     default:
       return {
-          {OrderOf(unit.Unit, written.What == Verb::Hold ? "HOLD" : "DISBAND"), unit.Objection}};
+          {OrderOf(unit.Unit, written.What == Verb::Hold ? OrderKind::Hold : OrderKind::Disband),
+           unit.Objection}};
   }
 }
 
@@ -90,7 +88,7 @@ std::vector<Completed> BuildsMeant(const WrittenOrder& written, const Situation&
     const bool isHome = unit.Power == home && map.Provinces[centre].IsSupplyCentre != 0;
     std::string objection;
     if (!isHome) objection = unit.Location + " is no home centre of " + unit.Power;
-    orders.push_back({OrderOf(unit, "BUILD"), std::move(objection)});
+    orders.push_back({OrderOf(unit, OrderKind::Build), std::move(objection)});
   }
   return orders;
 }
@@ -119,10 +117,11 @@ void Add(Meanings& meanings, const Completed& order, const Situation& situation,
                   model::FindCountry(order.Order.Power)};
   if (!ReadExactLine(map, situation.Stage, meaning.Line)) {
     if (meanings.Problem) return;
-    const auto fault = situation.Stage == OrderStage::Moves
-                           ? orders::FindSyntaxFault(map, order.Order)
+    const orders::OrderWords words = WordsOf(order.Order);
+    const auto fault = situation.Stage == model::Stage::Moves
+                           ? orders::FindSyntaxFault(map, words, situation.Stage)
                            : orders::SyntaxFault::None;
-    const std::string text = orders::FaultText(order.Order, fault);
+    const std::string text = orders::FaultText(words, fault);
     meanings.Problem = Fault{text.empty() ? "the unit is not on the map" : text, at};
   } else if (std::ranges::none_of(
                  meanings.All, [&](const Meaning& known) { return known.Line == meaning.Line; })) {

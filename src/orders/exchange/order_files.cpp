@@ -86,8 +86,10 @@ std::string OrdersText(const model::GameState& game) {
 }
 
 std::string ProposedOrdersFile(const model::GameState& game) {
-  const bool hasOwnName = game.Stage == "retreats" || game.Stage == "adjustments";
-  return model::SeasonCode(game) + "_" + (hasOwnName ? game.Stage : "orders") + ".txt";
+  const bool hasOwnName =
+      game.Stage == model::Stage::Retreats || game.Stage == model::Stage::Adjustments;
+  return model::SeasonCode(game) + "_" +
+         std::string(hasOwnName ? StageName(game.Stage) : "orders") + ".txt";
 }
 
 }  // namespace orb::exchange

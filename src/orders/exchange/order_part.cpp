@@ -42,10 +42,10 @@ std::size_t PastHeading(Tokens tokens, const Situation& situation, Context& cont
 }
 
 /// `first` is the order's first token: in retreats "A Bur D" says nothing of the unit behind it.
-void LeaveInContext(const WrittenOrder& order, const Token& first, OrderStage stage,
+void LeaveInContext(const WrittenOrder& order, const Token& first, model::Stage stage,
                     Context& context) {
   if (order.Power != 0) context.Power = order.Power;
-  if (stage == OrderStage::Retreats && VerbOf(first) == Verb::None) return;
+  if (stage == model::Stage::Retreats && VerbOf(first) == Verb::None) return;
   if (order.What == Verb::Build || order.What == Verb::Disband) context.Orders = order.What;
 }
 
@@ -57,7 +57,7 @@ PartRead ReadPart(Tokens tokens, const Situation& situation, Context& context) {
   for (std::size_t past = 1; past != 0; start += past)
     past = PastHeading(tokens.subspan(start), situation, context);
   const bool isImplied =
-      situation.Stage == OrderStage::Adjustments || context.Orders == Verb::Disband;
+      situation.Stage == model::Stage::Adjustments || context.Orders == Verb::Disband;
   const Verb verb = isImplied ? context.Orders : Verb::None;
   const Parse parse = ParseWrittenOrder(tokens.subspan(start), situation.Names, *situation.Game.Map,
                                         situation.Stage, verb);

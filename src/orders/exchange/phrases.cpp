@@ -389,11 +389,9 @@ void Phrases::Unknown(std::size_t at, std::string_view reason, std::size_t end) 
 void Phrases::NotInStage(std::size_t at) {
   at = Skip(at);
   if (at >= tokens_.size()) return;
-  constexpr std::array<std::string_view, 4> stages{"", "moves", "retreats", "adjustments"};
-  const std::string_view stage = stages[static_cast<std::size_t>(stage_)];
-  Expected(stage.empty() ? "no orders are taken in this stage"
-                         : Quoted(tokens_.subspan(at, 1)) + " is no order of the stage \"" +
-                               std::string(stage) + "\"",
+  Expected(HasOrders(stage_) ? Quoted(tokens_.subspan(at, 1)) + " is no order of the stage \"" +
+                                   std::string(StageName(stage_)) + "\""
+                             : "no orders are taken in this stage",
            at);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/stage.h"
 #include "orders/exchange/place_names.h"
 #include "orders/exchange/written_order.h"
 
@@ -22,7 +23,7 @@ class Phrases {
   template <class Part>
   using Read = std::vector<std::pair<Part, std::size_t>>;  ///< with the token behind it
 
-  Phrases(Tokens tokens, const PlaceNames& names, const model::Map& map, OrderStage stage)
+  Phrases(Tokens tokens, const PlaceNames& names, const model::Map& map, model::Stage stage)
       : tokens_(tokens), names_(names), map_(map), stage_(stage) {}
 
   PowerName Power(std::size_t at) const;
@@ -79,7 +80,7 @@ class Phrases {
   Tokens tokens_;
   const PlaceNames& names_;
   const model::Map& map_;
-  OrderStage stage_;
+  model::Stage stage_;
   std::optional<Fault> problem_;
 };
 

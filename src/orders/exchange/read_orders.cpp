@@ -89,7 +89,7 @@ class TextReader {
       ReadLineOf(line);
       if (before > 0 && before + 1 == lines_.size()) CheckGoesOn(lines_[before - 1], line);
     }
-    SetAsideReplaced(lines_, quoted_, situation_.Stage == OrderStage::Adjustments);
+    SetAsideReplaced(lines_, quoted_, situation_.Stage == model::Stage::Adjustments);
     return std::move(lines_);
   }
 
@@ -167,7 +167,7 @@ class TextReader {
 
   /// "France: disband" is meant for a dislodged unit, which it does not name.
   bool IsOrderAlone(Tokens tokens, const Heading& heading) const {
-    return situation_.Stage == OrderStage::Retreats && heading.Orders == Verb::Disband &&
+    return situation_.Stage == model::Stage::Retreats && heading.Orders == Verb::Disband &&
            VerbOf(tokens.back()) == Verb::Disband &&
            (tokens.size() == 1 || PowerAt(tokens, 0).Power != 0);
   }
@@ -378,7 +378,7 @@ class TextReader {
 };
 
 void LearnMoves(const std::vector<ReadLine>& lines, Situation& situation) {
-  if (situation.Stage != OrderStage::Moves) return;
+  if (situation.Stage != model::Stage::Moves) return;
   for (const ReadLine& line : lines) {
     if (line.Kind != LineKind::Order) continue;
     const auto order = ReadExactLine(*situation.Game.Map, situation.Stage, line.Order);
@@ -395,7 +395,7 @@ std::vector<ReadLine> ReadOrders(const model::GameState& game, std::string_view 
                             " characters; this one has " + std::to_string(text.size()) + ".");
   }
   const PlaceNames names(*game.Map);
-  Situation situation(game, names, StageOf(game));
+  Situation situation(game, names, game.Stage);
   std::vector<ReadLine> lines = TextReader(situation, options).Read(text);
   LearnMoves(lines, situation);
   // What a support means may depend on moves that are written below it.
@@ -406,7 +406,7 @@ std::vector<ReadLine> ReadOrders(const model::GameState& game, std::string_view 
 ReadLine ReadOrder(const model::GameState& game, std::string_view text,
                    const ReadingOptions& options, const std::vector<ReadLine>& before) {
   const PlaceNames names(*game.Map);
-  Situation situation(game, names, StageOf(game));
+  Situation situation(game, names, game.Stage);
   LearnMoves(before, situation);
   return TextReader(situation, options).ReadOne(text);
 }

@@ -39,7 +39,7 @@ std::vector<UnitMeant> Situation::UnitsMeant(const WrittenUnit& written, int pow
   for (const Unit& unit : Game.Units) {
     for (const int row : written.Place.Rows) {
       if (unit.UnitType.empty() || !model::SamePlace(unit.Location, NameOf(row))) continue;
-      const bool takesOrders = Stage != OrderStage::Retreats || unit.Status == model::Dislodged;
+      const bool takesOrders = Stage != model::Stage::Retreats || unit.Status == model::Dislodged;
       if (takesOrders && Fits(unit, written, owner, NameOf(row))) {
         meant.push_back({unit, {}});
         break;
@@ -50,7 +50,7 @@ std::vector<UnitMeant> Situation::UnitsMeant(const WrittenUnit& written, int pow
   if (!meant.empty()) return meant;
   fault.At = written.Place.At;
   if (other != nullptr) {
-    const bool settled = Stage == OrderStage::Retreats && other->Status != model::Dislodged;
+    const bool settled = Stage == model::Stage::Retreats && other->Status != model::Dislodged;
     fault.Reason = settled ? model::UnitText(*other) + " is not dislodged"
                            : "the unit there is " + model::UnitText(*other);
     return meant;
@@ -94,19 +94,20 @@ std::vector<std::string> Situation::DestinationsMeant(const WrittenPlace& writte
   return possible.empty() ? all : possible;
 }
 
-std::string Situation::Objection(const orders::OrderLine& order) const {
+std::string Situation::Objection(const PlainOrder& order) const {
   const auto stands = [&](const std::string& power, const std::string& type,
                           const std::string& location) {
     return std::any_of(Game.Units.begin(), Game.Units.end(), [&](const Unit& unit) {
       return unit.Power == power && unit.UnitType == type && unit.Location == location &&
-             (Stage != OrderStage::Retreats || unit.Status == model::Dislodged);
+             (Stage != model::Stage::Retreats || unit.Status == model::Dislodged);
     });
   };
   const auto missing = [](const std::string& power, const std::string& type,
                           const std::string& location) {
     return "there is no " + model::UnitText({power, type, location, {}, {}, {}});
   };
-  if (order.Kind != "BUILD" && !stands(order.Power, order.UnitType, order.Location)) {
+  if (order.Kind != orders::OrderKind::Build &&
+      !stands(order.Power, order.UnitType, order.Location)) {
     return missing(order.Power, order.UnitType, order.Location);
   }
   if (!order.UnitType2.empty() && !stands(order.Power2, order.UnitType2, order.Target)) {
@@ -115,16 +116,16 @@ std::string Situation::Objection(const orders::OrderLine& order) const {
   return {};
 }
 
-void Situation::Learn(const orders::OrderLine& order) {
-  std::erase_if(Moves, [&](const orders::OrderLine& known) {
+void Situation::Learn(const PlainOrder& order) {
+  std::erase_if(Moves, [&](const PlainOrder& known) {
     return known.Power == order.Power && known.UnitType == order.UnitType &&
            known.Location == order.Location;
   });
-  if (orders::IsMove(order)) Moves.push_back(order);
+  if (order.Kind == orders::OrderKind::Move) Moves.push_back(order);
 }
 
 const std::string* Situation::OrderedMove(const Unit& unit) const {
-  const auto move = std::ranges::find_if(Moves, [&](const orders::OrderLine& order) {
+  const auto move = std::ranges::find_if(Moves, [&](const PlainOrder& order) {
     return order.Power == unit.Power && order.UnitType == unit.UnitType &&
            order.Location == unit.Location;
   });

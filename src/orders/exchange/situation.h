@@ -2,8 +2,8 @@
 
 #include "model/game_state.h"
 #include "orders/exchange/place_names.h"
+#include "orders/exchange/plain_order.h"
 #include "orders/exchange/written_order.h"
-#include "orders/order_line.h"
 
 #include <string>
 #include <vector>
@@ -20,7 +20,7 @@ struct UnitMeant {
 class Situation {
  public:
   /// The game and the names must outlive it.
-  Situation(const model::GameState& game, const PlaceNames& names, OrderStage stage)
+  Situation(const model::GameState& game, const PlaceNames& names, model::Stage stage)
       : Game(game), Names(names), Stage(stage) {}
 
   /// The units that a written one can mean. `power` is who owns it, 0: anybody; `fallback` owns a
@@ -34,10 +34,10 @@ class Situation {
                                              bool byConvoy) const;
 
   /// Why an order in its exact form can have no effect: one of its units stands nowhere. Or empty.
-  std::string Objection(const orders::OrderLine& order) const;
+  std::string Objection(const PlainOrder& order) const;
 
   /// Takes note of a move; an earlier one of the unit is forgotten, whatever it does now.
-  void Learn(const orders::OrderLine& order);
+  void Learn(const PlainOrder& order);
 
   /// Where the unit is ordered to move to, or nothing.
   const std::string* OrderedMove(const model::Unit& unit) const;
@@ -46,8 +46,8 @@ class Situation {
 
   const model::GameState& Game;
   const PlaceNames& Names;
-  const OrderStage Stage;
-  std::vector<orders::OrderLine> Moves;  ///< those learnt
+  const model::Stage Stage;
+  std::vector<PlainOrder> Moves;  ///< those learnt
 };
 
 /// The abbreviation of a power 1..7; empty for 0.

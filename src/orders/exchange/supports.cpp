@@ -10,14 +10,14 @@ namespace orb::exchange {
 namespace {
 
 using model::Unit;
-using orders::OrderLine;
+using orders::OrderKind;
 
 /// Completes the orders of one unit that supports or convoys.
 class Helper {
  public:
-  Helper(std::string kind, const WrittenOrder& written, const UnitMeant& unit,
+  Helper(orders::OrderKind kind, const WrittenOrder& written, const UnitMeant& unit,
          const Situation& situation)
-      : kind_(std::move(kind)), written_(written), unit_(unit), situation_(situation) {}
+      : kind_(kind), written_(written), unit_(unit), situation_(situation) {}
 
   std::vector<Completed> Supports(Fault& fault) {
     if (written_.Other.Place.Rows.empty()) {
@@ -55,11 +55,11 @@ class Helper {
 
   /// The other unit holds where no destination is given.
   void Add(const UnitMeant& other, const std::string& destination = {}) {
-    OrderLine order = OrderOf(unit_.Unit, kind_);
+    PlainOrder order = OrderOf(unit_.Unit, kind_);
     order.Power2 = other.Unit.Power;
     order.UnitType2 = other.Unit.UnitType;
     order.Target = other.Unit.Location;
-    order.Kind2 = destination.empty() ? "HOLD" : "-";
+    order.Kind2 = destination.empty() ? OrderKind::Hold : OrderKind::Move;
     order.Target2 = destination;
     orders_.push_back(
         {std::move(order), unit_.Objection.empty() ? other.Objection : unit_.Objection});
@@ -99,7 +99,7 @@ class Helper {
   }
 
   void AddOrderedMovesInto(const WrittenPlace& place) {
-    for (const OrderLine& move : situation_.Moves) {
+    for (const PlainOrder& move : situation_.Moves) {
       const Unit mover{move.Power, move.UnitType, move.Location, {}, {}, {}};
       if (IsAt(place, move.Target) && !IsSupporter(mover)) Add({mover, {}}, move.Target);
     }
@@ -127,7 +127,7 @@ class Helper {
         place.Rows, [&](int row) { return model::SamePlace(situation_.NameOf(row), location); });
   }
 
-  std::string kind_;
+  orders::OrderKind kind_;
   const WrittenOrder& written_;
   const UnitMeant& unit_;
   const Situation& situation_;
@@ -136,23 +136,23 @@ class Helper {
 
 }  // namespace
 
-OrderLine OrderOf(const Unit& unit, std::string kind) {
-  OrderLine order;
+PlainOrder OrderOf(const Unit& unit, orders::OrderKind kind) {
+  PlainOrder order;
   order.Power = unit.Power;
   order.UnitType = unit.UnitType;
   order.Location = unit.Location;
-  order.Kind = std::move(kind);
+  order.Kind = kind;
   return order;
 }
 
 std::vector<Completed> SupportsMeant(const WrittenOrder& written, const UnitMeant& unit,
                                      const Situation& situation, Fault& fault) {
-  return Helper("S", written, unit, situation).Supports(fault);
+  return Helper(OrderKind::Support, written, unit, situation).Supports(fault);
 }
 
 std::vector<Completed> ConvoysMeant(const WrittenOrder& written, const UnitMeant& unit,
                                     const Situation& situation, Fault& fault) {
-  return Helper("C", written, unit, situation).Convoys(fault);
+  return Helper(OrderKind::Convoy, written, unit, situation).Convoys(fault);
 }
 
 }  // namespace orb::exchange

@@ -8,7 +8,7 @@ namespace orb::exchange {
 
 /// An order that was completed by the situation.
 struct Completed {
-  orders::OrderLine Order;
+  PlainOrder Order;
   std::string Objection;
 };
 
@@ -22,6 +22,6 @@ std::vector<Completed> ConvoysMeant(const WrittenOrder& written, const UnitMeant
                                     const Situation& situation, Fault& fault);
 
 /// The beginning of any order of the unit.
-orders::OrderLine OrderOf(const model::Unit& unit, std::string kind);
+PlainOrder OrderOf(const model::Unit& unit, orders::OrderKind kind);
 
 }  // namespace orb::exchange

@@ -8,9 +8,6 @@
 
 namespace orb::exchange {
 
-/// The stage that orders are for.
-enum class OrderStage : std::uint8_t { None, Moves, Retreats, Adjustments };
-
 struct TokenRange {
   std::size_t Begin = 0;
   std::size_t End = 0;

@@ -28,7 +28,7 @@ void addChoice(QComboBox& box, const QString& caption, const char* value) {
 }
 
 /// A game file may hold any text here; one that is not among the choices becomes one of them.
-void choose(QComboBox& box, const std::string& value) {
+void choose(QComboBox& box, std::string_view value) {
   const QString text = text::ToQString(value);
   if (box.findData(text) < 0) box.addItem(text, text);
   box.setCurrentIndex(box.findData(text));
@@ -153,7 +153,7 @@ void SeasonDialog::showFacts() {
   m_title->selectAll();
   choose(*m_season, facts.Season);
   m_year->setValue(facts.Year);
-  choose(*m_stage, facts.Stage);
+  choose(*m_stage, model::StageText(m_game));
   for (std::size_t i = 0; i < m_players.size(); ++i)
     m_players[i]->setText(text::ToQString(facts.PlayerNames[i]));
   m_text->setLines(facts.TextLines);
@@ -177,14 +177,14 @@ void SeasonDialog::connectControls() {
 
 /// What the chosen stage means for the game as it stands.
 void SeasonDialog::tellStage() {
-  const std::string stage = chosen(*m_stage);
+  const model::Stage stage = model::StageOf(chosen(*m_stage));
   const auto dislodged =
       std::count_if(m_game.Units.begin(), m_game.Units.end(),
                     [](const model::Unit& unit) { return unit.Status == model::Dislodged; });
   QString note;
-  if (stage == "retreats" && dislodged == 0) {
+  if (stage == model::Stage::Retreats && dislodged == 0) {
     note = tr("No unit is dislodged.");
-  } else if (stage != "retreats" && dislodged > 0) {
+  } else if (stage != model::Stage::Retreats && dislodged > 0) {
     note = tr("Dislodged units stay: %1.").arg(dislodged);
   } else if (model::StageIsBefore(stage, m_game.Stage) && m_game.ReportLines.Count() > 0) {
     note = tr("The report will be emptied.");
@@ -205,7 +205,7 @@ model::SeasonFacts SeasonDialog::facts() const {
   facts.Title = bytesOf(*m_title);
   facts.Season = chosen(*m_season);
   facts.Year = static_cast<std::int16_t>(m_year->value());
-  facts.Stage = chosen(*m_stage);
+  facts.Stage = model::StageOf(chosen(*m_stage));
   std::transform(m_players.begin(), m_players.end(), facts.PlayerNames.begin(),
                  [](const QLineEdit* box) { return bytesOf(*box); });
   facts.TextLines = m_text->lines();

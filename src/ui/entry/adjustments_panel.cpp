@@ -6,7 +6,7 @@
 namespace orb::ui {
 
 AdjustmentsPanel::AdjustmentsPanel(Desk& desk, QWidget* parent)
-    : OrderEntryPanel(desk, "adjustments", &model::GameState::AdjustmentsList,
+    : OrderEntryPanel(desk, model::Stage::Adjustments, &model::GameState::AdjustmentsList,
                       {.panel = QStringLiteral("fraAdjustments"),
                        .list = QStringLiteral("lstAdjustments"),
                        .missing = QStringLiteral("lblAdjustmentsMissing"),

@@ -45,9 +45,8 @@ void showMarks(QListWidget& list, const ListCheck& check,
   for (int row = 0; row < list.count(); ++row) {
     const QString reason = lines(check.Lines.at(static_cast<std::size_t>(row)));
     if (stopped && stopped->Row == row) {
-      const QString result = text::ToQString(stopped->Result);
-      // The check says the same as a rule, and more.
-      const QString why = reason.startsWith(result) ? reason : result + QLatin1Char('\n') + reason;
+      // The check tells the result and more.
+      const QString why = reason.isEmpty() ? text::ToQString(ResultWord(stopped->Result)) : reason;
       showMark(*list.item(row), OrderMark::Stopped,
                QObject::tr("Resolving stopped here: %1").arg(why));
     } else {
@@ -56,15 +55,15 @@ void showMarks(QListWidget& list, const ListCheck& check,
   }
 }
 
-void showMissing(QLabel& label, const ListCheck& check, std::string_view stage) {
-  if (stage == "adjustments") {
+void showMissing(QLabel& label, const ListCheck& check, model::Stage stage) {
+  if (stage == model::Stage::Adjustments) {
     std::vector<std::string> powers;
     for (const adjudication::PowerProblem& problem : check.Powers)
       powers.push_back(problem.Power + ": " + problem.Text);
     label.setText(unfitPowers(powers.size()));
     label.setToolTip(lines(powers));
   } else {
-    label.setText(missingUnits(check.Unordered.size(), stage == "retreats"));
+    label.setText(missingUnits(check.Unordered.size(), stage == model::Stage::Retreats));
     label.setToolTip(lines(check.Unordered));
   }
 }

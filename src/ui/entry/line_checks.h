@@ -17,6 +17,6 @@ void showMarks(QListWidget& list, const adjudication::ListCheck& check,
 
 /// Tells how many units, or in the adjustments powers, are not yet provided for, and in the tooltip
 /// which.
-void showMissing(QLabel& label, const adjudication::ListCheck& check, std::string_view stage);
+void showMissing(QLabel& label, const adjudication::ListCheck& check, model::Stage stage);
 
 }  // namespace orb::ui

@@ -25,7 +25,7 @@ constexpr int Gap = 2;
 
 }  // namespace
 
-OrderEntryPanel::OrderEntryPanel(Desk& desk, std::string_view stage, OrderList list,
+OrderEntryPanel::OrderEntryPanel(Desk& desk, model::Stage stage, OrderList list,
                                  const OrderEntryTexts& texts, QWidget* parent)
     : QWidget(parent),
       m_desk(desk),

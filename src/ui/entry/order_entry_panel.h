@@ -60,7 +60,7 @@ class OrderEntryPanel : public QWidget, public MapTool {
   using OrderList = std::vector<std::string> model::GameState::*;
 
   /// The stage is that of the list.
-  OrderEntryPanel(Desk& desk, std::string_view stage, OrderList list, const OrderEntryTexts& texts,
+  OrderEntryPanel(Desk& desk, model::Stage stage, OrderList list, const OrderEntryTexts& texts,
                   QWidget* parent);
 
   const model::GameState& game() const { return m_desk.game(); }
@@ -106,7 +106,7 @@ class OrderEntryPanel : public QWidget, public MapTool {
   void editSelectedOrder();
 
   Desk& m_desk;
-  std::string m_stage;
+  model::Stage m_stage;
   OrderList m_orders;
   QVBoxLayout* m_column;
   QGridLayout* m_grid;

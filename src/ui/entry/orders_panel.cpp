@@ -5,7 +5,7 @@
 namespace orb::ui {
 
 OrdersPanel::OrdersPanel(Desk& desk, QWidget* parent)
-    : OrderEntryPanel(desk, "moves", &model::GameState::OrdersList,
+    : OrderEntryPanel(desk, model::Stage::Moves, &model::GameState::OrdersList,
                       {.panel = QStringLiteral("fraOrders"),
                        .list = QStringLiteral("lstOrders"),
                        .missing = QStringLiteral("lblOrdersMissing"),

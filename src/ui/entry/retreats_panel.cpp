@@ -5,7 +5,7 @@
 namespace orb::ui {
 
 RetreatsPanel::RetreatsPanel(Desk& desk, QWidget* parent)
-    : OrderEntryPanel(desk, "retreats", &model::GameState::RetreatsList,
+    : OrderEntryPanel(desk, model::Stage::Retreats, &model::GameState::RetreatsList,
                       {.panel = QStringLiteral("fraRetreats"),
                        .list = QStringLiteral("lstRetreats"),
                        .missing = QStringLiteral("lblRetreatsMissing"),

@@ -13,9 +13,9 @@ namespace {
 /// The caption of the topic that helps in a stage.
 QString topicOf(const session::Situation& situation) {
   if (situation.Editing != session::Editing::None) return QObject::tr("Editing");
-  if (situation.Game.Stage == "retreats") return QObject::tr("Retreats");
-  if (situation.Game.Stage == "adjustments") return QObject::tr("Adjustments");
-  if (situation.Game.Stage == "finished") return QObject::tr("Reading the report");
+  if (situation.Game.Stage == model::Stage::Retreats) return QObject::tr("Retreats");
+  if (situation.Game.Stage == model::Stage::Adjustments) return QObject::tr("Adjustments");
+  if (situation.Game.Stage == model::Stage::Finished) return QObject::tr("Reading the report");
   return QObject::tr("Entering orders");
 }
 

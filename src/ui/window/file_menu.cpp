@@ -78,7 +78,7 @@ void FileMenu::showState() {
   m_save->setEnabled(!m_desk.now().ReadOnly || m_desk.game().FileName.empty());
   m_importOrders->setEnabled(session::TakesOrders(m_desk.game()));
   m_exportOrders->setEnabled(session::HasOrders(m_desk.game()));
-  m_animateMove->setEnabled(m_desk.game().Stage == "finished");
+  m_animateMove->setEnabled(m_desk.game().Stage == model::Stage::Finished);
 }
 
 }  // namespace orb::ui

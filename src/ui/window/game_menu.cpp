@@ -10,10 +10,11 @@ using session::Editing;
 
 GameMenu::GameMenu(Desk& desk, QWidget* parent) : QMenu(tr("&Game"), parent), m_desk(desk) {
   setObjectName(QStringLiteral("mnuGame"));
-  addStage(QStringLiteral("mnuGameEnterOrders"), tr("Enter &orders"), "moves");
-  addStage(QStringLiteral("mnuGameEnterRetreats"), tr("Enter &retreats"), "retreats");
-  addStage(QStringLiteral("mnuGameEnterAdjustments"), tr("Enter &adjustments"), "adjustments");
-  addStage(QStringLiteral("mnuGameSeasonFinished"), tr("Season &finished"), "finished");
+  addStage(QStringLiteral("mnuGameEnterOrders"), tr("Enter &orders"), model::Stage::Moves);
+  addStage(QStringLiteral("mnuGameEnterRetreats"), tr("Enter &retreats"), model::Stage::Retreats);
+  addStage(QStringLiteral("mnuGameEnterAdjustments"), tr("Enter &adjustments"),
+           model::Stage::Adjustments);
+  addStage(QStringLiteral("mnuGameSeasonFinished"), tr("Season &finished"), model::Stage::Finished);
   addSeparator();
   addEditing(QStringLiteral("mnuGameEditUnits"), tr("Edit &units"), Editing::Units);
   addEditing(QStringLiteral("mnuGameEditProvinces"), tr("Edit &provinces"), Editing::Provinces);
@@ -31,7 +32,7 @@ GameMenu::GameMenu(Desk& desk, QWidget* parent) : QMenu(tr("&Game"), parent), m_
 }
 
 /// The stage entries tell the stage and choose nothing but its panel.
-void GameMenu::addStage(const QString& name, const QString& caption, std::string_view stage) {
+void GameMenu::addStage(const QString& name, const QString& caption, model::Stage stage) {
   QAction* entry = newEntry(*this, name, caption);
   entry->setCheckable(true);
   m_stages.emplace_back(entry, stage);
@@ -60,7 +61,7 @@ void GameMenu::addEditSteps() {
 }
 
 void GameMenu::showState() {
-  const std::string& now = m_desk.game().Stage;
+  const model::Stage now = m_desk.game().Stage;
   const Editing edited = m_desk.now().Editing;
   for (const auto& [entry, stage] : m_stages) {
     entry->setChecked(stage == now && edited == Editing::None);
@@ -73,7 +74,7 @@ void GameMenu::showState() {
     entry->setVisible(edited != Editing::None);
   m_undoEdit->setEnabled(m_desk.now().Edits.CanUndo());
   m_redoEdit->setEnabled(m_desk.now().Edits.CanRedo());
-  m_undo->setEnabled(now != "moves");
+  m_undo->setEnabled(now != model::Stage::Moves);
   // While something is edited the keys take back a step of the editing.
   m_undo->setShortcut(edited == Editing::None ? QKeySequence::Undo : QKeySequence());
 }

@@ -18,13 +18,13 @@ class GameMenu : public QMenu {
   GameMenu(Desk& desk, QWidget* parent);
 
  private:
-  void addStage(const QString& name, const QString& caption, std::string_view stage);
+  void addStage(const QString& name, const QString& caption, model::Stage stage);
   void addEditing(const QString& name, const QString& caption, session::Editing editing);
   void addEditSteps();
   void showState();
 
   Desk& m_desk;
-  std::vector<std::pair<QAction*, std::string_view>> m_stages;
+  std::vector<std::pair<QAction*, model::Stage>> m_stages;
   std::vector<std::pair<QAction*, session::Editing>> m_editings;
   QAction* m_undoEdit = nullptr;
   QAction* m_redoEdit = nullptr;

@@ -305,9 +305,11 @@ int MainWindow::mapHeight() const {
 void MainWindow::showStagePanel() {
   m_shownPanel = {m_desk.game().Stage, m_desk.now().Editing};
   const auto& [shownStage, editing] = *m_shownPanel;
-  const std::array<std::pair<std::string_view, OrderEntryPanel*>, 3> entryPanels{
-      {{"moves", m_orders}, {"retreats", m_retreats}, {"adjustments", m_adjustments}}};
-  QWidget* shown = shownStage == "finished" ? m_seasonFinished : nullptr;
+  const std::array<std::pair<model::Stage, OrderEntryPanel*>, 3> entryPanels{
+      {{model::Stage::Moves, m_orders},
+       {model::Stage::Retreats, m_retreats},
+       {model::Stage::Adjustments, m_adjustments}}};
+  QWidget* shown = shownStage == model::Stage::Finished ? m_seasonFinished : nullptr;
   for (const auto& [stage, panel] : entryPanels) {
     if (stage == shownStage) shown = panel;
   }

@@ -99,7 +99,7 @@ class MainWindow : public QMainWindow {
   MapMenu* m_mapMenu = nullptr;
   ElidedLabel* m_status = nullptr;
   ElidedLabel* m_fileName = nullptr;
-  std::optional<std::pair<std::string, session::Editing>> m_shownPanel;
+  std::optional<std::pair<model::Stage, session::Editing>> m_shownPanel;
   int m_normalWidth = 0;  ///< of the window, while only the map shows
 };
 
