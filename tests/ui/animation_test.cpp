@@ -1,6 +1,7 @@
 #include "model/files.h"
 #include "model/game_file.h"
 #include "ui/modal_script.h"
+#include "ui/replay/playhead.h"
 #include "ui/window_fixture.h"
 
 #include <QCoreApplication>
@@ -45,6 +46,24 @@ class AnimationTest : public WindowTest {
 
   const TemporaryDirectory folder_;
 };
+
+TEST(Playhead, GoesThroughTheSeasonsToTheEnd) {
+  ui::Playhead head({2, 4});
+  const auto at = [&](auto move) {
+    move();
+    return head.position();
+  };
+  EXPECT_EQ(at([&] { head.advance(1); }), 0.5);
+  EXPECT_EQ(at([&] { head.advance(2); }), 1.25) << "the second season is longer";
+  EXPECT_EQ(at([&] { head.back(); }), 1);
+  EXPECT_EQ(at([&] { head.back(); }), 0);
+  EXPECT_EQ(at([&] { head.forward(); }), 1);
+  EXPECT_FALSE(head.atEnd());
+  EXPECT_EQ(at([&] { head.forward(); }), 2);
+  EXPECT_TRUE(head.atEnd());
+  EXPECT_EQ(at([&] { head.moveTo(-1); }), 0);
+  EXPECT_EQ(at([&] { head.advance(99); }), 2);
+}
 
 TEST_F(AnimationTest, TheSeasonIsPlayedInTheMapsPlaceAndTheGameIsBackAfterIt) {
   EXPECT_FALSE(Find<QAction>("mnuFileAnimateMove").isEnabled());

@@ -118,6 +118,7 @@ TEST_F(WindowTest, PastedOrdersOfAnotherPowerAreFiledOnlyWhenTicked) {
     dialog.findChild<QPushButton*>(QStringLiteral("butExchangeHelp"))->click();
     auto* help = dialog.findChild<ui::HelpWindow*>();
     ASSERT_NE(help, nullptr) << "one that the dialog does not block";
+    EXPECT_TRUE(help->isWindow());
     EXPECT_THAT(help->findChild<QTextBrowser*>()->toPlainText().toStdString(),
                 HasSubstr("fixpaste.dat"));
     help->close();

@@ -235,6 +235,11 @@ TEST_F(WindowTest, ASelectedReportLineSaysWhyAndUndoTakesAllBack) {
       "[ ENG F(Lon) - ECH ]  \n[ FRA F(Bre) - ECH ]  \n  TUR A(Con) - Bul  \n"));
   EXPECT_NE(report.item(0)->foreground(), report.item(2)->foreground());
   EXPECT_EQ(report.item(1)->foreground(), report.item(0)->foreground());
+  const QBrush light = report.item(0)->foreground();
+  QPalette dark = report.palette();
+  dark.setColor(QPalette::Base, Qt::black);
+  report.parentWidget()->setPalette(dark);
+  EXPECT_NE(report.item(0)->foreground(), light) << "it can be read on a dark ground as well";
   EXPECT_NE(Map(), before);
   Trigger("mnuGameUndo");
   EXPECT_EQ(StagePanel(), "fraOrders");
