@@ -2,12 +2,14 @@
 
 #include "model/errors.h"
 #include "orders/parser.h"
+#include "support/drawn_cases.h"
 #include "support/scripted_messages.h"
 #include "support/situation.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -97,63 +99,32 @@ TEST(Binding, AsksInTheOrderOfTheChecks) {
   EXPECT_EQ(bound.Orders[6].Result, orders::OrderResult::NotUsed);
 }
 
-TEST(Linking, ASupportOrConvoyFitsOneOrder) {
-  struct Case {
-    std::vector<std::string> Lines;
-    int Linked;  ///< order that the first order refers to, 0: none
-    bool Carried;
-  };
-  const std::vector<Case> cases = {
-      {{"ENG F(NTH) S A(Lon) - Yor", "ENG A(Lon) - Yor"}, 2, false},
-      {{"ENG F(NTH) S A(Lon) - Yor", "ENG A(Lon) - Wal"}, 0, false},
-      {{"FRA A(Gas) S F(MAO) - Spa", "FRA F(MAO) - Spa.n"}, 0, false},
-      {{"ENG F(NTH) S FRA A(Lon) - Yor", "ENG A(Lon) - Yor"}, 0, false},
-      {{"ENG F(NTH) S F(Lon) - Yor", "ENG A(Lon) - Yor"}, 0, false},
-      {{"ENG F(NTH) S F(Lon) hold", "ENG F(Lon) HOLD"}, 2, false},
-      {{"ENG F(NTH) S F(Lon) hold", "ENG F(Lon)"}, 2, false},
-      {{"ENG F(NTH) S F(Lon) hold", "ENG F(Lon) - Wal"}, 0, false},
-      {{"ENG F(NTH) S F(Lon) hold", "ENG F(Lon) S F(NTH) hold"}, 2, false},
-      {{"ENG F(Edi) S F(NTH) hold", "ENG F(NTH) C A(Lon) - Nwy"}, 2, false},
-      {{"ENG F(NTH) S F(Lon) - Wal", "ENG F(Lon) hold"}, 0, false},
-      {{"ENG F(NTH) S F(Lon) hold", "ENG F(Lon) hold", "> ENG F(Lon) hold"}, 3, false},
-      {{"ENG F(NTH) S F(Lon) hold", "ENG F(Lon) hold", "> ENG F(Lon) - Wal"}, 2, false},
-      {{"ENG F(NTH) S F(Lon) hold", "ENG F(Lon) stays"}, 2, false},
-      {{"ENG F(NTH) C A(Lon) - Nwy", "ENG A(Lon) - Nwy"}, 2, true},
-      {{"ENG F(NTH) C A(Lon) - Nwy", "ENG A(Lon) - Wal"}, 0, false},
-      {{"ENG F(NTH) C A(Lon) - Nwy", "ENG A(Lon) hold"}, 0, false},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(testing::PrintToString(c.Lines));
-    const Bound bound(c.Lines);
-    EXPECT_EQ(bound.Orders[1].LinkedOrder, c.Linked);
-    EXPECT_EQ(bound.Orders[1].Result == orders::OrderResult::NotUsed, c.Linked == 0);
-    EXPECT_EQ(bound.Orders[2].ViaConvoy, c.Carried);
+/// The lines of a row, bound.
+Bound BoundRow(std::string_view row) {
+  std::vector<std::string> lines;
+  while (!row.empty()) {
+    const auto end = std::min(row.find("; "), row.size());
+    lines.emplace_back(row.substr(0, end));
+    row.remove_prefix(std::min(end + 2, row.size()));
+  }
+  return Bound(lines);
+}
+
+TEST(Binding, ASupportOrConvoyFitsOneOrder) {
+  for (const auto& [row, link] : LoadDrawnRows("orders/lines.txt", "links")) {
+    const Bound bound = BoundRow(row);
+    EXPECT_EQ(std::to_string(bound.Orders[1].LinkedOrder) + (bound.Orders[2].ViaConvoy ? "*" : ""),
+              link)
+        << row;
+    EXPECT_EQ(bound.Orders[1].Result == orders::OrderResult::NotUsed, link == "0") << row;
   }
 }
 
-TEST(Possible, WhatAUnitCanReach) {
-  const std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
-      {{"ENG A(Lon) - Wal"}, ""},
-      {{"ENG A(Lon) - Bel"}, "impossible move"},
-      {{"ENG A(Lon) - NTH"}, "impossible move"},
-      {{"ENG A(Lon) - Lon"}, "impossible move"},
-      {{"ENG F(Edi) - Lvp"}, "impossible move"},
-      {{"FRA A(Gas) - Spa.n"}, "impossible move"},
-      {{"FRA F(Gas) - Spa"}, "impossible move"},
-      {{"FRA F(Gas) - Spa.n"}, ""},
-      {{"ENG A(Lon) - Tun", "ENG F(NTH) C A(Lon) - Tun"}, ""},
-      {{"ENG A(Lon) - BAR", "ENG F(NTH) C A(Lon) - BAR"}, "impossible move"},
-      {{"ENG A(Lon) - Spa.n", "ENG F(NTH) C A(Lon) - Spa.n"}, "impossible move"},
-      {{"FRA F(Gas) S F(MAO) - Spa.s", "FRA F(MAO) - Spa.s"}, ""},
-      {{"FRA F(WES) S A(Gas) - Spa", "FRA A(Gas) - Spa"}, ""},
-      {{"FRA A(Gas) S F(Spa.s) hold", "FRA F(Spa.s) hold"}, ""},
-      {{"FRA F(Spa.n) S A(Mar) hold", "FRA A(Mar) hold"}, "impossible support"},
-      {{"FRA A(Par) S F(MAO) - Bre", "FRA F(MAO) - Bre"}, ""},
-      {{"FRA A(Par) S F(Bre) - MAO", "FRA F(Bre) - MAO"}, "impossible support"},
-      {{"ENG F(BAR) C A(Lon) - Tun", "ENG A(Lon) - Tun"}, ""},
-  };
-  for (const auto& [lines, result] : cases)
-    EXPECT_EQ(ResultWord(Bound(lines).Orders[1].Result), result) << lines[0];
+TEST(Binding, RejectsWhatAUnitCannotReach) {
+  for (const auto& [row, result] : LoadDrawnRows("orders/lines.txt", "possible")) {
+    const auto word = ResultWord(BoundRow(row).Orders[1].Result);
+    EXPECT_EQ(word.empty() ? "possible" : word, result) << row;
+  }
 }
 
 }  // namespace

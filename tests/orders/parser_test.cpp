@@ -1,6 +1,7 @@
 #include "orders/parser.h"
 
 #include "model/errors.h"
+#include "support/drawn_cases.h"
 #include "support/scripted_messages.h"
 #include "support/situation.h"
 #include "text/strings.h"
@@ -9,7 +10,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace orb::tests {
@@ -39,35 +39,11 @@ std::string Fields(std::string_view line) {
 }
 
 TEST(Parser, SplitsALineIntoItsFields) {
-  const std::vector<std::pair<std::string, std::string>> cases = {
-      {"ENG A(Lon) - Wal", "ENG|A|Lon|-|||Wal||"},
-      {"  ENG F(Stp.n) - BAR  ", "ENG|F|Stp.n|-|||BAR||"},
-      {"ENG A(Lon) Hold", "ENG|A|Lon|HOLD|||||"},
-      {"ENG A(Lon) hold - Wal", "ENG|A|Lon|HOLD|||||"},
-      {"ENG A(Lon) s A(Wal) hold", "ENG|A|Lon|S|ENG|A|Wal|HOLD|"},
-      {"ENG A(Lon) S A(Wal) hOLD - Yor", "ENG|A|Lon|S|ENG|A|Wal|HOLD|"},
-      {"ENG A(Lon) S FRA A(Wal) - Yor", "ENG|A|Lon|S|FRA|A|Wal|-|Yor"},
-      {"ENG F(NTH) C A(Lon) - Nwy", "ENG|F|NTH|C|ENG|A|Lon|-|Nwy"},
-      {"ENG F(NTH) c FRA A(Lon) hold x", "ENG|F|NTH|C|FRA|A|Lon||x"},
-      {"ENG A(Lon) -", "ENG|A|Lon|-|||(X)||"},
-      {"ENG A(Lon)", "ENG|A|Lon||||||"},
-      {"ENG A(Lon) S", "ENG|A|Lon|S|ENG||X||"},
-      {"ENG A(Lon) C", "ENG|A|Lon|C|ENG||X||(X)"},
-      {"ENG", "ENG||X||||||"},
-      {"", "||X||||||"},
-      {"ENG  A (Lon)-  Wal", "ENG|A |Lon|-|||Wal||"},
-      {"ENG A(Lon)- Wal", "ENG|A|Lon|-|||Wal||"},
-      {"ENG A(Lon) -Wal", "ENG|A|Lon||||||"},
-      {"ENG A( Lon ) - Wal", "ENG|A|Lon |-|||Wal||"},
-      {"ENG\tA(Lon) - Wal", "ENG\tA(Lon)|- Wal |X||||||"},
-      {"ENG A(Lon) S  FRA  A(Wal)  -  Yor", "ENG|A|Lon|S|FRA|A|Wal|-|Yor"},
-      {"ENG A(Lon) S(Wal) hold", "ENG|A|Lon||||||"},
-      {"ENG A(Lon) S (Wal) hold", "ENG|A|Lon|S|ENG||Wal|HOLD|"},
-      {"eng a(lon) \xfc", "eng|a|lon||||||"},
-  };
-  for (const auto& [line, fields] : cases) {
+  for (const auto& [line, fields] : LoadDrawnRows("orders/lines.txt", "parts"))
     EXPECT_EQ(Fields(text::Trim(line)), fields) << line;
-  }
+  EXPECT_EQ(Fields(""), "||X||||||");
+  EXPECT_EQ(Fields("ENG\tA(Lon) - Wal"), "ENG\tA(Lon)|- Wal |X||||||") << "a tab is no blank";
+  EXPECT_EQ(Fields("eng a(lon) \xfc"), "eng|a|lon||||||");
   EXPECT_EQ(Parse({"  ENG A(Lon)  hold "})[1].Text, "ENG A(Lon)  hold");
 }
 
@@ -77,55 +53,18 @@ TEST(Parser, TakesEightyLines) {
 }
 
 TEST(Syntax, OnlyTheTextFormIsCorrect) {
-  const std::vector<std::pair<std::string, bool>> cases = {
-      {"ENG A(Lon) - Wal", true},
-      {"ENG A(Lon) - Wal by sea", true},
-      {"ENG F(Stp.n) - Spa.s", true},
-      {"eng A(Lon) - Wal", false},
-      {"XXX A(Lon) - Wal", false},
-      {"ENG a(Lon) - Wal", false},
-      {"ENG A (Lon) - Wal", false},
-      {"ENG (Lon) - Wal", false},
-      {"ENG A(LON) - Wal", false},
-      {"ENG A(Lon) - wal", false},
-      {"ENG A(Lon) - ", false},
-      {"ENG A(Lon) -", false},
-      {"ENG A(Lon)", false},
-      {"", false},
-      {"ENG A(Lon) HOLD", true},
-      {"ENG A(Lon) hold", true},
-      {"ENG A(Lon) Hold", true},
-      {"ENG A(Lon) holds", false},
-      {"ENG A(Lon) retreat Wal", false},
-      {"ENG A(Lon) s A(Wal) hold", true},
-      {"ENG A(Lon) S FRA A(Wal) Hold", true},
-      {"ENG A(Lon) S A(Wal) - Yor", true},
-      {"ENG A(Lon) S fra A(Wal) - Yor", false},
-      {"ENG A(Lon) S a(Wal) - Yor", false},
-      {"ENG A(Lon) S A(Xyz) - Yor", false},
-      {"ENG A(Lon) S A(Wal) - yor", false},
-      {"ENG A(Lon) S A(Wal) -", false},
-      {"ENG A(Lon) S A(Wal) S A(Yor) hold", false},
-      {"ENG A(Lon) S A(Wal)", false},
-      {"ENG F(NTH) C A(Lon) - Nwy", true},
-      {"ENG F(NTH) c FRA A(Lon) - Nwy", true},
-      {"ENG F(Lon) C A(Lon) - Nwy", false},
-      {"ENG A(NTH) C A(Lon) - Nwy", false},
-      {"ENG F(NTH) C F(Lon) - Nwy", false},
-      {"ENG F(NTH) C A(Lon) hold", false},
-      {"ENG F(NTH) C A(Lon) - Xyz", false},
-      {"ENG F(NTH) C XXX A(Lon) - Nwy", false},
-      {"ENG F(NTH) C A(Lon)", false},
-  };
-  for (const auto& [line, correct] : cases) {
+  for (const auto& [line, verdict] : LoadDrawnRows("orders/lines.txt", "faults")) {
+    SCOPED_TRACE(line);
+    const bool correct = verdict == "correct";
+    EXPECT_EQ(orders::LineFaultText(*RealMap(), line, model::Stage::Moves), correct ? "" : verdict);
     OrderTable table = Parse({line});
     ScriptedMessages messages;
     orders::Questions questions(messages);
     EXPECT_TRUE(orders::CheckOrderSyntax(table, questions));
-    EXPECT_EQ(ResultWord(table[1].Result), correct ? "" : "syntax error") << line;
-    EXPECT_EQ(table[1].Active, correct) << line;
-    EXPECT_EQ(table[1].Failed, !correct) << line;
-    EXPECT_EQ(messages.Questions.size(), correct ? 0U : 1U) << line;
+    EXPECT_EQ(ResultWord(table[1].Result), correct ? "" : "syntax error");
+    EXPECT_EQ(table[1].Active, correct);
+    EXPECT_EQ(table[1].Failed, !correct);
+    EXPECT_EQ(messages.Questions.size(), correct ? 0U : 1U);
   }
 }
 

@@ -80,10 +80,9 @@ TEST(ReadOrders, AsPeopleWriteThem) {
     std::vector<std::string> written;
     std::vector<std::string> expected;
     std::string together;
-    for (const std::string& line : drawn.Drawing) {
-      const auto arrow = line.rfind(" => ");
-      written.push_back(WithBytes(line.substr(0, arrow)));
-      expected.push_back(line.substr(arrow + 4));
+    for (const auto& [line, understood] : Rows(drawn)) {
+      written.push_back(WithBytes(line));
+      expected.push_back(understood);
       together += written.back() + "\n";
     }
     const ReadingOptions options{drawn.Note("power"), {}};
@@ -103,10 +102,9 @@ TEST(TextRepairs, EveryShippedPairHelps) {
   const DrawnCase drawn = LoadDrawnCases("orders/repairs.txt").front();
   const model::GameState game = DrawnGame(drawn);
   std::string all;
-  for (const std::string& line : drawn.Drawing) {
-    const auto arrow = line.rfind(" => ");
-    const std::string written = line.substr(0, arrow);
-    const std::string order = line.substr(arrow + 4);
+  for (const auto& row : Rows(drawn)) {
+    const std::string& written = row.first;
+    const std::string& order = row.second;
     const auto read = [&](const ReadingOptions& options) {
       return Understood(exchange::ReadOrders(game, written, options), 1, written);
     };

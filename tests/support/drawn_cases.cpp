@@ -69,4 +69,20 @@ std::vector<DrawnCase> LoadDrawnCases(std::string_view fileName) {
   return cases;
 }
 
+std::vector<DrawnRow> Rows(const DrawnCase& drawn) {
+  std::vector<DrawnRow> rows;
+  for (const std::string& line : drawn.Drawing) {
+    const auto arrow = line.rfind(" => ");
+    rows.emplace_back(line.substr(0, arrow), line.substr(arrow + 4));
+  }
+  return rows;
+}
+
+std::vector<DrawnRow> LoadDrawnRows(std::string_view fileName, std::string_view caseName) {
+  for (const DrawnCase& drawn : LoadDrawnCases(fileName)) {
+    if (drawn.Name == caseName) return Rows(drawn);
+  }
+  throw std::runtime_error("no case " + std::string(caseName) + " in " + std::string(fileName));
+}
+
 }  // namespace orb::tests

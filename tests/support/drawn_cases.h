@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace orb::tests {
@@ -27,6 +28,15 @@ struct DrawnCase {
   /// The answers of the note "answers": Yes, No, All.
   std::vector<model::Answer> Answers() const;
 };
+
+/// The two sides of a line of the drawing: "what is given => what comes of it".
+using DrawnRow = std::pair<std::string, std::string>;
+
+/// The lines of a case's drawing as rows.
+std::vector<DrawnRow> Rows(const DrawnCase& drawn);
+
+/// The rows of the case with this name. Throws when there is none.
+std::vector<DrawnRow> LoadDrawnRows(std::string_view fileName, std::string_view caseName);
 
 /// The cases of a file below tests/. Throws when there are none.
 std::vector<DrawnCase> LoadDrawnCases(std::string_view fileName);
