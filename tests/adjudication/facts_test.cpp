@@ -6,6 +6,7 @@
 #include "support/scripted_messages.h"
 #include "support/situation.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <array>
@@ -16,6 +17,8 @@ namespace orb::tests {
 namespace {
 
 using adjudication::Resolution;
+using testing::ElementsAre;
+using testing::Pair;
 
 /// "order = sentence", as the case writes it; of several orders with one text the last one's.
 std::string Explained(const model::GameState& game, const Resolution& resolution,
@@ -60,6 +63,10 @@ TEST(Resolution, TellsOfOrdersAsDrawn) {
     ScriptedMessages messages;
     const Resolution resolution = adjudication::ResolveStage(game, messages);
     EXPECT_TRUE(resolution.Completed);
+    if (drawn.Has("stop")) {
+      EXPECT_THAT(messages.Shown, ElementsAre(Pair(drawn.Note("stop"), model::Icon::Stop)));
+      EXPECT_EQ(game.Units.Count(), model::UnitBound);
+    }
     for (const std::string& wanted : drawn.Texts("why"))
       EXPECT_EQ(Explained(game, resolution, wanted), wanted);
     if (drawn.Has("parts")) {

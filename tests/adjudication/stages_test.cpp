@@ -4,36 +4,16 @@
 #include "support/scripted_messages.h"
 #include "support/situation.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace orb::tests {
 namespace {
 
 using model::GameState;
-using model::Icon;
-using testing::ElementsAre;
-using testing::Pair;
-
-TEST(Stages, BuildingEndsAtFortyUnits) {
-  GameState game = EmptyBoard("Autumn", "adjustments");
-  for (int i = 1; i < model::UnitBound; ++i)
-    game.Units.Append().Location = "NTH";
-  Own(game, "ENG Edi Lon Lvp");
-  game.AdjustmentsList = {"ENG build A(Edi)", "ENG build A(Lon)", "ENG build A(Lvp)"};
-  ScriptedMessages messages;
-  EXPECT_TRUE(adjudication::ResolveStage(game, messages).Completed);
-  EXPECT_EQ(game.Units.Count(), model::UnitBound);
-  EXPECT_EQ(game.Units[model::UnitBound].Location, "Edi");
-  EXPECT_THAT(messages.Shown, ElementsAre(Pair("Too many units", Icon::Stop)));
-  EXPECT_EQ(game.Stage, model::Stage::Finished);
-  EXPECT_EQ(game.ReportLines.Count(), 4);
-}
 
 TEST(Stages, TablesHaveBounds) {
   struct Case {

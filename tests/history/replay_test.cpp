@@ -1,5 +1,6 @@
 #include "history/replay_sequence.h"
 #include "model/errors.h"
+#include "support/drawn_cases.h"
 #include "support/situation.h"
 
 #include <gtest/gtest.h>
@@ -38,8 +39,6 @@ GameState Situation(std::string_view stage, const Texts& units, std::string_view
   return game;
 }
 
-/// "+ENG A(Yor) - Nwy" succeeded, "!" failed, "?" was void; a convoy is "C Yor Nwy", a convoyed
-/// move "- Nwy ~".
 orders::OrderKind KindOf(std::string_view word) {
   for (const auto stage :
        {model::Stage::Moves, model::Stage::Retreats, model::Stage::Adjustments}) {
@@ -49,6 +48,8 @@ orders::OrderKind KindOf(std::string_view word) {
   return orders::OrderKind::None;
 }
 
+/// "+ENG A(Yor) - Nwy" succeeded, "!" failed, "?" was void; a convoy is "C Yor Nwy", a convoyed
+/// move "- Nwy ~".
 std::vector<OrderOutcome> Outcomes(const Texts& lines) {
   std::vector<OrderOutcome> outcomes;
   for (const std::string& line : lines) {
@@ -89,68 +90,11 @@ Texts Journeys(const Replay& replay) {
 }
 
 TEST(SeasonReplay, JourneysFollowPositionsAndOutcomes) {
-  struct Case {
-    std::string Name;
-    Texts Units;
-    std::string Contested;
-    Texts Outcomes;
-    Texts Journeys;
-  };
-  const std::vector<Case> cases = {
-      {"moves, stays, built",
-       {"FRA A(Bur) Par", "GER F(Kie) Kie", "GER A(Ber)"},
-       "Bur",
-       {},
-       {"FRA A(Par) - Bur", "GER F(Kie)", "GER A(Ber) appears"}},
-      {"start unknown", {"FRA A(Bur) unknown"}, "", {}, {"FRA A(Bur) appears"}},
-      {"retreat by its marks",
-       {"GER A(Pic) Bur Par", "FRA A(Bur) Par"},
-       "Bur",
-       {},
-       {"GER A(Bur) pushed to Pic", "FRA A(Par) - Bur"}},
-      {"dislodged seasons ago", {"GER A(Pic) Bur Par"}, "Pic", {}, {"GER A(Bur) - Pic"}},
-      {"bounces",
-       {"FRA A(Par) Par", "GER A(Mun) Mun"},
-       "Bur",
-       {"!FRA A(Par) - Bur", "!GER A(Mun) - Bur"},
-       {"FRA A(Par) -x Bur", "GER A(Mun) -x Bur"}},
-      {"void orders do not move", {"FRA A(Par) Par"}, "", {"?FRA A(Par) - Mos"}, {"FRA A(Par)"}},
-      {"fails and retreats",
-       {"GER A(Ruh) Bur", "FRA A(Bur) Par"},
-       "Bur Par",
-       {"!GER A(Bur) - Par", "+FRA A(Par) - Bur", "+GER A(Bur) RETREAT Ruh"},
-       {"GER A(Bur) -x Par pushed to Ruh", "FRA A(Par) - Bur"}},
-      {"dislodged and gone",
-       {"FRA A(Bur) Par"},
-       "Bur",
-       {"+FRA A(Par) - Bur", "!GER A(Bur) HOLD", "+GER A(Bur) DISBAND"},
-       {"FRA A(Par) - Bur", "GER A(Bur) pushed vanishes"}},
-      {"a faulty order's unit is gone",
-       {"FRA A(Bur) Par"},
-       "Bur",
-       {"+FRA A(Par) - Bur", "?GER A(Bur) - Mos", "?GER A(Bur) RETREAT Par", "?ITA A(Rom) HOLD"},
-       {"FRA A(Par) - Bur", "GER A(Bur) pushed vanishes"}},
-      {"moved, retreated, then disbanded",
-       {"GER A(Ber)"},
-       "Kie",
-       {"+ENG F(HEL) - Kie", "!GER A(Bur) HOLD", "+FRA A(Par) - Bur", "+GER A(Bur) RETREAT Bel"},
-       {"ENG F(HEL) - Kie vanishes", "GER A(Bur) pushed to Bel vanishes",
-        "FRA A(Par) - Bur vanishes", "GER A(Ber) appears"}},
-      {"swapped by convoy",
-       {"ENG A(Nwy) Yor", "RUS A(Yor) Nwy", "ENG F(NTH) NTH"},
-       "Nwy Yor",
-       {"+ENG A(Yor) - Nwy ~", "+RUS A(Nwy) - Yor", "+ENG F(NTH) C Yor Nwy"},
-       {"ENG A(Yor) - Nwy via NTH", "RUS A(Nwy) - Yor", "ENG F(NTH)"}},
-      {"fleets in the order of the way: the last is nearer to the start than the one before",
-       {"ENG A(Yor) Lvp", "ENG F(ECH) ECH", "ENG F(NTH) NTH", "ENG F(IRI) IRI"},
-       "Yor",
-       {"+ENG A(Lvp) - Yor ~", "+ENG F(ECH) C Lvp Yor", "+ENG F(NTH) C Lvp Yor",
-        "+ENG F(IRI) C Lvp Yor"},
-       {"ENG A(Lvp) - Yor via IRI via ECH via NTH", "ENG F(ECH)", "ENG F(NTH)", "ENG F(IRI)"}}};
-  for (const Case& test : cases) {
-    const GameState game = Situation("finished", test.Units, test.Contested, "Autumn");
-    const Replay replay = history::SeasonReplay(game, Outcomes(test.Outcomes));
-    EXPECT_EQ(Journeys(replay), test.Journeys) << test.Name;
+  for (const DrawnCase& drawn : LoadDrawnCases("history/journeys.txt")) {
+    SCOPED_TRACE(drawn.Name);
+    const GameState game = Situation("finished", drawn.Drawing, drawn.Note("contested"), "Autumn");
+    const Replay replay = history::SeasonReplay(game, Outcomes(drawn.Texts("order")));
+    EXPECT_EQ(Journeys(replay), drawn.Texts("way"));
     EXPECT_EQ(
         replay.Start.Units.Count() + std::count_if(replay.Journeys.begin(), replay.Journeys.end(),
                                                    [](auto& j) { return j.Appears; }),

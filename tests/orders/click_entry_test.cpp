@@ -1,5 +1,6 @@
 #include "orders/click_entry.h"
 
+#include "support/drawn_cases.h"
 #include "support/situation.h"
 
 #include <gtest/gtest.h>
@@ -27,28 +28,8 @@ TEST(ClickEntry, ClicksWriteAnOrder) {
   const model::GameState game = tests::Board(
       "Spring", "moves",
       {"ENG A(Lvp)", "ENG F(NTH)", "FRA F(Bre)", "RUS F(Stp.s)", "GER A(Bur) <Par", "FRA A(Bur)"});
-  struct Case {
-    const char* Clicks;
-    const char* Text;
-  };
-  const std::vector<Case> cases{{"Lvp Yor", "ENG A(Lvp) - Yor "},
-                                {"Lvp Lvp", "ENG A(Lvp) hold "},
-                                {"Lvp Yor Yor", "ENG A(Lvp) - Yor - Yor "},
-                                {"Lvp Yor Lvp", "ENG A(Lvp) - Yor hold "},
-                                {"Yor NAO Lvp", "ENG A(Lvp) "},
-                                {"Lvp Yor^*", "ENG A(Lvp) - Yor "},
-                                {"NTH^ Lvp Nwy", "ENG F(NTH) S A(Lvp) - Nwy "},
-                                {"NTH^ Yor Lvp Lvp", "ENG F(NTH) S A(Lvp) hold "},
-                                {"NTH^ Bre Bre", "ENG F(NTH) S FRA F(Bre) hold "},
-                                {"NTH* Lvp Nwy", "ENG F(NTH) C A(Lvp) - Nwy "},
-                                {"NTH^* Lvp", "ENG F(NTH) S C A(Lvp) "},
-                                {"NTH^ Lvp^ Bre NTH", "ENG F(NTH) S A(Lvp) S FRA F(Bre) - NTH "},
-                                {"Stp.n BOT", "RUS F(Stp.s) - BOT "},
-                                {"Stp Stp.s", "RUS F(Stp.s) hold "},
-                                {"Bur Mun", "FRA A(Bur) - Mun "}};
-  for (const Case& c : cases)
-    EXPECT_EQ(ClickAll(game, {}, c.Clicks).Text, c.Text) << c.Clicks;
-
+  for (const auto& [clicks, order] : tests::LoadDrawnRows("orders/lines.txt", "clicks"))
+    EXPECT_EQ(ClickAll(game, {}, clicks).Text, order + " ") << clicks;
   EXPECT_EQ(ClickAll(game, {"ENG A(Lvp) - ", false, "Lvp"}, "Yor").Text, "ENG A(Lvp) - Yor ");
   EXPECT_EQ(ClickAll(game, {"ENG F(NTH) S ", true, {}}, "Lvp").Text, "ENG F(NTH) S A(Lvp) ");
 }
