@@ -2,8 +2,8 @@
 
 #include "adjudication/stages.h"
 #include "model/game_file.h"
+#include "support/boards.h"
 #include "support/scripted_messages.h"
-#include "support/situation.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -2,9 +2,9 @@
 #include "adjudication/outcomes.h"
 #include "adjudication/participants.h"
 #include "adjudication/stages.h"
+#include "support/boards.h"
 #include "support/drawn_cases.h"
 #include "support/scripted_messages.h"
-#include "support/situation.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "adjudication/list_check.h"
 
 #include "orders/order_list.h"
+#include "support/boards.h"
 #include "support/drawn_cases.h"
-#include "support/situation.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

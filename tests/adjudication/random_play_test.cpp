@@ -7,9 +7,9 @@
 #include "model/new_game.h"
 #include "model/place.h"
 #include "model/seasons.h"
+#include "support/boards.h"
 #include "support/directories.h"
 #include "support/scripted_messages.h"
-#include "support/situation.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "adjudication/stages.h"
 
 #include "model/errors.h"
+#include "support/boards.h"
 #include "support/scripted_messages.h"
-#include "support/situation.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "cli/command.h"
-#include "cli/desk.h"
 #include "cli/help.h"
 #include "cli/run.h"
+#include "cli/shell.h"
 #include "model/messages.h"
 #include "text/encoding.h"
 
@@ -17,14 +17,14 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 TEST(CommandLine, WhatIsWrongIsRefusedAndNothingIsDone) {
-  const Desk desk;
-  desk.Run("new -o @a.orb");
-  desk.Run("new -o @b.orb");
-  desk.MakeDirectory("out");
-  desk.MakeDirectory("other");
-  desk.Run("new -o @other/a.orb");
-  const std::string before = desk.Listing();
-  const std::string game = desk.Read("a.orb");
+  const Shell shell;
+  shell.Run("new -o @a.orb");
+  shell.Run("new -o @b.orb");
+  shell.MakeDirectory("out");
+  shell.MakeDirectory("other");
+  shell.Run("new -o @other/a.orb");
+  const std::string before = shell.Listing();
+  const std::string game = shell.Read("a.orb");
   const std::vector<std::string_view> lines{
       "",
       "frob @a.orb",
@@ -65,23 +65,23 @@ TEST(CommandLine, WhatIsWrongIsRefusedAndNothingIsDone) {
       "map -o @m.png @m.png",
       "--data @nowhere new -o @c.orb"};
   for (const std::string_view line : lines) {
-    const Outcome outcome = desk.Run(line);
+    const Outcome outcome = shell.Run(line);
     EXPECT_EQ(outcome.Status, 2) << line;
     EXPECT_EQ(outcome.Out, "") << line;
     EXPECT_THAT(outcome.Err, StartsWith("orbctl: ")) << line;
-    EXPECT_EQ(desk.Listing(), before) << line;
-    EXPECT_EQ(desk.Read("a.orb"), game) << line;
+    EXPECT_EQ(shell.Listing(), before) << line;
+    EXPECT_EQ(shell.Read("a.orb"), game) << line;
   }
 }
 
 TEST(CommandLine, HelpNamesEveryOptionOfTheCommandAndGoesToStandardOutput) {
-  const Desk desk;
-  const Outcome whole = desk.Run("--help");
+  const Shell shell;
+  const Outcome whole = shell.Run("--help");
   for (const cli::Command* command :
        {&cli::NewCommand, &cli::ResolveCommand, &cli::NextCommand, &cli::UndoCommand,
         &cli::CheckCommand, &cli::ShowCommand, &cli::MapCommand}) {
     EXPECT_THAT(whole.Out, HasSubstr("\n  " + std::string(command->Name) + " "));
-    const Outcome outcome = desk.Run(std::string(command->Name) + " --help");
+    const Outcome outcome = shell.Run(std::string(command->Name) + " --help");
     EXPECT_EQ(outcome.Status, 0);
     EXPECT_EQ(outcome.Err, "");
     for (const cli::Option& option : cli::AllOptions()) {
@@ -92,14 +92,14 @@ TEST(CommandLine, HelpNamesEveryOptionOfTheCommandAndGoesToStandardOutput) {
           << command->Name << row;
     }
   }
-  EXPECT_EQ(desk.Run("--version").Out, std::string(model::ProgramName) + ", orbctl\n");
+  EXPECT_EQ(shell.Run("--version").Out, std::string(model::ProgramName) + ", orbctl\n");
 }
 
 TEST(CommandLine, ValuesMayStandBehindAnEqualsSignAndNamesMayBeginWithADash) {
-  const Desk desk;
-  EXPECT_EQ(desk.Run("new -o @a.orb --title=x=y").Status, 0);
-  EXPECT_THAT(desk.Read("a.orb"), HasSubstr("\"x=y\",\"Spring\""));
-  const Outcome outcome = desk.Run("show -- --a.orb");
+  const Shell shell;
+  EXPECT_EQ(shell.Run("new -o @a.orb --title=x=y").Status, 0);
+  EXPECT_THAT(shell.Read("a.orb"), HasSubstr("\"x=y\",\"Spring\""));
+  const Outcome outcome = shell.Run("show -- --a.orb");
   EXPECT_EQ(outcome.Status, 1);
   EXPECT_THAT(outcome.Err, StartsWith("--a.orb: "));
 }

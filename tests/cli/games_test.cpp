@@ -1,5 +1,5 @@
-#include "cli/desk.h"
 #include "cli/orders_source.h"
+#include "cli/shell.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -37,59 +37,59 @@ TEST(OrderLines, EndInLfOrCrLfAndBlankOnesAreSkipped) {
 }
 
 TEST(Resolve, PrintsTheReportAsItStandsWithItsBlanks) {
-  const Desk desk;
-  desk.Write("a.orb", TwoUnitGame());
-  desk.Write("o.txt", "FRA A(Par) - Bur\r\n \t\r\n  GER A(Mun) - Bur \nGER A(M\xfcn) hold");
-  const Outcome outcome = desk.Run("resolve --yes --orders @o.txt -o @b.orb @a.orb");
+  const Shell shell;
+  shell.Write("a.orb", TwoUnitGame());
+  shell.Write("o.txt", "FRA A(Par) - Bur\r\n \t\r\n  GER A(Mun) - Bur \nGER A(M\xfcn) hold");
+  const Outcome outcome = shell.Run("resolve --yes --orders @o.txt -o @b.orb @a.orb");
   EXPECT_EQ(outcome.Status, 0);
   EXPECT_EQ(outcome.Out,
             "[ FRA A(Par) - Bur ]  \n"
             "[ GER A(Mun) - Bur ]  \n"
             "[ GER A(M\xfcn) hold ]  syntax error\n");
   EXPECT_EQ(outcome.Err, "@a.orb: Warning: GER A(M\xfcn) hold syntax error. Continue?\n");
-  EXPECT_THAT(desk.Read("b.orb"), HasSubstr(",1901,\"finished\"\r\n"));
-  EXPECT_EQ(desk.Read("a.orb"), TwoUnitGame());
+  EXPECT_THAT(shell.Read("b.orb"), HasSubstr(",1901,\"finished\"\r\n"));
+  EXPECT_EQ(shell.Read("a.orb"), TwoUnitGame());
 }
 
 TEST(Resolve, TakesTheStoredOrdersUnlessThereIsAnOrdersFile) {
-  const Desk desk;
+  const Shell shell;
   std::string game = TwoUnitGame();
   game.replace(game.find("\r\n0\r\n0\r\n"), 8,
                "\r\n2\r\n\"FRA A(Par) - Pic\"\r\n\"GER A(Mun) - Boh\"\r\n0\r\n");
-  desk.Write("a.orb", game);
-  desk.Write("o.txt", "FRA A(Par) - Gas\nGER A(Mun) hold\n");
-  desk.MakeDirectory("orders");
-  EXPECT_EQ(desk.Run("resolve -o @b.orb @a.orb").Out,
+  shell.Write("a.orb", game);
+  shell.Write("o.txt", "FRA A(Par) - Gas\nGER A(Mun) hold\n");
+  shell.MakeDirectory("orders");
+  EXPECT_EQ(shell.Run("resolve -o @b.orb @a.orb").Out,
             "  FRA A(Par) - Pic  \n  GER A(Mun) - Boh  \n");
-  EXPECT_EQ(desk.Run("resolve --orders @o.txt -o @b.orb @a.orb").Out,
+  EXPECT_EQ(shell.Run("resolve --orders @o.txt -o @b.orb @a.orb").Out,
             "  FRA A(Par) - Gas  \n  GER A(Mun) hold  \n");
-  EXPECT_EQ(desk.Run("resolve --yes --orders @orders -o @b.orb @a.orb").Out,
+  EXPECT_EQ(shell.Run("resolve --yes --orders @orders -o @b.orb @a.orb").Out,
             "  FRA A(Par) unordered; hold  \n  GER A(Mun) unordered; hold  \n");
-  const Outcome missing = desk.Run("resolve --yes --orders @none.txt -o @c.orb @a.orb");
+  const Outcome missing = shell.Run("resolve --yes --orders @none.txt -o @c.orb @a.orb");
   EXPECT_EQ(missing.Status, 1);
   EXPECT_THAT(missing.Err, StartsWith("@a.orb: Cannot read @none.txt: "));
-  EXPECT_EQ(desk.Read("c.orb"), "none");
+  EXPECT_EQ(shell.Read("c.orb"), "none");
 }
 
 TEST(Resolve, DirectoriesHoldAFileForEachGame) {
-  const Desk desk;
+  const Shell shell;
   for (const char* name : {"in", "orders", "out", "reports", "why"})
-    desk.MakeDirectory(name);
-  desk.Write("in/x.y.dat", TwoUnitGame());
-  desk.Write("in/z", GameFile("Autumn", "retreats", "FRA A(Bur) <Mun\nGER A(Par)"));
-  desk.Write("orders/x.y.txt", "FRA A(Par) - Bur\nGER A(Mun) hold\n");
-  desk.Write("orders/z.txt", "FRA A(Bur) RETREAT Gas\n");
-  const Outcome outcome = desk.Run(
+    shell.MakeDirectory(name);
+  shell.Write("in/x.y.dat", TwoUnitGame());
+  shell.Write("in/z", GameFile("Autumn", "retreats", "FRA A(Bur) <Mun\nGER A(Par)"));
+  shell.Write("orders/x.y.txt", "FRA A(Par) - Bur\nGER A(Mun) hold\n");
+  shell.Write("orders/z.txt", "FRA A(Bur) RETREAT Gas\n");
+  const Outcome outcome = shell.Run(
       "resolve --orders @orders --report @reports --reasons @why -o @out @in/x.y.dat @in/z");
   EXPECT_EQ(outcome.Status, 0);
   EXPECT_EQ(outcome.Out + outcome.Err, "");
-  EXPECT_EQ(desk.Listing(),
+  EXPECT_EQ(shell.Listing(),
             "in in/x.y.dat in/z orders orders/x.y.txt orders/z.txt out out/x.y.orb out/z.orb "
             "reports reports/x.y.txt reports/z.txt why why/x.y.txt why/z.txt ");
-  EXPECT_EQ(desk.Read("reports/x.y.txt"), "  FRA A(Par) - Bur  \n  GER A(Mun) hold  \n");
-  EXPECT_EQ(desk.Read("reports/z.txt"), "FRA A(Bur) !  retreat Gas\n");
-  EXPECT_EQ(desk.Read("why/z.txt"), "It retreated: Gas was free.\n");
-  const std::string reasons = desk.Read("why/x.y.txt");
+  EXPECT_EQ(shell.Read("reports/x.y.txt"), "  FRA A(Par) - Bur  \n  GER A(Mun) hold  \n");
+  EXPECT_EQ(shell.Read("reports/z.txt"), "FRA A(Bur) !  retreat Gas\n");
+  EXPECT_EQ(shell.Read("why/z.txt"), "It retreated: Gas was free.\n");
+  const std::string reasons = shell.Read("why/x.y.txt");
   EXPECT_EQ(std::count(reasons.begin(), reasons.end(), '\n'), 2);
 }
 
@@ -113,35 +113,35 @@ TEST(Resolve, QuestionsAreAnsweredNoUnlessToldYes) {
        question("FRA X no such unit.") + question("FRA not enough units."), 0},
   };
   for (const Case& c : cases) {
-    const Desk desk;
-    desk.Write("a.orb", c.Game);
-    desk.Write("o.txt", c.Orders);
-    const Outcome no = desk.Run("resolve --orders @o.txt --report @r.txt -o @b.orb @a.orb");
+    const Shell shell;
+    shell.Write("a.orb", c.Game);
+    shell.Write("o.txt", c.Orders);
+    const Outcome no = shell.Run("resolve --orders @o.txt --report @r.txt -o @b.orb @a.orb");
     EXPECT_EQ(no.Status, 1);
     EXPECT_EQ(no.Out + no.Err, c.NoErr);
-    EXPECT_EQ(desk.Listing(), "a.orb o.txt ");
-    const Outcome yes = desk.Run("resolve --yes --orders @o.txt --in-place @a.orb");
+    EXPECT_EQ(shell.Listing(), "a.orb o.txt ");
+    const Outcome yes = shell.Run("resolve --yes --orders @o.txt --in-place @a.orb");
     EXPECT_EQ(yes.Status, c.YesStatus) << c.Orders;
     EXPECT_EQ(yes.Err, c.NoErr + c.YesErr);
-    EXPECT_EQ(desk.Read("a.orb") == c.Game, c.YesStatus != 0) << c.Orders;
+    EXPECT_EQ(shell.Read("a.orb") == c.Game, c.YesStatus != 0) << c.Orders;
   }
 }
 
 TEST(Games, ThatCannotBeReadAreRefusedAndTheOthersDone) {
-  const Desk desk;
+  const Shell shell;
   const std::string good = TwoUnitGame();
   std::string nowhere = good;
   nowhere.replace(nowhere.find("\"Cly\""), 5, "\"Atl\"");
-  desk.MakeDirectory("out");
-  desk.MakeDirectory("folder.orb");
+  shell.MakeDirectory("out");
+  shell.MakeDirectory("folder.orb");
   for (const char* name : {"first.orb", "last.orb"})
-    desk.Write(name, good);
-  desk.Write("cut.orb", good.substr(0, good.size() / 2));
-  desk.Write("nowhere.orb", nowhere);
-  const Outcome outcome = desk.Run(
+    shell.Write(name, good);
+  shell.Write("cut.orb", good.substr(0, good.size() / 2));
+  shell.Write("nowhere.orb", nowhere);
+  const Outcome outcome = shell.Run(
       "resolve --yes -o @out @first.orb @cut.orb @nowhere.orb @missing.orb @folder.orb @last.orb");
   EXPECT_EQ(outcome.Status, 1);
-  EXPECT_EQ(desk.Listing(),
+  EXPECT_EQ(shell.Listing(),
             "cut.orb first.orb folder.orb last.orb nowhere.orb out out/first.orb out/last.orb ");
   for (const std::string name : {"cut", "nowhere", "missing", "folder"}) {
     EXPECT_THAT(outcome.Err, HasSubstr("@" + name + ".orb: ")) << name;
@@ -162,11 +162,12 @@ TEST(Games, AreRefusedInLinesOfOneEncoding) {
       {"\xfc", broken("\xfc", "\xfc.orb") + "found \"M\xfc\".\n"},
       {"good", "@good.orb: Cannot read @\xfc \x80 ?.txt: No such file or directory.\n"},
   };
-  const Desk desk;
-  desk.Write("good.orb", TwoUnitGame());
+  const Shell shell;
+  shell.Write("good.orb", TwoUnitGame());
   for (const auto& [name, line] : cases) {
-    if (name != "good") desk.Write(name + ".orb", "\"ORB v5.5\"\nT,Spring,M\xfc,moves\n");
-    EXPECT_EQ(desk.Run({"resolve", "--in-place", "--orders", "@\xc3\xbc \xe2\x82\xac \xc5\x81.txt",
+    if (name != "good") shell.Write(name + ".orb", "\"ORB v5.5\"\nT,Spring,M\xfc,moves\n");
+    EXPECT_EQ(shell
+                  .Run({"resolve", "--in-place", "--orders", "@\xc3\xbc \xe2\x82\xac \xc5\x81.txt",
                         "@" + name + ".orb"})
                   .Err,
               line);
@@ -174,74 +175,74 @@ TEST(Games, AreRefusedInLinesOfOneEncoding) {
 }
 
 TEST(Games, AreReplacedWholeOrNotAtAll) {
-  const Desk desk;
-  desk.Write("a.orb", TwoUnitGame());
-  desk.MakeDirectory("folder");
+  const Shell shell;
+  shell.Write("a.orb", TwoUnitGame());
+  shell.MakeDirectory("folder");
   for (const std::string_view line :
        {"resolve --yes -o @none/b.orb @a.orb",
         "resolve --yes --in-place --report @none/r.txt @a.orb",
         "resolve --yes --in-place --reasons @none/r.txt @a.orb", "new -o @none/b.orb",
         "resolve --yes -o @none/b.orb --report @r.txt @none.orb", "map -o @none/b.png @a.orb"}) {
-    const Outcome outcome = desk.Run(line);
+    const Outcome outcome = shell.Run(line);
     EXPECT_EQ(outcome.Status, 1) << line;
     EXPECT_EQ(outcome.Out, "") << line;
     EXPECT_THAT(outcome.Err, HasSubstr("none")) << line;
-    EXPECT_EQ(desk.Listing(), "a.orb folder ") << line;
-    EXPECT_EQ(desk.Read("a.orb"), TwoUnitGame()) << line;
+    EXPECT_EQ(shell.Listing(), "a.orb folder ") << line;
+    EXPECT_EQ(shell.Read("a.orb"), TwoUnitGame()) << line;
   }
   std::string quoted = TwoUnitGame();
   quoted.replace(quoted.find(R"("FRA","")"), 8, R"(FRA,Jo "J")");
-  desk.Write("a.orb", quoted);
-  EXPECT_EQ(desk.Run("resolve --yes --in-place --report @r.txt @a.orb").Status, 1);
-  EXPECT_EQ(desk.Read("r.txt"), "none") << "the report of a game that cannot be stored";
+  shell.Write("a.orb", quoted);
+  EXPECT_EQ(shell.Run("resolve --yes --in-place --report @r.txt @a.orb").Status, 1);
+  EXPECT_EQ(shell.Read("r.txt"), "none") << "the report of a game that cannot be stored";
 }
 
 TEST(Resolve, WritesReportAndReasonsToDevicesToo) {
-  const Desk desk;
-  desk.Write("a.orb", TwoUnitGame());
-  const std::string report = desk.Run("resolve --yes --reasons @why.txt -o @b.orb @a.orb").Out;
-  const std::string reasons = desk.Read("why.txt");
+  const Shell shell;
+  shell.Write("a.orb", TwoUnitGame());
+  const std::string report = shell.Run("resolve --yes --reasons @why.txt -o @b.orb @a.orb").Out;
+  const std::string reasons = shell.Read("why.txt");
   const std::vector<std::pair<std::string, std::string>> cases{
       {"--reasons /dev/stdout", report + reasons},
       {"--report /dev/stdout --reasons /dev/stdout", report + reasons},
       {"--report /dev/null --reasons /dev/null", ""},
   };
   for (const auto& [options, out] : cases) {
-    const Outcome outcome = desk.Run("resolve --yes " + options + " -o @b.orb @a.orb");
+    const Outcome outcome = shell.Run("resolve --yes " + options + " -o @b.orb @a.orb");
     EXPECT_EQ(outcome.Status, 0) << outcome.Err;
     EXPECT_EQ(outcome.Out, out) << options;
   }
-  const Outcome full = desk.Run("resolve --yes --in-place --report /dev/full @a.orb");
+  const Outcome full = shell.Run("resolve --yes --in-place --report /dev/full @a.orb");
   EXPECT_EQ(full.Status, 1);
   EXPECT_THAT(full.Err, EndsWith("Cannot write /dev/full.\n"));
-  EXPECT_EQ(desk.Read("a.orb"), TwoUnitGame());
+  EXPECT_EQ(shell.Read("a.orb"), TwoUnitGame());
 }
 
 TEST(Resolve, OrdersThatCannotBeReachedAreNotTakenForMissing) {
-  const Desk desk;
-  desk.Write("a.orb", TwoUnitGame());
-  desk.MakeDirectory("orders");
-  std::filesystem::create_symlink("gone.txt", desk.Directory().Path() / "orders/a.txt");
-  const Outcome outcome = desk.Run("resolve --yes --in-place --orders @orders @a.orb");
+  const Shell shell;
+  shell.Write("a.orb", TwoUnitGame());
+  shell.MakeDirectory("orders");
+  std::filesystem::create_symlink("gone.txt", shell.Directory().Path() / "orders/a.txt");
+  const Outcome outcome = shell.Run("resolve --yes --in-place --orders @orders @a.orb");
   EXPECT_EQ(outcome.Status, 1);
   EXPECT_THAT(outcome.Err, StartsWith("@a.orb: Cannot read @orders/a.txt: "));
-  EXPECT_EQ(desk.Read("a.orb"), TwoUnitGame());
+  EXPECT_EQ(shell.Read("a.orb"), TwoUnitGame());
 }
 
 TEST(Games, NamedAgainBehindOutputAreReplacedInPlace) {
-  const Desk desk;
-  desk.Write("a.orb", TwoUnitGame());
-  const Outcome byName = desk.Run("resolve --yes -o @a.orb @a.orb");
+  const Shell shell;
+  shell.Write("a.orb", TwoUnitGame());
+  const Outcome byName = shell.Run("resolve --yes -o @a.orb @a.orb");
   EXPECT_EQ(byName.Status, 0) << byName.Err;
-  EXPECT_THAT(desk.Read("a.orb"), HasSubstr("\"finished\""));
-  EXPECT_EQ(desk.Run({"undo", "-o", "@", "@a.orb"}).Status, 0);
-  EXPECT_THAT(desk.Read("a.orb"), HasSubstr("\"moves\""));
-  EXPECT_EQ(desk.Listing(), "a.orb ");
-  std::filesystem::create_symlink("a.orb", desk.Directory().Path() / "link.orb");
-  EXPECT_EQ(desk.Run("resolve --yes --in-place @link.orb").Status, 0);
-  EXPECT_THAT(desk.Read("a.orb"), HasSubstr("\"finished\""));
-  EXPECT_TRUE(std::filesystem::is_symlink(desk.Directory().Path() / "link.orb"));
-  EXPECT_EQ(desk.Run("undo --in-place @link.orb @a.orb").Status, 2);
+  EXPECT_THAT(shell.Read("a.orb"), HasSubstr("\"finished\""));
+  EXPECT_EQ(shell.Run({"undo", "-o", "@", "@a.orb"}).Status, 0);
+  EXPECT_THAT(shell.Read("a.orb"), HasSubstr("\"moves\""));
+  EXPECT_EQ(shell.Listing(), "a.orb ");
+  std::filesystem::create_symlink("a.orb", shell.Directory().Path() / "link.orb");
+  EXPECT_EQ(shell.Run("resolve --yes --in-place @link.orb").Status, 0);
+  EXPECT_THAT(shell.Read("a.orb"), HasSubstr("\"finished\""));
+  EXPECT_TRUE(std::filesystem::is_symlink(shell.Directory().Path() / "link.orb"));
+  EXPECT_EQ(shell.Run("undo --in-place @link.orb @a.orb").Status, 2);
 }
 
 TEST(Seasons, CommandsThatRefuseLeaveTheGame) {
@@ -253,21 +254,21 @@ TEST(Seasons, CommandsThatRefuseLeaveTheGame) {
       {"check", "Spring", "finished", "There are no orders to check in the stage \"finished\"."},
   };
   for (const auto& c : cases) {
-    const Desk desk;
+    const Shell shell;
     const std::string game = GameFile(c[1], c[2], TwoUnits);
-    desk.Write("a.orb", game);
-    const Outcome outcome = desk.Run(c[0] + " @a.orb");
+    shell.Write("a.orb", game);
+    const Outcome outcome = shell.Run(c[0] + " @a.orb");
     EXPECT_EQ(outcome.Status, 1) << c[0];
     EXPECT_EQ(outcome.Out + outcome.Err, "@a.orb: " + c[3] + "\n");
-    EXPECT_EQ(desk.Read("a.orb"), game);
+    EXPECT_EQ(shell.Read("a.orb"), game);
   }
 }
 
 TEST(Check, PrintsEachProblemAndWritesNothing) {
-  const Desk desk;
-  desk.Write("a.orb", TwoUnitGame());
-  desk.Write("o.txt", "FRA A(Par) - Bur\n ENG \nFRA A(Par) - Lon\n");
-  const Outcome outcome = desk.Run("check --orders @o.txt @a.orb");
+  const Shell shell;
+  shell.Write("a.orb", TwoUnitGame());
+  shell.Write("o.txt", "FRA A(Par) - Bur\n ENG \nFRA A(Par) - Lon\n");
+  const Outcome outcome = shell.Run("check --orders @o.txt @a.orb");
   EXPECT_EQ(outcome.Status, 1);
   EXPECT_EQ(outcome.Err, "");
   EXPECT_EQ(outcome.Out,
@@ -275,75 +276,75 @@ TEST(Check, PrintsEachProblemAndWritesNothing) {
             "@a.orb: ENG: syntax error: the unit is missing\n"
             "@a.orb: FRA A(Par) - Lon: impossible move: no army can move from Par to Lon\n"
             "@a.orb: GER A(Mun): unordered\n");
-  desk.Write("o.txt", "FRA A(Par) - Bur\nGER A(Mun) hold\n");
-  EXPECT_EQ(desk.Run("check --orders @o.txt @a.orb").Status, 0);
-  EXPECT_EQ(desk.Read("a.orb"), TwoUnitGame());
-  EXPECT_EQ(desk.Listing(), "a.orb o.txt ");
+  shell.Write("o.txt", "FRA A(Par) - Bur\nGER A(Mun) hold\n");
+  EXPECT_EQ(shell.Run("check --orders @o.txt @a.orb").Status, 0);
+  EXPECT_EQ(shell.Read("a.orb"), TwoUnitGame());
+  EXPECT_EQ(shell.Listing(), "a.orb o.txt ");
 }
 
 TEST(Progress, IsShownForLongRunsOnATerminalAndClearedAtTheEnd) {
-  const Desk desk;
-  desk.MakeDirectory("out");
+  const Shell shell;
+  shell.MakeDirectory("out");
   std::vector<std::string> arguments{"resolve", "--report", "@out", "-o", "@out"};
   for (int i = 0; i < 60; ++i) {
     const std::string name = std::to_string(i).append(".orb");
-    desk.Write(name, GameFile("Spring", "moves", i == 30 ? "FRA A(Par)" : ""));
+    shell.Write(name, GameFile("Spring", "moves", i == 30 ? "FRA A(Par)" : ""));
     arguments.push_back(std::string("@").append(name));
   }
-  const Outcome shown = desk.Run(arguments, true);
+  const Outcome shown = shell.Run(arguments, true);
   EXPECT_THAT(shown.Err, StartsWith("\r1 of 60 games\r2 of 60"));
   EXPECT_THAT(shown.Err, HasSubstr("\r              \r@30.orb: Warning: "));
   EXPECT_THAT(shown.Err, EndsWith("\r60 of 60 games\r              \r"));
-  EXPECT_EQ(desk.Run(arguments, false).Err, "@30.orb: Warning: FRA A(Par) unordered. Continue?\n");
+  EXPECT_EQ(shell.Run(arguments, false).Err, "@30.orb: Warning: FRA A(Par) unordered. Continue?\n");
 }
 
 TEST(Games, ManyShownHaveHeadings) {
-  const Desk desk;
-  desk.Write("a.orb", TwoUnitGame());
-  const Outcome one = desk.Run("show @a.orb");
-  const Outcome two = desk.Run("show @a.orb @none.orb @a.orb");
+  const Shell shell;
+  shell.Write("a.orb", TwoUnitGame());
+  const Outcome one = shell.Run("show @a.orb");
+  const Outcome two = shell.Run("show @a.orb @none.orb @a.orb");
   EXPECT_EQ(one.Status * 10 + two.Status, 1);
   EXPECT_EQ(two.Out, "== @a.orb\n" + one.Out + "== @a.orb\n" + one.Out);
 }
 
 TEST(Map, IsDrawnInTheFormatOfItsExtension) {
-  const Desk desk;
-  desk.Write("a.orb", TwoUnitGame());
+  const Shell shell;
+  shell.Write("a.orb", TwoUnitGame());
   const std::vector<std::pair<std::string, std::string>> cases{
       {"m.png", "\x89PNG"}, {"m.BMP", "BM"}, {"m.svg", "<?xml"}, {"m.pdf", "%PDF"}};
   for (const auto& [name, start] : cases) {
     const Outcome outcome =
-        desk.Run("map --mode grey --centre-count --borders --centre-owners --width 400 -o @" +
-                 name + " @a.orb");
+        shell.Run("map --mode grey --centre-count --borders --centre-owners --width 400 -o @" +
+                  name + " @a.orb");
     EXPECT_EQ(outcome.Status, 0) << outcome.Err;
     EXPECT_EQ(outcome.Err + outcome.Out, "");
-    EXPECT_THAT(desk.Read(name), StartsWith(start));
+    EXPECT_THAT(shell.Read(name), StartsWith(start));
   }
   // A bitmap has its width in bytes 18 and 19.
-  EXPECT_EQ(desk.Read("m.BMP").substr(18, 2), "\x90\x01");
-  EXPECT_EQ(desk.Run("map --width 1 -o @m.bmp @a.orb").Status, 0);
+  EXPECT_EQ(shell.Read("m.BMP").substr(18, 2), "\x90\x01");
+  EXPECT_EQ(shell.Run("map --width 1 -o @m.bmp @a.orb").Status, 0);
 }
 
 TEST(Map, ShowsTheOrdersOfAFile) {
-  const Desk desk;
-  desk.Write("a.orb", TwoUnitGame());
-  desk.Write("o.txt", "ENG F(Lon) - NTH\nnonsense\n");
-  desk.Write("none.txt", "\n \n");
-  desk.MakeDirectory("orders");
-  const auto drawn = [&desk](const std::string& options) {
-    const Outcome outcome = desk.Run("map --width 300 -o @m.bmp " + options + "@a.orb");
+  const Shell shell;
+  shell.Write("a.orb", TwoUnitGame());
+  shell.Write("o.txt", "ENG F(Lon) - NTH\nnonsense\n");
+  shell.Write("none.txt", "\n \n");
+  shell.MakeDirectory("orders");
+  const auto drawn = [&shell](const std::string& options) {
+    const Outcome outcome = shell.Run("map --width 300 -o @m.bmp " + options + "@a.orb");
     EXPECT_EQ(outcome.Err + outcome.Out, "");
-    return desk.Read("m.bmp");
+    return shell.Read("m.bmp");
   };
   const std::string plain = drawn("");
   EXPECT_NE(drawn("--orders @o.txt "), plain);
   EXPECT_EQ(drawn("--orders @none.txt "), plain);
   EXPECT_EQ(drawn("--orders @orders "), plain) << "no file in the directory";
-  EXPECT_EQ(desk.Run("map --orders @gone.txt -o @n.bmp @a.orb").Status, 1);
-  desk.Write("f.orb", GameFile("Spring", "finished", "ENG F(Lon)"));
-  EXPECT_EQ(desk.Run("map --orders @o.txt -o @n.bmp @f.orb").Err,
+  EXPECT_EQ(shell.Run("map --orders @gone.txt -o @n.bmp @a.orb").Status, 1);
+  shell.Write("f.orb", GameFile("Spring", "finished", "ENG F(Lon)"));
+  EXPECT_EQ(shell.Run("map --orders @o.txt -o @n.bmp @f.orb").Err,
             "@f.orb: There are no orders to draw in the stage \"finished\".\n");
-  EXPECT_EQ(desk.Read("n.bmp"), "none");
+  EXPECT_EQ(shell.Read("n.bmp"), "none");
 }
 
 }  // namespace

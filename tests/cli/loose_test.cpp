@@ -1,5 +1,5 @@
-#include "cli/desk.h"
 #include "cli/run.h"
+#include "cli/shell.h"
 #include "model/files.h"
 
 #include <gmock/gmock.h>
@@ -21,62 +21,62 @@ std::string ThreeUnits() {
 }
 
 TEST(Loose, OrdersAreFiledLikeTypedOnesAndUnclearLinesAreAskedAbout) {
-  const Desk desk;
-  desk.Write("a.orb", ThreeUnits());
-  desk.Write("o.txt", Mail);
-  const Outcome no = desk.Run("resolve --loose --orders @o.txt -o @b.orb @a.orb");
+  const Shell shell;
+  shell.Write("a.orb", ThreeUnits());
+  shell.Write("o.txt", Mail);
+  const Outcome no = shell.Run("resolve --loose --orders @o.txt -o @b.orb @a.orb");
   EXPECT_EQ(no.Status, 1);
   EXPECT_EQ(no.Err, "@a.orb: Warning: F Bre - Xyz \"Xyz\" is not on the map. Continue?\n");
-  EXPECT_EQ(desk.Read("b.orb"), "none");
-  const Outcome yes = desk.Run("resolve --loose --yes --orders @o.txt -o @b.orb @a.orb");
+  EXPECT_EQ(shell.Read("b.orb"), "none");
+  const Outcome yes = shell.Run("resolve --loose --yes --orders @o.txt -o @b.orb @a.orb");
   EXPECT_EQ(yes.Status, 0);
   EXPECT_EQ(yes.Out,
             "  FRA A(Par) - Gas  \n  GER A(Mun) - Ruh  \n  FRA F(Bre) unordered; hold  \n");
   EXPECT_EQ(yes.Err, no.Err +
                          "@a.orb: Warning: A Par S Bur if Mun moves \"if\" is not understood. "
                          "Continue?\n@a.orb: Warning: FRA F(Bre) unordered. Continue?\n");
-  const Outcome check = desk.Run("check --loose --orders @o.txt @a.orb");
+  const Outcome check = shell.Run("check --loose --orders @o.txt @a.orb");
   EXPECT_EQ(check.Status, 1);
   EXPECT_EQ(check.Out,
             "@a.orb: F Bre - Xyz: \"Xyz\" is not on the map\n"
             "@a.orb: A Par S Bur if Mun moves: \"if\" is not understood\n"
             "@a.orb: FRA F(Bre): unordered\n");
-  EXPECT_THAT(desk.Run("check --orders @o.txt @a.orb").Out,
+  EXPECT_THAT(shell.Run("check --orders @o.txt @a.orb").Out,
               HasSubstr("Orders for France:: syntax error"))
       << "read to the letter without the option";
 }
 
 TEST(Loose, PowerIsThatOfLinesThatNameNone) {
-  const Desk desk;
-  desk.Write("a.orb", ThreeUnits());
-  desk.Write("o.txt", "A Mun - Ruh\nGER A Mun - Tyr\nA Par - Bur\nBre-MAO\n");
+  const Shell shell;
+  shell.Write("a.orb", ThreeUnits());
+  shell.Write("o.txt", "A Mun - Ruh\nGER A Mun - Tyr\nA Par - Bur\nBre-MAO\n");
   const std::string resolve = "resolve --yes --orders @o.txt -o @b.orb @a.orb --loose ";
-  EXPECT_EQ(desk.Run(resolve + "--power FRA").Out,
+  EXPECT_EQ(shell.Run(resolve + "--power FRA").Out,
             "  GER A(Mun) - Tyr  \n  FRA A(Par) - Bur  \n  FRA F(Bre) - MAO  \n");
-  EXPECT_THAT(desk.Run(resolve + "--power FRA").Err,
+  EXPECT_THAT(shell.Run(resolve + "--power FRA").Err,
               HasSubstr("Warning: A Mun - Ruh the unit there is GER A(Mun)."));
-  EXPECT_EQ(desk.Run(resolve).Err, "") << "whose units they are";
+  EXPECT_EQ(shell.Run(resolve).Err, "") << "whose units they are";
 }
 
 TEST(Loose, LaterStages) {
-  const Desk desk;
-  desk.Write("o.txt", "A Bur retreats to Paris");
-  desk.Write("a.orb", GameFile("Spring", "retreats", "FRA A(Bur) <Mun\nGER A(Bur)"));
-  EXPECT_EQ(desk.Run("resolve --loose --orders @o.txt -o @b.orb @a.orb").Out,
+  const Shell shell;
+  shell.Write("o.txt", "A Bur retreats to Paris");
+  shell.Write("a.orb", GameFile("Spring", "retreats", "FRA A(Bur) <Mun\nGER A(Bur)"));
+  EXPECT_EQ(shell.Run("resolve --loose --orders @o.txt -o @b.orb @a.orb").Out,
             "FRA A(Bur) !  retreat Par\n");
-  desk.Write("o.txt", "France: build army Paris, waive the rest");
-  desk.Write("a.orb", GameFile("Autumn", "adjustments", "", "FRA Par"));
-  EXPECT_EQ(desk.Run("resolve --loose --orders @o.txt -o @b.orb @a.orb").Out,
+  shell.Write("o.txt", "France: build army Paris, waive the rest");
+  shell.Write("a.orb", GameFile("Autumn", "adjustments", "", "FRA Par"));
+  EXPECT_EQ(shell.Run("resolve --loose --orders @o.txt -o @b.orb @a.orb").Out,
             "ADJUSTMENTS\nFRA build A(Par)  \n");
 }
 
 TEST(Loose, RepairsAreTheDataDirectorysAndMayBeMissing) {
-  const Desk desk;
+  const Shell shell;
   for (const char* file : {"prov.dat", "conna.dat", "connf.dat", "fixnames.dat"})
-    desk.Write(file, model::ReadFile(DataDirectory() / file));
-  desk.Write("a.orb", GameFile("Spring", "moves", "FRA A(Par)"));
-  desk.Write("o.txt", "A Lutetia - Bur");
-  const std::string directory = desk.Directory().Path().string();
+    shell.Write(file, model::ReadFile(DataDirectory() / file));
+  shell.Write("a.orb", GameFile("Spring", "moves", "FRA A(Par)"));
+  shell.Write("o.txt", "A Lutetia - Bur");
+  const std::string directory = shell.Directory().Path().string();
   const auto run = [&] {
     std::ostringstream said;
     const std::vector<std::string> line{"--data",
@@ -90,9 +90,9 @@ TEST(Loose, RepairsAreTheDataDirectorysAndMayBeMissing) {
     return said.str();
   };
   EXPECT_THAT(run(), HasSubstr("\"Lutetia\" is not on the map"));
-  desk.Write("fixpaste.dat", "\"lutetia\",\"Par\"\r\n");
+  shell.Write("fixpaste.dat", "\"lutetia\",\"Par\"\r\n");
   EXPECT_EQ(run(), "");
-  desk.Write("fixpaste.dat", "\"lutetia\",\"Par\"\r\n\"x\"");
+  shell.Write("fixpaste.dat", "\"lutetia\",\"Par\"\r\n\"x\"");
   EXPECT_THAT(run(), HasSubstr("fixpaste.dat, line 2: expected the text that takes its place"));
 }
 

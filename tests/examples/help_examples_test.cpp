@@ -2,9 +2,9 @@
 #include "help/help_topics.h"
 #include "model/new_game.h"
 #include "model/seasons.h"
+#include "support/boards.h"
 #include "support/directories.h"
 #include "support/scripted_messages.h"
-#include "support/situation.h"
 #include "text/strings.h"
 
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 #include "history/replay_sequence.h"
 #include "model/errors.h"
+#include "support/boards.h"
 #include "support/drawn_cases.h"
-#include "support/situation.h"
 
 #include <gtest/gtest.h>
 
@@ -22,8 +22,8 @@ using Texts = std::vector<std::string>;
 
 /// A situation; a unit is written "FRA A(Bur) Par": it came from Paris; "~" stands for no place.
 /// "GER A(Pic) Bur Par" was dislodged from Burgundy by a move out of Paris.
-GameState Situation(std::string_view stage, const Texts& units, std::string_view contested = {},
-                    std::string_view season = "Spring") {
+GameState BoardOf(std::string_view stage, const Texts& units, std::string_view contested = {},
+                  std::string_view season = "Spring") {
   GameState game = EmptyBoard(season, stage);
   for (const std::string& text : units) {
     std::string_view rest = text;
@@ -92,7 +92,7 @@ Texts Journeys(const Replay& replay) {
 TEST(SeasonReplay, JourneysFollowPositionsAndOutcomes) {
   for (const DrawnCase& drawn : LoadDrawnCases("history/journeys.txt")) {
     SCOPED_TRACE(drawn.Name);
-    const GameState game = Situation("finished", drawn.Drawing, drawn.Note("contested"), "Autumn");
+    const GameState game = BoardOf("finished", drawn.Drawing, drawn.Note("contested"), "Autumn");
     const Replay replay = history::SeasonReplay(game, Outcomes(drawn.Texts("order")));
     EXPECT_EQ(Journeys(replay), drawn.Texts("way"));
     EXPECT_EQ(
@@ -103,7 +103,7 @@ TEST(SeasonReplay, JourneysFollowPositionsAndOutcomes) {
 }
 
 TEST(SeasonReplay, StartsBeforeTheMovesWithTheOwnersOfThen) {
-  GameState game = Situation("finished", {"FRA A(Bel) Bur"}, "Bel", "Autumn");
+  GameState game = BoardOf("finished", {"FRA A(Bel) Bur"}, "Bel", "Autumn");
   Own(game, "FRA Bel");
   Replay replay = history::SeasonReplay(game);
   EXPECT_EQ(replay.Start.Stage, model::Stage::Moves);
@@ -126,48 +126,48 @@ TEST(ReplayBetween, MatchesUnits) {
     GameState Earlier, Later;
     Texts Journeys;
   };
-  GameState ordered = Situation("moves", {"FRA A(Par)", "GER A(Mun)", "ENG A(Yor)", "ENG F(NTH)"});
+  GameState ordered = BoardOf("moves", {"FRA A(Par)", "GER A(Mun)", "ENG A(Yor)", "ENG F(NTH)"});
   ordered.OrdersList = {"FRA A(Par) - Bur", "GER A(Mun) - Mos", "ENG A(Yor) - Bel",
                         "ENG F(NTH) C ENG A(Yor) - Bel", "nonsense"};
   ordered.OrdersList.resize(200, "FRA A(Par) - Gas");
   const std::vector<Case> cases = {
       {"a chain of equal units",
-       Situation("moves", {"FRA A(Par)", "FRA A(Bur)"}),
-       Situation("finished", {"FRA A(Mun) Bur", "FRA A(Bur) Par"}, "Mun Bur"),
+       BoardOf("moves", {"FRA A(Par)", "FRA A(Bur)"}),
+       BoardOf("finished", {"FRA A(Mun) Bur", "FRA A(Bur) Par"}, "Mun Bur"),
        {"FRA A(Par) - Bur", "FRA A(Bur) - Mun"}},
       {"failed orders of the list",
        ordered,
-       Situation("finished",
-                 {"FRA A(Par) Par", "GER A(Mun) Mun", "ENG A(Yor) Yor", "ENG F(NTH) NTH"}),
+       BoardOf("finished",
+               {"FRA A(Par) Par", "GER A(Mun) Mun", "ENG A(Yor) Yor", "ENG F(NTH) NTH"}),
        {"FRA A(Par) -x Bur", "GER A(Mun)", "ENG A(Yor) -x Bel via NTH", "ENG F(NTH)"}},
       {"the list was changed later",
        ordered,
-       Situation("finished", {"FRA A(Pic) Par", "ENG A(Bel) Yor"}, "Pic Bel"),
+       BoardOf("finished", {"FRA A(Pic) Par", "ENG A(Bel) Yor"}, "Pic Bel"),
        {"FRA A(Par) - Pic", "GER A(Mun) vanishes", "ENG A(Yor) - Bel via NTH",
         "ENG F(NTH) vanishes"}},
       {"to the retreats",
-       Situation("moves", {"GER A(Bur)", "FRA A(Par)"}),
-       Situation("retreats", {"GER A(Bur) <Par", "FRA A(Bur) Par"}, "Bur"),
+       BoardOf("moves", {"GER A(Bur)", "FRA A(Par)"}),
+       BoardOf("retreats", {"GER A(Bur) <Par", "FRA A(Bur) Par"}, "Bur"),
        {"GER A(Bur) pushed", "FRA A(Par) - Bur"}},
       {"out of the retreats",
-       Situation("retreats", {"GER A(Bur) <Par", "FRA A(Bur) Par", "ITA F(TYS) <ION"}),
-       Situation("finished", {"GER A(Ruh) Bur Par", "FRA A(Bur) Par"}),
+       BoardOf("retreats", {"GER A(Bur) <Par", "FRA A(Bur) Par", "ITA F(TYS) <ION"}),
+       BoardOf("finished", {"GER A(Ruh) Bur Par", "FRA A(Bur) Par"}),
        {"GER A(Bur) aside to Ruh", "FRA A(Bur)", "ITA F(TYS) aside vanishes"}},
       {"a build, and another army gone where it was",
-       Situation("adjustments", {"FRA A(Bur) Par"}, "", "Autumn"),
-       Situation("finished", {"FRA A(Bur) Par", "FRA A(Par)"}, "", "Autumn"),
+       BoardOf("adjustments", {"FRA A(Bur) Par"}, "", "Autumn"),
+       BoardOf("finished", {"FRA A(Bur) Par", "FRA A(Par)"}, "", "Autumn"),
        {"FRA A(Bur)", "FRA A(Par) appears"}},
       {"a year later",
-       Situation("moves", {"FRA A(Par)", "FRA A(Mar)", "TUR A(Con)"}),
+       BoardOf("moves", {"FRA A(Par)", "FRA A(Mar)", "TUR A(Con)"}),
        [] {
-         GameState later = Situation("moves", {"FRA A(Spa) Gas", "FRA A(Par)", "FRA A(Bel) Bur"});
+         GameState later = BoardOf("moves", {"FRA A(Spa) Gas", "FRA A(Par)", "FRA A(Bel) Bur"});
          later.Year = 1902;
          return later;
        }(),
        {"FRA A(Par) - Bel", "FRA A(Mar) - Spa", "TUR A(Con) vanishes", "FRA A(Par) appears"}},
       {"positions set by hand",
-       Situation("moves", {"FRA A(Par)", "FRA F(Bre)"}),
-       Situation("moves", {"FRA A(Bur)", "FRA F(MAO)"}, "", "Autumn"),
+       BoardOf("moves", {"FRA A(Par)", "FRA F(Bre)"}),
+       BoardOf("moves", {"FRA A(Bur)", "FRA F(MAO)"}, "", "Autumn"),
        {"FRA A(Par) - Bur", "FRA F(Bre) - MAO"}}};
   for (const auto& [name, earlier, later, journeys] : cases)
     EXPECT_EQ(Journeys(history::ReplayBetween(earlier, later)), journeys) << name;
@@ -175,7 +175,7 @@ TEST(ReplayBetween, MatchesUnits) {
 
 TEST(ReplaySequence, PartsAreNamedAfterTheSeasonsTheyShow) {
   const auto at = [](const char* season, std::int16_t year, const char* stage) {
-    GameState game = Situation(stage, {"FRA A(Par)"}, "", season);
+    GameState game = BoardOf(stage, {"FRA A(Par)"}, "", season);
     game.Year = year;
     return game;
   };

@@ -6,8 +6,8 @@
 #include "model/new_game.h"
 #include "model/place.h"
 #include "render/hit_map.h"
+#include "support/boards.h"
 #include "support/directories.h"
-#include "support/situation.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

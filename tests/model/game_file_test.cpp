@@ -3,9 +3,9 @@
 #include "model/errors.h"
 #include "model/game_state.h"
 #include "model/small_map.h"
+#include "support/boards.h"
 #include "support/directories.h"
 #include "support/scripted_messages.h"
-#include "support/situation.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "model/position_edit.h"
 
 #include "model/edit_history.h"
-#include "support/situation.h"
+#include "support/boards.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -3,9 +3,9 @@
 #include "model/errors.h"
 #include "model/messages.h"
 #include "model/new_game.h"
+#include "support/boards.h"
 #include "support/directories.h"
 #include "support/scripted_messages.h"
-#include "support/situation.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -2,9 +2,9 @@
 
 #include "model/errors.h"
 #include "orders/parser.h"
+#include "support/boards.h"
 #include "support/drawn_cases.h"
 #include "support/scripted_messages.h"
-#include "support/situation.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "orders/click_entry.h"
 
+#include "support/boards.h"
 #include "support/drawn_cases.h"
-#include "support/situation.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "orders/entered_orders.h"
 
-#include "support/situation.h"
+#include "support/boards.h"
 
 #include <gtest/gtest.h>
 

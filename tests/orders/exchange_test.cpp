@@ -2,8 +2,8 @@
 #include "model/new_game.h"
 #include "orders/exchange/order_files.h"
 #include "orders/exchange/read_orders.h"
+#include "support/boards.h"
 #include "support/directories.h"
-#include "support/situation.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

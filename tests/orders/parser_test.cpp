@@ -1,9 +1,9 @@
 #include "orders/parser.h"
 
 #include "model/errors.h"
+#include "support/boards.h"
 #include "support/drawn_cases.h"
 #include "support/scripted_messages.h"
-#include "support/situation.h"
 #include "text/strings.h"
 
 #include <gmock/gmock.h>

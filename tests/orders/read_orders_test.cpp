@@ -1,9 +1,9 @@
 #include "orders/exchange/read_orders.h"
 
 #include "model/new_game.h"
+#include "support/boards.h"
 #include "support/directories.h"
 #include "support/drawn_cases.h"
-#include "support/situation.h"
 #include "text/strings.h"
 
 #include <gmock/gmock.h>

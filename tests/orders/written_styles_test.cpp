@@ -3,7 +3,7 @@
 #include "orders/exchange/exact_line.h"
 #include "orders/exchange/read_orders.h"
 #include "orders/parser.h"
-#include "support/situation.h"
+#include "support/boards.h"
 #include "text/strings.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "render/hit_map.h"
 
 #include "model/errors.h"
+#include "support/boards.h"
 #include "support/directories.h"
-#include "support/situation.h"
 
 #include <gtest/gtest.h>
 

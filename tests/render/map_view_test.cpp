@@ -3,7 +3,7 @@
 #include "model/errors.h"
 #include "render/recorder.h"
 #include "settings/map_options.h"
-#include "support/situation.h"
+#include "support/boards.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -5,7 +5,7 @@
 #include "render/drawing.h"
 #include "render/recorder.h"
 #include "settings/map_options.h"
-#include "support/situation.h"
+#include "support/boards.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "render/ownership.h"
 
 #include "render/recorder.h"
-#include "support/situation.h"
+#include "support/boards.h"
 
 #include <gtest/gtest.h>
 

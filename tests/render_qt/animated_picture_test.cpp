@@ -7,8 +7,8 @@
 #include "render/qt/palette.h"
 #include "render/qt/replay_picture.h"
 #include "settings/map_options.h"
+#include "support/boards.h"
 #include "support/directories.h"
-#include "support/situation.h"
 
 #include <QBuffer>
 #include <QImageReader>

@@ -5,8 +5,8 @@
 #include "model/map_files.h"
 #include "model/new_game.h"
 #include "settings/map_options.h"
+#include "support/boards.h"
 #include "support/directories.h"
-#include "support/situation.h"
 
 #include <QBuffer>
 #include <QImage>

@@ -1,8 +1,8 @@
 #include "report/text_report.h"
 
 #include "model/files.h"
+#include "support/boards.h"
 #include "support/directories.h"
-#include "support/situation.h"
 
 #include <gtest/gtest.h>
 

@@ -3,9 +3,9 @@
 #include "model/errors.h"
 #include "model/position_edit.h"
 #include "session/queries.h"
+#include "support/boards.h"
 #include "support/directories.h"
 #include "support/scripted_messages.h"
-#include "support/situation.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

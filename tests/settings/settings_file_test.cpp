@@ -17,11 +17,11 @@ using settings::Settings;
 
 /// Settings before a file is read, each unlike what an empty text would make of it, and colours
 /// 1, 101, 2, 102 and so on.
-struct Desk {
+struct Kept {
   Settings Shown = {{MapMode::Grey, true, true, true}, true};
   model::CountryTable Countries = model::FixedCountries();
 
-  Desk() {
+  Kept() {
     for (int i = 1; i <= model::CountryCount; ++i) {
       Countries[i].Colour = static_cast<model::Colour>(i);
       Countries[i].TextColour = static_cast<model::Colour>(100 + i);
@@ -32,29 +32,29 @@ struct Desk {
 TEST(Settings, WritesEachRecordOnALine) {
   const std::string colours =
       "1,101\r\n2,102\r\n3,103\r\n4,104\r\n5,105\r\n6,106\r\n7,16777215\r\n";
-  Desk desk;
-  desk.Countries[7].TextColour = 0xFFFFFF;
+  Kept kept;
+  kept.Countries[7].TextColour = 0xFFFFFF;
   EXPECT_EQ(
-      FormatSettings(desk.Shown, desk.Countries),
+      FormatSettings(kept.Shown, kept.Countries),
       "\"Grey\"\r\n\"Show centre count\"\r\n\"Show centre owners\"\r\n\"View only\"\r\n" + colours);
   // The toggle for centre owners is not what the third record tells of.
-  desk.Shown = {{MapMode::Colour3D, false, false, true}, false};
-  EXPECT_EQ(FormatSettings(desk.Shown, desk.Countries),
+  kept.Shown = {{MapMode::Colour3D, false, false, true}, false};
+  EXPECT_EQ(FormatSettings(kept.Shown, kept.Countries),
             "\"Colour 3D\"\r\n\"Don't show centre count\"\r\n\"Don't show centre owners\"\r\n"
             "\"Edit\"\r\n" +
                 colours);
 }
 
 /// "Grey count borders owners view 1,101 2,102": what is on, and the colours of the first two.
-std::string Told(const Desk& desk) {
-  const std::string file = FormatSettings(desk.Shown, desk.Countries);
+std::string Told(const Kept& kept) {
+  const std::string file = FormatSettings(kept.Shown, kept.Countries);
   std::string text = file.substr(1, file.find('"', 1) - 1);
-  const settings::MapOptions& map = desk.Shown.Map;
+  const settings::MapOptions& map = kept.Shown.Map;
   text.append(map.ShowCentreCount ? " count" : "");
   text.append(map.ColourBordersByOwner ? " borders" : "");
-  text.append(map.ShowCentreOwners ? " owners" : "").append(desk.Shown.ViewOnly ? " view" : "");
+  text.append(map.ShowCentreOwners ? " owners" : "").append(kept.Shown.ViewOnly ? " view" : "");
   for (const int i : {1, 2}) {
-    const model::Country& country = desk.Countries[i];
+    const model::Country& country = kept.Countries[i];
     text.append(" ").append(std::to_string(country.Colour));
     text.append(",").append(std::to_string(country.TextColour));
   }
@@ -79,9 +79,9 @@ TEST(Settings, ShortAndBrokenFilesLeaveWhatWasNotRead) {
       {edit + "9,8\n\"red\",8\n", "Colour borders 9,8 2,102"},
       {edit + "9,8\n99999999999999999999,8\n", "Colour borders 9,8 2,102"}};
   for (const auto& [bytes, expected] : cases) {
-    Desk desk;
-    ReadSettings(bytes, desk.Shown, desk.Countries);
-    EXPECT_EQ(Told(desk), expected) << bytes;
+    Kept kept;
+    ReadSettings(bytes, kept.Shown, kept.Countries);
+    EXPECT_EQ(Told(kept), expected) << bytes;
   }
 }
 
@@ -101,16 +101,16 @@ TEST(Settings, LieBesideTheProgramWhereThatIsAllowed) {
   fs::create_directory(beside);
   EXPECT_EQ(forWriting(), user);
   EXPECT_EQ(forReading(), beside);
-  const Desk desk;
-  Desk read;
+  const Kept kept;
+  Kept read;
   read.Shown = {};
   ReadSettingsFile(beside, read.Shown, read.Countries);
-  WriteSettingsFile(user, desk.Shown, desk.Countries);
+  WriteSettingsFile(user, kept.Shown, kept.Countries);
   EXPECT_EQ(forReading(), user);
   ReadSettingsFile(user, read.Shown, read.Countries);
   EXPECT_EQ(FormatSettings(read.Shown, read.Countries), model::ReadFile(user));
   EXPECT_TRUE(read.Shown.ViewOnly);
-  EXPECT_THROW(WriteSettingsFile(beside, desk.Shown, desk.Countries), model::FileError);
+  EXPECT_THROW(WriteSettingsFile(beside, kept.Shown, kept.Countries), model::FileError);
 }
 
 }  // namespace

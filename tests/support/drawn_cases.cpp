@@ -1,8 +1,8 @@
 #include "support/drawn_cases.h"
 
 #include "model/files.h"
+#include "support/boards.h"
 #include "support/directories.h"
-#include "support/situation.h"
 #include "text/strings.h"
 
 #include <algorithm>

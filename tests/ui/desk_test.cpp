@@ -1,9 +1,9 @@
 #include "ui/session/desk.h"
 
 #include "model/errors.h"
+#include "support/boards.h"
 #include "support/directories.h"
 #include "support/scripted_messages.h"
-#include "support/situation.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "ui/output/file_proposals.h"
 
-#include "support/situation.h"
+#include "support/boards.h"
 
 #include <gtest/gtest.h>
 

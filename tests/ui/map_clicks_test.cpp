@@ -1,4 +1,4 @@
-#include "support/situation.h"
+#include "support/boards.h"
 #include "ui/modal_script.h"
 #include "ui/window_fixture.h"
 

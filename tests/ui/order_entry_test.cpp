@@ -1,6 +1,6 @@
+#include "support/boards.h"
 #include "support/directories.h"
 #include "support/scripted_messages.h"
-#include "support/situation.h"
 #include "ui/entry/adjustments_panel.h"
 #include "ui/entry/orders_panel.h"
 #include "ui/entry/retreats_panel.h"

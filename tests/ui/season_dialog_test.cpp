@@ -1,6 +1,6 @@
 #include "model/files.h"
 #include "model/game_file.h"
-#include "support/situation.h"
+#include "support/boards.h"
 #include "ui/modal_script.h"
 #include "ui/window_fixture.h"
 

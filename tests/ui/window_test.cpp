@@ -1,9 +1,9 @@
 #include "model/errors.h"
 #include "model/files.h"
 #include "model/game_file.h"
+#include "support/boards.h"
 #include "support/directories.h"
 #include "support/scripted_messages.h"
-#include "support/situation.h"
 #include "ui/modal_script.h"
 #include "ui/window_fixture.h"
 

@@ -13,14 +13,14 @@ using model::Unit;
 using orders::OrderKind;
 
 std::vector<Completed> MovesMeant(const WrittenOrder& written, const UnitMeant& unit,
-                                  const Situation& situation, OrderKind kind, Fault& fault) {
+                                  const KnownGame& known, OrderKind kind, Fault& fault) {
   std::vector<Completed> orders;
   if (written.ByConvoy && unit.Unit.UnitType == "F") {
     fault = {"only an army is convoyed", written.Destination.At};
     return orders;
   }
   for (const std::string& destination :
-       situation.DestinationsMeant(written.Destination, unit.Unit, written.ByConvoy)) {
+       known.DestinationsMeant(written.Destination, unit.Unit, written.ByConvoy)) {
     PlainOrder order = OrderOf(unit.Unit, kind);
     order.Target = destination;
     orders.push_back({std::move(order), unit.Objection});
@@ -29,16 +29,16 @@ std::vector<Completed> MovesMeant(const WrittenOrder& written, const UnitMeant& 
 }
 
 std::vector<Completed> OrdersMeant(const WrittenOrder& written, const UnitMeant& unit,
-                                   const Situation& situation, Fault& fault) {
+                                   const KnownGame& known, Fault& fault) {
   switch (written.What) {
     case Verb::Move:
-      return MovesMeant(written, unit, situation, OrderKind::Move, fault);
+      return MovesMeant(written, unit, known, OrderKind::Move, fault);
     case Verb::Retreat:
-      return MovesMeant(written, unit, situation, OrderKind::Retreat, fault);
+      return MovesMeant(written, unit, known, OrderKind::Retreat, fault);
     case Verb::Support:
-      return SupportsMeant(written, unit, situation, fault);
+      return SupportsMeant(written, unit, known, fault);
     case Verb::Convoy:
-      return ConvoysMeant(written, unit, situation, fault);
+      return ConvoysMeant(written, unit, known, fault);
     default:
       return {
           {OrderOf(unit.Unit, written.What == Verb::Hold ? OrderKind::Hold : OrderKind::Disband),
@@ -47,23 +47,23 @@ std::vector<Completed> OrdersMeant(const WrittenOrder& written, const UnitMeant&
 }
 
 /// The locations and types of a build; those that are not written are all that can stand there.
-std::vector<Unit> UnitsBuilt(const WrittenUnit& written, const Situation& situation) {
-  const model::Map& map = *situation.Game.Map;
+std::vector<Unit> UnitsBuilt(const WrittenUnit& written, const KnownGame& known) {
+  const model::Map& map = *known.Game.Map;
   std::vector<Unit> built;
   for (const int row : written.Place.Rows) {
     for (const char type : {'A', 'F'}) {
       if (written.Type != 0 && written.Type != type) continue;
       const std::string unitType(1, type);
       std::vector<std::string> places;
-      for (const int location : situation.Names.Locations(row)) {
-        if (model::CanStandIn(map, unitType, situation.NameOf(location))) {
-          places.push_back(situation.NameOf(location));
+      for (const int location : known.Names.Locations(row)) {
+        if (model::CanStandIn(map, unitType, known.NameOf(location))) {
+          places.push_back(known.NameOf(location));
         }
       }
       if (type == 'A' || places.empty()) {
-        const bool stands = model::CanStandIn(map, unitType, situation.NameOf(row));
+        const bool stands = model::CanStandIn(map, unitType, known.NameOf(row));
         if (written.Type == 0 && !stands) continue;
-        places = {situation.NameOf(row)};
+        places = {known.NameOf(row)};
       }
       for (const std::string& place : places)
         built.push_back({{}, unitType, place, {}, {}, {}});
@@ -72,12 +72,12 @@ std::vector<Unit> UnitsBuilt(const WrittenUnit& written, const Situation& situat
   return built;
 }
 
-std::vector<Completed> BuildsMeant(const WrittenOrder& written, const Situation& situation,
-                                   int power, Fault& fault) {
-  const model::Map& map = *situation.Game.Map;
+std::vector<Completed> BuildsMeant(const WrittenOrder& written, const KnownGame& known, int power,
+                                   Fault& fault) {
+  const model::Map& map = *known.Game.Map;
   std::vector<Completed> orders;
   fault = {"no unit can be built there", written.Unit.Place.At};
-  for (Unit& unit : UnitsBuilt(written.Unit, situation)) {
+  for (Unit& unit : UnitsBuilt(written.Unit, known)) {
     const int centre = model::FindProvince(map, unit.Location.substr(0, 3));
     const std::string home = centre == 0 ? std::string() : map.Provinces[centre].HomeCountry;
     unit.Power = power == 0 ? home : PowerText(power);
@@ -93,33 +93,33 @@ std::vector<Completed> BuildsMeant(const WrittenOrder& written, const Situation&
   return orders;
 }
 
-std::vector<Completed> ReadingMeant(const WrittenOrder& written, const Situation& situation,
-                                    int power, Fault& fault) {
+std::vector<Completed> ReadingMeant(const WrittenOrder& written, const KnownGame& known, int power,
+                                    Fault& fault) {
   const int own = written.Unit.Power;
   if (written.Power != 0 && own != 0 && own != written.Power) {
     fault = {"two powers are named", written.Unit.Place.At};
     return {};
   }
   if (written.Power != 0 || own != 0) power = written.Power != 0 ? written.Power : own;
-  if (written.What == Verb::Build) return BuildsMeant(written, situation, power, fault);
+  if (written.What == Verb::Build) return BuildsMeant(written, known, power, fault);
   std::vector<Completed> orders;
-  for (const UnitMeant& unit : situation.UnitsMeant(written.Unit, power, power, fault)) {
-    auto more = OrdersMeant(written, unit, situation, fault);
+  for (const UnitMeant& unit : known.UnitsMeant(written.Unit, power, power, fault)) {
+    auto more = OrdersMeant(written, unit, known, fault);
     std::move(more.begin(), more.end(), std::back_inserter(orders));
   }
   return orders;
 }
 
 /// Takes the order in unless its line could not be read or is there already.
-void Add(Meanings& meanings, const Completed& order, const Situation& situation, TokenRange at) {
-  const model::Map& map = *situation.Game.Map;
-  Meaning meaning{FormatOrder(order.Order, situation.Stage), order.Objection,
+void Add(Meanings& meanings, const Completed& order, const KnownGame& known, TokenRange at) {
+  const model::Map& map = *known.Game.Map;
+  Meaning meaning{FormatOrder(order.Order, known.Stage), order.Objection,
                   model::FindCountry(order.Order.Power)};
-  if (!ReadExactLine(map, situation.Stage, meaning.Line)) {
+  if (!ReadExactLine(map, known.Stage, meaning.Line)) {
     if (meanings.Problem) return;
     const orders::OrderWords words = WordsOf(order.Order);
-    const auto fault = situation.Stage == model::Stage::Moves
-                           ? orders::FindSyntaxFault(map, words, situation.Stage)
+    const auto fault = known.Stage == model::Stage::Moves
+                           ? orders::FindSyntaxFault(map, words, known.Stage)
                            : orders::SyntaxFault::None;
     const std::string text = orders::FaultText(words, fault);
     meanings.Problem = Fault{text.empty() ? "the unit is not on the map" : text, at};
@@ -131,14 +131,14 @@ void Add(Meanings& meanings, const Completed& order, const Situation& situation,
 
 }  // namespace
 
-Meanings FindMeanings(const std::vector<WrittenOrder>& readings, const Situation& situation,
+Meanings FindMeanings(const std::vector<WrittenOrder>& readings, const KnownGame& known,
                       int power) {
   Meanings meanings;
   for (const WrittenOrder& written : readings) {
     Fault fault;
-    const auto orders = ReadingMeant(written, situation, power, fault);
+    const auto orders = ReadingMeant(written, known, power, fault);
     for (const Completed& order : orders)
-      Add(meanings, order, situation, written.Unit.Place.At);
+      Add(meanings, order, known, written.Unit.Place.At);
     if (orders.empty() && !meanings.Problem) meanings.Problem = fault;
   }
   const auto objected = [](const Meaning& meaning) { return !meaning.Objection.empty(); };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orders/exchange/situation.h"
+#include "orders/exchange/known_game.h"
 
 #include <optional>
 #include <string>
@@ -21,9 +21,8 @@ struct Meanings {
   std::optional<Fault> Problem;
 };
 
-/// What the readings of one text mean in the situation. Orders that nothing is known against
+/// What the readings of one text mean in the game. Orders that nothing is known against
 /// outdo those with an objection. `power` gives the order unless the text names another, 0: none.
-Meanings FindMeanings(const std::vector<WrittenOrder>& readings, const Situation& situation,
-                      int power);
+Meanings FindMeanings(const std::vector<WrittenOrder>& readings, const KnownGame& known, int power);
 
 }  // namespace orb::exchange

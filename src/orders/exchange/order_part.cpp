@@ -23,7 +23,7 @@ std::size_t PastOrdersAre(Tokens tokens) {
 }
 
 /// Behind a heading before the order, whose power and orders go into the context.
-std::size_t PastHeading(Tokens tokens, const Situation& situation, Context& context) {
+std::size_t PastHeading(Tokens tokens, const KnownGame& known, Context& context) {
   const auto lengthTo = [&](TokenKind kind) {
     return static_cast<std::size_t>(std::ranges::find(tokens, kind, &Token::Kind) - tokens.begin());
   };
@@ -32,8 +32,8 @@ std::size_t PastHeading(Tokens tokens, const Situation& situation, Context& cont
   for (const auto& [length, past] : {std::pair(colon, colon + 1), std::pair(dot, dot + 1),
                                      std::pair(PastOrdersAre(tokens), PastOrdersAre(tokens))}) {
     if (length == 0 || past >= tokens.size()) continue;
-    const auto heading = ReadHeading(tokens.first(length), situation.Names);
-    if (!heading || !IsHeadingOf(situation.Stage, *heading)) continue;
+    const auto heading = ReadHeading(tokens.first(length), known.Names);
+    if (!heading || !IsHeadingOf(known.Stage, *heading)) continue;
     if (heading->Power != 0) context.Power = heading->Power;
     if (heading->Orders != Verb::None) context.Orders = heading->Orders;
     return past;
@@ -51,25 +51,25 @@ void LeaveInContext(const WrittenOrder& order, const Token& first, model::Stage 
 
 }  // namespace
 
-PartRead ReadPart(Tokens tokens, const Situation& situation, Context& context) {
+PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context) {
   PartRead part;
   std::size_t start = 0;
   for (std::size_t past = 1; past != 0; start += past)
-    past = PastHeading(tokens.subspan(start), situation, context);
+    past = PastHeading(tokens.subspan(start), known, context);
   const bool isImplied =
-      situation.Stage == model::Stage::Adjustments || context.Orders == Verb::Disband;
+      known.Stage == model::Stage::Adjustments || context.Orders == Verb::Disband;
   const Verb verb = isImplied ? context.Orders : Verb::None;
-  const Parse parse = ParseWrittenOrder(tokens.subspan(start), situation.Names, *situation.Game.Map,
-                                        situation.Stage, verb);
+  const Parse parse =
+      ParseWrittenOrder(tokens.subspan(start), known.Names, *known.Game.Map, known.Stage, verb);
   if (!parse.Orders.empty() && parse.Orders[0].What == Verb::Waive) {
-    LeaveInContext(parse.Orders.back(), tokens[start], situation.Stage, context);
+    LeaveInContext(parse.Orders.back(), tokens[start], known.Stage, context);
     part.Power = context.Power;
     part.Kind = LineKind::Waive;
     return part;
   }
-  part.Meant = FindMeanings(parse.Orders, situation, context.Power);
+  part.Meant = FindMeanings(parse.Orders, known, context.Power);
   if (!part.Meant.All.empty()) {
-    LeaveInContext(parse.Orders.back(), tokens[start], situation.Stage, context);
+    LeaveInContext(parse.Orders.back(), tokens[start], known.Stage, context);
     part.Kind = part.Meant.All.size() == 1 ? LineKind::Order : LineKind::Ambiguous;
     return part;
   }

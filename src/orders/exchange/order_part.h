@@ -22,7 +22,7 @@ struct PartRead {
 
 /// Reads tokens as one order. A heading before a colon, a power at the front and the verb of an
 /// adjustment are left in the context, as they hold for further orders of the line.
-PartRead ReadPart(Tokens tokens, const Situation& situation, Context& context);
+PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context);
 
 /// Whether orders came of it.
 inline bool IsUnderstood(const PartRead& part) {

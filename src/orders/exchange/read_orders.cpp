@@ -73,8 +73,7 @@ std::vector<TokenRange> Split(Tokens tokens, TokenRange range, Seam seam) {
 /// Reads a text line by line; what headings say is kept for the lines below.
 class TextReader {
  public:
-  TextReader(Situation& situation, const ReadingOptions& options)
-      : situation_(situation), options_(options) {
+  TextReader(KnownGame& known, const ReadingOptions& options) : known_(known), options_(options) {
     context_.Power = model::FindCountry(options.Power);
   }
 
@@ -89,7 +88,7 @@ class TextReader {
       ReadLineOf(line);
       if (before > 0 && before + 1 == lines_.size()) CheckGoesOn(lines_[before - 1], line);
     }
-    SetAsideReplaced(lines_, quoted_, situation_.Stage == model::Stage::Adjustments);
+    SetAsideReplaced(lines_, quoted_, known_.Stage == model::Stage::Adjustments);
     return std::move(lines_);
   }
 
@@ -102,7 +101,7 @@ class TextReader {
       CutLineTokens(line);
       const TokenRange body{PastLineStart(line.All), line.All.size()};
       Context context = context_;
-      const PartRead part = ReadPart(PartOf(line, body), situation_, context);
+      const PartRead part = ReadPart(PartOf(line, body), known_, context);
       line.IsTooLong ? AddTooLong(line) : AddPart(line, body, part, context);
     }
     return std::move(lines_.front());
@@ -120,7 +119,7 @@ class TextReader {
     if (!isRest || above.Kind != LineKind::Order || above.Number + 1 != line.Number) return;
     const std::string joined = ToPlain(above.Written, 0).Text + " " + line.Plain.Text;
     Context context{model::FindCountry(above.Power), Verb::None};
-    if (!IsUnderstood(ReadPart(CutTokens(joined), situation_, context))) return;
+    if (!IsUnderstood(ReadPart(CutTokens(joined), known_, context))) return;
     above.Kind = LineKind::NotUnderstood;
     above.Order.clear();
     above.Reason = "it may go on in the line below";
@@ -129,7 +128,7 @@ class TextReader {
 
   void CutLineTokens(SourceLine& line) const {
     line.All = CutTokens(line.Plain.Text);
-    PartGluedTypes(line.All, situation_.Names);
+    PartGluedTypes(line.All, known_.Names);
   }
 
   void ReadLineOf(SourceLine& line) {
@@ -146,12 +145,12 @@ class TextReader {
       AddLine(line, LineKind::PassedOver);
       return;
     }
-    if (IsMailHead(PartOf(line, body), situation_.Names)) {
+    if (IsMailHead(PartOf(line, body), known_.Names)) {
       AddLine(line, LineKind::PassedOver);
       return;
     }
-    const auto heading = ReadHeading(PartOf(line, body), situation_.Names);
-    if (heading && IsHeadingOf(situation_.Stage, *heading) &&
+    const auto heading = ReadHeading(PartOf(line, body), known_.Names);
+    if (heading && IsHeadingOf(known_.Stage, *heading) &&
         !IsOrderAlone(PartOf(line, body), *heading)) {
       return AddHeading(line, *heading);
     }
@@ -167,7 +166,7 @@ class TextReader {
 
   /// "France: disband" is meant for a dislodged unit, which it does not name.
   bool IsOrderAlone(Tokens tokens, const Heading& heading) const {
-    return situation_.Stage == model::Stage::Retreats && heading.Orders == Verb::Disband &&
+    return known_.Stage == model::Stage::Retreats && heading.Orders == Verb::Disband &&
            VerbOf(tokens.back()) == Verb::Disband &&
            (tokens.size() == 1 || PowerAt(tokens, 0).Power != 0);
   }
@@ -188,8 +187,8 @@ class TextReader {
     if (hasOrder) inSignature_ = false;
     const bool isOrder =
         !said.empty() &&
-        (body.Begin == body.End ? !IsNoOrder(said, situation_.Names, inSignature_)
-                                : IsUnderstood(ReadPart(said.subspan(1), situation_, context)));
+        (body.Begin == body.End ? !IsNoOrder(said, known_.Names, inSignature_)
+                                : IsUnderstood(ReadPart(said.subspan(1), known_, context)));
     if (isOrder) {
       AddUnclear(line, comment, {comment.Begin, comment.Begin + 1}, "it stands in a comment");
     } else if (lines_.size() == before) {
@@ -205,13 +204,13 @@ class TextReader {
   /// Reads what stands between semicolons: one order, or several between commas.
   void ReadSegment(const SourceLine& line, TokenRange segment, Context& context) {
     Context whole = context;
-    const PartRead read = ReadPart(PartOf(line, segment), situation_, whole);
+    const PartRead read = ReadPart(PartOf(line, segment), known_, whole);
     if (!IsUnderstood(read) && (ReadParts(line, segment, Seam::Comma, context) ||
                                 ReadParts(line, segment, Seam::FullStop, context))) {
       return;
     }
     if (!IsUnderstood(read)) {
-      const PartsRead parts = ReadRunOn(PartOf(line, segment), situation_, context);
+      const PartsRead parts = ReadRunOn(PartOf(line, segment), known_, context);
       if (!parts.empty()) return AddParts(line, Moved(parts, segment.Begin), context);
     }
     context = whole;
@@ -229,10 +228,10 @@ class TextReader {
     for (const TokenRange range : Split(line.All, segment, seam)) {
       const Tokens tokens = PartOf(line, range);
       Context before = tried;
-      parts.emplace_back(range, ReadPart(tokens, situation_, tried));
+      parts.emplace_back(range, ReadPart(tokens, known_, tried));
       const bool isOrdered = std::ranges::any_of(parts, isOrder);
       if (IsUnderstood(parts.back().second)) continue;
-      const PartsRead runOn = Moved(ReadRunOn(tokens, situation_, before), range.Begin);
+      const PartsRead runOn = Moved(ReadRunOn(tokens, known_, before), range.Begin);
       if (!runOn.empty()) {
         parts.pop_back();
         parts.insert(parts.end(), runOn.begin(), runOn.end());
@@ -241,7 +240,7 @@ class TextReader {
       }
       const std::size_t at = isOrdered ? FindCondition(tokens) : FindDoubt(tokens);
       if (at < tokens.size() && condition == segment.End) condition = range.Begin + at;
-      isClear = isClear && IsNoOrder(tokens, situation_.Names, inSignature_);
+      isClear = isClear && IsNoOrder(tokens, known_.Names, inSignature_);
     }
     if (std::ranges::none_of(parts, isOrder)) return false;
     if (seam == Seam::FullStop && !isClear) return false;
@@ -274,12 +273,12 @@ class TextReader {
   }
 
   bool ReadExact(const SourceLine& line) {
-    const auto order = ReadExactLine(*situation_.Game.Map, situation_.Stage, line.Bytes);
+    const auto order = ReadExactLine(*known_.Game.Map, known_.Stage, line.Bytes);
     if (!order) return false;
     ReadLine& read = AddLine(line, LineKind::Order);
     read.Order = line.Bytes;
     read.Power = order->Power;
-    read.Reason = situation_.Objection(*order);
+    read.Reason = known_.Objection(*order);
     read.ReasonPlace = read.Place;
     inSignature_ = false;
     return true;
@@ -356,7 +355,7 @@ class TextReader {
   }
 
   void AddProblem(const SourceLine& line, TokenRange range, const Fault& problem, ReadLine& read) {
-    if (!isSingle_ && IsNoOrder(PartOf(line, range), situation_.Names, inSignature_)) {
+    if (!isSingle_ && IsNoOrder(PartOf(line, range), known_.Names, inSignature_)) {
       read.Kind = LineKind::PassedOver;
       return;
     }
@@ -367,7 +366,7 @@ class TextReader {
         begin < end ? Written(line, {begin, end}) : Span{read.Place.Offset + read.Place.Length, 0};
   }
 
-  Situation& situation_;
+  KnownGame& known_;
   const ReadingOptions& options_;
   Context context_;
   bool inSignature_ = false;
@@ -377,12 +376,12 @@ class TextReader {
   std::vector<bool> quoted_;  ///< one for each of the lines
 };
 
-void LearnMoves(const std::vector<ReadLine>& lines, Situation& situation) {
-  if (situation.Stage != model::Stage::Moves) return;
+void LearnMoves(const std::vector<ReadLine>& lines, KnownGame& known) {
+  if (known.Stage != model::Stage::Moves) return;
   for (const ReadLine& line : lines) {
     if (line.Kind != LineKind::Order) continue;
-    const auto order = ReadExactLine(*situation.Game.Map, situation.Stage, line.Order);
-    if (order) situation.Learn(*order);
+    const auto order = ReadExactLine(*known.Game.Map, known.Stage, line.Order);
+    if (order) known.Learn(*order);
   }
 }
 
@@ -395,20 +394,20 @@ std::vector<ReadLine> ReadOrders(const model::GameState& game, std::string_view 
                             " characters; this one has " + std::to_string(text.size()) + ".");
   }
   const PlaceNames names(*game.Map);
-  Situation situation(game, names, game.Stage);
-  std::vector<ReadLine> lines = TextReader(situation, options).Read(text);
-  LearnMoves(lines, situation);
+  KnownGame known(game, names, game.Stage);
+  std::vector<ReadLine> lines = TextReader(known, options).Read(text);
+  LearnMoves(lines, known);
   // What a support means may depend on moves that are written below it.
-  if (!situation.Moves.empty()) lines = TextReader(situation, options).Read(text);
+  if (!known.Moves.empty()) lines = TextReader(known, options).Read(text);
   return lines;
 }
 
 ReadLine ReadOrder(const model::GameState& game, std::string_view text,
                    const ReadingOptions& options, const std::vector<ReadLine>& before) {
   const PlaceNames names(*game.Map);
-  Situation situation(game, names, game.Stage);
-  LearnMoves(before, situation);
-  return TextReader(situation, options).ReadOne(text);
+  KnownGame known(game, names, game.Stage);
+  LearnMoves(before, known);
+  return TextReader(known, options).ReadOne(text);
 }
 
 }  // namespace orb::exchange

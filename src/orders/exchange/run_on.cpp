@@ -48,8 +48,8 @@ std::vector<std::size_t> Starts(Tokens tokens) {
 /// Finds every way to part tokens into orders.
 class Parting {
  public:
-  Parting(Tokens tokens, const Situation& situation)
-      : tokens_(tokens), situation_(situation), starts_(Starts(tokens)) {}
+  Parting(Tokens tokens, const KnownGame& known)
+      : tokens_(tokens), known_(known), starts_(Starts(tokens)) {}
 
   bool IsWorthwhile() const { return starts_.size() > 2 && starts_.size() <= OrderBound; }
 
@@ -63,14 +63,14 @@ class Parting {
 
   const Ways& From(std::size_t start, const Context& context) {
     const auto key = std::make_tuple(start, context.Power, context.Orders);
-    if (const auto known = known_.find(key); known != known_.end()) return known->second;
+    if (const auto found = found_.find(key); found != found_.end()) return found->second;
     Ways ways;
     for (std::size_t next = start + 1; next < starts_.size() && ways.Count < 2; ++next) {
       const std::size_t length = starts_[next] - starts_[start];
       if (length > LengthBound) break;
       Context behind = context;
       PartRead part =
-          ReadPart(tokens_.subspan(First(start), starts_[next] - First(start)), situation_, behind);
+          ReadPart(tokens_.subspan(First(start), starts_[next] - First(start)), known_, behind);
       if (!IsUnderstood(part)) continue;
       const int further = next + 1 == starts_.size() ? 1 : From(next, behind).Count;
       if (further == 0) continue;
@@ -79,7 +79,7 @@ class Parting {
       ways.Behind = behind;
       ways.Part = std::move(part);
     }
-    return known_[key] = std::move(ways);
+    return found_[key] = std::move(ways);
   }
 
   PartsRead Only(Context& context) {
@@ -101,9 +101,9 @@ class Parting {
   }
 
   Tokens tokens_;
-  const Situation& situation_;
+  const KnownGame& known_;
   std::vector<std::size_t> starts_;
-  std::map<std::tuple<std::size_t, int, Verb>, Ways> known_;
+  std::map<std::tuple<std::size_t, int, Verb>, Ways> found_;
 };
 
 /// Whether two of the orders are for one unit: they may be meant as a choice.
@@ -119,8 +119,8 @@ bool RepeatsUnit(const PartsRead& parts) {
 
 }  // namespace
 
-PartsRead ReadRunOn(Tokens tokens, const Situation& situation, Context& context) {
-  Parting parting(tokens, situation);
+PartsRead ReadRunOn(Tokens tokens, const KnownGame& known, Context& context) {
+  Parting parting(tokens, known);
   if (!parting.IsWorthwhile()) return {};
   Context behind = context;
   PartsRead parts = parting.Only(behind);

@@ -14,6 +14,6 @@ using PartsRead = std::vector<std::pair<TokenRange, PartRead>>;
 /// begin with a type of unit, a power, a verb or a number, "2.", each must be understood and for
 /// another unit, and there must be no other way to part them: else nothing comes back and the
 /// context stays.
-PartsRead ReadRunOn(Tokens tokens, const Situation& situation, Context& context);
+PartsRead ReadRunOn(Tokens tokens, const KnownGame& known, Context& context);
 
 }  // namespace orb::exchange

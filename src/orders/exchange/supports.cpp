@@ -16,8 +16,8 @@ using orders::OrderKind;
 class Helper {
  public:
   Helper(orders::OrderKind kind, const WrittenOrder& written, const UnitMeant& unit,
-         const Situation& situation)
-      : kind_(kind), written_(written), unit_(unit), situation_(situation) {}
+         const KnownGame& known)
+      : kind_(kind), written_(written), unit_(unit), known_(known) {}
 
   std::vector<Completed> Supports(Fault& fault) {
     if (written_.Other.Place.Rows.empty()) {
@@ -38,7 +38,7 @@ class Helper {
     for (const UnitMeant& other : Others(army, fault)) {
       if (written_.OtherWhat == Verb::Move) {
         AddMoves(other);
-      } else if (const std::string* move = situation_.OrderedMove(other.Unit); move != nullptr) {
+      } else if (const std::string* move = known_.OrderedMove(other.Unit); move != nullptr) {
         Add(other, *move);
       } else {
         fault = {"the destination is missing", {army.Place.At.End, army.Place.At.End}};
@@ -50,7 +50,7 @@ class Helper {
  private:
   std::vector<UnitMeant> Others(const WrittenUnit& other, Fault& fault) const {
     const int own = model::FindCountry(unit_.Unit.Power);
-    return situation_.UnitsMeant(other, other.Power, other.Power == 0 ? own : other.Power, fault);
+    return known_.UnitsMeant(other, other.Power, other.Power == 0 ? own : other.Power, fault);
   }
 
   /// The other unit holds where no destination is given.
@@ -68,8 +68,8 @@ class Helper {
   /// One for each destination that is meant; that of the unit's own order where it is among them.
   void AddMoves(const UnitMeant& other) {
     const auto destinations =
-        situation_.DestinationsMeant(written_.Destination, other.Unit, written_.ByConvoy);
-    const std::string* ordered = situation_.OrderedMove(other.Unit);
+        known_.DestinationsMeant(written_.Destination, other.Unit, written_.ByConvoy);
+    const std::string* ordered = known_.OrderedMove(other.Unit);
     if (ordered != nullptr && std::ranges::find(destinations, *ordered) != destinations.end()) {
       return Add(other, *ordered);
     }
@@ -86,9 +86,9 @@ class Helper {
     if (written_.OtherWhat == Verb::Move) return AddMoves(other);
     if (written_.OtherWhat == Verb::Hold) return Add(other);
     const auto reaches = [&](const std::string& place) {
-      return model::CanSupportInto(*situation_.Game.Map, unit_.Unit, place);
+      return model::CanSupportInto(*known_.Game.Map, unit_.Unit, place);
     };
-    if (const std::string* move = situation_.OrderedMove(other.Unit); move != nullptr) {
+    if (const std::string* move = known_.OrderedMove(other.Unit); move != nullptr) {
       if (reaches(other.Unit.Location) || !reaches(*move)) Add(other);
       Add(other, *move);
       if (IsPlaceAlone()) AddOrderedMovesInto(written_.Other.Place);
@@ -99,7 +99,7 @@ class Helper {
   }
 
   void AddOrderedMovesInto(const WrittenPlace& place) {
-    for (const PlainOrder& move : situation_.Moves) {
+    for (const PlainOrder& move : known_.Moves) {
       const Unit mover{move.Power, move.UnitType, move.Location, {}, {}, {}};
       if (IsAt(place, move.Target) && !IsSupporter(mover)) Add({mover, {}}, move.Target);
     }
@@ -110,10 +110,10 @@ class Helper {
     const std::size_t before = orders_.size();
     AddOrderedMovesInto(place);
     if (orders_.size() > before) return;
-    for (const Unit& mover : situation_.Game.Units) {
+    for (const Unit& mover : known_.Game.Units) {
       if (IsSupporter(mover) || IsAt(place, mover.Location)) continue;
-      for (const std::string& destination : situation_.DestinationsMeant(place, mover, false)) {
-        if (model::IsAdjacent(*situation_.Game.Map, mover.UnitType, mover.Location, destination)) {
+      for (const std::string& destination : known_.DestinationsMeant(place, mover, false)) {
+        if (model::IsAdjacent(*known_.Game.Map, mover.UnitType, mover.Location, destination)) {
           Add({mover, {}}, destination);
         }
       }
@@ -124,13 +124,13 @@ class Helper {
 
   bool IsAt(const WrittenPlace& place, const std::string& location) const {
     return std::ranges::any_of(
-        place.Rows, [&](int row) { return model::SamePlace(situation_.NameOf(row), location); });
+        place.Rows, [&](int row) { return model::SamePlace(known_.NameOf(row), location); });
   }
 
   orders::OrderKind kind_;
   const WrittenOrder& written_;
   const UnitMeant& unit_;
-  const Situation& situation_;
+  const KnownGame& known_;
   std::vector<Completed> orders_;
 };
 
@@ -146,13 +146,13 @@ PlainOrder OrderOf(const Unit& unit, orders::OrderKind kind) {
 }
 
 std::vector<Completed> SupportsMeant(const WrittenOrder& written, const UnitMeant& unit,
-                                     const Situation& situation, Fault& fault) {
-  return Helper(OrderKind::Support, written, unit, situation).Supports(fault);
+                                     const KnownGame& known, Fault& fault) {
+  return Helper(OrderKind::Support, written, unit, known).Supports(fault);
 }
 
 std::vector<Completed> ConvoysMeant(const WrittenOrder& written, const UnitMeant& unit,
-                                    const Situation& situation, Fault& fault) {
-  return Helper(OrderKind::Convoy, written, unit, situation).Convoys(fault);
+                                    const KnownGame& known, Fault& fault) {
+  return Helper(OrderKind::Convoy, written, unit, known).Convoys(fault);
 }
 
 }  // namespace orb::exchange

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "orders/exchange/situation.h"
+#include "orders/exchange/known_game.h"
 
 #include <vector>
 
 namespace orb::exchange {
 
-/// An order that was completed by the situation.
+/// An order that was completed from what is known of the game.
 struct Completed {
   PlainOrder Order;
   std::string Objection;
@@ -17,9 +17,9 @@ struct Completed {
 /// that unit to move; one that names a place alone is for the unit there, or for the only one that
 /// can move there. Without any, the fault says why.
 std::vector<Completed> SupportsMeant(const WrittenOrder& written, const UnitMeant& unit,
-                                     const Situation& situation, Fault& fault);
+                                     const KnownGame& known, Fault& fault);
 std::vector<Completed> ConvoysMeant(const WrittenOrder& written, const UnitMeant& unit,
-                                    const Situation& situation, Fault& fault);
+                                    const KnownGame& known, Fault& fault);
 
 /// The beginning of any order of the unit.
 PlainOrder OrderOf(const model::Unit& unit, orders::OrderKind kind);

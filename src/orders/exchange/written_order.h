@@ -32,7 +32,7 @@ struct WrittenUnit {
   WrittenPlace Place;
 };
 
-/// What was written, before the situation tells what it means. Not every part belongs to every
+/// What was written, before the game tells what it means. Not every part belongs to every
 /// verb; what was not written is empty.
 struct WrittenOrder {
   Verb What = Verb::None;

@@ -17,10 +17,10 @@ struct UnitMeant {
 };
 
 /// What the reader knows of the game: its map, its units and the moves that are ordered.
-class Situation {
+class KnownGame {
  public:
   /// The game and the names must outlive it.
-  Situation(const model::GameState& game, const PlaceNames& names, model::Stage stage)
+  KnownGame(const model::GameState& game, const PlaceNames& names, model::Stage stage)
       : Game(game), Names(names), Stage(stage) {}
 
   /// The units that a written one can mean. `power` is who owns it, 0: anybody; `fallback` owns a

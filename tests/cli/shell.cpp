@@ -1,9 +1,9 @@
-#include "cli/desk.h"
+#include "cli/shell.h"
 
 #include "cli/run.h"
 #include "model/files.h"
 #include "model/game_file.h"
-#include "support/situation.h"
+#include "support/boards.h"
 #include "text/strings.h"
 
 #include <set>
@@ -22,11 +22,11 @@ std::string Replaced(std::string text, std::string_view from, std::string_view t
 
 }  // namespace
 
-Outcome Desk::Run(std::string_view line) const {
+Outcome Shell::Run(std::string_view line) const {
   return Run(Words(line));
 }
 
-Outcome Desk::Run(const std::vector<std::string>& arguments, bool errIsTerminal) const {
+Outcome Shell::Run(const std::vector<std::string>& arguments, bool errIsTerminal) const {
   std::vector<std::string> expanded{"--data", DataDirectory().string()};
   for (const std::string& argument : arguments)
     expanded.push_back(Expanded(argument));
@@ -36,16 +36,16 @@ Outcome Desk::Run(const std::vector<std::string>& arguments, bool errIsTerminal)
   return {status, Shortened(out.str()), Shortened(err.str())};
 }
 
-void Desk::MakeDirectory(std::string_view name) const {
+void Shell::MakeDirectory(std::string_view name) const {
   std::filesystem::create_directory(directory_.Path() / name);
 }
 
-std::string Desk::Read(std::string_view name) const {
+std::string Shell::Read(std::string_view name) const {
   const std::filesystem::path file = directory_.Path() / name;
   return std::filesystem::exists(file) ? model::ReadFile(file) : "none";
 }
 
-std::string Desk::Listing() const {
+std::string Shell::Listing() const {
   std::set<std::string> names;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(directory_.Path()))
     names.insert(entry.path().lexically_relative(directory_.Path()).string());
@@ -55,11 +55,11 @@ std::string Desk::Listing() const {
   return listing;
 }
 
-std::string Desk::Expanded(std::string text) const {
+std::string Shell::Expanded(std::string text) const {
   return Replaced(std::move(text), "@", directory_.Path().string() + "/");
 }
 
-std::string Desk::Shortened(std::string text) const {
+std::string Shell::Shortened(std::string text) const {
   return Replaced(std::move(text), directory_.Path().string() + "/", "@");
 }
 

@@ -1,4 +1,4 @@
-#include "orders/exchange/situation.h"
+#include "orders/exchange/known_game.h"
 
 #include "model/lookups.h"
 #include "model/place.h"
@@ -31,7 +31,7 @@ std::string PowerText(int power) {
   return power == 0 ? std::string() : model::FixedCountries()[power].Abbreviation;
 }
 
-std::vector<UnitMeant> Situation::UnitsMeant(const WrittenUnit& written, int power, int fallback,
+std::vector<UnitMeant> KnownGame::UnitsMeant(const WrittenUnit& written, int power, int fallback,
                                              Fault& fault) const {
   std::vector<UnitMeant> meant;
   const Unit* other = nullptr;
@@ -69,7 +69,7 @@ std::vector<UnitMeant> Situation::UnitsMeant(const WrittenUnit& written, int pow
   return meant;
 }
 
-std::vector<std::string> Situation::DestinationsMeant(const WrittenPlace& written, const Unit& unit,
+std::vector<std::string> KnownGame::DestinationsMeant(const WrittenPlace& written, const Unit& unit,
                                                       bool byConvoy) const {
   const model::Map& map = *Game.Map;
   std::vector<std::string> all;
@@ -94,7 +94,7 @@ std::vector<std::string> Situation::DestinationsMeant(const WrittenPlace& writte
   return possible.empty() ? all : possible;
 }
 
-std::string Situation::Objection(const PlainOrder& order) const {
+std::string KnownGame::Objection(const PlainOrder& order) const {
   const auto stands = [&](const std::string& power, const std::string& type,
                           const std::string& location) {
     return std::any_of(Game.Units.begin(), Game.Units.end(), [&](const Unit& unit) {
@@ -116,7 +116,7 @@ std::string Situation::Objection(const PlainOrder& order) const {
   return {};
 }
 
-void Situation::Learn(const PlainOrder& order) {
+void KnownGame::Learn(const PlainOrder& order) {
   std::erase_if(Moves, [&](const PlainOrder& known) {
     return known.Power == order.Power && known.UnitType == order.UnitType &&
            known.Location == order.Location;
@@ -124,7 +124,7 @@ void Situation::Learn(const PlainOrder& order) {
   if (order.Kind == orders::OrderKind::Move) Moves.push_back(order);
 }
 
-const std::string* Situation::OrderedMove(const Unit& unit) const {
+const std::string* KnownGame::OrderedMove(const Unit& unit) const {
   const auto move = std::ranges::find_if(Moves, [&](const PlainOrder& order) {
     return order.Power == unit.Power && order.UnitType == unit.UnitType &&
            order.Location == unit.Location;

@@ -8,7 +8,7 @@
 
 namespace orb::tests {
 
-/// What a command line gave. The desk's directory is written as "@".
+/// What a command line gave. The shell's directory is written as "@".
 struct Outcome {
   int Status = 0;
   std::string Out;
@@ -16,7 +16,7 @@ struct Outcome {
 };
 
 /// A temporary directory in which commands run on the real map. "@NAME" stands for a file in it.
-class Desk {
+class Shell {
  public:
   const TemporaryDirectory& Directory() const { return directory_; }
 

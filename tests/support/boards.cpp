@@ -1,4 +1,4 @@
-#include "support/situation.h"
+#include "support/boards.h"
 
 #include "model/game_file.h"
 #include "model/map_files.h"
