@@ -7,10 +7,6 @@
 namespace orb::exchange {
 namespace {
 
-bool IsNumber(const Token& token) {
-  return token.Text.find_first_not_of("0123456789") == std::string::npos;
-}
-
 bool IsCoastWord(const Token& token) {
   return token.Text == "coast" || (token.Text.size() == 2 && CoastLetter(token.Text) != 0);
 }

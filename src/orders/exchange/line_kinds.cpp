@@ -7,11 +7,6 @@
 namespace orb::exchange {
 namespace {
 
-bool IsNumber(const Token& token) {
-  return token.Kind == TokenKind::Word &&
-         token.Text.find_first_not_of("0123456789") == std::string::npos;
-}
-
 bool IsWordToken(const Token& token) {
   return token.Kind == TokenKind::Word;
 }

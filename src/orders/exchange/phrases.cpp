@@ -30,11 +30,6 @@ bool IsLongDash(const Token& token) {
   return token.Kind == TokenKind::Dash && token.Text == "--";
 }
 
-bool IsNumber(const Token& token) {
-  return token.Kind == TokenKind::Word &&
-         token.Text.find_first_not_of("0123456789") == std::string::npos;
-}
-
 }  // namespace
 
 bool Phrases::Is(std::size_t at, TokenKind kind) const {

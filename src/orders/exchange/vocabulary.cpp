@@ -116,10 +116,6 @@ constexpr std::array<std::string_view, 28> Greetings{
 constexpr std::array<std::string_view, 11> MailHeaders{
     "from", "to", "cc", "bcc", "subject", "date", "sent", "reply", "received", "betreff", "von"};
 
-bool IsNumber(std::string_view word) {
-  return !word.empty() && word.find_first_not_of("0123456789") == std::string_view::npos;
-}
-
 /// "s01", "f1901m", "1901", "1901s", "1st": letters about a number.
 bool IsSeasonCode(std::string_view word) {
   const std::size_t first = word.find_first_of("0123456789");
@@ -242,8 +238,8 @@ bool IsAside(const Token& token) {
 }
 
 bool IsHeadingWord(const Token& token) {
-  return IsIn(token, HeadingWords) ||
-         (token.Kind == TokenKind::Word && (IsNumber(token.Text) || IsSeasonCode(token.Text)));
+  return IsIn(token, HeadingWords) || IsNumber(token) ||
+         (token.Kind == TokenKind::Word && IsSeasonCode(token.Text));
 }
 
 bool IsGreeting(const Token& token) {

@@ -114,6 +114,11 @@ std::vector<Token> CutTokens(std::string_view plain) {
   return tokens;
 }
 
+bool IsNumber(const Token& token) {
+  return token.Kind == TokenKind::Word &&
+         token.Text.find_first_not_of("0123456789") == std::string::npos;
+}
+
 std::string Quoted(Tokens tokens) {
   std::string quoted = "\"";
   if (!tokens.empty()) {

@@ -37,6 +37,9 @@ using Tokens = std::span<const Token>;
 /// texts (* _ ` |) part tokens and are none. The text must outlive the tokens.
 std::vector<Token> CutTokens(std::string_view plain);
 
+/// Whether it is a word of digits alone.
+bool IsNumber(const Token& token);
+
 /// What was written from the first token to the last, in quotes; what is no ASCII as "?".
 std::string Quoted(Tokens tokens);
 
