@@ -117,9 +117,9 @@ std::string KnownGame::Objection(const PlainOrder& order) const {
 }
 
 void KnownGame::Learn(const PlainOrder& order) {
-  std::erase_if(Moves, [&](const PlainOrder& known) {
-    return known.Power == order.Power && known.UnitType == order.UnitType &&
-           known.Location == order.Location;
+  std::erase_if(Moves, [&](const PlainOrder& earlier) {
+    return earlier.Power == order.Power && earlier.UnitType == order.UnitType &&
+           earlier.Location == order.Location;
   });
   if (order.Kind == orders::OrderKind::Move) Moves.push_back(order);
 }

@@ -124,7 +124,7 @@ void Add(Meanings& meanings, const Completed& order, const KnownGame& known, Tok
     const std::string text = orders::FaultText(words, fault);
     meanings.Problem = Fault{text.empty() ? "the unit is not on the map" : text, at};
   } else if (std::ranges::none_of(
-                 meanings.All, [&](const Meaning& known) { return known.Line == meaning.Line; })) {
+                 meanings.All, [&](const Meaning& other) { return other.Line == meaning.Line; })) {
     meanings.All.push_back(std::move(meaning));
   }
 }
