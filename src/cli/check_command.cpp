@@ -37,9 +37,12 @@ int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);
   OrdersSource source(line);
   return ForEachGame(line, console, plan, [&](GameAtWork& at) {
+    // Nothing is asked here, so --yes has no meaning: every problem is listed, and no game is
+    // written.
     const std::vector<exchange::ReadLine> unclear = source.Take(at.Situation, at.Paths);
     const std::string text = ProblemLines(at.Situation, at.Paths.Game, unclear);
     console.Print(text);
+    // A game with problems counts as refused, which makes the exit status 1.
     return text.empty();
   });
 }

@@ -12,14 +12,16 @@ class Console;
 /// How many GAME arguments a command takes.
 enum class Games { None, One, Several };
 
-/// One command of the program.
+/// One command of the program. Each lives in a source file of its own; the table in run.cpp gives
+/// the order in which the help lists them.
 struct Command {
   std::string_view Name;
   std::string_view Summary;
   Games Takes = Games::Several;
-  std::span<const OptionId> Options;  ///< those it knows beside the ones that all know
+  std::span<const OptionId> Options;  ///< those it knows besides the ones common to all
 
-  /// Does it; the exit status. Throws UsageError when the command line is wrong, nothing done.
+  /// Carries it out and returns the exit status. Throws UsageError when the command line is wrong;
+  /// nothing has been done then.
   int (*Execute)(const CommandLine& line, Console& console) = nullptr;
 };
 

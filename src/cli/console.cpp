@@ -7,13 +7,14 @@
 namespace orb::cli {
 namespace {
 
-/// Fewer games are done before anybody could read it.
+/// Up to this many games are done before anybody could read how far the run has come.
 constexpr std::size_t ShortRun = 50;
 
 bool IsBeyondAscii(char c) {
   return static_cast<unsigned char>(c) >= 0x80;
 }
 
+/// A message as one line, so that a script reads each message as one line of standard error.
 std::string OnOneLine(std::string_view text) {
   std::string line;
   line.reserve(text.size());
@@ -34,7 +35,8 @@ void Console::Print(std::string_view bytes) {
 
 void Console::Say(std::string_view subject, std::string_view text) {
   ClearProgress();
-  // The subject is a path, which is written as it was given. With UTF-8 in it the whole line is.
+  // The subject is a path, which is written as it was given. If it holds UTF-8, the message is
+  // converted as well: a line in two encodings could not be read anywhere.
   const bool utf8 = text::IsUtf8(subject) && std::ranges::any_of(subject, IsBeyondAscii);
   std::string line(subject);
   line.append(": ").append(utf8 ? text::ToUtf8(OnOneLine(text)) : OnOneLine(text)).append("\n");
@@ -48,6 +50,7 @@ void Console::ShowProgress(std::size_t done, std::size_t total) {
   if (done % std::max<std::size_t>(total / 100, 1) != 0) return;
   const std::string line = std::to_string(done) + " of " + std::to_string(total) + " games";
   err_ << '\r' << line << std::flush;
+  // The number only grows, so the line never gets shorter and needs no blanks to cover its old end.
   progressWidth_ = line.size();
 }
 
@@ -64,6 +67,7 @@ bool ConsoleMessages::Warn(const std::string& text) {
 
 model::Answer ConsoleMessages::Ask(const std::string& text) {
   console_.Say(subject_, text);
+  // A plain Yes would only bring the same question for the next unit; the answer would be the same.
   return yes_ ? model::Answer::YesToAll : model::Answer::No;
 }
 

@@ -9,7 +9,9 @@
 
 namespace orb::cli {
 
-/// The two output streams of a command. Texts are 8-bit and go out byte for byte.
+/// The two output streams of a command. Texts are 8-bit and go out byte for byte. What a command is
+/// asked for goes to standard output; messages and progress go to standard error, so that the
+/// output of a long run can be redirected and still be watched.
 class Console {
  public:
   /// `showProgress`: standard error is a terminal.
@@ -25,7 +27,8 @@ class Console {
   /// One line on standard error: the subject, ": ", the text with every line break as one blank.
   void Say(std::string_view subject, std::string_view text);
 
-  /// Shows how many games of a long run are done.
+  /// Shows how many games of a long run are done. The line is overwritten in place and removed
+  /// before anything else is written; nothing is shown for short runs.
   void ShowProgress(std::size_t done, std::size_t total);
 
  private:

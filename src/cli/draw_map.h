@@ -11,8 +11,9 @@
 
 namespace orb::cli {
 
-/// A map to be saved as a picture. Nothing of the drawing toolkit is needed to ask for one: the
-/// drawing is a module beside the program that is loaded only for it.
+/// A map to be saved as a picture. Asking for one needs nothing of the drawing toolkit: a module
+/// beside the program does the drawing and is loaded only then, so the other commands start without
+/// it and run where the toolkit is not installed.
 struct MapRequest {
   const model::GameState& Game;
   settings::MapOptions Options;

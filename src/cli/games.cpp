@@ -32,6 +32,8 @@ int ForEachGame(const CommandLine& line, Console& console, const std::vector<Gam
   bool allDone = true;
   for (const GamePaths& paths : plan) {
     allDone &= Attempt(console, paths.Game, [&] {
+      // Loaded within the attempt, so that a broken map is reported like any other fault. All games
+      // share it: the map never changes.
       if (!map) map = model::LoadMap(data);
       GameAtWork at{{model::EmptyGame(map)}, paths, {console, paths.Game, line.Has(OptionId::Yes)}};
       return session::ReadGame(at.Situation, paths.Game, at.Messages) && work(at);
@@ -43,6 +45,8 @@ int ForEachGame(const CommandLine& line, Console& console, const std::vector<Gam
 
 void WriteText(const std::filesystem::path& path, std::string_view text) {
   if (!IsDevice(path)) return model::ReplaceFile(path, text);
+  // A device or pipe cannot be replaced by a new file. Appending keeps what other games wrote
+  // there.
   std::ofstream stream(path, std::ios::binary | std::ios::app);
   if (!stream.write(text.data(), static_cast<std::streamsize>(text.size())).flush()) {
     throw model::FileError("Cannot write " + text::NameInText(path.string()) + ".");

@@ -13,8 +13,8 @@
 
 namespace orb::cli {
 
-/// A game of the plan while a command works on it. Messages are told under its name, and answered
-/// by --yes.
+/// A game of the plan while a command works on it. Messages are shown under its name; --yes answers
+/// its questions.
 struct GameAtWork {
   session::Situation Situation;
   const GamePaths& Paths;
@@ -29,7 +29,8 @@ using GameWork = std::function<bool(GameAtWork& at)>;
 int ForEachGame(const CommandLine& line, Console& console, const std::vector<GamePaths>& plan,
                 const GameWork& work);
 
-/// Does something that may throw; then a line on standard error says why. Whether it was done.
+/// Does something that may throw; if it does, a line on standard error says why. Returns whether it
+/// was done. A UsageError passes through, since it is no fault of the one game.
 bool Attempt(Console& console, std::string_view subject, const std::function<bool()>& work);
 
 /// Replaces a file whole or not at all; a device or pipe is written to. Throws FileError.

@@ -24,6 +24,8 @@ std::string Row(std::string_view name, std::string_view explanation) {
   return row.append(explanation).append("\n");
 }
 
+/// How -o is shown: it names a game for `new`, a picture for `map`; the commands that change games
+/// take it or --in-place.
 std::string OutputUsage(const Command& command) {
   if (command.Takes == Games::None) return "-o GAME";
   return Takes(command, OptionId::InPlace) ? "(-o PATH | --in-place)" : "-o PICTURE";
@@ -33,6 +35,7 @@ std::string OutputUsage(const Command& command) {
 std::string Usage(const Command& command) {
   std::vector<std::string> parts{"[--data DIR]", std::string(command.Name)};
   for (const Option& option : AllOptions()) {
+    // --in-place is shown together with -o, as its alternative.
     if (!Takes(command, option.Id)) continue;
     if (option.Id == OptionId::Output) {
       parts.push_back(OutputUsage(command));
@@ -57,6 +60,7 @@ std::string Usage(const Command& command) {
 }
 
 std::string OptionRow(const Command& command, const Option& option) {
+  // The table's text for -o speaks of directories, which only commands for several games accept.
   const bool isFileOnly = option.Id == OptionId::Output && !Takes(command, OptionId::InPlace);
   return isFileOnly ? Row(OutputUsage(command), "the file to write")
                     : Row(Spelled(option), option.Help);

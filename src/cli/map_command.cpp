@@ -42,7 +42,8 @@ int PixelWidth(const CommandLine& line) {
   return width;
 }
 
-/// Without the option not even the orders of the game file are drawn: maps go to all players.
+/// The orders to be drawn, taken from the orders file. This is done only when --orders is given: by
+/// default not even the orders of the game file are drawn, since maps go to all players.
 std::vector<orders::OrderOutcome> OrdersToDraw(session::Situation& situation, OrdersSource& source,
                                                const GamePaths& paths) {
   session::ExpectOrdersToDraw(situation);
@@ -51,6 +52,7 @@ std::vector<orders::OrderOutcome> OrdersToDraw(session::Situation& situation, Or
 }
 
 int Execute(const CommandLine& line, Console& console) {
+  // Everything that can be wrong with the command line is looked at before a game is read.
   const std::filesystem::path picture = *line.Value(OptionId::Output);
   const render::MapFormat format = Format(picture);
   const int width = PixelWidth(line);

@@ -9,7 +9,8 @@ namespace {
 
 constexpr std::array Options{OptionId::Blank, OptionId::Title, OptionId::Output};
 
-/// The 8-bit form of a title, which must go into a game file.
+/// The 8-bit form of a title. Game files put texts between double quotes, one record a line, and
+/// have no way to escape either.
 std::string TitleBytes(const std::string& title) {
   if (title.find_first_of("\"\r\n") != std::string::npos) {
     throw UsageError("new: A title with a double quote or a line end cannot be stored.");
@@ -22,6 +23,7 @@ std::string TitleBytes(const std::string& title) {
 int Execute(const CommandLine& line, Console& console) {
   const std::string& file = *line.Value(OptionId::Output);
   std::error_code ignored;
+  // Unlike the other commands: there is no game read whose name a file in a directory could take.
   if (file.empty() || std::filesystem::is_directory(file, ignored)) {
     throw UsageError("new: -o must name a file.");
   }

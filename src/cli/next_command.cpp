@@ -9,6 +9,7 @@ constexpr std::array Options{OptionId::Output, OptionId::InPlace};
 
 int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);
+  // A game that is not finished is refused by NextSeason itself.
   return ForEachGame(line, console, plan, [](GameAtWork& at) {
     session::NextSeason(at.Situation);
     session::SaveGameAs(at.Situation, at.Paths.Output);

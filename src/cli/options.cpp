@@ -7,6 +7,7 @@
 namespace orb::cli {
 namespace {
 
+/// The one place where options are described: both the reader and the help go by this table.
 constexpr std::array<Option, OptionCount> Table{{
     {OptionId::Data, "--data", "DIR", "the directory of the data files; else the program's own"},
     {OptionId::Help, "--help", "", "print this help and end"},
@@ -29,6 +30,7 @@ constexpr std::array<Option, OptionCount> Table{{
 }};
 
 bool Knows(const Command* command, OptionId id) {
+  // Options before the command can only be those that every command knows.
   if (command == nullptr) return IsCommonOption(id);
   return IsCommonOption(id) ||
          std::find(command->Options.begin(), command->Options.end(), id) != command->Options.end();
@@ -65,6 +67,7 @@ class Reader {
 
  private:
   void ReadOption(const std::string& argument) {
+    // As usual only long options take a value behind "="; "-o=x" is none that is known.
     const std::size_t equals = argument.starts_with("--") ? argument.find('=') : std::string::npos;
     const std::string_view name = std::string_view(argument).substr(0, equals);
     const auto* const option =

@@ -43,6 +43,7 @@ enum class OptionId {
   InPlace,
 };
 
+/// The number of OptionIds; the table and a command line's values are indexed by them.
 constexpr std::size_t OptionCount = 18;
 
 /// One row of the table of options.

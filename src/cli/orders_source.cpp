@@ -27,6 +27,7 @@ OrdersSource::OrdersSource(const CommandLine& line) : isLoose_(line.Has(OptionId
   if (isLoose_ && !line.Has(OptionId::Orders)) {
     throw UsageError("--loose reads orders files: --orders PATH is missing.");
   }
+  // Only the repair table for loosely written orders is read from the data directory here.
   if (isLoose_) data_ = DataDirectory(line);
   if (!line.Has(OptionId::Power)) return;
   if (!isLoose_) throw UsageError("--power goes with --loose.");
@@ -39,6 +40,7 @@ OrdersSource::OrdersSource(const CommandLine& line) : isLoose_(line.Has(OptionId
 
 std::vector<exchange::ReadLine> OrdersSource::Take(session::Situation& situation,
                                                    const GamePaths& paths) {
+  // Without an orders file the moves stage keeps the orders that came with the game file.
   if (paths.Orders.empty()) return {};
   // A file that cannot be looked at is not missing: reading it will say why.
   std::error_code ignored;

@@ -19,8 +19,8 @@ bool IsDirectory(const fs::path& path) {
   return fs::is_directory(path, ignored);
 }
 
-// What is done for each of thousands of games works on the texts of the paths: to take apart and
-// join std::filesystem::path objects would cost as much as a part of the adjudication.
+// What is done for each of thousands of games works on the texts of the paths: taking apart and
+// joining std::filesystem::path objects would cost as much as part of the adjudication.
 
 /// The part of a path behind its last "/".
 std::string_view FileName(std::string_view path) {
@@ -63,7 +63,8 @@ class PathOption {
   bool inDirectory_ = false;
 };
 
-/// Tells whether two paths name the same file; directories are looked up once.
+/// Gives every file one name, however the paths to it are written: two paths name the same file if
+/// these names are equal. Each directory is looked up only once.
 class FileNames {
  public:
   std::string Of(const std::string& path) {
@@ -88,7 +89,9 @@ class FileNames {
   std::map<std::string, std::string, std::less<>> directories_;
 };
 
-/// A file that is written twice, or read after it was written, would lose what somebody wanted.
+/// Refuses a plan in which a file would be written twice, or be read after it has been written:
+/// either way somebody would lose what they wanted. It runs before the first game is read, so that
+/// nothing has been done when it throws.
 void CheckOverlaps(const std::vector<GamePaths>& plan, bool mayReplace) {
   FileNames names;
   std::unordered_set<std::string> written;
@@ -104,14 +107,14 @@ void CheckOverlaps(const std::vector<GamePaths>& plan, bool mayReplace) {
     if (paths.Output.empty()) continue;
     std::string game = names.Of(paths.Game);
     std::string output = paths.Output.native() == paths.Game ? game : names.Of(paths.Output);
-    // A game that is written over itself is read whole before.
+    // A game written over itself is safe: it is read whole before.
     if (output != game || !mayReplace) read.push_back(std::move(game));
     add(paths.Output, std::move(output));
     addText(paths.Report);
     addText(paths.Reasons);
     if (!paths.Orders.empty()) read.push_back(names.Of(paths.Orders));
   }
-  // Looked at last, since a game may be read long before another is written over it.
+  // Compared only now that all outputs are known: a later game may be written over an earlier one.
   std::erase_if(read, [&](const std::string& name) { return !written.contains(name); });
   if (read.empty()) return;
   throw UsageError(*std::ranges::min_element(read) + " would be both read and written.");

@@ -19,7 +19,7 @@ struct GamePaths {
   std::filesystem::path Orders;
   std::filesystem::path Report;
   std::filesystem::path Reasons;
-  bool OrdersMayLack = false;  ///< no file in a directory of orders: no orders
+  bool OrdersMayLack = false;  ///< in a directory of orders, a game without a file has no orders
 };
 
 /// Whether it is a device or a pipe, which is written to and never replaced.

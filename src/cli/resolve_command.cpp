@@ -26,7 +26,9 @@ int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);
   OrdersSource orders(line);
   return ForEachGame(line, console, plan, [&](GameAtWork& at) {
+    // Unclear lines are asked about first: --yes leaves them out, otherwise the game is abandoned.
     if (!session::GoOnWithout(orders.Take(at.Situation, at.Paths), at.Messages)) return false;
+    // Reasons cost time, so they are only noted when somebody will read them.
     const auto noting = at.Paths.Reasons.empty() ? session::Noting::None : session::Noting::Full;
     if (!session::Resolve(at.Situation, at.Messages, noting)) return false;
     const std::string report = JoinLines(at.Situation.Game.ReportLines, std::identity());

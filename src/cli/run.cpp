@@ -32,6 +32,7 @@ int Run(std::span<const std::string> arguments, std::ostream& out, std::ostream&
   Console console(out, err, errIsTerminal);
   try {
     const int status = Execute(ParseCommandLine(arguments, Commands), console);
+    // A full disk or a closed pipe may show only when the last bytes go out.
     if (out.flush()) return status;
     console.Say("orbctl", "The standard output could not be written.");
     return ExitRefused;

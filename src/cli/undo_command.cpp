@@ -10,6 +10,7 @@ constexpr std::array Options{OptionId::Yes, OptionId::Output, OptionId::InPlace}
 int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);
   return ForEachGame(line, console, plan, [](GameAtWork& at) {
+    // Abandoned for a finished Autumn, and by No to losing units whose start was not recorded.
     if (!session::UndoSeason(at.Situation, at.Messages)) return false;
     session::SaveGameAs(at.Situation, at.Paths.Output);
     return true;

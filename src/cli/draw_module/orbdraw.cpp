@@ -8,9 +8,9 @@
 extern "C" bool OrbDrawMap(const orb::cli::MapRequest& request, std::string& error) {
   using namespace orb;
   try {
-    // What the toolkit notes about its surroundings is no message of this program.
+    // What the toolkit has to say about its surroundings is no message of this program.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    // Texts need an application object; it shall not ask for a display.
+    // Drawing text needs an application object, and that one must not ask for a display.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     int argc = 1;
     char name[] = "orbctl";
@@ -21,6 +21,7 @@ extern "C" bool OrbDrawMap(const orb::cli::MapRequest& request, std::string& err
                     pictures, request.Picture, request.Format, request.Orders);
     return true;
   } catch (const std::exception& failure) {
+    // No exception may leave the module: its types need not be those of the program.
     error = failure.what();
     return false;
   }

@@ -19,7 +19,8 @@ bool IsSameFile(int a, int b) {
 
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
-  // Only where both go to the same place has a report to be out before the next message.
+  // The output is flushed before each message only where both streams go to the same place, since
+  // only there does their order show; a run of thousands of games is faster without.
   if (!IsSameFile(STDOUT_FILENO, STDERR_FILENO)) std::cerr.tie(nullptr);
   const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
   return orb::cli::Run(arguments, std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1);
