@@ -18,6 +18,7 @@ constexpr std::array<Vision, 4> Visions = {Vision::Normal, Vision::NoRed, Vision
 /// Two small symbols far apart on the map are compared from memory, not side by side.
 constexpr double LeastDifference = 12;
 
+// These act on linear red, green and blue. Each row adds up to 1, so that grey stays grey.
 constexpr Matrix NoRedMatrix = {{{0.152286, 1.052583, -0.204868},
                                  {0.114503, 0.786281, 0.099216},
                                  {-0.003882, -0.048116, 1.051998}}};
@@ -27,6 +28,7 @@ constexpr Matrix NoGreenMatrix = {{{0.367322, 0.860646, -0.227968},
 constexpr Matrix NoBlueMatrix = {{{1.255528, -0.076749, -0.178779},
                                   {-0.078411, 0.930809, 0.147602},
                                   {0.004733, 0.691367, 0.303900}}};
+/// From linear sRGB to CIE XYZ, white point D65; its middle row gives the luminance.
 constexpr Matrix RgbToXyz = {{{0.4124564, 0.3575761, 0.1804375},
                               {0.2126729, 0.7151522, 0.0721750},
                               {0.0193339, 0.1191920, 0.9503041}}};
@@ -41,6 +43,7 @@ Vector Product(const Matrix& matrix, const Vector& v) {
   return result;
 }
 
+/// The three parts of a colour, 0..1, without the gamma curve of sRGB (IEC 61966-2-1).
 Vector Linear(model::Colour colour) {
   Vector rgb{};
   for (std::size_t i = 0; i < 3; ++i) {
@@ -54,6 +57,7 @@ double Luminance(model::Colour colour) {
   return Product(RgbToXyz, Linear(colour))[1];
 }
 
+/// The cube root of CIE Lab, continued by a straight line near black.
 double Cube(double t) {
   return t > 216.0 / 24389 ? std::cbrt(t) : (24389.0 / 27 * t + 16) / 116;
 }
@@ -65,17 +69,21 @@ double Radians(double degrees) {
   return degrees * std::numbers::pi / 180;
 }
 
+/// An angle of 0..360 degrees; grey has no hue, for which 0 stands.
 double Hue(double a, double b) {
   if (a == 0 && b == 0) return 0;
   const double hue = Degrees(std::atan2(b, a));
   return hue < 0 ? hue + 360 : hue;
 }
 
+/// The mean of two hues on the shorter way round the circle. Where one colour is grey, the other
+/// one's hue counts alone.
 double MeanHue(double h1, double h2, bool grey) {
   if (grey || std::abs(h1 - h2) <= 180) return grey ? h1 + h2 : (h1 + h2) / 2;
   return h1 + h2 < 360 ? (h1 + h2 + 360) / 2 : (h1 + h2 - 360) / 2;
 }
 
+/// The way from one hue to the other, -180..180 degrees.
 double HueStep(double h1, double h2, bool grey) {
   if (grey) return 0;
   const double step = h2 - h1;
@@ -83,6 +91,7 @@ double HueStep(double h1, double h2, bool grey) {
   return step > 180 ? step - 360 : step + 360;
 }
 
+/// 0 for greys, nearing 1 for vivid colours: the term that CIEDE2000 uses twice.
 double ChromaWeight(double chroma) {
   const double power = std::pow(chroma, 7);
   return std::sqrt(power / (power + std::pow(25.0, 7)));
@@ -96,6 +105,7 @@ Lab Seen(model::Colour colour, Vision vision) {
   if (vision == Vision::NoGreen) rgb = Product(NoGreenMatrix, rgb);
   if (vision == Vision::NoBlue) rgb = Product(NoBlueMatrix, rgb);
   for (double& part : rgb)
+    // A simulated colour may lie outside what a screen can show.
     part = std::clamp(part, 0.0, 1.0);
   const Vector xyz = Product(RgbToXyz, rgb);
   const double x = Cube(xyz[0] / 0.95047);
@@ -104,7 +114,8 @@ Lab Seen(model::Colour colour, Vision vision) {
   return {116 * y - 16, 500 * (x - y), 200 * (y - z)};
 }
 
-// The names of the formula as published: Sharma, Wu and Dalal (2005).
+// The steps of the formula as published by Sharma, Wu and Dalal (2005), its weights kL, kC and kH
+// being 1.
 double Difference(const Lab& a, const Lab& b) {
   const double meanC = (std::hypot(a.A, a.B) + std::hypot(b.A, b.B)) / 2;
   const double stretch = 1 + 0.5 * (1 - ChromaWeight(meanC));

@@ -14,14 +14,14 @@ struct Lab {
   double L = 0, A = 0, B = 0;
 };
 
-/// A colour as somebody with this kind of colour vision sees it. The missing
-/// cone is simulated with the matrices of Machado, Oliveira and Fernandes (2009), severity 1.
+/// A colour as somebody with this kind of colour vision sees it. The missing cone is simulated with
+/// the matrices of Machado, Oliveira and Fernandes (2009), severity 1.
 Lab Seen(model::Colour colour, Vision vision);
 
 /// The colour difference CIEDE2000; about 1 is just noticeable side by side.
 double Difference(const Lab& a, const Lab& b);
 
-/// The contrast of two colours as defined for readable web pages, 1..21; texts want 4.5.
+/// The contrast ratio of two colours as defined by WCAG for web pages, 1..21; text needs 4.5.
 double Contrast(model::Colour a, model::Colour b);
 
 /// Two powers, rows 1..7, whose fill colours look alike.

@@ -24,7 +24,7 @@ std::string WithoutTabs(std::string_view text) {
   return plain;
 }
 
-/// Adds a text in lines no longer than the width: broken at blanks where there are any. Lines
+/// Adds a text in lines no longer than TextReportWidth, broken at blanks where there are any. Lines
 /// after the first begin with `indent` blanks.
 void AddWrapped(std::string_view line, std::size_t indent, std::string& report) {
   const std::string plain = WithoutTabs(line);
@@ -32,6 +32,8 @@ void AddWrapped(std::string_view line, std::size_t indent, std::string& report) 
   std::size_t width = TextReportWidth;
   while (text.size() > width) {
     std::size_t end = text.substr(0, width + 1).rfind(' ');
+    // The blank may be the one just behind a full line. Leading blanks are no place to break: the
+    // first line would be empty.
     const bool atBlank = end != std::string_view::npos &&
                          text.substr(0, end).find_first_not_of(' ') != std::string_view::npos;
     if (!atBlank) end = width;
@@ -49,7 +51,8 @@ class Section {
 
   void AddLine(std::string_view text, std::size_t indent) { AddWrapped(text, indent, lines_); }
 
-  /// A name and what belongs to it, the latter in a column of its own.
+  /// A name and what belongs to it, the latter in a column of its own. A name that reaches into
+  /// that column is followed by one blank.
   void AddRow(std::string_view name, std::string_view contents) {
     constexpr std::size_t nameWidth = 24;
     std::string row = "  ";
@@ -87,7 +90,8 @@ bool IsCentre(const GameState& game, int province) {
   return game.Map->Provinces[province].IsSupplyCentre != 0;
 }
 
-/// The centres owned by a power; without one those that no power owns.
+/// The names of the centres that a power owns, or, without a power, of those that no power owns. An
+/// owner that is none of the seven abbreviations counts as nobody. Adds their number to `count`.
 std::string CentresOf(const GameState& game, const model::Country* owner, int& count) {
   std::string list;
   for (int p = 1; p <= game.Provinces.Count(); ++p) {
@@ -115,6 +119,7 @@ Section Report(const GameState& game) {
   Section section("Report");
   for (const std::string& line : game.ReportLines) {
     const std::size_t end = line.find_last_not_of(' ');
+    // Continued lines stand clear of the two columns that the brackets of failed orders take.
     constexpr std::size_t indent = 6;
     if (end != std::string::npos) section.AddLine(line.substr(0, end + 1), indent);
   }
@@ -128,6 +133,7 @@ Section Units(const GameState& game) {
     const std::string list = UnitsOf(game, country, count);
     section.AddRow(Counted(country.Name, count), list);
   }
+  // Game files may name powers other than the seven; their units are listed, not lost.
   std::string others;
   for (const model::Unit& unit : game.Units) {
     if (model::FindCountry(unit.Power) == 0) AddToList(model::UnitText(unit), others);
@@ -168,6 +174,7 @@ Section AdjustmentsDue(const GameState& game) {
     UnitsOf(game, country, units);
     const int builds = centres - units;
     const std::string number = std::to_string(std::abs(builds));
+    // A power with as many units as centres has nothing due and is left out.
     if (builds > 0) section.AddRow(country.Name, "build " + number);
     if (builds < 0) section.AddRow(country.Name, "disband " + number);
   }

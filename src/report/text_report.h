@@ -7,7 +7,7 @@
 
 namespace orb::report {
 
-/// The widest line of a text report.
+/// The length, in bytes, of the longest line of a text report: the limit recommended for mails.
 constexpr std::size_t TextReportWidth = 78;
 
 /// The situation as plain text for a mail or a printer: title, season and stage, the report, units,
