@@ -28,6 +28,8 @@ std::vector<std::string> FleetsOf(const model::Map& map, const OrderOutcome& mov
   const auto at = [&map](const std::string& location) -> const model::Province& {
     return model::PlaceOf(map, location);
   };
+  // The orders do not say in which order the fleets pass the army on, and the chain is not traced.
+  // Going to the nearest one each time looks right on the map.
   const model::Province* last = &at(move.Location);
   for (auto fleet = fleets.begin(); fleet != fleets.end(); ++fleet) {
     const auto next = std::min_element(fleet, fleets.end(), [&](const auto& a, const auto& b) {

@@ -18,7 +18,8 @@ bool IsFor(const OrderOutcome& order, const UnitChange& unit) {
          order.UnitType == unit.UnitType;
 }
 
-/// Whether the unit's place agrees with the move having been carried out.
+/// Whether the unit's place agrees with the move having been carried out. Of a unit that is gone
+/// only the resolved order tells; otherwise a unit may have moved and retreated since.
 bool Served(const OrderOutcome& move, const UnitChange& unit) {
   if (move.Outcome != Outcome::Succeeded && move.Outcome != Outcome::Entered) return false;
   return unit.To.empty() ? move.Outcome == Outcome::Succeeded : move.Destination == unit.To;
@@ -61,6 +62,8 @@ void SetMove(const Map& map, const UnitChange& unit, const Orders& orders, Journ
   }
   const std::string& moved = move == nullptr || journey.Bounces ? unit.From : journey.Aim;
   if (unit.To.empty() || unit.To == moved) return;
+  // The unit is not where its move left it: it was dislodged and retreated, or, where nothing is
+  // known of its order, its move is read off its places.
   if (IsResolved(unit, orders) || unit.MayHaveRetreated) {
     journey.Dislodged = true;
     journey.Retreat = unit.To;
@@ -73,10 +76,13 @@ void SetMove(const Map& map, const UnitChange& unit, const Orders& orders, Journ
 
 void SetRetreat(const Map& map, const UnitChange& unit, const Orders& orders, Journey& journey) {
   if (journey.DislodgedAtFirst) {
+    // It stood aside from the beginning, so wherever it went was a retreat.
     if (!unit.DislodgedAtLast) journey.Retreat = unit.To;
     return;
   }
   journey.Dislodged |= unit.DislodgedAtLast;
+  // A retreat order tells of a unit that went aside and was gone later; others show by where they
+  // are.
   if (!journey.Vanishes) return;
   if (const OrderOutcome* retreat = FindRetreat(map, unit, orders); retreat != nullptr) {
     journey.Dislodged = true;
@@ -124,6 +130,8 @@ std::vector<Journey> FindJourneys(const Map& map, const std::vector<UnitChange>&
   journeys.reserve(changes.size());
   for (const UnitChange& unit : changes)
     journeys.push_back(JourneyOf(map, unit, orders));
+  // Only when all moves are known can it be told who was pushed aside by whom: a unit that vanished
+  // without a recorded dislodgement, and whose place another one took, was dislodged and disbanded.
   for (Journey& journey : journeys) {
     if (journey.Vanishes && !journey.DislodgedAtFirst && !journey.Dislodged) {
       journey.Dislodged = WasDislodged(journey, journeys);

@@ -15,7 +15,7 @@ struct Journey {
   std::string UnitType;             ///< "A" or "F"
   std::string From;                 ///< where it stands at first; of a new unit where it appears
   std::string Aim;                  ///< where its move heads; empty: it stays
-  std::vector<std::string> Fleets;  ///< which carry the move, in the order it comes to them
+  std::vector<std::string> Fleets;  ///< that carry the move, in the order in which it meets them
   bool Bounces = false;             ///< the move fails: half-way and back
   bool DislodgedAtFirst = false;    ///< it stands aside from the beginning
   bool Dislodged = false;           ///< it is pushed aside at the end of the moves
@@ -24,7 +24,7 @@ struct Journey {
   bool Vanishes = false;            ///< from aside instead of retreating, else at the end
 };
 
-/// Whether its move takes it to where it heads.
+/// Whether it makes a move that succeeds.
 bool HasMoved(const Journey& journey);
 
 /// Where a unit stood and where it stands.
@@ -32,7 +32,7 @@ struct UnitChange {
   std::string Power;
   std::string UnitType;
   std::string From;  ///< empty: it did not exist
-  std::string To;    ///< empty: it exists no more
+  std::string To;    ///< empty: it no longer exists
   bool DislodgedAtFirst = false;
   bool DislodgedAtLast = false;
   bool MayHaveRetreated = false;  ///< it has been dislodged, and no move was aimed at To
@@ -40,7 +40,7 @@ struct UnitChange {
 
 /// How the units came from their first to their last places. Orders tell of failed moves, of
 /// convoys and of units that are gone; one not resolved (Entered) counts as carried out where the
-/// units' places agree. Orders of other units and to unknown places are not looked at.
+/// units' places agree with it. Orders for other units or to unknown places are ignored.
 std::vector<Journey> FindJourneys(const model::Map& map, const std::vector<UnitChange>& changes,
                                   const std::vector<orders::OrderOutcome>& orders);
 

@@ -25,12 +25,14 @@ bool IsDrawn(const Unit& unit) {
   return unit.Status.empty() || IsDislodged(unit);
 }
 
-/// A successful move leaves its mark on the place; a retreat needs a place without one.
+/// Whether a unit that was dislodged can have come to its place by a retreat: a move to a place
+/// marks it as contested, and no retreat may enter such a place.
 bool MayHaveRetreated(const GameState& game, const Unit& unit) {
   return !unit.DislodgedFrom.empty() &&
          game.Provinces[model::FindProvince(*game.Map, unit.Location)].Uncontested;
 }
 
+/// Throws IndexOutOfRange for a drawn unit of unknown place or power, before anything is drawn.
 void CheckKnown(const GameState& game) {
   for (const Unit& unit : game.Units) {
     if (!IsDrawn(unit)) continue;
@@ -43,6 +45,7 @@ void CheckKnown(const GameState& game) {
 UnitChange RecordedChange(const GameState& game, const Unit& unit) {
   UnitChange change{unit.Power, unit.UnitType, {}, unit.Location, false, IsDislodged(unit), false};
   if (game.Stage == model::Stage::Moves) {
+    // Before the moves nothing has happened; a unit still marked as dislodged stands aside.
     change.From = unit.Location;
     change.DislodgedAtFirst = change.DislodgedAtLast;
     return change;
@@ -57,7 +60,8 @@ bool IsSameUnit(const OrderOutcome& order, const OrderOutcome& other) {
          order.Location == other.Location;
 }
 
-/// A faulty order may be for a unit that never was; one that had to retreat has been.
+/// Whether an order proves that its unit existed. A void order may be for a unit that never did,
+/// unless that unit had to retreat or disband later.
 bool TellsOfUnit(const model::Map& map, const OrderOutcome& order,
                  const std::vector<OrderOutcome>& outcomes) {
   if (!IsMovesStageOrder(order) || model::FindCountry(order.Power) == 0 ||
@@ -71,7 +75,7 @@ bool TellsOfUnit(const model::Map& map, const OrderOutcome& order,
          });
 }
 
-/// Units that had orders and are in the tables no more.
+/// Adds the units that had orders but are no longer in the tables.
 void AddGoneUnits(const model::Map& map, const std::vector<OrderOutcome>& outcomes,
                   std::vector<UnitChange>& changes) {
   for (const OrderOutcome& order : outcomes) {
@@ -84,7 +88,7 @@ void AddGoneUnits(const model::Map& map, const std::vector<OrderOutcome>& outcom
   }
 }
 
-/// New units go behind the others.
+/// Puts new units after the others, so that the journeys begin with those of the start's units.
 void SortNewLast(std::vector<UnitChange>& changes) {
   std::stable_partition(changes.begin(), changes.end(),
                         [](const UnitChange& change) { return !change.From.empty(); });
@@ -105,8 +109,8 @@ GameState StartOf(const GameState& game, const std::vector<UnitChange>& changes)
   return start;
 }
 
-/// The orders in the list of a situation whose moves are still to be resolved, but for impossible
-/// moves.
+/// The listed orders of a situation whose moves are still to be resolved, without the moves that
+/// are impossible: those could only be shown as bounces that never took place.
 std::vector<OrderOutcome> ListedOrders(const GameState& game) {
   std::vector<OrderOutcome> listed = orders::EnteredOrders(game);
   const model::Map& map = *game.Map;
@@ -130,6 +134,7 @@ UnitChange ChangeBetween(const Unit& before, const Unit* after, bool mayHaveRetr
 
 std::vector<UnitChange> ChangesBetween(const GameState& earlier, const GameState& later) {
   const UnitMatches matches = MatchUnits(earlier, later);
+  // Only then do the later situation's marks on the places tell of just the moves in between.
   const bool isNextSeason = SeasonsBetween(earlier, later) == 1;
   std::vector<UnitChange> changes;
   for (int i = 1; i <= earlier.Units.Count(); ++i) {
@@ -164,6 +169,7 @@ Replay SeasonReplay(const GameState& game, const std::vector<OrderOutcome>& outc
 Replay ReplayBetween(const GameState& earlier, const GameState& later) {
   CheckKnown(earlier);
   CheckKnown(later);
+  // Only then are the earlier situation's orders those that led to the later one.
   const bool resolved = earlier.Stage == model::Stage::Moves && SeasonsBetween(earlier, later) == 1;
   const auto orders = resolved ? ListedOrders(earlier) : std::vector<OrderOutcome>();
   return {earlier, FindJourneys(*earlier.Map, ChangesBetween(earlier, later), orders), later};

@@ -35,6 +35,7 @@ std::string NextSeason(const GameState& game) {
                                  : SeasonName("Spring", game.Year + 1);
 }
 
+/// The season between two situations, or the first and the last of several.
 std::string NameBetween(const GameState& earlier, const GameState& later) {
   std::string last = PlayedSeason(later);
   return SeasonsBetween(earlier, later) > 1 ? NextSeason(earlier) + " - " + last : last;
@@ -57,11 +58,13 @@ ReplayPart SeasonPart(const GameState& game, const std::vector<orders::OrderOutc
 
 std::vector<ReplayPart> ReplaySequence(const std::vector<GameState>& games) {
   std::vector<ReplayPart> parts;
+  // A first situation after its moves has its own season behind it.
   if (!games.empty() && !IsBeforeMoves(games.front())) parts.push_back(SeasonPart(games.front()));
   for (std::size_t i = 1; i < games.size(); ++i) {
     const GameState& earlier = games[i - 1];
     const GameState& later = games[i];
     ReplayPart part{NameBetween(earlier, later), ReplayBetween(earlier, later)};
+    // A quiet season is still a season; two looks at the same one may differ in nothing.
     if (SeasonsBetween(earlier, later) != 0 || IsEventful(part.Replay)) {
       parts.push_back(std::move(part));
     }

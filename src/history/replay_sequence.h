@@ -17,9 +17,9 @@ struct ReplayPart {
 ReplayPart SeasonPart(const model::GameState& game,
                       const std::vector<orders::OrderOutcome>& outcomes = {});
 
-/// What happened from the first situation's season to the last one, without parts in which nothing
-/// happens because two situations show the same moment or nothing came before them. Throws as
-/// SeasonReplay does.
+/// What happened from the first situation's season to the last one's. Parts in which nothing
+/// happens are left out where two situations show the same season, or nothing came before the first
+/// one. Throws as SeasonReplay does.
 std::vector<ReplayPart> ReplaySequence(const std::vector<model::GameState>& games);
 
 }  // namespace orb::history

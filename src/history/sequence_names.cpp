@@ -34,6 +34,8 @@ bool IsSeasonAt(std::string_view name, std::size_t at) {
          IsDigit(name[at + 2]) && (at + 3 == name.size() || !IsDigit(name[at + 3]));
 }
 
+/// The position of the season in a name: the last one that begins a word, else the last of all. A
+/// title before it may hold something that looks like a season.
 std::optional<std::size_t> FindSeason(std::string_view name) {
   std::optional<std::size_t> found;
   bool foundBeginsWord = false;
@@ -55,7 +57,8 @@ std::optional<NamedFile> ReadName(const std::filesystem::path& file) {
   return NamedFile{file, name, year, name[*season] == 'a'};
 }
 
-/// The year that the sequence begins with.
+/// The year, 0..99, that the sequence begins with. Only where both 99 and 00 occur can the century
+/// turn within the sequence; then it begins after the longest run of missing years.
 int FirstYear(const std::vector<NamedFile>& files) {
   std::array<bool, YearsInCentury> used{};
   for (const NamedFile& file : files)

@@ -27,6 +27,7 @@ bool& Taken(Matching& matching, int later) {
   return matching.Taken[static_cast<std::size_t>(later)];
 }
 
+/// Whether two rows that are still free may be the same unit: units change neither power nor type.
 bool MayBeOne(Matching& matching, int earlier, int later) {
   const Unit& a = matching.Earlier.Units[earlier];
   const Unit& b = matching.Later.Units[later];
@@ -39,6 +40,7 @@ void Match(Matching& matching, int earlier, int later) {
   Taken(matching, later) = true;
 }
 
+/// Matches every pair of free rows that fits, in row order.
 template <class Fits>
 void MatchThose(Matching& matching, Fits fits) {
   for (int i = 1; i <= matching.Earlier.Units.Count(); ++i) {
@@ -50,7 +52,8 @@ void MatchThose(Matching& matching, Fits fits) {
   }
 }
 
-/// The number of the season whose start the previous locations tell, two a year.
+/// The number, two a year, of the season whose starting positions the previous locations record:
+/// before the moves that is still the season before.
 int RecordedSeason(const GameState& game) {
   const int season = game.Year * 2 + (game.Season == "Spring" ? 0 : 1);
   return game.Stage == model::Stage::Moves ? season - 1 : season;
@@ -66,6 +69,8 @@ bool AnyStartKnown(const GameState& game) {
                      [&](const Unit& unit) { return HasKnownStart(*game.Map, unit); });
 }
 
+/// Matches what is left by distance, the shortest first. Where starts are recorded at all, a unit
+/// without one was built meanwhile and is nobody's continuation.
 void MatchNearest(Matching& matching, bool recorded) {
   const model::Map& map = *matching.Later.Map;
   const auto& units = matching.Later.Units;
@@ -98,11 +103,14 @@ bool HasKnownStart(const model::Map& map, const Unit& unit) {
 UnitMatches MatchUnits(const GameState& earlier, const GameState& later) {
   Matching matching{earlier, later};
   const int seasons = SeasonsBetween(earlier, later);
+  // The surest sign comes first: what the file records. It reaches back one season only.
   MatchThose(matching, [&](const Unit& before, const Unit& after) {
     if (!HasKnownStart(*later.Map, after)) return false;
     if (seasons == 0) return before.PreviousLocation == after.PreviousLocation;
     return seasons == 1 && before.Location == after.PreviousLocation;
   });
+  // Then the units that have not moved. Over several seasons one may have been lost and a new one
+  // built in the same place.
   const bool recorded = AnyStartKnown(later);
   MatchThose(matching, [&](const Unit& before, const Unit& after) {
     const bool built = seasons > 1 && recorded && after.PreviousLocation.empty();
