@@ -20,10 +20,10 @@ constexpr double AdjustmentsTime = 0.9;
 constexpr double RestAfterStage = 0.3;
 constexpr double LastRest = 0.4;
 
-/// The part of the moves after which attackers come near enough to push.
+/// The part of the moves' time after which attackers are near enough to push.
 constexpr double PushStart = 0.7;
 
-/// Smaller ones are not to be seen.
+/// Units drawn smaller than this could not be seen.
 constexpr double LeastScale = 0.05;
 
 bool StandsAside(const history::Journey& journey) {
@@ -68,7 +68,7 @@ Clock ClockAt(const std::vector<history::Journey>& journeys, double seconds) {
   return clock;
 }
 
-/// Slow at both ends.
+/// A part of 0..1 made slow at both ends: the smoothstep curve.
 double Eased(double part) {
   const double t = std::clamp(part, 0.0, 1.0);
   return t * t * (3 - 2 * t);
@@ -106,6 +106,7 @@ void MoveUnit(const model::Map& map, const history::Journey& journey, double par
   way.push_back(UnitPoint(model::PlaceOf(map, journey.Aim)));
   double gone = Eased(part);
   if (journey.Bounces) {
+    // A unit that bounces and is dislodged too must be back home before it is pushed aside.
     const double done = journey.Dislodged ? std::min(1.0, part / PushStart) : part;
     gone = Eased(done < 0.5 ? 2 * done : 2 - 2 * done) / 2;
   }
@@ -115,6 +116,7 @@ void MoveUnit(const model::Map& map, const history::Journey& journey, double par
 
 void PushUnit(const model::Map& map, const history::Journey& journey, double part, Pose& pose) {
   if (!journey.Dislodged || part <= PushStart) return;
+  // A unit can be dislodged from the place it has just reached, too.
   const model::Province& place =
       model::PlaceOf(map, history::HasMoved(journey) ? journey.Aim : journey.From);
   Bring(pose, LabelPoint(place), DislodgedScale, Eased((part - PushStart) / (1 - PushStart)));

@@ -8,8 +8,9 @@
 #include <filesystem>
 
 // A frame is the map of the replay's start with the units on their way: first all moves, then the
-// retreats, last what is built or disbanded, with short rests about them; what does not happen
-// takes no time. At progress 0 the frame is that map, at 1 the units stand as in the replay's end.
+// retreats, last what is built or disbanded, with short rests before, between and after them; what
+// does not happen takes no time. At progress 0 the frame is that map, at 1 the units stand as at
+// the replay's end.
 
 namespace orb::render {
 
@@ -24,7 +25,7 @@ void DrawStill(const history::Replay& replay, const settings::MapOptions& option
 void DrawMoving(const history::Replay& replay, const settings::MapOptions& options, double progress,
                 Surface& surface);
 
-/// Draws a frame whole.
+/// Draws a whole frame: the still and what moves on it.
 void DrawFrame(const history::Replay& replay, const settings::MapOptions& options,
                const std::filesystem::path& dataDirectory, double progress, Surface& surface);
 

@@ -16,6 +16,7 @@ namespace {
 // the rows, each filled up to a multiple of four bytes. They run from the bottom row upwards, or
 // downwards where the height is negative. Numbers have their low byte first.
 constexpr std::size_t HeaderSize = 54;
+/// No map is larger, in pixels; the product of two sides also stays within an int.
 constexpr int LargestSide = 20000;
 
 /// From a ship's middle to its bow, as a fraction of the map's width.
@@ -63,6 +64,7 @@ Layout ReadHeader(std::string_view bytes, const std::string& fileName) {
   return {width, rows, height < 0, start, rowSize};
 }
 
+/// The square of a distance between fractions, in map heights.
 double SquareDistance(Point a, Point b, double aspect) {
   const double x = (a.X - b.X) * aspect;
   const double y = a.Y - b.Y;
@@ -111,6 +113,7 @@ HitMap::HitMap(std::string_view bytes, const std::string& fileName, int province
 }
 
 int HitMap::PixelAt(Point point) const {
+  // The right and the bottom edge, at fraction 1, still belong to the last pixel.
   const auto pixel = [](double fraction, int size) {
     return static_cast<std::size_t>(std::min(static_cast<int>(fraction * size), size - 1));
   };

@@ -18,6 +18,7 @@ using model::GameState;
 using model::Unit;
 using Orders = std::span<const orders::OrderOutcome>;
 
+/// The font of labels, captions and legend: 8 points, as the label boxes expect it.
 void SetFont(Surface& surface) {
   surface.FontSize = 8;
   surface.FontBold = false;
@@ -48,7 +49,8 @@ void DrawLabel(Surface& surface, const GameState& game, const settings::MapOptio
   surface.Circle(CentreDot(surface, province), DotRadius);
 }
 
-/// Over the lines of orders, from which a light seam keeps the letters and the dot apart.
+/// Draws a label once more, over the lines of orders: a light seam keeps the letters and the dot
+/// apart from them. The shifts are twips.
 void DrawLabelAgain(Surface& surface, const GameState& game, const settings::MapOptions& options,
                     int row) {
   const model::Province& province = game.Map->Provinces[row];
@@ -92,7 +94,8 @@ void DrawCaptions(Surface& surface, const GameState& game) {
   caption(2.5, StageCaption(game.Stage));
 }
 
-/// Where a move was aimed at a province that is empty now, nobody came through.
+/// Marks the provinces at which a move was aimed and which are empty all the same: those where
+/// nobody got through. A coast shares its province's marker.
 void DrawStandoffMarkers(Surface& surface, const GameState& game) {
   for (int row = 1; row <= game.Map->Provinces.Count(); ++row) {
     const model::Province& province = game.Map->Provinces[row];
@@ -128,6 +131,7 @@ void DrawAttackLines(Surface& surface, const GameState& game, settings::MapMode 
                      const Orders& orders) {
   for (const Unit& unit : game.Units) {
     if (unit.Status != model::Dislodged || unit.DislodgedFrom.empty()) continue;
+    // A line from a place where a unit stands now would look like an attack by that unit.
     if (model::FindUnitAt(game, unit.DislodgedFrom) != 0 || IsAmong(orders, unit)) continue;
     const Unit* attacker = FindAttacker(game, unit);
     if (attacker == nullptr) continue;
@@ -143,6 +147,7 @@ void DrawUnits(Surface& surface, const GameState& game, settings::MapMode mode, 
   for (const Unit& unit : game.Units) {
     const int power = model::FindCountry(unit.Power);
     const model::Province& province = model::PlaceOf(*game.Map, unit.Location);
+    // Only now, so that a unit in no known place is an error even where it would not be drawn.
     if (unit.Status != (dislodged ? model::Dislodged : std::string_view{})) continue;
     DrawUnit(surface, style, unit.UnitType, dislodged ? LabelPoint(province) : UnitPoint(province),
              power, dislodged ? DislodgedScale : 1.0);
@@ -265,6 +270,8 @@ void RenderMap(const GameState& game, const settings::MapOptions& options,
   DrawGround(game, options, dataDirectory, surface, orders);
   const std::vector<LabelBoxes> labels = BoxesToKeepClear(surface, game, orders);
   const std::vector<OrderRoute> routes = RoutesOf(surface, game, orders, labels);
+  // From the ground up: the lines of orders, the labels they would hide, units in place, dislodged
+  // units over their attackers, and what is marked on units.
   DrawOrdersBelowUnits(surface, game, routes, options.Mode);
   for (const int row : LabelsUnder(routes, labels))
     DrawLabelAgain(surface, game, options, row);

@@ -18,13 +18,14 @@ using orders::Outcome;
 constexpr double MoveWidth = 2.2;
 constexpr double OtherWidth = 1.5;
 constexpr double EdgeWidth = 0.8;
-constexpr double EdgeWidthWithoutColour = 1.3;  ///< borders are black there, too
+constexpr double EdgeWidthWithoutColour = 1.3;  ///< the map's borders are black there as well
 constexpr double RingRadius = 12 * TwipsPerPixel;
 constexpr double MarkReach = 3.6 * TwipsPerPixel;
 constexpr double DisbandReach = 9 * TwipsPerPixel;
 constexpr double WaveDepth = 10 * TwipsPerPixel;  ///< of the waves below a fleet's middle
 constexpr double LineReach = 2 * TwipsPerPixel;   ///< to either side of a line's middle
 
+/// By the luma of ITU-R BT.601, which is close enough to what the eye sees.
 bool IsDark(model::Colour colour) {
   const auto part = [colour](int shift) { return static_cast<double>(colour >> shift & 0xFF); };
   return 0.299 * part(0) + 0.587 * part(8) + 0.114 * part(16) < 125;
@@ -38,7 +39,7 @@ OrderPen PenOf(const model::Country& country, settings::MapMode mode, double wid
   return {country.Colour, edge, width, EdgeWidth};
 }
 
-/// The form of a line that usually has another one.
+/// The form of an order's line: the usual one, but dots for what is void.
 LineForm FormFor(Outcome outcome, LineForm usual) {
   return outcome == Outcome::Void ? LineForm::Dots : usual;
 }
@@ -47,12 +48,13 @@ bool GoesThrough(Outcome outcome) {
   return outcome == Outcome::Entered || outcome == Outcome::Succeeded;
 }
 
-/// Draws orders one by one.
+/// Draws the orders one by one: lines and rings lie below the units, crosses and pluses on them.
 class Artist {
  public:
   Artist(Surface& surface, const model::GameState& game, settings::MapMode mode)
       : surface_(surface), game_(game), mode_(mode) {}
 
+  /// A move or a retreat. A failed one runs on beyond its bar in dashes, to show where it headed.
   void DrawArrow(const OrderRoute& route) const {
     const Outcome outcome = route.Order->Outcome;
     const OrderPen pen = Pen(route, outcome == Outcome::Void ? OtherWidth : MoveWidth);
@@ -133,7 +135,7 @@ class Artist {
     return PenOf(game_.Countries[route.Power], mode_, width);
   }
 
-  /// On a curve the head has the direction of all its length.
+  /// On a curve the head points along the chord of its own length.
   static Spot HeadSpot(const Path& line) {
     const Point base = SpotAt(line, LengthOf(line) - HeadLength).At;
     return {line.back(), Towards(base, line.back())};
@@ -147,7 +149,7 @@ class Artist {
     });
   }
 
-  /// Lower right, where neither labels nor funnels are.
+  /// At the lower right of the ring, clear of labels and of ships' funnels.
   static Spot MarkOnRing(const Path& ring) { return SpotAt(ring, LengthOf(ring) / 8); }
 
   void DrawMark(const OrderPen& pen, Outcome outcome, Spot spot) const {
@@ -170,7 +172,9 @@ class Artist {
   settings::MapMode mode_;
 };
 
-/// A unit that stays: it was told to, or was told to go or give support to where it stands.
+/// Whether an order is drawn as a ring: the unit stays because it was told to, or because its move
+/// or support leads to where it stands. A hold that was only assumed for lack of an order shows a
+/// ring only where it failed.
 bool IsRing(const OrderRoute& route) {
   const OrderOutcome& order = *route.Order;
   if (order.Kind == orders::OrderKind::Hold) return !order.Unordered || !GoesThrough(order.Outcome);

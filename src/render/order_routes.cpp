@@ -21,7 +21,7 @@ using orders::OrderKind;
 using orders::OrderOutcome;
 using orders::Outcome;
 
-/// How far each of two arrows that lead to and fro gives way to its right.
+/// How far each of two arrows between the same places, one to and one fro, gives way to its right.
 constexpr double SideStep = 4.5 * TwipsPerPixel;
 
 constexpr double UnitRadius = 8 * TwipsPerPixel;
@@ -35,8 +35,7 @@ struct Approach {
   double Reach;
 };
 
-/// Those that are tried, the better ones first: a strong turn is worse than a head that just
-/// touches a label.
+/// Those that are tried, best first: a strong turn is worse than a head that just touches a label.
 constexpr std::array<Approach, 14> Approaches = {{{0, LabelReach},
                                                   {-15, LabelReach},
                                                   {15, LabelReach},
@@ -60,6 +59,8 @@ bool SupportsMove(const OrderOutcome& order) {
   return order.Kind == OrderKind::Support && !order.Destination.empty();
 }
 
+/// Whether the power and all places that the order's kind needs are on the map: void orders may
+/// name anything.
 bool CanBeDrawn(const model::Map& map, const OrderOutcome& order) {
   const auto known = [&map](const std::string& place) {
     return model::FindProvince(map, place) != 0;
@@ -80,13 +81,14 @@ const std::string& EndOf(const OrderOutcome& order) {
   return order.Kind == OrderKind::Support ? order.OtherLocation : order.Destination;
 }
 
-/// Where supports end on a move, as a part of what is seen of it: near its head, since those who
-/// support it are near its destination.
+/// Where supports end on a move, as a part of what can be seen of it: near its head, since its
+/// supporters stand near its destination.
 double SupportedPart(const Way& move) {
   return std::clamp(1 - 34 * TwipsPerPixel / (move.At(1) - move.At(0)), 0.4, 0.6);
 }
 
-/// Finds the lines of all routes; those of supports come last, since they end on other lines.
+/// Finds the lines of all routes in two rounds: first those that end at units, then the supports of
+/// moves, which end on lines of the first round.
 class Router {
  public:
   Router(const Surface& surface, const model::Map& map, std::span<const OrderOutcome> orders,
@@ -115,7 +117,7 @@ class Router {
     return OnSurface(surface_, UnitPoint(model::PlaceOf(map_, location)));
   }
 
-  /// Orders that lead from a place to itself have no line.
+  /// Whether the order's line ends at a unit. An order that leads from a place to itself has none.
   static bool GoesToUnit(const OrderOutcome& order) {
     return (IsMove(order) || order.Kind == OrderKind::Retreat ||
             order.Kind == OrderKind::Support) &&
@@ -136,6 +138,7 @@ class Router {
     return stops;
   }
 
+  /// Whether another order's line runs between the same two places the other way.
   bool HasOpposite(const OrderOutcome& order) const {
     return std::ranges::any_of(routes_, [&order](const OrderRoute& other) {
       return GoesToUnit(*other.Order) && SamePlace(other.Order->Location, EndOf(order)) &&

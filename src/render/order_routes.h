@@ -15,7 +15,8 @@ struct Way {
   Path Line;       ///< empty for none
   double Leg = 0;  ///< where its last leg begins, as a distance from the start
 
-  /// The distance from the start at this part of the last leg, as far as no unit covers it.
+  /// The distance from the start at this part, 0..1, of what can be seen of the last leg: it begins
+  /// below a unit's symbol.
   double At(double part) const;
 };
 
@@ -25,7 +26,7 @@ struct OrderRoute {
   int Power;              ///< row 1..7
   Point Unit;             ///< where the ordered unit is drawn
   render::Way Way;        ///< to its destination, or to the move or unit that it supports
-  render::Way Unordered;  ///< the supported or convoyed move when no order goes it
+  render::Way Unordered;  ///< the supported or convoyed move when nobody ordered it
   double Mark = 0;        ///< where the line tells how it ended, as a distance from its start
 };
 

@@ -19,7 +19,7 @@ void DrawLines(Surface& surface, const std::vector<Path>& parts) {
   }
 }
 
-/// All edges come first: none may lie over the core of a neighbour.
+/// Draws all edges before the first core: no edge may lie over the core of a neighbour.
 void DrawParts(Surface& surface, const OrderPen& pen, const std::vector<Path>& parts) {
   surface.DrawWidth = pen.Width + 2 * pen.EdgeWidth;
   surface.ForeColour = pen.Edge;
@@ -34,7 +34,8 @@ struct Rhythm {
   double Mark, Gap;
 };
 
-/// Ends are round, which lengthens the marks by the pen's width; a dot is all ends.
+/// The lengths of marks and gaps. Pen ends are round, which lengthens each mark by the pen's width;
+/// a dot consists of nothing but ends.
 Rhythm RhythmOf(LineForm form) {
   switch (form) {
     case LineForm::LongDashes:

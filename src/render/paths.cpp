@@ -14,6 +14,7 @@ struct Clip {
   double First = 0;
   double Last = 1;
 
+  /// Narrows it to where the coordinate, which runs from one value to another, is within bounds.
   void Between(double from, double to, double low, double high) {
     if (from == to) {
       if (from < low || from > high) Last = -1;
@@ -128,6 +129,7 @@ Path CurvePath(Point from, Point bend, Point to) {
   Path path;
   for (int i = 0; i <= steps; ++i) {
     const double part = static_cast<double>(i) / steps;
+    // De Casteljau's construction of a quadratic Bézier curve.
     const Point out = Moved(from, {bend.X - from.X, bend.Y - from.Y}, part);
     const Point in = Moved(bend, {to.X - bend.X, to.Y - bend.Y}, part);
     path.push_back(Moved(out, {in.X - out.X, in.Y - out.Y}, part));

@@ -100,7 +100,8 @@ Point EdgeInto(std::span<const Point> figure, std::size_t corner) {
   return {step.X / length, step.Y / length};
 }
 
-/// The figure (clockwise on the screen) with every edge moved inwards by a distance.
+/// The figure (clockwise on the screen) with every edge moved inwards by a distance. Each corner
+/// moves along the bisector of its angle, the further the sharper the angle is.
 std::vector<Point> Inset(std::span<const Point> figure, double distance) {
   std::vector<Point> inner;
   inner.reserve(figure.size());
@@ -138,10 +139,11 @@ void ShadeCircle(Surface& surface, Point centre, double radius) {
   }
 }
 
-/// As for the circle: an edge's shade follows from the side that it faces.
+/// The same light as on the circle: an edge's shade follows from the side it faces.
 void ShadeFigure(Surface& surface, std::span<const Point> figure) {
   for (std::size_t i = 0; i < figure.size(); ++i) {
     const Point edge = EdgeInto(figure, i);
+    // On a clockwise figure the edges that run rightwards or upwards face the light.
     const double light = edge.X - edge.Y;
     surface.ForeColour = light > 0.5 ? Lit : light < -0.5 ? Shaded : HalfLit;
     surface.Line(figure[(i + figure.size() - 1) % figure.size()], figure[i]);

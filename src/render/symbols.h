@@ -15,7 +15,7 @@ namespace orb::render {
 /// The scale of a unit that is dislodged; the others' is 1.
 constexpr double DislodgedScale = 0.75;
 
-/// What a unit's looks depend on beside its power.
+/// What a unit's looks depend on besides its power.
 struct SymbolStyle {
   const model::CountryTable& Countries;
   settings::MapMode Mode;

@@ -14,6 +14,8 @@
 namespace orb::render {
 namespace {
 
+// GIF counts time in hundredths of a second. Twenty frames a second look smooth and keep files
+// small; many viewers slow down much faster ones.
 constexpr int FrameHundredths = 5;
 constexpr int LastMapHundredths = 250;
 
@@ -53,6 +55,7 @@ class Frames {
   std::optional<AnimationFrame> Next() {
     if (done_ == all_) return std::nullopt;
     ++done_;
+    // All replays are done: the end of the last one stays in view before the animation begins anew.
     if (replay_ == show_.Replays.size()) return AnimationFrame{LastMap(show_), LastMapHundredths};
     const history::Replay& replay = show_.Replays[replay_];
     if (!picture_) picture_.emplace(PictureOf(show_, replay));
@@ -61,6 +64,7 @@ class Frames {
     if (++inReplay_ == count) {
       ++replay_;
       inReplay_ = 0;
+      // The next replay has a still of its own.
       picture_.reset();
     }
     return frame;
@@ -80,7 +84,8 @@ QRgb ToRgb(model::Colour colour) {
               static_cast<int>(colour >> 16 & 0xFF));
 }
 
-/// The powers' own colours, and what suits the first and the last map.
+/// The one palette of all frames: the powers' own colours, which must not be blended into others,
+/// and what suits the first and the last map best.
 std::vector<QRgb> CommonColours(const Show& show) {
   std::vector<QRgb> colours = {ToRgb(Black), ToRgb(White)};
   for (const model::Country& country : show.Replays.back().End.Countries) {

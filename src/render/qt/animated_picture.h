@@ -25,7 +25,7 @@ struct AnimationFrame {
   int Hundredths = 0;  ///< of a second that it is shown
 };
 
-/// Gives one frame after the other, all of one size, and nothing after the last.
+/// Gives one frame after another, all of one size, and nothing after the last.
 using FrameSource = std::function<std::optional<AnimationFrame>()>;
 
 /// Called after every frame with the frames done and the number of all; false stops the work.

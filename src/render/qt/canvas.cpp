@@ -16,6 +16,7 @@ Canvas PlanCanvas(const std::filesystem::path& background, int pixelWidth, Pictu
   }
   const QImage& picture = pictures.Picture(background);
   const int width = pixelWidth == 0 ? picture.width() : pixelWidth;
+  // A map of a few pixels' width still has a row.
   const int height =
       std::max(1, qRound(static_cast<double>(width) * picture.height() / picture.width()));
   return {NaturalSize(picture), QSize(width, height), Resolution(picture)};
@@ -24,6 +25,7 @@ Canvas PlanCanvas(const std::filesystem::path& background, int pixelWidth, Pictu
 QImage NewImage(const Canvas& canvas) {
   QImage image(canvas.Pixels, QImage::Format_RGB32);
   if (image.isNull()) throw model::FileError("There is no memory for a map of that size.");
+  // Picture files count pixels a metre; programs that print them go by this.
   image.setDotsPerMeterX(qRound(canvas.PixelsPerInch / 0.0254));
   image.setDotsPerMeterY(image.dotsPerMeterX());
   return image;

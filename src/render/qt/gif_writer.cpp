@@ -11,12 +11,14 @@
 namespace orb::render {
 namespace {
 
+/// In hundredths of a second: the format has two bytes for it.
 constexpr int LongestTime = 65535;
 constexpr int ColourBits = 8;
 
 /// The colour of pixels that stay as they are.
 constexpr std::uint8_t StayingColour = GifWriter::MostColours;
 
+/// What the GIF library calls to write: it collects the file in a text in memory.
 int Append(GifFileType* file, const GifByteType* bytes, int count) {
   static_cast<std::string*>(file->UserData)
       ->append(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(count));
@@ -25,6 +27,7 @@ int Append(GifFileType* file, const GifByteType* bytes, int count) {
 
 using ColourMap = std::unique_ptr<ColorMapObject, decltype(&GifFreeMapObject)>;
 
+/// The colour table, whose length the format wants to be a power of two; unused rows are black.
 ColourMap MapOf(const std::vector<QRgb>& colours) {
   std::array<GifColorType, std::size_t{1} << ColourBits> table{};
   for (std::size_t i = 0; i < std::min(colours.size(), GifWriter::MostColours); ++i) {
@@ -77,7 +80,7 @@ void GifWriter::Closing::operator()(GifFileType* file) const {
   EGifCloseFile(file, nullptr);
 }
 
-/// Fills the changes; returns the rectangle that holds them.
+/// Fills the changes and returns the rectangle that holds them.
 QRect GifWriter::FindChanges(const QImage& picture) {
   std::fill(changes_.begin(), changes_.end(), StayingColour);
   QRect part;
@@ -86,6 +89,7 @@ QRect GifWriter::FindChanges(const QImage& picture) {
     const QRgb* before = shown_.isNull() ? nullptr : RowOf(shown_, y);
     const auto row = static_cast<std::size_t>(y) * static_cast<std::size_t>(size_.width());
     for (int x = 0; x < size_.width(); ++x) {
+      // Most pixels stay, so the palette is asked only about those that differ.
       if (before != nullptr && before[x] == now[x]) continue;
       const std::size_t at = row + static_cast<std::size_t>(x);
       const std::uint8_t index = palette_.IndexOf(now[x]);
@@ -113,6 +117,7 @@ void GifWriter::Add(const QImage& picture, int hundredths) {
   pendingTime_ = hundredths;
 }
 
+// A frame is written only when the next different one comes: until then its time may still grow.
 void GifWriter::WritePending() {
   if (pendingPart_.isEmpty()) return;
   const GraphicsControlBlock control{DISPOSE_DO_NOT, false, std::min(pendingTime_, LongestTime),

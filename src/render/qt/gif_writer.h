@@ -19,7 +19,7 @@ namespace orb::render {
 /// that changed, and of that only the pixels that changed.
 class GifWriter {
  public:
-  /// How many colours its palette may have: one more stands for pixels that stay.
+  /// How many colours its palette may have: the 256th stands for pixels that stay.
   static constexpr std::size_t MostColours = 255;
 
   /// Throws FileError for a size that the format cannot hold.

@@ -53,6 +53,7 @@ void WriteImage(const Job& job, QBuffer& buffer, const char* format) {
   }
 }
 
+/// The drawing's unit is the canvas's pixel; the resolution tells viewers how large one is.
 void WriteSvg(const Job& job, QBuffer& buffer) {
   QSvgGenerator generator;
   generator.setOutputDevice(&buffer);
@@ -64,6 +65,7 @@ void WriteSvg(const Job& job, QBuffer& buffer) {
   Draw(job, painter, QRectF(QPointF(0, 0), QSizeF(job.Size.Pixels)));
 }
 
+/// One page of just the map's size, at the background's own resolution, without margins.
 void WritePdf(const Job& job, QBuffer& buffer) {
   constexpr double pointsPerInch = 72;
   QPdfWriter writer(&buffer);
@@ -96,6 +98,7 @@ void SaveMap(const model::GameState& game, const settings::MapOptions& options,
              const std::filesystem::path& file, MapFormat format,
              std::span<const orders::OrderOutcome> orders) {
   const Job job = Plan(game, options, dataDirectory, pixelWidth, pictures, orders);
+  // Everything is drawn in memory first, so that a failure leaves an existing file as it was.
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   switch (format) {

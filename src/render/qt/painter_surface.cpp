@@ -19,7 +19,8 @@ QPointF ToQPoint(Point point) {
   return {point.X, point.Y};
 }
 
-/// The painter's unit is a twip, so that a font's size in pixels is one in twips.
+/// The map's font. The painter's unit is a twip, so a font's size "in pixels" is one in twips.
+/// Without hinting, texts keep their proportions at every scale.
 QFont MapFont() {
   QFont font(QStringList{QStringLiteral("Open Sans"), QStringLiteral("sans-serif")});
   font.setStyleHint(QFont::SansSerif);
@@ -60,6 +61,8 @@ void PainterSurface::SetFontFamily(const QString& family) {
 }
 
 void PainterSurface::LoadPicture(const std::filesystem::path& file) {
+  // Printers and vector files take the picture as it is. On a screen or image it is drawn pixel by
+  // pixel from a copy scaled once and kept, since scaling takes longer than all the rest.
   const QTransform toDevice = painter_.deviceTransform();
   const bool raster = painter_.paintEngine()->type() == QPaintEngine::Raster;
   if (!raster || toDevice.type() > QTransform::TxScale) {
@@ -68,6 +71,7 @@ void PainterSurface::LoadPicture(const std::filesystem::path& file) {
   }
   const QSize pixels = toDevice.mapRect(QRectF(QPointF(0, 0), twips_)).size().toSize();
   QImage picture = pictures_.Scaled(file, pixels);
+  // With the ratio of a dense screen set, one pixel of the copy falls on one of the device.
   picture.setDevicePixelRatio(pixels.width() / target_.width());
   const QTransform inner = painter_.worldTransform();
   painter_.setWorldTransform(outer_);
@@ -80,6 +84,8 @@ void PainterSurface::PaintWhite() {
 }
 
 const QFontMetricsF& PainterSurface::UseFont() const {
+  // Font metrics are costly to make and asked for with every text, so they are kept until the font
+  // changes.
   const int size = qRound(FontSize * TwipsPerPoint);
   if (font_.pixelSize() != size || font_.bold() != FontBold || font_.underline() != FontUnderline) {
     font_.setPixelSize(size);
@@ -102,6 +108,7 @@ void PainterSurface::DrawText(Point corner, std::string_view text) {
   const double ascent = UseFont().ascent();
   painter_.setFont(font_);
   painter_.setPen(colour::ToQColor(ForeColour));
+  // The painter places texts by their base line, the surface by their upper edge.
   painter_.drawText(QPointF(corner.X, corner.Y + ascent), text::ToQString(text));
 }
 

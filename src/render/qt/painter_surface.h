@@ -14,8 +14,8 @@
 
 namespace orb::render {
 
-/// The surface made with a painter: image, screen, printer, PDF or SVG. The painter must outlive
-/// it and is left as it was found.
+/// A surface on whatever a painter paints on: image, screen, printer, PDF or SVG. The painter must
+/// outlive it and is left as it was found.
 class PainterSurface : public Surface {
  public:
   /// Lays a surface of the given size in twips over a rectangle of the painter's coordinates.

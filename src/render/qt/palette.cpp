@@ -19,6 +19,7 @@ std::array<int, 3> PartsOf(QRgb colour) {
   return {qRed(colour), qGreen(colour), qBlue(colour)};
 }
 
+/// How many pixels have which colour, over all pictures, in a fixed order.
 Shades CountShades(const std::vector<QImage>& pictures) {
   std::unordered_map<QRgb, double> counts;
   for (const QImage& picture : pictures) {
@@ -32,7 +33,7 @@ Shades CountShades(const std::vector<QImage>& pictures) {
   shades.reserve(counts.size());
   for (const auto& [colour, count] : counts)
     shades.push_back({PartsOf(colour), count});
-  // The order in the hash table is not the same everywhere.
+  // The order in a hash table differs between libraries; the same map must give the same file.
   std::sort(shades.begin(), shades.end(),
             [](const Shade& a, const Shade& b) { return a.Parts < b.Parts; });
   return shades;
@@ -68,7 +69,8 @@ Box BoxOf(Shades::iterator begin, Shades::iterator end) {
   return box;
 }
 
-/// Where the box falls into two at its mean; both halves hold something.
+/// Where the box falls into two at its mean. Both halves hold something, whatever rounding does to
+/// a mean of almost equal parts.
 Shades::iterator Split(const Box& box) {
   const double mean = box.Mean[box.Axis];
   const auto middle = std::partition(
@@ -98,12 +100,15 @@ int Distance(QRgb a, QRgb b) {
 }  // namespace
 
 std::vector<QRgb> ChooseColours(const std::vector<QImage>& pictures, std::size_t count) {
+  // A median cut by variance: of all boxes, the one whose pixels differ most from their mean colour
+  // falls into two at that mean.
   Shades shades = CountShades(pictures);
   std::vector<Box> boxes;
   if (!shades.empty()) boxes.push_back(BoxOf(shades.begin(), shades.end()));
   while (!boxes.empty() && boxes.size() < count) {
     const auto widest = std::max_element(
         boxes.begin(), boxes.end(), [](const Box& a, const Box& b) { return a.Spread < b.Spread; });
+    // Every box holds a single shade: there are fewer colours than allowed.
     if (std::next(widest->Begin) == widest->End) break;
     const auto middle = Split(*widest);
     const Box upper = BoxOf(middle, widest->End);

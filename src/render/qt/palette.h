@@ -14,7 +14,8 @@ namespace orb::render {
 /// own colour, the rest is averaged. The pictures have 32 bits a pixel.
 std::vector<QRgb> ChooseColours(const std::vector<QImage>& pictures, std::size_t count);
 
-/// Finds each colour's nearest one of a fixed few.
+/// A fixed set of colours in which each colour finds its nearest one. Answers are remembered: a map
+/// has few colours and many pixels.
 class Palette {
  public:
   /// 1 to 256 colours.

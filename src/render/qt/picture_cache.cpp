@@ -13,6 +13,8 @@ namespace {
 constexpr double TwipsPerInch = 1440;
 constexpr double MetresPerInch = 0.0254;
 
+/// Reads through the core's file functions, so that a missing file gives the same message
+/// everywhere.
 QImage Decode(const std::filesystem::path& file) {
   const std::string bytes = model::ReadFile(file);
   const QByteArray data =
@@ -28,6 +30,8 @@ QImage Decode(const std::filesystem::path& file) {
 
 PictureCache::Entry& PictureCache::Current(const std::filesystem::path& file) {
   std::error_code error;
+  // Time and size are looked at on each call, so that an exchanged background shows without a
+  // restart.
   const auto time = std::filesystem::last_write_time(file, error);
   const auto size = error ? 0 : std::filesystem::file_size(file, error);
   const auto found = entries_.find(file);
@@ -54,6 +58,7 @@ const QImage& PictureCache::Scaled(const std::filesystem::path& file, QSize size
 }
 
 double Resolution(const QImage& picture) {
+  // Bitmaps store pixels a metre, seldom whole pixels an inch; a broken one may store next to none.
   return std::max(1.0, std::round(picture.dotsPerMeterX() * MetresPerInch));
 }
 

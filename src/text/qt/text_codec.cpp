@@ -16,6 +16,7 @@ std::optional<std::string> ToBytes(QStringView text) {
   std::string bytes;
   bytes.reserve(static_cast<std::size_t>(text.size()));
   for (const QChar c : text) {
+    // A character beyond 16 bits comes as two surrogates; neither has an 8-bit code.
     const auto code = text::CodeOf(c.unicode());
     if (!code) return std::nullopt;
     bytes.push_back(*code);
