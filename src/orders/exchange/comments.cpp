@@ -11,7 +11,8 @@ bool IsCoastWord(const Token& token) {
   return token.Text == "coast" || (token.Text.size() == 2 && CoastLetter(token.Text) != 0);
 }
 
-/// How many tokens from here are a word of orders: a verb, a unit, a power, a place; 0: none.
+/// How many tokens from here make up a word of orders: a verb, a type of unit, a power, a place or
+/// a coast; 0: they are none. Places come first, since their names may be longer than a verb.
 std::size_t OrderWord(Tokens tokens, std::size_t at, const PlaceNames& names) {
   const Token& token = tokens[at];
   if (token.Kind != TokenKind::Word) return 0;
@@ -22,7 +23,7 @@ std::size_t OrderWord(Tokens tokens, std::size_t at, const PlaceNames& names) {
   return isWord ? 1 : 0;
 }
 
-/// How many words belong to orders, and how many do not; numbers and fillers are neither.
+/// How many words belong to orders, and how many do not. Fillers, "the" and "my", are neither.
 std::pair<int, int> CountWords(Tokens tokens, const PlaceNames& names) {
   std::pair<int, int> count;
   for (std::size_t at = 0; at < tokens.size();) {
@@ -38,7 +39,7 @@ std::pair<int, int> CountWords(Tokens tokens, const PlaceNames& names) {
   return count;
 }
 
-/// Whether a type, its place and a verb stand there.
+/// Whether a type, its place and a verb stand there one after another: "(A Par H)" is an order.
 bool OrdersUnit(Tokens tokens, const PlaceNames& names) {
   for (std::size_t at = 0; at + 2 < tokens.size(); ++at) {
     if (UnitTypeOf(tokens[at]) == 0 || !IsA(tokens[at + 1], TokenKind::Word)) continue;
@@ -68,6 +69,7 @@ bool IsProse(Tokens tokens, const PlaceNames& names) {
 bool IsRemark(Tokens tokens, const PlaceNames& names) {
   const auto isWord = [](const Token& token) { return token.Kind == TokenKind::Word; };
   if (FindCondition(tokens) != tokens.size()) return false;
+  // "(sc)" belongs to the place before it, and must not be dropped as a remark.
   if (std::ranges::any_of(tokens, IsCoastWord) || OrdersUnit(tokens, names)) return false;
   const auto words = std::ranges::count_if(tokens, isWord);
   if (words == 0 || std::ranges::all_of(tokens, IsNumber)) return true;
@@ -75,6 +77,7 @@ bool IsRemark(Tokens tokens, const PlaceNames& names) {
                           [&](const Token& token) { return !isWord(token) || IsFiller(token); })) {
     return true;
   }
+  // A single word may be a place with a slip of the pen, "(Spian)".
   if (words == 1) {
     const auto word = std::ranges::find_if(tokens, isWord);
     if (!names.NearlyNamed(word->Text).empty()) return false;

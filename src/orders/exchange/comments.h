@@ -7,11 +7,11 @@ namespace orb::exchange {
 /// The bracket that closes the one at this token, or the number of tokens.
 std::size_t ClosingBracket(Tokens tokens, std::size_t open);
 
-/// Whether tokens are surely no part of an order: two words or more, none of them one of orders.
+/// Whether tokens are surely no part of an order: two words or more, none of them a word of orders.
 bool IsProse(Tokens tokens, const PlaceNames& names);
 
-/// Whether what stands in brackets behind an order says nothing about it: not only words of orders,
-/// none that names a coast or makes a condition, no place with a slip, no unit with a verb.
+/// Whether what stands in brackets behind an order says nothing about it: it has other words than
+/// those of orders, names no coast, makes no condition, is no place with a slip and orders no unit.
 bool IsRemark(Tokens tokens, const PlaceNames& names);
 
 /// The first word that makes a condition, or the number of tokens.

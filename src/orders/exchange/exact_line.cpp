@@ -20,6 +20,7 @@ std::string SecondPower(const PlainOrder& order, bool always) {
 
 std::string Format(const PlainOrder& order, model::Stage stage, bool alwaysNamesPower) {
   const std::string unit = UnitText(order.UnitType, order.Location);
+  // Lines have verbs in small letters, but S and C in capitals and the dash as it is.
   const bool isWord = KindWord(order.Kind).size() > 1;
   const std::string verb =
       isWord ? text::LowerCase(KindWord(order.Kind)) : std::string(KindWord(order.Kind));
@@ -53,7 +54,9 @@ std::optional<PlainOrder> ReadExactLine(const model::Map& map, model::Stage stag
                    words.Kind,         text(words.Power2),   text(words.UnitType2),
                    text(words.Target), words.Kind2,          text(words.Target2)};
   const std::string upper = text::UpperCase(line);
-  // Names that the parser has found are spelled exactly, but for the power of an adjustment.
+  // The parser is forgiving: it accepts lines with blanks or words too many. Only a line that comes
+  // out again when it is formatted has the exact form. Names that the parser found are spelled
+  // exactly, except for the power of an adjustment.
   const bool isExact =
       line.starts_with(order.Power) && (upper == text::UpperCase(Format(order, stage, false)) ||
                                         upper == text::UpperCase(Format(order, stage, true)));

@@ -5,9 +5,12 @@
 namespace orb::exchange {
 namespace {
 
+/// Whether the word is a type and a place, and cannot be read as anything else.
 bool IsGluedType(const std::vector<Token>& tokens, std::size_t at, const PlaceNames& names) {
   const Token& word = tokens[at];
   constexpr std::size_t shortest = 4;
+  // A type and the three letters of a place; without "'s" or an apostrophe, so that text and
+  // writing have the same letters.
   const bool isLong = word.Kind == TokenKind::Word && word.Text.size() >= shortest &&
                       word.Text.size() == word.Written.size();
   if (!isLong || (word.Text[0] != 'a' && word.Text[0] != 'f') || word.Text == "from") return false;
@@ -16,6 +19,7 @@ bool IsGluedType(const std::vector<Token>& tokens, std::size_t at, const PlaceNa
            (VerbOf(tokens[beside]) != Verb::None || IsA(tokens[beside], TokenKind::Open) ||
             IsA(tokens[beside], TokenKind::Slash));
   };
+  // Without one of these beside it, such a word is taken as it stands.
   if (!commands(at + 1) && (at == 0 || !commands(at - 1))) return false;
   Token place = word;
   place.Text.erase(0, 1);

@@ -15,7 +15,9 @@ struct State {
 
 using States = std::vector<State>;
 
-/// Reads one order; every step turns the readings so far into all that can follow.
+/// Reads one order; every step turns the readings so far into all that can follow. Nothing is
+/// decided here: "Nor" stays all its places, and readings that make no sense in the situation are
+/// dropped later.
 class Grammar {
  public:
   Grammar(Phrases& phrases, model::Stage stage, Verb verb)
@@ -23,6 +25,7 @@ class Grammar {
 
   std::vector<WrittenOrder> Read() {
     States all;
+    // A power may also be a place, as in "Eng - Iri": so each front is tried both ways.
     for (const State& state : Front()) {
       Append(all, UnitFirst(state));
       Append(all, VerbFirst(state));
@@ -77,6 +80,7 @@ class Grammar {
       const std::size_t via = phrases_.PastVia(state.Next);
       state.Order.ByConvoy = via != state.Next;
       const auto [verb, next] = phrases_.VerbAt(via);
+      // Under "Builds:" or "Remove:" the heading gives the verb.
       if (verb == Verb::None) {
         if (!IsAllowed(verb_) || !phrases_.Ends(via)) {
           phrases_.Expected("it is not said what the unit does", via);
@@ -96,6 +100,7 @@ class Grammar {
   /// What may stand behind a unit and its verb, which was written at the token.
   States Action(State state, std::size_t verbAt) {
     Verb& verb = state.Order.What;
+    // A dash is written for a retreat as well.
     if (stage_ == model::Stage::Retreats && verb == Verb::Move) verb = Verb::Retreat;
     if (!IsAllowed(verb)) {
       phrases_.NotInStage(verbAt);
@@ -184,6 +189,8 @@ class Grammar {
       State road = std::move(roads.back());
       roads.pop_back();
       const auto [verb, next] = phrases_.VerbAt(road.Next);
+      // Each place of the line is passed only once: different readings of one water would otherwise
+      // multiply.
       const bool goesOn = verb == Verb::Move && Mover(road.Order).Type != 'F' &&
                           phrases_.IsWater(road.Order.Destination) &&
                           std::ranges::find(seen, next) == seen.end();
@@ -208,6 +215,8 @@ class Grammar {
     States all;
     state.Next = phrases_.PastNoun(state.Next);
     const auto [verb, next] = phrases_.VerbAt(state.Next);
+    // "S to Bur", "S move Par to Bur" and "S hold Par" have the other unit's verb first; it stands
+    // behind that unit in all other forms.
     State behind = state;
     behind.Next = next;
     if (verb == Verb::Move) {
@@ -216,6 +225,8 @@ class Grammar {
       Append(all, Destinations(aimed));
       for (const State& read : Units(behind, &WrittenOrder::Other)) {
         const bool moves = phrases_.VerbAt(read.Next).first == Verb::Move;
+        // Without a type or a second verb, what follows "S to" is a destination, which was read
+        // above.
         if (moves || read.Order.Other.Type != 0) AddSupports(all, read);
       }
     } else if (verb == Verb::Hold) {
@@ -263,6 +274,7 @@ class Grammar {
       state.Next = phrases_.PastCount(next);
       return {state};
     }
+    // "Support A Par" leaves open who supports.
     if (verb == Verb::Support || verb == Verb::Convoy) return {};
     States all;
     state.Next = phrases_.PastMarks(next);
@@ -271,6 +283,7 @@ class Grammar {
         all.push_back(std::move(read));
         continue;
       }
+      // "Move A Par to Bur": the verb in front does not replace the one before the destination.
       const auto [to, behind] = phrases_.VerbAt(read.Next);
       if (to != Verb::Move) {
         phrases_.Expected("the destination is missing", read.Next);

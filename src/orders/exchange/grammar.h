@@ -25,7 +25,7 @@ namespace orb::exchange {
 // A verb may also stand before its unit. What follows an order in brackets, behind "--", is a
 // comment unless it could be meant as a part of the order.
 
-/// Everything that some tokens can mean as one order, or the fault that was met last.
+/// Everything that some tokens can mean as one order, or the fault that was met furthest behind.
 struct Parse {
   std::vector<WrittenOrder> Orders;
   std::optional<Fault> Problem;  ///< set when there are no orders

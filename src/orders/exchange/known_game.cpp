@@ -34,6 +34,8 @@ std::string PowerText(int power) {
 std::vector<UnitMeant> KnownGame::UnitsMeant(const WrittenUnit& written, int power, int fallback,
                                              Fault& fault) const {
   std::vector<UnitMeant> meant;
+  // The unit to name in the fault: one that takes orders in this stage rather than one that does
+  // not.
   const Unit* other = nullptr;
   const std::string owner = PowerText(power);
   for (const Unit& unit : Game.Units) {
@@ -82,6 +84,8 @@ std::vector<std::string> KnownGame::DestinationsMeant(const WrittenPlace& writte
         reached.push_back(NameOf(location));
       }
     }
+    // An army, or a fleet that can reach none of the coasts, gets the place as written; resolving
+    // says that it is impossible.
     if (unit.UnitType != "F" || reached.empty()) reached = {NameOf(row)};
     for (const std::string& location : reached) {
       all.push_back(location);
@@ -89,6 +93,9 @@ std::vector<std::string> KnownGame::DestinationsMeant(const WrittenPlace& writte
       if (model::IsAdjacent(map, unit.UnitType, unit.Location, location)) near.push_back(location);
     }
   }
+  // Only where several places bear the name is there a choice: a place that can be reached is more
+  // likely meant than one that needs a convoy, and that more likely than one where the unit could
+  // not stand.
   if (written.Rows.size() == 1) return all;
   if (!near.empty() && !byConvoy) return near;
   return possible.empty() ? all : possible;

@@ -104,6 +104,7 @@ std::size_t PastStamp(Tokens tokens, std::size_t at) {
   return hasColon && close < tokens.size() ? close + 1 : at;
 }
 
+/// Evidence that is enough by itself; what is weaker counts 1 and needs company.
 constexpr int Strong = 2;
 
 bool IsSign(const Token& token) {
@@ -116,16 +117,19 @@ int VerbEvidence(Tokens tokens, std::size_t at) {
   const Verb verb = VerbOf(token);
   if (verb == Verb::None) return 0;
   if (token.Kind == TokenKind::Dash) {
+    // Arrows hardly ever stand in prose; a dash does, so it must stand inside the text and behind a
+    // blank, or between just two words.
     if (token.Text.find('>') != std::string::npos) return Strong;
     const bool isInside = at > 0 && at + 1 < tokens.size();
     return isInside && (!token.Glued || CountWords(tokens) == 2) ? 1 : 0;
   }
+  // "S", "C" and "H" are orders only as capitals and behind something: "c u" is none.
   if (token.Text.size() == 1) return token.Capital && at > 0 ? 1 : 0;
   return verb == Verb::Move ? 1 : Strong;
 }
 
 /// How much a place at a token speaks for an order. War, gas and bar are words as well, but hardly
-/// where there are no others.
+/// so in a text of a few words.
 int PlaceEvidence(Tokens tokens, std::size_t at, const PlaceNames& names, bool isBrief) {
   const auto matches = names.At(tokens, at);
   const std::string& word = tokens[at].Text;
@@ -165,7 +169,7 @@ Evidence Weigh(Tokens tokens, const PlaceNames& names) {
     }
     const PowerName power = isFirst ? PowerAt(tokens, at) : PowerName{};
     if (power.Power != 0 && words < few) evidence.Commands += Strong;
-    // A unit may follow a power.
+    // Behind the power's name the unit may still come first.
     isFirst = power.Power != 0;
   }
   return evidence;
@@ -180,6 +184,7 @@ std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
     const Token& token = tokens[at];
     if (token.Kind == TokenKind::Open) {
       const std::size_t close = ClosingBracket(tokens, at);
+      // Behind a power, brackets hold its player or the like: "France (Tom):".
       const bool isRemark = heading.Power != 0 && close < tokens.size();
       if (!isRemark || HoldsOrders(tokens.subspan(at, close - at), names)) return {};
       at = close + 1;
@@ -194,6 +199,7 @@ std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
       continue;
     }
     ++at;
+    // Hearts and other such signs are decoration; "?" or "%" make it something else.
     const bool isSymbol = static_cast<unsigned char>(token.Text[0]) >= 0x80;
     if (token.Kind == TokenKind::Mark && token.Text != "#" && !isSymbol) return {};
     if (token.Kind != TokenKind::Word) continue;
@@ -236,7 +242,8 @@ bool IsMailHead(Tokens tokens, const PlaceNames& names) {
   if (tokens.empty()) return false;
   const bool isReplyTo = IsWord(tokens[0], "reply") && tokens.size() > 3 && IsWord(tokens[2], "to");
   if (IsMailHeader(tokens[0]) && (Is(tokens, 1, TokenKind::Colon) || isReplyTo)) {
-    // "From: Par To: Bur" is the head of no mail.
+    // "From: Par To: Bur" may be an order; the head of a mail has an address, or no words of
+    // orders.
     const bool isRoad = IsWord(tokens[0], "from") || IsWord(tokens[0], "to");
     return !isRoad || HasAddress(tokens) || !HoldsOrders(tokens.subspan(2), names);
   }
@@ -257,6 +264,8 @@ bool IsQuotationHead(Tokens tokens) {
 }
 
 bool IsNoOrder(Tokens tokens, const PlaceNames& names, bool inSignature) {
+  // The doubt always goes to the side of an order: showing a harmless line to somebody costs a
+  // glance, while passing over an order loses it without anybody noticing.
   const Evidence evidence = Weigh(tokens, names);
   const auto first = std::ranges::find_if(tokens, IsWordToken);
   if (first == tokens.end()) return true;

@@ -8,9 +8,13 @@
 namespace orb::exchange {
 namespace {
 
+// "<s>" and "[s]" are missing on purpose: an order that is struck out must not be read as one.
+
+/// Tags that end a line or an item; orders on both sides of one are apart.
 constexpr std::array<std::string_view, 19> BlockTags{
     "br", "p",  "div", "li", "ul", "ol",  "tr",         "table", "tbody", "thead",
     "h1", "h2", "h3",  "h4", "hr", "pre", "blockquote", "html",  "body"};
+/// Tags within a line, which only change how its text looks or divide it into cells.
 constexpr std::array<std::string_view, 12> InlineTags{"b",    "i", "em", "strong", "u",    "span",
                                                       "font", "a", "td", "th",     "code", "o:p"};
 

@@ -12,6 +12,7 @@ namespace {
 using model::Unit;
 using orders::OrderKind;
 
+/// Moves and retreats: one for each location that the destination can mean.
 std::vector<Completed> MovesMeant(const WrittenOrder& written, const UnitMeant& unit,
                                   const KnownGame& known, OrderKind kind, Fault& fault) {
   std::vector<Completed> orders;
@@ -60,8 +61,11 @@ std::vector<Unit> UnitsBuilt(const WrittenUnit& written, const KnownGame& known)
           places.push_back(known.NameOf(location));
         }
       }
+      // An army is built in the province itself; a fleet wherever in it fleets can stand, be it one
+      // coast or two.
       if (type == 'A' || places.empty()) {
         const bool stands = model::CanStandIn(map, unitType, known.NameOf(row));
+        // A type that was written stays even if it cannot stand there: resolving the order says so.
         if (written.Type == 0 && !stands) continue;
         places = {known.NameOf(row)};
       }
@@ -78,8 +82,10 @@ std::vector<Completed> BuildsMeant(const WrittenOrder& written, const KnownGame&
   std::vector<Completed> orders;
   fault = {"no unit can be built there", written.Unit.Place.At};
   for (Unit& unit : UnitsBuilt(written.Unit, known)) {
+    // A coast has no home country of its own; its province has.
     const int centre = model::FindProvince(map, unit.Location.substr(0, 3));
     const std::string home = centre == 0 ? std::string() : map.Provinces[centre].HomeCountry;
+    // A build that names no power is meant by the power whose home it is.
     unit.Power = power == 0 ? home : PowerText(power);
     if (model::FindCountry(unit.Power) == 0) {
       fault.Reason = "no power is named";
@@ -100,6 +106,7 @@ std::vector<Completed> ReadingMeant(const WrittenOrder& written, const KnownGame
     fault = {"two powers are named", written.Unit.Place.At};
     return {};
   }
+  // A power that the order names counts before that of a heading.
   if (written.Power != 0 || own != 0) power = written.Power != 0 ? written.Power : own;
   if (written.What == Verb::Build) return BuildsMeant(written, known, power, fault);
   std::vector<Completed> orders;
@@ -141,6 +148,7 @@ Meanings FindMeanings(const std::vector<WrittenOrder>& readings, const KnownGame
       Add(meanings, order, known, written.Unit.Place.At);
     if (orders.empty() && !meanings.Problem) meanings.Problem = fault;
   }
+  // An order that can be carried out is more likely meant than one that cannot.
   const auto objected = [](const Meaning& meaning) { return !meaning.Objection.empty(); };
   if (!std::ranges::all_of(meanings.All, objected)) std::erase_if(meanings.All, objected);
   return meanings;

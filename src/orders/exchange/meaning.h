@@ -21,8 +21,8 @@ struct Meanings {
   std::optional<Fault> Problem;
 };
 
-/// What the readings of one text mean in the game. Orders that nothing is known against
-/// outdo those with an objection. `power` gives the order unless the text names another, 0: none.
+/// What the readings of one text mean in the game. Orders without an objection outdo those
+/// with one. `power` is who gives the order unless the text names another; 0: nobody.
 Meanings FindMeanings(const std::vector<WrittenOrder>& readings, const KnownGame& known, int power);
 
 }  // namespace orb::exchange

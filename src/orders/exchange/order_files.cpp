@@ -11,7 +11,8 @@
 namespace orb::exchange {
 namespace {
 
-/// Bytes of UTF-16 as UTF-8; half characters become U+FFFD.
+/// Bytes of UTF-16 as UTF-8. Characters beyond U+FFFF come as two units, a high and a low
+/// surrogate; one without the other becomes U+FFFD.
 std::string FromUtf16(std::string_view bytes, bool isLowFirst) {
   constexpr char32_t replacement = 0xFFFD;
   std::string utf8;
@@ -47,6 +48,7 @@ std::string OrdersFileText(std::string bytes, const std::string& fileName) {
   if (isLowFirst || bytes.starts_with("\xFE\xFF")) {
     bytes = FromUtf16(std::string_view(bytes).substr(2), isLowFirst);
   }
+  // No text has such bytes; UTF-16 without its mark, pictures and documents of word processors do.
   if (bytes.find('\0') != std::string::npos) {
     throw model::FileError(text::NameInText(fileName) +
                            " is no text file that can be read: it holds bytes of value 0. Orders "

@@ -7,7 +7,7 @@
 namespace orb::exchange {
 namespace {
 
-/// Behind the words "my orders are", or 0.
+/// Behind the words "my orders are" or "French orders", or 0.
 std::size_t PastOrdersAre(Tokens tokens) {
   std::size_t past = 0;
   bool isOfOrders = false;
@@ -22,7 +22,8 @@ std::size_t PastOrdersAre(Tokens tokens) {
   return past;
 }
 
-/// Behind a heading before the order, whose power and orders go into the context.
+/// Behind a heading before the order, "France:" or "Builds.", whose power and verb go into the
+/// context; 0 when there is none.
 std::size_t PastHeading(Tokens tokens, const KnownGame& known, Context& context) {
   const auto lengthTo = [&](TokenKind kind) {
     return static_cast<std::size_t>(std::ranges::find(tokens, kind, &Token::Kind) - tokens.begin());
@@ -54,8 +55,11 @@ void LeaveInContext(const WrittenOrder& order, const Token& first, model::Stage 
 PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context) {
   PartRead part;
   std::size_t start = 0;
+  // "France: Builds: A Par" has two headings.
   for (std::size_t past = 1; past != 0; start += past)
     past = PastHeading(tokens.subspan(start), known, context);
+  // In the retreats stage "A Bur" under "Retreats:" names no destination; only "Disbands:" is
+  // complete.
   const bool isImplied =
       known.Stage == model::Stage::Adjustments || context.Orders == Verb::Disband;
   const Verb verb = isImplied ? context.Orders : Verb::None;
@@ -73,6 +77,8 @@ PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context) {
     part.Kind = part.Meant.All.size() == 1 ? LineKind::Order : LineKind::Ambiguous;
     return part;
   }
+  // What is wrong in the situation is told before what is wrong in the grammar: then the order was
+  // read to its end.
   const auto& problem = part.Meant.Problem ? part.Meant.Problem : parse.Problem;
   part.Problem = problem.value_or(Fault{"it is not understood", {0, tokens.size() - start}});
   part.Problem.At.Begin += start;
@@ -81,6 +87,7 @@ PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context) {
 }
 
 std::string AmbiguityText(const Meanings& meanings) {
+  // More than a few would not be read anyway.
   constexpr std::size_t shown = 4;
   std::string text = "it can mean ";
   const std::size_t count = meanings.All.size();

@@ -21,10 +21,10 @@ struct PartRead {
 };
 
 /// Reads tokens as one order. A heading before a colon, a power at the front and the verb of an
-/// adjustment are left in the context, as they hold for further orders of the line.
+/// adjustment are left in the context, since they hold for further orders of the line.
 PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context);
 
-/// Whether orders came of it.
+/// Whether it was read as an order, if perhaps an ambiguous one.
 inline bool IsUnderstood(const PartRead& part) {
   return part.Kind != LineKind::NotUnderstood;
 }

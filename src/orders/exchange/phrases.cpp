@@ -14,6 +14,7 @@ bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& word
   return token.Kind == TokenKind::Word && std::ranges::find(words, token.Text) != words.end();
 }
 
+// Words that may stand at certain places of an order and add nothing to it.
 constexpr std::array<std::string_view, 5> InWords{"in", "at", "from", "of", "the"};
 constexpr std::array<std::string_view, 6> ViaWords{"via", "by", "using", "with", "through", "over"};
 constexpr std::array<std::string_view, 6> SeaWords{"convoy", "convoys", "sea", "c", "water", "cv"};
@@ -51,7 +52,7 @@ std::size_t Phrases::Skip(std::size_t at) const {
   return at;
 }
 
-/// "(H)"; "(S)" before a move is a coast.
+/// A verb alone in brackets, "(H)"; but "(S)" before a move is the south coast, "Spa (S) - MAO".
 bool Phrases::IsVerbInBrackets(std::size_t at) const {
   if (!Is(at, TokenKind::Open) || !Is(at + 2, TokenKind::Close)) return false;
   if (VerbOf(tokens_[at + 1]) == Verb::None) return false;
@@ -70,6 +71,7 @@ std::size_t Phrases::ToVerb(std::size_t at) const {
       if (!Is(at + 1, "dislodged") || close == tokens_.size()) return tokens_.size();
       at = close;
     } else if (Is(at, TokenKind::Colon)) {
+      // "A Par: H" has a colon before its verb; before anything else it ends the order.
       const std::size_t next = ToVerb(at + 1);
       return next < tokens_.size() && VerbOf(tokens_[next]) != Verb::None ? next : at;
     } else if (!IsPassedOver(at)) {
@@ -105,6 +107,7 @@ void Phrases::AddCoasts(const PlaceMatch& match, std::size_t at, Read<WrittenPla
   std::vector<int> rows = CoastRows(match.Rows, letter);
   if (letter == 0 || rows.empty()) return;
   const bool isShort = tokens_[next++].Text.size() == 1;
+  // "s.c." comes as four tokens.
   if (isShort && Is(next, TokenKind::Dot) && Is(next + 1, "c")) {
     next += Is(next + 2, TokenKind::Dot) ? 3 : 2;
   } else if (Is(next, "coast") || Is(next, "cst")) {
@@ -135,6 +138,7 @@ void Phrases::AddLeadingCoast(std::size_t at, Read<WrittenPlace>& places) const 
   const char letter = CoastLetter(tokens_[at].Text);
   const bool isLong = tokens_[at].Text.size() > 1;
   std::size_t next = at + 1;
+  // "S Spain" is a support of Spain, not its south coast.
   if (letter == 0 || !isLong) return;
   if (Is(next, "coast")) ++next;
   while (Is(next, "of") || Is(next, "the"))
@@ -210,6 +214,7 @@ Phrases::Read<WrittenUnit> Phrases::Units(std::size_t at) {
   }
   Read<WrittenUnit> units;
   for (auto& [head, next] : heads) {
+    // "a fleet": here "a" is no army.
     if (Is(next, "a") && next + 1 < tokens_.size() && tokens_[next + 1].Text.size() > 1 &&
         UnitTypeOf(tokens_[next + 1]) != 0) {
       ++next;
@@ -218,11 +223,14 @@ Phrases::Read<WrittenUnit> Phrases::Units(std::size_t at) {
     if (head.Type != 0) next = Skip(PastMark(next));
     while (next < tokens_.size() && IsOneOf(tokens_[next], InWords))
       next = Skip(next + 1);
+    // Without a power or a type, a word that is no place may be anything: it is not said to be off
+    // the map.
     const bool isBare = next == Skip(at);
     for (auto& [place, behind] :
          Places(next, "the unit's place is missing", isBare ? NotUnderstood : NotOnTheMap)) {
       WrittenUnit unit = head;
       unit.Place = std::move(place);
+      // The type may follow, "Paris army", but as a word: "Par F" may begin the next order.
       const bool hasTail = behind < tokens_.size() && tokens_[behind].Text.size() > 1;
       if (unit.Type == 0 && hasTail) unit.Type = UnitTypeOf(tokens_[behind]);
       const bool isTail = head.Type == 0 && unit.Type != 0;
@@ -245,6 +253,7 @@ std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
     const bool isFirst = verb == Verb::None;
     const bool isTail = (verb == Verb::Hold && IsOneOf(tokens_[next], HoldTails)) ||
                         (verb == Verb::Move && IsOneOf(tokens_[next], MoveTails));
+    // "Moves to" and "retreats to" are one verb; of "moves to hold" the last word tells.
     const bool goesOn = verb == Verb::Move || (verb == Verb::Retreat && word == Verb::Move);
     if (!isTail && (word == Verb::None || !(isFirst || goesOn))) break;
     if (!isTail && (isFirst || verb == Verb::Move)) verb = word;
@@ -256,11 +265,13 @@ std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
 bool Phrases::MayLead(std::size_t at) const {
   at = Skip(at);
   if (at >= tokens_.size() || IsA(tokens_[at], TokenKind::Dash)) return false;
+  // "To Par" or "attack Par" at the front would name a destination, not the unit that moves.
   return VerbOf(tokens_[at]) != Verb::Move || Is(at, "move") || Is(at, "moves") || Is(at, "send");
 }
 
 bool Phrases::IsWater(const WrittenPlace& place) const {
   return std::ranges::all_of(place.Rows, [&](int row) {
+    // Waters are spelled in capitals on the map.
     return text::UpperCase(map_.Provinces[row].Name) == map_.Provinces[row].Name;
   });
 }
@@ -278,6 +289,7 @@ std::size_t Phrases::PastVia(std::size_t at) const {
   next = Skip(next + 1);
   if (Is(next, "a")) next = Skip(next + 1);
   if (next < tokens_.size() && IsOneOf(tokens_[next], SeaWords)) return next + 1;
+  // "Via" is enough by itself; "by" and "over" need the fleets or waters that they lead over.
   std::size_t end = isVia ? next : at;
   while (next < tokens_.size()) {
     if (UnitTypeOf(tokens_[next]) != 0 || IsOneOf(tokens_[next], InWords) || Is(next, "and")) {
@@ -345,6 +357,8 @@ bool Phrases::Ends(std::size_t at) {
         break;
       }
       at = std::min(close + 1, tokens_.size());
+      // Only the first long dash may begin a comment: where the order itself has one, "A Par --
+      // Bur", a second may belong to it as well.
     } else if (IsLongDash(token) && std::ranges::none_of(part(0, at), IsLongDash) &&
                IsProse(part(at + 1, tokens_.size()), names_)) {
       return true;

@@ -17,7 +17,8 @@ constexpr std::string_view NotOnTheMap = " is not on the map";
 constexpr std::string_view NotUnderstood = " is not understood";
 
 /// The parts that orders are made of, read from one run of tokens. Reading passes over brackets,
-/// commas, full stops and fillers. Keeps the fault that was met furthest behind.
+/// commas, full stops and fillers. Of all faults the one furthest behind is kept: the reading that
+/// got there is the one most likely meant.
 class Phrases {
  public:
   template <class Part>

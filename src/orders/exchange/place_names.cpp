@@ -33,6 +33,8 @@ WordRun WordsFrom(Tokens tokens, std::size_t at) {
   return run;
 }
 
+/// Whether one letter is missing, surplus or wrong, or two neighbours changed places; the first
+/// letters must be the same.
 bool IsOneSlipAway(std::string_view a, std::string_view b) {
   if (a.size() > b.size()) std::swap(a, b);
   if (b.size() - a.size() > 1 || a[0] != b[0]) return false;
@@ -55,6 +57,7 @@ PlaceNames::PlaceNames(const model::Map& map)
     : map_(map), locations_(static_cast<std::size_t>(map.Provinces.Count()) + 1) {
   for (int row = 1; row <= map.Provinces.Count(); ++row)
     AddPlace(row);
+  // Old abbreviations are understood in orders as in old files.
   for (const model::NameFix& fix : map.NameFixes)
     Add(fix.From, model::FindProvince(map, fix.To), false);
   for (const UsualSpelling& spelling : UsualSpellings())
@@ -66,6 +69,7 @@ void PlaceNames::AddPlace(int row) {
   const int province =
       name.size() > NameLength ? model::FindProvince(map_, name.substr(0, NameLength)) : 0;
   locations_[static_cast<std::size_t>(row)].push_back(row);
+  // Coasts are named by their province and a letter, so their own names are no spellings.
   if (province != 0 && province != row) {
     locations_[static_cast<std::size_t>(province)].push_back(row);
     return;
@@ -90,6 +94,7 @@ void PlaceNames::Add(std::string_view name, int row, bool mayBeShort) {
 std::vector<PlaceMatch> PlaceNames::At(Tokens tokens, std::size_t at) const {
   const WordRun run = WordsFrom(tokens, at);
   std::array<PlaceMatch, WordBound> matches;
+  // Whole spellings push out mere beginnings of as many words.
   const auto add = [&](std::size_t length, int row, bool exact) {
     PlaceMatch& match = matches[length - 1];
     if (exact && !match.IsExact) match.Rows.clear();
@@ -110,6 +115,7 @@ std::vector<PlaceMatch> PlaceNames::At(Tokens tokens, std::size_t at) const {
     }
     bool isSame = true;
     for (std::size_t n = 0; n < std::min(size, run.Count); ++n) {
+      // Every word of a full name may be short, the first down to three letters: "North Atl".
       if (!std::string_view(spelling.Words[n]).starts_with(run.Words[n])) break;
       isSame = isSame && spelling.Words[n] == run.Words[n];
       const bool isWhole = isSame && n + 1 == size;
@@ -136,6 +142,7 @@ const std::vector<int>& PlaceNames::Locations(int province) const {
 }
 
 std::string_view PlaceNames::NearlyNamed(std::string_view word) const {
+  // Shorter words are one letter away from too many others.
   constexpr std::size_t shortest = 5;
   if (word.size() < shortest) return {};
   const auto isNear = [&](std::string_view name) {

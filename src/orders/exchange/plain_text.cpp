@@ -10,7 +10,8 @@ namespace orb::exchange {
 namespace {
 
 /// Characters of one range and what stands for all of them. Those from U+F000 on are the bullets
-/// and arrows of word processors, those from U+1F1E6 on make flags.
+/// and arrows of word processors, those from U+1F1E6 on make flags, U+FE00 to U+FE0F choose how the
+/// character before them looks.
 struct Folding {
   char32_t First;
   char32_t Last;
@@ -80,6 +81,8 @@ PlainText ToPlain(std::string_view line, std::size_t offset) {
     const std::string_view bytes = line.substr(0, line.size() - rest.size());
     plain.Text += Fold(
         character ? *character : text::CharacterOf(static_cast<unsigned char>(bytes[0])), bytes);
+    // A character may become several bytes, "->", or none: each byte points back to the whole
+    // character.
     plain.Origins.resize(plain.Text.size(), {offset, bytes.size()});
     offset += bytes.size();
     line = rest;

@@ -16,7 +16,8 @@ void Quotations::Take(std::string_view line, bool isHead) {
 
 void SetAsideReplaced(std::vector<ReadLine>& lines, const std::vector<bool>& quoted,
                       bool isAdjustments) {
-  // Up to its unit, or its power in adjustments, and to its end.
+  // The part of an order that tells whose it is: up to its unit, in adjustments only up to its
+  // power.
   const auto unitOf = [&](const std::string& order) {
     return order.substr(0, isAdjustments ? order.find(' ') : order.find(')'));
   };
@@ -31,6 +32,7 @@ void SetAsideReplaced(std::vector<ReadLine>& lines, const std::vector<bool>& quo
     ReadLine& line = lines[i];
     if (!quoted[i] || line.Kind != LineKind::Order) continue;
     const auto orders = said.find(unitOf(line.Order));
+    // Quoted orders that the answer repeats, or says nothing about, stay in force.
     if (orders == said.end() || orders->second.contains(line.Order)) continue;
     line.Kind = LineKind::NotUnderstood;
     line.Order.clear();

@@ -7,8 +7,8 @@
 
 namespace orb::exchange {
 
-/// Follows which lines of a text are quoted from an earlier one: those behind ">", and all behind
-/// the head of a quotation that is not marked so.
+/// Follows which lines of a text are quoted from an earlier one: those that begin with ">", and all
+/// that follow the head of a quotation whose lines are not marked so.
 class Quotations {
  public:
   /// Takes the next line, plain, and whether it is such a head.
@@ -23,9 +23,9 @@ class Quotations {
   bool follows_ = false;  ///< the line before was a head
 };
 
-/// What was answered is not in force any more: quoted orders that differ from what the rest of the
-/// text orders become unclear. `quoted` has one for each line; in adjustments each order of the
-/// same power counts as another one for the unit.
+/// An answer takes the place of what it quotes: quoted orders that differ from what the rest of the
+/// text orders become unclear. `quoted` has one entry a line. In adjustments, where orders have no
+/// unit of their own, all orders of one power are compared.
 void SetAsideReplaced(std::vector<ReadLine>& lines, const std::vector<bool>& quoted,
                       bool isAdjustments);
 

@@ -27,6 +27,8 @@ struct SourceLine {
   bool IsTooLong = false;
 };
 
+/// Takes a line apart in the order in which its parts build on each other: plain characters first,
+/// since repairs are written in them, and tags last, since a repair may mend one.
 SourceLine CutLine(int number, std::string_view bytes, std::size_t offset,
                    std::span<const TextRepair> repairs) {
   SourceLine line;
@@ -41,7 +43,8 @@ SourceLine CutLine(int number, std::string_view bytes, std::size_t offset,
   return line;
 }
 
-/// What parts the orders of a line, the strongest first.
+/// What parts the orders of a line, the strongest first: each is tried only where the stronger ones
+/// leave something that is not understood.
 enum class Seam : std::uint8_t { Semicolon, Comma, FullStop };
 
 bool IsSeam(const Token& token, Seam seam) {
@@ -70,7 +73,9 @@ std::vector<TokenRange> Split(Tokens tokens, TokenRange range, Seam seam) {
   return parts;
 }
 
-/// Reads a text line by line; what headings say is kept for the lines below.
+/// Reads a text line by line; what headings say is kept for the lines below. A line goes through
+/// these steps: the exact form, then signs that it belongs to a mail, then headings, then comments
+/// cut off its end, then its orders, parted by semicolons, commas, full stops or nothing at all.
 class TextReader {
  public:
   TextReader(KnownGame& known, const ReadingOptions& options) : known_(known), options_(options) {
@@ -112,7 +117,8 @@ class TextReader {
     return Tokens(line.All).subspan(range.Begin, range.End - range.Begin);
   }
 
-  /// A line like "- Bur" may be the rest of the order above, which then is not all there.
+  /// A line like "- Bur" may be the rest of the order above. That order is then incomplete, though
+  /// it may look whole: it becomes unclear.
   void CheckGoesOn(ReadLine& above, const SourceLine& line) {
     const bool isRest = lines_.back().Kind == LineKind::NotUnderstood && !line.IsTooLong &&
                         !line.All.empty() && VerbOf(line.All[0]) != Verb::None;
@@ -174,6 +180,7 @@ class TextReader {
   void ReadBody(const SourceLine& line, TokenRange body, TokenRange comment) {
     const Tokens said = PartOf(line, comment);
     const std::size_t condition = FindCondition(said);
+    // "A Par - Bur # if Tom agrees": the order depends on its comment.
     if (body.Begin < body.End && condition < said.size()) {
       const std::size_t at = comment.Begin + condition;
       return AddUnclear(line, {body.Begin, comment.End}, {at, at + 1}, NotUnderstoodText(line, at));
@@ -203,6 +210,8 @@ class TextReader {
 
   /// Reads what stands between semicolons: one order, or several between commas.
   void ReadSegment(const SourceLine& line, TokenRange segment, Context& context) {
+    // As one order first: "A Par, - Bur" has a comma and is one. Parting is tried only if that
+    // fails.
     Context whole = context;
     const PartRead read = ReadPart(PartOf(line, segment), known_, whole);
     if (!IsUnderstood(read) && (ReadParts(line, segment, Seam::Comma, context) ||
@@ -238,6 +247,8 @@ class TextReader {
         tried = before;
         continue;
       }
+      // Before the first order, "last turn" and the like set aside what follows; behind one they do
+      // not.
       const std::size_t at = isOrdered ? FindCondition(tokens) : FindDoubt(tokens);
       if (at < tokens.size() && condition == segment.End) condition = range.Begin + at;
       isClear = isClear && IsNoOrder(tokens, known_.Names, inSignature_);
@@ -307,6 +318,8 @@ class TextReader {
 
   void AddHeading(const SourceLine& line, const Heading& heading) {
     const bool says = heading.Power != 0 || heading.Orders != Verb::None;
+    // Another power's heading ends what the one before said of builds or disbands, and any
+    // signature.
     if (heading.Power != 0) {
       context_ = {heading.Power, heading.Orders};
       inSignature_ = false;

@@ -10,7 +10,8 @@
 namespace orb::exchange {
 namespace {
 
-/// More orders than a power, or all of them in a season, have; and longer ones.
+/// Bounds on the tries: more starts than the orders of all powers in a season have, and more tokens
+/// than the longest order.
 constexpr std::size_t OrderBound = 48;
 constexpr std::size_t LengthBound = 40;
 
@@ -22,6 +23,7 @@ bool IsNumbered(Tokens tokens, std::size_t at) {
          (IsA(tokens[at + 1], TokenKind::Dot) || IsA(tokens[at + 1], TokenKind::Close));
 }
 
+/// Short verbs do not start an order: the "b" or "d" could end the one before.
 bool MayStart(Tokens tokens, std::size_t at) {
   if (IsNumbered(tokens, at)) return true;
   if (UnitTypeOf(tokens[at]) != 0 || PowerAt(tokens, at).Power != 0) return true;
@@ -55,13 +57,15 @@ class Parting {
 
   /// How the tokens from a start on can be parted, the first part of one of the ways.
   struct Ways {
-    int Count = 0;  ///< 2 stands for more too
+    int Count = 0;  ///< 0, 1, or 2 for several
     std::size_t Next = 0;
     Context Behind;
     PartRead Part;
   };
 
   const Ways& From(std::size_t start, const Context& context) {
+    // What follows depends only on where it starts and what holds there, so each case is tried
+    // once: the work stays quadratic although the ways multiply.
     const auto key = std::make_tuple(start, context.Power, context.Orders);
     if (const auto found = found_.find(key); found != found_.end()) return found->second;
     Ways ways;

@@ -49,6 +49,8 @@ class Helper {
 
  private:
   std::vector<UnitMeant> Others(const WrittenUnit& other, Fault& fault) const {
+    // A unit that stands nowhere and is written without a power is taken for one of the supporter's
+    // own.
     const int own = model::FindCountry(unit_.Unit.Power);
     return known_.UnitsMeant(other, other.Power, other.Power == 0 ? own : other.Power, fault);
   }
@@ -89,12 +91,15 @@ class Helper {
       return model::CanSupportInto(*known_.Game.Map, unit_.Unit, place);
     };
     if (const std::string* move = known_.OrderedMove(other.Unit); move != nullptr) {
+      // The other unit moves in this text. Holding it in place may be meant if the supporter
+      // reaches that place, or reaches neither.
       if (reaches(other.Unit.Location) || !reaches(*move)) Add(other);
       Add(other, *move);
       if (IsPlaceAlone()) AddOrderedMovesInto(written_.Other.Place);
       return;
     }
     Add(other);
+    // Beside a foreign unit, "S Bur" may as well mean an attack on it.
     if (IsPlaceAlone() && other.Unit.Power != unit_.Unit.Power) AddMoversInto(written_.Other.Place);
   }
 

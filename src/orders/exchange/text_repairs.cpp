@@ -42,6 +42,7 @@ PlainText Repaired(const PlainText& line, const std::string& lower, const TextRe
   for (std::size_t at = FindWhole(lower, repair.From, 0); at != std::string::npos;
        at = FindWhole(lower, repair.From, done)) {
     Append(repaired, line, done, at);
+    // What takes its place belongs as a whole to what was written.
     done = at + repair.From.size();
     repaired.Text += repair.To;
     repaired.Origins.resize(repaired.Text.size(), line.Written(at, done));
@@ -86,6 +87,7 @@ std::vector<TextRepair> ReadTextRepairs(const std::filesystem::path& directory) 
 bool Repair(PlainText& line, std::span<const TextRepair> repairs) {
   std::string lower = text::LowerCase(line.Text);
   for (const TextRepair& repair : repairs) {
+    // Looked at before each repair: a few pairs that double a text would otherwise fill the memory.
     if (line.Text.size() > LineBound) return false;
     if (repair.From.empty() || FindWhole(lower, repair.From, 0) == std::string::npos) continue;
     line = Repaired(line, lower, repair);

@@ -24,6 +24,8 @@ struct VerbWords {
   std::string_view Words;  ///< parted by blanks
 };
 
+// Words in small letters, as tokens have them. A word missing here makes an order unclear, which
+// somebody will notice; a word too many may turn prose into an order.
 constexpr std::array Verbs{
     VerbWords{Verb::Move,
               "to into m mv move moves moving attack attacks attacking go goes going advance "
@@ -46,7 +48,7 @@ struct PowerWords {
   std::string_view Words;
 };
 
-/// What powers and their people are called beside the names and abbreviations in the game.
+/// What powers and their people are called besides the names and abbreviations in the game.
 constexpr std::array Nicknames{
     PowerWords{1, "english"},
     PowerWords{1, "great britain"},
@@ -204,6 +206,7 @@ PowerName PowerAt(Tokens tokens, std::size_t at) {
   const auto [first, last] = names.equal_range(tokens[at].Text);
   for (auto name = first; name != last; ++name) {
     const std::size_t length = Spelled(tokens, at, name->second.Words);
+    // The longest name counts: "Austro-Hungarian", not "Austro".
     if (length > 0 && at + length > best.Next) best = {name->second.Power, at + length};
   }
   return best;

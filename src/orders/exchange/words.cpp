@@ -7,7 +7,9 @@
 namespace orb::exchange {
 namespace {
 
+// Signs that only set off words, as mails and forums use them for bold, slanted and quoted text.
 constexpr std::string_view Parting = " *_`|\"";
+// Any run of these is one token: "-", "--", "->", "=>", "-->".
 constexpr std::string_view DashSigns = "-=>";
 
 bool IsLetterOrDigit(char c) {
@@ -85,6 +87,7 @@ Token NextToken(std::string_view text, std::size_t at) {
   } else {
     token.Kind = KindOf(c);
     token.End = at + 1;
+    // Characters without a plain form stay together, so that a quoted sign is whole.
     while (static_cast<unsigned char>(c) >= 0x80 && token.End < text.size() &&
            static_cast<unsigned char>(text[token.End]) >= 0x80) {
       ++token.End;
