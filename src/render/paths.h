@@ -8,8 +8,6 @@
 
 namespace orb::render {
 
-constexpr double TwipsPerPixel = 15;  ///< of a screen at 96 dpi
-
 /// A line through these points.
 using Path = std::vector<Point>;
 

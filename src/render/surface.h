@@ -8,15 +8,18 @@
 
 namespace orb::render {
 
+constexpr double TwipsPerPixel = 15;  ///< of a screen at 96 dpi
+constexpr double TwipsPerPoint = 20;  ///< of font sizes
+
 struct Point {
   double X = 0, Y = 0;
 };
 
 enum class Fill { Solid, Transparent };
 
-/// A picture to draw on: a window's map, a bitmap, a page, a panel. Lengths are twips (1/1440 inch,
-/// 15 to a screen pixel at 96 dpi) from the top left corner, y downwards; texts are 8-bit
-/// (Windows-1252). What is drawn follows the public fields as they stand at the call.
+/// A picture to draw on: a window's map, a bitmap, a page, a panel. Lengths are twips (1/1440 inch)
+/// from the top left corner, y downwards; texts are 8-bit (Windows-1252). What is drawn follows the
+/// public fields as they stand at the call.
 class Surface {
  public:
   model::Colour ForeColour = 0;  ///< of outlines and texts

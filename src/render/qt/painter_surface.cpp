@@ -12,9 +12,6 @@
 namespace orb::render {
 namespace {
 
-constexpr double TwipsPerPixel = 15;
-constexpr double TwipsPerPoint = 20;
-
 QPointF ToQPoint(Point point) {
   return {point.X, point.Y};
 }

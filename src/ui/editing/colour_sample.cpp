@@ -10,7 +10,6 @@ namespace orb::ui {
 namespace {
 
 constexpr QSize Size(116, 28);
-constexpr double TwipsPerPixel = 15;
 constexpr double Corner = 4;
 
 /// Like the map's own ground, in light and dark themes.
@@ -31,7 +30,8 @@ void ColourSample::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(Paper);
   painter.drawRoundedRect(rect(), Corner, Corner);
-  render::PainterSurface surface(painter, rect(), QSizeF(size()) * TwipsPerPixel, m_noPictures);
+  render::PainterSurface surface(painter, rect(), QSizeF(size()) * render::TwipsPerPixel,
+                                 m_noPictures);
   const render::SymbolStyle style{m_colours, settings::MapMode::Colour3D};
   render::DrawArmy(surface, style, {0.17, 0.5}, m_power, 1);
   render::DrawFleet(surface, style, {0.45, 0.5}, m_power, 1);

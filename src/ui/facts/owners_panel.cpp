@@ -12,14 +12,9 @@
 #include <cmath>
 
 namespace orb::ui {
-namespace {
 
+using render::TwipsPerPixel;
 using session::Changes;
-
-constexpr double TwipsPerPixel = 15;
-constexpr double TwipsPerPoint = 20;
-
-}  // namespace
 
 OwnersPicture::OwnersPicture(const Desk& desk, QWidget* parent) : QWidget(parent), m_desk(desk) {
   setObjectName(QStringLiteral("picOwners"));
@@ -49,7 +44,7 @@ void OwnersPicture::paintEvent(QPaintEvent* /*event*/) {
   render::PainterSurface surface(painter, rect(), QSizeF(size()) * TwipsPerPixel, m_noPictures);
   surface.SetPaper(palette().color(QPalette::Base));
   surface.SetFontFamily(font().family());
-  surface.FontSize = QFontInfo(font()).pixelSize() * TwipsPerPixel / TwipsPerPoint;
+  surface.FontSize = QFontInfo(font()).pixelSize() * TwipsPerPixel / render::TwipsPerPoint;
   surface.ForeColour = colour::ToColour(palette().color(QPalette::Text));
   const double height = render::ShowCentreOwnership(m_desk.game(), surface) / TwipsPerPixel;
   // What does not fit is scrolled to; the width alone decides how high the list is.

@@ -16,8 +16,6 @@
 namespace orb::ui {
 namespace {
 
-constexpr double TwipsPerPixel = 15;
-
 /// Beyond this the picture is enlarged rather than drawn larger: it would only cost memory.
 constexpr int LargestPicture = 4096;
 
@@ -39,7 +37,7 @@ void MapPicture::draw(const session::Situation& situation, const View& view) {
   m_picture = QPixmap::fromImage(image);
   const QImage& background =
       m_pictures.Picture(render::BackgroundFile(m_desk.dataDirectory(), view.mapOptions.Mode));
-  m_naturalSize = (render::NaturalSize(background) / TwipsPerPixel).toSize();
+  m_naturalSize = (render::NaturalSize(background) / render::TwipsPerPixel).toSize();
   update();
 }
 
@@ -62,8 +60,8 @@ void MapPicture::paintEvent(QPaintEvent* /*event*/) {
   if (m_picture.width() != fittingPixelWidth()) drawAgain();
   QPainter painter(this);
   paintFilling(*this, m_picture, painter);
-  render::PainterSurface surface(painter, QRectF(rect()), QSizeF(m_naturalSize) * TwipsPerPixel,
-                                 m_pictures);
+  render::PainterSurface surface(painter, QRectF(rect()),
+                                 QSizeF(m_naturalSize) * render::TwipsPerPixel, m_pictures);
   paintMarks(surface);
   if (m_overlay) m_overlay(painter, surface);
 }
