@@ -1,5 +1,6 @@
 #include "model/errors.h"
 #include "model/files.h"
+#include "ui/session/attempt.h"
 #include "ui/window/main_window.h"
 
 #include <QApplication>
@@ -52,7 +53,8 @@ ui::Places systemPlaces() {
 
 int runProgram(const std::filesystem::path& gameFile, bool display) {
   StartMessages messages(display);
-  try {
+  int status = EXIT_FAILURE;
+  ui::attempt(messages, [&] {
     const ui::Places places = systemPlaces();
     ui::Start start = ui::startProgram(places, gameFile, messages);
     if (!display) {
@@ -61,11 +63,9 @@ int runProgram(const std::filesystem::path& gameFile, bool display) {
     }
     ui::MainWindow window(std::move(start), places);
     window.show();
-    return QApplication::exec();
-  } catch (const model::FatalError& fault) {
-    messages.Show(fault.what(), model::Icon::Stop);
-    return EXIT_FAILURE;
-  }
+    status = QApplication::exec();
+  });
+  return status;
 }
 
 }  // namespace

@@ -53,7 +53,7 @@ void HelpMenu::addTopics(QString& takenKeys) {
   try {
     m_topics = help::LoadHelpTopics(m_desk.dataDirectory());
   } catch (const model::FatalError& fault) {
-    // A window without its help is better than none.
+    // A window without its help is better than none; who asks for a topic is told why.
     m_fault = fault.what();
   }
   for (const help::HelpTopic& topic : m_topics) {

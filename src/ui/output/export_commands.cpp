@@ -57,6 +57,8 @@ fs::path writeScratchFile(const model::GameState& game) {
     report::WriteTextReport(game, workingFile);
     return workingFile;
   } catch (const model::FileError&) {
+    // The folder the program was started in may be anything, one that is read-only too: an error
+    // is worth showing only when the user's own folder fails as well.
     const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
     if (cache.isEmpty() || !QDir().mkpath(cache)) throw;
     fs::path file = fs::path(QFile::encodeName(cache).toStdString()) / name;
@@ -103,10 +105,6 @@ ExportCommands::ExportCommands(const Desk& desk, model::Messages& messages, QWid
       m_window(window),
       m_open(QDesktopServices::openUrl) {}
 
-void ExportCommands::attempt(const std::function<void()>& command) {
-  ui::attempt(m_messages, command);
-}
-
 /// The map as it is shown, at the background picture's own resolution.
 QImage ExportCommands::mapPicture() {
   const View& view = m_desk.view();
@@ -115,7 +113,7 @@ QImage ExportCommands::mapPicture() {
 }
 
 void ExportCommands::copyMap() {
-  attempt([this] {
+  attempt(m_messages, [this] {
     const QImage picture = mapPicture();
     auto content = std::make_unique<QMimeData>();
     content->setImageData(picture);
@@ -126,7 +124,7 @@ void ExportCommands::copyMap() {
 }
 
 void ExportCommands::copyText() {
-  attempt([this] {
+  attempt(m_messages, [this] {
     const std::string written = model::ReadFile(writeScratchFile(m_desk.game()));
     std::string_view rest = written;
     QString text;
@@ -140,7 +138,7 @@ void ExportCommands::copyText() {
 void ExportCommands::exportBitmap() {
   const auto file = askWhereToExport(m_window, ExportKind::Bitmap, m_desk.game(), m_messages);
   if (!file) return;
-  attempt([&] {
+  attempt(m_messages, [&] {
     model::ReplaceFile(*file, bytesOf(encoded(mapPicture(), "BMP")));
     emit noted(tr("The map is in %1.").arg(displayPath(file->string())));
   });
@@ -149,7 +147,7 @@ void ExportCommands::exportBitmap() {
 void ExportCommands::exportText() {
   const auto file = askWhereToExport(m_window, ExportKind::Text, m_desk.game(), m_messages);
   if (!file) return;
-  attempt([&] {
+  attempt(m_messages, [&] {
     report::WriteTextReport(m_desk.game(), *file);
     const QString shown = displayPath(file->string());
     const bool opened = m_open(QUrl::fromLocalFile(shown));
@@ -168,7 +166,7 @@ void ExportCommands::print() {
   m_pageLayout = printer.pageLayout();
   const PrintChoice choice = choiceOf(printer);
   printer.setCopyCount(1);
-  attempt([&] {
+  attempt(m_messages, [&] {
     printCopies(choice, QPrinterInfo::defaultPrinterName(), m_messages,
                 [&] { printOnce(printer); });
   });

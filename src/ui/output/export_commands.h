@@ -38,7 +38,6 @@ class ExportCommands : public QObject {
   void noted(const QString& text);
 
  private:
-  void attempt(const std::function<void()>& command);
   QImage mapPicture();
   void printOnce(QPrinter& printer);
 

@@ -1,10 +1,10 @@
 #include "ui/replay/animation_export.h"
 
-#include "model/errors.h"
 #include "render/qt/animated_picture.h"
 #include "settings/map_options.h"
 #include "text/qt/text_codec.h"
 #include "ui/output/file_dialogs.h"
+#include "ui/session/attempt.h"
 
 #include <QProgressDialog>
 
@@ -49,16 +49,14 @@ std::optional<std::filesystem::path> exportAnimation(const std::vector<history::
     dialog.setValue(done);
     return !dialog.wasCanceled();
   };
-  try {
+  bool saved = false;
+  const auto save = [&] {
     render::PictureCache pictures;
-    const bool saved = render::SaveAnimation(replaysOf(parts), options, dataDirectory,
-                                             render::AnimationWidth, pictures, *file, goesOn);
-    return saved ? file : std::nullopt;
-  } catch (const model::FatalError& fault) {
-    dialog.reset();
-    messages.Show(fault.what(), model::Icon::Stop);
-    return std::nullopt;
-  }
+    saved = render::SaveAnimation(replaysOf(parts), options, dataDirectory, render::AnimationWidth,
+                                  pictures, *file, goesOn);
+  };
+  attempt(messages, save, [&] { dialog.reset(); });
+  return saved ? file : std::nullopt;
 }
 
 }  // namespace orb::ui

@@ -56,6 +56,7 @@ AnimationFiles readAnimationFiles(const std::vector<fs::path>& files, const Game
       checkOrder(result.games, game);
       result.games.push_back(std::move(game));
     } catch (const model::FatalError& fault) {
+      // The other files are played all the same, and one message names all that do not fit.
       result.leftOut += std::string(fault.what()) + "\r";
     }
   }

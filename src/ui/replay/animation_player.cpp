@@ -1,6 +1,5 @@
 #include "ui/replay/animation_player.h"
 
-#include "model/errors.h"
 #include "text/qt/text_codec.h"
 #include "ui/output/file_dialogs.h"
 #include "ui/replay/animation_export.h"
@@ -156,12 +155,9 @@ void AnimationPlayer::show() {
   const int season = m_playhead.season();
   const history::ReplayPart& part = m_parts[static_cast<std::size_t>(season)];
   if (m_shownSeason != season) {
-    try {
-      m_picture->setReplay(part.Replay, m_desk.view().mapOptions);
-    } catch (const model::FatalError& fault) {
-      end();
-      return m_messages.Show(fault.what(), model::Icon::Stop);
-    }
+    const auto draw = [&] { m_picture->setReplay(part.Replay, m_desk.view().mapOptions); };
+    // Ended before the box comes up: a timer still running would meet the same error below it.
+    if (!attempt(m_messages, draw, [this] { end(); })) return;
     m_shownSeason = season;
   }
   m_picture->setProgress(m_playhead.progress());

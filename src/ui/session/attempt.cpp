@@ -4,11 +4,13 @@
 
 namespace orb::ui {
 
-bool attempt(model::Messages& messages, const std::function<void()>& command) {
+bool attempt(model::Messages& messages, const std::function<void()>& command,
+             const std::function<void()>& clearUp) {
   try {
     command();
     return true;
   } catch (const model::FatalError& fault) {
+    clearUp();
     messages.Show(fault.what(), model::Icon::Stop);
     return false;
   }
