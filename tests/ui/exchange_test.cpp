@@ -55,7 +55,7 @@ struct Preview {
     return table.window()->findChild<QLabel*>(QLatin1String(name))->text().toStdString();
   }
   void Choose(const char* power) const {
-    auto& box = *table.window()->findChild<QComboBox*>(QStringLiteral("cmbExchangePower"));
+    auto& box = *table.window()->findChild<QComboBox*>(QStringLiteral("cboExchangePower"));
     box.setCurrentText(QLatin1String(power));
   }
 
@@ -152,7 +152,7 @@ TEST_F(WindowTest, ThePowerOfAPasteIsChosenAndMeaningsAreOffered) {
     preview.table.setFocus();
     preview.table.setCurrentIndex(model.index(2, ExchangeModel::Understood));
     Press(Qt::Key_F2);
-    auto* meanings = dialog.findChild<QComboBox*>(QStringLiteral("cmbExchangeMeaning"));
+    auto* meanings = dialog.findChild<QComboBox*>(QStringLiteral("cboExchangeMeaning"));
     ASSERT_NE(meanings, nullptr);
     meanings->setCurrentIndex(meanings->findText("GER A(Mun) S FRA A(Mar) - Bur"));
     emit meanings->activated(meanings->currentIndex());

@@ -70,7 +70,7 @@ ExchangeDialog::ExchangeDialog(const model::GameState& game, ExchangeKind kind, 
 
 QLayout* ExchangeDialog::newPowerRow(const model::GameState& game) {
   m_power = new QComboBox;
-  m_power->setObjectName(QStringLiteral("cmbExchangePower"));
+  m_power->setObjectName(QStringLiteral("cboExchangePower"));
   m_power->setPlaceholderText(tr("Choose a power"));
   for (int row = 1; row <= game.Countries.Count(); ++row) {
     m_power->addItem(powerIcon(game.Countries, row), powerName(game.Countries, row),

@@ -57,7 +57,7 @@ class UnderstoodDelegate : public OrderMarkDelegate {
   QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
                         const QModelIndex& index) const override {
     auto* box = new QComboBox(parent);
-    box->setObjectName(QStringLiteral("cmbExchangeMeaning"));
+    box->setObjectName(QStringLiteral("cboExchangeMeaning"));
     box->setAccessibleName(QObject::tr("What the line means"));
     box->setPlaceholderText(QObject::tr("Choose what it means"));
     for (const std::string& order : m_model.line(index.row()).Candidates)

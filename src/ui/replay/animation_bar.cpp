@@ -102,7 +102,7 @@ void AnimationBar::addSlider() {
 
 void AnimationBar::addSpeeds() {
   m_speed = new QComboBox;
-  m_speed->setObjectName(QStringLiteral("cmbAnimateSpeed"));
+  m_speed->setObjectName(QStringLiteral("cboAnimateSpeed"));
   m_speed->setAccessibleName(tr("Speed"));
   m_speed->setToolTip(tr("How fast it plays"));
   m_speed->setFocusPolicy(Qt::TabFocus);
