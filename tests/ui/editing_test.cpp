@@ -208,10 +208,13 @@ TEST_F(EditingTest, CentresAreGivenByAClickAndPropertiesOpenByTwo) {
   for (int i = 0; i < 2; ++i)
     Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Selected("lstProvinces"), "Mun  Munich \u2013 Germany");
+  Find<QAbstractButton>("optGiveFRA").click();
   Trigger("mnuMapViewOnly");
   Click("Hol");
   Trigger("mnuMapViewOnly");
   EXPECT_THAT(Lines("lstProvinces"), Contains("Hol  Holland \u2013 Neutral"));
+  Click("Hol");
+  EXPECT_THAT(Lines("lstProvinces"), Contains("Hol  Holland \u2013 France"));
 }
 
 }  // namespace

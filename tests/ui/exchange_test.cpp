@@ -143,7 +143,8 @@ TEST_F(WindowTest, PastedOrdersOfAnotherPowerAreFiledOnlyWhenTicked) {
 
 TEST_F(WindowTest, ThePowerOfAPasteIsChosenAndMeaningsAreOffered) {
   QApplication::clipboard()->setText(
-      "FRA A(Par) - Bur\nFRA A(Mar) - Bur\nGER A Mun S Bur\nGER F(Kie) - Hol\nF Kie x");
+      "FRA A(Par) - Bur\nFRA A(Mar) - Bur\nGER A Mun S Bur\nGER F(Kie) - Hol\nF Kie x\n"
+      "AUS A(Vie) - Gal\nAUS A(Bud) - Gal\nRUS A War S Gal");
   const auto choose = [](QDialog& dialog) {
     const Preview preview(dialog);
     EXPECT_FALSE(preview.ok.isEnabled()) << "no power is named by all";
@@ -157,6 +158,9 @@ TEST_F(WindowTest, ThePowerOfAPasteIsChosenAndMeaningsAreOffered) {
     meanings->setCurrentIndex(meanings->findText("GER A(Mun) S FRA A(Mar) - Bur"));
     emit meanings->activated(meanings->currentIndex());
     EXPECT_EQ(preview.Mark(2), OrderMark::Passes);
+    EXPECT_THAT(preview.Understood(7), StartsWith("It can mean "));
+    model.setData(model.index(5, ExchangeModel::Written), "A Vie hold");
+    EXPECT_EQ(preview.Understood(7), "RUS A(War) S AUS A(Bud) - Gal") << "the only move there";
     model.setData(model.index(4, ExchangeModel::Written), "F Kie - Den");
     EXPECT_THAT(preview.Understood(3), HasSubstr("ordered again below"));
     preview.Choose("Germany");

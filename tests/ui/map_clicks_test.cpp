@@ -15,6 +15,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
 
 class MapClicksTest : public WindowTest {
  protected:
@@ -77,6 +78,23 @@ TEST_F(MapClicksTest, AYearIsPlayedByMouse) {
   EXPECT_THAT(std::vector<std::string>(report.end() - 4, report.end()),
               ElementsAre("ADJUSTMENTS", "AUS build A(Vie)  ", "TUR build A(Con)  ",
                           "ITA disband A(Tus)  "));
+}
+
+TEST_F(MapClicksTest, AMapThatIsOnlyViewedChangesNothing) {
+  Open(examples_ / "1902-1-spring-1-moves.orb");
+  Click("Bur");
+  Trigger("mnuMapViewOnly");
+  Click("Pic");
+  Press(Qt::Key_Return);
+  Press(Qt::Key_R, Qt::AltModifier);
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(StagePanel(), "") << "no panel to click in";
+  Trigger("mnuMapViewOnly");
+  EXPECT_EQ(StagePanel(), "fraRetreats");
+  EXPECT_THAT(Lines("lstRetreats"), IsEmpty());
+  EXPECT_EQ(Find<QLineEdit>("txtRetreat").text(), "GER A(Bur) ");
+  Click("Pic");
+  EXPECT_EQ(Find<QLineEdit>("txtRetreat").text(), "GER A(Bur) retreat Pic");
 }
 
 TEST_F(MapClicksTest, ThePlaceUnderThePointerIsNamed) {
