@@ -1,5 +1,4 @@
 #include "model/files.h"
-#include "model/game_file.h"
 #include "ui/modal_script.h"
 #include "ui/replay/playhead.h"
 #include "ui/window_fixture.h"

@@ -1,7 +1,5 @@
 #include "ui/help/help_window.h"
 
-#include "support/directories.h"
-
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>

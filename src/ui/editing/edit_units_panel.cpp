@@ -13,7 +13,6 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
-#include <utility>
 
 namespace orb::ui {
 namespace {

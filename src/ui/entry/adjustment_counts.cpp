@@ -1,6 +1,5 @@
 #include "ui/entry/adjustment_counts.h"
 
-#include "adjudication/adjustments.h"
 #include "model/counts.h"
 #include "text/qt/text_codec.h"
 

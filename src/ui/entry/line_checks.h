@@ -7,7 +7,6 @@
 #include <QListWidget>
 
 #include <optional>
-#include <string_view>
 
 namespace orb::ui {
 

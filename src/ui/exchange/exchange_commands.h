@@ -5,7 +5,6 @@
 
 #include <QObject>
 
-#include <filesystem>
 #include <string>
 
 namespace orb::ui {

@@ -5,7 +5,6 @@
 
 #include <QMenu>
 
-#include <utility>
 #include <vector>
 
 namespace orb::ui {

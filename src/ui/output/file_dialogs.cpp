@@ -14,7 +14,6 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
-#include <string_view>
 
 namespace orb::ui {
 namespace {

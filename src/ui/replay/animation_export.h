@@ -2,7 +2,6 @@
 
 #include "history/replay_sequence.h"
 #include "model/messages.h"
-#include "render/map_view.h"
 #include "settings/map_options.h"
 
 #include <QWidget>

@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
 #include <array>

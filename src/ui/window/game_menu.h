@@ -4,7 +4,6 @@
 
 #include <QMenu>
 
-#include <string_view>
 #include <utility>
 #include <vector>
 

@@ -38,7 +38,6 @@
 #include <QVBoxLayout>
 
 #include <array>
-#include <string_view>
 #include <utility>
 
 namespace orb::ui {
@@ -103,17 +102,15 @@ void MainWindow::createPanels() {
   m_editUnits = new EditUnitsPanel(m_desk, *m_map);
   m_editProvinces = new EditProvincesPanel(m_desk, *m_map);
   m_report = new ReportPanel(m_desk);
-  for (OrderEntryPanel* panel : {m_orders, m_retreats, m_adjustments}) {
-    connect(panel, &OrderEntryPanel::statusText, this, &MainWindow::showStatus);
-    connect(panel, &OrderEntryPanel::helpWanted, this,
+  const auto listenTo = [this]<class Panel>(Panel* panel) {
+    connect(panel, &Panel::statusText, this, &MainWindow::showStatus);
+    connect(panel, &Panel::helpWanted, this,
             [this](const QString& topic) { m_helpMenu->showTopic(topic); });
-  }
-  for (EditingPanel* panel :
-       {static_cast<EditingPanel*>(m_editUnits), static_cast<EditingPanel*>(m_editProvinces)}) {
-    connect(panel, &EditingPanel::statusText, this, &MainWindow::showStatus);
-    connect(panel, &EditingPanel::helpWanted, this,
-            [this](const QString& topic) { m_helpMenu->showTopic(topic); });
-  }
+  };
+  for (OrderEntryPanel* panel : {m_orders, m_retreats, m_adjustments})
+    listenTo(panel);
+  listenTo(m_editUnits);
+  listenTo(m_editProvinces);
   connect(m_map, &MapPicture::hovered, this, &MainWindow::showPlace);
   connect(m_view, &MapView::zoomChanged, this, &MainWindow::leaveSpareWidth);
   connect(m_report, &ReportPanel::unitsPicked, m_map, &MapPicture::setMarks);

@@ -9,7 +9,6 @@
 
 #include <array>
 #include <optional>
-#include <string>
 #include <utility>
 
 class QTabWidget;

@@ -1,6 +1,5 @@
 #include "ui/window/recent_files_menu.h"
 
-#include "ui/output/file_dialogs.h"
 #include "ui/widgets/controls.h"
 
 #include <QFile>
