@@ -1,5 +1,6 @@
 #include "orders/exchange/plain_text.h"
 
+#include "text/encoding.h"
 #include "text/utf8.h"
 #include "text/windows_1252.h"
 
@@ -54,13 +55,6 @@ std::string_view Fold(char32_t character, std::string_view bytes) {
   return bytes;
 }
 
-bool IsUtf8(std::string_view line) {
-  while (!line.empty()) {
-    if (!text::NextCharacter(line)) return false;
-  }
-  return true;
-}
-
 }  // namespace
 
 Span PlainText::Written(std::size_t begin, std::size_t end) const {
@@ -70,7 +64,7 @@ Span PlainText::Written(std::size_t begin, std::size_t end) const {
 }
 
 PlainText ToPlain(std::string_view line, std::size_t offset) {
-  const bool utf8 = IsUtf8(line);
+  const bool utf8 = text::IsUtf8(line);
   PlainText plain;
   plain.Text.reserve(line.size());
   plain.Origins.reserve(line.size());
