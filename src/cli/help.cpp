@@ -79,7 +79,7 @@ std::string ProgramHelp(std::span<const Command* const> commands) {
     if (IsCommonOption(option.Id)) help += Row(Spelled(option), option.Help);
   }
   return help +
-         "\n\"orbctl COMMAND --help\" tells the options of a command.\n"
+         "\n\"orbctl COMMAND --help\" lists the options of a command.\n"
          "Exit status: 0 every game done, 1 a game was abandoned or refused, 2 wrong usage.\n";
 }
 

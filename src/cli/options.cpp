@@ -10,8 +10,8 @@ namespace {
 /// The one place where options are described: both the reader and the help go by this table.
 constexpr std::array<Option, OptionCount> Table{{
     {OptionId::Data, "--data", "DIR", "the directory of the data files; else the program's own"},
-    {OptionId::Help, "--help", "", "print this help and end"},
-    {OptionId::Version, "--version", "", "print the version and end"},
+    {OptionId::Help, "--help", "", "print this help and exit"},
+    {OptionId::Version, "--version", "", "print the version and exit"},
     {OptionId::Blank, "--blank", "", "the blank position: no units, every province at home"},
     {OptionId::Title, "--title", "TEXT", "the title of the game"},
     {OptionId::Orders, "--orders", "PATH", "the orders, one a line; a directory: NAME.txt in it"},
@@ -86,7 +86,7 @@ class Reader {
     } else if (next_ < arguments_.size()) {
       line_.Set(*option, arguments_[next_++]);
     } else {
-      throw UsageError("The option " + std::string(name) + " needs its value.");
+      throw UsageError("The option " + std::string(name) + " needs a value.");
     }
   }
 
@@ -115,7 +115,7 @@ void CheckGames(const CommandLine& line) {
   const std::size_t count = line.Games.size();
   if (line.Verb->Takes == Games::None) {
     if (count > 0)
-      throw UsageError(name + ": There is nothing to do with \"" + line.Games[0] + "\".");
+      throw UsageError(name + ": It takes no game file, but \"" + line.Games[0] + "\" is given.");
   } else if (count == 0) {
     throw UsageError(name + ": The game file is missing.");
   } else if (line.Verb->Takes == Games::One && count > 1) {

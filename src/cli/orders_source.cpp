@@ -34,7 +34,7 @@ OrdersSource::OrdersSource(const CommandLine& line) : isLoose_(line.Has(OptionId
   power_ = text::UpperCase(*line.Value(OptionId::Power));
   if (model::FindCountry(power_) == 0) {
     throw UsageError("\"" + *line.Value(OptionId::Power) +
-                     "\" is no power: --power takes ENG, FRA, GER, RUS, TUR, AUS or ITA.");
+                     "\" is not a power: --power takes ENG, FRA, GER, RUS, TUR, AUS or ITA.");
   }
 }
 

@@ -41,7 +41,7 @@ class PathOption {
       : extension_(extension) {
     if (!line.Has(id)) return;
     path_ = *line.Value(id);
-    if (path_.empty()) throw UsageError("An empty text is no path.");
+    if (path_.empty()) throw UsageError("A path cannot be empty.");
     inDirectory_ = IsDirectory(path_);
     prefix_ = (path_ / "").string();
     if (!inDirectory_ && line.Games.size() > 1) {

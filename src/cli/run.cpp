@@ -38,7 +38,7 @@ int Run(std::span<const std::string> arguments, std::ostream& out, std::ostream&
     return ExitRefused;
   } catch (const UsageError& error) {
     console.Say("orbctl", error.what());
-    console.Say("orbctl", "\"orbctl --help\" tells how it is used.");
+    console.Say("orbctl", "\"orbctl --help\" shows how to use it.");
     return ExitUsage;
   }
 }

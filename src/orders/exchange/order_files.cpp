@@ -50,10 +50,11 @@ std::string OrdersFileText(std::string bytes, const std::string& fileName) {
   }
   // No text has such bytes; UTF-16 without its mark, pictures and documents of word processors do.
   if (bytes.find('\0') != std::string::npos) {
-    throw model::FileError(text::NameInText(fileName) +
-                           " is no text file that can be read: it holds bytes of value 0. Orders "
-                           "are read from texts in UTF-8, Windows-1252 or UTF-16 with its byte "
-                           "order mark.");
+    throw model::FileError(
+        text::NameInText(fileName) +
+        " is not a text file that can be read: it holds bytes of value 0. Orders "
+        "are read from texts in UTF-8, Windows-1252 or UTF-16 with its byte "
+        "order mark.");
   }
   return bytes;
 }

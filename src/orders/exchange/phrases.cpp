@@ -398,7 +398,7 @@ void Phrases::Unknown(std::size_t at, std::string_view reason, std::size_t end) 
 void Phrases::NotInStage(std::size_t at) {
   at = Skip(at);
   if (at >= tokens_.size()) return;
-  Expected(HasOrders(stage_) ? Quoted(tokens_.subspan(at, 1)) + " is no order of the stage \"" +
+  Expected(HasOrders(stage_) ? Quoted(tokens_.subspan(at, 1)) + " is not an order of the stage \"" +
                                    std::string(StageName(stage_)) + "\""
                              : "no orders are taken in this stage",
            at);

@@ -21,7 +21,7 @@ QImage Decode(const std::filesystem::path& file) {
       QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
   const QImage picture = QImage::fromData(data);
   if (picture.isNull()) {
-    throw model::FileError("Cannot read " + file.string() + ": it is no bitmap picture.");
+    throw model::FileError("Cannot read " + file.string() + ": it is not a bitmap picture.");
   }
   return picture.convertToFormat(QImage::Format_RGB32);
 }
