@@ -3,6 +3,7 @@
 #include "cli/run.h"
 #include "cli/shell.h"
 #include "model/messages.h"
+#include "support/drawn_cases.h"
 #include "text/encoding.h"
 
 #include <gmock/gmock.h>
@@ -25,50 +26,15 @@ TEST(CommandLine, WhatIsWrongIsRefusedAndNothingIsDone) {
   shell.Run("new -o @other/a.orb");
   const std::string before = shell.Listing();
   const std::string game = shell.Read("a.orb");
-  const std::vector<std::string_view> lines{
-      "",
-      "frob @a.orb",
-      "resolve @a.orb",
-      "resolve --in-place --frob @a.orb",
-      "resolve --in-place --blank @a.orb",
-      "resolve --in-place --yes=1 @a.orb",
-      "resolve --in-place -o @c.orb @a.orb",
-      "resolve -o @c.orb -o @d.orb @a.orb",
-      "resolve --yes -o @c.orb @a.orb @b.orb",
-      "resolve --yes --in-place --report @r.txt @a.orb @b.orb",
-      "resolve --yes --in-place --reasons @r.txt @a.orb @b.orb",
-      "resolve --yes --in-place @a.orb @out/../a.orb",
-      "resolve --yes -o @out @a.orb @other/a.orb",
-      "resolve --yes --in-place --report @a.orb @a.orb",
-      "resolve --yes -o @c.orb --report @c.orb @a.orb",
-      "resolve --yes -o @c.orb --report @a.orb @a.orb",
-      "resolve --yes --in-place --report @out --reasons @out @a.orb",
-      "resolve --yes --in-place --orders @out --report @out @a.orb",
-      "resolve --in-place --report= @a.orb",
-      "next --yes --in-place @a.orb",
-      "new",
-      "new -o @c.orb @d.orb",
-      "new -o @c.orb --title A\"B",
-      "new -o @c.orb --title \u0416",
-      "new -o @c.orb --title \xff",
-      "check --in-place @a.orb",
-      "check --loose @a.orb",
-      "check --orders @b.orb --power FRA @a.orb",
-      "check --orders @b.orb --loose --power XYZ @a.orb",
-      "map --loose -o @m.png @a.orb",
-      "map @a.orb",
-      "map -o @m.gif @a.orb",
-      "map -o @m.png --mode red @a.orb",
-      "map -o @m.png --width 0 @a.orb",
-      "map -o @m.png --width 99999999999 @a.orb",
-      "map -o @m.png @a.orb @b.orb",
-      "map -o @m.png @m.png",
-      "--data @nowhere new -o @c.orb"};
-  for (const std::string_view line : lines) {
+  std::vector<DrawnRow> rows = LoadDrawnRows("cli/lines.txt", "refused");
+  rows.emplace_back("", "The command is missing.");
+  rows.emplace_back("new -o @c.orb --title \xff",
+                    "new: The title has a character that game files cannot hold.");
+  for (const auto& [line, sentence] : rows) {
     const Outcome outcome = shell.Run(line);
     EXPECT_EQ(outcome.Status, 2) << line;
     EXPECT_EQ(outcome.Out, "") << line;
-    EXPECT_THAT(outcome.Err, StartsWith("orbctl: ")) << line;
+    EXPECT_THAT(outcome.Err, StartsWith("orbctl: " + sentence + "\n")) << line;
     EXPECT_EQ(shell.Listing(), before) << line;
     EXPECT_EQ(shell.Read("a.orb"), game) << line;
   }

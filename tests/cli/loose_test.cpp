@@ -1,11 +1,8 @@
-#include "cli/run.h"
 #include "cli/shell.h"
 #include "model/files.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <sstream>
 
 namespace orb::tests {
 namespace {
@@ -76,18 +73,9 @@ TEST(Loose, RepairsAreTheDataDirectorysAndMayBeMissing) {
     shell.Write(file, model::ReadFile(DataDirectory() / file));
   shell.Write("a.orb", GameFile("Spring", "moves", "FRA A(Par)"));
   shell.Write("o.txt", "A Lutetia - Bur");
-  const std::string directory = shell.Directory().Path().string();
-  const auto run = [&] {
-    std::ostringstream said;
-    const std::vector<std::string> line{"--data",
-                                        directory,
-                                        "check",
-                                        "--loose",
-                                        "--orders",
-                                        directory + "/o.txt",
-                                        directory + "/a.orb"};
-    cli::Run(line, said, said);
-    return said.str();
+  const auto run = [&shell] {
+    const Outcome outcome = shell.Run("--data @ check --loose --orders @o.txt @a.orb");
+    return outcome.Out + outcome.Err;
   };
   EXPECT_THAT(run(), HasSubstr("\"Lutetia\" is not on the map"));
   shell.Write("fixpaste.dat", "\"lutetia\",\"Par\"\r\n");

@@ -6,6 +6,7 @@
 #include "support/boards.h"
 #include "text/strings.h"
 
+#include <algorithm>
 #include <set>
 #include <sstream>
 
@@ -27,7 +28,10 @@ Outcome Shell::Run(std::string_view line) const {
 }
 
 Outcome Shell::Run(const std::vector<std::string>& arguments, bool errIsTerminal) const {
-  std::vector<std::string> expanded{"--data", DataDirectory().string()};
+  std::vector<std::string> expanded;
+  if (std::ranges::find(arguments, "--data") == arguments.end()) {
+    expanded = {"--data", DataDirectory().string()};
+  }
   for (const std::string& argument : arguments)
     expanded.push_back(Expanded(argument));
   std::ostringstream out;

@@ -15,7 +15,8 @@ struct Outcome {
   std::string Err;
 };
 
-/// A temporary directory in which commands run on the real map. "@NAME" stands for a file in it.
+/// A temporary directory in which commands run on the real map unless they name another with
+/// --data. "@NAME" stands for a file in it.
 class Shell {
  public:
   const TemporaryDirectory& Directory() const { return directory_; }
