@@ -37,38 +37,20 @@ TEST(ClickEntry, ClicksWriteAnOrder) {
 TEST(ClickEntry, ClicksWriteARetreat) {
   const model::GameState game =
       tests::Board("Spring", "retreats", {"ENG F(Stp.n) <Fin", "RUS A(Stp)", "GER A(Kie)"});
-  struct Case {
-    const char* Before;
-    const char* Click;
-    const char* After;
-  };
-  for (const Case& c :
-       std::vector<Case>{{"", "Stp", "ENG F(Stp.n) "},
-                         {"", "Kie", ""},
-                         {"ENG F(Stp.n) ", "BAR", "ENG F(Stp.n) retreat BAR"},
-                         {"ENG F(Stp.n) ", "Stp.s", "ENG F(Stp.n) disband "},
-                         {"ENG F(Stp.n) retreat ", "BAR", "ENG F(Stp.n) retreat BAR"},
-                         {"ENG F(Stp.n) disband ", "Nwy", "ENG F(Stp.n) retreat Nwy"}})
-    EXPECT_EQ(ClickRetreat(game, c.Before, c.Click), c.After) << c.Before << c.Click;
+  for (const auto& [row, after] : tests::LoadDrawnRows("orders/lines.txt", "retreat clicks")) {
+    const auto plus = row.find("+");
+    EXPECT_EQ(ClickRetreat(game, row.substr(0, plus), row.substr(plus + 1)) + "|", after) << row;
+  }
 }
 
 TEST(ClickEntry, ClicksWriteAnAdjustment) {
   const model::GameState game =
       tests::Board("Autumn", "adjustments", {"ENG A(Lvp)", "RUS F(Stp.s)"});
-  struct Case {
-    const char* Before;
-    const char* Click;
-    const char* After;
-  };
-  for (const Case& c : std::vector<Case>{{"", "Lon", "ENG build F(Lon)"},
-                                         {"ENG build F(Lon)", "Lvp", "ENG disband A(Lvp)"},
-                                         {"ENG disband A(Lvp)", "Stp.n", "RUS disband F(Stp.s)"},
-                                         {"ENG build F(Lon)", "Yor", "ENG build F(Lon)"},
-                                         {"", "Bel", ""},
-                                         {" build ", "Lvp", "ENG build F(Lvp)"},
-                                         {"RUS Build A(", "Stp.n", "RUS build F(Stp.n)"},
-                                         {"ENG disband ", "Lon", "ENG disband "}})
-    EXPECT_EQ(ClickAdjustment(game, c.Before, c.Click, "F"), c.After) << c.Before << c.Click;
+  for (const auto& [row, after] : tests::LoadDrawnRows("orders/lines.txt", "adjustment clicks")) {
+    const auto plus = row.find("+");
+    EXPECT_EQ(ClickAdjustment(game, row.substr(0, plus), row.substr(plus + 1), "F") + "|", after)
+        << row;
+  }
 }
 
 TEST(ClickEntry, TheTypeOfAUnitIsReadAndReplaced) {

@@ -1,6 +1,7 @@
 #include "orders/entered_orders.h"
 
 #include "support/boards.h"
+#include "support/drawn_cases.h"
 
 #include <gtest/gtest.h>
 
@@ -11,28 +12,10 @@ namespace orb::tests {
 namespace {
 
 TEST(EnteredOrders, AreTheReadableLinesOfTheStage) {
-  struct Case {
-    std::string Stage, Line, Read;  ///< power, type, location, kind, other, destination
-  };
-  const std::vector<Case> cases = {
-      {"moves", " ENG A(Lon) - Yor ", "ENG A Lon - > Yor"},
-      {"moves", "ENG A(Lon) - NTH", "ENG A Lon - > NTH"},
-      {"moves", "FRA A(Lon) Hold", "FRA A Lon HOLD >"},
-      {"moves", "ENG A(Lon) s FRA F(Bre) hold", "ENG A Lon S Bre >"},
-      {"moves", "ENG A(Lon) S F(Bre) - MAO", "ENG A Lon S Bre > MAO"},
-      {"moves", "ENG F(NTH) C A(Yor) - Nwy", "ENG F NTH C Yor > Nwy"},
-      {"moves", "ENG A(Lon) - Xyz", ""},
-      {"moves", "ENG A(Lon) retreat Yor", ""},
-      {"retreats", "ENG A(Lon) retreat Yor", "ENG A Lon RETREAT > Yor"},
-      {"retreats", "ENG A(Lon) disband", "ENG A Lon DISBAND >"},
-      {"retreats", "ENG A(Lon) retreat", ""},
-      {"adjustments", "eng build F(Stp.n)", "ENG F Stp.n BUILD >"},
-      {"adjustments", "ENG disband A(Lon)", "ENG A Lon DISBAND >"},
-      {"adjustments", "ENG A(Lon) disband", ""},
-      {"finished", "ENG A(Lon) hold", ""}};
-  for (const Case& test : cases) {
-    model::GameState game = EmptyBoard("Autumn", test.Stage);
-    OrdersOf(game) = {"what?", test.Line};
+  for (const auto& [row, expected] : LoadDrawnRows("orders/lines.txt", "entered")) {
+    const auto close = row.find(") ");
+    model::GameState game = EmptyBoard("Autumn", row.substr(1, close - 1));
+    OrdersOf(game) = {"what?", row.substr(close + 2)};
     std::string read;
     for (const orders::OrderOutcome& order : orders::EnteredOrders(game)) {
       EXPECT_EQ(order.Outcome, orders::Outcome::Entered);
@@ -42,7 +25,7 @@ TEST(EnteredOrders, AreTheReadableLinesOfTheStage) {
         if (!field.empty()) read.append(read.empty() ? "" : " ").append(field);
       }
     }
-    EXPECT_EQ(read, test.Read) << test.Line;
+    EXPECT_EQ(read.empty() ? "nothing" : read, expected) << row;
   }
 }
 
