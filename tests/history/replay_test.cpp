@@ -121,56 +121,18 @@ TEST(SeasonReplay, StartsBeforeTheMovesWithTheOwnersOfThen) {
 }
 
 TEST(ReplayBetween, MatchesUnits) {
-  struct Case {
-    std::string Name;
-    GameState Earlier, Later;
-    Texts Journeys;
-  };
-  GameState ordered = BoardOf("moves", {"FRA A(Par)", "GER A(Mun)", "ENG A(Yor)", "ENG F(NTH)"});
-  ordered.OrdersList = {"FRA A(Par) - Bur", "GER A(Mun) - Mos", "ENG A(Yor) - Bel",
-                        "ENG F(NTH) C ENG A(Yor) - Bel", "nonsense"};
-  ordered.OrdersList.resize(200, "FRA A(Par) - Gas");
-  const std::vector<Case> cases = {
-      {"a chain of equal units",
-       BoardOf("moves", {"FRA A(Par)", "FRA A(Bur)"}),
-       BoardOf("finished", {"FRA A(Mun) Bur", "FRA A(Bur) Par"}, "Mun Bur"),
-       {"FRA A(Par) - Bur", "FRA A(Bur) - Mun"}},
-      {"failed orders of the list",
-       ordered,
-       BoardOf("finished",
-               {"FRA A(Par) Par", "GER A(Mun) Mun", "ENG A(Yor) Yor", "ENG F(NTH) NTH"}),
-       {"FRA A(Par) -x Bur", "GER A(Mun)", "ENG A(Yor) -x Bel via NTH", "ENG F(NTH)"}},
-      {"the list was changed later",
-       ordered,
-       BoardOf("finished", {"FRA A(Pic) Par", "ENG A(Bel) Yor"}, "Pic Bel"),
-       {"FRA A(Par) - Pic", "GER A(Mun) vanishes", "ENG A(Yor) - Bel via NTH",
-        "ENG F(NTH) vanishes"}},
-      {"to the retreats",
-       BoardOf("moves", {"GER A(Bur)", "FRA A(Par)"}),
-       BoardOf("retreats", {"GER A(Bur) <Par", "FRA A(Bur) Par"}, "Bur"),
-       {"GER A(Bur) pushed", "FRA A(Par) - Bur"}},
-      {"out of the retreats",
-       BoardOf("retreats", {"GER A(Bur) <Par", "FRA A(Bur) Par", "ITA F(TYS) <ION"}),
-       BoardOf("finished", {"GER A(Ruh) Bur Par", "FRA A(Bur) Par"}),
-       {"GER A(Bur) aside to Ruh", "FRA A(Bur)", "ITA F(TYS) aside vanishes"}},
-      {"a build, and another army gone where it was",
-       BoardOf("adjustments", {"FRA A(Bur) Par"}, "", "Autumn"),
-       BoardOf("finished", {"FRA A(Bur) Par", "FRA A(Par)"}, "", "Autumn"),
-       {"FRA A(Bur)", "FRA A(Par) appears"}},
-      {"a year later",
-       BoardOf("moves", {"FRA A(Par)", "FRA A(Mar)", "TUR A(Con)"}),
-       [] {
-         GameState later = BoardOf("moves", {"FRA A(Spa) Gas", "FRA A(Par)", "FRA A(Bel) Bur"});
-         later.Year = 1902;
-         return later;
-       }(),
-       {"FRA A(Par) - Bel", "FRA A(Mar) - Spa", "TUR A(Con) vanishes", "FRA A(Par) appears"}},
-      {"positions set by hand",
-       BoardOf("moves", {"FRA A(Par)", "FRA F(Bre)"}),
-       BoardOf("moves", {"FRA A(Bur)", "FRA F(MAO)"}, "", "Autumn"),
-       {"FRA A(Par) - Bur", "FRA F(Bre) - MAO"}}};
-  for (const auto& [name, earlier, later, journeys] : cases)
-    EXPECT_EQ(Journeys(history::ReplayBetween(earlier, later)), journeys) << name;
+  for (const DrawnCase& drawn : LoadDrawnCases("history/matches.txt")) {
+    SCOPED_TRACE(drawn.Name);
+    const Texts stages = Parts(drawn.Note("stages"));
+    GameState earlier = BoardOf(stages[0], drawn.Drawing, {}, drawn.Note("season", "Spring"));
+    earlier.OrdersList = drawn.Texts("order");
+    // More orders than can be resolved, too.
+    if (drawn.Has("order")) earlier.OrdersList.resize(200, "FRA A(Par) - Gas");
+    GameState later = BoardOf(stages[1], drawn.Texts("later"), drawn.Note("contested"),
+                              drawn.Note("next", earlier.Season));
+    later.Year = static_cast<std::int16_t>(std::stoi(drawn.Note("year", "1901")));
+    EXPECT_EQ(Journeys(history::ReplayBetween(earlier, later)), drawn.Texts("way"));
+  }
 }
 
 TEST(ReplaySequence, PartsAreNamedAfterTheSeasonsTheyShow) {

@@ -99,20 +99,9 @@ TEST(Binding, AsksInTheOrderOfTheChecks) {
   EXPECT_EQ(bound.Orders[6].Result, orders::OrderResult::NotUsed);
 }
 
-/// The lines of a row, bound.
-Bound BoundRow(std::string_view row) {
-  std::vector<std::string> lines;
-  while (!row.empty()) {
-    const auto end = std::min(row.find("; "), row.size());
-    lines.emplace_back(row.substr(0, end));
-    row.remove_prefix(std::min(end + 2, row.size()));
-  }
-  return Bound(lines);
-}
-
 TEST(Binding, ASupportOrConvoyFitsOneOrder) {
   for (const auto& [row, link] : LoadDrawnRows("orders/lines.txt", "links")) {
-    const Bound bound = BoundRow(row);
+    const Bound bound(Parts(row));
     EXPECT_EQ(std::to_string(bound.Orders[1].LinkedOrder) + (bound.Orders[2].ViaConvoy ? "*" : ""),
               link)
         << row;
@@ -122,7 +111,7 @@ TEST(Binding, ASupportOrConvoyFitsOneOrder) {
 
 TEST(Binding, RejectsWhatAUnitCannotReach) {
   for (const auto& [row, result] : LoadDrawnRows("orders/lines.txt", "possible")) {
-    const auto word = ResultWord(BoundRow(row).Orders[1].Result);
+    const auto word = ResultWord(Bound(Parts(row)).Orders[1].Result);
     EXPECT_EQ(word.empty() ? "possible" : word, result) << row;
   }
 }

@@ -29,10 +29,6 @@ std::vector<std::string> Discs(const Replay& replay, double seconds) {
   return discs;
 }
 
-render::Point UnitAt(std::string_view name) {
-  return render::OnSurface(Recorder(), render::UnitPoint(model::PlaceOf(*RealMap(), name)));
-}
-
 std::string Middle(render::Point a, render::Point b) {
   return At({(a.X + b.X) / 2, (a.Y + b.Y) / 2});
 }
@@ -63,8 +59,7 @@ TEST(AnimationView, UnitsGoTheirWaysOneStageAfterTheOther) {
   // The moves take from 0.5 to 2.1 seconds, retreats from 2.4 to 3.6, builds from 3.9 to 4.8.
   EXPECT_THAT(Discs(replay, 1.3), ElementsAre(bur, Middle(UnitAt("Par"), UnitAt("Bur")) + " 115",
                                               Middle(UnitAt("Pie"), UnitAt("Mar")) + " 115"));
-  const std::string aside =
-      At(render::OnSurface(Recorder(), render::LabelPoint(model::PlaceOf(*RealMap(), "Bur"))));
+  const std::string aside = At(LabelAt("Bur"));
   EXPECT_THAT(Discs(replay, 2.2), ElementsAre(bur, pie, aside + " 86"));
   EXPECT_THAT(Discs(replay, 3.0), ElementsAre(bur, pie, aside + " 43"));
   EXPECT_THAT(Discs(replay, 3.7), ElementsAre(bur, pie));

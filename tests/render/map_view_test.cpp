@@ -1,9 +1,11 @@
 #include "render/map_view.h"
 
 #include "model/errors.h"
+#include "model/lookups.h"
 #include "render/recorder.h"
 #include "settings/map_options.h"
 #include "support/boards.h"
+#include "support/drawn_cases.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -28,18 +30,6 @@ struct Drawn : Recorder {
     RenderMap(game, options, "dir", *this);
   }
 };
-
-const model::Province& Place(std::string_view name) {
-  return RealMap()->Provinces[model::FindProvince(*RealMap(), name)];
-}
-
-std::string LabelAt(std::string_view name) {
-  return At({Place(name).LabelX * 10000.0, Place(name).LabelY * 8000.0});
-}
-
-std::string UnitAt(std::string_view name) {
-  return At({Place(name).UnitX * 10000.0, Place(name).UnitY * 8000.0});
-}
 
 /// The kinds of strokes in their order, repetitions and the texts of labels left out.
 std::string Order(const Recorder& surface) {
@@ -96,11 +86,11 @@ TEST(MapView, EveryPlaceHasItsLabelAndEveryCentreADotBelow) {
     EXPECT_EQ(text->Text, place.Name.substr(place.Name.size() == 3 ? 0 : 4));
     const double half = 50.0 * static_cast<double>(text->Text.size());
     const render::Point corner = text->Points.front();
-    EXPECT_EQ(At({corner.X + half, corner.Y + 100}), LabelAt(place.Name)) << place.Name;
+    EXPECT_EQ(At({corner.X + half, corner.Y + 100}), At(LabelAt(place.Name))) << place.Name;
     EXPECT_TRUE(text->Fore == 0 && !text->Bold);
     ++text;
     if (place.IsSupplyCentre == 0) continue;
-    EXPECT_EQ(At({dot->Points[0].X, dot->Points[0].Y - 120}), LabelAt(place.Name));
+    EXPECT_EQ(At({dot->Points[0].X, dot->Points[0].Y - 120}), At(LabelAt(place.Name)));
     EXPECT_TRUE(dot->Width == 45 && dot->Filled && dot->Fill + dot->Fore == 0 && dot->Pen == 1);
     ++dot;
   }
@@ -116,7 +106,7 @@ TEST(MapView, OnlyOwnedCentresHaveABoxOrAShield) {
     const Stroke& box = boxes.front();
     // "Par": 300 by 200 about the label point; the box begins half a blank further left.
     const render::Point corner = box.Points.front();
-    EXPECT_EQ(At({corner.X + 50 + 150, corner.Y - 20 + 100}), LabelAt("Par"));
+    EXPECT_EQ(At({corner.X + 50 + 150, corner.Y - 20 + 100}), At(LabelAt("Par")));
     EXPECT_EQ(At({box.Width, box.Height}), "400,160");
     EXPECT_EQ(box.Fore, game.Countries[2].Colour);
     EXPECT_TRUE(!box.Filled && box.Pen == 2);
@@ -143,50 +133,34 @@ TEST(MapView, CaptionsTellTitleSeasonAndStage) {
 }
 
 TEST(MapView, StandoffMarkers) {
-  const std::vector<std::tuple<std::string, std::string, std::vector<std::string>, bool>> cases = {
-      {"retreats", "Bur", {}, true},
-      {"moves", "Bur", {}, false},
-      {"retreats", "Bur", {"FRA A(Bur)"}, false},
-      {"retreats", "Bur", {"FRA A(Bur) <Mun"}, false},
-      {"retreats", "Spa.n", {}, false},
-      {"retreats", "Spa", {"FRA F(Spa.n)"}, false}};
-  for (const auto& [stage, contested, units, marked] : cases) {
-    SCOPED_TRACE(stage + contested + testing::PrintToString(units));
-    GameState game = Board("Spring", stage, units);
-    Live(game, contested).Uncontested = false;
+  for (const auto& [row, mark] : LoadDrawnRows("render/marks.txt", "standoffs")) {
+    SCOPED_TRACE(row);
+    const std::vector<std::string> parts = Parts(row);
+    const bool marked = mark == "marked";
+    GameState game = Board("Spring", parts[0], {parts.begin() + 2, parts.end()});
+    Live(game, parts[1]).Uncontested = false;
     const auto lines = Drawn(game, {MapMode::Grey}).All("line", 1);
     ASSERT_EQ(lines.size(), marked ? 8U : 0U);
     if (!marked) continue;
     const render::Point start = lines.front().Points.front();
-    EXPECT_EQ(At({start.X + 90, start.Y + 90}), UnitAt("Bur"));
+    EXPECT_EQ(At({start.X + 90, start.Y + 90}), At(UnitAt("Bur")));
   }
 }
 
 TEST(MapView, AttackLines) {
-  struct Case {
-    std::string Stage;
-    std::vector<std::string> Units;
-    std::string From, To;  ///< unit points of the line; empty for none
-    int Power;
-  };
-  const std::vector<Case> cases = {
-      {"retreats", {"GER A(Bur) <Mun", "FRA A(Bur)"}, "Mun", "Bur", 2},
-      {"finished", {"GER A(Bur) <Mun", "FRA A(Bur)"}, "", "", 0},
-      {"retreats", {"GER A(Bur) <Mun", "FRA A(Bur)", "AUS A(Mun)"}, "", "", 0},
-      {"retreats", {"GER A(Bur) <Mun", "FRA A(Bur)", "AUS A(Mun) <Tyr"}, "", "", 0},
-      {"retreats", {"GER A(Bur) <Mun"}, "", "", 0},
-      {"retreats", {"FRA A(Bur)", "GER A(Bur) <Mun", "ITA A(Bur)"}, "Mun", "Bur", 7},
-      {"retreats", {"GER F(Spa.n) <Gas", "FRA A(Spa)"}, "Gas", "Spa", 2}};
-  for (const Case& test : cases) {
-    SCOPED_TRACE(test.Stage + testing::PrintToString(test.Units));
+  for (const auto& [row, drawn] : LoadDrawnRows("render/marks.txt", "attacks")) {
+    SCOPED_TRACE(row);
+    const std::vector<std::string> parts = Parts(row);
+    const std::vector<std::string> line = Words(drawn);
     for (const MapMode mode : AllModes) {
-      const GameState game = Board("Spring", test.Stage, test.Units);
+      const GameState game = Board("Spring", parts[0], {parts.begin() + 1, parts.end()});
       const auto lines = Drawn(game, {mode}).All("line", 5);
-      ASSERT_EQ(lines.size(), test.From.empty() ? 0U : 1U);
-      if (test.From.empty()) continue;
+      ASSERT_EQ(lines.size(), drawn == "none" ? 0U : 1U);
+      if (lines.empty()) continue;
       EXPECT_EQ(At(lines[0].Points[0]) + At(lines[0].Points[1]),
-                UnitAt(test.From) + UnitAt(test.To));
-      EXPECT_EQ(lines[0].Fore, settings::InColour(mode) ? game.Countries[test.Power].Colour : 0U);
+                At(UnitAt(line[0])) + At(UnitAt(line[1])));
+      const model::Country& attacker = game.Countries[model::FindCountry(line[2])];
+      EXPECT_EQ(lines[0].Fore, settings::InColour(mode) ? attacker.Colour : 0U);
     }
   }
 }
@@ -206,9 +180,9 @@ TEST(MapView, DislodgedUnitsAreSmallAndOnTop) {
     units.push_back(power->Abbreviation + " " + At(circle.Points.front()) + " " +
                     std::to_string(circle.Width).substr(0, 5));
   }
-  EXPECT_THAT(units,
-              ElementsAre("FRA " + UnitAt("Bur") + " 115.0", "ENG " + UnitAt("Lon") + " 115.0",
-                          "GER " + LabelAt("Bur") + " 86.25"));
+  EXPECT_THAT(units, ElementsAre("FRA " + At(UnitAt("Bur")) + " 115.0",
+                                 "ENG " + At(UnitAt("Lon")) + " 115.0",
+                                 "GER " + At(LabelAt("Bur")) + " 86.25"));
 }
 
 /// Centres and units of France, Turkey, Austria and England; of a coast and of a place that is no

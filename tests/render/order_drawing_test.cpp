@@ -34,10 +34,6 @@ struct DrawnOrders : Recorder {
   }
 };
 
-render::Point UnitAt(std::string_view place) {
-  return render::OnSurface(Recorder(), render::UnitPoint(model::PlaceOf(*RealMap(), place)));
-}
-
 /// How far a point lies to the right of the line from one unit to another one.
 double RightOf(render::Point point, std::string_view from, std::string_view to) {
   const render::Point along = render::Towards(UnitAt(from), UnitAt(to));
@@ -203,12 +199,10 @@ TEST(OrderDrawing, DisbandsCrossOutTheUnitWhereItLies) {
         DrawnOrders(Board("Spring", "finished", units), {disband}).All("line", MovePen);
     return render::SpotAt(lines.at(0).Points, render::LengthOf(lines.at(0).Points) / 2).At;
   };
-  const render::Point label =
-      render::OnSurface(Recorder(), render::LabelPoint(model::PlaceOf(*RealMap(), "Bur")));
   EXPECT_EQ(At(crossed({"GER A(Bur)"})), At(UnitAt("Bur")));
   EXPECT_EQ(At(crossed({})), At(UnitAt("Bur"))) << "removed in the adjustments";
-  EXPECT_EQ(At(crossed({"FRA A(Bur)", "GER A(Bur) <Mun"})), At(label));
-  EXPECT_EQ(At(crossed({"FRA A(Bur)"})), At(label)) << "disbanded instead of a retreat";
+  EXPECT_EQ(At(crossed({"FRA A(Bur)", "GER A(Bur) <Mun"})), At(LabelAt("Bur")));
+  EXPECT_EQ(At(crossed({"FRA A(Bur)"})), At(LabelAt("Bur"))) << "disbanded instead of a retreat";
 }
 
 }  // namespace

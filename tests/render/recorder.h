@@ -1,9 +1,12 @@
 #pragma once
 
 #include "model/errors.h"
+#include "model/lookups.h"
+#include "render/drawing.h"
 #include "render/map_view.h"
 #include "render/surface.h"
 #include "settings/map_options.h"
+#include "support/boards.h"
 
 #include <array>
 #include <cmath>
@@ -89,6 +92,16 @@ class Recorder : public render::Surface {
 /// "x,y" in whole twips.
 inline std::string At(render::Point point) {
   return std::to_string(std::lround(point.X)) + "," + std::to_string(std::lround(point.Y));
+}
+
+/// Where a unit in place is drawn on a recorder.
+inline render::Point UnitAt(std::string_view place) {
+  return render::OnSurface(Recorder(), render::UnitPoint(model::PlaceOf(*RealMap(), place)));
+}
+
+/// Where a place's label, or a dislodged unit, is drawn on a recorder.
+inline render::Point LabelAt(std::string_view place) {
+  return render::OnSurface(Recorder(), render::LabelPoint(model::PlaceOf(*RealMap(), place)));
 }
 
 }  // namespace orb::tests

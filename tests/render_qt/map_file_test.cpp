@@ -1,5 +1,6 @@
 #include "render/qt/map_file.h"
 
+#include "colour/qt/colours.h"
 #include "model/errors.h"
 #include "model/files.h"
 #include "model/map_files.h"
@@ -29,11 +30,6 @@ using settings::MapOptions;
 using testing::AllOf;
 using testing::HasSubstr;
 using testing::StartsWith;
-
-QColor Shown(model::Colour colour) {
-  return {static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
-          static_cast<int>(colour >> 16 & 0xFF)};
-}
 
 /// A background of one colour, 400 by 320 pixels at 192 dpi: 3000 by 2400 twips.
 std::string Background(QColor colour) {
@@ -70,7 +66,7 @@ class MapFile : public ::testing::Test {
     return model::ReadFile(file);
   }
 
-  QColor Fill() const { return Shown(game_.Countries[1].Colour); }
+  QColor Fill() const { return colour::ToQColor(game_.Countries[1].Colour); }
 
   TemporaryDirectory directory_;
   model::GameState game_;
@@ -181,7 +177,8 @@ TEST(RealMapPicture, UnitsOfTheStartStandInTheirColours) {
     const QPoint point(static_cast<int>(place.UnitX * 1000),
                        static_cast<int>(place.UnitY * static_cast<float>(image.height())) +
                            (unit.UnitType == "F" ? 2 : 0));
-    EXPECT_EQ(image.pixelColor(point), Shown(game.Countries[model::FindCountry(unit.Power)].Colour))
+    EXPECT_EQ(image.pixelColor(point),
+              colour::ToQColor(game.Countries[model::FindCountry(unit.Power)].Colour))
         << unit.Location;
   }
   for (const MapMode mode : {MapMode::Grey, MapMode::BlackWhite}) {

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace orb::tests {
@@ -224,18 +225,13 @@ TEST_F(SessionTest, AnUnknownLocationBeginsANewGame) {
 }
 
 TEST(Commands, RefuseInAStageWhereTheyMeanNothing) {
-  struct Case {
-    const char* Stage;
-    session::Command Run;
-    const char* Sentence;
-  };
   ScriptedMessages messages;
   const Command next = session::NextSeason;
   const Command undo = [&](Situation& situation) { session::UndoSeason(situation, messages); };
   const Command check = [](Situation& situation) { session::CheckOrders(situation); };
   const Command draw = [](Situation& situation) { session::EnteredOrders(situation); };
   const Command resolve = [&](Situation& situation) { session::Resolve(situation, messages); };
-  const std::vector<Case> cases = {
+  const std::vector<std::tuple<const char*, Command, const char*>> cases = {
       {"moves", next, "The season is not finished: the game is in the stage \"moves\"."},
       {"adjustments", next,
        "The season is not finished: the game is in the stage \"adjustments\"."},
@@ -244,14 +240,12 @@ TEST(Commands, RefuseInAStageWhereTheyMeanNothing) {
       {"finished", draw, "There are no orders to draw in the stage \"finished\"."},
       {"finished", resolve, "There is nothing to resolve in the stage \"finished\"."},
   };
-  for (const Case& c : cases) {
-    Situation situation{EmptyBoard("Spring", c.Stage)};
-    try {
-      c.Run(situation);
-      ADD_FAILURE() << c.Sentence;
-    } catch (const model::FatalError& fault) {
-      EXPECT_STREQ(fault.what(), c.Sentence);
-    }
+  for (const auto& row : cases) {
+    const auto run = [&row] {
+      Situation situation{EmptyBoard("Spring", std::get<0>(row))};
+      std::get<1>(row)(situation);
+    };
+    EXPECT_THAT(run, testing::ThrowsMessage<model::FatalError>(std::get<2>(row)));
   }
 }
 

@@ -78,6 +78,16 @@ std::vector<DrawnRow> Rows(const DrawnCase& drawn) {
   return rows;
 }
 
+std::vector<std::string> Parts(std::string_view row) {
+  std::vector<std::string> parts;
+  while (!row.empty()) {
+    const auto end = std::min(row.find("; "), row.size());
+    parts.emplace_back(row.substr(0, end));
+    row.remove_prefix(std::min(end + 2, row.size()));
+  }
+  return parts;
+}
+
 std::vector<DrawnRow> LoadDrawnRows(std::string_view fileName, std::string_view caseName) {
   for (const DrawnCase& drawn : LoadDrawnCases(fileName)) {
     if (drawn.Name == caseName) return Rows(drawn);

@@ -38,6 +38,9 @@ std::vector<DrawnRow> Rows(const DrawnCase& drawn);
 /// The rows of the case with this name. Throws when there is none.
 std::vector<DrawnRow> LoadDrawnRows(std::string_view fileName, std::string_view caseName);
 
+/// What stands between the "; " of a row.
+std::vector<std::string> Parts(std::string_view row);
+
 /// The cases of a file below tests/. Throws when there are none.
 std::vector<DrawnCase> LoadDrawnCases(std::string_view fileName);
 
