@@ -20,11 +20,14 @@ class FieldCutter {
     rest_ = work;
   }
 
-  /// The text before the next separator; what follows it, trimmed, remains.
+  /// The text before the next separator; what follows it, trimmed, remains. The filler sees to it
+  /// that the rest never ends in a blank.
   std::string_view UpTo(char separator) {
     const std::size_t end = std::min(rest_.find(separator), rest_.size());
     const std::string_view field = rest_.substr(0, end);
-    rest_ = text::Trim(rest_.substr(std::min(end + 1, rest_.size())));
+    rest_.remove_prefix(std::min(end + 1, rest_.size()));
+    while (rest_.starts_with(' '))
+      rest_.remove_prefix(1);
     return field;
   }
 
@@ -73,52 +76,65 @@ bool IsWater(std::string_view location) {
                       [](char c) { return c >= 'a' && c <= 'z'; });
 }
 
-bool IsPlace(const model::Map& map, std::string_view location) {
-  return model::FindProvince(map, location) != 0;
+SyntaxFault UnitFault(const OrderParts& order) {
+  if (order.UnitType == model::UnitType::None) return SyntaxFault::UnitType;
+  return order.Location != 0 ? SyntaxFault::None : SyntaxFault::Location;
 }
 
-SyntaxFault UnitFault(const model::Map& map, const OrderWords& order) {
-  if (model::UnitTypeOf(order.UnitType) == model::UnitType::None) return SyntaxFault::UnitType;
-  return IsPlace(map, order.Location) ? SyntaxFault::None : SyntaxFault::Location;
+SyntaxFault OtherUnitFault(const OrderParts& order) {
+  if (order.Power2 == 0) return SyntaxFault::OtherPower;
+  if (order.UnitType2 == model::UnitType::None) return SyntaxFault::OtherUnitType;
+  return order.Target != 0 ? SyntaxFault::None : SyntaxFault::OtherLocation;
 }
 
-SyntaxFault OtherUnitFault(const model::Map& map, const OrderWords& order) {
-  if (model::FindCountry(order.Power2) == 0) return SyntaxFault::OtherPower;
-  if (model::UnitTypeOf(order.UnitType2) == model::UnitType::None)
-    return SyntaxFault::OtherUnitType;
-  return IsPlace(map, order.Target) ? SyntaxFault::None : SyntaxFault::OtherLocation;
-}
-
-SyntaxFault SupportFault(const model::Map& map, const OrderWords& order) {
-  if (const auto fault = OtherUnitFault(map, order); fault != SyntaxFault::None) return fault;
+SyntaxFault SupportFault(const OrderParts& order) {
+  if (const auto fault = OtherUnitFault(order); fault != SyntaxFault::None) return fault;
   if (order.Kind2 == OrderKind::Hold) return SyntaxFault::None;
   if (order.Kind2 != OrderKind::Move) return SyntaxFault::OtherVerb;
-  return IsPlace(map, order.Target2) ? SyntaxFault::None : SyntaxFault::OtherDestination;
+  return order.Target2 != 0 ? SyntaxFault::None : SyntaxFault::OtherDestination;
 }
 
-SyntaxFault ConvoyFault(const model::Map& map, const OrderWords& order) {
-  if (order.UnitType != "F" || !IsWater(order.Location)) return SyntaxFault::FleetInland;
-  if (const auto fault = OtherUnitFault(map, order); fault != SyntaxFault::None) return fault;
-  if (order.UnitType2 != "A") return SyntaxFault::FleetCarried;
+SyntaxFault ConvoyFault(const OrderParts& order, std::string_view location) {
+  if (order.UnitType != model::UnitType::Fleet || !IsWater(location))
+    return SyntaxFault::FleetInland;
+  if (const auto fault = OtherUnitFault(order); fault != SyntaxFault::None) return fault;
+  if (order.UnitType2 != model::UnitType::Army) return SyntaxFault::FleetCarried;
   if (order.Kind2 != OrderKind::Move) return SyntaxFault::ArmyStays;
-  return IsPlace(map, order.Target2) ? SyntaxFault::None : SyntaxFault::OtherDestination;
+  return order.Target2 != 0 ? SyntaxFault::None : SyntaxFault::OtherDestination;
 }
 
 /// The rules behind the ordered unit; the moves stage's where the stage takes no orders.
-SyntaxFault VerbFault(const model::Map& map, const OrderWords& order, model::Stage stage) {
+SyntaxFault VerbFault(const OrderParts& order, std::string_view location, model::Stage stage) {
   switch (order.Kind) {
     case OrderKind::Support:
-      return SupportFault(map, order);
+      return SupportFault(order);
     case OrderKind::Convoy:
-      return ConvoyFault(map, order);
+      return ConvoyFault(order, location);
     case OrderKind::Move:
     case OrderKind::Retreat:
-      return IsPlace(map, order.Target) ? SyntaxFault::None : SyntaxFault::Destination;
+      return order.Target != 0 ? SyntaxFault::None : SyntaxFault::Destination;
     case OrderKind::None:
       return stage == model::Stage::Retreats ? SyntaxFault::RetreatVerb : SyntaxFault::MoveVerb;
     default:
       return SyntaxFault::None;
   }
+}
+
+/// The first rule that the parts break; `location` is the ordered unit's as it is written.
+SyntaxFault FaultOf(const OrderParts& order, std::string_view location, model::Stage stage) {
+  if (order.Power == 0) return SyntaxFault::Power;
+  if (stage == model::Stage::Adjustments && order.Kind == OrderKind::None)
+    return SyntaxFault::AdjustmentVerb;
+  if (const auto fault = UnitFault(order); fault != SyntaxFault::None) return fault;
+  return stage == model::Stage::Adjustments ? SyntaxFault::None : VerbFault(order, location, stage);
+}
+
+std::int8_t PowerRow(std::string_view word) {
+  return static_cast<std::int8_t>(model::FindCountry(word));
+}
+
+std::int16_t PlaceRow(const model::Map& map, std::string_view word) {
+  return static_cast<std::int16_t>(model::FindProvince(map, word));
 }
 
 /// A part that is not written is cut from the filler behind the line, or runs into it.
@@ -169,13 +185,21 @@ OrderWords CutOrder(std::string_view text, model::Stage stage, std::string& work
   return order;
 }
 
-SyntaxFault FindSyntaxFault(const model::Map& map, const OrderWords& order, model::Stage stage) {
-  if (model::FindCountry(order.Power) == 0) return SyntaxFault::Power;
-  if (stage == model::Stage::Adjustments) {
-    return order.Kind == OrderKind::None ? SyntaxFault::AdjustmentVerb : UnitFault(map, order);
+OrderParts ReadParts(const model::Map& map, const OrderWords& order, model::Stage stage) {
+  OrderParts parts;
+  parts.Power = PowerRow(order.Power);
+  parts.UnitType = model::UnitTypeOf(order.UnitType);
+  parts.Location = PlaceRow(map, order.Location);
+  parts.Kind = order.Kind;
+  parts.Target = PlaceRow(map, order.Target);
+  if (order.Kind == OrderKind::Support || order.Kind == OrderKind::Convoy) {
+    parts.Power2 = order.Power2 == order.Power ? parts.Power : PowerRow(order.Power2);
+    parts.UnitType2 = model::UnitTypeOf(order.UnitType2);
+    parts.Kind2 = order.Kind2;
+    parts.Target2 = PlaceRow(map, order.Target2);
   }
-  if (const auto fault = UnitFault(map, order); fault != SyntaxFault::None) return fault;
-  return VerbFault(map, order, stage);
+  parts.Fault = FaultOf(parts, order.Location, stage);
+  return parts;
 }
 
 std::string FaultText(const OrderWords& order, SyntaxFault fault) {
@@ -219,7 +243,7 @@ std::string FaultText(const OrderWords& order, SyntaxFault fault) {
 std::string LineFaultText(const model::Map& map, std::string_view line, model::Stage stage) {
   std::string work;
   const OrderWords order = CutOrder(text::Trim(line), stage, work);
-  return FaultText(order, FindSyntaxFault(map, order, stage));
+  return FaultText(order, ReadParts(map, order, stage).Fault);
 }
 
 }  // namespace orb::orders

@@ -2,8 +2,10 @@
 
 #include "model/map.h"
 #include "model/stage.h"
+#include "model/unit_type.h"
 #include "orders/order_kind.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -62,8 +64,23 @@ enum class SyntaxFault : std::uint8_t {
   ArmyStays,
 };
 
-/// The first rule of its stage's text form that an order breaks.
-SyntaxFault FindSyntaxFault(const model::Map& map, const OrderWords& order, model::Stage stage);
+/// What the parts of an order name: powers as rows 1..7, places as rows of the map; 0 stands for
+/// what names none or is not written.
+struct OrderParts {
+  std::int8_t Power = 0;
+  std::int8_t Power2 = 0;  ///< of the supported or convoyed unit
+  model::UnitType UnitType = model::UnitType::None;
+  model::UnitType UnitType2 = model::UnitType::None;
+  OrderKind Kind = OrderKind::None;
+  OrderKind Kind2 = OrderKind::None;      ///< what the other unit does: Move or Hold
+  SyntaxFault Fault = SyntaxFault::None;  ///< the first rule of the text form that it breaks
+  std::int16_t Location = 0;              ///< of the ordered unit
+  std::int16_t Target = 0;   ///< destination; in a support or convoy the other unit's place
+  std::int16_t Target2 = 0;  ///< destination of the supported or convoyed move
+};
+
+/// Looks up the parts of an order and finds the first rule of the stage's text form that it breaks.
+OrderParts ReadParts(const model::Map& map, const OrderWords& order, model::Stage stage);
 
 /// The fault as words for the user, with the text that was not understood.
 std::string FaultText(const OrderWords& order, SyntaxFault fault);

@@ -1,6 +1,5 @@
 #include "orders/parser.h"
 
-#include "model/country.h"
 #include "text/strings.h"
 
 #include <string_view>
@@ -9,29 +8,9 @@
 namespace orb::orders {
 namespace {
 
-std::int8_t PowerRow(std::string_view word) {
-  return static_cast<std::int8_t>(model::FindCountry(word));
-}
-
-std::int16_t PlaceRow(const model::Map& map, std::string_view word) {
-  return word.empty() ? std::int16_t{0} : static_cast<std::int16_t>(model::FindProvince(map, word));
-}
-
-/// Fills the order's fields from its text; `work` as in CutOrder.
+/// Fills the order's parts from its text; `work` as in CutOrder.
 void Parse(const model::Map& map, model::Stage stage, OrderLine& order, std::string& work) {
-  const OrderWords words = CutOrder(order.Text, stage, work);
-  order.Power = PowerRow(words.Power);
-  order.UnitType = model::UnitTypeOf(words.UnitType);
-  order.Location = PlaceRow(map, words.Location);
-  order.Kind = words.Kind;
-  order.Target = PlaceRow(map, words.Target);
-  if (IsSupport(order) || IsConvoy(order)) {
-    order.Power2 = PowerRow(words.Power2);
-    order.UnitType2 = model::UnitTypeOf(words.UnitType2);
-    order.Kind2 = words.Kind2;
-    order.Target2 = PlaceRow(map, words.Target2);
-  }
-  order.Fault = FindSyntaxFault(map, words, stage);
+  static_cast<OrderParts&>(order) = ReadParts(map, CutOrder(order.Text, stage, work), stage);
 }
 
 }  // namespace

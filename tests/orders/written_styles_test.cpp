@@ -127,7 +127,7 @@ bool OnlyExact(const model::GameState& game, const PlainOrder& order) {
   if (order.UnitType2 == "F" && HasCoasts(order.Target2)) return true;
   if (!order.UnitType2.empty() && model::SamePlace(order.Location, order.Target)) return true;
   return game.Stage == model::Stage::Moves &&
-         orders::FindSyntaxFault(*game.Map, WordsOf(order), game.Stage) !=
+         orders::ReadParts(*game.Map, WordsOf(order), game.Stage).Fault !=
              orders::SyntaxFault::None;
 }
 
@@ -187,7 +187,7 @@ TEST(WrittenStyles, EveryOrderReadsBackAsItself) {
     const std::string line = exchange::FormatOrder(order, stage);
     const bool isSyntax =
         stage != model::Stage::Moves ||
-        orders::FindSyntaxFault(*game.Map, WordsOf(order), stage) == orders::SyntaxFault::None;
+        orders::ReadParts(*game.Map, WordsOf(order), stage).Fault == orders::SyntaxFault::None;
     if (isSyntax) ExpectReadAs(game, line, "", line);
     if (OnlyExact(game, order)) continue;
     const bool withPower = writer.Sometimes();

@@ -48,7 +48,7 @@ std::optional<PlainOrder> ReadExactLine(const model::Map& map, model::Stage stag
                                         std::string_view line) {
   std::string work;
   const orders::OrderWords words = orders::CutOrder(line, stage, work);
-  if (FindSyntaxFault(map, words, stage) != orders::SyntaxFault::None) return std::nullopt;
+  if (ReadParts(map, words, stage).Fault != orders::SyntaxFault::None) return std::nullopt;
   const auto text = [](std::string_view word) { return std::string(word); };
   PlainOrder order{text(words.Power),  text(words.UnitType), text(words.Location),
                    words.Kind,         text(words.Power2),   text(words.UnitType2),

@@ -126,7 +126,7 @@ void Add(Meanings& meanings, const Completed& order, const KnownGame& known, Tok
     if (meanings.Problem) return;
     const orders::OrderWords words = WordsOf(order.Order);
     const auto fault = known.Stage == model::Stage::Moves
-                           ? orders::FindSyntaxFault(map, words, known.Stage)
+                           ? orders::ReadParts(map, words, known.Stage).Fault
                            : orders::SyntaxFault::None;
     const std::string text = orders::FaultText(words, fault);
     meanings.Problem = Fault{text.empty() ? "the unit is not on the map" : text, at};
