@@ -35,8 +35,10 @@ int ForEachGame(const CommandLine& line, Console& console, const std::vector<Gam
       // Loaded within the attempt, so that a broken map is reported like any other fault. All games
       // share it: the map never changes.
       if (!map) map = model::LoadMap(data);
-      GameAtWork at{{model::EmptyGame(map)}, paths, {console, paths.Game, line.Has(OptionId::Yes)}};
-      return session::ReadGame(at.Situation, paths.Game, at.Messages) && work(at);
+      session::Situation situation;  // "{}" would have all 20 kB of it cleared first
+      situation.Game = model::EmptyGame(map);
+      GameAtWork at{situation, paths, {console, paths.Game, line.Has(OptionId::Yes)}};
+      return session::ReadGame(situation, paths.Game, at.Messages) && work(at);
     });
     console.ShowProgress(++done, plan.size());
   }

@@ -16,7 +16,7 @@ namespace orb::cli {
 /// A game of the plan while a command works on it. Messages are shown under its name; --yes answers
 /// its questions.
 struct GameAtWork {
-  session::Situation Situation;
+  session::Situation& Situation;
   const GamePaths& Paths;
   ConsoleMessages Messages;
 };

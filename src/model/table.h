@@ -2,9 +2,10 @@
 
 #include "model/errors.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstdint>
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -13,12 +14,40 @@ namespace orb::model {
 /// Throws IndexOutOfRange with a sentence that names the index and the bound.
 [[noreturn]] void ThrowIndexOutOfRange(int index, int bound);
 
-/// A fixed-size table indexed from 1, with the count of rows in use beside it. Rows past the count
-/// keep what they held; an index of 0 or past the bound throws IndexOutOfRange.
+/// A table of at most BoundOfTable rows indexed from 1, with the count of rows in use beside it.
+/// Rows past the count keep what they held; an index of 0 or past the bound throws IndexOutOfRange.
+/// Rows never move: references stay good as long as the table.
+///
+/// The rows lie in the table itself, but only those ever touched exist: tables are made, copied and
+/// dropped by thousands, and most of them stay nearly empty.
 template <class Row, int BoundOfTable>
 class Table {
  public:
   static constexpr int Bound = BoundOfTable;
+
+  // Defaulted, it would let every "= {}" clear the storage: hence NOLINT.
+  Table() noexcept {}  // NOLINT(modernize-use-equals-default)
+  Table(const Table& other) : count_(other.count_) {
+    std::uninitialized_copy_n(other.Rows(), other.touched_, Rows());
+    touched_ = other.touched_;
+  }
+  Table(Table&& other) noexcept : count_(other.count_) {
+    std::uninitialized_move_n(other.Rows(), other.touched_, Rows());
+    touched_ = other.touched_;
+  }
+  Table& operator=(const Table& other) {
+    TouchOnly(other.touched_);
+    std::copy_n(other.Rows(), touched_, Rows());
+    count_ = other.count_;
+    return *this;
+  }
+  Table& operator=(Table&& other) noexcept {
+    TouchOnly(other.touched_);
+    std::move(other.Rows(), other.Rows() + touched_, Rows());
+    count_ = other.count_;
+    return *this;
+  }
+  ~Table() { std::destroy_n(Rows(), touched_); }
 
   /// Rows in use, 0..Bound.
   int Count() const { return count_; }
@@ -26,11 +55,24 @@ class Table {
   /// Sets the rows in use; throws IndexOutOfRange beyond the bound.
   void SetCount(int count) {
     if (count < 0 || count > Bound) ThrowIndexOutOfRange(count, Bound);
-    count_ = static_cast<std::int16_t>(count);
+    if (static_cast<unsigned>(count) > touched_) Touch(static_cast<unsigned>(count));
+    count_ = count;
   }
 
-  Row& operator[](int index) { return rows_[Checked(index)]; }
-  const Row& operator[](int index) const { return rows_[Checked(index)]; }
+  Row& operator[](int index) {
+    if (IsUntouched(index)) [[unlikely]] {
+      Check(index);
+      Touch(static_cast<unsigned>(index));
+    }
+    return Rows()[index - 1];
+  }
+  const Row& operator[](int index) const {
+    if (IsUntouched(index)) [[unlikely]] {
+      Check(index);
+      return Untouched();
+    }
+    return Rows()[index - 1];
+  }
 
   /// Takes one more row into use and returns it as it was left; throws IndexOutOfRange when full.
   Row& Append() {
@@ -49,19 +91,41 @@ class Table {
     SetCount(count_ - 1);
   }
 
-  Row* begin() { return rows_.data(); }
-  Row* end() { return rows_.data() + count_; }
-  const Row* begin() const { return rows_.data(); }
-  const Row* end() const { return rows_.data() + count_; }
+  Row* begin() { return Rows(); }
+  Row* end() { return Rows() + count_; }
+  const Row* begin() const { return Rows(); }
+  const Row* end() const { return Rows() + count_; }
 
  private:
-  static std::size_t Checked(int index) {
+  static void Check(int index) {
     if (index < 1 || index > Bound) ThrowIndexOutOfRange(index, Bound);
-    return static_cast<std::size_t>(index - 1);
   }
 
-  std::array<Row, BoundOfTable> rows_{};
-  std::int16_t count_ = 0;
+  bool IsUntouched(int index) const { return static_cast<unsigned>(index) - 1U >= touched_; }
+
+  /// What a row holds that nobody has touched.
+  static const Row& Untouched() {
+    static const Row empty{};
+    return empty;
+  }
+
+  void Touch(unsigned count) {
+    std::uninitialized_value_construct_n(Rows() + touched_, count - touched_);
+    touched_ = count;
+  }
+
+  void TouchOnly(unsigned count) {
+    if (count > touched_) Touch(count);
+    std::destroy_n(Rows() + count, touched_ - count);
+    touched_ = count;
+  }
+
+  Row* Rows() { return reinterpret_cast<Row*>(storage_.data()); }
+  const Row* Rows() const { return reinterpret_cast<const Row*>(storage_.data()); }
+
+  alignas(Row) std::array<std::byte, sizeof(Row) * BoundOfTable> storage_;
+  unsigned touched_ = 0;  ///< rows from the first that exist
+  int count_ = 0;
 };
 
 }  // namespace orb::model
