@@ -173,11 +173,11 @@ void MoveBehindDecidedUnit(Battlefield& field, const Contest& contest) {
   }
 }
 
+/// Whether any move was decided. A pass that decides none leaves all as it was: so would the next.
 bool RemainingMovesPass(Battlefield& field, const Contests& contests) {
-  bool found = false;
+  bool decided = false;
   for (const Contest& contest : contests) {
     if (!contest.Order->Pending) continue;
-    found = true;
     if (contest.Occupant == 0) {
       MoveIntoEmptyPlace(field, contest);
     } else if (contest.OccupantOrder->Pending) {
@@ -185,11 +185,12 @@ bool RemainingMovesPass(Battlefield& field, const Contests& contests) {
     } else {
       MoveBehindDecidedUnit(field, contest);
     }
+    if (!contest.Order->Pending) decided = true;
   }
-  return found;
+  return decided;
 }
 
-/// What is still undecided after so many passes moves in a ring, and succeeds.
+/// What is still undecided then moves in a ring, and succeeds.
 void LetRingsMove(Battlefield& field, const Contests& contests) {
   for (const Contest& contest : contests) {
     if (!contest.Order->Pending) continue;
@@ -207,8 +208,7 @@ void DecideMoves(Battlefield& field) {
   while (StayingUnitsPass(field)) {
   }
   const Contests contests(field);
-  const int passLimit = field.Orders().Count() + 1;
-  for (int pass = 0; pass < passLimit && RemainingMovesPass(field, contests); ++pass) {
+  while (RemainingMovesPass(field, contests)) {
   }
   LetRingsMove(field, contests);
 }
