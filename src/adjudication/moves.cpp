@@ -6,6 +6,7 @@
 #include "model/lookups.h"
 #include "orders/binding.h"
 #include "orders/parser.h"
+#include "text/strings.h"
 
 #include <algorithm>
 #include <bitset>
@@ -21,9 +22,9 @@ using orders::OrderLine;
 
 void SavePreviousPositions(GameState& game) {
   for (model::Unit& unit : game.Units)
-    unit.PreviousLocation = unit.Location;
+    text::Assign(unit.PreviousLocation, unit.Location);
   for (model::ProvinceState& province : game.Provinces)
-    province.PreviousOwner = province.Owner;
+    text::Assign(province.PreviousOwner, province.Owner);
 }
 
 void CutByMovesOnLandAndSea(Battlefield& field) {

@@ -208,24 +208,18 @@ class GameReader {
   std::forward_list<std::string> fixedTexts_;  ///< where texts with an old abbreviation live
 };
 
-/// Most texts of a game are empty, which is cheaper to see than to assign.
-void Assign(std::string& text, std::string_view value) {
-  if (value.empty()) return text.clear();
-  text = value;
-}
-
 // What a file's version does not hold stays in the situation as it was, or becomes "unknown".
 
 void TakeUnits(const Contents& contents, const Layout& layout, GameState& game) {
   game.Units.SetCount(contents.Units.Count());
   const UnitFields* fields = contents.Units.begin();
   for (Unit& unit : game.Units) {
-    Assign(unit.Power, fields->Power);
-    Assign(unit.UnitType, fields->UnitType);
-    Assign(unit.Location, fields->Location);
-    Assign(unit.Status, fields->Status);
-    if (layout.HasDislodgedFrom) Assign(unit.DislodgedFrom, fields->DislodgedFrom);
-    Assign(unit.PreviousLocation, fields->PreviousLocation);
+    text::Assign(unit.Power, fields->Power);
+    text::Assign(unit.UnitType, fields->UnitType);
+    text::Assign(unit.Location, fields->Location);
+    text::Assign(unit.Status, fields->Status);
+    if (layout.HasDislodgedFrom) text::Assign(unit.DislodgedFrom, fields->DislodgedFrom);
+    text::Assign(unit.PreviousLocation, fields->PreviousLocation);
     ++fields;
   }
 }
@@ -234,10 +228,10 @@ void TakeProvinces(const Contents& contents, const Layout& layout, GameState& ga
   ProvinceState* province = game.Provinces.begin();
   for (const ProvinceFields& fields : contents.Provinces) {
     if (fields.IsFound) {
-      Assign(province->Owner, fields.Owner);
+      text::Assign(province->Owner, fields.Owner);
       province->Uncontested = fields.Uncontested;
       if (layout.HasPreviousOwner || layout.ForgetsPreviousOwner) {
-        Assign(province->PreviousOwner, fields.PreviousOwner);
+        text::Assign(province->PreviousOwner, fields.PreviousOwner);
       }
     }
     ++province;

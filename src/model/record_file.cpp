@@ -101,7 +101,11 @@ std::string_view RecordReader::PlainField(const char* at, std::string_view expec
   const char* last = at;
   while (last != start && last[-1] == ' ')
     --last;
-  EndField(at, expected);
+  if (at != end_ && *at == ',') {
+    next_ = at + 1;
+  } else {
+    EndField(at, expected);
+  }
   return {start, last};
 }
 
