@@ -55,7 +55,7 @@ TEST(Loose, PowerIsThatOfLinesThatNameNone) {
   EXPECT_EQ(shell.Run(resolve).Err, "") << "whose units they are";
 }
 
-TEST(Loose, LaterStages) {
+TEST(Loose, OrdersOfLaterStagesAreReadToo) {
   const Shell shell;
   shell.Write("o.txt", "A Bur retreats to Paris");
   shell.Write("a.orb", GameFile("Spring", "retreats", "FRA A(Bur) <Mun\nGER A(Bur)"));

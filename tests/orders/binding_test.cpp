@@ -1,6 +1,5 @@
 #include "orders/binding.h"
 
-#include "model/errors.h"
 #include "orders/parser.h"
 #include "support/boards.h"
 #include "support/drawn_cases.h"
@@ -9,15 +8,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace orb::tests {
 namespace {
 
-using model::Answer;
 using model::GameState;
 using orders::OrderTable;
 using testing::ElementsAre;
@@ -27,19 +23,16 @@ struct Bound {
   GameState Game;
   OrderTable Orders;
   orders::OrdersOfUnits OrdersOfUnits;
-  ScriptedMessages Messages;
-  bool Continued = false;
 
-  explicit Bound(const std::vector<std::string>& lines, std::vector<Answer> answers = {})
-      : Game(Board("Spring", "moves", lines)), Messages(std::move(answers)) {
+  explicit Bound(const std::vector<std::string>& lines) : Game(Board("Spring", "moves", lines)) {
     orders::SetOrderTexts(Game.OrdersList, Orders);
     const model::Map& map = *Game.Map;
-    orders::Questions questions(Messages);
+    ScriptedMessages yes;
+    orders::Questions questions(yes);
     orders::ParseOrders(map, Game.Stage, Orders);
-    Continued =
-        orders::CheckOrderSyntax(Orders, questions) &&
-        orders::BindOrdersToUnits(map, orders::PiecesOf(Game), Orders, OrdersOfUnits, questions) &&
-        orders::CheckImpossibleOrders(map, Orders, questions);
+    orders::CheckOrderSyntax(Orders, questions);
+    orders::BindOrdersToUnits(map, orders::PiecesOf(Game), Orders, OrdersOfUnits, questions);
+    orders::CheckImpossibleOrders(map, Orders, questions);
   }
 };
 
@@ -66,37 +59,6 @@ TEST(Binding, AnUnorderedUnitHoldsAtTheEndOfTheTable) {
   EXPECT_EQ(order.UnitIndex, 3);
   EXPECT_EQ(bound.OrdersOfUnits[3], 3);
   EXPECT_TRUE(order.Active && !order.Failed && order.Supplied);
-}
-
-TEST(Binding, YesToAllEndsTheQuestionsOfOneResolution) {
-  struct Case {
-    std::vector<Answer> Answers;
-    std::size_t Questions;
-    bool Continued;
-  };
-  for (const Case& c : std::vector<Case>{{{}, 3, true},
-                                         {{Answer::YesToAll}, 1, true},
-                                         {{Answer::Yes, Answer::YesToAll}, 2, true},
-                                         {{Answer::No}, 1, false},
-                                         {{Answer::Yes, Answer::Yes, Answer::No}, 3, false}}) {
-    const Bound bound({"ENG A(Lon)", "ENG A(Wal)", "ENG A(Yor)"}, c.Answers);
-    EXPECT_EQ(bound.Messages.Questions.size(), c.Questions);
-    EXPECT_EQ(bound.Continued, c.Continued);
-  }
-}
-
-TEST(Binding, AsksInTheOrderOfTheChecks) {
-  const Bound bound({"ENG A(Lon) S A(Yor) - NTH", "ENG A(Yor) - NTH", "FRA A(Par) S A(Mar) hold",
-                     "FRA A(Mar)", "> FRA A(Gas) hold", "> no order", "FRA A(Bre) S A(Pic) - Bel"});
-  EXPECT_THAT(bound.Messages.Questions,
-              ElementsAre("Warning: no order\rsyntax error.\rContinue?",
-                          "Warning: FRA A(Gas) hold\rno such unit.\rContinue?",
-                          "Warning: FRA A(Mar) unordered.\rContinue?",
-                          "Warning: ENG A(Yor) - NTH\rimpossible move.\rContinue?",
-                          "Warning: ENG A(Lon) S A(Yor) - NTH\rimpossible support.\rContinue?",
-                          "Warning: FRA A(Par) S A(Mar) hold\rimpossible support.\rContinue?"))
-      << "an order that is not used is not asked about";
-  EXPECT_EQ(bound.Orders[6].Result, orders::OrderResult::NotUsed);
 }
 
 TEST(Binding, ASupportOrConvoyFitsOneOrder) {

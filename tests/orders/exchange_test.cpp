@@ -16,7 +16,6 @@ namespace orb::tests {
 namespace {
 
 using exchange::LineKind;
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -34,32 +33,11 @@ TEST(OrderFiles, UnderstoodLinesAreFiledByTheRuleOfTypedOnes) {
       game, "a mar - spa\na par - bur\na mun - ruh\nger a mun - tyr\nf bre - xyz\nA Par - Gas",
       {"FRA", {}});
   EXPECT_EQ(exchange::FileOrders(game, lines, "FRA"), 3) << "none of another power";
-  EXPECT_THAT(game.OrdersList,
-              ElementsAre("no order", "GER A(Mun) hold", "FRA A(Mar) - Spa", "FRA A(Par) - Gas"));
+  EXPECT_EQ(exchange::OrdersText(game),
+            "no order\r\nGER A(Mun) hold\r\nFRA A(Mar) - Spa\r\nFRA A(Par) - Gas\r\n");
   EXPECT_EQ(exchange::FileOrders(game, lines), 4);
   EXPECT_EQ(game.OrdersList[1], "FRA A(Mar) - Spa");
   EXPECT_THAT(game.OrdersList, testing::Contains("GER A(Mun) - Tyr"));
-}
-
-TEST(OrderFiles, ExportedListsReadAsThemselves) {
-  const std::vector<std::pair<std::string, std::vector<std::string>>> cases{
-      {"moves", {"FRA A(Par) - Bur", "ENG A(Lon) S FRA A(Xxx) hold", "FRA A(Mar) HOLD"}},
-      {"retreats", {"FRA A(Par) RETREAT Bur", "ENG F(Lon) disband"}},
-      {"adjustments", {"ENG build F(Lon)", "TUR disband A(Bul)"}},
-  };
-  for (const auto& [stage, list] : cases) {
-    model::GameState game = StartingGame(stage);
-    OrdersOf(game) = list;
-    const std::string text = exchange::OrdersText(game);
-    EXPECT_TRUE(text.starts_with(list[0] + "\r\n") && text.ends_with(list.back() + "\r\n"));
-    for (const auto& line : exchange::ReadOrders(game, text, {})) {
-      const std::string& expected = list[static_cast<std::size_t>(line.Number) - 1];
-      EXPECT_EQ(line.Written, expected);
-      if (expected.find("Xxx") == std::string::npos) {
-        EXPECT_EQ(line.Order, expected);
-      }
-    }
-  }
 }
 
 TEST(OrderFiles, NamesAreOfTheSeasonAndTheStage) {

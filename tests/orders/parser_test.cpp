@@ -1,12 +1,10 @@
 #include "orders/parser.h"
 
-#include "model/errors.h"
 #include "support/boards.h"
 #include "support/drawn_cases.h"
 #include "support/scripted_messages.h"
 #include "text/strings.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -16,7 +14,6 @@ namespace orb::tests {
 namespace {
 
 using orders::OrderTable;
-using testing::ElementsAre;
 
 OrderTable Parse(const std::vector<std::string>& lines) {
   OrderTable table;
@@ -47,11 +44,6 @@ TEST(Parser, SplitsALineIntoItsFields) {
   EXPECT_EQ(Parse({"  ENG A(Lon)  hold "})[1].Text, "ENG A(Lon)  hold");
 }
 
-TEST(Parser, TakesEightyLines) {
-  EXPECT_EQ(Parse(std::vector<std::string>(80, "x")).Count(), 80);
-  EXPECT_THROW(Parse(std::vector<std::string>(81, "x")), model::IndexOutOfRange);
-}
-
 TEST(Syntax, OnlyTheTextFormIsCorrect) {
   for (const auto& [line, verdict] : LoadDrawnRows("orders/lines.txt", "faults")) {
     SCOPED_TRACE(line);
@@ -66,18 +58,6 @@ TEST(Syntax, OnlyTheTextFormIsCorrect) {
     EXPECT_EQ(table[1].Failed, !correct);
     EXPECT_EQ(messages.Questions.size(), correct ? 0U : 1U);
   }
-}
-
-TEST(Syntax, EveryFaultIsAskedAboutUntilANo) {
-  const std::vector<std::string> lines = {" no order ", "ENG A(Lon) hold", "ENG A(Lon) -", "x"};
-  OrderTable table = Parse(lines);
-  ScriptedMessages messages({model::Answer::Yes, model::Answer::No});
-  orders::Questions questions(messages);
-  EXPECT_FALSE(orders::CheckOrderSyntax(table, questions));
-  EXPECT_EQ(questions.StoppedAt(), 3);
-  EXPECT_THAT(messages.Questions, ElementsAre("Warning: no order\rsyntax error.\rContinue?",
-                                              "Warning: ENG A(Lon) -\rsyntax error.\rContinue?"));
-  EXPECT_EQ(table[4].Result, orders::OrderResult::None) << "not looked at any more";
 }
 
 }  // namespace

@@ -132,7 +132,7 @@ TEST(MapView, CaptionsTellTitleSeasonAndStage) {
   }
 }
 
-TEST(MapView, StandoffMarkers) {
+TEST(MapView, MarksStandoffsOfPlacesLeftEmpty) {
   for (const auto& [row, mark] : LoadDrawnRows("render/marks.txt", "standoffs")) {
     SCOPED_TRACE(row);
     const std::vector<std::string> parts = Parts(row);
@@ -147,7 +147,7 @@ TEST(MapView, StandoffMarkers) {
   }
 }
 
-TEST(MapView, AttackLines) {
+TEST(MapView, DrawsTheAttacksThatDislodged) {
   for (const auto& [row, drawn] : LoadDrawnRows("render/marks.txt", "attacks")) {
     SCOPED_TRACE(row);
     const std::vector<std::string> parts = Parts(row);
@@ -209,7 +209,7 @@ std::vector<std::string> LegendRows(const Recorder& surface) {
   return rows;
 }
 
-TEST(MapView, Legend) {
+TEST(MapView, TheLegendCountsCentresAndWhatIsDue) {
   using Rows = std::vector<std::string>;
   const Rows plain = {"0 80", "5 280", "0 480", "0 680", "2 880", "1 1080", "0 1280"};
   const Rows due = {"0(-1) 80", "5(+2) 280", "0 480", "0 680", "2(-1) 880", "1 1080", "0 1280"};

@@ -47,9 +47,9 @@ std::string All(const Situation& situation) {
 }
 
 /// A new game, and the messages that its commands show.
-class SessionTest : public testing::Test {
+class Session : public testing::Test {
  protected:
-  SessionTest() {
+  Session() {
     session_.Run([](Situation& next) { session::NewGame(next, DataDirectory()); });
   }
 
@@ -93,7 +93,7 @@ class SessionTest : public testing::Test {
   TemporaryDirectory directory_;
 };
 
-TEST_F(SessionTest, AGameIsPlayed) {
+TEST_F(Session, AGameIsPlayed) {
   Edit(Editing::Units);
   EXPECT_EQ(Move(FrenchArmy, "Bur") + Move(GermanArmy, "Ruh"), "");
   EXPECT_EQ(Edit(Editing::None).Changed, Changes::Editing);
@@ -143,7 +143,7 @@ TEST_F(SessionTest, AGameIsPlayed) {
   EXPECT_EQ(Game().Units.Count(), 23);
 }
 
-TEST_F(SessionTest, NotesTellOfEveryLineOfTheReportThroughTheYear) {
+TEST_F(Session, NotesTellOfEveryLineOfTheReportThroughTheYear) {
   session_.Run([](Situation& next) {
     model::SeasonFacts autumn = model::SeasonFactsOf(next.Game);
     autumn.Season = "Autumn";
@@ -167,7 +167,7 @@ TEST_F(SessionTest, NotesTellOfEveryLineOfTheReportThroughTheYear) {
   EXPECT_THAT(notes[23].Reason, Not(IsEmpty()));
 }
 
-TEST_F(SessionTest, StepsOfEditingGoBackAndForth) {
+TEST_F(Session, StepsOfEditingGoBackAndForth) {
   Edit(Editing::Units);
   const std::string start = DrawUnits(Game());
   EXPECT_EQ(Move(FrenchArmy, "Bur"), "");
@@ -189,7 +189,7 @@ TEST_F(SessionTest, StepsOfEditingGoBackAndForth) {
   EXPECT_FALSE(Now().Edits.CanUndo()) << "another command changed what was edited";
 }
 
-TEST_F(SessionTest, WhatFailsOrIsDeclinedLeavesEverything) {
+TEST_F(Session, WhatFailsOrIsDeclinedLeavesEverything) {
   FileAll({"ENG A(Lvp) - Yor"});
   Resolve();
   session_.Run(session::NextSeason);
@@ -212,7 +212,7 @@ TEST_F(SessionTest, WhatFailsOrIsDeclinedLeavesEverything) {
   EXPECT_EQ(All(Now()), before);
 }
 
-TEST_F(SessionTest, AnUnknownLocationBeginsANewGame) {
+TEST_F(Session, AnUnknownLocationBeginsANewGame) {
   FileAll({"ENG A(Lvp) - Yor"});
   Open(directory_.Write(
       "old.orb", "\"ORB v5.5\"\n\"T\",\"Autumn\",1910,\"moves\"\n0\n1\n\"Xyz\",\"\",0,\"\"\n"));

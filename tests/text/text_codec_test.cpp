@@ -19,7 +19,7 @@ TEST(TextCodec, EveryByteHasItsOwnCharacterAndComesBack) {
   EXPECT_EQ(characters.size(), 256U);
 }
 
-TEST(TextCodec, CharactersOfWindows1252) {
+TEST(TextCodec, KnowsTheCharactersOfWindows1252) {
   EXPECT_EQ(text::ToQString("\x80 \x93M\xFCnchen\x94 \x9F"), QStringLiteral(u"€ “München” Ÿ"));
   EXPECT_EQ(text::ToBytes(u"š–ß"), "\x9A\x96\xDF");
   EXPECT_EQ(text::ToBytes(u""), "");
