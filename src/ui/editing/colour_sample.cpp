@@ -9,6 +9,7 @@
 namespace orb::ui {
 namespace {
 
+// In pixels.
 constexpr QSize Size(116, 28);
 constexpr double Corner = 4;
 
@@ -33,6 +34,7 @@ void ColourSample::paintEvent(QPaintEvent* /*event*/) {
   render::PainterSurface surface(painter, rect(), QSizeF(size()) * render::TwipsPerPixel,
                                  m_noPictures);
   const render::SymbolStyle style{m_colours, settings::MapMode::Colour3D};
+  // Places are fractions of the sample's width and height.
   render::DrawArmy(surface, style, {0.17, 0.5}, m_power, 1);
   render::DrawFleet(surface, style, {0.45, 0.5}, m_power, 1);
   const double side = 0.4 * surface.ScaleHeight();

@@ -7,7 +7,8 @@
 
 namespace orb::ui {
 
-/// What a power's colours look like on the map: an army, a fleet and a count of its centres.
+/// What a power's colours look like on the map: an army, a fleet and a count of its centres, drawn
+/// by the same functions that draw the map.
 class ColourSample : public QWidget {
   Q_OBJECT
 

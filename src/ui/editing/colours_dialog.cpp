@@ -20,9 +20,12 @@ namespace {
 
 constexpr int Gap = 12;
 constexpr int RowGap = 6;
+// In pixels at 96 dpi.
 constexpr QSize Swatch(44, 16);
+/// The room for the warning is fixed: the dialog must not jump while a colour is being chosen.
 constexpr qsizetype WarningLines = 4;
 
+/// A rectangle of the colour, drawn at the screen's own resolution and framed, so that white shows.
 QIcon swatch(const QColor& colour, const QPalette& palette, qreal ratio) {
   QPixmap picture(Swatch * ratio);
   picture.setDevicePixelRatio(ratio);
@@ -148,6 +151,7 @@ QPushButton* ColoursDialog::newColourButton(int power, Part part, const QString&
 void ColoursDialog::chooseColour(int power, Part part, const QString& what) {
   const model::CountryTable before = m_colours;
   QColorDialog chooser(colour::ToQColor(m_colours[power].*part), this);
+  // Qt's own dialog reports every colour that is tried, so that the map can follow.
   chooser.setOption(QColorDialog::DontUseNativeDialog);
   chooser.setWindowTitle(what);
   connect(&chooser, &QColorDialog::currentColorChanged, this, [=, this](const QColor& colour) {

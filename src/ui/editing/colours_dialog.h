@@ -14,7 +14,9 @@ namespace orb::ui {
 
 class ColourSample;
 
-/// Changes the two colours of every power; the map shows them while the dialog is open.
+/// Changes the two colours of every power: the fill of its units, and their outline and letters.
+/// The map shows the choice at once, and a note warns of powers that are hard to tell apart, also
+/// for colour-blind eyes.
 class ColoursDialog : public QDialog {
   Q_OBJECT
 
@@ -26,12 +28,14 @@ class ColoursDialog : public QDialog {
   void reject() override;
 
  private:
+  /// One of a power's two colours.
   using Part = model::Colour model::Country::*;
 
   void layOut();
   void addPower(QGridLayout& grid, int power);
   QPushButton* newColourButton(int power, Part part, const QString& name, const QString& what);
   void chooseColour(int power, Part part, const QString& what);
+  /// Gives the colours to the game, and shows what it has then: they may have been refused.
   void take(const model::CountryTable& colours);
   void showColours();
 

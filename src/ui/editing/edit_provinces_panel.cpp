@@ -34,6 +34,7 @@ EditingTexts texts() {
           QStringLiteral("butProvincesHelp")};
 }
 
+/// The map has coasts as rows of their own; they have no owner and are edited with their province.
 bool isCoast(const model::Province& province) {
   return province.Name.find('.') != std::string::npos;
 }
@@ -60,6 +61,7 @@ EditProvincesPanel::EditProvincesPanel(Desk& desk, MapPicture& map, QWidget* par
   layOut(newPowers(), {m_give, m_properties});
   connect(m_give, &QPushButton::clicked, this, &EditProvincesPanel::give);
   connect(m_properties, &QPushButton::clicked, this, &EditProvincesPanel::openProperties);
+  // In the list only: elsewhere the space bar presses the button that has the keyboard.
   auto* space = new QShortcut(Qt::Key_Space, &list(), nullptr, nullptr, Qt::WidgetShortcut);
   connect(space, &QShortcut::activated, this, &EditProvincesPanel::give);
 }
@@ -78,9 +80,11 @@ QWidget* EditProvincesPanel::newPowers() {
         QStringLiteral("optGive") +
         (power == 0 ? QStringLiteral("Neutral") : ToQString(game().Countries[power].Abbreviation)));
     m_powers->addButton(choice, power);
+    // The neutral choice stands last, after the powers, though it is number 0.
     const int position = power == 0 ? model::CountryCount : power - 1;
     grid->addWidget(choice, position % rows, position / rows);
   }
+  // Always one is chosen: a click on the map must mean something.
   m_powers->button(1)->setChecked(true);
   return powers;
 }
@@ -117,10 +121,12 @@ void EditProvincesPanel::selectionChanged() {
 }
 
 void EditProvincesPanel::mapClicked(const MapSpot& at) {
+  // Remembered for a double click, whose first half has given the centre away already.
   m_given = 0;
   select(at.locationFor("A"));
   const int row = selected();
   if (row == 0) return;
+  // A gift to the present owner is no step, so there is nothing to withdraw.
   const std::string before = game().Provinces[row].Owner;
   give();
   if (game().Provinces[row].Owner != before) m_given = row;

@@ -6,7 +6,8 @@
 
 namespace orb::ui {
 
-/// Gives supply centres to powers and opens the properties of provinces.
+/// Gives supply centres to powers and opens the properties of provinces. A power is chosen once,
+/// and every click on a centre gives it to that power, so that a whole position is quickly set up.
 class EditProvincesPanel : public EditingPanel {
   Q_OBJECT
 
@@ -24,8 +25,11 @@ class EditProvincesPanel : public EditingPanel {
   void showEvent(QShowEvent* event) override;
 
  private:
+  /// The choice of the power that receives what is clicked.
   QWidget* newPowers();
+  /// Shows the powers' colours, which may have been changed since the panel was last visible.
   void colourPowers();
+  /// Gives the selected centre to the chosen power, in one step.
   void give();
 
   QButtonGroup* m_powers;  ///< by the power's row; 0: neutral

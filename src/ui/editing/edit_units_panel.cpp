@@ -52,6 +52,7 @@ int nearestSymbol(const GameState& game, const MapSpot& spot, const QSizeF& size
   double least = SymbolReach;
   for (int u = 1; u <= game.Units.Count(); ++u) {
     const render::Point symbol = unitPoint(*spot.game.Map, game.Units[u]);
+    // Divided by the scale, so that a smaller symbol is also a smaller target.
     const double away = std::hypot((spot.point.X - symbol.X) * size.width(),
                                    (spot.point.Y - symbol.Y) * size.height()) /
                         unitScale(game.Units[u]);
@@ -77,6 +78,7 @@ EditUnitsPanel::EditUnitsPanel(Desk& desk, MapPicture& map, QWidget* parent)
   connect(m_remove, &QPushButton::clicked, this, &EditUnitsPanel::remove);
   addKey(Qt::Key_Insert, [this] { addByDialog(); });
   addKey(Qt::Key_Delete, [this] { remove(); });
+  // The mouse button is still held then; letting it go no longer drops anything.
   addKey(Qt::Key_Escape, [this] { endDrag(); });
 }
 
@@ -127,9 +129,11 @@ void EditUnitsPanel::mapClicked(const MapSpot& at) {
   const int place = at.locationFor("A");
   if (unit != 0 || place == 0) return;
   const std::string& name = at.game.Map->Provinces[place].Name;
+  // The power of the last unit comes first: units are mostly set up power by power.
   QMenu* menu = newAddMenu(
       game(), name, m_lastPower, [this](const Unit& chosen) { add(chosen); }, this);
   if (menu != nullptr) return popUp(menu, at.point);
+  // No unit of any kind fits; what is said of an army explains it.
   const std::string fault = model::UnitFault(game(), model::NewUnit(m_lastPower, "A", name), 0);
   emit statusText(ToQString(fault));
 }
@@ -150,6 +154,7 @@ void EditUnitsPanel::popUp(QMenu* menu, render::Point at) {
 void EditUnitsPanel::add(const Unit& unit) {
   if (!edit([&](GameState& game) { return model::AddUnit(game, unit); })) return;
   m_lastPower = unit.Power;
+  // A new unit is the last one of the table.
   select(game().Units.Count());
   tellPlace(unit.Location);
 }
@@ -199,6 +204,7 @@ void EditUnitsPanel::mapDragMoved(const MapSpot& over) {
           ? std::string()
           : model::MoveFault(game(), m_drag->unit, over.game.Map->Provinces[m_drag->target].Name);
   m_drag->possible = m_drag->target != 0 && fault.empty();
+  // The cursor and the status bar tell, before the unit is dropped, what would become of it.
   map().setCursor(m_drag->possible ? Qt::ClosedHandCursor : Qt::ForbiddenCursor);
   map().update();
   const QString goal = m_drag->target == 0
@@ -232,6 +238,7 @@ void EditUnitsPanel::moveTo(int unit, const MapSpot& at) {
   const bool ask = coasts.size() > 1 && !model::SamePlace(name, moved.Location) &&
                    model::MoveFault(game(), unit, name).empty();
   if (!ask) return move(unit, name);
+  // The coast nearest to the pointer comes first in the menu.
   std::stable_partition(coasts.begin(), coasts.end(), [&](int row) { return row == target; });
   popUp(newPlaceMenu(
             *at.game.Map, coasts, [this, unit](const std::string& coast) { move(unit, coast); },
@@ -250,11 +257,13 @@ void EditUnitsPanel::tellPlace(const std::string& location) {
 
 void EditUnitsPanel::paintOver(QPainter& painter, render::Surface& surface) {
   const model::Map& places = *game().Map;
+  // A dislodged unit is drawn smaller, and so is its ring.
   if (selected() != 0) {
     const Unit& unit = game().Units[selected()];
     drawRing(surface, unitPoint(places, unit), BoldRing, unitScale(unit));
   }
   if (!m_drag) return;
+  // The symbol follows the pointer half transparent, and a ring marks the place it would go to.
   Unit ghost = game().Units[m_drag->unit];
   if (m_drag->target != 0 && places.Provinces[m_drag->target].Name != ghost.Location) {
     ghost.Location = places.Provinces[m_drag->target].Name;

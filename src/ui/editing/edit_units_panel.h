@@ -6,7 +6,8 @@
 
 namespace orb::ui {
 
-/// Adds, moves, changes and removes units.
+/// Adds, moves, changes and removes units: by clicks, drags and double clicks on the map, or from
+/// the list by buttons and keys.
 class EditUnitsPanel : public EditingPanel {
   Q_OBJECT
 
@@ -35,13 +36,16 @@ class EditUnitsPanel : public EditingPanel {
     bool possible = true;
   };
 
+  // Units are named by their row in the game's table, from 1; 0 is none.
   int unitAt(const MapSpot& spot) const;
   void popUp(QMenu* menu, render::Point at);
+  // Each is one step, and says in the status bar why it was refused.
   void add(const model::Unit& unit);
   void addByDialog();
   void remove();
   void moveTo(int unit, const MapSpot& at);
   void move(int unit, const std::string& location);
+  /// Says in the status bar what stands in the place now.
   void tellPlace(const std::string& location);
   void endDrag();
 

@@ -25,8 +25,10 @@ EditingPanel::EditingPanel(Desk& desk, MapPicture& map, const EditingTexts& text
   setObjectName(texts.panel);
   m_list->setObjectName(texts.list);
   m_list->setAccessibleName(texts.heading);
+  // As high as the letters, whatever the font.
   m_list->setIconSize(QSize(1, 1) * m_list->fontMetrics().ascent());
   connect(m_list, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) {
+    // The Enter key activates the current entry even when it is not selected.
     item->setSelected(true);
     openProperties();
   });
@@ -46,6 +48,7 @@ EditingPanel::EditingPanel(Desk& desk, MapPicture& map, const EditingTexts& text
 }
 
 void EditingPanel::layOut(QWidget* options, const std::vector<QPushButton*>& commands) {
+  // From the top: heading, hint, options, list, commands on the entry, and the steps of editing.
   auto* hint = new QLabel(m_texts.hint);
   hint->setWordWrap(true);
   auto* commandRow = new QHBoxLayout;
@@ -87,6 +90,7 @@ int EditingPanel::keyOf(int row) const {
 }
 
 int EditingPanel::selected() const {
+  // Qt keeps a current row when the selection is cleared.
   const bool any = !m_list->selectedItems().isEmpty();
   return any ? keyOf(m_list->currentRow()) : 0;
 }
@@ -111,6 +115,7 @@ void EditingPanel::hideEvent(QHideEvent* event) {
 }
 
 void EditingPanel::showGame() {
+  // The map's overlay and the list cost time, and nobody would see them.
   if (!isVisible()) return;
   m_undo->setEnabled(m_desk.now().Edits.CanUndo());
   m_redo->setEnabled(m_desk.now().Edits.CanRedo());
@@ -125,6 +130,7 @@ void EditingPanel::showEntries() {
   const int key = selected();
   const QString text = key == 0 ? QString() : m_list->currentItem()->text();
   const bool asMany = static_cast<int>(wanted.size()) == m_list->count();
+  // Emptying the list would report a selection that nobody has made.
   const QSignalBlocker silent(m_list);
   const int scrolled = m_list->verticalScrollBar()->value();
   m_list->clear();

@@ -26,17 +26,23 @@ struct EditingTexts {
   QString help;
 };
 
-/// A list of what is edited, also for those without a mouse, beside the map on which it is edited.
+/// The common part of the two panels for editing: a list of what can be edited, so that everything
+/// can be done without a mouse too, and buttons for the steps. The panel is also the tool of the
+/// map beside it, and rings there what is selected in the list.
+///
+/// Every change is one step that can be taken back. The panel itself keeps no copy of the game: it
+/// hands each step to the desk, and shows anew what the desk then holds.
 class EditingPanel : public QWidget, public MapTool {
   Q_OBJECT
 
  public:
-  /// The user is about to edit.
+  /// Called when the panel has come up: the keyboard goes to the list.
   void startEditing();
 
  signals:
-  /// Why something was refused, or what is about to be done.
+  /// For the status bar: why something was refused, or what a drag is about to do.
   void statusText(const QString& text);
+  /// The caption of the help topic that is wanted.
   void helpWanted(const QString& topic);
 
  protected:
@@ -68,8 +74,11 @@ class EditingPanel : public QWidget, public MapTool {
   int selected() const;
   void select(int key);
 
+  /// Everything that can be edited, in the order of the list.
   virtual std::vector<Entry> entries() const = 0;
+  /// Opens the dialog for the selected entry; does nothing when none is selected.
   virtual void openProperties() = 0;
+  /// Called whenever another entry, or none, is selected, and after every change of the game.
   virtual void selectionChanged() = 0;
 
   /// Paints over the map while the panel is shown.
@@ -79,6 +88,7 @@ class EditingPanel : public QWidget, public MapTool {
   void hideEvent(QHideEvent* event) override;
 
  private:
+  // A hidden panel shows nothing; it catches up when it comes up.
   void showGame();
   void showEntries();
   int keyOf(int row) const;

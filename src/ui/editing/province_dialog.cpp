@@ -40,6 +40,7 @@ QString ProvinceDialog::homeText() const {
 
 void ProvinceDialog::fillIn() {
   m_contested->setChecked(!m_game.Provinces[m_province].Uncontested);
+  // The box stays, so that every province has the same dialog, but there is nothing to choose.
   if (m_game.Map->Provinces[m_province].IsSupplyCentre == 0) {
     m_owner->addItem(tr("no supply centre"));
     m_owner->setEnabled(false);
@@ -53,6 +54,8 @@ void ProvinceDialog::fillIn() {
 std::string ProvinceDialog::owner() const {
   const std::string& owner = m_game.Provinces[m_province].Owner;
   const int power = m_owner->currentIndex();
+  // A file may name an owner that is no power. It shows as neutral, and stays unless another is
+  // chosen.
   if (!m_owner->isEnabled() || power == model::FindCountry(owner)) return owner;
   return power == 0 ? std::string() : m_game.Countries[power].Abbreviation;
 }

@@ -10,7 +10,8 @@
 
 namespace orb::ui {
 
-/// The properties of a province.
+/// The properties of a province: its owner, when it is a supply centre, and whether it is
+/// contested, so that no unit may retreat to it. It only asks; the panel makes the change.
 class ProvinceDialog : public QDialog {
   Q_OBJECT
 
@@ -24,6 +25,7 @@ class ProvinceDialog : public QDialog {
   bool contested() const { return m_contested->isChecked(); }
 
  private:
+  /// The power whose home the province is, which cannot be changed.
   QString homeText() const;
   void fillIn();
 

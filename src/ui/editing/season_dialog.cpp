@@ -14,6 +14,7 @@
 namespace orb::ui {
 namespace {
 
+// Gaps are in pixels, widths in letters of the font.
 constexpr int Gap = 12;
 constexpr int RowGap = 6;
 constexpr int ColumnGap = 24;
@@ -38,6 +39,7 @@ std::string chosen(const QComboBox& box) {
   return text::ToBytes(box.currentData().toString()).value();
 }
 
+/// A label in a subdued colour; its text may come from a file and is never markup.
 QLabel* newNote() {
   auto* note = new QLabel;
   note->setTextFormat(Qt::PlainText);
@@ -109,6 +111,7 @@ QLayout* SeasonDialog::newFactsColumn() {
   addChoice(*m_stage, tr("Retreats"), "retreats");
   addChoice(*m_stage, tr("Adjustments"), "adjustments");
   addChoice(*m_stage, tr("Finished"), "finished");
+  // A game file keeps the year in 16 bits.
   m_year->setRange(std::numeric_limits<std::int16_t>::min(),
                    std::numeric_limits<std::int16_t>::max());
 
@@ -134,6 +137,7 @@ QLayout* SeasonDialog::newFactsColumn() {
 QLayout* SeasonDialog::newTextColumn() {
   QLabel* heading = newHeading(tr("Free te&xt"));
   heading->setBuddy(m_text);
+  // In a font of equal widths, as the report shows it, so that tables line up.
   m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   m_text->setMinimumWidth(TextColumns * QFontMetrics(m_text->font()).averageCharWidth());
   auto* head = new QHBoxLayout;
@@ -164,6 +168,7 @@ void SeasonDialog::showFacts() {
 void SeasonDialog::connectControls() {
   const auto clearHint = [this] { hint({}); };
   for (QLineEdit* box : findChildren<QLineEdit*>()) {
+    // The spin box has a line edit of its own, with its own rules.
     if (box->parent() == m_year) continue;
     box->setValidator(m_validator);
     connect(box, &QLineEdit::textEdited, this, clearHint);

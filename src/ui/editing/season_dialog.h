@@ -15,7 +15,8 @@
 
 namespace orb::ui {
 
-/// Asks for the season's facts: title, time, stage, players and free text.
+/// Asks for the season's facts: title, time, stage, players and free text. The boxes accept only
+/// what a game file can hold; what is left out of a typed or pasted text is said below.
 class SeasonDialog : public QDialog {
   Q_OBJECT
 
@@ -23,6 +24,7 @@ class SeasonDialog : public QDialog {
   /// The game must outlive the dialog.
   explicit SeasonDialog(const model::GameState& game, QWidget* parent = nullptr);
 
+  /// What is filled in now.
   model::SeasonFacts facts() const;
 
  private:
@@ -31,8 +33,11 @@ class SeasonDialog : public QDialog {
   QLayout* newTextColumn();
   void showFacts();
   void connectControls();
+  /// Says what the chosen stage would mean for the game, before anything is changed.
   void tellStage();
+  /// Shows how many lines the free text has, and how many it may have.
   void countLines();
+  /// Shows a remark below the boxes; the next key clears it.
   void hint(const QString& text);
 
   const model::GameState& m_game;

@@ -14,8 +14,10 @@
 namespace orb::ui {
 namespace {
 
+/// Room kept for the longest fault, so that the dialog does not change its size as it is filled in.
 constexpr int FaultLines = 3;
 
+/// A button or check box with its name and caption.
 template <class Button>
 Button* newChoice(const QString& name, const QString& caption) {
   auto* button = new Button(caption);
@@ -60,6 +62,7 @@ void UnitDialog::layOut() {
   type->addStretch();
   m_fault->setObjectName(QStringLiteral("lblFault"));
   m_fault->setWordWrap(true);
+  // It quotes what a game file may hold, which must not be taken for markup.
   m_fault->setTextFormat(Qt::PlainText);
   m_fault->setAlignment(Qt::AlignTop | Qt::AlignLeft);
   m_fault->setMinimumHeight(FaultLines * fontMetrics().lineSpacing());
@@ -79,9 +82,11 @@ void UnitDialog::layOut() {
 void UnitDialog::fillIn() {
   for (int power = 1; power <= model::CountryCount; ++power)
     m_power->addItem(powerIcon(m_game.Countries, power), powerName(m_game.Countries, power));
+  // A power that only the file knows is shown as no choice, and kept unless one is made.
   m_power->setCurrentIndex(model::FindCountry(m_shown.Power) - 1);
   (m_shown.UnitType == "A" ? m_army : m_fleet)->setChecked(true);
   m_dislodged->setChecked(m_shown.Status == model::Dislodged);
+  // An attack can come from any place, and the record of it may be missing.
   m_from->offer(
       *m_game.Map, [](std::string_view) { return true; }, tr("not recorded"));
   m_from->choose(m_shown.DislodgedFrom);

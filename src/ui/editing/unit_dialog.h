@@ -12,7 +12,8 @@
 
 namespace orb::ui {
 
-/// The properties of a unit. While there cannot be such a unit it says why.
+/// The properties of a unit, to add one or to change one. As long as there cannot be such a unit
+/// the dialog says why, and OK is disabled.
 class UnitDialog : public QDialog {
   Q_OBJECT
 
@@ -28,11 +29,15 @@ class UnitDialog : public QDialog {
   void layOut();
   void fillIn();
   std::string unitType() const;
+  /// Offers the locations in which a unit of the chosen type can stand.
   void offerPlaces();
+  /// Shows what is wrong with the unit as it is set now, if anything.
   void check();
 
   const model::GameState& m_game;
+  /// The unit as it came in; what the dialog does not show stays as it is there.
   model::Unit m_shown;
+  /// Row of the unit that gives way, so that it does not stand in its own way; 0: none.
   int m_replaced;
   QComboBox* m_power;
   QRadioButton* m_army;

@@ -13,6 +13,7 @@ struct Offer {
   QString caption;  ///< "Fleet, Spain (north coast)"
 };
 
+/// Every unit of the power that could be added there; none where the place is taken.
 std::vector<Offer> offers(const model::GameState& game, const std::string& place,
                           const std::string& power) {
   std::vector<Offer> found;
@@ -30,6 +31,7 @@ std::vector<Offer> offers(const model::GameState& game, const std::string& place
   return found;
 }
 
+/// A menu that is shown without waiting for an answer, and so must look after itself.
 QMenu* newMenu(const QString& name, QWidget* parent) {
   auto* menu = new QMenu(parent);
   menu->setObjectName(name);
@@ -58,6 +60,7 @@ QMenu* newAddMenu(const model::GameState& game, const std::string& place,
             QStringLiteral("%1: %2").arg(powerName(game.Countries, firstRow), offer.caption));
     entry->setIcon(powerIcon(game.Countries, firstRow));
   }
+  // The units of the other powers go into submenus: all in one list would be hard to read.
   menu->addSeparator();
   for (int power = 1; power <= model::CountryCount; ++power) {
     if (power == firstRow) continue;

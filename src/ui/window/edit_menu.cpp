@@ -12,6 +12,8 @@ EditMenu::EditMenu(Desk& desk, ExportCommands& commands, ExchangeCommands& excha
   setObjectName(QStringLiteral("mnuEdit"));
   m_copyMap =
       newEntry(*this, QStringLiteral("mnuEditCopyMap"), tr("Copy &Map"), QKeySequence::Copy);
+  // Ctrl+C belongs to whatever has the keyboard: lists and text boxes copy their own lines. The
+  // map, too, copies only while it has it.
   m_copyMap->setShortcutContext(Qt::WidgetShortcut);
   map->addAction(m_copyMap);
   QAction* copyText = newEntry(*this, QStringLiteral("mnuEditCopyText"), tr("Copy &Text"),
@@ -30,6 +32,7 @@ EditMenu::EditMenu(Desk& desk, ExportCommands& commands, ExchangeCommands& excha
 }
 
 void EditMenu::showState() {
+  // The map and the report can be copied at any time.
   m_copyOrders->setEnabled(session::HasOrders(m_desk.game()));
   m_pasteOrders->setEnabled(session::TakesOrders(m_desk.game()));
 }

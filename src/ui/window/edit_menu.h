@@ -9,7 +9,8 @@ namespace orb::ui {
 class ExchangeCommands;
 class ExportCommands;
 
-/// What goes to the clipboard and comes from it.
+/// What goes to the clipboard and comes from it: map, report and orders. The entries for orders are
+/// enabled only where the stage has orders or takes some.
 class EditMenu : public QMenu {
   Q_OBJECT
 
@@ -18,6 +19,7 @@ class EditMenu : public QMenu {
   EditMenu(Desk& desk, ExportCommands& commands, ExchangeCommands& exchange, QWidget* map,
            QWidget* parent);
 
+  /// Entries that the toolbar shows as buttons.
   QAction* copyMapEntry() const { return m_copyMap; }
   QAction* pasteOrdersEntry() const { return m_pasteOrders; }
 

@@ -49,6 +49,8 @@ void FileMenu::addExports(ExportCommands& exports) {
   m_exportText = newEntry(*this, QStringLiteral("mnuFileExportText"), tr("Export &Text..."));
   m_print = newEntry(*this, QStringLiteral("mnuFilePrint"), tr("&Print..."), QKeySequence::Print);
   addSeparator();
+  // The window connects these two: the player that they start needs the map, which is not the
+  // menu's business.
   m_animate = newEntry(*this, QStringLiteral("mnuFileAnimate"), tr("Animat&e..."));
   m_animateMove = newEntry(*this, QStringLiteral("mnuFileAnimateMove"), tr("Animate mo&ve"));
   connect(bitmap, &QAction::triggered, &exports, &ExportCommands::exportBitmap);
@@ -75,9 +77,11 @@ void FileMenu::saveAs() {
 }
 
 void FileMenu::showState() {
+  // A game that was opened for reading only can be saved under another name.
   m_save->setEnabled(!m_desk.now().ReadOnly || m_desk.game().FileName.empty());
   m_importOrders->setEnabled(session::TakesOrders(m_desk.game()));
   m_exportOrders->setEnabled(session::HasOrders(m_desk.game()));
+  // Before that the season's moves are not complete.
   m_animateMove->setEnabled(m_desk.game().Stage == model::Stage::Finished);
 }
 

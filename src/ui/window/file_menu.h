@@ -10,7 +10,8 @@ namespace orb::ui {
 class ExchangeCommands;
 class ExportCommands;
 
-/// The commands on game files.
+/// The commands on game files: making, opening and saving them, exchanging orders, and all that is
+/// exported, printed and animated. It asks for the files; the desk and the commands do the rest.
 class FileMenu : public QMenu {
   Q_OBJECT
 
@@ -19,6 +20,7 @@ class FileMenu : public QMenu {
   FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory, ExportCommands& exports,
            ExchangeCommands& exchange, QWidget* window);
 
+  /// Entries that the toolbar shows as buttons, and those of the player, which the window connects.
   QAction* openEntry() const { return m_open; }
   QAction* saveEntry() const { return m_save; }
   QAction* importOrdersEntry() const { return m_importOrders; }
@@ -28,9 +30,11 @@ class FileMenu : public QMenu {
   QAction* animateMoveEntry() const { return m_animateMove; }
 
  private:
+  // The groups of entries between the separators.
   void addExchange(ExchangeCommands& exchange);
   void addExports(ExportCommands& exports);
   void open();
+  /// Asks for a file when the game has none yet.
   void save();
   void saveAs();
   void showState();

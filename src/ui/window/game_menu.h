@@ -10,6 +10,8 @@
 namespace orb::ui {
 
 /// The stage, what is edited in its place, and the commands on the season.
+///
+/// The entries of the stages show a state rather than choose one: a stage ends by being resolved.
 class GameMenu : public QMenu {
   Q_OBJECT
 
@@ -17,6 +19,7 @@ class GameMenu : public QMenu {
   GameMenu(Desk& desk, QWidget* parent);
 
  private:
+  // Entries with a check mark, in the order in which they are added.
   void addStage(const QString& name, const QString& caption, model::Stage stage);
   void addEditing(const QString& name, const QString& caption, session::Editing editing);
   void addEditSteps();
@@ -25,6 +28,7 @@ class GameMenu : public QMenu {
   Desk& m_desk;
   std::vector<std::pair<QAction*, model::Stage>> m_stages;
   std::vector<std::pair<QAction*, session::Editing>> m_editings;
+  // Two pairs of commands share the keys of undo, and never at the same time.
   QAction* m_undoEdit = nullptr;
   QAction* m_redoEdit = nullptr;
   QAction* m_undo = nullptr;

@@ -45,9 +45,12 @@ namespace {
 
 using session::Editing;
 
+// Pixels.
 constexpr int Margin = 10;
 constexpr int Gap = 12;
 constexpr int ColumnWidth = 345;
+/// The name under which it is remembered whether orders are drawn; the settings file has a fixed
+/// form without a place for it.
 const QString ShowOrders = QStringLiteral("map/showOrders");
 constexpr QSize PreferredSize(1280, 800);
 
@@ -64,6 +67,7 @@ MainWindow::MainWindow(Start start, const Places& places)
       m_desk(std::move(start), places.program, m_messages, nullptr),
       m_places(places),
       m_memory(places.config) {
+  // A game file can be dropped anywhere on the window.
   setAcceptDrops(true);
   setWindowIcon(programIcon());
   createStatusBar();
@@ -72,6 +76,8 @@ MainWindow::MainWindow(Start start, const Places& places)
   createMenus();
   createToolbar();
   restoreSize();
+  // Drawn directly this once: when the map cannot be drawn at the start, the exception must reach
+  // the caller instead of becoming a box over a window that is not there yet.
   m_desk.setShowOrders(m_memory.flag(ShowOrders));
   m_map->draw(m_desk.now(), m_desk.view());
   m_view->setZoom(m_memory.zoom());
@@ -102,6 +108,7 @@ void MainWindow::createPanels() {
   m_editUnits = new EditUnitsPanel(m_desk, *m_map);
   m_editProvinces = new EditProvincesPanel(m_desk, *m_map);
   m_report = new ReportPanel(m_desk);
+  // The help menu is made after the panels, so it is looked up when help is wanted.
   const auto listenTo = [this]<class Panel>(Panel* panel) {
     connect(panel, &Panel::statusText, this, &MainWindow::showStatus);
     connect(panel, &Panel::helpWanted, this,
@@ -113,6 +120,7 @@ void MainWindow::createPanels() {
   listenTo(m_editProvinces);
   connect(m_map, &MapPicture::hovered, this, &MainWindow::showPlace);
   connect(m_view, &MapView::zoomChanged, this, &MainWindow::leaveSpareWidth);
+  // The units that a selected report line mentions are ringed on the map.
   connect(m_report, &ReportPanel::unitsPicked, m_map, &MapPicture::setMarks);
   m_player = new AnimationPlayer(m_desk, m_messages, *m_map, this);
   connect(m_player, &AnimationPlayer::changed, this, &MainWindow::showAnimation);
@@ -131,6 +139,8 @@ void MainWindow::layOutPanels() {
   auto* panels = new QVBoxLayout(m_column);
   panels->setContentsMargins({});
   panels->setSpacing(Gap);
+  // The panels share one place, above the tabs. The finished season has little to say and leaves
+  // the room to the report.
   for (QWidget* panel : stagePanels())
     panels->addWidget(panel, panel == m_seasonFinished ? 0 : 3);
   panels->addWidget(m_tabs, 2);
@@ -219,6 +229,7 @@ void MainWindow::createStatusBar() {
 }
 
 void MainWindow::restoreSize() {
+  // Qt itself moves a window back that would open on a screen that is gone.
   if (restoreGeometry(m_memory.geometry())) return;
   const QSize available = screen()->availableSize();
   resize(PreferredSize.boundedTo(available));
@@ -231,6 +242,7 @@ void MainWindow::restoreSize() {
 void MainWindow::rememberSize() {
   const bool narrowed = m_column->isHidden() && !isMaximized() && !isFullScreen();
   if (narrowed) resize(m_normalWidth, height());
+  // Its state, maximized or not, is part of it.
   m_memory.setGeometry(saveGeometry());
 }
 
@@ -238,6 +250,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   rememberSize();
   m_memory.setZoom(m_view->zoom());
   m_memory.setFlag(ShowOrders, m_desk.view().showOrders);
+  // A settings file that cannot be written is reported, but must not keep the window open.
   attempt(m_messages, [this] {
     const View& view = m_desk.view();
     settings::WriteSettingsFile(settings::SettingsFileForWriting(m_places.program, m_places.config),
@@ -266,11 +279,15 @@ void MainWindow::showGame() {
   const model::GameState& game = m_desk.game();
   setWindowTitle(text::ToQString(model::Caption(game)));
   const QString file = displayPath(game.FileName);
+  // Every way in which a game gets a file leads through here: opening, saving, and the command
+  // line.
   if (file != m_fileName->text()) {
     m_fileName->setText(file);
     m_fileName->setToolTip(file);
     if (!file.isEmpty()) m_memory.addRecentFile(QFileInfo(file).absoluteFilePath());
   }
+  // Only a real change brings the panel to the front again: it takes the keyboard and begins its
+  // line anew.
   if (m_shownPanel != std::pair(game.Stage, m_desk.now().Editing)) showStagePanel();
   showViewOnly();
 }
@@ -281,6 +298,8 @@ void MainWindow::showViewOnly() {
   m_gameMenu->setEnabled(!viewOnly && !m_player->isOn());
   if (m_column->isHidden() == viewOnly) return;
   const bool sizeIsFree = !isMaximized() && !isFullScreen();
+  // A maximized window keeps its size, and the width that it goes back to is the one before it was
+  // maximized.
   if (viewOnly) m_normalWidth = sizeIsFree ? width() : normalGeometry().width();
   m_column->setVisible(!viewOnly);
   chooseTool();
@@ -310,9 +329,12 @@ void MainWindow::showStagePanel() {
   for (const auto& [stage, panel] : entryPanels) {
     if (stage == shownStage) shown = panel;
   }
+  // Editing stands in the place of the stage, whichever that is.
   if (editing == Editing::Units) shown = m_editUnits;
   if (editing == Editing::Provinces) shown = m_editProvinces;
   showInstead(shown);
+  // The report is in front as soon as there is one; owners are edited with the list of owners in
+  // view.
   const bool report = m_desk.game().ReportLines.Count() > 0 && editing != Editing::Provinces;
   m_tabs->setCurrentIndex(report ? 1 : 0);
   chooseTool();
@@ -344,6 +366,7 @@ void MainWindow::showStatus(const QString& text) {
 /// A map that is only viewed does nothing.
 void MainWindow::chooseTool() {
   MapTool* tool = nullptr;
+  // Hidden is asked for, not visible: at the start the window itself is not yet shown.
   const auto consider = [&](auto* panel) {
     if (!panel->isHidden() && !m_desk.view().viewOnly) tool = panel;
   };
@@ -361,6 +384,7 @@ void MainWindow::showPlace(int location) {
 
 /// While an animation has the map's place nothing may change the game.
 void MainWindow::showAnimation() {
+  // The Map and Help menus stay: they change no game.
   const bool playing = m_player->isOn();
   for (QWidget* control :
        {static_cast<QWidget*>(m_fileMenu), static_cast<QWidget*>(m_editMenu),
@@ -374,6 +398,7 @@ void MainWindow::showAnimation() {
 /// What the fitted map cannot use goes to the column.
 void MainWindow::leaveSpareWidth() {
   const bool fitted = !m_view->zoom() && !m_column->isHidden();
+  // An enlarged map takes all there is, and so does one alone in the window.
   m_view->setMaximumWidth(
       fitted ? std::max(m_view->minimumSizeHint().width(), m_view->fittingWidth(mapHeight()))
              : QWIDGETSIZE_MAX);

@@ -34,6 +34,9 @@ class ReportPanel;
 class SeasonFinishedPanel;
 
 /// The map at the left, the panels at the right, menus and tools above, the status below.
+///
+/// The window owns the desk and everything that works on it. It puts the parts together and decides
+/// which of them are visible; the parts themselves carry out the commands.
 class MainWindow : public QMainWindow {
   Q_OBJECT
 
@@ -51,36 +54,47 @@ class MainWindow : public QMainWindow {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  // The window is built once, in this order: the menus use the panels' map and player, and the
+  // toolbar shows entries of the menus.
   void createPanels();
   void layOutPanels();
   void createMenus();
   void createToolbar();
   void createStatusBar();
+  // The size and place of the last start, or the preferred size on the first one.
   void restoreSize();
   void rememberSize();
 
+  // Each shows one side of the state, whatever has changed, and may be called at any time.
   void showGame();
   void showViewOnly();
+  /// How wide the window is, in pixels, when only the map shows.
   int mapOnlyWidth();
+  /// What the window has for the map from top to bottom, in pixels.
   int mapHeight() const;
   void showStagePanel();
   std::array<QWidget*, 6> stagePanels() const;
   void showInstead(QWidget* shown);
   void showStatus(const QString& text);
+  /// Hands the mouse on the map to the panel that is in front.
   void chooseTool();
   void showPlace(int location);
   void showAnimation();
+  /// Keeps the map's side no wider than the fitted map needs.
   void leaveSpareWidth();
 
+  // The desk keeps a reference to the messages, and every widget one to the desk.
   MessageBoxes m_messages;
   Desk m_desk;
   Places m_places;
   WindowMemory m_memory;
   MapPicture* m_map = nullptr;
   MapView* m_view = nullptr;
+  /// The panels at the right, hidden while only the map shows.
   QWidget* m_column = nullptr;
   QToolBar* m_tools = nullptr;
   AnimationPlayer* m_player = nullptr;
+  // One panel for each stage and for each kind of editing; at most one of them is visible.
   OrderEntryPanel* m_orders = nullptr;
   OrderEntryPanel* m_retreats = nullptr;
   OrderEntryPanel* m_adjustments = nullptr;
@@ -98,6 +112,7 @@ class MainWindow : public QMainWindow {
   MapMenu* m_mapMenu = nullptr;
   ElidedLabel* m_status = nullptr;
   ElidedLabel* m_fileName = nullptr;
+  /// What the visible panel is for, so that it is replaced only when that has changed.
   std::optional<std::pair<model::Stage, session::Editing>> m_shownPanel;
   int m_normalWidth = 0;  ///< of the window, while only the map shows
 };

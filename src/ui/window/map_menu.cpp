@@ -41,6 +41,7 @@ MapMenu::MapMenu(Desk& desk, MapView& view, QWidget* parent)
 
 void MapMenu::addZoomEntries() {
   m_zoomIn = newEntry(*this, QStringLiteral("mnuMapZoomIn"), tr("Zoom &in"));
+  // On many keyboards "+" is "=" with Shift, and nobody presses Shift to zoom.
   m_zoomIn->setShortcuts({QKeySequence::ZoomIn, Qt::CTRL | Qt::Key_Equal});
   m_zoomOut =
       newEntry(*this, QStringLiteral("mnuMapZoomOut"), tr("Zoom o&ut"), QKeySequence::ZoomOut);

@@ -14,7 +14,8 @@ namespace orb::ui {
 
 class MapView;
 
-/// How the map is shown.
+/// How the map is shown: the four modes, of which one holds, the toggles, and the zoom. None of it
+/// changes the game.
 class MapMenu : public QMenu {
   Q_OBJECT
 
@@ -27,6 +28,7 @@ class MapMenu : public QMenu {
   QAction* showOrders() const { return m_showOrders; }
 
  private:
+  /// One of the options that are on or off.
   using Toggle = bool settings::MapOptions::*;
 
   void addZoomEntries();
@@ -34,6 +36,8 @@ class MapMenu : public QMenu {
   void addToggle(const QString& name, const QString& caption, Toggle toggle);
   void choose(settings::MapMode mode);
   void set(Toggle toggle, bool on);
+  /// Puts the check marks where the desk's view has them, also after a mode that could not be
+  /// drawn.
   void showState();
 
   Desk& m_desk;

@@ -20,6 +20,7 @@ void RecentFilesMenu::fill() {
   const QStringList files = m_memory.recentFiles();
   for (qsizetype i = 0; i < files.size(); ++i) {
     const QString& file = files[i];
+    // An ampersand of the name would be taken for the entry's key.
     QString name = QFileInfo(file).fileName();
     QAction* entry = newEntry(*this, QStringLiteral("mnuFileRecent%1").arg(i + 1),
                               QStringLiteral("&%1  %2").arg(i + 1).arg(name.replace('&', "&&")));

@@ -7,7 +7,8 @@
 
 namespace orb::ui {
 
-/// The game files used last; choosing one opens it.
+/// The game files used last, the latest first; choosing one opens it. The list is made
+/// anew whenever the menu comes up.
 class RecentFilesMenu : public QMenu {
   Q_OBJECT
 

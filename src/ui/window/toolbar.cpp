@@ -9,7 +9,9 @@ namespace orb::ui {
 Toolbar::Toolbar(QWidget* parent) : QToolBar(tr("Toolbar"), parent) {
   setObjectName(QStringLiteral("barTools"));
   setMovable(false);
+  // Qt's own menu offers to hide the bar, which is easily done unawares and hard to take back.
   setContextMenuPolicy(Qt::PreventContextMenu);
+  // In proportion to the letters, so that the icons follow the system's font size.
   const int side = fontMetrics().height() * 3 / 2;
   setIconSize({side, side});
 }
@@ -25,6 +27,7 @@ void Toolbar::addButton(const QString& name, const QString& icon, const QString&
   QWidget* button = widgetForAction(command);
   button->setObjectName(name);
   button->setAccessibleName(tip);
+  // Reached with the Tab key, but a click leaves the keyboard where orders are typed.
   button->setFocusPolicy(Qt::TabFocus);
 }
 

@@ -6,7 +6,8 @@
 
 namespace orb::ui {
 
-/// The frequent commands as buttons.
+/// The frequent commands as buttons. Each is an entry of a menu, and is enabled and checked with
+/// it.
 class Toolbar : public QToolBar {
   Q_OBJECT
 

@@ -5,6 +5,7 @@
 namespace orb::ui {
 namespace {
 
+// The names in the file; what is there under another name is left alone.
 const QString Geometry = QStringLiteral("window/geometry");
 const QString Zoom = QStringLiteral("map/zoom");
 const QString RecentFiles = QStringLiteral("files/recent");
@@ -25,6 +26,7 @@ void WindowMemory::setGeometry(const QByteArray& geometry) {
 std::optional<double> WindowMemory::zoom() const {
   bool valid = false;
   const double zoom = m_store.value(Zoom).toDouble(&valid);
+  // The file can be edited by hand.
   return valid && zoom > 0 ? std::optional(zoom) : std::nullopt;
 }
 

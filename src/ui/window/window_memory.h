@@ -10,25 +10,30 @@
 namespace orb::ui {
 
 /// What the window remembers from one start to the next, in the user's configuration directory:
-/// all but the settings of the map, which have a file of their own.
+/// all but the settings of the map, which have a file of their own. What is missing or cannot be
+/// read has its default; what cannot be written is lost in silence, as nothing depends on it.
 class WindowMemory {
  public:
   static constexpr qsizetype RecentFileBound = 8;
 
   explicit WindowMemory(const std::filesystem::path& configDirectory);
 
+  /// Size, place and state of the window, as QWidget::saveGeometry gives them; empty on the first
+  /// start.
   QByteArray geometry() const;
   void setGeometry(const QByteArray& geometry);
 
-  /// Nothing: the map fits the window.
+  /// The factor by which the map is enlarged, above 0; nothing: the map fits the window.
   std::optional<double> zoom() const;
   void setZoom(std::optional<double> zoom);
 
+  /// A choice that is on or off; off until it is set.
   bool flag(const QString& name) const;
   void setFlag(const QString& name, bool on);
 
   /// Game files opened or saved, the last one first.
   QStringList recentFiles() const;
+  /// Puts a file in front, under its full path; beyond the bound the oldest is forgotten.
   void addRecentFile(const QString& file);
   void clearRecentFiles();
 
