@@ -18,6 +18,7 @@ namespace {
 
 using namespace orb;
 
+/// Printed on the terminal; nobody who starts the program from a menu sees it.
 constexpr std::string_view Usage =
     "Usage: orb [GAME]\n"
     "Opens the window with a new game, or with the game file GAME.\n";
@@ -32,7 +33,7 @@ bool choosePlatform() {
   return true;
 }
 
-/// A failed start is told in a box, without a display on standard error.
+/// A failed start is reported in a box, or on standard error where there is no display.
 class StartMessages : public ui::MessageBoxes {
  public:
   explicit StartMessages(bool display) : MessageBoxes(nullptr), m_display(display) {}
@@ -57,6 +58,7 @@ int runProgram(const std::filesystem::path& gameFile, bool display) {
   ui::attempt(messages, [&] {
     const ui::Places places = systemPlaces();
     ui::Start start = ui::startProgram(places, gameFile, messages);
+    // Only now, so that a faulty game file is reported first: it would fail on any display.
     if (!display) {
       throw model::FatalError(
           "There is no display (DISPLAY, WAYLAND_DISPLAY) for the window; orbctl needs none.");
@@ -73,12 +75,14 @@ int runProgram(const std::filesystem::path& gameFile, bool display) {
 int main(int argc, char* argv[]) {
   QApplication::setApplicationName(QStringLiteral("orb"));
   const bool tried = choosePlatform();
+  // Tests ask for the hidden platform by name; one that Qt merely fell back on is no display.
   const bool hiddenAskedFor = qgetenv("QT_QPA_PLATFORM") == "offscreen";
   std::unique_ptr<QApplication> application;
   if (tried) application = std::make_unique<QApplication>(argc, argv);
   const bool display =
       tried && (hiddenAskedFor || QApplication::platformName() != QLatin1String("offscreen"));
 
+  // Qt has taken its own options out of the arguments by now.
   const std::string_view argument = argc > 1 ? argv[1] : "";
   if (argument == "--help" || argument == "-h") {
     std::cout << Usage;

@@ -64,6 +64,7 @@ void AdjustmentCounts::showCounts() {
     column.due->setText(signedNumber(due));
     setBold(*column.due, due != 0);
     const QString name = text::ToQString(country.Name);
+    // For a screen reader the numbers of a column make one sentence.
     const QString told = tr("%1: %2 centres, %3 units, %4")
                              .arg(name)
                              .arg(count.Centres)

@@ -9,7 +9,8 @@
 
 namespace orb::ui {
 
-/// A table of the powers: their centres, their units, and how many units are due to each.
+/// A table of the powers: their centres, their units, and how many units each may build (+) or must
+/// disband (-).
 class AdjustmentCounts : public QWidget {
   Q_OBJECT
 
@@ -17,6 +18,7 @@ class AdjustmentCounts : public QWidget {
   explicit AdjustmentCounts(const Desk& desk, QWidget* parent = nullptr);
 
  private:
+  /// The labels of one power, from the top.
   struct Column {
     QLabel* power;
     QLabel* centres;
@@ -27,7 +29,7 @@ class AdjustmentCounts : public QWidget {
   void showCounts();
 
   const Desk& m_desk;
-  std::vector<Column> m_columns;  ///< one a power
+  std::vector<Column> m_columns;  ///< one per power, in the order of the game's table
 };
 
 }  // namespace orb::ui

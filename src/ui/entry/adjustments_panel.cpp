@@ -46,6 +46,7 @@ QRadioButton* AdjustmentsPanel::addTypeOption(const QString& name, const QString
 void AdjustmentsPanel::mapClicked(const MapSpot& at) {
   const std::string_view unitType = m_fleet->isChecked() ? "F" : "A";
   const std::string location = locationAt(at, unitType);
+  // A fleet's click may mean a coast, so the type decides the location too.
   if (!location.empty()) {
     write(orders::ClickAdjustment(game(), line(), location, unitType));
   }

@@ -8,7 +8,8 @@
 
 namespace orb::ui {
 
-/// The orders to build and to disband, below the count of centres and units.
+/// The orders to build and to disband, below the count of centres and units. A click writes a whole
+/// order at once, so what is built is chosen beforehand: army or fleet.
 class AdjustmentsPanel : public OrderEntryPanel {
   Q_OBJECT
 
@@ -19,6 +20,7 @@ class AdjustmentsPanel : public OrderEntryPanel {
   void mapClicked(const MapSpot& at) override;
 
  private:
+  /// A choice of what the next click builds; it also changes the line in the box.
   QRadioButton* addTypeOption(const QString& name, const QString& caption,
                               std::string_view unitType);
 

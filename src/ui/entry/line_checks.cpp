@@ -18,6 +18,7 @@ QString lines(const std::vector<std::string>& texts) {
 void showMark(QListWidgetItem& item, OrderMark mark, const QString& reason) {
   item.setData(OrderMarkRole, static_cast<int>(mark));
   item.setToolTip(reason);
+  // A screen reader cannot see the mark.
   item.setData(Qt::AccessibleDescriptionRole, reason);
 }
 

@@ -10,12 +10,13 @@
 
 namespace orb::ui {
 
-/// Marks every line of the stage's list by what the checks say of it; tooltips tell the reasons.
+/// Marks every line of the stage's list by what the checks say of it; tooltips give the reasons.
+/// The line at which a resolution was abandoned has a mark of its own.
 void showMarks(QListWidget& list, const adjudication::ListCheck& check,
                const std::optional<session::StoppedLine>& stopped);
 
-/// Tells how many units, or in the adjustments powers, are not yet provided for, and in the tooltip
-/// which.
+/// Says how many units, or in the adjustments how many powers, still need orders; the tooltip names
+/// them.
 void showMissing(QLabel& label, const adjudication::ListCheck& check, model::Stage stage);
 
 }  // namespace orb::ui

@@ -16,6 +16,7 @@ namespace {
 
 using session::Changes;
 
+// The grid below the list, from the top; the commands of a stage fill the second row.
 constexpr int GridColumns = 4;
 constexpr int TextRow = 0;
 constexpr int CommandRow = 1;
@@ -44,6 +45,7 @@ OrderEntryPanel::OrderEntryPanel(Desk& desk, model::Stage stage, OrderList list,
   m_text->setObjectName(texts.text);
   m_text->setAccessibleName(tr("Order"));
   m_text->setPlaceholderText(texts.example);
+  // Only what a game file can hold gets into the box.
   m_text->setValidator(new TextValidator(m_text));
   m_text->installEventFilter(this);
   layOut(texts);
@@ -67,6 +69,7 @@ void OrderEntryPanel::layOut(const OrderEntryTexts& texts) {
                 tr("Removes the selected order from the list (Del in the list)"), ListRow, 1);
   m_help = addButton(texts.help, tr("Hel&p"), tr("Tells how orders are entered"), ListRow, 2);
   m_resolve = addButton(texts.resolve, tr("&Resolve"), texts.resolveTip, ListRow, 3);
+  // Marked as the way on; in the box and in the list the Enter key does something else.
   m_resolve->setDefault(true);
   m_grid->setRowMinimumHeight(GapRow, Gap);
   m_lastCommand = m_ok;
@@ -113,15 +116,18 @@ void OrderEntryPanel::connectControls(const QString& helpTopic) {
   connect(m_ok, &QPushButton::clicked, this, &OrderEntryPanel::fileOrder);
   connect(m_text, &QLineEdit::returnPressed, this, &OrderEntryPanel::fileOrder);
   connect(m_text, &QLineEdit::textChanged, this, [this](const QString& text) {
+    // However it was emptied, a half clicked order is forgotten with its text.
     if (text.isEmpty()) beginLine();
   });
   connect(m_cancel, &QPushButton::clicked, this, &OrderEntryPanel::cancelOrder);
   connect(m_delete, &QPushButton::clicked, this, &OrderEntryPanel::deleteOrder);
   connect(m_help, &QPushButton::clicked, this, [this, helpTopic] {
+    // The keyboard is back where orders are written when the help is closed.
     focusText();
     emit helpWanted(helpTopic);
   });
   connect(m_resolve, &QPushButton::clicked, &m_desk, &Desk::resolve);
+  // Clicked or chosen with the Enter key, a line comes into the box to be changed.
   connect(m_list, &QListWidget::itemClicked, this, &OrderEntryPanel::editSelectedOrder);
   connect(m_list, &QListWidget::itemActivated, this, &OrderEntryPanel::editSelectedOrder);
   connect(m_list, &QListWidget::itemSelectionChanged, this, &OrderEntryPanel::tellStatus);
@@ -132,6 +138,7 @@ void OrderEntryPanel::connectControls(const QString& helpTopic) {
 
 void OrderEntryPanel::connectKeys() {
   const auto connectKey = [this](QWidget* control, Qt::Key key, auto command) {
+    // These keys mean something else in every other control.
     auto* shortcut = new QShortcut(key, control, nullptr, nullptr, Qt::WidgetShortcut);
     connect(shortcut, &QShortcut::activated, this, command);
   };
@@ -153,6 +160,7 @@ void OrderEntryPanel::focusText() {
 
 void OrderEntryPanel::focusList() {
   if (m_list->count() == 0) return;
+  // Upwards from the box, the line that was filed last is next.
   if (m_list->selectedItems().isEmpty()) m_list->setCurrentRow(m_list->count() - 1);
   m_list->setFocus();
 }
@@ -163,6 +171,7 @@ std::string OrderEntryPanel::line() const {
 
 void OrderEntryPanel::write(const std::string& line) {
   const QString text = text::ToQString(line);
+  // A click mostly adds words. Inserted, they can be taken back one by one.
   if (text.startsWith(m_text->text())) return append(text.mid(m_text->text().size()));
   m_text->setText(text);
   focusText();
@@ -176,6 +185,7 @@ void OrderEntryPanel::append(const QString& words) {
 }
 
 void OrderEntryPanel::showLines() {
+  // Each panel keeps its list up to date, but only the stage's own lines are checked.
   showTexts(*m_list, m_desk.game().*m_orders);
   if (m_desk.game().Stage == m_stage) markLines();
 }
@@ -196,6 +206,7 @@ void OrderEntryPanel::showStoppedLine() {
 void OrderEntryPanel::tellStatus() {
   if (m_desk.game().Stage != m_stage) return;
   const QList<QListWidgetItem*> selected = m_list->selectedItems();
+  // The status bar has one line.
   const QString reason = selected.isEmpty() ? QString() : selected.first()->toolTip();
   emit statusText(reason.split(QLatin1Char('\n')).join(QStringLiteral("; ")));
 }
@@ -227,6 +238,7 @@ bool OrderEntryPanel::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void OrderEntryPanel::fileOrder() {
+  // A line in which no unit can be recognized is not filed, and stays to be mended.
   if (m_desk.fileOrder(line())) {
     m_list->setCurrentRow(m_list->count() - 1);
     m_text->clear();

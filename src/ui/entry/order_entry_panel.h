@@ -40,16 +40,20 @@ struct OrderEntryTexts {
   QString resolveTip;
 };
 
-/// A list of order lines with the box in which a line is written, by keyboard, by buttons or by
-/// clicks on the map, and the command that resolves them.
+/// The common part of the panels of three stages: a list of order lines, the box in which a line is
+/// written by keyboard, by buttons or by clicks on the map, and the command that resolves them.
+///
+/// The list in the game is the only store of the orders; the panel shows it and hands each line to
+/// the desk. Nothing is refused while it is entered: what is wrong with a line only marks it.
 class OrderEntryPanel : public QWidget, public MapTool {
   Q_OBJECT
 
  public:
-  /// The user is about to write an order.
+  /// Called when the panel has come up: the keyboard goes to the box, and a new line begins.
   void startEntry();
 
  signals:
+  /// The caption of the help topic that is wanted.
   void helpWanted(const QString& topic);
 
   /// What is to be said about the selected line; empty for nothing.
@@ -64,18 +68,22 @@ class OrderEntryPanel : public QWidget, public MapTool {
                   QWidget* parent);
 
   const model::GameState& game() const { return m_desk.game(); }
+  /// The line in the box, in the encoding of game files.
   std::string line() const;
 
-  /// Shows a line that is to be written on.
+  /// Puts into the box what a click made of its line, to be continued there.
   void write(const std::string& line);
 
   /// Abbreviation of the location at the spot as a unit of this type sees it; empty for none.
   std::string locationAt(const MapSpot& spot, std::string_view unitType) const;
 
+  /// Adds a button for words that orders of the stage are made of.
   QPushButton* addCommand(const EntryCommand& command);
 
-  /// Adds a control behind the commands.
+  /// Adds a control after the commands, in their row.
   void addToCommands(QWidget* control);
+
+  /// Adds a control between the heading and the list.
   void addBelowHeading(QWidget* control);
 
   /// The next click on the map begins a line.
@@ -96,10 +104,12 @@ class OrderEntryPanel : public QWidget, public MapTool {
   void focusText();
   void focusList();
   void append(const QString& words);
+  // What the list shows: its lines, their marks, and the row at which resolving stopped.
   void showLines();
   void markLines();
   void showStoppedLine();
   void tellStatus();
+  // What the buttons and keys do.
   void fileOrder();
   void cancelOrder();
   void deleteOrder();
@@ -118,6 +128,7 @@ class OrderEntryPanel : public QWidget, public MapTool {
   QPushButton* m_delete;
   QPushButton* m_help;
   QPushButton* m_resolve;
+  /// The last control of the row of commands, after which the Tab key goes to a further one.
   QWidget* m_lastCommand;
   int m_commandCount = 0;
 };

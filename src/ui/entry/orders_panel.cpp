@@ -34,12 +34,14 @@ void OrdersPanel::addCommands() {
   const auto* convoy =
       addCommand({QStringLiteral("butOrderConvoy"), tr("Convo&y"),
                   tr("The fleet convoys an army: C and that army's move"), QStringLiteral("C ")});
+  // After "S" or "C" another unit is wanted, after "-" a place, as if it had been clicked together.
   connect(move, &QPushButton::clicked, this, [this] { m_entry.UnitExpected = false; });
   for (const QPushButton* command : {support, convoy})
     connect(command, &QPushButton::clicked, this, [this] { m_entry.UnitExpected = true; });
 }
 
 void OrdersPanel::mapClicked(const MapSpot& at) {
+  // The line may have been typed or changed by hand since the last click.
   m_entry.Text = line();
   std::string location = locationAt(at, orders::LastUnitType(m_entry.Text));
   if (location.empty()) return;

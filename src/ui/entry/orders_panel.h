@@ -5,7 +5,8 @@
 
 namespace orb::ui {
 
-/// The orders of the moves stage.
+/// The orders of the moves stage. Several clicks make one order: what a click means depends on what
+/// the line in the box already says.
 class OrdersPanel : public OrderEntryPanel {
   Q_OBJECT
 
@@ -16,11 +17,13 @@ class OrdersPanel : public OrderEntryPanel {
   void mapClicked(const MapSpot& at) override;
 
  protected:
+  /// The next click picks a unit, whatever was clicked before.
   void beginLine() override;
 
  private:
   void addCommands();
 
+  /// What has been clicked of the line so far.
   orders::OrderEntry m_entry;  ///< its text is up to date only during a click
 };
 

@@ -4,7 +4,7 @@
 
 namespace orb::ui {
 
-/// The orders of dislodged units.
+/// The orders of dislodged units, which retreat or disband.
 class RetreatsPanel : public OrderEntryPanel {
   Q_OBJECT
 

@@ -6,7 +6,8 @@
 
 namespace orb::ui {
 
-/// The way from a finished season to the next one.
+/// The way from a finished season to the next one. It warns first: the next season drops the
+/// report.
 class SeasonFinishedPanel : public QWidget {
   Q_OBJECT
 

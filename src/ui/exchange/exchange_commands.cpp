@@ -29,12 +29,14 @@ void checkLength(std::uintmax_t bytes, const std::string& where) {
 std::string readOrdersFile(const fs::path& file) {
   std::error_code error;
   const fs::file_status status = fs::status(file, error);
+  // A pipe or a device could keep the window waiting for ever.
   if (fs::exists(status) && !fs::is_regular_file(status)) {
     throw model::FileError(file.string() + " is no ordinary file.");
   }
   const std::uintmax_t size = fs::file_size(file, error);
   if (!error) checkLength(size, file.string());
   std::string text = model::ReadFile(file);
+  // Once more: the file may have grown, or its size may not have been known.
   checkLength(text.size(), file.string());
   return exchange::OrdersFileText(std::move(text), file.string());
 }
@@ -58,6 +60,7 @@ void ExchangeCommands::pasteOrders() {
   attempt(m_messages, [this] {
     std::string text = QGuiApplication::clipboard()->text().toStdString();
     checkLength(text.size(), "The text on the clipboard");
+    // A clipboard with a picture has an empty text.
     if (text.find_first_not_of(" \t\r\n") == std::string::npos) {
       throw model::FatalError("There is no text on the clipboard.");
     }

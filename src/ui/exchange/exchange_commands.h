@@ -12,8 +12,8 @@ namespace orb::ui {
 /// The longest text of orders that is read, in bytes: many times all mails of a season.
 constexpr std::size_t OrdersTextBound = 200'000;
 
-/// The commands that take orders in from files and the clipboard and hand them out. What goes
-/// wrong is told in a message box, and the lists, files and the clipboard stay as they were.
+/// The commands that read orders from files and the clipboard and write them there. Errors are
+/// shown in a message box, and the lists, files and the clipboard stay as they were.
 class ExchangeCommands : public QObject {
   Q_OBJECT
 
@@ -34,6 +34,7 @@ class ExchangeCommands : public QObject {
   void helpWanted(const QString& topic, QWidget* dialog);
 
  private:
+  /// Shows what was understood of the text, and files what the user leaves ticked.
   void preview(ExchangeKind kind, std::string text);
 
   Desk& m_desk;

@@ -16,6 +16,7 @@ QString counted(int count, const QString& one, const QString& many) {
   return QStringLiteral("%1 %2").arg(count).arg(count == 1 ? one : many);
 }
 
+/// A label for text that may quote the mail and so is never markup.
 QLabel* newLabel(const QString& name) {
   auto* label = new QLabel;
   label->setObjectName(name);
@@ -42,6 +43,7 @@ ExchangeDialog::ExchangeDialog(const model::GameState& game, ExchangeKind kind, 
   m_table->setAccessibleName(tr("Lines of the text"));
   m_noOrders->setObjectName(QStringLiteral("chkExchangeNoOrders"));
   m_reason->setWordWrap(true);
+  // Room for the longest reason: the table must not jump while the user goes through it.
   m_reason->setMinimumHeight(3 * fontMetrics().lineSpacing());
   m_reason->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 
@@ -59,11 +61,14 @@ ExchangeDialog::ExchangeDialog(const model::GameState& game, ExchangeKind kind, 
   connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this,
           &ExchangeDialog::showReason);
   const ExchangeModel::Counts counts = m_model.counts();
+  // A text without a single order is shown whole, so that the user sees what it was.
   m_noOrders->setChecked(counts.orders + counts.unclear == 0);
   choosePower();
   const QSize letters(fontMetrics().averageCharWidth(), fontMetrics().height());
+  // Room for 110 letters and 32 lines, as far as the screen has it.
   resize(QSize(letters.width() * 110, letters.height() * 32)
              .boundedTo(parent->screen()->availableSize() * 0.9));
+  // When the text does not name the power, that is the first thing to choose.
   (m_power != nullptr && m_power->currentIndex() < 0 ? static_cast<QWidget*>(m_power) : m_table)
       ->setFocus();
 }
@@ -76,6 +81,7 @@ QLayout* ExchangeDialog::newPowerRow(const model::GameState& game) {
     m_power->addItem(powerIcon(game.Countries, row), powerName(game.Countries, row),
                      QByteArray::fromStdString(game.Countries[row].Abbreviation));
   }
+  // The mail itself mostly says whose orders it has.
   const QByteArray named = QByteArray::fromStdString(m_model.powerOfText());
   m_power->setCurrentIndex(named.isEmpty() ? -1 : m_power->findData(named));
   connect(m_power, &QComboBox::currentIndexChanged, this, &ExchangeDialog::choosePower);

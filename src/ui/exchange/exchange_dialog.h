@@ -32,9 +32,11 @@ class ExchangeDialog : public QDialog {
   /// The orders to file.
   std::vector<exchange::ReadLine> orders() const { return m_model.takenLines(); }
 
+  /// Closes the dialog only when there is something to file.
   void accept() override;
 
  signals:
+  /// The caption of the help topic that is wanted.
   void helpWanted(const QString& topic);
 
  private:
@@ -42,6 +44,7 @@ class ExchangeDialog : public QDialog {
   QLayout* newButtonRow();
   void wantHelp();
   void choosePower();
+  // What the labels say follows every change of the model and of the current line.
   void showCounts();
   void showReason();
 

@@ -20,11 +20,12 @@ using exchange::LineKind;
 using exchange::ReadLine;
 using exchange::Span;
 
-/// The beginning by which filing knows the unit's previous order.
+/// The beginning of the order line, by which filing recognizes an earlier order of the unit.
 std::string_view unitOf(const ReadLine& line) {
   return std::string_view(line.Order).substr(0, line.Order.find(')') + 1);
 }
 
+/// Faults are told in small letters, to stand after a colon; here they stand alone.
 QString sentence(const std::string& text) {
   QString shown = displayText(text);
   if (!shown.isEmpty()) shown[0] = shown[0].toUpper();
@@ -91,6 +92,7 @@ void ExchangeModel::setPower(const std::string& power) {
     const QString written = displayText(read.Written);
     const auto fault = faultIn(read.Written, read.ReasonPlace, read.Place.Offset);
     const std::string context = read.Power;
+    // Ticked unless it is another power's: whoever pastes one power's mail rarely wants those.
     const bool taken = !isOfOther(read);
     m_lines.push_back({std::move(read), written, written, context, fault, taken});
   }
@@ -98,11 +100,12 @@ void ExchangeModel::setPower(const std::string& power) {
   endResetModel();
 }
 
-/// Writes anew what was written anew before.
+/// Repeats the corrections in the text that was read again.
 void ExchangeModel::takeAnew(const std::vector<Line>& before) {
   bool any = false;
   for (const Line& old : before) {
     if (old.written == old.original) continue;
+    // Another power may change what a line means, but not where it stands in the text.
     const auto same = std::find_if(m_lines.begin(), m_lines.end(), [&](const Line& line) {
       return line.read.Place.Offset == old.read.Place.Offset;
     });
@@ -116,6 +119,7 @@ void ExchangeModel::takeAnew(const std::vector<Line>& before) {
 /// Reads a text in place of the line's own.
 ReadLine ExchangeModel::read(const Line& line, const QString& text) const {
   std::vector<ReadLine> others;
+  // Without the line itself, which would otherwise confirm its own meaning.
   for (const Line& other : m_lines) {
     if (&other != &line) others.push_back(other.read);
   }
@@ -125,6 +129,7 @@ ReadLine ExchangeModel::read(const Line& line, const QString& text) const {
 }
 
 void ExchangeModel::rewrite(Line& line, const QString& text) {
+  // The correction was read alone; in the text the line stands where it always stood.
   const Span place = line.read.Place;
   line.read = read(line, text);
   line.fault = faultIn(text.toStdString(), line.read.ReasonPlace, 0);
@@ -152,7 +157,7 @@ void ExchangeModel::endTrial() {
   if (row < rowCount()) emitMeaning(row);
 }
 
-/// What is written stays out of it: its editor would begin anew.
+/// The column of what is written is left out: a change there would make its editor start over.
 void ExchangeModel::emitMeaning(int row) {
   emit dataChanged(index(row, Take), index(row, Take));
   emit dataChanged(index(row, Understood), index(row, Understood));
@@ -182,6 +187,7 @@ ExchangeModel::Counts ExchangeModel::counts() const {
     counts.unclear += IsUnclear(line.read) ? 1 : 0;
     counts.ofOthers += isOfOther(line.read) ? 1 : 0;
     counts.taken += order && line.taken ? 1 : 0;
+    // Of several orders of one unit only the last takes the place of the one in the list.
     const bool isLast = order && line.taken && !isRepeatedBelow(row);
     counts.replacing += isLast && isReplacing(line.read) ? 1 : 0;
   }
@@ -237,12 +243,14 @@ QVariant ExchangeModel::data(const QModelIndex& index, int role) const {
   const int row = index.row();
   if (role == Qt::ForegroundRole) {
     const LineKind kind = line(row).Kind;
+    // Headings and remarks are subdued, so that orders stand out.
     const bool aside = kind == LineKind::PassedOver || kind == LineKind::Heading;
     return aside ? QVariant(QGuiApplication::palette().brush(QPalette::PlaceholderText))
                  : QVariant();
   }
   if (index.column() == Understood) return understoodData(row, role);
   if (index.column() == Written) return writtenData(row, role);
+  // The first column has a box to tick where there is an order to take, and nothing elsewhere.
   if (line(row).Kind != LineKind::Order) return {};
   if (role == Qt::CheckStateRole) return at(row).taken ? Qt::Checked : Qt::Unchecked;
   if (role == Qt::AccessibleTextRole) return at(row).taken ? tr("taken") : tr("left out");
@@ -268,10 +276,10 @@ QVariant ExchangeModel::understoodData(int row, int role) const {
 
 QVariant ExchangeModel::writtenData(int row, int role) const {
   const Line& shown = at(row);
-  const bool anew = shown.written != shown.original;
+  const bool corrected = shown.written != shown.original;
   if (role == Qt::DisplayRole || role == Qt::EditRole) return shown.written;
-  if (role == Qt::ToolTipRole && anew) return tr("Was: %1").arg(shown.original);
-  if (role == Qt::FontRole && anew) {
+  if (role == Qt::ToolTipRole && corrected) return tr("Was: %1").arg(shown.original);
+  if (role == Qt::FontRole && corrected) {
     QFont font = QGuiApplication::font();
     font.setItalic(true);
     return font;
@@ -281,6 +289,7 @@ QVariant ExchangeModel::writtenData(int row, int role) const {
 
 bool ExchangeModel::setData(const QModelIndex& index, const QVariant& value, int role) {
   Line& line = at(index.row());
+  // What was tried is now either set or given up.
   m_trial.reset();
   if (index.column() == Take && role == Qt::CheckStateRole) {
     line.taken = value.toInt() == Qt::Checked;

@@ -13,7 +13,10 @@
 namespace orb::ui {
 
 /// A text of orders line by line: what was written and the order that was understood. Every order
-/// can be taken or left out, every line written anew.
+/// can be taken or left out, and every line can be corrected.
+///
+/// The lines are not independent: what a support means can depend on the other orders, so unclear
+/// lines are read again after every correction. Orders that were clear stay as they are.
 class ExchangeModel : public QAbstractTableModel {
   Q_OBJECT
 
@@ -32,24 +35,30 @@ class ExchangeModel : public QAbstractTableModel {
   ExchangeModel(const model::GameState& game, std::string text,
                 std::vector<exchange::TextRepair> repairs, QObject* parent);
 
-  /// The abbreviation of the power whose orders the text should hold; empty: those of all. Lines
-  /// that were written anew stay so.
+  /// The abbreviation of the power whose orders the text should hold; empty: those of all. The text
+  /// is read again for it, and corrected lines keep their corrections.
   void setPower(const std::string& power);
 
-  /// Shows what a line would mean until it is written or the trial ends.
+  /// Shows what a line would mean with another text, until it is set or the trial ends.
   void tryText(int row, const QString& text);
+
+  /// Shows the line as it is again.
   void endTrial();
 
   /// The power that the text itself is for, as far as it says so; else empty.
   std::string powerOfText() const;
 
+  /// A line as it was understood; during a trial as it would be.
   const exchange::ReadLine& line(int row) const;
+  /// Whether the line holds nothing of an order, as greetings do. A corrected line is never passed
+  /// over: whoever wrote into it wants to see it.
   bool isNoOrder(int row) const;
 
   /// The part of the written text that made the line unclear: offset and length in characters.
   std::pair<int, int> fault(int row) const { return at(row).fault; }
 
   Counts counts() const;
+  /// The orders that are ticked, in the order of the text.
   std::vector<exchange::ReadLine> takenLines() const;
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -63,7 +72,7 @@ class ExchangeModel : public QAbstractTableModel {
   struct Line {
     exchange::ReadLine read;
     QString written;
-    QString original;           ///< before it was written anew
+    QString original;           ///< before it was corrected
     std::string power;          ///< that the lines there are for
     std::pair<int, int> fault;  ///< in the written text
     bool taken = false;
@@ -71,9 +80,11 @@ class ExchangeModel : public QAbstractTableModel {
 
   exchange::ReadLine read(const Line& line, const QString& text) const;
   void rewrite(Line& line, const QString& text);
+  // What setPower and setData are made of.
   void readUnclearAgain();
   void emitMeaning(int row);
   void takeAnew(const std::vector<Line>& before);
+  // What is doubtful about an order that was understood.
   bool isOfOther(const exchange::ReadLine& line) const;
   bool isRepeatedBelow(int row) const;
   bool isReplacing(const exchange::ReadLine& line) const;
@@ -84,6 +95,7 @@ class ExchangeModel : public QAbstractTableModel {
   Line& at(int row) { return m_lines[static_cast<std::size_t>(row)]; }
 
   const model::GameState& m_game;
+  /// The whole text as it came in; every choice of a power reads it from the beginning.
   std::string m_text;
   std::vector<exchange::TextRepair> m_repairs;
   std::string m_power;

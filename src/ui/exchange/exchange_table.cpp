@@ -15,7 +15,7 @@ namespace {
 
 using exchange::LineKind;
 
-/// Writes a line anew and shows at every key what it would mean.
+/// Edits a line, and shows after every key what it would mean.
 class WrittenDelegate : public QStyledItemDelegate {
  public:
   WrittenDelegate(ExchangeModel& model, QObject* parent)
@@ -26,6 +26,7 @@ class WrittenDelegate : public QStyledItemDelegate {
     auto* editor = new QLineEdit(parent);
     editor->setObjectName(QStringLiteral("txtExchangeLine"));
     editor->setAccessibleName(QObject::tr("The line"));
+    // textEdited, unlike textChanged, does not come when the view fills the editor.
     const int row = index.row();
     connect(editor, &QLineEdit::textEdited, &m_model,
             [&model = m_model, row](const QString& text) { model.tryText(row, text); });
@@ -62,16 +63,21 @@ class UnderstoodDelegate : public OrderMarkDelegate {
     box->setPlaceholderText(QObject::tr("Choose what it means"));
     for (const std::string& order : m_model.line(index.row()).Candidates)
       box->addItem(text::ToQString(order));
+    // Nothing is chosen beforehand: a guess would be too easily accepted.
     box->setCurrentIndex(-1);
+    // The signals are those of a delegate that can change; Qt makes its editors in a const
+    // function.
     auto* self = const_cast<UnderstoodDelegate*>(this);
     connect(box, &QComboBox::activated, self, [self, box] {
       emit self->commitData(box);
       emit self->closeEditor(box);
     });
+    // The view places the box only after this function; its list comes up where the box is then.
     QTimer::singleShot(0, box, &QComboBox::showPopup);
     return box;
   }
 
+  // Qt would choose the entry that equals the cell's text, which is the fault found in the line.
   void setEditorData(QWidget* /*editor*/, const QModelIndex& /*index*/) const override {}
 
   void setModelData(QWidget* editor, QAbstractItemModel* model,
@@ -94,12 +100,14 @@ ExchangeTable::ExchangeTable(ExchangeModel& model, QWidget* parent)
   setSelectionBehavior(SelectRows);
   setSelectionMode(SingleSelection);
   setEditTriggers(DoubleClicked | EditKeyPressed);
+  // The Tab key leaves the table; the arrow keys move in it.
   setTabKeyNavigation(false);
   setWordWrap(false);
   setShowGrid(false);
   setAlternatingRowColors(true);
   setHorizontalScrollMode(ScrollPerPixel);
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  // Fixed: measuring every line would slow down long texts.
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
   verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
   horizontalHeader()->setSectionResizeMode(ExchangeModel::Take, QHeaderView::ResizeToContents);
@@ -122,6 +130,7 @@ void ExchangeTable::applyHiding() {
 
 void ExchangeTable::selectFirst() {
   int first = -1;
+  // From the end, so that an unclear line further up replaces what was found below.
   for (int row = m_model.rowCount() - 1; row >= 0; --row) {
     if (isRowHidden(row)) continue;
     const bool unclear = IsUnclear(m_model.line(row));
@@ -151,6 +160,8 @@ void ExchangeTable::toggle(int row) {
 void ExchangeTable::keyPressEvent(QKeyEvent* event) {
   const QModelIndex current = currentIndex();
   if (current.isValid() && event->key() == Qt::Key_Space) return toggle(current.row());
+  // Qt's own F2 edits only the current cell, and the row's line is meant wherever the current cell
+  // is.
   if (current.isValid() && event->key() == Qt::Key_F2) {
     return current.flags().testFlag(Qt::ItemIsEditable) ? edit(current)
                                                         : editWritten(current.row());
@@ -159,6 +170,7 @@ void ExchangeTable::keyPressEvent(QKeyEvent* event) {
 }
 
 void ExchangeTable::contextMenuEvent(QContextMenuEvent* event) {
+  // The menu key has no place of its own on the screen: the menu comes up below the line.
   const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
   const QModelIndex at = byKey ? currentIndex() : indexAt(event->pos());
   if (!at.isValid()) return;
@@ -185,6 +197,7 @@ void ExchangeTable::contextMenuEvent(QContextMenuEvent* event) {
 
 void ExchangeTable::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
+  // Otherwise columns that the user has set would jump when only the height changes.
   if (event->oldSize().width() == event->size().width()) return;
   const int rest = viewport()->width() - columnWidth(ExchangeModel::Take);
   setColumnWidth(ExchangeModel::Written, rest * 2 / 5);

@@ -6,8 +6,9 @@
 
 namespace orb::ui {
 
-/// The lines of a text of orders. The space bar takes a line or leaves it out, F2 or a double click
-/// writes it anew or offers what it can mean.
+/// The lines of a text of orders, in three columns: a box to tick, what is written, and the order
+/// that was understood. The space bar ticks a line or unticks it; F2 or a double click edits it or,
+/// in the right column, offers what it can mean.
 class ExchangeTable : public QTableView {
   Q_OBJECT
 
@@ -17,10 +18,10 @@ class ExchangeTable : public QTableView {
   /// Whether lines that are no orders are shown too.
   void showNoOrders(bool shown);
 
-  /// Selects the first line that needs a look.
+  /// Selects the first line that is unclear; the first one shown when all are clear.
   void selectFirst();
 
-  /// Takes over what is still being written.
+  /// Takes over what is still being written: the buttons must not work on the text from before.
   void finishEditing();
 
  protected:

@@ -41,6 +41,7 @@ void OwnersPicture::showOwners() {
 
 void OwnersPicture::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
+  // The drawing knows no themes: it is given the font and the colours of the one in use.
   render::PainterSurface surface(painter, rect(), QSizeF(size()) * TwipsPerPixel, m_noPictures);
   surface.SetPaper(palette().color(QPalette::Base));
   surface.SetFontFamily(font().family());

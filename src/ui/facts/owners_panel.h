@@ -7,7 +7,8 @@
 
 namespace orb::ui {
 
-/// A picture of the supply centres of every power, as wide as it is given and as high as it needs.
+/// A picture of the supply centres of every power: as wide as there is room, and as high as that
+/// makes it.
 class OwnersPicture : public QWidget {
   Q_OBJECT
 
@@ -24,7 +25,7 @@ class OwnersPicture : public QWidget {
   render::PictureCache m_noPictures;
 };
 
-/// The supply-centre ownership panel.
+/// The supply-centre ownership panel: the picture, scrolled where it is higher than the panel.
 class OwnersPanel : public QScrollArea {
   Q_OBJECT
 

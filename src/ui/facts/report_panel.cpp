@@ -14,6 +14,7 @@
 namespace orb::ui {
 namespace {
 
+// How many lines of text the reason takes at the least and at the most.
 constexpr int FewestReasonLines = 2;
 constexpr int ReasonLines = 4;
 
@@ -31,6 +32,7 @@ ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
   m_reason->setWordWrap(true);
   m_reason->setTextFormat(Qt::PlainText);
   m_reason->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  // A game master quotes reasons in mails.
   m_reason->setTextInteractionFlags(Qt::TextSelectableByMouse);
   layOut();
   addListActions();
@@ -61,6 +63,7 @@ void ReportPanel::addListActions() {
   auto* selectAll = new QAction(tr("Select &all"), m_lines);
   selectAll->setShortcut(QKeySequence::SelectAll);
   for (QAction* action : {copy, selectAll}) {
+    // Elsewhere in the window the same keys copy the map.
     action->setShortcutContext(Qt::WidgetShortcut);
     m_lines->addAction(action);
   }
@@ -80,6 +83,7 @@ void ReportPanel::changeEvent(QEvent* event) {
 }
 
 void ReportPanel::showReport() {
+  // A report that is the same stays as it is, with what is selected in it.
   const auto& report = m_desk.game().ReportLines;
   if (showTexts(*m_lines, {report.begin(), report.end()})) {
     colourLines();
@@ -99,6 +103,7 @@ void ReportPanel::colourLines() {
 
 void ReportPanel::showReason() {
   const QListWidgetItem* current = m_lines->currentItem();
+  // Of several selected lines the current one is explained.
   const bool chosen = current != nullptr && current->isSelected();
   m_reason->setForegroundRole(chosen ? QPalette::WindowText : QPalette::PlaceholderText);
   m_reason->setText(tr("Select a line to read why it came out so."));

@@ -11,14 +11,15 @@
 
 namespace orb::ui {
 
-/// The report of the season resolved last; a selected line says why it came out so.
+/// The report of the season resolved last, line by line; failed orders are red. Below it stands why
+/// the selected line came out as it did. Hidden as long as there is no report.
 class ReportPanel : public QWidget {
   Q_OBJECT
 
  public:
   explicit ReportPanel(const Desk& desk, QWidget* parent = nullptr);
 
-  /// The user is about to read the report.
+  /// The keyboard goes to the first line, so that the arrow keys lead through the reasons.
   void startReading();
 
  signals:
@@ -30,8 +31,10 @@ class ReportPanel : public QWidget {
 
  private:
   void layOut();
+  /// Copying and selecting everything, by key and in the list's own menu.
   void addListActions();
   void showReport();
+  /// Needed again when the theme changes from light to dark.
   void colourLines();
   void showReason();
   void copySelectedLines();

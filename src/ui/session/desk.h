@@ -14,8 +14,8 @@
 namespace orb::ui {
 
 /// The one game of the window, how it is shown, and the commands on both: each is handed on to the
-/// session and told in signals that say what changed. A command that meets a fatal error is
-/// reported in an error box, and everything stays as it was.
+/// session, and signals say what has changed. When a command meets a fatal error, an error box
+/// shows it and everything stays as it was.
 class Desk : public QObject {
   Q_OBJECT
 

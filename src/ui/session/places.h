@@ -4,7 +4,7 @@
 
 namespace orb::ui {
 
-/// The directories that the window works with.
+/// The directories that the window works with. Tests give it some of their own.
 struct Places {
   std::filesystem::path program;  ///< of the program file, and of the data files beside it
   std::filesystem::path config;   ///< the user's own for this program; need not exist yet

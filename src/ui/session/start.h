@@ -9,7 +9,7 @@
 
 namespace orb::ui {
 
-/// What the window opens with.
+/// What the window opens with. Made before the window, so that a start that fails shows no window.
 struct Start {
   session::Situation situation;
   View view = {};

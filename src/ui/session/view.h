@@ -7,7 +7,7 @@
 
 namespace orb::ui {
 
-/// How the window shows its game.
+/// How the window shows its game. None of it is part of the game or of its file.
 struct View {
   settings::MapOptions mapOptions = {};
   bool viewOnly = false;    ///< only the map is shown
