@@ -47,6 +47,7 @@ class StartMessages : public ui::MessageBoxes {
   bool m_display;
 };
 
+/// The data files lie next to the program, so that a folder with both can be moved as a whole.
 ui::Places systemPlaces() {
   const QString config = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
   return {model::ProgramDirectory(), QFile::encodeName(config).toStdString()};

@@ -13,7 +13,7 @@ namespace {
 constexpr QSize Size(116, 28);
 constexpr double Corner = 4;
 
-/// Like the map's own ground, in light and dark themes.
+/// Like the land on the map, in light and dark themes alike.
 constexpr QColor Paper(238, 232, 214);
 
 }  // namespace

@@ -49,6 +49,7 @@ QString nameOf(colour::Vision eyes) {
   }
 }
 
+/// "France and Italy: for red-blind, green-blind eyes".
 QString sentenceOn(const colour::AlikePowers& pair, const model::CountryTable& countries) {
   QString eyes = ColoursDialog::tr("for everybody");
   if (pair.Eyes.front() != colour::Vision::Normal) {
@@ -149,6 +150,7 @@ QPushButton* ColoursDialog::newColourButton(int power, Part part, const QString&
 }
 
 void ColoursDialog::chooseColour(int power, Part part, const QString& what) {
+  // Cancelling the choice takes back one colour, cancelling the dialog all of them.
   const model::CountryTable before = m_colours;
   QColorDialog chooser(colour::ToQColor(m_colours[power].*part), this);
   // Qt's own dialog reports every colour that is tried, so that the map can follow.

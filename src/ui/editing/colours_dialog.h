@@ -39,6 +39,7 @@ class ColoursDialog : public QDialog {
   void take(const model::CountryTable& colours);
   void showColours();
 
+  /// A button and the colour that it shows and changes.
   struct ColourButton {
     QPushButton* button;
     int power;
@@ -46,6 +47,7 @@ class ColoursDialog : public QDialog {
   };
 
   Desk& m_desk;
+  /// The colours to go back to when the dialog is cancelled.
   model::CountryTable m_before;
   model::CountryTable m_colours;
   std::vector<ColourSample*> m_samples;

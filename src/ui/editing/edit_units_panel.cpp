@@ -46,7 +46,8 @@ QString unitLine(const GameState& game, const Unit& unit) {
   return QObject::tr("%1, dislodged from %2").arg(line, ToQString(unit.DislodgedFrom));
 }
 
-/// The unit whose symbol the spot is on, the nearest where they overlap; 0: none.
+/// The unit whose symbol the spot is on, the nearest where they overlap; 0: none. The size is the
+/// map's natural size, in which the reach of symbols is given.
 int nearestSymbol(const GameState& game, const MapSpot& spot, const QSizeF& size) {
   int nearest = 0;
   double least = SymbolReach;
@@ -204,7 +205,7 @@ void EditUnitsPanel::mapDragMoved(const MapSpot& over) {
           ? std::string()
           : model::MoveFault(game(), m_drag->unit, over.game.Map->Provinces[m_drag->target].Name);
   m_drag->possible = m_drag->target != 0 && fault.empty();
-  // The cursor and the status bar tell, before the unit is dropped, what would become of it.
+  // The cursor and the status bar show what would happen before the unit is dropped.
   map().setCursor(m_drag->possible ? Qt::ClosedHandCursor : Qt::ForbiddenCursor);
   map().update();
   const QString goal = m_drag->target == 0

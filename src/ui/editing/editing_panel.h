@@ -14,7 +14,7 @@
 
 namespace orb::ui {
 
-/// What tells the panels for editing apart: the names of their controls and their texts.
+/// How the panels for editing differ: in the names of their controls and in their texts.
 struct EditingTexts {
   QString panel;
   QString list;
@@ -28,10 +28,10 @@ struct EditingTexts {
 
 /// The common part of the two panels for editing: a list of what can be edited, so that everything
 /// can be done without a mouse too, and buttons for the steps. The panel is also the tool of the
-/// map beside it, and rings there what is selected in the list.
+/// map next to it, and rings there what is selected in the list.
 ///
 /// Every change is one step that can be taken back. The panel itself keeps no copy of the game: it
-/// hands each step to the desk, and shows anew what the desk then holds.
+/// passes each step to the desk, and then shows what the desk holds.
 class EditingPanel : public QWidget, public MapTool {
   Q_OBJECT
 
@@ -91,6 +91,7 @@ class EditingPanel : public QWidget, public MapTool {
   // A hidden panel shows nothing; it catches up when it comes up.
   void showGame();
   void showEntries();
+  /// The key of the entry in a row of the list, counted from 0.
   int keyOf(int row) const;
 
   Desk& m_desk;

@@ -48,6 +48,7 @@ void ProvinceDialog::fillIn() {
   }
   for (int power = 0; power <= model::CountryCount; ++power)
     m_owner->addItem(powerIcon(m_game.Countries, power), powerName(m_game.Countries, power));
+  // The rows of the box are those of the powers, after row 0 for none.
   m_owner->setCurrentIndex(model::FindCountry(m_game.Provinces[m_province].Owner));
 }
 

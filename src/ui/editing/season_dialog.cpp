@@ -102,6 +102,8 @@ void SeasonDialog::nameControls() {
   }
 }
 
+/// At the left everything short, in the order of the season's record; at the right the free text,
+/// which takes whatever room there is.
 QLayout* SeasonDialog::newFactsColumn() {
   m_title->setPlaceholderText(text::ToQString(model::DefaultTitle));
   m_title->setMinimumWidth(NameColumns * fontMetrics().averageCharWidth());
@@ -154,6 +156,7 @@ QLayout* SeasonDialog::newTextColumn() {
 void SeasonDialog::showFacts() {
   const model::SeasonFacts facts = model::SeasonFactsOf(m_game);
   m_title->setText(text::ToQString(facts.Title));
+  // A new title replaces the old one as it is typed.
   m_title->selectAll();
   choose(*m_season, facts.Season);
   m_year->setValue(facts.Year);

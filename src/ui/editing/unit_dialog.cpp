@@ -46,6 +46,7 @@ UnitDialog::UnitDialog(const model::GameState& game, model::Unit shown, int repl
   m_power->setObjectName(QStringLiteral("cboPower"));
   layOut();
   fillIn();
+  // The two types exclude each other, so one button reports every change.
   connect(m_army, &QRadioButton::toggled, this, &UnitDialog::offerPlaces);
   connect(m_dislodged, &QCheckBox::toggled, this, &UnitDialog::check);
   for (QComboBox* box : {m_power, static_cast<QComboBox*>(m_location),

@@ -17,6 +17,7 @@ struct Offer {
 std::vector<Offer> offers(const model::GameState& game, const std::string& place,
                           const std::string& power) {
   std::vector<Offer> found;
+  // Every coast is an offer of its own; a fault means that the unit cannot stand there.
   for (const char* type : {"A", "F"}) {
     const std::vector<int> rows = model::StandingPlaces(*game.Map, type, place);
     for (const int row : rows) {

@@ -34,6 +34,7 @@ AdjustmentCounts::AdjustmentCounts(const Desk& desk, QWidget* parent)
   grid->setContentsMargins({});
   grid->setVerticalSpacing(2);
   grid->setHorizontalSpacing(fontMetrics().averageCharWidth());
+  // A row for each figure and a column for each power; all columns share the width evenly.
   const auto add = [grid](const QString& text, int row, int column) {
     auto* label = new QLabel(text);
     grid->addWidget(label, row, column, column == 0 ? Qt::AlignLeft : Qt::AlignRight);

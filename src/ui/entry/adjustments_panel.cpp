@@ -25,7 +25,7 @@ AdjustmentsPanel::AdjustmentsPanel(Desk& desk, QWidget* parent)
   addCommand({QStringLiteral("butAdjustmentBuild"), tr("&Build"),
               tr("The power builds a unit in a home centre"), QStringLiteral(" build ")});
   addCommand({QStringLiteral("butAdjustmentDisband"), tr("D&isband"),
-              tr("The power takes a unit away"), QStringLiteral(" disband ")});
+              tr("The power removes a unit"), QStringLiteral(" disband ")});
   addTypeOption(QStringLiteral("optAdjustmentArmy"), tr("&Army"), "A")->setChecked(true);
   m_fleet = addTypeOption(QStringLiteral("optAdjustmentFleet"), tr("F&leet"), "F");
 }

@@ -46,7 +46,7 @@ void showMarks(QListWidget& list, const ListCheck& check,
   for (int row = 0; row < list.count(); ++row) {
     const QString reason = lines(check.Lines.at(static_cast<std::size_t>(row)));
     if (stopped && stopped->Row == row) {
-      // The check tells the result and more.
+      // The check says the same and more.
       const QString why = reason.isEmpty() ? text::ToQString(ResultWord(stopped->Result)) : reason;
       showMark(*list.item(row), OrderMark::Stopped,
                QObject::tr("Resolving stopped here: %1").arg(why));

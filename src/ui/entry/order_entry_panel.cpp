@@ -67,10 +67,11 @@ void OrderEntryPanel::layOut(const OrderEntryTexts& texts) {
   m_delete =
       addButton(texts.remove, tr("&Delete"),
                 tr("Removes the selected order from the list (Del in the list)"), ListRow, 1);
-  m_help = addButton(texts.help, tr("Hel&p"), tr("Tells how orders are entered"), ListRow, 2);
+  m_help = addButton(texts.help, tr("Hel&p"), tr("Explains how to enter orders"), ListRow, 2);
   m_resolve = addButton(texts.resolve, tr("&Resolve"), texts.resolveTip, ListRow, 3);
   // Marked as the way on; in the box and in the list the Enter key does something else.
   m_resolve->setDefault(true);
+  // Sets the last row apart from the commands: its buttons work on the list and the stage.
   m_grid->setRowMinimumHeight(GapRow, Gap);
   m_lastCommand = m_ok;
 }
@@ -198,6 +199,7 @@ void OrderEntryPanel::markLines() {
 }
 
 void OrderEntryPanel::showStoppedLine() {
+  // The line to be mended gets the keyboard, so that the Enter key brings it into the box.
   if (m_desk.game().Stage != m_stage || !m_desk.now().Stopped) return;
   m_list->setCurrentRow(m_desk.now().Stopped->Row);
   m_list->setFocus();
@@ -218,6 +220,7 @@ void OrderEntryPanel::showEvent(QShowEvent* event) {
 
 void OrderEntryPanel::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
+  // How wide a caption is depends on both.
   if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) alignColumns();
 }
 
@@ -238,7 +241,7 @@ bool OrderEntryPanel::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void OrderEntryPanel::fileOrder() {
-  // A line in which no unit can be recognized is not filed, and stays to be mended.
+  // A line in which no unit can be recognized is not filed, and stays in the box to be corrected.
   if (m_desk.fileOrder(line())) {
     m_list->setCurrentRow(m_list->count() - 1);
     m_text->clear();

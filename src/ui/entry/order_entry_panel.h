@@ -15,7 +15,8 @@
 
 namespace orb::ui {
 
-/// A button that appends words to the line.
+/// A button that appends words to the line. The words bring their own blanks, so that the line is
+/// right whatever is clicked or typed next.
 struct EntryCommand {
   QString name;
   QString caption;
@@ -23,7 +24,7 @@ struct EntryCommand {
   QString words;
 };
 
-/// What tells the panels of the three stages apart: the names of their controls and their texts.
+/// How the panels of the three stages differ: in the names of their controls and in their texts.
 struct OrderEntryTexts {
   QString panel;
   QString list;

@@ -22,7 +22,7 @@ RetreatsPanel::RetreatsPanel(Desk& desk, QWidget* parent)
                       parent) {
   addCommand({QStringLiteral("butRetreatRetreat"), tr("Retre&at"),
               tr("The unit retreats: where to follows"), QStringLiteral("retreat ")});
-  addCommand({QStringLiteral("butRetreatDisband"), tr("Dis&band"), tr("The unit is taken away"),
+  addCommand({QStringLiteral("butRetreatDisband"), tr("Dis&band"), tr("The unit is removed"),
               QStringLiteral("disband ")});
 }
 

@@ -18,6 +18,7 @@ QLabel* newText(const QString& text) {
 SeasonFinishedPanel::SeasonFinishedPanel(Desk& desk, QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("fraSeasonFinished"));
   auto* next = newButton(QStringLiteral("butNextSeason"), tr("&Next season"));
+  // Marked as the way on, but the keyboard goes to the report first.
   next->setDefault(true);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});

@@ -12,6 +12,7 @@
 namespace orb::ui {
 namespace {
 
+/// "1 order", "2 orders".
 QString counted(int count, const QString& one, const QString& many) {
   return QStringLiteral("%1 %2").arg(count).arg(count == 1 ? one : many);
 }
@@ -134,6 +135,7 @@ void ExchangeDialog::showCounts() {
   if (counts.ofOthers > 0) parts << tr("%1 of another power").arg(counts.ofOthers);
   m_count->setText(parts.join(QStringLiteral(", ")));
 
+  // An import takes the orders of every power, so there is none to choose.
   const bool chosen = m_power == nullptr || m_power->currentIndex() >= 0;
   m_ok->setEnabled(chosen && counts.taken > 0);
   const QString filed = counted(counts.taken, tr("order"), tr("orders"));

@@ -25,7 +25,7 @@ std::string_view unitOf(const ReadLine& line) {
   return std::string_view(line.Order).substr(0, line.Order.find(')') + 1);
 }
 
-/// Faults are told in small letters, to stand after a colon; here they stand alone.
+/// The core's faults begin with a small letter, to follow a colon; here they are sentences.
 QString sentence(const std::string& text) {
   QString shown = displayText(text);
   if (!shown.isEmpty()) shown[0] = shown[0].toUpper();

@@ -24,6 +24,7 @@ class ExchangeModel : public QAbstractTableModel {
   enum Column { Take, Written, Understood, ColumnCount };
 
   struct Counts {
+    // Numbers of lines, except the last.
     int orders = 0;    ///< understood, of other powers too
     int unclear = 0;   ///< not understood or ambiguous
     int ofOthers = 0;  ///< orders of other powers than the chosen one

@@ -32,6 +32,8 @@ class ExchangeTable : public QTableView {
  private:
   void editWritten(int row);
   void toggle(int row);
+  /// Hides the lines that are no orders, or shows them; again after the model has read the text
+  /// anew.
   void applyHiding();
 
   ExchangeModel& m_model;

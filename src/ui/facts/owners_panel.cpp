@@ -57,6 +57,7 @@ OwnersPanel::OwnersPanel(const Desk& desk, QWidget* parent) : QScrollArea(parent
   setAccessibleName(tr("Supply centres"));
   setFrameShape(QFrame::NoFrame);
   setWidgetResizable(true);
+  // The drawing breaks its lines at whatever width it gets.
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   auto* page = new QWidget;
   page->setBackgroundRole(QPalette::Base);

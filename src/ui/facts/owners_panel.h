@@ -22,6 +22,7 @@ class OwnersPicture : public QWidget {
   void showOwners();
 
   const Desk& m_desk;
+  /// The surface asks for one; nothing here draws a picture of a file.
   render::PictureCache m_noPictures;
 };
 

@@ -25,8 +25,10 @@ ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
   setObjectName(QStringLiteral("fraReport"));
   m_lines->setObjectName(QStringLiteral("lstReport"));
   m_lines->setAccessibleName(tr("Report"));
+  // The report marks failed orders with brackets in columns, which need letters of equal widths.
   m_lines->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   m_lines->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  // Long lines are wrapped rather than scrolled to.
   m_lines->setWordWrap(true);
   m_reason->setObjectName(QStringLiteral("lblReason"));
   m_reason->setWordWrap(true);

@@ -36,7 +36,9 @@ class ReportPanel : public QWidget {
   void showReport();
   /// Needed again when the theme changes from light to dark.
   void colourLines();
+  /// Shows why the current line came out so, or how to find out while none is selected.
   void showReason();
+  /// Copies them as they stand, one per line, so that they can be quoted in a mail.
   void copySelectedLines();
 
   const Desk& m_desk;

@@ -5,14 +5,16 @@
 
 namespace orb::ui {
 
-/// A place in the help: a topic, from 0 (-1: nowhere), and how far its page is scrolled.
+/// A place in the help: a topic, counted from 0 (-1: nowhere), and how far its page is scrolled, in
+/// pixels.
 struct HelpPlace {
   int topic = -1;
   int scroll = 0;
   bool found = false;  ///< reached by searching
 };
 
-/// The places a reader has been at, with one that is here. A reader starts nowhere.
+/// The places a reader has visited, in order, and the one of them where the reader is now. At first
+/// that is nowhere. Back and Forward move along the places without changing them.
 class HelpHistory {
  public:
   HelpPlace& here() { return m_places[m_here]; }

@@ -19,6 +19,7 @@ QString topicOf(const session::Situation& situation) {
   return QObject::tr("Entering orders");
 }
 
+/// In a menu a single ampersand marks the entry's key.
 QString shownAsIs(QString text) {
   return text.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
@@ -40,6 +41,7 @@ HelpMenu::HelpMenu(const Desk& desk, model::Messages& messages, QWidget* window)
     : QMenu(tr("&Help"), window), m_desk(desk), m_messages(messages), m_window(window) {
   setObjectName(QStringLiteral("mnuHelp"));
   QString takenKeys;
+  // Keys are given out in the order of the entries, so that the topics have the first choice.
   addTopics(takenKeys);
   addSeparator();
   QAction* about = newEntry(*this, QStringLiteral("mnuHelpAbout"), withKey(tr("About"), takenKeys));
@@ -53,7 +55,7 @@ void HelpMenu::addTopics(QString& takenKeys) {
   try {
     m_topics = help::LoadHelpTopics(m_desk.dataDirectory());
   } catch (const model::FatalError& fault) {
-    // A window without its help is better than none; who asks for a topic is told why.
+    // A window without help is better than none. Whoever asks for a topic learns the reason.
     m_fault = fault.what();
   }
   for (const help::HelpTopic& topic : m_topics) {
@@ -89,6 +91,7 @@ void HelpMenu::showTopicOver(const QString& caption, QWidget* dialog) {
 void HelpMenu::showStage() {
   const QString wanted = topicOf(m_desk.now());
   for (std::size_t i = 0; i < m_entries.size(); ++i) {
+    // The captions are data; when none fits, F1 does nothing.
     const bool here = text::ToQString(m_topics[i].Caption) == wanted;
     m_entries[i]->setShortcut(here ? QKeySequence(Qt::Key_F1) : QKeySequence());
   }

@@ -8,6 +8,7 @@
 namespace orb::ui {
 namespace {
 
+// Lengths without a unit are in pixels.
 constexpr int LineLength = 100;  // letters of average width
 constexpr double Margin = 18;
 constexpr double Indent = 24;  // of lists
@@ -17,6 +18,7 @@ constexpr double Indent = 24;  // of lists
 HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent) {
   document()->setDocumentMargin(Margin);
   document()->setIndentWidth(Indent);
+  // The window follows links itself, as they belong to its history.
   setOpenLinks(false);
   setFrameShape(QFrame::NoFrame);
   setLineWrapMode(QTextEdit::FixedPixelWidth);

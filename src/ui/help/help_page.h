@@ -4,7 +4,8 @@
 
 namespace orb::ui {
 
-/// The text of a help topic, in lines that are never too long to be read with ease.
+/// The text of a help topic, in lines that are never too long to be read with ease, however wide
+/// the window is.
 class HelpPage : public QTextBrowser {
   Q_OBJECT
 

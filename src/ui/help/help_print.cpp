@@ -40,6 +40,7 @@ void askToPrintHelp(const help::HelpTopics& topics, const help::HelpTopics& all,
   printer.setDocName(QObject::tr("ORB Help"));
   QPrintDialog dialog(&printer, parent);
   dialog.setWindowTitle(text::ToQString(model::ProgramName) + QObject::tr(" Print Help"));
+  // There is no selection to print, and no page range to choose.
   dialog.setOptions(QAbstractPrintDialog::PrintToFile);
   if (dialog.exec() == QDialog::Accepted) printHelp(topics, all, printer);
 }

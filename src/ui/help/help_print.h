@@ -7,7 +7,8 @@
 
 namespace orb::ui {
 
-/// Prints topics of the help, each beginning a page of its own. Links are read in `all`.
+/// Prints topics of the help, each beginning on a page of its own. `all` are the topics that links
+/// may lead to.
 void printHelp(const help::HelpTopics& topics, const help::HelpTopics& all,
                QPagedPaintDevice& device);
 

@@ -15,8 +15,10 @@ using help::HelpBlockForm;
 using help::HelpSpan;
 using help::HelpSpanForm;
 
+// In pixels.
 constexpr int LineGap = 1;
 
+/// The text with nothing in it that rich text would take for markup.
 QString escaped(const std::string& text) {
   QString shown = text::ToQString(text);
   // The rich text keeps some codes without a character for its own frames.
@@ -28,6 +30,7 @@ QString escaped(const std::string& text) {
   return shown.toHtmlEscaped();
 }
 
+/// In a font of equal widths, in which the help shows everything that is to be typed.
 QString typed(const QString& html, const HelpLook& look) {
   return QStringLiteral("<span style=\"font-family:'%1'\">%2</span>").arg(look.typedFamily, html);
 }
@@ -49,10 +52,12 @@ QString spanHtml(const HelpSpan& span, const help::HelpTopics& topics, const Hel
   }
 }
 
+/// The fonts of a paragraph differ in height; a least line height keeps its lines evenly apart.
 QString lineStyle(const HelpLook& look) {
   return QStringLiteral("-qt-line-height-type:minimum; line-height:%1px").arg(look.lineHeight);
 }
 
+/// Lines that stand as they are, in a box, which Qt's rich text has only in the form of a table.
 QString literalHtml(const std::string& text, const HelpLook& look) {
   const QString box = QStringLiteral(
       "<table width=\"100%\" cellpadding=\"8\" cellspacing=\"0\" "
@@ -79,7 +84,7 @@ QString blockHtml(const HelpBlock& block, const help::HelpTopics& topics, const 
   }
 }
 
-/// So much of the second colour in the first, 0 to 1.
+/// The first colour with this share of the second, 0 to 1.
 QColor blend(const QColor& first, const QColor& second, double part) {
   const auto mix = [part](int a, int b) { return static_cast<int>(a + (b - a) * part); };
   return {mix(first.red(), second.red()), mix(first.green(), second.green()),
@@ -96,6 +101,7 @@ HelpLook helpLook(const QPalette& palette, const QFont& font) {
   look.link = dark ? QColor(0x8a, 0xbf, 0xff) : QColor(0x0b, 0x57, 0xb0);
   look.box = blend(ground, palette.color(QPalette::Text), dark ? 0.09 : 0.06);
   look.typedFamily = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+  // The two fonts have different heights at the same size.
   QFont typedFont(font);
   typedFont.setFamily(look.typedFamily);
   look.lineHeight =
@@ -107,6 +113,7 @@ QString helpHtml(const help::HelpTopic& topic, const help::HelpTopics& topics,
                  const HelpLook& look) {
   QString html = QStringLiteral("<h2 style=\"margin-top:0; margin-bottom:10px\">%1</h2>")
                      .arg(escaped(topic.Caption));
+  // The blocks know only that they are items; consecutive ones make a list.
   bool inList = false;
   for (const HelpBlock& block : help::HelpBlocks(topic.Text)) {
     const bool item = block.Form == HelpBlockForm::Item;
@@ -128,6 +135,7 @@ std::vector<HelpMatch> findInHelp(const std::vector<QString>& texts, const QStri
     while (at >= 0) {
       matches.push_back(
           {static_cast<int>(topic), static_cast<int>(at), static_cast<int>(words.size())});
+      // Matches do not overlap, so each can be marked.
       at = texts[topic].indexOf(words, at + words.size(), Qt::CaseInsensitive);
     }
   }

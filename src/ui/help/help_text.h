@@ -11,10 +11,11 @@
 
 namespace orb::ui {
 
-/// What the text of the help looks like on its ground.
+/// What the text of the help looks like on its background. The page and the printer draw the same
+/// rich text with looks of their own.
 struct HelpLook {
   QColor link;
-  QColor box;  ///< behind the lines that stand as they are
+  QColor box;  ///< the background of lines that are shown as they are
   QString typedFamily;
   int lineHeight = 0;  ///< in pixels; one for all lines, whatever stands in them
 };
@@ -23,7 +24,7 @@ struct HelpLook {
 HelpLook helpLook(const QPalette& palette, const QFont& font);
 
 /// A topic as rich text with its caption as the title. A link goes to "topic:" and the position of
-/// its topic, from 0.
+/// its topic in the list, from 0.
 QString helpHtml(const help::HelpTopic& topic, const help::HelpTopics& topics,
                  const HelpLook& look);
 

@@ -21,6 +21,7 @@
 namespace orb::ui {
 namespace {
 
+// Gaps are in pixels; the window's size is given in letters and lines of text.
 constexpr int Gap = 8;
 constexpr int ItemGap = 3;
 constexpr int FieldLetters = 30;
@@ -66,6 +67,7 @@ HelpWindow::HelpWindow(help::HelpTopics topics, QWidget* parent)
   connect(m_page, &HelpPage::anchorClicked, this, &HelpWindow::followLink);
   connect(m_wanted, &QLineEdit::textChanged, this, &HelpWindow::search);
   connect(m_wanted, &QLineEdit::returnPressed, this, &HelpWindow::findNext);
+  // These two keys have no button.
   new QShortcut(QKeySequence::Cancel, this, this, &QWidget::close);
   new QShortcut(QKeySequence::Find, this, this, &HelpWindow::startSearch);
   restyle();
@@ -92,6 +94,7 @@ QToolBar* HelpWindow::newBar() {
   bar->addSeparator();
   addPrintMenu(*bar);
   auto* gap = new QWidget;
+  // A toolbar has no stretch; an empty widget pushes the search to the right.
   gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   bar->addWidget(gap);
   addSearch(*bar);
@@ -118,6 +121,7 @@ void HelpWindow::addSearch(QToolBar& bar) {
   m_found->setObjectName(QStringLiteral("lblHelpFound"));
   m_found->setContentsMargins(0, 0, Gap, 0);
   m_found->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  // Wide enough for the longest text, so that the field does not move while one types.
   m_found->setMinimumWidth(fontMetrics().horizontalAdvance(tr("not found")) + 20);
   m_wanted->setObjectName(QStringLiteral("txtHelpFind"));
   m_wanted->setAccessibleName(tr("Find in all topics"));
@@ -143,6 +147,7 @@ void HelpWindow::layOut() {
   halves->setStretchFactor(1, 1);
   halves->setChildrenCollapsible(false);
   const QFontMetrics letters = fontMetrics();
+  // The number of matches is added to the captions later.
   const int listWidth =
       m_list->sizeHintForColumn(0) + letters.horizontalAdvance(tr(" (88)")) + 4 * ItemGap;
   const int pageWidth = PageLetters * letters.averageCharWidth();
@@ -154,6 +159,7 @@ void HelpWindow::layOut() {
   column->addWidget(halves, 1);
   const QSize preferred(listWidth + pageWidth, PageLines * letters.lineSpacing());
   resize(preferred.boundedTo(screen()->availableSize()));
+  // The arrow keys scroll the text at once.
   m_page->setFocus();
 }
 
@@ -164,6 +170,7 @@ void HelpWindow::showTopic(const QString& caption) {
     break;
   }
   if (m_history.here().topic < 0 && topicCount() > 0) visit(0, false);
+  // A window that was minimized or lies below others must be seen to answer.
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();
@@ -178,6 +185,7 @@ void HelpWindow::changeEvent(QEvent* event) {
 
 void HelpWindow::visit(int topic, bool found) {
   if (topic < 0 || topic == m_history.here().topic) return;
+  // Going back leads to the line that was being read.
   m_history.here().scroll = m_page->verticalScrollBar()->value();
   m_history.visit({topic, 0, found});
   showHere();
@@ -217,6 +225,7 @@ void HelpWindow::restyle() {
   m_texts.clear();
   for (const help::HelpTopic& topic : m_topics) {
     QTextDocument document;
+    // The search needs the text as the page counts its characters, without markup.
     document.setHtml(helpHtml(topic, m_topics, helpLook(palette(), m_page->font())));
     m_texts.push_back(document.toPlainText());
   }
@@ -232,6 +241,7 @@ void HelpWindow::search(const QString& wanted) {
   m_matches = findInHelp(m_texts, wanted);
   m_match = -1;
   showMatchCounts();
+  // The first match is looked for from the topic being read, not from the first topic.
   const auto fromHere =
       std::find_if(m_matches.begin(), m_matches.end(),
                    [&](const HelpMatch& match) { return match.topic >= m_history.here().topic; });
@@ -262,6 +272,7 @@ void HelpWindow::showMatches() {
     mark.cursor.setPosition(match.start);
     mark.cursor.setPosition(match.start + match.length, QTextCursor::KeepAnchor);
     mark.format.setBackground(current ? QColor(0xff, 0xb3, 0x3c) : QColor(0xff, 0xe9, 0xa8));
+    // The marker's yellow is light in every theme.
     mark.format.setForeground(Qt::black);
     marks << mark;
   }

@@ -17,8 +17,9 @@ namespace orb::ui {
 
 class HelpPage;
 
-/// The help: the topics at the left, the text of one at the right. It stays open beside the window
-/// that it belongs to.
+/// The help: the topics at the left, the text of one at the right, and above them the way back and
+/// forward, printing, and the search through all topics. It stays open beside the window that it
+/// belongs to.
 class HelpWindow : public QWidget {
   Q_OBJECT
 
@@ -33,6 +34,7 @@ class HelpWindow : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
+  /// A command with its keys, which work everywhere in the window; the first key stands in its tip.
   QAction* addCommand(const QString& name, const QString& text, const QList<QKeySequence>& keys,
                       void (HelpWindow::*slot)());
   QToolBar* newBar();
@@ -41,19 +43,24 @@ class HelpWindow : public QWidget {
   void layOut();
 
   int topicCount() const { return static_cast<int>(m_topics.size()); }
+  // Where the reader is. Every way to a topic leads through visit, which keeps the history.
   void visit(int topic, bool found);
   void goBack();
   void goForward();
   void followLink(const QUrl& link);
   void showHere();
+  /// Renders all texts again, in the colours and the font now in force.
   void restyle();
 
+  // The search runs at every letter typed, and marks all matches in the topic shown.
   void startSearch();
   void search(const QString& wanted);
   void findNext() { goToMatch(m_match + 1); }
   void findPrevious() { goToMatch(m_match - 1); }
+  /// Beyond the last match comes the first, and the other way round.
   void goToMatch(int match);
   void showMatches();
+  /// How many matches each topic has, after its name in the list.
   void showMatchCounts();
 
   void printTopic();

@@ -27,6 +27,7 @@ MapPicture::MapPicture(const Desk& desk, model::Messages& messages, QWidget* par
   setAccessibleName(tr("Map"));
   setMouseTracking(true);
   setFocusPolicy(Qt::ClickFocus);
+  // The picture fills the widget, so nothing needs to be cleared before.
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -92,6 +93,8 @@ int MapPicture::fittingPixelWidth() const {
 }
 
 const render::HitMap& MapPicture::hitMap() {
+  // Loaded at the first click or move. If that fails, the error is shown once, and an empty one is
+  // used.
   if (!m_hitMap) {
     const double aspect = static_cast<double>(m_naturalSize.width()) / m_naturalSize.height();
     m_hitMap.emplace(aspect);
@@ -118,6 +121,7 @@ void MapPicture::mouseMoveEvent(QMouseEvent* event) {
   event->setAccepted((event->buttons() & Qt::MiddleButton) == 0);
   hover(locationAt(event->position()));
   if (m_tool == nullptr || !m_pressed) return;
+  // A hand is never quite still: a short way is still a click.
   const bool far =
       (event->position() - *m_pressed).manhattanLength() >= QApplication::startDragDistance();
   if (!m_dragging && far) {

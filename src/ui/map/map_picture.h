@@ -15,6 +15,10 @@
 namespace orb::ui {
 
 /// The map, drawn at the screen's own resolution for whatever size it has.
+///
+/// The picture of the situation is drawn once and kept; marks, rings and whatever a panel adds are
+/// painted over it each time. The mouse is turned into places on the map and passed to a tool, so
+/// that the map itself knows nothing of orders and of editing.
 class MapPicture : public QWidget {
   Q_OBJECT
 
@@ -71,6 +75,7 @@ class MapPicture : public QWidget {
   MapTool* m_tool = nullptr;
   MapOverlay m_overlay;
   int m_hovered = 0;
+  /// Where the left button went down, as long as it may become a click or a drag.
   std::optional<QPointF> m_pressed;
   bool m_dragging = false;
   std::vector<std::string> m_marks;

@@ -23,7 +23,8 @@ struct MapSpot {
   }
 };
 
-/// What the left mouse button means on the map while a panel is in front.
+/// What the left mouse button means on the map while a panel is in front. A tool implements only
+/// what it has a use for; by default nothing happens.
 class MapTool {
  public:
   MapTool() = default;

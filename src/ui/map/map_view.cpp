@@ -21,6 +21,7 @@ MapView::MapView(MapPicture* map, QWidget* parent) : QScrollArea(parent), m_map(
   setObjectName(QStringLiteral("scrMap"));
   setFrameShape(QFrame::NoFrame);
   setAlignment(Qt::AlignCenter);
+  // The map itself takes the keyboard; with two stops the Tab key would seem to do nothing once.
   setFocusPolicy(Qt::NoFocus);
   setWidget(map);
   map->installEventFilter(this);
@@ -77,6 +78,7 @@ void MapView::resizeEvent(QResizeEvent* event) {
 
 void MapView::wheelEvent(QWheelEvent* event) {
   if ((event->modifiers() & Qt::ControlModifier) == 0) return QScrollArea::wheelEvent(event);
+  // A touchpad sends parts of a notch.
   const double notches =
       event->angleDelta().y() / static_cast<double>(QWheelEvent::DefaultDeltasPerStep);
   zoomTo(shownZoom() * std::pow(ZoomStep, notches), event->position());

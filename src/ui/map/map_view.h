@@ -9,8 +9,8 @@
 
 namespace orb::ui {
 
-/// The window onto the map: fits it in, or shows a part of it enlarged, scrolled with the middle
-/// button.
+/// The view of the map: fits it in, or shows a part of it enlarged, scrolled with the middle
+/// button. The left button belongs to the map, the wheel with Ctrl zooms.
 class MapView : public QScrollArea {
   Q_OBJECT
 

@@ -7,8 +7,9 @@
 
 namespace orb::ui {
 
-/// Paints a picture of the widget's size in pixels, sharp, or one of another size, scaled. Returns
-/// where it came to lie, in the widget's coordinates.
+/// Paints a picture over a whole widget. One that has the widget's size in pixels of the screen
+/// comes out sharp; any other one is scaled. Returns where the picture lies, in the widget's
+/// coordinates.
 QRectF paintFilling(const QWidget& widget, QPixmap& picture, QPainter& painter);
 
 }  // namespace orb::ui

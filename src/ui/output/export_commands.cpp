@@ -32,6 +32,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// On every side of the paper, until the user chooses others.
 constexpr double MarginMillimetres = 15;
 
 std::string_view bytesOf(const QByteArray& bytes) {
@@ -67,7 +68,7 @@ fs::path writeScratchFile(const model::GameState& game) {
   }
 }
 
-/// A file's path for the print dialog: beside the game, else in the user's home.
+/// A file's path for the print dialog: in the folder of the game, or else in the user's home.
 QString proposedPdf(const model::GameState& game) {
   const QDir folder(game.FileName.empty()
                         ? QDir::homePath()
@@ -115,6 +116,7 @@ QImage ExportCommands::mapPicture() {
 void ExportCommands::copyMap() {
   attempt(m_messages, [this] {
     const QImage picture = mapPicture();
+    // As a picture, and as the PNG file that browsers and mail programs ask for.
     auto content = std::make_unique<QMimeData>();
     content->setImageData(picture);
     content->setData(QStringLiteral("image/png"), encoded(picture, "PNG"));
@@ -128,6 +130,7 @@ void ExportCommands::copyText() {
     const std::string written = model::ReadFile(writeScratchFile(m_desk.game()));
     std::string_view rest = written;
     QString text;
+    // Whatever the file's line ends are, the clipboard's are those that every program understands.
     while (!rest.empty())
       text += text::ToQString(text::NextLine(rest)) + QLatin1String("\r\n");
     QGuiApplication::clipboard()->setText(text);
@@ -165,6 +168,7 @@ void ExportCommands::print() {
   if (!askHowToPrint(m_window, proposedPdf(m_desk.game()), printer)) return;
   m_pageLayout = printer.pageLayout();
   const PrintChoice choice = choiceOf(printer);
+  // The copies are printed one by one, each as a job of its own.
   printer.setCopyCount(1);
   attempt(m_messages, [&] {
     printCopies(choice, QPrinterInfo::defaultPrinterName(), m_messages,

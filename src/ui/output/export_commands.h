@@ -14,9 +14,9 @@
 
 namespace orb::ui {
 
-/// The commands that hand the map and the text report to the world outside: clipboard, files and
-/// paper. What goes wrong is told in a message box, and the files and the clipboard stay as they
-/// were.
+/// The commands that take the map and the text report out of the program: to the clipboard, to
+/// files and to paper. Errors are shown in a message box, and the files and the clipboard stay as
+/// they were.
 class ExportCommands : public QObject {
   Q_OBJECT
 
@@ -39,6 +39,7 @@ class ExportCommands : public QObject {
 
  private:
   QImage mapPicture();
+  /// One copy, to the printer or, whole or not at all, to its PDF file.
   void printOnce(QPrinter& printer);
 
   const Desk& m_desk;

@@ -114,6 +114,8 @@ std::optional<OpenChoice> askGameToOpen(QWidget* parent, const model::GameState&
   dialog.setFileMode(QFileDialog::ExistingFile);
   auto* readOnly = new QCheckBox(QObject::tr("Open as &read-only"), &dialog);
   readOnly->setObjectName(QStringLiteral("chkReadOnly"));
+  // Qt offers no place for a further box. If its layout changes, the box is missing and all else
+  // works.
   if (auto* grid = qobject_cast<QGridLayout*>(dialog.layout())) {
     grid->addWidget(readOnly, grid->rowCount(), 1);
   }

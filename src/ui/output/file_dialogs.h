@@ -17,7 +17,8 @@ struct OpenChoice {
   bool readOnly = false;
 };
 
-/// Asks for a game file to open; nothing when cancelled.
+/// Asks for a game file to open; nothing when cancelled. Every dialog begins in the folder of the
+/// current game.
 std::optional<OpenChoice> askGameToOpen(QWidget* parent, const model::GameState& game);
 
 /// Asks for a text file of orders; nothing when cancelled.

@@ -14,6 +14,7 @@ std::string proposedGameFile(const model::GameState& game);
 /// The name proposed for what is made of a game: "s01" and the extension, say ".bmp".
 std::string proposedExportFile(const model::GameState& game, std::string_view extension);
 
+/// The filters for game files, in the order of the dialogs.
 enum class GameFilter { Games, Data, All };
 
 /// The filter that a file dialog begins with, by the current file name.

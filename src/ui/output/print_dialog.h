@@ -18,12 +18,12 @@ struct PrintChoice {
 };
 
 /// Shows the print dialog for a printer, which is then set up as chosen. False when cancelled.
-/// `proposedFile` is the path proposed to who prints to a PDF file.
+/// `proposedFile` is the path proposed for printing to a PDF file.
 bool askHowToPrint(QWidget* parent, const QString& proposedFile, QPrinter& printer);
 
 PrintChoice choiceOf(const QPrinter& printer);
 
-/// Calls `printOnce` once for a file, and once a copy for the system's default printer; any other
+/// Calls `printOnce` once for a file, and once per copy for the system's default printer; any other
 /// printer is refused in a message box.
 void printCopies(const PrintChoice& choice, const QString& defaultPrinter,
                  model::Messages& messages, const std::function<void()>& printOnce);

@@ -14,6 +14,7 @@ namespace orb::ui {
 namespace {
 
 constexpr double PointsPerInch = 72;
+// Sizes of fonts in points; the report's is the largest that is used, and shrinks for long lines.
 constexpr double ReportPoints = 10;
 constexpr double FooterPoints = 8;
 constexpr qsizetype ReportColumns = 78;
@@ -98,7 +99,7 @@ bool isUnderline(const QString& line) {
 }
 
 /// Where a page that begins with one line and could hold the lines up to another ends best: after a
-/// section, else anywhere but right after a heading.
+/// section, or else anywhere but right after a heading.
 qsizetype pageEnd(const QStringList& lines, qsizetype begin, qsizetype end) {
   if (end >= lines.size()) return lines.size();
   for (qsizetype i = end; i > begin + 1 && i >= end - LinesToSpare; --i) {
@@ -110,6 +111,8 @@ qsizetype pageEnd(const QStringList& lines, qsizetype begin, qsizetype end) {
   return best;
 }
 
+/// Divides the lines into pages. The first page is the map's, and may have no lines at all; empty
+/// lines at the top of a page are dropped.
 std::vector<LineRange> paginate(const QStringList& lines, int roomBelowMap, int roomOnPage) {
   std::vector<LineRange> pages;
   qsizetype next = 0;
@@ -174,6 +177,7 @@ void printGame(QPagedPaintDevice& device, const PrintedGame& game) {
   QPainter painter;
   if (!painter.begin(&device)) throw model::FileError("The printer takes no job.");
   const QFont footerFont = fixedFont(FooterPoints);
+  // The footer's line, the rule above it, and some air between them and the report.
   const double footer = 2.75 * QFontMetricsF(footerFont, &device).lineSpacing();
   const QStringList lines = printableLines(game.report);
   const double width = device.width();

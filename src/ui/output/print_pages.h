@@ -13,7 +13,7 @@ namespace orb::ui {
 /// What is printed of a game.
 struct PrintedGame {
   QString footer;   ///< stands at the foot of each page, with the page's number
-  QString report;   ///< lines parted by LF; the font is chosen so that all fit the width
+  QString report;   ///< lines separated by LF; the font is chosen so that all fit the width
   QSizeF mapShape;  ///< only its proportions count
   std::function<void(QPainter&, const QRectF&)> paintMap;
 };

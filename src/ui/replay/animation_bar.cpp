@@ -8,6 +8,7 @@
 namespace orb::ui {
 namespace {
 
+// Gap and width are in pixels.
 constexpr int Gap = 4;
 constexpr int SliderSteps = 1000;  ///< in a season
 constexpr int SliderWidth = 60;
@@ -26,6 +27,7 @@ void setTip(QPushButton& button, const QString& tip, int key) {
 AnimationBar::AnimationBar(QWidget* parent) : QFrame(parent), m_row(new QHBoxLayout(this)) {
   setObjectName(QStringLiteral("fraAnimate"));
   setAccessibleName(tr("Animation"));
+  // Taken when the animation begins, so that no key reaches a control of the game.
   setFocusPolicy(Qt::ClickFocus);
   m_row->setContentsMargins({});
   m_row->setSpacing(Gap);
@@ -63,6 +65,7 @@ QPushButton* AnimationBar::addButton(const QString& name, const QString& icon, c
   setTip(*button, tip, key);
   m_row->addWidget(button);
   auto* shortcut = new QShortcut(key, this);
+  // A held space bar would start and stop in turn.
   shortcut->setAutoRepeat(key != Qt::Key_Space);
   connect(shortcut, &QShortcut::activated, this, command);
   connect(button, &QPushButton::clicked, this, command);
@@ -106,6 +109,7 @@ void AnimationBar::addSpeeds() {
   m_speed->setAccessibleName(tr("Speed"));
   m_speed->setToolTip(tr("How fast it plays"));
   m_speed->setFocusPolicy(Qt::TabFocus);
+  // Multiples of the normal speed.
   for (const double speed : {0.5, 1.0, 2.0, 4.0})
     m_speed->addItem(QString::number(speed) + QChar(0x00D7), speed);
   m_speed->setCurrentIndex(1);
@@ -113,6 +117,7 @@ void AnimationBar::addSpeeds() {
 }
 
 void AnimationBar::setSeasonCount(int count) {
+  // Only the user's hand on the slider counts as a move.
   const QSignalBlocker quiet(m_slider);
   m_slider->setRange(0, count * SliderSteps);
 }

@@ -10,7 +10,9 @@
 
 namespace orb::ui {
 
-/// The controls of an animation.
+/// The controls of an animation: buttons to play it and to go from season to season, a slider with
+/// the name of the season shown, the speed, and Export and Close. It only reports what is wanted;
+/// the player does it and tells the bar what to show.
 class AnimationBar : public QFrame {
   Q_OBJECT
 
@@ -19,8 +21,10 @@ class AnimationBar : public QFrame {
 
   void setSeasonCount(int count);
 
-  /// Seasons passed, and the name of the one that is shown.
+  /// The slider's place, in seasons passed (2.5: half way through the third), and the name of the
+  /// season shown.
   void showPosition(double position, const QString& season);
+  /// Whether the one button for both says Stop or Play.
   void showPlaying(bool playing);
 
   /// Whether the mouse holds the slider.
@@ -35,6 +39,7 @@ class AnimationBar : public QFrame {
   void forward();
   void first();
   void last();
+  /// The slider was moved by the user, to so many seasons passed.
   void moved(double position);
   void exportWanted();
   void closed();

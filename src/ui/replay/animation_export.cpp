@@ -24,8 +24,9 @@ std::vector<history::Replay> replaysOf(const std::vector<history::ReplayPart>& p
 void setUp(QProgressDialog& dialog) {
   dialog.setObjectName(QStringLiteral("frmAnimateExport"));
   dialog.setWindowTitle(text::ToQString(model::ProgramName));
-  dialog.setLabelText(QObject::tr("The animation is drawn..."));
+  dialog.setLabelText(QObject::tr("Drawing the animation..."));
   dialog.setWindowModality(Qt::WindowModal);
+  // At once, not only after some seconds as Qt would have it.
   dialog.setMinimumDuration(0);
   // Only the caller knows when it is over: after the last frame the file is still to be written.
   dialog.setAutoReset(false);

@@ -12,9 +12,9 @@
 
 namespace orb::ui {
 
-/// Asks where to and saves an animation, which may be cancelled while it is drawn. Returns the file
-/// written; nothing after a cancellation or an error, which is told in a message box and leaves
-/// no file behind.
+/// Asks where to save an animation and saves it; it can be cancelled while it is being drawn.
+/// Returns the file written; nothing after a cancellation or an error, which is shown in a message
+/// box and leaves no file behind.
 std::optional<std::filesystem::path> exportAnimation(const std::vector<history::ReplayPart>& parts,
                                                      const settings::MapOptions& options,
                                                      const std::filesystem::path& dataDirectory,

@@ -24,6 +24,7 @@ GameState readGame(const fs::path& file, const GameState& current) {
     throw model::FileError(name + ": Unknown province: " + *unknown);
   }
   game.FileName = name;
+  // Finds out now what would otherwise stop the animation when it reaches the season.
   static_cast<void>(history::SeasonReplay(game));
   return game;
 }

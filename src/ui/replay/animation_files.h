@@ -15,7 +15,7 @@ struct AnimationFiles {
 };
 
 /// Reads game files on the map, and in the colours, of the current game, which stays as it is. A
-/// file does not fit when its name tells no season, when it cannot be read, and when it holds an
+/// file does not fit when its name gives no season, when it cannot be read, and when it holds an
 /// earlier season than the one before it.
 AnimationFiles readAnimationFiles(const std::vector<std::filesystem::path>& files,
                                   const model::GameState& current);

@@ -25,6 +25,7 @@ AnimationPicture::AnimationPicture(MapPicture& map, std::filesystem::path dataDi
     : QWidget(&map), m_map(map), m_dataDirectory(std::move(dataDirectory)) {
   setObjectName(QStringLiteral("picAnimate"));
   setAccessibleName(tr("Animated map"));
+  // Every pixel is painted: Qt need not paint the map below, nor clear anything, for each frame.
   setAttribute(Qt::WA_OpaquePaintEvent);
   setGeometry(map.rect());
   map.installEventFilter(this);

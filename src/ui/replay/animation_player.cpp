@@ -14,6 +14,7 @@
 namespace orb::ui {
 namespace {
 
+/// A little under the time of a frame on most screens.
 constexpr int FrameMilliseconds = 15;
 
 /// After a pause of the whole program the animation goes on where it was.
@@ -113,7 +114,7 @@ void AnimationPlayer::end() {
   if (!isOn()) return;
   setPlaying(false);
   m_bar->hide();
-  // It may be in the midst of being painted or asked.
+  // Deleted later: it may just be painting, or handling the event that led here.
   m_picture->hide();
   m_picture->deleteLater();
   m_picture.clear();
@@ -123,6 +124,7 @@ void AnimationPlayer::end() {
 }
 
 void AnimationPlayer::playOrStop() {
+  // Played to the end, it starts over.
   if (!m_timer.isActive() && m_playhead.atEnd()) moveTo(0);
   setPlaying(!m_timer.isActive());
 }
@@ -139,6 +141,7 @@ void AnimationPlayer::setPlaying(bool playing) {
 
 void AnimationPlayer::tick() {
   const double seconds = static_cast<double>(m_clock.nsecsElapsed()) / 1e9;
+  // While the slider is held the hand decides, and no time is to be made up afterwards.
   m_clock.start();
   if (m_bar->isHeld()) return;
   m_playhead.advance(std::min(seconds, MostSecondsAtOnce) * m_bar->speed());
@@ -153,6 +156,7 @@ void AnimationPlayer::moveTo(double position) {
 
 void AnimationPlayer::show() {
   const int season = m_playhead.season();
+  // Only a new season is drawn as a whole; within one only the progress changes.
   const history::ReplayPart& part = m_parts[static_cast<std::size_t>(season)];
   if (m_shownSeason != season) {
     const auto draw = [&] { m_picture->setReplay(part.Replay, m_desk.view().mapOptions); };
@@ -171,6 +175,7 @@ void AnimationPlayer::showOptions() {
 }
 
 void AnimationPlayer::exportParts() {
+  // It would run on unseen behind the dialog.
   setPlaying(false);
   const auto file = exportAnimation(m_parts, m_desk.view().mapOptions, m_desk.dataDirectory(),
                                     m_messages, m_window);

@@ -18,7 +18,8 @@
 namespace orb::ui {
 
 /// Plays seasons in the place of the map. The game is not touched: its map is there again when the
-/// animation ends.
+/// animation ends. The playhead keeps the time, the picture draws and the bar has the controls; the
+/// player connects them.
 class AnimationPlayer : public QObject {
   Q_OBJECT
 
@@ -55,6 +56,7 @@ class AnimationPlayer : public QObject {
   void play(std::vector<history::ReplayPart> parts);
   void playOrStop();
   void setPlaying(bool playing);
+  /// A frame: as much time as has really passed, at the chosen speed.
   void tick();
   void moveTo(double position);
   void show();
@@ -69,9 +71,11 @@ class AnimationPlayer : public QObject {
   QPointer<AnimationPicture> m_picture;  ///< belongs to the map
   std::vector<history::ReplayPart> m_parts;
   Playhead m_playhead{{1}};
+  /// What the picture holds; nothing when it must be drawn anew.
   std::optional<int> m_shownSeason;
   QTimer m_timer;
   QElapsedTimer m_clock;
+  /// Has the keyboard again afterwards, if it is still there.
   QPointer<QWidget> m_focusBefore;
 };
 

@@ -23,7 +23,9 @@ class Playhead {
 
   bool atEnd() const { return m_season == seasonCount() - 1 && m_seconds >= length(); }
 
+  /// Lets time pass, over the ends of seasons, up to the end of the last one.
   void advance(double seconds);
+  /// To a position as position() gives it; beyond either end it is the end.
   void moveTo(double position);
 
   /// To the season's beginning, or, next to it, to the beginning of the season before.

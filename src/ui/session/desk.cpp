@@ -122,6 +122,7 @@ void Desk::setShowOrders(bool showOrders) {
 bool Desk::run(const session::Command& command) {
   session::Effect effect{false, Changes::All};
   attempt(m_messages, [&] { effect = m_session.Run(command); });
+  // Also when the command failed: a check mark may already show what has not happened.
   emit changed(effect.Changed);
   return effect.Done;
 }

@@ -13,7 +13,7 @@
 
 namespace orb::ui {
 
-/// The one game of the window, how it is shown, and the commands on both: each is handed on to the
+/// The one game of the window, how it is shown, and the commands on both: each is passed on to the
 /// session, and signals say what has changed. When a command meets a fatal error, an error box
 /// shows it and everything stays as it was.
 class Desk : public QObject {
@@ -43,6 +43,7 @@ class Desk : public QObject {
     });
   }
 
+  // The commands on game files. A file that cannot be read or written leaves the game as it was.
   void newGame();
   void blankGame();
   void openGame(const std::filesystem::path& file, bool readOnly);
@@ -62,6 +63,7 @@ class Desk : public QObject {
   void editSeason(const model::SeasonFacts& facts);
   void setColours(const model::CountryTable& colours);
 
+  // Editing by hand. Each change is a step; withdrawing one leaves nothing to be redone.
   void setEditing(session::Editing editing);
 
   /// The change's own text: empty, or why it is refused.
@@ -70,6 +72,7 @@ class Desk : public QObject {
   void redoEdit();
   void withdrawEdit();
 
+  // How the game is shown. What cannot be drawn that way is not taken over.
   void setMapOptions(const settings::MapOptions& options);
   void setViewOnly(bool viewOnly);
   void setShowOrders(bool showOrders);
@@ -79,6 +82,7 @@ class Desk : public QObject {
   /// what a control shows already goes back.
   void changed(session::Changes changes);
 
+  /// The view was set, or could not be: controls show again how it is.
   void viewChanged();
 
   /// A resolution was abandoned at a line; follows changed.
@@ -87,6 +91,7 @@ class Desk : public QObject {
  private:
   /// False when the command was declined or abandoned.
   bool run(const session::Command& command);
+  /// Draws the game with another view and keeps that view, or reports why not.
   void show(const View& view);
 
   session::Session m_session;

@@ -21,6 +21,7 @@ void readSettings(const Places& places, Start& start) {
 Start startProgram(const Places& places, const std::filesystem::path& gameFile,
                    model::Messages& messages) {
   Start start{{model::EmptyGame(model::LoadMap(places.program))}};
+  // Before the game: it is set up in the colours of the settings.
   readSettings(places, start);
   if (gameFile.empty()) {
     session::NewGame(start.situation, places.program);

@@ -9,6 +9,7 @@
 namespace orb::ui {
 namespace {
 
+/// Whether text on it has to be light.
 bool isDark(const QColor& background) {
   return background.lightness() < 128;
 }
@@ -18,6 +19,7 @@ bool isDark(const QColor& background) {
 QPushButton* newButton(const QString& name, const QString& caption) {
   auto* button = new QPushButton(caption);
   button->setObjectName(name);
+  // Outside dialogs Qt does not do this by itself.
   button->setAutoDefault(true);
   return button;
 }
@@ -25,6 +27,7 @@ QPushButton* newButton(const QString& name, const QString& caption) {
 QDialogButtonBox* newOkCancel(QDialog& dialog) {
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   for (QAbstractButton* button : buttons->buttons())
+    // Some themes put icons on these buttons, and on no other ones.
     button->setIcon({});
   QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
   QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
@@ -62,6 +65,7 @@ bool showTexts(QListWidget& box, const std::vector<std::string>& texts) {
   QStringList shown;
   for (int row = 0; row < box.count(); ++row)
     shown << box.item(row)->text();
+  // A list that is filled anew loses its selection and its place.
   if (shown == wanted) return false;
   box.clear();
   box.addItems(wanted);

@@ -37,7 +37,8 @@ QColor doubtColour(const QColor& background);
 /// Fills a list box with 8-bit texts; false, nothing touched, when it shows them already.
 bool showTexts(QListWidget& box, const std::vector<std::string>& texts);
 
-/// A line of text that gives way: what does not fit is left out of its middle.
+/// A line of text that gives way: what does not fit is left out of its middle. Of a path the
+/// beginning and the file's name stay.
 class ElidedLabel : public QLabel {
   Q_OBJECT
 

@@ -17,6 +17,7 @@ bool endsLine(const QKeyEvent& event) {
          event.matches(QKeySequence::InsertLineSeparator);
 }
 
+/// Keys such as Backspace have a text too, a control character.
 bool typesText(const QKeyEvent& event) {
   return !event.text().isEmpty() && event.text().at(0) >= QLatin1Char(' ') &&
          event.text().at(0) != QChar(0x7F);
@@ -25,6 +26,7 @@ bool typesText(const QKeyEvent& event) {
 }  // namespace
 
 FreeTextBox::FreeTextBox(QWidget* parent) : QPlainTextEdit(parent) {
+  // A tab in the report would spoil its columns; the key leads on to the next control.
   setTabChangesFocus(true);
 }
 
@@ -64,6 +66,7 @@ void FreeTextBox::insertFromMimeData(const QMimeData* source) {
 
 void FreeTextBox::inputMethodEvent(QInputMethodEvent* event) {
   const QString committed = event->commitString();
+  // Qt would insert the text itself, without the checks of insert.
   event->setCommitString({}, event->replacementStart(), event->replacementLength());
   QPlainTextEdit::inputMethodEvent(event);
   if (!committed.isEmpty()) insert(committed);
@@ -71,11 +74,13 @@ void FreeTextBox::inputMethodEvent(QInputMethodEvent* event) {
 
 void FreeTextBox::insert(QString text) {
   text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  // Other programs end lines in their own ways.
   for (const QChar lineEnd :
        {QChar(QLatin1Char('\r')), QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator)})
     text.replace(lineEnd, QLatin1Char('\n'));
   const QString part = storablePart(text);
   QTextCursor cursor = textCursor();
+  // The number of lines afterwards: what is inserted replaces what is selected.
   const qsizetype count = blockCount() + part.count(QLatin1Char('\n')) -
                           cursor.selectedText().count(QChar(QChar::ParagraphSeparator));
   if (count > model::TextLineBound) {

@@ -23,7 +23,7 @@ class FreeTextBox : public QPlainTextEdit {
   int lineCount() const;
 
  signals:
-  /// Something was not let in; `why` is a sentence for the user.
+  /// Something was refused; `why` is a sentence for the user.
   void refused(const QString& why);
 
  protected:
@@ -34,6 +34,7 @@ class FreeTextBox : public QPlainTextEdit {
  private:
   void insert(QString text);
 
+  /// Kept, as a file may hold what the box can only show in another way.
   std::vector<std::string> m_setLines;
 };
 

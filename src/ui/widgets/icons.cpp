@@ -18,12 +18,15 @@ static void bringIcons() {
 namespace orb::ui {
 namespace {
 
+/// Draws an icon anew for every size and palette, so that it is sharp and follows the theme while
+/// the program runs.
 class GlyphEngine : public QIconEngine {
  public:
   explicit GlyphEngine(QByteArray drawing) : m_drawing(std::move(drawing)) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
              QIcon::State /*state*/) override {
+    // The palette is asked at every painting: a theme can change while the program runs.
     const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
     const QColor ink = QGuiApplication::palette().color(group, QPalette::ButtonText);
     QByteArray drawing = m_drawing;

@@ -25,6 +25,7 @@ QMessageBox::Icon boxIcon(model::Icon icon) {
 void setUp(QMessageBox& box, const std::string& text, QMessageBox::Icon icon,
            QMessageBox::StandardButtons buttons) {
   box.setWindowTitle(text::ToQString(model::ProgramName));
+  // File names and order lines are quoted in it, and must not be taken for markup.
   box.setTextFormat(Qt::PlainText);
   box.setText(displayText(text));
   box.setIcon(icon);
@@ -39,6 +40,7 @@ void setUp(QMessageBox& box, const std::string& text, QMessageBox::Icon icon,
 QString displayText(const std::string& text) {
   QStringDecoder utf8(QStringDecoder::Utf8);
   QString shown = utf8(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
+  // Hardly any text in Windows-1252 with letters beyond ASCII is UTF-8 as well.
   if (utf8.hasError()) shown = text::ToQString(text);
   return shown.replace(QLatin1Char('\r'), QLatin1Char('\n'));
 }
@@ -57,6 +59,7 @@ model::Answer MessageBoxes::Ask(const std::string& text) {
   setUp(box, text, QMessageBox::Question,
         QMessageBox::Yes | QMessageBox::No | QMessageBox::YesToAll);
   box.button(QMessageBox::YesToAll)->setText(QObject::tr("Yes to &all"));
+  // Every way of closing the box but the two kinds of Yes is a No.
   box.setDefaultButton(QMessageBox::Yes);
   box.setEscapeButton(QMessageBox::No);
   switch (box.exec()) {

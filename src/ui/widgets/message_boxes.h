@@ -11,7 +11,7 @@ namespace orb::ui {
 /// system (file names, reasons) are UTF-8, texts of the game Windows-1252.
 QString displayText(const std::string& text);
 
-/// Real message boxes over a window.
+/// Real message boxes over a window. Enter agrees, Esc declines.
 class MessageBoxes : public model::Messages {
  public:
   /// Without a parent the boxes stand alone.

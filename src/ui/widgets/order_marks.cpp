@@ -23,6 +23,7 @@ struct MarkColours {
 MarkColours coloursOf(OrderMark mark, const QStyleOptionViewItem& item) {
   const QPalette::ColorGroup group =
       item.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+  // Neither red nor amber is sure to be visible on the highlight.
   if (item.state.testFlag(QStyle::State_Selected)) {
     return {item.palette.color(group, QPalette::HighlightedText),
             item.palette.color(group, QPalette::Highlight)};
@@ -81,6 +82,7 @@ void OrderMarkDelegate::initStyleOption(QStyleOptionViewItem* option,
                                         const QModelIndex& index) const {
   QStyledItemDelegate::initStyleOption(option, index);
   const int side = option->fontMetrics.ascent() + 1;
+  // Makes Qt leave room for an icon; the mark is painted there instead.
   option->features |= QStyleOptionViewItem::HasDecoration;
   option->decorationSize = QSize(side, side);
 }
@@ -88,6 +90,7 @@ void OrderMarkDelegate::initStyleOption(QStyleOptionViewItem* option,
 QSize OrderMarkDelegate::sizeHint(const QStyleOptionViewItem& option,
                                   const QModelIndex& index) const {
   const QSize size = QStyledItemDelegate::sizeHint(option, index);
+  // A little air between the lines keeps the marks apart.
   return {size.width(), std::max(size.height(), option.fontMetrics.height() * 5 / 4)};
 }
 

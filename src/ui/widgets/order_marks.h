@@ -15,7 +15,8 @@ enum class OrderMark : std::uint8_t {
 /// Where an item of a list keeps its OrderMark, as an int.
 constexpr int OrderMarkRole = Qt::UserRole;
 
-/// Draws a list's items with their marks in front.
+/// Draws a list's items with their marks in front. The marks differ in form as well as in colour,
+/// and every item keeps room for one, so that the texts stay aligned.
 class OrderMarkDelegate : public QStyledItemDelegate {
   Q_OBJECT
 

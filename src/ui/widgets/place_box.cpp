@@ -15,6 +15,7 @@ void PlaceBox::offer(const model::Map& map,
   for (const model::Province& place : map.Provinces) {
     if (fits(place.Name)) places.push_back(&place);
   }
+  // Seas are written in capitals; the order is that of the letters alone.
   std::sort(places.begin(), places.end(), [](const auto* a, const auto* b) {
     return text::UpperCase(a->Name) < text::UpperCase(b->Name);
   });
@@ -30,6 +31,7 @@ void PlaceBox::offer(const model::Map& map,
 
 void PlaceBox::choose(const std::string& location) {
   const QByteArray wanted = QByteArray::fromStdString(location);
+  // Shown without a full name, which the map does not know.
   if (findData(wanted) < 0 && !location.empty()) addItem(text::ToQString(location), wanted);
   setCurrentIndex(findData(wanted));
 }

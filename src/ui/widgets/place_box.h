@@ -18,8 +18,8 @@ class PlaceBox : public QComboBox {
  public:
   explicit PlaceBox(const QString& name) { setObjectName(name); }
 
-  /// Offers the locations that fit, and before them, unless its caption is empty, none of them.
-  /// Nothing is chosen then.
+  /// Offers the locations that fit. Before them stands, unless its caption is empty, an entry for
+  /// no location. Nothing is chosen at first.
   void offer(const model::Map& map, const std::function<bool(std::string_view location)>& fits,
              const QString& none = {});
 

@@ -19,6 +19,7 @@ QString ownerText(const model::GameState& game, int row) {
 
 QString unitText(const model::GameState& game, const model::Unit& unit) {
   const int power = model::FindCountry(unit.Power);
+  // A unit's power may be one that only the file knows.
   const QString owner = ToQString(power == 0 ? unit.Power : game.Countries[power].Name);
   const QString type = unit.UnitType == "A" ? QObject::tr("army") : QObject::tr("fleet");
   QString text = QObject::tr("%1 of %2").arg(type, owner);

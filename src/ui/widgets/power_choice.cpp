@@ -22,6 +22,7 @@ QIcon powerIcon(const model::CountryTable& countries, int power) {
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
   if (power == 0) {
+    // Grey can be seen on light and dark grounds, and no power's disc is dotted.
     painter.setPen(QPen(Qt::gray, Outline, Qt::DotLine));
   } else {
     painter.setPen(QPen(colour::ToQColor(countries[power].TextColour), Outline));

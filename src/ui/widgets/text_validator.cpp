@@ -7,6 +7,7 @@
 namespace orb::ui {
 namespace {
 
+/// Double quotes enclose the fields of a game file, which has no way to write one within a field.
 bool isStorable(QChar character) {
   return character != QLatin1Char('"') && text::ToBytes(QStringView(&character, 1)).has_value();
 }
@@ -24,6 +25,7 @@ QString storageFault(QStringView text) {
   if (fault == text.end()) return {};
   if (*fault == QLatin1Char('"'))
     return TextValidator::tr("A game file cannot hold double quotes.");
+  // A character beyond the basic plane takes two of Qt's.
   const auto length = fault->isHighSurrogate() && fault + 1 != text.end() ? 2 : 1;
   return TextValidator::tr("A game file cannot hold the character %1.")
       .arg(QStringView(fault, length));

@@ -15,7 +15,8 @@ QString storablePart(QStringView text);
 /// empty when it can hold all.
 QString storageFault(QStringView text);
 
-/// Refuses while it is typed what a game file cannot hold. Line ends become blanks.
+/// Refuses what a game file cannot hold while it is being typed or pasted. Line ends become blanks,
+/// so that a line copied with its end can be pasted.
 class TextValidator : public QValidator {
   Q_OBJECT
 
@@ -25,7 +26,7 @@ class TextValidator : public QValidator {
   State validate(QString& text, int& position) const override;
 
  signals:
-  /// Something was not let in; `why` is a sentence for the user.
+  /// Something was refused; `why` is a sentence for the user.
   void refused(const QString& why) const;
 };
 

@@ -31,7 +31,7 @@ GameMenu::GameMenu(Desk& desk, QWidget* parent) : QMenu(tr("&Game"), parent), m_
   showState();
 }
 
-/// The stage entries tell the stage and choose nothing but its panel.
+/// The stage entries show the stage. Choosing one only brings back its panel.
 void GameMenu::addStage(const QString& name, const QString& caption, model::Stage stage) {
   QAction* entry = newEntry(*this, name, caption);
   entry->setCheckable(true);

@@ -90,8 +90,8 @@ MainWindow::MainWindow(Start start, const Places& places)
   showGame();
 }
 
-/// The panels use the desk, and tell the window when they are hidden: they go first, and in
-/// silence.
+/// The panels use the desk, and signal to the window when they are hidden: they are deleted first,
+/// and disconnected before that.
 MainWindow::~MainWindow() {
   for (QObject* child : findChildren<QObject*>())
     child->disconnect(this);
@@ -329,7 +329,7 @@ void MainWindow::showStagePanel() {
   for (const auto& [stage, panel] : entryPanels) {
     if (stage == shownStage) shown = panel;
   }
-  // Editing stands in the place of the stage, whichever that is.
+  // Editing takes the place of the stage, whichever that is.
   if (editing == Editing::Units) shown = m_editUnits;
   if (editing == Editing::Provinces) shown = m_editProvinces;
   showInstead(shown);
