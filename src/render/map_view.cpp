@@ -1,5 +1,6 @@
 #include "render/map_view.h"
 
+#include "model/counts.h"
 #include "model/lookups.h"
 #include "model/place.h"
 #include "render/drawing.h"
@@ -162,26 +163,11 @@ void DrawCentreOwners(Surface& surface, const GameState& game, settings::MapMode
   }
 }
 
-int CountCentres(const GameState& game, std::string_view power) {
-  int count = 0;
-  for (int row = 1; row <= game.Map->Provinces.Count(); ++row) {
-    if (game.Map->Provinces[row].IsSupplyCentre != 0 && game.Provinces[row].Owner == power) ++count;
-  }
-  return count;
-}
-
-int CountUnits(const GameState& game, std::string_view power) {
-  int count = 0;
-  for (const Unit& unit : game.Units)
-    count += unit.Power == power ? 1 : 0;
-  return count;
-}
-
 /// "5", or before adjustments "5(+2)": what may be built or must be disbanded.
 std::string CountText(const GameState& game, std::string_view power) {
-  const int centres = CountCentres(game, power);
-  std::string text = std::to_string(centres);
-  const int surplus = centres - CountUnits(game, power);
+  const model::PowerCount count = model::CountPower(game, power);
+  std::string text = std::to_string(count.Centres);
+  const int surplus = count.Centres - count.Units;
   if (game.Stage != model::Stage::Adjustments || surplus == 0) return text;
   return text.append(surplus > 0 ? "(+" : "(").append(std::to_string(surplus)).append(")");
 }
@@ -198,7 +184,7 @@ void DrawPlainLegend(Surface& surface, const GameState& game) {
   for (int power = 1; power <= model::CountryCount; ++power) {
     const std::string& name = game.Countries[power].Abbreviation;
     PrintAt(surface, {left + 0.5 * letter, (0.4 + power - 1) * height},
-            name + ": " + std::to_string(CountCentres(game, name)));
+            name + ": " + std::to_string(model::CountPower(game, name).Centres));
   }
   SetPens(surface);
 }

@@ -86,10 +86,6 @@ std::string UnitInPlace(const model::Unit& unit) {
   return unit.UnitType + "(" + unit.Location + ")";
 }
 
-bool IsCentre(const GameState& game, int province) {
-  return game.Map->Provinces[province].IsSupplyCentre != 0;
-}
-
 /// The names of the centres that a power owns, or, without a power, of those that no power owns. An
 /// owner that is none of the seven abbreviations counts as nobody. Adds their number to `count`.
 std::string CentresOf(const GameState& game, const model::Country* owner, int& count) {
@@ -98,7 +94,7 @@ std::string CentresOf(const GameState& game, const model::Country* owner, int& c
     const std::string& name = game.Provinces[p].Owner;
     const bool owned =
         owner != nullptr ? name == owner->Abbreviation : model::FindCountry(name) == 0;
-    if (!IsCentre(game, p) || !owned) continue;
+    if (!model::IsCentre(*game.Map, p) || !owned) continue;
     ++count;
     AddToList(game.Map->Provinces[p].Name, list);
   }
@@ -168,11 +164,8 @@ Section AdjustmentsDue(const GameState& game) {
   Section section("Adjustments due");
   if (game.Stage != model::Stage::Adjustments) return section;
   for (const model::Country& country : game.Countries) {
-    int centres = 0;
-    int units = 0;
-    CentresOf(game, &country, centres);
-    UnitsOf(game, country, units);
-    const int builds = centres - units;
+    const model::PowerCount count = model::CountPower(game, country.Abbreviation);
+    const int builds = count.Centres - count.Units;
     const std::string number = std::to_string(std::abs(builds));
     // A power with as many units as centres has nothing due and is left out.
     if (builds > 0) section.AddRow(country.Name, "build " + number);
