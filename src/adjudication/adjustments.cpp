@@ -44,6 +44,7 @@ int CentreOf(const model::Map& map, int location) {
 
 Fault BuildFault(const GameState& game, const OrderLine& order) {
   const model::Map& map = *game.Map;
+  // A coast has the home and the owner of its province. A unit on any coast is in the way.
   const int centre = CentreOf(map, order.Location);
   const std::string_view power = model::PowerName(order.Power);
   if (centre == 0 || power.empty() || map.Provinces[centre].HomeCountry != power ||
@@ -62,6 +63,7 @@ Fault BuildFault(const GameState& game, const OrderLine& order) {
   return {};
 }
 
+/// Also looks at lines that broke the form: the word that it finds for them is the one reported.
 bool CheckEachOrder(const GameState& game, Resolution& resolution, Questions& questions) {
   for (int k = 1; k <= resolution.Orders.Count(); ++k) {
     OrderLine& order = resolution.Orders[k];
@@ -99,6 +101,8 @@ bool CheckAdjustmentOrders(const GameState& game, Resolution& resolution, Questi
   return CheckEachOrder(game, resolution, questions) && CheckClashes(resolution, questions);
 }
 
+/// Too many units are an error, since the rules leave no choice; too few may be meant, since builds
+/// can be waived.
 bool CheckAdjustmentCounts(const GameState& game, const OrderTable& table, Messages& messages) {
   for (const model::Country& country : game.Countries) {
     const model::PowerCount count = model::CountPower(game, country.Abbreviation);
@@ -128,6 +132,7 @@ void ReportAdjustments(GameState& game, Resolution& resolution) {
   }
 }
 
+/// A build that finds no room on the board ends it: what follows, removals too, is not carried out.
 void ApplyAdjustments(GameState& game, const OrderTable& table, Messages& messages) {
   for (const OrderLine& order : table) {
     if (!order.Active) continue;

@@ -8,6 +8,7 @@ using orders::OrderLine;
 
 Battlefield::Battlefield(model::GameState& game, Resolution& resolution)
     : game_(game), resolution_(resolution) {
+  // From the last to the first, since chains grow at their front and must ascend.
   for (int u = resolution.Pieces.Count(); u >= 1; --u)
     units_.Prepend(PlaceOf(resolution.Pieces[u].Location), u);
 }
@@ -23,6 +24,8 @@ void Battlefield::CountForces() {
     if (!order.Active) continue;
     if (IsMove(order)) movers_.Prepend(Aim(k), k);
     if (!IsSupport(order) || order.LinkedOrder == 0) continue;
+    // Whether the support is for a hold or for a move need not be asked: one that does not fit its
+    // unit's order was rejected before.
     const int unit = Order(order.LinkedOrder).UnitIndex;
     if (unit == 0) continue;
     ++resolution_.Force[unit];
@@ -40,6 +43,7 @@ int Battlefield::LastUnitAt(int m) const {
 Opposition Battlefield::RaisedByRivals(int m, Opposition opposition) const {
   for (int k = movers_.First(Aim(m)); k != 0; k = movers_.Next(k)) {
     if (k == m) continue;
+    // With its full force: only the attack on a defender looks at who gives the supports.
     const int force = Force(resolution_.Orders[k].UnitIndex);
     if (force > opposition.Strength) opposition = {force, k};
   }
@@ -51,6 +55,7 @@ int Battlefield::AttackStrength(int m, int defender) const {
   const int attacker = resolution_.Orders[m].UnitIndex;
   for (int k = supports_.First(attacker); k != 0; k = supports_.Next(k)) {
     const int supporter = resolution_.Orders[k].UnitIndex;
+    // No power helps to dislodge a unit of its own.
     if (PowerOf(supporter) != PowerOf(defender)) ++strength;
   }
   return strength;
@@ -67,6 +72,8 @@ void Battlefield::Dislodge(int unit, int m) {
   const int k = OrderOf(unit);
   Order(k).Failed = true;
   resolution_.Force[unit] = 0;
+  // An attack from the place supported into did not cut the support; dislodging its unit takes it
+  // away after all. One that another attack had cut before is taken off all the same.
   if (!IsSupport(Order(k)) || !IsSamePlace(Order(k).Target2, Order(m).Location)) return;
   if (Order(k).LinkedOrder == 0) return;
   const int supported = Order(Order(k).LinkedOrder).UnitIndex;
@@ -100,6 +107,7 @@ void Battlefield::Record(int m, Ruling ruling, int strength, Opposition oppositi
       (counts ? reason.Behind : reason.Discounted).set(static_cast<std::size_t>(k));
     }
   }
+  // A strength of 1 is that of a unit alone.
   if (opposition.Strength > 1) {
     reason.BehindOpponent = SupportsOf(Order(opposition.Order).UnitIndex);
   }

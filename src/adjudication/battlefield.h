@@ -13,8 +13,9 @@ struct Opposition {
   int Order = 0;
 };
 
-/// The moves of one season: who stands and aims where, and with what force. Nothing moves while
-/// they are decided, so places are listed once; CountForces starts each run of the resolution.
+/// The moves of one season: who stands where and aims where, and with what force. Nothing moves
+/// while they are decided, so the units are listed by place once; CountForces starts each run of
+/// the resolution.
 class Battlefield {
  public:
   Battlefield(model::GameState& game, Resolution& resolution);
@@ -49,7 +50,7 @@ class Battlefield {
   /// it gave into the place the attack comes from is withdrawn.
   void Dislodge(int unit, int m);
 
-  /// Marks the unit as dislodged by move m and does no more.
+  /// Marks the unit as dislodged by move m, nothing more: what the last phase does.
   void MarkDislodged(int unit, int m);
 
   /// Records which supports stood behind move m (those of `defender`'s power discounted; 0: none)

@@ -12,7 +12,7 @@ namespace orb::adjudication {
 struct Explanation {
   std::string Verdict;  ///< what happened: "It moved"
   std::string Why{};    ///< the strengths compared, who cut, what was missing; may be empty
-  std::string Also{};   ///< what happened to its unit or its supports apart from that, from "; " on
+  std::string Also{};   ///< what else happened to its unit or its supports; begins with "; "
 };
 
 /// "Verdict: why; also.": the explanation as one sentence.

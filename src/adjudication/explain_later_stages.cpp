@@ -15,6 +15,7 @@ using orders::OrderTable;
 Explanation RejectedRetreat(const Resolution& resolution, const OrderLine& order) {
   if (order.Rejection == OrderResult::SyntaxError) return NotUnderstood(resolution, order);
   if (order.Rejection == OrderResult::NoSuchUnit) return NoSuchUnit(resolution, order);
+  // A standoff is reported in place of an impossible move, so it is the one to explain.
   return {"It was disbanded", order.Result == OrderResult::Standoff
                                   ? "a standoff left " + NameOf(resolution, order.Target) + " empty"
                                   : NoWayText(*resolution.Map, order)};
@@ -40,6 +41,7 @@ std::string DoneText(int built, int removed) {
 /// that is nothing.
 std::string CountsOf(const model::GameState& after, const Resolution& resolution,
                      std::string_view power) {
+  // Adjustments change no owner: the centres are those that they began with.
   const int centres = model::CountPower(after, power).Centres;
   int units = 0;
   for (const model::Unit& unit : resolution.UnitsBefore)

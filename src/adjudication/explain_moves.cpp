@@ -35,6 +35,7 @@ Explanation NotUsed(const Resolution& resolution, const OrderLine& order) {
   const std::string other = std::string(model::PowerName(order.Power2)) + " " +
                             std::string(UnitTypeName(order.UnitType2)) + "(" +
                             NameOf(resolution, order.Target) + ")";
+  // The last of several orders for a unit is the one that counts.
   for (int t = table.Count(); t >= 1; --t) {
     if (!orders::RefersTo(order, table[t])) continue;
     if (!orders::IsMove(table[t])) return {verdict, other + " was not ordered to move"};
@@ -46,6 +47,7 @@ Explanation NotUsed(const Resolution& resolution, const OrderLine& order) {
   return {verdict, "there is no " + other + UnitThere(resolution, order.Power2, order.Target)};
 }
 
+/// Which fleet was lost, and to whom.
 std::string BrokenConvoy(const Resolution& resolution, int fleet) {
   const int attack = DislodgerOfUnit(resolution, fleet);
   return UnitName(resolution, resolution.Orders[fleet]) + " was dislodged" +
@@ -85,6 +87,7 @@ Account ExplainRejection(const Resolution& resolution, int order) {
   }
 }
 
+/// A fleet that was dislodged itself tells of that at the end of its sentence, so not here.
 Account ExplainConvoy(const Resolution& resolution, int order) {
   const int army = resolution.Orders[order].LinkedOrder;
   const std::string move = Quoted(resolution.Orders[army]);
@@ -127,6 +130,7 @@ Account ExplainSupport(const Resolution& resolution, int order) {
                  UncutText(resolution, line),
              {}}};
   }
+  // A support that was withdrawn only after its move had been decided did count.
   if (resolution.Reasons[order].SupportWithdrawn && !outcome.Behind.test(row)) {
     return {{"Its support of " + Quoted(linked) + " was withdrawn",
              "the attack that dislodged it came from the place supported into"}};
@@ -153,6 +157,7 @@ Account ExplainHold(const Resolution& resolution, int order) {
            {}}};
 }
 
+/// What came of the order itself; what befell its unit besides is added by ExplainMove.
 Account ExplainOwnFate(const Resolution& resolution, int order) {
   const OrderLine& line = resolution.Orders[order];
   if (!line.Active) return ExplainRejection(resolution, order);

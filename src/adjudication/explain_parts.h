@@ -47,7 +47,7 @@ std::string UnitThere(const Resolution& resolution, int power, int place);
 /// Why no unit of the order's type can stand in the location.
 std::string CannotStandText(const model::Map& map, const orders::OrderLine& order, int location);
 
-/// Why a move or retreat on foot or keel leads nowhere.
+/// Why a move or retreat by land, or by sea, leads nowhere.
 std::string NoWayText(const model::Map& map, const orders::OrderLine& order);
 
 /// Why a move of the moves stage, which a convoy could have carried, is impossible.
@@ -69,8 +69,8 @@ int DislodgerOfUnit(const Resolution& resolution, int order);
 /// "strength 2 (supported by X) beats its strength 1": how the order's unit was dislodged.
 std::string DislodgingStrengths(const Resolution& resolution, int order);
 
-/// The first adjustment that no room was left to carry out, and none after it was; behind the last
-/// order when there was room for all.
+/// The first adjustment for which there was no room on the board: neither it nor any after it was
+/// carried out. One past the last order when there was room for all.
 int FirstNotCarriedOut(const Resolution& resolution);
 
 }  // namespace orb::adjudication

@@ -65,6 +65,7 @@ std::string UnitThere(const Resolution& resolution, int power, int place) {
     if (!model::IsSamePlace(*resolution.Map, piece.Location, place)) continue;
     const model::Unit& unit = resolution.UnitsBefore[u];
     const bool own = piece.Power == power;
+    // A unit of the ordering power is the one most likely meant.
     if (!own && !there.empty()) continue;
     there = own ? "; its unit there is " + unit.UnitType + "(" + unit.Location + ")"
                 : "; the unit there is " + model::UnitText(unit);

@@ -21,6 +21,7 @@ std::string JoinUnits(const Resolution& resolution, const OrderSet& set) {
   return names;
 }
 
+/// "strength 2 (supported by ...)"; a strength of 1 has no supports to name.
 std::string Strength(const Resolution& resolution, int strength, const OrderSet& behind) {
   std::string text = "strength " + std::to_string(strength);
   if (behind.any() && strength > 1) text += " (supported by " + JoinUnits(resolution, behind) + ")";
@@ -60,6 +61,7 @@ std::string OpponentText(const Resolution& resolution, const Reason& reason) {
          (weakened ? ", so that it defends with 1 only" : "");
 }
 
+/// "strength 2 (supported by X) beats strength 1 of Y, which stayed there".
 std::string Comparison(const Resolution& resolution, const Reason& reason) {
   const OrderTable& table = resolution.Orders;
   std::string text = OwnStrength(resolution, reason);
@@ -74,6 +76,7 @@ std::string Comparison(const Resolution& resolution, const Reason& reason) {
   return text;
 }
 
+/// Moves that follow a ring succeed with it, but do not come back to themselves: hence the bound.
 std::string RingText(const Resolution& resolution, int order) {
   std::string text = "It moved together with";
   int k = resolution.Reasons[order].Occupant;

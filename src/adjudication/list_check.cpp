@@ -120,6 +120,8 @@ std::size_t LinesWithRoom(const GameState& game, const std::vector<std::string>&
   return static_cast<std::size_t>(count);
 }
 
+/// Runs the checks of the resolution itself, so that a mark never says anything else. Of retreats
+/// it also finds those that lead back to the attacker or to a unit, which the resolution decides.
 Resolution CheckLines(const GameState& game, std::vector<std::string> lines) {
   YesToEverything messages;
   Resolution resolution;
@@ -153,6 +155,7 @@ ListCheck CheckList(const GameState& game) {
   const Resolution resolution =
       CheckLines(game, {list->begin(), list->begin() + static_cast<std::ptrdiff_t>(room)});
   for (int k = 1; k <= resolution.Orders.Count(); ++k) {
+    // Behind the lines, the checks have added an order for each unit that had none.
     if (k <= static_cast<int>(room)) {
       check.Lines.push_back(ProblemsOf(game, resolution, k));
     } else {

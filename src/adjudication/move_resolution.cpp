@@ -23,11 +23,13 @@ struct Encounter {
   bool HeadToHead = false;
 };
 
+/// Whether the two moves meet head to head. Units can change places if one of them goes by convoy.
 bool GoesTheOppositeWay(const Battlefield& field, const OrderLine& other, const OrderLine& move) {
   return other.Active && IsMove(other) && field.IsSamePlace(other.Target, move.Location) &&
          !move.ViaConvoy && !other.ViaConvoy;
 }
 
+/// What move m meets in its place; of several units that stand there, the last one that opposes it.
 Encounter MeetOpposite(Battlefield& field, int m) {
   Encounter met;
   for (int u = field.FirstUnitAt(m); u != 0; u = field.NextUnit(u)) {
@@ -54,6 +56,7 @@ void Attack(Battlefield& field, int m, int occupant, int defence, Ruling ruling)
   const int strength = field.AttackStrength(m, occupant);
   field.Record(m, ruling, strength, best, occupant, occupant);
   OrderLine& move = field.Order(m);
+  // Being as strong is not enough: the unit that is there stays.
   if (strength <= best.Strength) {
     Fail(move);
   } else {
@@ -62,11 +65,14 @@ void Attack(Battlefield& field, int m, int occupant, int defence, Ruling ruling)
   }
 }
 
+/// No unit dislodges another of its own power in the first two phases, however well supported.
 void RefuseOwnUnit(Battlefield& field, int m, int occupant, Ruling ruling) {
   field.Record(m, ruling, 0, {}, occupant, 0);
   Fail(field.Order(m));
 }
 
+/// Decides the head-to-head battles that there are now. Whoever comes the opposite way defends with
+/// its whole force: against an attack head on, the supports for its own move count.
 bool OppositeMovesPass(Battlefield& field) {
   bool changed = false;
   for (int m = 1; m <= field.Orders().Count(); ++m) {
@@ -90,6 +96,7 @@ int Defence(Battlefield& field, int occupant) {
   return bounced ? 1 : field.Force(occupant);
 }
 
+/// Decides the moves against units that do not move or whose moves have failed by now.
 bool StayingUnitsPass(Battlefield& field) {
   bool changed = false;
   for (int m = 1; m <= field.Orders().Count(); ++m) {
@@ -140,6 +147,7 @@ class Contests {
   std::size_t count_ = 0;
 };
 
+/// The strongest move gets the place. Equally strong ones keep each other out: a standoff.
 void MoveIntoEmptyPlace(Battlefield& field, const Contest& contest) {
   field.Record(contest.Move, Ruling::EmptyPlace, contest.Force, contest.Rivals, 0, 0);
   contest.Order->Pending = false;
@@ -201,6 +209,11 @@ void LetRingsMove(Battlefield& field, const Contests& contests) {
 
 }  // namespace
 
+// The order of the phases is a rule of the game. Head-to-head battles come first, since their
+// losers stay and stand in the way of others. A move that fails against a unit that stays makes one
+// more unit that stays, so the passes go on until one decides nothing. What is left are moves into
+// empty places and behind units that may leave; they wait for the unit before them, and those that
+// wait for each other all round, with all that follow them, succeed together.
 void DecideMoves(Battlefield& field) {
   field.CountForces();
   while (OppositeMovesPass(field)) {

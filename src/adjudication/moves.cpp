@@ -20,6 +20,8 @@ using orders::IsConvoy;
 using orders::IsMove;
 using orders::OrderLine;
 
+/// Keeps where everybody stood and who owned what: undoing the season goes back to it, and its
+/// replay starts from it.
 void SavePreviousPositions(GameState& game) {
   for (model::Unit& unit : game.Units)
     text::Assign(unit.PreviousLocation, unit.Location);
@@ -27,6 +29,8 @@ void SavePreviousPositions(GameState& game) {
     text::Assign(province.PreviousOwner, province.Owner);
 }
 
+/// The first cutting of supports. Whether an attack will succeed does not matter; only moves by
+/// convoy must wait until it is known whether their convoys hold.
 void CutByMovesOnLandAndSea(Battlefield& field) {
   for (int k = 1; k <= field.Orders().Count(); ++k) {
     const OrderLine& order = field.Order(k);
@@ -34,6 +38,8 @@ void CutByMovesOnLandAndSea(Battlefield& field) {
   }
 }
 
+/// The second cutting, by the armies whose convoys held. The attacks on their fleets are decided by
+/// then, so no army saves its own convoy by cutting a support.
 void CutByConvoyedMoves(Battlefield& field) {
   for (int k = 1; k <= field.Orders().Count(); ++k) {
     const OrderLine& order = field.Order(k);
@@ -49,6 +55,8 @@ bool AttacksConvoyingFleet(const model::Map& map, Battlefield& field, int k) {
          !model::CanStandIn(map, model::UnitType::Army, field.Order(k).Target);
 }
 
+/// The moves of the first run. They are found before it, since the second run must leave out just
+/// these.
 OrderSet FindConvoyAttacks(const model::Map& map, Battlefield& field) {
   OrderSet attacks;
   for (int k = 1; k <= field.Orders().Count(); ++k) {
@@ -57,6 +65,7 @@ OrderSet FindConvoyAttacks(const model::Map& map, Battlefield& field) {
   return attacks;
 }
 
+/// The first run. The other moves are not decided in it, but they count as rivals.
 void ResolveConvoyAttacks(Battlefield& field, const OrderSet& attacks) {
   for (int k = 1; k <= field.Orders().Count(); ++k) {
     OrderLine& order = field.Order(k);
@@ -89,6 +98,7 @@ bool DisruptConvoys(GameState& game, Resolution& resolution) {
   return convoyExists;
 }
 
+/// Two orders for one unit may both have succeeded: the later one then says where it ends.
 void ApplyMoves(GameState& game, Resolution& resolution) {
   for (int u = 1; u <= game.Units.Count(); ++u) {
     if (game.Units[u].Status == model::Dislodged) {
@@ -102,6 +112,8 @@ void ApplyMoves(GameState& game, Resolution& resolution) {
   }
 }
 
+/// Marks every place that a move with any force left was aimed at. A place that somebody entered is
+/// marked as well: it is occupied, so the mark forbids nothing there.
 void MarkStandoffs(GameState& game, const Resolution& resolution) {
   const model::Map& map = *game.Map;
   std::bitset<model::ProvinceBound + 1> contested;
@@ -131,6 +143,7 @@ void BuildMoveReport(GameState& game, Resolution& resolution) {
   game.OrdersList.clear();
 }
 
+/// While units have to retreat nothing else advances: centres change hands after the retreats.
 void AdvanceStage(GameState& game) {
   const bool retreats =
       std::any_of(game.Units.begin(), game.Units.end(),
@@ -164,6 +177,8 @@ Resolution ResolveMoves(GameState& game, model::Messages& messages) {
   resolution.Reasons.SetCount(resolution.Orders.Count());
   Battlefield field(game, resolution);
   CutByMovesOnLandAndSea(field);
+  // Attacks on convoying fleets come first: they decide which convoyed armies arrive at all, and
+  // only those can cut supports and oppose the other moves.
   const OrderSet convoyAttacks = FindConvoyAttacks(*game.Map, field);
   ResolveConvoyAttacks(field, convoyAttacks);
   if (DisruptConvoys(game, resolution)) {

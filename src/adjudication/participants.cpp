@@ -75,6 +75,7 @@ class Parties {
     Add(DislodgerOfUnit(resolution_, fleet));
   }
 
+  // The same bound as for the sentence about the ring: moves that follow it never come back.
   void AddRing() {
     if (resolution_.Reasons[order_].Ruling != Ruling::Ring) return;
     int k = order_;
@@ -134,6 +135,7 @@ void AddTo(Locations& locations, const std::string& location) {
   if (std::ranges::find(locations, location) == locations.end()) locations.push_back(location);
 }
 
+/// Adds where the unit stands after the resolution, or stood last.
 void AddUnit(const Resolution& resolution, int unit, Locations& locations) {
   const std::string* location = &resolution.UnitsBefore[unit].Location;
   for (const OrderLine& order : resolution.Orders) {

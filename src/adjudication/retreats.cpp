@@ -43,6 +43,7 @@ bool FindDislodgedUnits(const GameState& game, Resolution& resolution, Questions
   return true;
 }
 
+/// Whether the unit has an order, valid or not: a rejected one was asked about already.
 bool IsOrdered(const OrderTable& table, const orders::Piece& piece) {
   return std::any_of(table.begin(), table.end(),
                      [&](const OrderLine& order) { return orders::OrderedPiece(order) == piece; });
@@ -74,6 +75,8 @@ void CheckRetreatMoves(const GameState& game, OrderTable& table) {
         !model::IsAdjacent(map, order.UnitType, order.Location, order.Target)) {
       orders::Reject(order, OrderResult::ImpossibleMove);
     }
+    // Also looked at after an impossible move, and reported in its place. A unit in the way only
+    // makes the retreat fail later; a standoff rejects it.
     if (game.Provinces[order.Target].Uncontested) continue;
     if (model::FindUnitAt(game, order.Target) != 0) {
       order.Result = OrderResult::Occupied;
@@ -104,6 +107,7 @@ void Lose(OrderLine& order, Reason& reason, Ruling ruling, int blocker) {
 /// The last report line about the unit; a new one if there is none.
 int ReportLineOf(const Unit& unit, GameState& game) {
   const std::string key = model::UnitText(unit);
+  // Lines of the moves begin with two blanks or "[ ".
   constexpr std::size_t lead = 2;
   for (int i = game.ReportLines.Count(); i >= 1; --i) {
     if (game.ReportLines[i].compare(std::min(lead, game.ReportLines[i].size()), key.size(), key) ==
@@ -115,6 +119,7 @@ int ReportLineOf(const Unit& unit, GameState& game) {
   return game.ReportLines.Count();
 }
 
+/// Runs before the units move, since their lines are found by where they were dislodged.
 void ReportRetreats(GameState& game, Resolution& resolution) {
   for (int k = 1; k <= resolution.Orders.Count(); ++k) {
     const OrderLine& order = resolution.Orders[k];
@@ -137,6 +142,7 @@ void ApplyRetreats(GameState& game, const OrderTable& table) {
     game.Units[order.UnitIndex].Location = model::LocationName(*game.Map, order.Target);
     game.Units[order.UnitIndex].Status.clear();
   }
+  // Whoever was disbanded, lost its retreat or had no valid order is still marked, and goes.
   for (int u = game.Units.Count(); u >= 1; --u) {
     if (game.Units[u].Status == model::Dislodged) game.Units.Remove(u);
   }
@@ -164,6 +170,7 @@ void ResolveRetreatStandoffs(const GameState& game, Resolution& resolution) {
     OrderLine& order = table[i];
     if (!IsRetreat(order) || !order.Pending || !order.Active) continue;
     Reason& reason = resolution.Reasons[i];
+    // Dislodged units have not left yet: they are in each other's way, too.
     const Unit& unit = game.Units[order.UnitIndex];
     if (model::SamePlace(model::LocationName(*game.Map, order.Target), unit.DislodgedFrom)) {
       Lose(order, reason, Ruling::BackToAttacker, 0);

@@ -39,6 +39,7 @@ Resolution ResolveStageInPlace(model::GameState& game, model::Messages& messages
 }
 
 Resolution ResolveStage(model::GameState& game, model::Messages& messages) {
+  // Works on a copy: a No at any question, or an error, leaves the situation as it was.
   model::GameState next = game;
   Resolution resolution = ResolveStageInPlace(next, messages);
   if (resolution.Completed) game = std::move(next);

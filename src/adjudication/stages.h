@@ -10,8 +10,8 @@ namespace orb::adjudication {
 /// other stage. When the result is not completed, or on a throw, the situation is as before.
 Resolution ResolveStage(model::GameState& game, model::Messages& messages);
 
-/// The same in place, for who needs the situation before no more or has a copy of it: when the
-/// result is not completed, and on a throw, the situation is half resolved and must be dropped.
+/// The same in place, for callers that no longer need the situation as it was, or have a copy of
+/// it: when the result is not completed, and on a throw, it is half resolved and must be dropped.
 Resolution ResolveStageInPlace(model::GameState& game, model::Messages& messages);
 
 /// Starts a resolution: takes over the list's lines as orders and the units as they stand.

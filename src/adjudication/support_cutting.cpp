@@ -9,6 +9,8 @@ void CutSupports(Battlefield& field, int m) {
   const int k = field.OrderOf(unit);
   orders::OrderLine& support = field.Order(k);
   if (!support.Active || !orders::IsSupport(support)) return;
+  // A unit is not kept from supporting into a place by an attack from there, unless that attack
+  // dislodges it: then Battlefield::Dislodge withdraws the support.
   if (support.Kind2 == orders::OrderKind::Move && field.IsSamePlace(support.Target2, move.Location))
     return;
   orders::Reject(support, orders::OrderResult::Cut);
