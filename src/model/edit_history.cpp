@@ -22,6 +22,7 @@ void EditHistory::State::PutInto(GameState& game) const {
 }
 
 void EditHistory::Begin(const GameState& before) {
+  // Somebody else has changed the position since: going back would undo that as well.
   if (!LeadsTo(before)) Clear();
   if (states_.empty()) states_.push_back(std::make_shared<const State>(before));
 }

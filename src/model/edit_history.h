@@ -9,7 +9,7 @@
 namespace orb::model {
 
 /// The steps of editing units and provinces, to go back and forth among them. Copies share the
-/// states they hold. A step back without one before it changes nothing; nor does one forth.
+/// states they hold. Undo and Redo change nothing where there is no step to take.
 class EditHistory {
  public:
   /// A step begins in this situation. Where the last one did not lead there, all steps are

@@ -42,6 +42,8 @@ double LeadingNumber(std::string_view text) {
   return number;
 }
 
+/// Which fields the records have in a file with this header. Files of version 0.1 are known by
+/// their whole header: their locations have the fewest fields of all.
 Layout LayoutOf(std::string_view header) {
   const double version = LeadingNumber(header.substr(std::min(VersionPosition, header.size())));
   const bool oldest = header == OldestHeader;

@@ -44,6 +44,7 @@ double UnitDistance(const Province& a, const Province& b) {
 }
 
 int FindUnitAt(const model::GameState& game, std::string_view location) {
+  // From the end, since the last unit counts: of a dislodged unit and its attacker, the later row.
   for (int i = game.Units.Count(); i >= 1; --i) {
     if (model::SamePlace(game.Units[i].Location, location)) return i;
   }

@@ -19,9 +19,12 @@ constexpr std::size_t FixLength = 3;
                         problem);
 }
 
+/// One line of connections. A later line for the same location overwrites only as many neighbours
+/// as it has itself.
 void LoadAdjacencyLine(std::string_view line, const Map& map, Adjacency& adjacency,
                        const std::string& fileName, int lineNumber) {
   std::string fixed(line);
+  // Each fix acts once on the whole line, not on each of its fields.
   FixNames(map, fixed);
   std::string_view rest = fixed;
   const std::string_view name = text::NextField(rest);
@@ -51,6 +54,7 @@ std::string ReadNameFixes(const fs::path& file) {
   }
 }
 
+/// The row that stands for a province and its coasts: that of whichever comes first in the file.
 std::int16_t FirstRowOfPlace(const Map& map, std::string_view name) {
   int row = 1;
   while (!SamePlace(map.Provinces[row].Name, name))
@@ -109,6 +113,7 @@ void LoadAdjacency(std::string_view bytes, const std::string& fileName, const Ma
 std::shared_ptr<const Map> LoadMap(const fs::path& directory) {
   auto map = std::make_shared<Map>();
   const fs::path fixes = directory / "fixnames.dat";
+  // The fixes come first: they apply to all that is read after them.
   LoadNameFixes(ReadNameFixes(fixes), fixes.string(), *map);
   const fs::path provinces = directory / "prov.dat";
   LoadProvinces(ReadFile(provinces), provinces.string(), *map);

@@ -22,7 +22,7 @@ void LoadNameFixes(std::string_view bytes, const std::string& fileName, Map& map
 void LoadProvinces(std::string_view bytes, const std::string& fileName, Map& map);
 
 /// conna.dat or connf.dat: a location's abbreviation, then those of the locations that an army or
-/// a fleet can move to, parted by commas. An unknown neighbour is stored as 0; an unknown first
+/// a fleet can move to, separated by commas. An unknown neighbour is stored as 0; an unknown first
 /// field or a 15th neighbour throws IndexOutOfRange.
 void LoadAdjacency(std::string_view bytes, const std::string& fileName, const Map& map,
                    Adjacency& adjacency);

@@ -13,7 +13,7 @@ enum class Icon { None, Exclamation, Information, Stop };
 enum class Answer { Yes, No, YesToAll };
 
 /// The port for message boxes: a window shows them, a terminal prints them, a test answers from a
-/// script. Lines of a text are parted by a lone carriage return.
+/// script. Lines of a text are separated by a lone carriage return.
 class Messages {
  public:
   Messages() = default;

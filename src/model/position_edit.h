@@ -19,11 +19,11 @@ std::string PlaceName(const model::Map& map, int row);
 std::vector<int> StandingPlaces(const model::Map& map, std::string_view unitType,
                                 std::string_view location);
 
-/// A unit in place of which no more is known.
+/// A unit that is in place and of which nothing more is known.
 model::Unit NewUnit(std::string_view power, std::string_view unitType, std::string_view location);
 
-/// Why there cannot be such a unit in place of that one (0: beside all there are); empty: there
-/// can. One unit at most is in place and one dislodged in the same place.
+/// Why there cannot be such a unit instead of the one with this index (0: in addition to all that
+/// there are); empty: there can. A place holds at most one unit in place and one dislodged unit.
 std::string UnitFault(const model::GameState& game, const model::Unit& wanted, int replaced);
 
 /// Why the unit cannot be moved to the location; empty: it can.
@@ -32,7 +32,7 @@ std::string MoveFault(const model::GameState& game, int unit, std::string_view l
 /// The new unit is the last one.
 std::string AddUnit(model::GameState& game, const model::Unit& unit);
 
-/// All else about the unit stays, also that it is dislodged.
+/// Everything else about the unit stays, even that it is dislodged.
 std::string MoveUnit(model::GameState& game, int unit, std::string_view location);
 
 void RemoveUnit(model::GameState& game, int unit);

@@ -10,7 +10,7 @@
 
 namespace orb::model {
 
-/// What of a game is edited beside its map: its names, its place in time and its texts.
+/// What is edited of a game apart from its map: its names, its place in time and its texts.
 struct SeasonFacts {
   std::string Title;
   std::string Season;

@@ -27,6 +27,7 @@ bool RejectWithWarning(OrderTable& orders, int k, OrderResult result, Questions&
       k, model::WarningText(orders[k].Text, std::string(ResultWord(result)).append(".")));
 }
 
+/// Finds the unit of each order; rejects the orders for units that are not there.
 bool FindUnitsOfOrders(const Pieces& pieces, OrderTable& orders, Questions& questions) {
   Chains<model::ProvinceBound, model::UnitBound> units;
   for (int u = pieces.Count(); u >= 1; --u)
@@ -59,6 +60,8 @@ int OrderFor(const Piece& piece, const OrderTable& orders, const OrdersByLocatio
   return last;
 }
 
+/// Finds the order of each unit, and supplies a hold for those without one. "Yes to all" holds for
+/// the rest of this resolution only.
 bool FindOrdersOfUnits(const Map& map, const Pieces& pieces, OrderTable& orders,
                        OrdersOfUnits& ordersOfUnits, Questions& questions) {
   const OrdersByLocation written = ByLocation(orders);
@@ -84,6 +87,8 @@ bool FindOrdersOfUnits(const Map& map, const Pieces& pieces, OrderTable& orders,
 void LinkTo(OrderLine& order, OrderLine& other, int otherIndex) {
   if (order.Target2 == other.Target && order.Kind2 == other.Kind) {
     order.LinkedOrder = static_cast<std::int16_t>(otherIndex);
+    // One fleet is enough to make it a convoyed move: whether the fleets form a chain is not
+    // checked.
     if (IsConvoy(order)) other.ViaConvoy = true;
   } else if (!IsMove(other) && IsSupport(order) && order.Kind2 == OrderKind::Hold) {
     order.LinkedOrder = static_cast<std::int16_t>(otherIndex);
@@ -98,6 +103,7 @@ void LinkOrders(OrderTable& orders) {
     for (int t = all.First(order.Target); t != 0; t = all.Next(t)) {
       if (RefersTo(order, orders[t])) LinkTo(order, orders[t], t);
     }
+    // The one fault that is not asked about: the report shows it.
     if (order.LinkedOrder == 0) Reject(order, OrderResult::NotUsed);
   }
 }

@@ -6,8 +6,9 @@
 
 namespace orb::orders {
 
-/// Lists of indices strung together in ascending order, one list a key; 0 ends a list. Keys are
-/// 0..KeyBound, items 1..ItemBound, each item in one list.
+/// Lists of indices in ascending order, strung together without any memory of their own: one list a
+/// key, ended by 0. Keys are 0..KeyBound, items 1..ItemBound, each item in one list at most;
+/// ItemBound must fit into a signed byte.
 template <int KeyBound, int ItemBound>
 class Chains {
  public:

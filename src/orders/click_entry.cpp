@@ -15,11 +15,13 @@ void AppendAction(OrderEntry& entry, std::string_view location) {
     entry.Text += "hold ";
     return;
   }
+  // The dash may have been written by the button before.
   if (!text::Trim(entry.Text).ends_with('-')) entry.Text += "- ";
   entry.Text.append(location).append(" ");
 }
 
 void AppendUnit(OrderEntry& entry, const Unit& unit, ClickKeys keys) {
+  // The power is written once, in front; a second unit of the same power goes without it.
   if (!entry.Text.starts_with(unit.Power)) entry.Text += unit.Power + " ";
   entry.Text += unit.UnitType + "(" + unit.Location + ") ";
   if (keys.Shift) entry.Text += "S ";
@@ -36,6 +38,8 @@ int FindDislodgedAt(const GameState& game, std::string_view location) {
   return 0;
 }
 
+/// Whether a click means a build: the verb of an unfinished line decides, otherwise whether a unit
+/// stands there to be disbanded.
 bool IsBuildMeant(const std::string& text, bool unitThere) {
   if (text.find(')') == std::string::npos) {
     const std::string words = text::UpperCase(text);

@@ -7,7 +7,7 @@
 
 namespace orb::orders {
 
-// Order lines are written by clicks on the map. A click is told by the location it hit; nothing
+// Order lines are written by clicks on the map. A click is known by the location it hit; nothing
 // is refused, and a click that means nothing leaves the line as it is.
 
 /// A line of the moves stage that is being written.

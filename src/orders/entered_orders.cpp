@@ -8,6 +8,7 @@
 namespace orb::orders {
 namespace {
 
+/// Marks the moves of armies that a convoy order describes.
 void MarkConvoyed(std::vector<OrderOutcome>& read) {
   for (OrderOutcome& move : read) {
     move.ViaConvoy = move.Kind == OrderKind::Move && move.UnitType == "A" &&

@@ -71,6 +71,7 @@ void CutUnit(FieldCutter& fields, OrderWords& order) {
   order.Location = fields.UpTo(')');
 }
 
+/// Waters are spelled in capitals, lands are not.
 bool IsWater(std::string_view location) {
   return std::none_of(location.begin(), location.end(),
                       [](char c) { return c >= 'a' && c <= 'z'; });

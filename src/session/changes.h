@@ -6,8 +6,7 @@
 
 namespace orb::session {
 
-/// Parts of a situation, as a set: what a command changed, or what somebody who shows it depends
-/// on.
+/// Parts of a situation, as a set: what a command changed, or what a view of it depends on.
 enum class Changes : std::uint8_t {
   None = 0,
   Season = 1,    ///< title, season, year, stage, free text

@@ -93,8 +93,8 @@ void SetEditing(Situation& situation, Editing editing);
 /// A change of the position as in model/position_edit.h: why it is refused, or an empty text.
 using PositionChange = std::function<std::string(model::GameState&)>;
 
-/// Makes a change, which can be taken back till the editing ends or another command changes what is
-/// edited. Returns what the change returns.
+/// Makes a change, which can be taken back until the editing ends or another command changes what
+/// is edited. Returns what the change returns.
 std::string Edit(Situation& situation, const PositionChange& change);
 
 void UndoEdit(Situation& situation);

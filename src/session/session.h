@@ -41,8 +41,8 @@ struct Effect {
 };
 
 /// A game that is worked on. A command works on a copy, which takes the situation's place whole or
-/// not at all: a throw or a declined command leaves everything as it was, but for the line at which
-/// a resolution stopped.
+/// not at all: a throw or a declined command leaves everything as it was, except for the line at
+/// which a resolution stopped.
 class Session {
  public:
   explicit Session(Situation start) : now_(std::move(start)) {}
