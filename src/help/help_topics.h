@@ -43,7 +43,7 @@ std::optional<std::size_t> FindHelpTopic(const HelpTopics& topics, std::string_v
 
 enum class HelpBlockForm { Paragraph, Heading, Item, Literal };
 
-/// A part of a topic's text. The lines of a literal block are parted by "\n" and have lost four
+/// A part of a topic's text. The lines of a literal block are separated by "\n" and have lost four
 /// blanks each; the lines of the others are run together with their marks kept for HelpSpans.
 struct HelpBlock {
   HelpBlockForm Form = HelpBlockForm::Paragraph;

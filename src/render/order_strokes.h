@@ -34,7 +34,7 @@ void DrawEndDot(Surface& surface, const OrderPen& pen, Point centre, bool filled
 /// A bar across a line.
 void DrawBar(Surface& surface, const OrderPen& pen, Spot spot);
 
-/// Two strokes aslant across a gap in a line.
+/// Two slanting strokes across a gap in a line.
 void DrawCut(Surface& surface, const OrderPen& pen, Spot spot);
 
 /// An x that reaches this far to each side.

@@ -21,7 +21,7 @@ class Shell {
  public:
   const TemporaryDirectory& Directory() const { return directory_; }
 
-  /// Runs a command line whose arguments are parted by single blanks.
+  /// Runs a command line whose arguments are separated by single blanks.
   Outcome Run(std::string_view line) const;
   Outcome Run(const std::vector<std::string>& arguments, bool errIsTerminal = false) const;
 

@@ -40,7 +40,7 @@ std::vector<std::string> Blocks(const HelpTopic& topic) {
   return texts;
 }
 
-/// An example: under each heading ("Report:") its lines, or what follows it, parted by commas.
+/// An example: under each heading ("Report:") its lines, or what follows it, separated by commas.
 using Example = std::map<std::string, std::vector<std::string>>;
 
 Example ReadExample(const std::string& block) {

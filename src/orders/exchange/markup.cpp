@@ -51,7 +51,7 @@ void DropTags(PlainText& line) {
       origins.push_back(line.Origins[at++]);
       continue;
     }
-    // Cells of a table are parted by blanks.
+    // Cells of a table are separated by blanks.
     if (isBlock ? HasText(text) : name.starts_with('t')) {
       text += isBlock ? ';' : ' ';
       origins.push_back(line.Written(at, close + 1));

@@ -75,7 +75,7 @@ std::vector<TokenRange> Split(Tokens tokens, TokenRange range, Seam seam) {
 
 /// Reads a text line by line; what headings say is kept for the lines below. A line goes through
 /// these steps: the exact form, then signs that it belongs to a mail, then headings, then comments
-/// cut off its end, then its orders, parted by semicolons, commas, full stops or nothing at all.
+/// cut off its end, then its orders, separated by semicolons, commas, full stops or nothing at all.
 class TextReader {
  public:
   TextReader(KnownGame& known, const ReadingOptions& options) : known_(known), options_(options) {

@@ -21,7 +21,7 @@ bool IsIn(const Token& token, Words words) {
 
 struct VerbWords {
   Verb Meaning;
-  std::string_view Words;  ///< parted by blanks
+  std::string_view Words;  ///< separated by blanks
 };
 
 // Words in small letters, as tokens have them. A word missing here makes an order unclear, which
