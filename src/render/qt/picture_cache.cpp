@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <system_error>
+#include <utility>
 
 namespace orb::render {
 namespace {
@@ -28,19 +30,34 @@ QImage Decode(const std::filesystem::path& file) {
 
 }  // namespace
 
-PictureCache::Entry& PictureCache::Current(const std::filesystem::path& file) {
+std::optional<PictureCache::Stamp> PictureCache::StampOf(const std::filesystem::path& file) {
   std::error_code error;
-  // Time and size are looked at on each call, so that an exchanged background shows without a
-  // restart.
   const auto time = std::filesystem::last_write_time(file, error);
-  const auto size = error ? 0 : std::filesystem::file_size(file, error);
-  const auto found = entries_.find(file);
-  if (!error && found != entries_.end() && found->second.Time == time &&
-      found->second.Size == size) {
-    return found->second;
+  if (error) return std::nullopt;
+  const auto size = std::filesystem::file_size(file, error);
+  if (error) return std::nullopt;
+  return Stamp{time, size};
+}
+
+void PictureCache::Fetch(const std::filesystem::path& file) {
+  if (const auto stamp = StampOf(file)) {
+    entries_[file] = {*stamp, std::async(std::launch::async, Decode, file), {}, {}};
   }
-  if (found != entries_.end()) entries_.erase(found);
-  return entries_[file] = {time, size, Decode(file), {}};
+}
+
+PictureCache::Entry& PictureCache::Current(const std::filesystem::path& file) {
+  // Looked at on each call, so that an exchanged background shows without a restart.
+  const auto stamp = StampOf(file);
+  std::future<QImage> fetched;
+  if (const auto found = entries_.find(file); found != entries_.end()) {
+    Entry& entry = found->second;
+    const bool isCurrent = stamp == entry.Read;
+    if (isCurrent && !entry.Fetched.valid()) return entry;
+    if (isCurrent) fetched = std::move(entry.Fetched);
+    entries_.erase(found);
+  }
+  QImage picture = fetched.valid() ? fetched.get() : Decode(file);
+  return entries_[file] = {stamp.value_or(Stamp{}), {}, std::move(picture), {}};
 }
 
 const QImage& PictureCache::Picture(const std::filesystem::path& file) {

@@ -5,7 +5,9 @@
 #include <QSizeF>
 
 #include <filesystem>
+#include <future>
 #include <map>
+#include <optional>
 
 namespace orb::render {
 
@@ -13,6 +15,9 @@ namespace orb::render {
 /// scaled copy of each beside it.
 class PictureCache {
  public:
+  /// Begins to decode the picture of a file beside what the program does until it is wanted.
+  void Fetch(const std::filesystem::path& file);
+
   /// The picture of a file. Throws FileError when it is missing or is no picture.
   const QImage& Picture(const std::filesystem::path& file);
 
@@ -20,12 +25,23 @@ class PictureCache {
   const QImage& Scaled(const std::filesystem::path& file, QSize size);
 
  private:
-  struct Entry {
+  /// Tells a file from one that took its place.
+  struct Stamp {
     std::filesystem::file_time_type Time;
     std::uintmax_t Size = 0;
+
+    bool operator==(const Stamp&) const = default;
+  };
+
+  struct Entry {
+    Stamp Read;                   ///< of the file when it was read
+    std::future<QImage> Fetched;  ///< valid until the picture is first wanted
     QImage Original;
     QImage Scaled;
   };
+
+  /// Nothing where the file cannot be looked at.
+  static std::optional<Stamp> StampOf(const std::filesystem::path& file);
 
   Entry& Current(const std::filesystem::path& file);
 

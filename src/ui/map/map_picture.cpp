@@ -29,6 +29,8 @@ MapPicture::MapPicture(const Desk& desk, model::Messages& messages, QWidget* par
   setFocusPolicy(Qt::ClickFocus);
   // The picture fills the widget, so nothing needs to be cleared before.
   setAttribute(Qt::WA_OpaquePaintEvent);
+  // Decoded while the rest of the window is made: it takes about as long.
+  m_pictures.Fetch(backgroundFile(desk.view()));
 }
 
 void MapPicture::draw(const session::Situation& situation, const View& view) {
@@ -36,10 +38,17 @@ void MapPicture::draw(const session::Situation& situation, const View& view) {
       render::MapImage(situation.Game, view.mapOptions, m_desk.dataDirectory(), fittingPixelWidth(),
                        m_pictures, shownOrders(situation, view));
   m_picture = QPixmap::fromImage(image);
-  const QImage& background =
-      m_pictures.Picture(render::BackgroundFile(m_desk.dataDirectory(), view.mapOptions.Mode));
-  m_naturalSize = (render::NaturalSize(background) / render::TwipsPerPixel).toSize();
+  measure(view);
   update();
+}
+
+void MapPicture::measure(const View& view) {
+  const QImage& background = m_pictures.Picture(backgroundFile(view));
+  m_naturalSize = (render::NaturalSize(background) / render::TwipsPerPixel).toSize();
+}
+
+std::filesystem::path MapPicture::backgroundFile(const View& view) const {
+  return render::BackgroundFile(m_desk.dataDirectory(), view.mapOptions.Mode);
 }
 
 void MapPicture::setMarks(std::vector<std::string> locations) {

@@ -26,6 +26,9 @@ class MapPicture : public QWidget {
   /// The desk and the messages must outlive the map.
   MapPicture(const Desk& desk, model::Messages& messages, QWidget* parent = nullptr);
 
+  /// Takes the size at which the map is meant to be seen from its background. Throws FatalError.
+  void measure(const View& view);
+
   /// Draws a situation whole. Throws FatalError, the picture shown so far kept.
   void draw(const session::Situation& situation, const View& view);
 
@@ -60,6 +63,7 @@ class MapPicture : public QWidget {
   void leaveEvent(QEvent* event) override;
 
  private:
+  std::filesystem::path backgroundFile(const View& view) const;
   void drawAgain();
   void paintMarks(render::Surface& surface) const;
   const render::HitMap& hitMap();

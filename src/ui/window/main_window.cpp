@@ -70,8 +70,8 @@ MainWindow::MainWindow(Start start, const Places& places)
   // A game file can be dropped anywhere on the window.
   setAcceptDrops(true);
   setWindowIcon(programIcon());
-  createStatusBar();
   createPanels();
+  createStatusBar();
   layOutPanels();
   createMenus();
   createToolbar();
@@ -79,7 +79,7 @@ MainWindow::MainWindow(Start start, const Places& places)
   // Drawn directly this once: when the map cannot be drawn at the start, the exception must reach
   // the caller instead of becoming a box over a window that is not there yet.
   m_desk.setShowOrders(m_memory.flag(ShowOrders));
-  m_map->draw(m_desk.now(), m_desk.view());
+  m_map->measure(m_desk.view());
   m_view->setZoom(m_memory.zoom());
   m_desk.setDrawing(
       [this](const session::Situation& next, const View& view) { m_map->draw(next, view); });
@@ -88,6 +88,11 @@ MainWindow::MainWindow(Start start, const Places& places)
                      &MainWindow::showGame);
   connect(&m_desk, &Desk::viewChanged, this, &MainWindow::showViewOnly);
   showGame();
+  // The map is drawn once all has its place: at any other size it would be drawn again.
+  layout()->activate();
+  centralWidget()->layout()->activate();
+  m_view->setZoom(m_view->zoom());
+  m_map->draw(m_desk.now(), m_desk.view());
 }
 
 /// The panels use the desk, and signal to the window when they are hidden: they are deleted first,
