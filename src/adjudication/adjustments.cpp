@@ -76,8 +76,8 @@ bool CheckEachOrder(const GameState& game, Resolution& resolution, Questions& qu
   return true;
 }
 
-/// Whether order i is active is asked once, before its comparisons: of three orders for one place
-/// all three clash.
+/// Whether order i is active is looked at only once, before its comparisons: three orders for one
+/// place all clash.
 bool CheckClashes(Resolution& resolution, Questions& questions) {
   OrderTable& table = resolution.Orders;
   for (int i = 1; i < table.Count(); ++i) {

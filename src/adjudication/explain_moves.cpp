@@ -64,7 +64,7 @@ Account ExplainCut(const Resolution& resolution, int order) {
 Account ExplainRejection(const Resolution& resolution, int order) {
   const OrderLine& line = resolution.Orders[order];
   const Reason& reason = resolution.Reasons[order];
-  // A convoy may fail for a move that was impossible anyway; the later fate is told.
+  // A convoy may fail for a move that was impossible anyway; the later fate is explained.
   if (line.UnitIndex != 0 && reason.LostFleet != 0) {
     return {{"Its convoy failed", BrokenConvoy(resolution, reason.LostFleet)}};
   }
@@ -87,7 +87,7 @@ Account ExplainRejection(const Resolution& resolution, int order) {
   }
 }
 
-/// A fleet that was dislodged itself tells of that at the end of its sentence, so not here.
+/// If this fleet itself was dislodged, the end of its sentence says so; here nothing is said of it.
 Account ExplainConvoy(const Resolution& resolution, int order) {
   const int army = resolution.Orders[order].LinkedOrder;
   const std::string move = Quoted(resolution.Orders[army]);

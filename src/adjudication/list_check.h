@@ -24,7 +24,8 @@ struct ListCheck {
 };
 
 /// Checks the list of the game's stage as resolving it would, without a question. Lines for which
-/// there is no room in the order table are told so. A stage without orders gives an empty check.
+/// there is no room in the order table have that as their problem. A stage without orders gives an
+/// empty check.
 ListCheck CheckList(const model::GameState& game);
 
 /// The problems as one text.

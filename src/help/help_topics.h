@@ -9,7 +9,7 @@
 namespace orb::help {
 
 // The help file holds 8-bit text. A line that begins with "%" starts a topic, and the rest of the
-// line is its caption; lines before the first topic count for nothing. In the text of a topic
+// line is its caption; lines before the first topic are ignored. In the text of a topic
 //
 //   - a blank line ends a paragraph; the lines of a paragraph run on,
 //   - a paragraph of one line that is underlined with "---" is a heading,

@@ -73,8 +73,8 @@ Target FindTarget(fs::path path) {
   return {std::move(path), std::nullopt};
 }
 
-/// A file that is there must be an ordinary one that may be written: renaming over it would not
-/// ask.
+/// A file that exists must be an ordinary one with permission to write: renaming over it would not
+/// ask for any.
 void CheckReplaceable(const Target& target) {
   if (!target.Mode) return;
   if (!S_ISREG(*target.Mode)) {
@@ -84,7 +84,7 @@ void CheckReplaceable(const Target& target) {
   if (::access(target.Path.c_str(), W_OK) != 0) Fail("write", target.Path, errno);
 }
 
-/// The mode the finished file shall have: that of the file it replaces, else the usual one.
+/// The mode that the finished file is to have: that of the file it replaces, else the usual one.
 mode_t FileMode(const Target& target) {
   if (target.Mode) return *target.Mode & 07777;
   // The mask can only be asked for by setting it.

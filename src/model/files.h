@@ -11,7 +11,7 @@ std::string ReadFile(const std::filesystem::path& path);
 
 /// Replaces a file whole or not at all: writes beside it, flushes to disk, renames over it. On
 /// failure throws FileError with the system's reason; the old file stays and nothing lies beside
-/// it. A link is followed; anything that is no ordinary file is refused.
+/// it. A link is followed; anything but an ordinary file is refused.
 void ReplaceFile(const std::filesystem::path& path, std::string_view bytes);
 
 /// Whether ReplaceFile may write the file, as far as permissions tell.
@@ -23,7 +23,7 @@ bool IsLink(const std::string& path);
 /// The path with the file's own name in small letters; directories stay as given.
 std::filesystem::path LowerCaseName(const std::filesystem::path& path);
 
-/// The file meant by a user who may not know of letter case: the one with its own name in small
+/// The file meant by a user who may not care about letter case: the one with its own name in small
 /// letters, unless only the name as given exists.
 std::filesystem::path FileInAnyCase(const std::filesystem::path& path);
 

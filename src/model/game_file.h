@@ -29,8 +29,8 @@ std::optional<std::string> ParseGameFile(std::string_view bytes, const std::stri
 void WriteGameFile(const GameState& game);
 
 /// Reads the named file into the situation and makes it the current file name. An unknown location
-/// is told in a message: false. Then, and when it throws as ParseGameFile does, the situation is
-/// unchanged.
+/// is reported in a message: false. Then, and when it throws as ParseGameFile does, the situation
+/// is unchanged.
 bool ReadGameFile(GameState& game, const std::filesystem::path& file, Messages& messages);
 
 }  // namespace orb::model

@@ -62,7 +62,7 @@ std::string OccupationFault(const GameState& game, const Unit& wanted, int repla
 std::string DislodgementFault(const Map& map, const Unit& unit) {
   if (unit.Status.empty()) return {};
   if (unit.Status != model::Dislodged) return Quoted(unit.Status) + " is not a status of units.";
-  // Old game files do not tell it.
+  // Old game files do not record it.
   if (unit.DislodgedFrom.empty()) return {};
   if (model::SamePlace(unit.DislodgedFrom, unit.Location)) {
     return "The attack on " + LocationName(map, unit.Location) + " cannot have come from there.";
@@ -78,7 +78,7 @@ std::string PreviousFault(const Map& map, const Unit& unit) {
   return TypeName(unit) + " cannot have stood in " + LocationName(map, previous) + " before.";
 }
 
-/// Whether it can be where and as it is beside the others.
+/// Whether the unit can be where and as it is, together with the others.
 std::string PositionFault(const GameState& game, const Unit& wanted, int replaced) {
   std::string fault = StandingFault(*game.Map, wanted);
   if (fault.empty()) fault = DislodgementFault(*game.Map, wanted);

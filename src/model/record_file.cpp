@@ -37,7 +37,7 @@ const char* SkipBlanks(const char* at, const char* end) {
   return at;
 }
 
-/// The field as it is shown in an error text: short, and without bytes that are no text.
+/// The field as it is shown in an error text: short, and without bytes that cannot be printed.
 std::string Shown(std::string_view field) {
   constexpr std::size_t longest = 40;
   std::string shown(field.substr(0, longest));

@@ -66,7 +66,7 @@ class RecordWriter {
   RecordWriter& Flag(bool flag) { return flag ? Plain("-1") : Plain("0"); }
   void EndRecord();
 
-  /// What was written; the writer is done with.
+  /// What was written; the writer must not be used after that.
   std::string Take();
 
  private:

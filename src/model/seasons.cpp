@@ -13,7 +13,7 @@ bool HasNoStart(const Unit& unit) {
   return unit.PreviousLocation.empty() || unit.PreviousLocation == Unknown;
 }
 
-/// A game whose units stand nowhere could not be read again.
+/// Throws for a unit from nowhere: a game with its units off the map could not be read again.
 void CheckStarts(const GameState& game) {
   for (const Unit& unit : game.Units) {
     if (!HasNoStart(unit) && FindProvince(*game.Map, unit.PreviousLocation) == 0) {

@@ -27,7 +27,7 @@ struct OrderOutcome {
   std::string Destination;    ///< of the move, also the supported or convoyed one; else empty
   bool ViaConvoy = false;     ///< the move is carried by a fleet
   orders::Outcome Outcome = Outcome::Entered;
-  bool Unordered = false;  ///< nobody wrote it: the unit holds or disbands for want of an order
+  bool Unordered = false;  ///< nobody wrote it: the unit holds or disbands for lack of an order
 
   bool operator==(const OrderOutcome&) const = default;
 };

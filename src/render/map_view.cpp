@@ -208,7 +208,7 @@ void DrawColourLegend(Surface& surface, const GameState& game) {
   SetPens(surface);
 }
 
-/// Nothing is worked out for a map without orders.
+/// The boxes that orders keep clear of; for a map without orders none need be worked out.
 std::vector<LabelBoxes> BoxesToKeepClear(const Surface& surface, const GameState& game,
                                          const Orders& orders) {
   return orders.empty() ? std::vector<LabelBoxes>{} : LabelBoxesOf(surface, *game.Map);

@@ -124,8 +124,8 @@ class Router {
            !SupportsMove(order) && EndOf(order) != order.Location;
   }
 
-  /// The points, in order, that the line of an order leads from, through and to. Lines to and fro
-  /// between two places would be one, so each keeps to its right.
+  /// The points, in order, that the line of an order leads from, through and to. Lines both ways
+  /// between two places would fall into one, so each keeps to its right.
   Path StopsOf(const OrderRoute& route, bool hasOpposite) const {
     const OrderOutcome& order = *route.Order;
     Path stops = {route.Unit};
@@ -215,7 +215,7 @@ class Router {
                      : FreeAt(route.Way, SupportedPart(route.Way) + 0.17, {0, 0.08, -0.3, -0.4});
   }
 
-  /// The move that a support or convoy is for; nothing when no order goes it.
+  /// The move that a support or convoy is for; nothing when nobody ordered it.
   const OrderRoute* FindMove(const OrderOutcome& order) const {
     const auto move = std::ranges::find_if(routes_, [&order](const OrderRoute& other) {
       return history::IsForMove(order, *other.Order) && !other.Way.Line.empty();

@@ -194,6 +194,7 @@ Section FreeText(const GameState& game) {
 std::string TextReport(const GameState& game) {
   std::string report;
   AddWrapped(game.Title, 0, report);
+  // A title of several lines is underlined over the full width.
   report.append(std::min(game.Title.size(), TextReportWidth), '=').append("\n");
   AddWrapped(game.Season + " " + std::to_string(game.Year) + ", " + std::string(StageText(game)), 0,
              report);

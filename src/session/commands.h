@@ -27,7 +27,7 @@ void NewGame(Situation& situation, const std::filesystem::path& dataDirectory);
 /// The empty board.
 void BlankGame(Situation& situation, const std::filesystem::path& dataDirectory);
 
-/// Reads a game file. A location that is not on the map is told in a message: false.
+/// Reads a game file. A location that is not on the map is reported in a message: false.
 bool ReadGame(Situation& situation, const std::filesystem::path& file, model::Messages& messages);
 
 /// Reads a game file to work on; the starting position where ReadGame is false.

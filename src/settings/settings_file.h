@@ -31,7 +31,7 @@ std::string FormatSettings(const Settings& settings, const model::CountryTable& 
 void ReadSettingsFile(const std::filesystem::path& file, Settings& settings,
                       model::CountryTable& countries);
 
-/// Writes the file whole, with the directory that it lies in. Throws FileError.
+/// Writes the file whole, and makes the directory that it lies in. Throws FileError.
 void WriteSettingsFile(const std::filesystem::path& file, const Settings& settings,
                        const model::CountryTable& countries);
 

@@ -8,6 +8,7 @@
 
 namespace {
 
+/// Whether two descriptors lead to the same terminal, file or pipe.
 bool IsSameFile(int a, int b) {
   struct stat first {};
   struct stat second {};

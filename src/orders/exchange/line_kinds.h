@@ -24,7 +24,7 @@ inline bool IsHeadingOf(model::Stage stage, const Heading& heading) {
 std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names);
 
 /// Behind the marks that begin a line in mails and lists: "> ", "- ", "1.", "(2)", "a)", "[10:15]",
-/// "<name>"; so much belongs to none of its orders.
+/// "<name>"; what comes before belongs to none of its orders.
 std::size_t PastLineStart(Tokens tokens);
 
 /// Whether a line belongs to the head of a mail or tells whose words are quoted.

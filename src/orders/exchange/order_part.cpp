@@ -77,8 +77,8 @@ PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context) {
     part.Kind = part.Meant.All.size() == 1 ? LineKind::Order : LineKind::Ambiguous;
     return part;
   }
-  // What is wrong in the situation is told before what is wrong in the grammar: then the order was
-  // read to its end.
+  // What is wrong in the situation is reported rather than what is wrong in the grammar: the order
+  // was read to its end then.
   const auto& problem = part.Meant.Problem ? part.Meant.Problem : parse.Problem;
   part.Problem = problem.value_or(Fault{"it is not understood", {0, tokens.size() - start}});
   part.Problem.At.Begin += start;

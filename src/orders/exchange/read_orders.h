@@ -46,10 +46,10 @@ struct ReadingOptions {
 };
 
 /// Reads orders for the game's stage as people write them. Every line of the text comes back, in
-/// order; one that holds several orders as several. The text is UTF-8 or Windows-1252, each line
-/// by itself; lines end in LF, CR LF or CR. A line in the exact form always reads as itself. No
-/// order is guessed: what can be read in two ways is ambiguous, unless only one of them can be
-/// meant in the game. Throws FatalError for a text beyond the bound.
+/// order; one that holds several orders as several. The text is UTF-8 or Windows-1252, decided
+/// for each line separately; lines end in LF, CR LF or CR. A line in the exact form always reads as
+/// itself. No order is guessed: what can be read in two ways is ambiguous, unless only one of them
+/// can be meant in the game. Throws FatalError for a text beyond the bound.
 std::vector<ReadLine> ReadOrders(const model::GameState& game, std::string_view text,
                                  const ReadingOptions& options);
 

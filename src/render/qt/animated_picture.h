@@ -31,8 +31,8 @@ using FrameSource = std::function<std::optional<AnimationFrame>()>;
 /// Called after every frame with the frames done and the number of all; false stops the work.
 using FrameProgress = std::function<bool(int done, int all)>;
 
-/// An animated GIF of the frames that runs for ever, in at most 255 colours. Throws FileError when
-/// there is no frame.
+/// An animated GIF of the frames that repeats forever, in at most 255 colours. Throws FileError
+/// when there is no frame.
 std::string AnimatedGif(const FrameSource& next, const std::vector<QRgb>& colours);
 
 /// Saves replays, played one after the other, as an animated GIF some pixels wide (0: the

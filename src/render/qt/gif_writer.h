@@ -15,8 +15,8 @@ struct GifFileType;
 
 namespace orb::render {
 
-/// Writes an animated GIF that runs for ever. Every frame after the first holds only the rectangle
-/// that changed, and of that only the pixels that changed.
+/// Writes an animated GIF that repeats forever. Every frame after the first holds only the
+/// rectangle that changed, and of that only the pixels that changed.
 class GifWriter {
  public:
   /// How many colours its palette may have: the 256th stands for pixels that stay.
