@@ -9,23 +9,24 @@ namespace {
 
 /// The one place where options are described: both the reader and the help go by this table.
 constexpr std::array<Option, OptionCount> Table{{
-    {OptionId::Data, "--data", "DIR", "the directory of the data files; else the program's own"},
+    {OptionId::Data, "--data", "DIR",
+     "the directory of the data files (default: the program's own)"},
     {OptionId::Help, "--help", "", "print this help and exit"},
     {OptionId::Version, "--version", "", "print the version and exit"},
     {OptionId::Blank, "--blank", "", "the blank position: no units, every province at home"},
     {OptionId::Title, "--title", "TEXT", "the title of the game"},
-    {OptionId::Orders, "--orders", "PATH", "the orders, one a line; a directory: NAME.txt in it"},
+    {OptionId::Orders, "--orders", "PATH", "the orders, one a line (in a directory: NAME.txt)"},
     {OptionId::Loose, "--loose", "", "read the orders as people write them: mails, chats, files"},
     {OptionId::Power, "--power", "ABC", "with --loose: the power of lines that name none"},
-    {OptionId::Report, "--report", "PATH", "write the report there; a directory: NAME.txt in it"},
-    {OptionId::Reasons, "--reasons", "PATH", "write there why each order came out as it did"},
-    {OptionId::Yes, "--yes", "", "answer every question Yes; else No, which abandons the game"},
+    {OptionId::Report, "--report", "PATH", "write the report to PATH (in a directory: NAME.txt)"},
+    {OptionId::Reasons, "--reasons", "PATH", "write to PATH why each order came out as it did"},
+    {OptionId::Yes, "--yes", "", "answer Yes to every question (else No, abandoning the game)"},
     {OptionId::Mode, "--mode", "MODE", "colour3d (the default), colour, grey or bw"},
     {OptionId::CentreCount, "--centre-count", "", "show how many centres each power owns"},
     {OptionId::Borders, "--borders", "", "colour the borders by owner"},
     {OptionId::CentreOwners, "--centre-owners", "", "mark the centres with their owners"},
-    {OptionId::Width, "--width", "PIXELS", "the width of the picture; else that of the map"},
-    {OptionId::Output, "-o", "PATH", "what to write; a directory: NAME.orb in it"},
+    {OptionId::Width, "--width", "PIXELS", "the width of the picture (default: that of the map)"},
+    {OptionId::Output, "-o", "PATH", "the file to write (in a directory: NAME.orb)"},
     {OptionId::InPlace, "--in-place", "", "write over the game file that was read"},
 }};
 
