@@ -142,6 +142,7 @@ TEST_F(AnimationTest, FilesArePlayedInOrderAndThoseThatDoNotFitAreNamed) {
   ASSERT_TRUE(IsOn());
   Press(Qt::Key_Space);
   Press(Qt::Key_Home);
+  const QImage beginning = Map();
   const std::vector<std::pair<Qt::Key, std::pair<int, std::string>>> steps{
       {Qt::Key_Left, {0, "Spring 1901"}},     {Qt::Key_Right, {1000, "Autumn 1901"}},
       {Qt::Key_Right, {2000, "Autumn 1901"}}, {Qt::Key_Right, {3000, "Autumn 1901"}},
@@ -150,6 +151,7 @@ TEST_F(AnimationTest, FilesArePlayedInOrderAndThoseThatDoNotFitAreNamed) {
   for (const auto& [key, expected] : steps) {
     Press(key);
     EXPECT_EQ(std::pair(Position(), Season()), expected);
+    EXPECT_EQ(Map() == beginning, Position() == 0) << "each season has its own map";
   }
   Find<QPushButton>("butAnimateClose").click();
   EXPECT_EQ(Map(), map);

@@ -152,6 +152,8 @@ TEST_F(EditingTest, APropertiesDialogRefusesWhatCannotBe) {
       EXPECT_THAT(dialog.findChild<QLabel*>("lblFault")->text().toStdString(),
                   HasSubstr("occupied by GER A(Mun)"));
       dialog.findChild<QCheckBox*>()->setChecked(true);
+      choose(dialog, "cboDislodgedFrom", "");
+      EXPECT_EQ(dialog.findChild<QComboBox*>("cboDislodgedFrom")->currentText(), "not recorded");
       choose(dialog, "cboDislodgedFrom", "Ruh");
       choose(dialog, "cboPreviousLocation", "Bur");
       EXPECT_TRUE(ok->isEnabled());
@@ -160,6 +162,10 @@ TEST_F(EditingTest, APropertiesDialogRefusesWhatCannotBe) {
     DoubleClick("Par");
   }
   EXPECT_EQ(Selected("lstUnits"), "FRA A(Mun)  Munich, dislodged from Ruh");
+  Click("Mun");
+  EXPECT_EQ(Selected("lstUnits"), "GER A(Mun)  Munich");
+  QTest::mouseClick(&MapWidget(), Qt::LeftButton, {}, Label("Mun"));
+  EXPECT_EQ(Selected("lstUnits"), "FRA A(Mun)  Munich, dislodged from Ruh") << "beside its place";
   {
     const ModalScript answers({[&](QDialog& dialog) {
       dialog.findChild<QAbstractButton*>("optFleet")->click();

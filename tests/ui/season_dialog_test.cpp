@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -139,6 +140,11 @@ TEST_F(SeasonDialogTest, WhatCannotBeStoredIsRefusedAndSaidWhy) {
     QTest::keyClick(text, Qt::Key_A, Qt::ControlModifier);
     paste(text, QString(99, '\n'));
     EXPECT_EQ(text->blockCount(), 100) << "in place of the others";
+    text->clear();
+    QInputMethodEvent composed;
+    composed.setCommitString(QString::fromUtf8("\"é"));
+    QApplication::sendEvent(text, &composed);
+    EXPECT_EQ(text->toPlainText(), QString::fromUtf8("é"));
   };
   Edit(edit, Qt::Key_Return);
   EXPECT_EQ(window_->windowTitle(), Titled(" abc d"));
