@@ -8,6 +8,7 @@
 #include "adjudication/stages.h"
 #include "model/counts.h"
 #include "model/lookups.h"
+#include "orders/order_list.h"
 #include "orders/parser.h"
 
 #include <algorithm>
@@ -139,21 +140,15 @@ Resolution CheckLines(const GameState& game, std::vector<std::string> lines) {
   return resolution;
 }
 
-const std::vector<std::string>* ListOf(const GameState& game) {
-  if (game.Stage == model::Stage::Moves) return &game.OrdersList;
-  if (game.Stage == model::Stage::Retreats) return &game.RetreatsList;
-  return game.Stage == model::Stage::Adjustments ? &game.AdjustmentsList : nullptr;
-}
-
 }  // namespace
 
 ListCheck CheckList(const GameState& game) {
   ListCheck check;
-  const std::vector<std::string>* const list = ListOf(game);
-  if (list == nullptr) return check;
-  const std::size_t room = LinesWithRoom(game, *list);
+  if (!HasOrders(game.Stage)) return check;
+  const std::vector<std::string>& list = orders::StageList(game);
+  const std::size_t room = LinesWithRoom(game, list);
   const Resolution resolution =
-      CheckLines(game, {list->begin(), list->begin() + static_cast<std::ptrdiff_t>(room)});
+      CheckLines(game, {list.begin(), list.begin() + static_cast<std::ptrdiff_t>(room)});
   for (int k = 1; k <= resolution.Orders.Count(); ++k) {
     // Behind the lines, the checks have added an order for each unit that had none.
     if (k <= static_cast<int>(room)) {
@@ -162,7 +157,7 @@ ListCheck CheckList(const GameState& game) {
       check.Unordered.push_back(UnitName(resolution, resolution.Orders[k]));
     }
   }
-  check.Lines.resize(list->size(), {orders::TooManyOrders()});
+  check.Lines.resize(list.size(), {orders::TooManyOrders()});
   if (game.Stage == model::Stage::Adjustments)
     check.Powers = CountProblems(game, resolution.Orders);
   return check;
