@@ -76,9 +76,9 @@ MainWindow::MainWindow(Start start, const Places& places)
   createMenus();
   createToolbar();
   restoreSize();
-  // Drawn directly this once: when the map cannot be drawn at the start, the exception must reach
-  // the caller instead of becoming a box over a window that is not there yet.
   m_desk.setShowOrders(m_memory.flag(ShowOrders));
+  // Measured and, below, drawn directly this once: when the map cannot be drawn at the start, the
+  // exception must reach the caller instead of becoming a box over a window that is not there yet.
   m_map->measure(m_desk.view());
   m_view->setZoom(m_memory.zoom());
   m_desk.setDrawing(

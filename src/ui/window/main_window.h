@@ -54,8 +54,8 @@ class MainWindow : public QMainWindow {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  // The window is built once, in this order: the menus use the panels' map and player, and the
-  // toolbar shows entries of the menus.
+  // The window is built once. The menus use the panels' map and player, and the toolbar shows
+  // entries of the menus, so they are created one after the other.
   void createPanels();
   void layOutPanels();
   void createMenus();
