@@ -55,6 +55,7 @@ ui::Places systemPlaces() {
 
 int runProgram(const std::filesystem::path& gameFile, bool display) {
   StartMessages messages(display);
+  // Stays so when the start fails before the event loop has run.
   int status = EXIT_FAILURE;
   ui::attempt(messages, [&] {
     const ui::Places places = systemPlaces();

@@ -9,6 +9,7 @@ bool attempt(model::Messages& messages, const std::function<void()>& command,
   try {
     command();
     return true;
+    // Only the user's errors: any other exception is a fault of the program and ends it.
   } catch (const model::FatalError& fault) {
     clearUp();
     messages.Show(fault.what(), model::Icon::Stop);

@@ -14,7 +14,8 @@ struct View {
   bool showOrders = false;  ///< orders are drawn on the map
 };
 
-/// The orders to be drawn on the map.
+/// The orders to be drawn on the map: none while the view does not show them. The map on the
+/// screen, its copies and its print ask for them in the same way.
 inline std::vector<orders::OrderOutcome> shownOrders(const session::Situation& situation,
                                                      const View& view) {
   return view.showOrders ? session::SeasonOrders(situation) : std::vector<orders::OrderOutcome>();
