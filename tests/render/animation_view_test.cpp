@@ -17,6 +17,7 @@ namespace orb::tests {
 namespace {
 
 using history::Replay;
+using ::testing::Contains;
 using ::testing::ElementsAre;
 
 /// Where the armies' discs are drawn, and their radius.
@@ -59,6 +60,10 @@ TEST(AnimationView, UnitsGoTheirWaysOneStageAfterTheOther) {
   // The moves take from 0.5 to 2.1 seconds, retreats from 2.4 to 3.6, builds from 3.9 to 4.8.
   EXPECT_THAT(Discs(replay, 1.3), ElementsAre(bur, Middle(UnitAt("Par"), UnitAt("Bur")) + " 115",
                                               Middle(UnitAt("Pie"), UnitAt("Mar")) + " 115"));
+  const render::Path way = {UnitAt("Pie"), UnitAt("Mar")};
+  const std::string quarter = At(render::SpotAt(way, render::LengthOf(way) / 4).At);
+  for (const double seconds : {0.9, 1.7})
+    EXPECT_THAT(Discs(replay, seconds), Contains(quarter + " 115"));
   const std::string aside = At(LabelAt("Bur"));
   EXPECT_THAT(Discs(replay, 2.2), ElementsAre(bur, pie, aside + " 86"));
   EXPECT_THAT(Discs(replay, 3.0), ElementsAre(bur, pie, aside + " 43"));

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace orb::tests {
 namespace {
 
@@ -16,6 +18,25 @@ TEST(Paths, ReachTheirEnds) {
   EXPECT_EQ(At(curve.front()) + " " + At(curve.back()), "0,0 400,400");
   EXPECT_GT(render::SpotAt(curve, 0).Along.X, 0.9) << "towards the bend";
   EXPECT_GT(render::SpotAt(curve, render::LengthOf(curve)).Along.Y, 0.9) << "from the bend";
+}
+
+TEST(Paths, TouchARectangleWithinReach) {
+  struct Case {
+    render::Point From, To;
+    bool Touches;
+  };
+  const render::Rectangle box = {{100, 100}, {200, 200}};
+  for (const auto& [from, to, touches] : std::vector<Case>{{{50, 50}, {250, 250}, true},
+                                                           {{50, 95}, {250, 95}, true},
+                                                           {{50, 85}, {250, 85}, false},
+                                                           {{50, 215}, {250, 215}, false},
+                                                           {{205, 250}, {205, 50}, true},
+                                                           {{215, 250}, {215, 50}, false},
+                                                           {{150, 40}, {40, 150}, true},
+                                                           {{130, 40}, {40, 130}, false},
+                                                           {{0, 150}, {80, 150}, false}}) {
+    EXPECT_EQ(render::Touches({from, to}, box, 10), touches) << At(from) << " " << At(to);
+  }
 }
 
 }  // namespace

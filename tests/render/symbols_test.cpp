@@ -53,6 +53,9 @@ TEST(Symbols, KeepToTheModesColoursAndLeaveThePensAsTheMapWantsThem) {
           EXPECT_TRUE(mode != MapMode::BlackWhite || red == 0 || red == 255);
         }
       }
+      // The band about a ship's funnel.
+      for (const Stroke& line : surface.All("line", 2 * 0.75))
+        EXPECT_EQ(At(line.Points[0]) + " " + At(line.Points[1]), "4978,3934 5003,3934");
       render::DrawMoveLine(surface, Middle, {0, 0}, countries[power].Colour);
       EXPECT_TRUE(surface.ForeColour == 0 && surface.FillColour == 0 && surface.DrawWidth == 1);
       EXPECT_TRUE(surface.FillStyle == render::Fill::Solid && !surface.FontBold);

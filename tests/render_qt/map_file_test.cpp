@@ -123,6 +123,8 @@ TEST_F(MapFile, AChangedBackgroundIsSeenAndAMissingOneNoticed) {
   EXPECT_EQ(Image(200).pixelColor(190, 150), QColor(Qt::white));
   const fs::path file = directory_.Write("map.bmp", Background(Qt::cyan));
   fs::last_write_time(file, fs::last_write_time(file) + std::chrono::seconds(2));
+  const auto read = pictures_.Picture(file).cacheKey();
+  EXPECT_EQ(pictures_.Picture(file).cacheKey(), read) << "decoded again";
   EXPECT_EQ(Image(200).pixelColor(190, 150), QColor(Qt::cyan));
   EXPECT_EQ(Image(400).pixelColor(390, 310), QColor(Qt::cyan));
   fs::remove(file);
@@ -143,7 +145,8 @@ TEST_F(MapFile, EveryFormatHoldsTheMap) {
   EXPECT_EQ(png.convertToFormat(QImage::Format_RGB32), Image(300));
   // 400 pixels at 192 dpi are 150 points; the drawing fills the page.
   EXPECT_THAT(Saved(MapFormat::Pdf),
-              AllOf(StartsWith("%PDF-"), HasSubstr("/MediaBox [0 0 150.000000 120.000000]")));
+              AllOf(StartsWith("%PDF-"), HasSubstr("/MediaBox [0 0 150.000000 120.000000]"),
+                    HasSubstr("/Width 400\n/Height 320\n")));
   EXPECT_THAT(Saved(MapFormat::Svg, 800),
               AllOf(HasSubstr("viewBox=\"0 0 800 640\""), HasSubstr("<image "), HasSubstr(">Lon<"),
                     HasSubstr(Fill().name().toStdString())));
