@@ -48,8 +48,8 @@ orders::OrderKind KindOf(std::string_view word) {
   return orders::OrderKind::None;
 }
 
-/// "+ENG A(Yor) - Nwy" succeeded, "!" failed, "?" was void; a convoy is "C Yor Nwy", a convoyed
-/// move "- Nwy ~".
+/// "+ENG A(Yor) - Nwy" succeeded, "!" failed, "?" was void; a convoy is "C Yor Nwy", a support
+/// "S Yor Nwy", a convoyed move "- Nwy ~".
 std::vector<OrderOutcome> Outcomes(const Texts& lines) {
   std::vector<OrderOutcome> outcomes;
   for (const std::string& line : lines) {
@@ -59,8 +59,9 @@ std::vector<OrderOutcome> Outcomes(const Texts& lines) {
     const Texts words = Words(rest);
     OrderOutcome outcome{unit.Power, unit.UnitType, unit.Location, KindOf(words[0]), {}, {}, false,
                          {}};
-    if (words.size() > 1) outcome.Destination = words[words[0] == "C" ? 2 : 1];
-    if (words[0] == "C") outcome.OtherLocation = words[1];
+    const bool isForOther = words[0] == "C" || words[0] == "S";
+    if (words.size() > 1) outcome.Destination = words[isForOther ? 2 : 1];
+    if (isForOther) outcome.OtherLocation = words[1];
     outcome.ViaConvoy = words.back() == "~";
     outcome.Outcome = line[0] == '+'   ? Outcome::Succeeded
                       : line[0] == '!' ? Outcome::Failed
