@@ -57,6 +57,12 @@ TEST(CommandLine, HelpNamesEveryOptionOfTheCommandAndGoesToStandardOutput) {
           << command->Name << row;
     }
   }
+  const std::vector<std::pair<std::string, std::string>> outputs = {
+      {"new", " -o GAME\n"},
+      {"map", " -o PICTURE GAME\n"},
+      {"undo", " (-o PATH | --in-place) GAME...\n"}};
+  for (const auto& [command, usage] : outputs)
+    EXPECT_THAT(shell.Run(command + " --help").Out, HasSubstr(usage));
   EXPECT_EQ(shell.Run("--version").Out, std::string(model::ProgramName) + ", orbctl\n");
 }
 

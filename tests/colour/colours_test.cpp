@@ -17,7 +17,8 @@ using colour::Lab;
 using colour::Seen;
 using colour::Vision;
 
-// Some of the published pairs that check an implementation of CIEDE2000.
+// Some of the published pairs that check an implementation of CIEDE2000, and one that lies about
+// the green end of the axis, where one part is 0.
 TEST(ColourVision, DifferenceAgreesWithThePublishedPairs) {
   struct Pair {
     Lab A, B;
@@ -26,6 +27,7 @@ TEST(ColourVision, DifferenceAgreesWithThePublishedPairs) {
   const std::vector<Pair> pairs = {{{50, 2.6772, -79.7751}, {50, 0, -82.7485}, 2.0425},
                                    {{50, -1, 2}, {50, 0, 0}, 2.3669},
                                    {{50, 2.49, -0.001}, {50, -2.49, 0.0011}, 7.2195},
+                                   {{50, -2.5, 0}, {50, -2.5, 1e-6}, 0},
                                    {{50, 2.5, 0}, {56, -27, -3}, 31.9030},
                                    {{2.0776, 0.0795, -1.1350}, {0.9033, -0.0636, -0.5514}, 0.9082}};
   for (const Pair& pair : pairs) {

@@ -15,7 +15,8 @@ using help::HelpTopics;
 
 TEST(HelpTopics, FileIsReadAsWritten) {
   const HelpTopics topics = help::ReadHelpTopics(
-      "before\n- the first\n%One\r\n\r\nA paragraph\r\nruns on.\r\nTitle\r\n\r\nTitle\r\n-----\r\n"
+      "before\n- the first\n%One\r\n\r\nA paragraph\r\nruns "
+      "on.\r\nTitle\r\n-----\r\n\r\nTitle\r\n-----\r\n"
       "- item\n  goes on\n- next\n\n    A  b\n      c\n%Tw\xf6 (%)\r- not%\r    x");
   ASSERT_EQ(topics.size(), 2U);
   EXPECT_EQ(topics[0].Caption, "One");
@@ -26,8 +27,9 @@ TEST(HelpTopics, FileIsReadAsWritten) {
   std::string drawn;
   for (const help::HelpBlock& block : help::HelpBlocks(topics[0].Text + "\n" + topics[1].Text))
     drawn += "PHIL"[static_cast<int>(block.Form)] + ("<" + block.Text + ">");
-  EXPECT_EQ(drawn,
-            "P<A paragraph runs on. Title>H<Title>I<item goes on>I<next>L<A  b\n  c>I<not% x>");
+  EXPECT_EQ(
+      drawn,
+      "P<A paragraph runs on. Title ----->H<Title>I<item goes on>I<next>L<A  b\n  c>I<not% x>");
 }
 
 TEST(HelpTopics, MarksThatMeanNothingStayText) {

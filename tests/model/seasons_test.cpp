@@ -152,6 +152,9 @@ TEST(UndoSeason, LosesUnitsWithoutAKnownStartWhenTheUserAgrees) {
   game.Units[1].PreviousLocation = "Xyz";
   EXPECT_THROW(model::UndoSeason(game, yes), model::IndexOutOfRange);
   EXPECT_EQ(DrawUnits(game), DrawUnits(UsedGame()));
+  game.Units[1].PreviousLocation.clear();
+  EXPECT_TRUE(model::UndoSeason(game, yes));
+  EXPECT_EQ(yes.Questions.back(), "1 units do not have original locations recorded.\rContinue?");
 }
 
 }  // namespace

@@ -111,6 +111,9 @@ TEST(Settings, LieBesideTheProgramWhereThatIsAllowed) {
   EXPECT_EQ(FormatSettings(read.Shown, read.Countries), model::ReadFile(user));
   EXPECT_TRUE(read.Shown.ViewOnly);
   EXPECT_THROW(WriteSettingsFile(beside, kept.Shown, kept.Countries), model::FileError);
+  fs::remove(beside);
+  WriteSettingsFile(beside, kept.Shown, kept.Countries);
+  EXPECT_EQ(forWriting(), beside);
 }
 
 }  // namespace
