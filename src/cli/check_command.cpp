@@ -2,24 +2,26 @@
 #include "cli/games.h"
 #include "cli/orders_source.h"
 #include "orders/order_list.h"
+#include "session/commands.h"
 #include "session/queries.h"
 #include "text/strings.h"
 
 namespace orb::cli {
 namespace {
 
-constexpr std::array Options{OptionId::Orders, OptionId::Loose, OptionId::Power};
+constexpr std::array Options{OptionId::Orders, OptionId::Loose, OptionId::Power,
+                             OptionId::AcceptDoubtful};
 
-/// One line for each problem: of lines that are unclear, of the orders as listed, of units without
-/// orders, of powers.
+/// One line for each problem: of lines that were left out, of the orders as listed, of units
+/// without orders, of powers.
 std::string ProblemLines(const session::Situation& situation, const std::string& path,
-                         const std::vector<exchange::ReadLine>& unclear) {
+                         const std::vector<exchange::ReadLine>& leftOut) {
   std::string text;
   const auto add = [&](std::string_view subject, std::string_view problem) {
     text.append(path).append(": ").append(subject).append(": ").append(problem).append("\n");
   };
-  for (const exchange::ReadLine& line : unclear)
-    add(line.Written, line.Reason);
+  for (const exchange::ReadLine& line : leftOut)
+    add(line.Written, session::LeftOutReason(line));
   const adjudication::ListCheck check = session::CheckOrders(situation);
   const std::vector<std::string>& list = orders::StageList(situation.Game);
   for (std::size_t i = 0; i < check.Lines.size(); ++i) {
@@ -39,8 +41,8 @@ int Execute(const CommandLine& line, Console& console) {
   return ForEachGame(line, console, plan, [&](GameAtWork& at) {
     // Nothing is asked here, so --yes has no meaning: every problem is listed, and no game is
     // written.
-    const std::vector<exchange::ReadLine> unclear = source.Take(at.Situation, at.Paths);
-    const std::string text = ProblemLines(at.Situation, at.Paths.Game, unclear);
+    const std::vector<exchange::ReadLine> leftOut = source.Take(at.Situation, at.Paths);
+    const std::string text = ProblemLines(at.Situation, at.Paths.Game, leftOut);
     console.Print(text);
     // A game with problems counts as refused, which makes the exit status 1.
     return text.empty();

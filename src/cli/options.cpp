@@ -18,6 +18,8 @@ constexpr std::array<Option, OptionCount> Table{{
     {OptionId::Orders, "--orders", "PATH", "the orders, one a line (in a directory: NAME.txt)"},
     {OptionId::Loose, "--loose", "", "read the orders as people write them: mails, chats, files"},
     {OptionId::Power, "--power", "ABC", "with --loose: the power of lines that name none"},
+    {OptionId::AcceptDoubtful, "--accept-doubtful", "",
+     "with --loose: file also orders that something speaks against"},
     {OptionId::Report, "--report", "PATH", "write the report to PATH (in a directory: NAME.txt)"},
     {OptionId::Reasons, "--reasons", "PATH", "write to PATH why each order came out as it did"},
     {OptionId::Yes, "--yes", "", "answer Yes to every question (else No, abandoning the game)"},

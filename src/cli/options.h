@@ -31,6 +31,7 @@ enum class OptionId {
   Orders,
   Loose,
   Power,
+  AcceptDoubtful,
   Report,
   Reasons,
   Yes,
@@ -44,7 +45,7 @@ enum class OptionId {
 };
 
 /// The number of OptionIds; the table and a command line's values are indexed by them.
-constexpr std::size_t OptionCount = 18;
+constexpr std::size_t OptionCount = 19;
 
 /// One row of the table of options.
 struct Option {

@@ -29,6 +29,10 @@ OrdersSource::OrdersSource(const CommandLine& line) : isLoose_(line.Has(OptionId
   }
   // Only the repair table for loosely written orders is read from the data directory here.
   if (isLoose_) data_ = DataDirectory(line);
+  if (line.Has(OptionId::AcceptDoubtful)) {
+    if (!isLoose_) throw UsageError("--accept-doubtful goes with --loose.");
+    doubtful_ = session::Doubtful::Accepted;
+  }
   if (!line.Has(OptionId::Power)) return;
   if (!isLoose_) throw UsageError("--power goes with --loose.");
   power_ = text::UpperCase(*line.Value(OptionId::Power));
@@ -54,7 +58,7 @@ std::vector<exchange::ReadLine> OrdersSource::Take(session::Situation& situation
   }
   if (!repairs_) repairs_ = exchange::ReadTextRepairs(data_);
   text = exchange::OrdersFileText(std::move(text), paths.Orders.string());
-  return session::ReplaceOrdersByText(situation, text, {power_, *repairs_});
+  return session::ReplaceOrdersByText(situation, text, {power_, *repairs_}, doubtful_);
 }
 
 }  // namespace orb::cli

@@ -3,6 +3,7 @@
 #include "cli/options.h"
 #include "cli/paths.h"
 #include "orders/exchange/read_orders.h"
+#include "session/commands.h"
 #include "session/situation.h"
 
 #include <filesystem>
@@ -19,16 +20,17 @@ std::vector<std::string> OrderLines(std::string_view text);
 /// Where the orders of the games come from, and how they are read.
 class OrdersSource {
  public:
-  /// Throws UsageError when --loose or --power stand where they mean nothing.
+  /// Throws UsageError when --loose or what goes with it stands where it means nothing.
   explicit OrdersSource(const CommandLine& line);
 
   /// Fills the stage's list from the orders file where there is one; else only the moves stage has
-  /// orders, those of the game file. Read as people write them, lines that are unclear are left
-  /// out and returned. Throws FileError.
+  /// orders, those of the game file. Read as people write them, lines that are unclear or
+  /// doubtful are left out and returned. Throws FileError.
   std::vector<exchange::ReadLine> Take(session::Situation& situation, const GamePaths& paths);
 
  private:
   bool isLoose_;
+  session::Doubtful doubtful_ = session::Doubtful::LeftOut;
   std::string power_;
   std::filesystem::path data_;
   std::optional<std::vector<exchange::TextRepair>> repairs_;  ///< read when first needed

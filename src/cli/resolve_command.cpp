@@ -5,14 +5,16 @@
 #include "model/game_file.h"
 #include "session/commands.h"
 
+#include <algorithm>
 #include <functional>
 
 namespace orb::cli {
 namespace {
 
-constexpr std::array Options{OptionId::Orders, OptionId::Loose,   OptionId::Power,
-                             OptionId::Report, OptionId::Reasons, OptionId::Yes,
-                             OptionId::Output, OptionId::InPlace};
+constexpr std::array Options{
+    OptionId::Orders, OptionId::Loose,   OptionId::Power, OptionId::AcceptDoubtful,
+    OptionId::Report, OptionId::Reasons, OptionId::Yes,   OptionId::Output,
+    OptionId::InPlace};
 
 /// One line for each row, ended by LF.
 std::string JoinLines(const auto& rows, auto textOf) {
@@ -27,7 +29,8 @@ int Execute(const CommandLine& line, Console& console) {
   OrdersSource orders(line);
   return ForEachGame(line, console, plan, [&](GameAtWork& at) {
     // Unclear lines are asked about first: --yes leaves them out, otherwise the game is abandoned.
-    if (!session::GoOnWithout(orders.Take(at.Situation, at.Paths), at.Messages)) return false;
+    const std::vector<exchange::ReadLine> leftOut = orders.Take(at.Situation, at.Paths);
+    if (!session::GoOnWithout(leftOut, at.Messages)) return false;
     // Reasons cost time, so they are only noted when somebody will read them.
     const auto noting = at.Paths.Reasons.empty() ? session::Noting::None : session::Noting::Full;
     if (!session::Resolve(at.Situation, at.Messages, noting)) return false;
@@ -42,7 +45,8 @@ int Execute(const CommandLine& line, Console& console) {
     model::ReplaceFile(at.Paths.Output, resolved);
     if (printsReport) PrintUnderHeading(console, plan, at.Paths, report);
     if (printsReasons) console.Print(reasons);
-    return true;
+    // Somebody wrote these orders, and they were not carried out: that must not go unnoticed.
+    return std::ranges::none_of(leftOut, exchange::IsDoubtful);
   });
 }
 

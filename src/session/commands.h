@@ -46,7 +46,7 @@ void SaveGameAs(Situation& situation, const std::filesystem::path& file);
 /// no unit.
 bool FileOrder(Situation& situation, std::string_view text);
 
-/// Files the orders of the lines that were understood; how many.
+/// Files the orders of the lines that are sure; how many.
 int FileOrders(Situation& situation, const std::vector<exchange::ReadLine>& lines);
 
 /// Removes the line in this row, counted from 0; false when there is none.
@@ -55,13 +55,21 @@ bool DeleteOrder(Situation& situation, int row);
 /// These lines take the place of the stage's list.
 void ReplaceOrders(Situation& situation, std::vector<std::string> lines);
 
+/// What becomes of doubtful orders where nobody is there to look at each of them.
+enum class Doubtful : std::uint8_t { LeftOut, Accepted };
+
 /// The orders in a text as people write it take the place of the stage's list. Returns the lines
-/// that are unclear, which are left out.
+/// that were left out: those that are unclear, and those that are doubtful unless they are
+/// accepted.
 std::vector<exchange::ReadLine> ReplaceOrdersByText(Situation& situation, std::string_view text,
-                                                    const exchange::ReadingOptions& options);
+                                                    const exchange::ReadingOptions& options,
+                                                    Doubtful doubtful);
+
+/// Why a line was left out: what is unclear about it, or "doubtful: " and what speaks against it.
+std::string LeftOutReason(const exchange::ReadLine& line);
 
 /// Asks whether to go on without each of the lines that were left out; false at the first No.
-bool GoOnWithout(const std::vector<exchange::ReadLine>& unclear, model::Messages& messages);
+bool GoOnWithout(const std::vector<exchange::ReadLine>& leftOut, model::Messages& messages);
 
 // The course of the game.
 

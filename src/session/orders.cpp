@@ -24,17 +24,24 @@ void ReplaceOrders(Situation& situation, std::vector<std::string> lines) {
 }
 
 std::vector<exchange::ReadLine> ReplaceOrdersByText(Situation& situation, std::string_view text,
-                                                    const exchange::ReadingOptions& options) {
+                                                    const exchange::ReadingOptions& options,
+                                                    Doubtful doubtful) {
   std::vector<exchange::ReadLine> lines = exchange::ReadOrders(situation.Game, text, options);
+  if (doubtful == Doubtful::Accepted) exchange::AcceptDoubtful(lines);
   ReplaceOrders(situation, {});
   FileOrders(situation, lines);
-  std::erase_if(lines, [](const exchange::ReadLine& line) { return !IsUnclear(line); });
+  std::erase_if(
+      lines, [](const exchange::ReadLine& line) { return !IsUnclear(line) && !IsDoubtful(line); });
   return lines;
 }
 
-bool GoOnWithout(const std::vector<exchange::ReadLine>& unclear, model::Messages& messages) {
-  return std::ranges::all_of(unclear, [&](const exchange::ReadLine& line) {
-    return messages.Warn(model::WarningText(line.Written, line.Reason + "."));
+std::string LeftOutReason(const exchange::ReadLine& line) {
+  return IsDoubtful(line) ? "doubtful: " + line.Reason : line.Reason;
+}
+
+bool GoOnWithout(const std::vector<exchange::ReadLine>& leftOut, model::Messages& messages) {
+  return std::ranges::all_of(leftOut, [&](const exchange::ReadLine& line) {
+    return messages.Warn(model::WarningText(line.Written, LeftOutReason(line).append(".")));
   });
 }
 

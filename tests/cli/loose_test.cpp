@@ -46,13 +46,36 @@ TEST(Loose, OrdersAreFiledLikeTypedOnesAndUnclearLinesAreAskedAbout) {
 TEST(Loose, PowerIsThatOfLinesThatNameNone) {
   const Shell shell;
   shell.Write("a.orb", ThreeUnits());
-  shell.Write("o.txt", "A Mun - Ruh\nGER A Mun - Tyr\nA Par - Bur\nBre-MAO\n");
+  shell.Write("o.txt", "A Mun - Ruh\nA Par - Bur\nBre-MAO\n");
   const std::string resolve = "resolve --yes --orders @o.txt -o @b.orb @a.orb --loose ";
   EXPECT_EQ(shell.Run(resolve + "--power FRA").Out,
-            "  GER A(Mun) - Tyr  \n  FRA A(Par) - Bur  \n  FRA F(Bre) - MAO  \n");
+            "  FRA A(Par) - Bur  \n  FRA F(Bre) - MAO  \n  GER A(Mun) unordered; hold  \n");
   EXPECT_THAT(shell.Run(resolve + "--power FRA").Err,
               HasSubstr("Warning: A Mun - Ruh the unit there is GER A(Mun)."));
   EXPECT_EQ(shell.Run(resolve).Err, "") << "whose units they are";
+}
+
+TEST(Loose, DoubtfulOrdersAreFiledByConsentAlone) {
+  const Shell shell;
+  shell.Write("a.orb", ThreeUnits());
+  shell.Write("o.txt", "A Par - Bur (tentative)\nF Bre - MAO\nGER A Mun H\n");
+  const std::string loose = "--loose --power FRA --orders @o.txt ";
+  const std::string doubts =
+      "@a.orb: A Par - Bur (tentative): doubtful: \"(tentative)\" may change it\n"
+      "@a.orb: GER A Mun H: doubtful: it is an order of GER\n";
+  EXPECT_EQ(shell.Run("check " + loose + "@a.orb").Out,
+            doubts + "@a.orb: FRA A(Par): unordered\n@a.orb: GER A(Mun): unordered\n");
+  EXPECT_EQ(shell.Run("resolve " + loose + "-o @b.orb @a.orb").Status, 1);
+  EXPECT_EQ(shell.Read("b.orb"), "none") << "abandoned at the question";
+  const Outcome without = shell.Run("resolve --yes " + loose + "-o @b.orb @a.orb");
+  EXPECT_EQ(without.Status, 1) << "somebody's order was not carried out";
+  EXPECT_EQ(without.Out,
+            "  FRA F(Bre) - MAO  \n  FRA A(Par) unordered; hold  \n"
+            "  GER A(Mun) unordered; hold  \n");
+  const Outcome accepted = shell.Run("resolve --accept-doubtful " + loose + "-o @b.orb @a.orb");
+  EXPECT_EQ(accepted.Status, 0);
+  EXPECT_EQ(accepted.Err, "");
+  EXPECT_EQ(accepted.Out, "  FRA A(Par) - Bur  \n  FRA F(Bre) - MAO  \n  GER A(Mun) hold  \n");
 }
 
 TEST(Loose, OrdersOfLaterStagesAreReadToo) {

@@ -46,6 +46,12 @@ std::string Understood(const ReadLine& line, std::string_view text) {
   switch (line.Kind) {
     case LineKind::Order:
       return line.Reason.empty() ? line.Order : line.Order + " !" + line.Reason;
+    case LineKind::Doubtful:
+      return "~" + line.Order + " [" +
+             std::string(text.substr(line.ReasonPlace.Offset, line.ReasonPlace.Length)) + "] " +
+             line.Reason;
+    case LineKind::Replaced:
+      return "replaced " + line.Order;
     case LineKind::Waive:
       return "waive";
     case LineKind::Heading:

@@ -69,7 +69,7 @@ class Writer {
   }
 
   std::string Decorated(const std::string& order) {
-    std::string line = Any({"", "", "1. ", "> ", "- ", "* ", "(2) "}) + order +
+    std::string line = Any({"", "", "1. ", "- ", "* ", "(2) "}) + order +
                        Any({"", "", ".", ";", " (as agreed)", " // good luck", " please"});
     return Any({line, text::LowerCase(line), text::UpperCase(line)});
   }

@@ -251,8 +251,8 @@ TEST(Commands, RefuseInAStageWhereTheyMeanNothing) {
 
 TEST(Commands, OrdersOfATextTakeThePlaceOfTheList) {
   Situation situation{Board("Spring", "moves", {"ENG A(Lon) hold", "ENG F(Edi)", "FRA A(Par)"})};
-  const auto unclear =
-      session::ReplaceOrdersByText(situation, "F Edi-NTH\nA Paris to somewhere\n", {"ENG", {}});
+  const auto unclear = session::ReplaceOrdersByText(situation, "F Edi-NTH\nA Paris to somewhere\n",
+                                                    {"ENG", {}}, session::Doubtful::LeftOut);
   EXPECT_THAT(situation.Game.OrdersList, ElementsAre("ENG F(Edi) - NTH"));
   ASSERT_EQ(unclear.size(), 1U);
   ScriptedMessages no({Answer::No});

@@ -33,6 +33,7 @@ class Grammar {
     std::vector<WrittenOrder> orders;
     for (State& state : all) {
       TakeOwner(state);
+      state.Order.End = state.Next;
       if (phrases_.Ends(state.Next)) orders.push_back(std::move(state.Order));
     }
     return orders;

@@ -15,19 +15,6 @@ std::ptrdiff_t CountWords(Tokens tokens) {
   return std::ranges::count_if(tokens, IsWordToken);
 }
 
-/// Whether orders could be read from what stands in brackets in a heading.
-bool HoldsOrders(Tokens tokens, const PlaceNames& names) {
-  for (std::size_t at = 0; at < tokens.size(); ++at) {
-    if (VerbOf(tokens[at]) != Verb::None || UnitTypeOf(tokens[at]) != 0) return true;
-    if (IsWordToken(tokens[at]) && !names.At(tokens, at).empty()) return true;
-  }
-  return false;
-}
-
-bool HasAddress(Tokens tokens) {
-  return std::ranges::find(tokens, "@", &Token::Text) != tokens.end();
-}
-
 bool Is(Tokens tokens, std::size_t at, TokenKind kind) {
   return at < tokens.size() && IsA(tokens[at], kind);
 }
@@ -177,6 +164,14 @@ Evidence Weigh(Tokens tokens, const PlaceNames& names) {
 
 }  // namespace
 
+bool HoldsOrderWords(Tokens tokens, const PlaceNames& names) {
+  for (std::size_t at = 0; at < tokens.size(); ++at) {
+    if (VerbOf(tokens[at]) != Verb::None || UnitTypeOf(tokens[at]) != 0) return true;
+    if (IsWordToken(tokens[at]) && !names.At(tokens, at).empty()) return true;
+  }
+  return false;
+}
+
 std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
   Heading heading;
   bool hasWord = false;
@@ -186,7 +181,7 @@ std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
       const std::size_t close = ClosingBracket(tokens, at);
       // Behind a power, brackets hold its player or the like: "France (Tom):".
       const bool isRemark = heading.Power != 0 && close < tokens.size();
-      if (!isRemark || HoldsOrders(tokens.subspan(at, close - at), names)) return {};
+      if (!isRemark || HoldsOrderWords(tokens.subspan(at, close - at), names)) return {};
       at = close + 1;
       continue;
     }
@@ -236,31 +231,6 @@ std::size_t PastLineStart(Tokens tokens) {
     return at + 1;
   }
   return behind;
-}
-
-bool IsMailHead(Tokens tokens, const PlaceNames& names) {
-  if (tokens.empty()) return false;
-  const bool isReplyTo = IsWord(tokens[0], "reply") && tokens.size() > 3 && IsWord(tokens[2], "to");
-  if (IsMailHeader(tokens[0]) && (Is(tokens, 1, TokenKind::Colon) || isReplyTo)) {
-    // "From: Par To: Bur" may be an order; the head of a mail has an address, or no words of
-    // orders.
-    const bool isRoad = IsWord(tokens[0], "from") || IsWord(tokens[0], "to");
-    return !isRoad || HasAddress(tokens) || !HoldsOrders(tokens.subspan(2), names);
-  }
-  return IsQuotationHead(tokens);
-}
-
-bool IsQuotationHead(Tokens tokens) {
-  const auto isQuoting = [](const Token& token) {
-    return IsWord(token, "wrote") || IsWord(token, "writes") || IsWord(token, "schrieb") ||
-           IsWord(token, "said");
-  };
-  for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
-    const bool isOld = IsWord(tokens[at], "original") || IsWord(tokens[at], "forwarded");
-    if (isOld && IsWord(tokens[at + 1], "message")) return true;
-  }
-  return !tokens.empty() && IsA(tokens.back(), TokenKind::Colon) &&
-         std::ranges::any_of(tokens, isQuoting);
 }
 
 bool IsNoOrder(Tokens tokens, const PlaceNames& names, bool inSignature) {

@@ -27,11 +27,8 @@ std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names);
 /// "<name>"; what comes before belongs to none of its orders.
 std::size_t PastLineStart(Tokens tokens);
 
-/// Whether a line belongs to the head of a mail or tells whose words are quoted.
-bool IsMailHead(Tokens tokens, const PlaceNames& names);
-
-/// Whether what is quoted follows the line: "Tom wrote:", "--- Original Message ---".
-bool IsQuotationHead(Tokens tokens);
+/// Whether there is any verb, unit or place: what orders could be read from.
+bool HoldsOrderWords(Tokens tokens, const PlaceNames& names);
 
 /// Whether a text that was not understood is surely no order: a greeting or words with none, or
 /// hardly any, that orders are made of. `inSignature`: places alone make no order there.

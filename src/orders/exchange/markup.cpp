@@ -18,7 +18,8 @@ constexpr std::array<std::string_view, 19> BlockTags{
 constexpr std::array<std::string_view, 12> InlineTags{"b",    "i", "em", "strong", "u",    "span",
                                                       "font", "a", "td", "th",     "code", "o:p"};
 
-constexpr std::array<std::string_view, 6> ForumTags{"b", "i", "u", "color", "size", "font"};
+constexpr std::array<std::string_view, 7> ForumTags{"b",    "i",    "u",    "color",
+                                                    "size", "font", "quote"};
 
 template <std::size_t Count>
 bool IsOneOf(std::string_view name, const std::array<std::string_view, Count>& names) {

@@ -59,13 +59,19 @@ std::string OrdersFileText(std::string bytes, const std::string& fileName) {
   return bytes;
 }
 
-int FileOrders(model::GameState& game, const std::vector<ReadLine>& lines, std::string_view power) {
+int FileOrders(model::GameState& game, const std::vector<ReadLine>& lines) {
   int filed = 0;
   for (const ReadLine& line : lines) {
-    if (line.Kind != LineKind::Order || (!power.empty() && line.Power != power)) continue;
+    if (line.Kind != LineKind::Order) continue;
     if (orders::FileOrder(orders::StageList(game), line.Order)) ++filed;
   }
   return filed;
+}
+
+void AcceptDoubtful(std::vector<ReadLine>& lines) {
+  for (ReadLine& line : lines) {
+    if (line.Kind == LineKind::Doubtful) line.Kind = LineKind::Order;
+  }
 }
 
 std::string PowerOf(const std::vector<ReadLine>& lines) {
@@ -74,7 +80,7 @@ std::string PowerOf(const std::vector<ReadLine>& lines) {
     if (line.Kind == LineKind::Heading && !line.Power.empty()) return line.Power;
   }
   for (const ReadLine& line : lines) {
-    if (line.Kind != LineKind::Order) continue;
+    if (!IsUnderstood(line)) continue;
     if (!power.empty() && line.Power != power) return {};
     power = line.Power;
   }

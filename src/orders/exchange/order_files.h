@@ -13,10 +13,12 @@ namespace orb::exchange {
 /// is converted. Throws FileError, naming the file, for what is no such text.
 std::string OrdersFileText(std::string bytes, const std::string& fileName);
 
-/// Files what was understood into the list of the game's stage, each line by the rule of a typed
-/// one; with a power, that power's orders alone. How many were filed. Unclear lines are left out.
-int FileOrders(model::GameState& game, const std::vector<ReadLine>& lines,
-               std::string_view power = {});
+/// Files what is surely meant into the list of the game's stage, each line by the rule of a typed
+/// one. How many were filed. Doubtful and unclear lines are left out.
+int FileOrders(model::GameState& game, const std::vector<ReadLine>& lines);
+
+/// Makes doubtful orders sure ones, as whoever looked at them consents.
+void AcceptDoubtful(std::vector<ReadLine>& lines);
 
 /// The power that the text names first in a heading, or that all its orders are of; else empty.
 std::string PowerOf(const std::vector<ReadLine>& lines);

@@ -72,6 +72,8 @@ PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context) {
     return part;
   }
   part.Meant = FindMeanings(parse.Orders, known, context.Power);
+  for (const WrittenOrder& order : parse.Orders)
+    part.End = std::max(part.End, start + order.End);
   if (!part.Meant.All.empty()) {
     LeaveInContext(parse.Orders.back(), tokens[start], known.Stage, context);
     part.Kind = part.Meant.All.size() == 1 ? LineKind::Order : LineKind::Ambiguous;

@@ -2,7 +2,7 @@
 
 #include "orders/exchange/grammar.h"
 #include "orders/exchange/meaning.h"
-#include "orders/exchange/read_orders.h"
+#include "orders/exchange/read_line.h"
 
 namespace orb::exchange {
 
@@ -16,8 +16,9 @@ struct Context {
 struct PartRead {
   LineKind Kind = LineKind::NotUnderstood;
   Meanings Meant;
-  int Power = 0;  ///< of a waiver: who waives
-  Fault Problem;  ///< in the part's tokens
+  int Power = 0;        ///< of a waiver: who waives
+  Fault Problem;        ///< in the part's tokens
+  std::size_t End = 0;  ///< of the order in the part's tokens; only remarks follow
 };
 
 /// Reads tokens as one order. A heading before a colon, a power at the front and the verb of an

@@ -1,6 +1,7 @@
 #include "orders/exchange/phrases.h"
 
 #include "orders/exchange/comments.h"
+#include "orders/exchange/doubts.h"
 #include "text/strings.h"
 
 #include <algorithm>
@@ -25,6 +26,16 @@ constexpr std::array<std::string_view, 6> MoveTails{"against", "toward", "toward
 constexpr std::array<std::string_view, 5> Nouns{"move", "attack", "advance", "of", "for"};
 constexpr std::array<std::string_view, 12> CountWords{
     "one", "two", "a", "all", "remaining", "rest", "any", "other", "of", "both", "last", "for"};
+
+/// The mouth of ":)", ":D" and ":P".
+bool IsSmile(const Token& token) {
+  return token.Kind == TokenKind::Close || IsWord(token, "d") || IsWord(token, "p");
+}
+
+/// Faces, hearts and other such signs.
+bool IsSymbol(const Token& token) {
+  return token.Kind == TokenKind::Mark && static_cast<unsigned char>(token.Text[0]) >= 0x80;
+}
 
 /// A dash that may begin a comment, where an order has none of its kind before it.
 bool IsLongDash(const Token& token) {
@@ -352,7 +363,8 @@ bool Phrases::Ends(std::size_t at) {
     if (token.Kind == TokenKind::Open) {
       const std::size_t close = ClosingBracket(tokens_, at);
       const Tokens inside = part(at + 1, std::max(at + 1, close));
-      if ((close == tokens_.size() && !inside.empty()) || !IsRemark(inside, names_)) {
+      if ((close == tokens_.size() && !inside.empty()) ||
+          (!IsRemark(inside, names_) && FindDoubt(inside, part(0, at), names_))) {
         at += FindCondition(inside) < inside.size() ? FindCondition(inside) + 1 : 0;
         break;
       }
@@ -362,6 +374,11 @@ bool Phrases::Ends(std::size_t at) {
     } else if (IsLongDash(token) && std::ranges::none_of(part(0, at), IsLongDash) &&
                IsProse(part(at + 1, tokens_.size()), names_)) {
       return true;
+    } else if (token.Kind == TokenKind::Colon && at + 1 < tokens_.size() && tokens_[at + 1].Glued &&
+               IsSmile(tokens_[at + 1])) {
+      at += 2;
+    } else if (IsSymbol(token)) {
+      ++at;
     } else if (Skip(at) == at) {
       break;
     } else {

@@ -1,32 +1,43 @@
 #pragma once
 
-#include "orders/exchange/read_orders.h"
+#include "orders/exchange/place_names.h"
 
 #include <string_view>
-#include <vector>
 
 namespace orb::exchange {
 
-/// Follows which lines of a text are quoted from an earlier one: those that begin with ">", and all
-/// that follow the head of a quotation whose lines are not marked so.
+// Which parts of a text are older: mails are answered above what they quote, below it and in
+// between, and each mail program sets off the older part in its own way and language.
+
+/// Whether a line belongs to the head of a mail, "Subject: Autumn", or tells whose words follow.
+bool IsMailHead(Tokens tokens, const PlaceNames& names);
+
+/// Whether the line, in its plain form, tells that something older follows: "Tom wrote:", "Am
+/// 1.2.2024 schrieb Tom:", "--- Original Message ---".
+bool IsQuotationHead(std::string_view line, Tokens tokens);
+
+/// Follows which lines of a text are quoted from an earlier one: those that begin with ">" or "|",
+/// those in [quote] or <blockquote>, and all that follow a head whose lines are not marked so: of a
+/// quotation, or of a whole mail below another text.
 class Quotations {
  public:
-  /// Takes the next line, plain, and whether it is such a head.
-  void Take(std::string_view line, bool isHead);
+  /// Takes the next line: as it was written, in its plain form and in words.
+  void Take(std::string_view written, std::string_view plain, Tokens tokens);
 
   /// Whether the line that was taken last is quoted.
-  bool IsQuoted() const { return isMarked_ || isInside_; }
+  bool IsQuoted() const { return isMarked_ || isInside_ || depth_ > 0 || wasInBlock_; }
 
  private:
+  void FollowBlocks(std::string_view written);
+  void FollowHeads(std::string_view line, Tokens tokens);
+
   bool isMarked_ = false;
   bool isInside_ = false;
-  bool follows_ = false;  ///< the line before was a head
+  bool follows_ = false;     ///< the line before was a head
+  bool wasInBlock_ = false;  ///< a block began or ended in this line
+  bool hasText_ = false;     ///< something stood above other than the head of a mail
+  int labels_ = 0;           ///< lines like "From: Tom" that followed each other up to here
+  int depth_ = 0;            ///< of blocks
 };
-
-/// An answer takes the place of what it quotes: quoted orders that differ from what the rest of the
-/// text orders become unclear. `quoted` has one entry a line. In adjustments, where orders have no
-/// unit of their own, all orders of one power are compared.
-void SetAsideReplaced(std::vector<ReadLine>& lines, const std::vector<bool>& quoted,
-                      bool isAdjustments);
 
 }  // namespace orb::exchange

@@ -2,14 +2,16 @@
 
 #include "model/errors.h"
 #include "orders/exchange/comments.h"
+#include "orders/exchange/contradictions.h"
+#include "orders/exchange/doubts.h"
 #include "orders/exchange/exact_line.h"
 #include "orders/exchange/glued_types.h"
 #include "orders/exchange/line_kinds.h"
-#include "orders/exchange/markup.h"
 #include "orders/exchange/order_part.h"
 #include "orders/exchange/phrases.h"
 #include "orders/exchange/quotations.h"
 #include "orders/exchange/run_on.h"
+#include "orders/exchange/source_line.h"
 #include "text/strings.h"
 
 #include <algorithm>
@@ -17,61 +19,8 @@
 namespace orb::exchange {
 namespace {
 
-/// A line of the text with its tokens, which look into its plain form.
-struct SourceLine {
-  int Number = 0;
-  std::string_view Bytes;  ///< without blanks at its ends
-  std::size_t Offset = 0;
-  PlainText Plain;
-  std::vector<Token> All;
-  bool IsTooLong = false;
-};
-
-/// Takes a line apart in the order in which its parts build on each other: plain characters first,
-/// since repairs are written in them, and tags last, since a repair may mend one.
-SourceLine CutLine(int number, std::string_view bytes, std::size_t offset,
-                   std::span<const TextRepair> repairs) {
-  SourceLine line;
-  const std::size_t start = std::min(bytes.find_first_not_of(" \t"), bytes.size());
-  const std::size_t end = bytes.find_last_not_of(" \t");
-  line.Number = number;
-  line.Offset = offset + start;
-  line.Bytes = bytes.substr(start, end == std::string_view::npos ? 0 : end + 1 - start);
-  line.Plain = ToPlain(line.Bytes, line.Offset);
-  line.IsTooLong = !Repair(line.Plain, repairs);
-  if (!line.IsTooLong) DropTags(line.Plain);
-  return line;
-}
-
-/// What parts the orders of a line, the strongest first: each is tried only where the stronger ones
-/// leave something that is not understood.
-enum class Seam : std::uint8_t { Semicolon, Comma, FullStop };
-
-bool IsSeam(const Token& token, Seam seam) {
-  if (seam == Seam::Semicolon) return token.Kind == TokenKind::Semicolon;
-  return token.Kind == TokenKind::Comma || IsWord(token, "and") ||
-         (seam == Seam::FullStop && token.Kind == TokenKind::Dot);
-}
-
-/// The parts between seams that stand in no brackets; empty ones are left out.
-std::vector<TokenRange> Split(Tokens tokens, TokenRange range, Seam seam) {
-  std::vector<TokenRange> parts;
-  std::size_t start = range.Begin;
-  const auto close = [&](std::size_t end) {
-    if (end > start) parts.push_back({start, end});
-  };
-  for (std::size_t at = range.Begin; at < range.End; ++at) {
-    if (IsA(tokens[at], TokenKind::Open)) {
-      const std::size_t bracket = ClosingBracket(tokens.first(range.End), at);
-      if (bracket < range.End) at = bracket;
-    } else if (IsSeam(tokens[at], seam)) {
-      close(at);
-      start = at + 1;
-    }
-  }
-  close(range.End);
-  return parts;
-}
+/// How many words and signs a greeting before an order has at most: "Hi Tom, A Par - Bur".
+constexpr std::size_t LongestGreeting = 4;
 
 /// Reads a text line by line; what headings say is kept for the lines below. A line goes through
 /// these steps: the exact form, then signs that it belongs to a mail, then headings, then comments
@@ -91,9 +40,10 @@ class TextReader {
                                 options_.Repairs);
       const std::size_t before = lines_.size();
       ReadLineOf(line);
+      LookAround(line, before);
       if (before > 0 && before + 1 == lines_.size()) CheckGoesOn(lines_[before - 1], line);
     }
-    SetAsideReplaced(lines_, quoted_, known_.Stage == model::Stage::Adjustments);
+    WeighOrders(lines_, around_, known_.Stage, PowerText(model::FindCountry(options_.Power)));
     return std::move(lines_);
   }
 
@@ -108,6 +58,8 @@ class TextReader {
       Context context = context_;
       const PartRead part = ReadPart(PartOf(line, body), known_, context);
       line.IsTooLong ? AddTooLong(line) : AddPart(line, body, part, context);
+      DoubtRemarks(line, 0);
+      WeighOrders(lines_, around_, known_.Stage, {});
     }
     return std::move(lines_.front());
   }
@@ -140,7 +92,10 @@ class TextReader {
   void ReadLineOf(SourceLine& line) {
     if (!line.IsTooLong) CutLineTokens(line);
     const Tokens tokens = line.All;
-    quotations_.Take(line.Plain.Text, IsQuotationHead(tokens));
+    understood_.clear();
+    remarks_.clear();
+    isMailHead_ = false;
+    quotations_.Take(line.Bytes, line.Plain.Text, tokens);
     if (ReadExact(line)) return;
     if (line.IsTooLong) return AddTooLong(line);
     TokenRange body{PastLineStart(tokens), tokens.size()};
@@ -151,7 +106,8 @@ class TextReader {
       AddLine(line, LineKind::PassedOver);
       return;
     }
-    if (IsMailHead(PartOf(line, body), known_.Names)) {
+    if (IsMailHead(PartOf(line, body), known_.Names) || IsQuotationHead(line.Plain.Text, tokens)) {
+      isMailHead_ = true;
       AddLine(line, LineKind::PassedOver);
       return;
     }
@@ -189,9 +145,8 @@ class TextReader {
     const std::size_t before = lines_.size();
     for (const TokenRange segment : Split(line.All, body, Seam::Semicolon))
       ReadSegment(line, segment, context);
-    const bool hasOrder =
-        std::any_of(lines_.begin() + static_cast<std::ptrdiff_t>(before), lines_.end(), IsOrder);
-    if (hasOrder) inSignature_ = false;
+    if (said.size() > 1) remarks_.push_back({comment.Begin + 1, comment.End});
+    if (HoldsOrders(before)) inSignature_ = false;
     const bool isOrder =
         !said.empty() &&
         (body.Begin == body.End ? !IsNoOrder(said, known_.Names, inSignature_)
@@ -203,9 +158,78 @@ class TextReader {
     }
   }
 
-  static bool IsOrder(const ReadLine& line) {
-    return line.Kind == LineKind::Order || line.Kind == LineKind::Ambiguous ||
-           line.Kind == LineKind::Waive;
+  /// Whether any line from a row on holds an order.
+  bool HoldsOrders(std::size_t row) const {
+    return std::any_of(lines_.begin() + static_cast<std::ptrdiff_t>(row), lines_.end(),
+                       [](const ReadLine& line) {
+                         return IsUnderstood(line) || line.Kind == LineKind::Ambiguous ||
+                                line.Kind == LineKind::Waive;
+                       });
+  }
+
+  /// Notes what a line that was read, whose rows begin at `first`, says of the orders around it.
+  void LookAround(const SourceLine& line, std::size_t first) {
+    const bool corrects = !line.IsTooLong && Corrects(line.All);
+    for (std::size_t row = first; row < lines_.size(); ++row)
+      around_[row].Corrects = corrects;
+    if (HoldsOrders(first)) return DoubtRemarks(line, first);
+    const bool speaks = !line.IsTooLong && !isMailHead_;
+    const auto aside = speaks ? ReadAside(line.All) : std::nullopt;
+    if (!aside || lines_.back().Kind == LineKind::Heading) return;
+    // Its words alone are no reason to show it: the orders that it sets aside are shown.
+    std::vector<Token> rest(line.All.begin(), line.All.end());
+    rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(aside->At.Begin),
+               rest.begin() + static_cast<std::ptrdiff_t>(aside->At.End));
+    std::erase_if(rest, IsCondition);
+    const bool isHeading = IsA(line.All.back(), TokenKind::Colon) &&
+                           std::ranges::find(rest, TokenKind::Dash, &Token::Kind) == rest.end();
+    if (isHeading || IsNoOrder(rest, known_.Names, inSignature_)) {
+      for (std::size_t row = first; row < lines_.size(); ++row)
+        lines_[row].Kind = LineKind::PassedOver;
+    }
+    const Span at = Written(line, aside->At);
+    const std::string reason =
+        Quoted(Tokens(line.All).subspan(aside->At.Begin, aside->At.End - aside->At.Begin)) +
+        " sets it aside";
+    const bool isAbove = aside->Scope != AsideScope::Below && SetAsideAbove(first, reason, at);
+    if (isAbove || aside->Scope == AsideScope::Above) return;
+    setAside_ = reason;
+    setAsideAt_ = at;
+    setAsidePower_ = context_.Power;
+  }
+
+  /// Sets aside the orders above a row in the same part of the text; false when there are none.
+  bool SetAsideAbove(std::size_t end, const std::string& reason, Span at) {
+    bool any = false;
+    for (std::size_t row = 0; row < end; ++row) {
+      if (!IsUnderstood(lines_[row]) || around_[row].IsOlder != quotations_.IsQuoted()) continue;
+      around_[row].Doubt = reason;
+      around_[row].DoubtAt = at;
+      any = true;
+    }
+    return any;
+  }
+
+  /// What a line says beside its orders, in comments or between them, may change each of them.
+  void DoubtRemarks(const SourceLine& line, std::size_t first) {
+    std::vector<Token> own;
+    for (const TokenRange range : understood_) {
+      const Tokens order = PartOf(line, range);
+      own.insert(own.end(), order.begin(), order.end());
+    }
+    for (const TokenRange range : remarks_) {
+      const Tokens remark = PartOf(line, range);
+      const auto doubt = FindDoubt(remark, own, known_.Names);
+      const bool isGreeting = remark.size() <= LongestGreeting && IsGreeting(remark[0]) &&
+                              !ReadAside(remark).has_value();
+      if (!doubt || isGreeting) continue;
+      for (std::size_t row = first; row < lines_.size(); ++row) {
+        if (!around_[row].Doubt.empty()) continue;
+        around_[row].Doubt = Quoted(remark) + " may change it";
+        around_[row].DoubtAt = Written(line, range);
+      }
+      return;
+    }
   }
 
   /// Reads what stands between semicolons: one order, or several between commas.
@@ -240,6 +264,11 @@ class TextReader {
       parts.emplace_back(range, ReadPart(tokens, known_, tried));
       const bool isOrdered = std::ranges::any_of(parts, isOrder);
       if (IsUnderstood(parts.back().second)) continue;
+      if (const auto again = ReadSameUnit(line, parts, range)) {
+        parts.back().second = *again;
+        tried = before;
+        continue;
+      }
       const PartsRead runOn = Moved(ReadRunOn(tokens, known_, before), range.Begin);
       if (!runOn.empty()) {
         parts.pop_back();
@@ -249,7 +278,7 @@ class TextReader {
       }
       // Before the first order, "last turn" and the like set aside what follows; behind one they do
       // not.
-      const std::size_t at = isOrdered ? FindCondition(tokens) : FindDoubt(tokens);
+      const std::size_t at = isOrdered ? FindCondition(tokens) : FindSetAside(tokens);
       if (at < tokens.size() && condition == segment.End) condition = range.Begin + at;
       isClear = isClear && IsNoOrder(tokens, known_.Names, inSignature_);
     }
@@ -264,8 +293,27 @@ class TextReader {
     return true;
   }
 
+  /// "A Par - Bur, H": reads what begins with a verb as another order of the unit before it;
+  /// nothing where it is none.
+  std::optional<PartRead> ReadSameUnit(const SourceLine& line, const PartsRead& parts,
+                                       TokenRange range) const {
+    const bool hasVerb = VerbOf(line.All[range.Begin]) != Verb::None;
+    if (!hasVerb || parts.size() < 2 || !IsUnderstood(parts[parts.size() - 2].second)) return {};
+    const Tokens before = PartOf(line, parts[parts.size() - 2].first);
+    const auto isVerb = [](const Token& token) { return VerbOf(token) != Verb::None; };
+    const auto verb = std::ranges::find_if(before, isVerb);
+    std::vector<Token> joined(before.begin(), verb);
+    const Tokens rest = PartOf(line, range);
+    joined.insert(joined.end(), rest.begin(), rest.end());
+    Context context = context_;
+    PartRead read = ReadPart(joined, known_, context);
+    if (joined.size() == rest.size() || !IsUnderstood(read)) return {};
+    read.End = range.End - range.Begin;
+    return read;
+  }
+
   /// The first word that makes a condition of orders behind it or sets them aside.
-  static std::size_t FindDoubt(Tokens tokens) {
+  static std::size_t FindSetAside(Tokens tokens) {
     const auto doubts = [](const Token& token) { return IsCondition(token) || IsAside(token); };
     return static_cast<std::size_t>(std::ranges::find_if(tokens, doubts) - tokens.begin());
   }
@@ -297,7 +345,7 @@ class TextReader {
 
   ReadLine& Add(const SourceLine& line, Span place, LineKind kind, int power) {
     ReadLine& read = lines_.emplace_back();
-    quoted_.push_back(quotations_.IsQuoted());
+    around_.push_back({quotations_.IsQuoted(), false, setAside_, setAsideAt_});
     read.Number = line.Number;
     read.Place = place;
     read.Written = line.Bytes.substr(place.Offset - line.Offset, place.Length);
@@ -325,6 +373,11 @@ class TextReader {
       inSignature_ = false;
     } else if (says) {
       context_.Orders = heading.Orders;
+    }
+    // "Final orders:" ends a draft, and so does the heading of another power than its own.
+    if (Corrects(line.All) ||
+        (setAsidePower_ != 0 && heading.Power != 0 && heading.Power != setAsidePower_)) {
+      setAside_.clear();
     }
     AddLine(line, says ? LineKind::Heading : LineKind::PassedOver);
   }
@@ -354,6 +407,12 @@ class TextReader {
     ReadLine& read = Add(line, Written(line, range), part.Kind, context.Power);
     const std::vector<Meaning>& meant = part.Meant.All;
     read.ReasonPlace = read.Place;
+    if (IsUnderstood(part)) {
+      const std::size_t end = std::min(range.Begin + part.End, range.End);
+      understood_.push_back({range.Begin, end});
+      const bool isOrder = part.Kind != LineKind::Waive;
+      if (isOrder && end < range.End) remarks_.push_back({end, range.End});
+    }
     if (part.Kind == LineKind::Order) {
       read.Order = meant[0].Line;
       read.Power = PowerText(meant[0].Power);
@@ -370,6 +429,7 @@ class TextReader {
   void AddProblem(const SourceLine& line, TokenRange range, const Fault& problem, ReadLine& read) {
     if (!isSingle_ && IsNoOrder(PartOf(line, range), known_.Names, inSignature_)) {
       read.Kind = LineKind::PassedOver;
+      remarks_.push_back(range);
       return;
     }
     read.Reason = problem.Reason;
@@ -386,13 +446,21 @@ class TextReader {
   bool isSingle_ = false;  ///< the text is an order, whatever it looks like
   Quotations quotations_;
   std::vector<ReadLine> lines_;
-  std::vector<bool> quoted_;  ///< one for each of the lines
+  std::vector<Surroundings> around_;  ///< one for each of the lines
+  std::string setAside_;              ///< why the orders here are set aside, or empty
+  Span setAsideAt_;
+  int setAsidePower_ = 0;  ///< whose orders stood there; 0: nobody's in particular
+  // Of the line that is being read: whether it heads a mail, its orders, and what it says next to
+  // them.
+  bool isMailHead_ = false;
+  std::vector<TokenRange> understood_;
+  std::vector<TokenRange> remarks_;
 };
 
 void LearnMoves(const std::vector<ReadLine>& lines, KnownGame& known) {
   if (known.Stage != model::Stage::Moves) return;
   for (const ReadLine& line : lines) {
-    if (line.Kind != LineKind::Order) continue;
+    if (!IsUnderstood(line)) continue;
     const auto order = ReadExactLine(*known.Game.Map, known.Stage, line.Order);
     if (order) known.Learn(*order);
   }

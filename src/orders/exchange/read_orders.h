@@ -1,10 +1,9 @@
 #pragma once
 
 #include "model/game_state.h"
-#include "orders/exchange/plain_text.h"
+#include "orders/exchange/read_line.h"
 #include "orders/exchange/text_repairs.h"
 
-#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -14,30 +13,6 @@ namespace orb::exchange {
 
 /// The longest text that is read, in bytes; what is longer is no mail with orders.
 constexpr std::size_t TextBound = 500'000;
-
-enum class LineKind : std::uint8_t {
-  Order,          ///< understood
-  Waive,          ///< understood, and asks for nothing
-  NotUnderstood,  ///< an order, or perhaps one
-  Ambiguous,      ///< it can mean several orders
-  Heading,        ///< says which power, or which kind of adjustment, the lines below are for
-  PassedOver,     ///< surely no order
-};
-
-/// A line of a text, or an order in it where it holds several, and what was understood. Places are
-/// in bytes of the whole text.
-struct ReadLine {
-  int Number = 0;       ///< of the line, from 1
-  Span Place;           ///< what was written, without blanks, bullets and the like around it
-  std::string Written;  ///< its bytes
-  LineKind Kind = LineKind::PassedOver;
-  std::string Order;  ///< of Order: the line for the stage's list, "FRA A(Par) - Bur"
-  std::string Power;  ///< of the order or heading; else of the lines here, empty when none is named
-  std::string Reason;  ///< why it is unclear; of Order: why it cannot be carried out, or empty
-  Span ReasonPlace;  ///< what the reason is about; empty behind the text when something is missing
-  std::vector<std::string> Candidates;  ///< of Ambiguous: the orders that it can mean
-  bool IsReplaced = false;              ///< unclear for no other reason than that it is quoted
-};
 
 struct ReadingOptions {
   std::string Power;  ///< abbreviation of the power of lines that name none; empty: whose units
@@ -57,10 +32,5 @@ std::vector<ReadLine> ReadOrders(const model::GameState& game, std::string_view 
 /// `before` are lines read with it, whose moves tell what a support can mean.
 ReadLine ReadOrder(const model::GameState& game, std::string_view text,
                    const ReadingOptions& options, const std::vector<ReadLine>& before = {});
-
-/// Whether a line must be shown to somebody: not understood or ambiguous.
-inline bool IsUnclear(const ReadLine& line) {
-  return line.Kind == LineKind::NotUnderstood || line.Kind == LineKind::Ambiguous;
-}
 
 }  // namespace orb::exchange

@@ -115,9 +115,6 @@ constexpr std::array<std::string_view, 28> Greetings{
     "best",    "cheers", "thanks", "thank",   "yours",     "sincerely", "bye",
     "kind",    "thx",    "gl",     "warm",    "cordially", "moin",      "goodbye"};
 
-constexpr std::array<std::string_view, 11> MailHeaders{
-    "from", "to", "cc", "bcc", "subject", "date", "sent", "reply", "received", "betreff", "von"};
-
 /// "s01", "f1901m", "1901", "1901s", "1st": letters about a number.
 bool IsSeasonCode(std::string_view word) {
   const std::size_t first = word.find_first_of("0123456789");
@@ -247,10 +244,6 @@ bool IsHeadingWord(const Token& token) {
 
 bool IsGreeting(const Token& token) {
   return IsIn(token, Greetings);
-}
-
-bool IsMailHeader(const Token& token) {
-  return IsIn(token, MailHeaders);
 }
 
 }  // namespace orb::exchange

@@ -54,7 +54,4 @@ bool IsHeadingWord(const Token& token);
 /// The first words of greetings and of closings.
 bool IsGreeting(const Token& token);
 
-/// The first words of the lines at the head of a mail: "from", "subject".
-bool IsMailHeader(const Token& token);
-
 }  // namespace orb::exchange

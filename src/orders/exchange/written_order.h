@@ -42,6 +42,7 @@ struct WrittenOrder {
   Verb OtherWhat = Verb::None;  ///< Move or Hold, None: not written
   WrittenPlace Destination;     ///< of the move, also the supported or convoyed one
   bool ByConvoy = false;
+  std::size_t End = 0;  ///< the token behind it; only remarks follow
 };
 
 }  // namespace orb::exchange

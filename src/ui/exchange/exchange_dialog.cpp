@@ -161,8 +161,7 @@ void ExchangeDialog::showReason() {
   if (line.Kind == exchange::LineKind::Ambiguous) {
     hints << tr("A right click, or F2 in the right column, offers what it can mean.");
   }
-  if (line.Kind == exchange::LineKind::Order)
-    hints << tr("The space bar takes it or leaves it out.");
+  if (IsUnderstood(line)) hints << tr("The space bar takes it or leaves it out.");
   QString text = tr("Line %1").arg(line.Number);
   const QString reason = understood.data(Qt::ToolTipRole).toString();
   if (!reason.isEmpty()) text += QStringLiteral(": ") + reason;

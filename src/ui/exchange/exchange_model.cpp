@@ -45,6 +45,8 @@ OrderMark markOf(const ReadLine& line, bool doubtful) {
   switch (line.Kind) {
     case LineKind::Order:
       return doubtful ? OrderMark::Doubtful : OrderMark::Passes;
+    case LineKind::Doubtful:
+      return OrderMark::Doubtful;
     case LineKind::Waive:
       return OrderMark::Passes;
     case LineKind::NotUnderstood:
@@ -58,7 +60,10 @@ OrderMark markOf(const ReadLine& line, bool doubtful) {
 QString meaningOf(const ReadLine& line) {
   switch (line.Kind) {
     case LineKind::Order:
+    case LineKind::Doubtful:
       return text::ToQString(line.Order);
+    case LineKind::Replaced:
+      return QObject::tr("replaced: %1").arg(text::ToQString(line.Order));
     case LineKind::Waive:
       return QObject::tr("waived, nothing to file");
     case LineKind::Heading:
@@ -92,8 +97,8 @@ void ExchangeModel::setPower(const std::string& power) {
     const QString written = displayText(read.Written);
     const auto fault = faultIn(read.Written, read.ReasonPlace, read.Place.Offset);
     const std::string context = read.Power;
-    // Ticked unless it is another power's: whoever pastes one power's mail rarely wants those.
-    const bool taken = !isOfOther(read);
+    // What is doubtful, another power's orders in one power's mail too, waits for a person.
+    const bool taken = read.Kind == LineKind::Order;
     m_lines.push_back({std::move(read), written, written, context, fault, taken});
   }
   takeAnew(before);
@@ -135,13 +140,13 @@ void ExchangeModel::rewrite(Line& line, const QString& text) {
   line.fault = faultIn(text.toStdString(), line.read.ReasonPlace, 0);
   line.read.Place = place;
   line.written = text;
-  line.taken = !isOfOther(line.read);
+  line.taken = line.read.Kind == LineKind::Order && !isOfOther(line.read);
 }
 
 /// What a support can mean depends on the other lines.
 void ExchangeModel::readUnclearAgain() {
   for (Line& line : m_lines) {
-    if (IsUnclear(line.read) && !line.read.IsReplaced) rewrite(line, line.written);
+    if (IsUnclear(line.read)) rewrite(line, line.written);
   }
 }
 
@@ -182,7 +187,7 @@ ExchangeModel::Counts ExchangeModel::counts() const {
   Counts counts;
   for (int row = 0; row < rowCount(); ++row) {
     const Line& line = at(row);
-    const bool order = line.read.Kind == LineKind::Order;
+    const bool order = IsUnderstood(line.read);
     counts.orders += order ? 1 : 0;
     counts.unclear += IsUnclear(line.read) ? 1 : 0;
     counts.ofOthers += isOfOther(line.read) ? 1 : 0;
@@ -197,19 +202,21 @@ ExchangeModel::Counts ExchangeModel::counts() const {
 std::vector<ReadLine> ExchangeModel::takenLines() const {
   std::vector<ReadLine> lines;
   for (const Line& line : m_lines) {
-    if (line.read.Kind == LineKind::Order && line.taken) lines.push_back(line.read);
+    if (IsUnderstood(line.read) && line.taken) lines.push_back(line.read);
   }
+  // Whoever ticked a doubtful order has consented to it.
+  exchange::AcceptDoubtful(lines);
   return lines;
 }
 
 bool ExchangeModel::isOfOther(const ReadLine& line) const {
-  return line.Kind == LineKind::Order && !m_power.empty() && line.Power != m_power;
+  return IsUnderstood(line) && !m_power.empty() && line.Power != m_power;
 }
 
 bool ExchangeModel::isRepeatedBelow(int row) const {
   const std::string_view unit = unitOf(line(row));
   return std::any_of(m_lines.begin() + row + 1, m_lines.end(), [&](const Line& below) {
-    return below.read.Kind == LineKind::Order && below.taken && unitOf(below.read) == unit;
+    return IsUnderstood(below.read) && below.taken && unitOf(below.read) == unit;
   });
 }
 
@@ -222,9 +229,9 @@ bool ExchangeModel::isReplacing(const ReadLine& line) const {
 
 /// Why an order that was understood may not be wanted; empty when nothing is known against it.
 QString ExchangeModel::doubt(int row, const ReadLine& line) const {
-  if (line.Kind != LineKind::Order) return {};
+  if (!IsUnderstood(line)) return {};
   QStringList doubts;
-  if (isOfOther(line)) doubts << tr("of another power");
+  if (isOfOther(line) && !IsDoubtful(line)) doubts << tr("of another power");
   if (!line.Reason.empty()) doubts << displayText(line.Reason);
   if (isRepeatedBelow(row)) doubts << tr("ordered again below");
   return doubts.join(QStringLiteral("; "));
@@ -251,7 +258,7 @@ QVariant ExchangeModel::data(const QModelIndex& index, int role) const {
   if (index.column() == Understood) return understoodData(row, role);
   if (index.column() == Written) return writtenData(row, role);
   // The first column has a box to tick where there is an order to take, and nothing elsewhere.
-  if (line(row).Kind != LineKind::Order) return {};
+  if (!IsUnderstood(line(row))) return {};
   if (role == Qt::CheckStateRole) return at(row).taken ? Qt::Checked : Qt::Unchecked;
   if (role == Qt::AccessibleTextRole) return at(row).taken ? tr("taken") : tr("left out");
   return {};
@@ -306,7 +313,7 @@ Qt::ItemFlags ExchangeModel::flags(const QModelIndex& index) const {
   const LineKind kind = line(index.row()).Kind;
   switch (index.column()) {
     case Take:
-      return kind == LineKind::Order ? shown | Qt::ItemIsUserCheckable : shown;
+      return IsUnderstood(line(index.row())) ? shown | Qt::ItemIsUserCheckable : shown;
     case Written:
       return shown | Qt::ItemIsEditable;
     default:

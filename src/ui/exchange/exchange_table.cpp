@@ -188,7 +188,7 @@ void ExchangeTable::contextMenuEvent(QContextMenuEvent* event) {
           [this, row] { editWritten(row); });
   QAction* take = menu.addAction(tr("&Take the order"));
   take->setCheckable(true);
-  take->setEnabled(m_model.line(row).Kind == LineKind::Order);
+  take->setEnabled(IsUnderstood(m_model.line(row)));
   const auto box = m_model.index(row, ExchangeModel::Take).data(Qt::CheckStateRole);
   take->setChecked(box.toInt() == Qt::Checked);
   connect(take, &QAction::triggered, this, [this, row] { toggle(row); });

@@ -1,0 +1,153 @@
+#include "orders/exchange/contradictions.h"
+
+#include "text/strings.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <utility>
+
+namespace orb::exchange {
+namespace {
+
+/// The part of an order that tells what it is for: its unit; of a build its power and its place,
+/// where only one unit can be built.
+std::string SubjectOf(std::string_view order, model::Stage stage) {
+  const std::string unit = text::UpperCase(order.substr(0, order.find(')')));
+  if (stage != model::Stage::Adjustments) return unit;
+  const std::size_t power = std::min(unit.find(' '), unit.size());
+  if (!std::string_view(unit).substr(power).starts_with(" BUILD")) return unit;
+  constexpr std::size_t nameLength = 3;
+  return unit.substr(0, power) + unit.substr(std::min(unit.find('('), unit.size()), nameLength + 1);
+}
+
+void MakeDoubtful(ReadLine& line, std::string reason, Span at) {
+  if (line.Kind != LineKind::Order) return;
+  line.Kind = LineKind::Doubtful;
+  line.Reason = std::move(reason);
+  line.ReasonPlace = at;
+}
+
+void MakeReplaced(ReadLine& line, std::string reason) {
+  line.Kind = LineKind::Replaced;
+  line.Reason = std::move(reason);
+  line.ReasonPlace = line.Place;
+}
+
+/// Where an answer orders something for a unit, what it quotes for that unit is replaced; in
+/// adjustments, where a choice is one of all units, for that power. Quoted orders that stand alone
+/// may be meant to stay in force, or not.
+void WeighOlder(std::vector<ReadLine>& lines, const std::vector<Surroundings>& around,
+                model::Stage stage) {
+  const auto subjectOf = [&](const std::string& order) {
+    return stage == model::Stage::Adjustments ? text::UpperCase(order.substr(0, order.find(' ')))
+                                              : SubjectOf(order, stage);
+  };
+  std::set<std::string> answered;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    if (around[i].IsOlder) continue;
+    if (!lines[i].Order.empty()) answered.insert(subjectOf(lines[i].Order));
+    for (const std::string& candidate : lines[i].Candidates)
+      answered.insert(subjectOf(candidate));
+  }
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    ReadLine& line = lines[i];
+    if (!around[i].IsOlder || !IsUnderstood(line)) continue;
+    if (answered.contains(subjectOf(line.Order))) {
+      MakeReplaced(line, "it is quoted, and the text itself orders the unit");
+    } else {
+      MakeDoubtful(line, "it stands in an older part of the text", line.Place);
+    }
+  }
+}
+
+/// Several orders for one unit: the rows of its orders, in the text's order.
+using OrdersOfSubject = std::map<std::string, std::vector<std::size_t>>;
+
+class Contradictions {
+ public:
+  Contradictions(std::vector<ReadLine>& lines, const std::vector<Surroundings>& around,
+                 model::Stage stage)
+      : lines_(lines), around_(around) {
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+      if (around[i].IsOlder) continue;
+      if (IsUnderstood(lines[i])) orders_[SubjectOf(lines[i].Order, stage)].push_back(i);
+      // What an ambiguous line means may be another order of the unit.
+      for (const std::string& candidate : lines[i].Candidates) {
+        auto& rows = orders_[SubjectOf(candidate, stage)];
+        if (rows.empty() || rows.back() != i) rows.push_back(i);
+      }
+    }
+  }
+
+  void Weigh() {
+    for (const auto& entry : orders_) {
+      std::vector<std::size_t> rows = entry.second;
+      SetAsideReplaced(rows);
+      WeighRest(rows);
+    }
+  }
+
+ private:
+  /// Takes out the orders that a later one surely replaces.
+  void SetAsideReplaced(std::vector<std::size_t>& rows) {
+    std::vector<std::size_t> left;
+    for (const std::size_t row : rows) {
+      while (!left.empty() && IsReplacedBy(left.back(), row)) {
+        MakeReplaced(lines_[left.back()], "the text itself orders otherwise below");
+        left.pop_back();
+      }
+      left.push_back(row);
+    }
+    rows = std::move(left);
+  }
+
+  bool IsReplacedBy(std::size_t first, std::size_t second) const {
+    const ReadLine& old = lines_[first];
+    const ReadLine& now = lines_[second];
+    if (!IsUnderstood(old) || now.Kind != LineKind::Order || old.Order == now.Order) return false;
+    if (old.Kind == LineKind::Doubtful) return true;
+    return std::any_of(around_.begin() + static_cast<std::ptrdiff_t>(first) + 1,
+                       around_.begin() + static_cast<std::ptrdiff_t>(second) + 1,
+                       [](const Surroundings& around) { return around.Corrects; });
+  }
+
+  void WeighRest(const std::vector<std::size_t>& rows) {
+    for (const std::size_t row : rows) {
+      const auto other = std::ranges::find_if(rows, [&](std::size_t candidate) {
+        return candidate != row && !IsSetAside(candidate) &&
+               lines_[candidate].Order != lines_[row].Order;
+      });
+      if (other == rows.end()) continue;
+      const std::string& order = lines_[*other].Order;
+      MakeDoubtful(
+          lines_[row],
+          order.empty() ? "another line may be for the same unit" : "the text also orders " + order,
+          lines_[row].Place);
+    }
+  }
+
+  /// What stands under "Example:" and the like says nothing against an order elsewhere.
+  bool IsSetAside(std::size_t row) const { return !around_[row].Doubt.empty(); }
+
+  std::vector<ReadLine>& lines_;
+  const std::vector<Surroundings>& around_;
+  OrdersOfSubject orders_;
+};
+
+}  // namespace
+
+void WeighOrders(std::vector<ReadLine>& lines, const std::vector<Surroundings>& around,
+                 model::Stage stage, std::string_view power) {
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    if (!around[i].Doubt.empty()) MakeDoubtful(lines[i], around[i].Doubt, around[i].DoubtAt);
+  }
+  WeighOlder(lines, around, stage);
+  Contradictions(lines, around, stage).Weigh();
+  for (ReadLine& line : lines) {
+    if (power.empty() || line.Power == power) continue;
+    MakeDoubtful(line, "it is an order of " + line.Power, line.Place);
+  }
+}
+
+}  // namespace orb::exchange

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "model/stage.h"
+#include "orders/exchange/read_line.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orb::exchange {
+
+/// What stands around a line that was read.
+struct Surroundings {
+  bool IsOlder = false;   ///< in a part of the text that is quoted from an earlier one
+  bool Corrects = false;  ///< its words say that it holds rather than what stands above
+  std::string Doubt;      ///< why the orders here are set aside, or empty
+  Span DoubtAt;
+};
+
+/// Holds the orders of a text against each other and against what stands around them, and makes
+/// those doubtful that the text itself speaks against. `around` has one entry a line. Of two orders
+/// for one unit the later one holds if the words between them say so; an answer always holds
+/// against what it quotes. `power`: the abbreviation of the power whose orders are wanted, or
+/// empty.
+void WeighOrders(std::vector<ReadLine>& lines, const std::vector<Surroundings>& around,
+                 model::Stage stage, std::string_view power);
+
+}  // namespace orb::exchange
