@@ -41,15 +41,15 @@ const WordSet& PurposeWords() {
 /// Words around those, and that the order is as the writer wants it.
 const WordSet& PlainWords() {
   static const WordSet words{
-      "better", "fine",       "ok",      "okay",       "yes",     "yep",       "yeah",       "you",
-      "we",         "us",      "i",          "am",      "all",       "hope",       "hopefully",
-      "it",         "works",   "fingers",    "crossed", "of",        "course",     "obviously",
-      "naturally",  "fyi",     "btw",        "sure",    "surely",    "definitely", "certainly",
-      "confirmed",  "confirm", "confirming", "final",   "agreed",    "as",         "discussed",
-      "promised",   "usual",   "again",      "still",   "unchanged", "same",       "corrected",
-      "correction", "revised", "updated",    "changed", "new",       "safe",       "safety",
-      "self",       "order",   "orders",     "and",     "this",      "that",       "here",
-      "in",         "at",      "from",       "for",     "with",      "by"};
+      "better",    "fine",       "ok",      "okay",       "yes",     "yep",       "yeah",
+      "you",       "we",         "us",      "i",          "am",      "all",       "hope",
+      "hopefully", "it",         "works",   "fingers",    "crossed", "of",        "course",
+      "obviously", "naturally",  "fyi",     "btw",        "sure",    "surely",    "definitely",
+      "certainly", "confirmed",  "confirm", "confirming", "final",   "agreed",    "as",
+      "discussed", "promised",   "usual",   "again",      "still",   "unchanged", "same",
+      "corrected", "correction", "revised", "updated",    "changed", "new",       "safe",
+      "safety",    "self",       "order",   "orders",     "and",     "this",      "that",
+      "here",      "in",         "at",      "from",       "for",     "with",      "by"};
   return words;
 }
 
@@ -281,11 +281,11 @@ std::optional<Aside> ReadAside(Tokens line) {
 }
 
 bool Corrects(Tokens line) {
-  static const WordSet words{"correction", "corrections", "corrected",   "correct",   "instead",
-                             "better", "rather",     "sorry",       "oops",        "actually",  "revised",
-                             "revision",   "update",      "updated",     "updates",   "replace",
-                             "replaces",   "replacing",   "replacement", "changed",   "change",
-                             "changes",    "final",       "amended",     "amendment", "new"};
+  static const WordSet words{
+      "correction", "corrections", "corrected", "correct",   "instead",     "better",  "rather",
+      "sorry",      "oops",        "actually",  "revised",   "revision",    "update",  "updated",
+      "updates",    "replace",     "replaces",  "replacing", "replacement", "changed", "change",
+      "changes",    "final",       "amended",   "amendment", "new"};
   static const std::vector<Phrase> phrases{{"i", "mean"}, {"i", "meant"}, {"make", "that"}};
   return FindPhrase(line, phrases).has_value() ||
          std::ranges::any_of(line, [&](const Token& token) {
