@@ -19,6 +19,8 @@ struct PartRead {
   int Power = 0;        ///< of a waiver: who waives
   Fault Problem;        ///< in the part's tokens
   std::size_t End = 0;  ///< of the order in the part's tokens; only remarks follow
+  std::string ReadAs;   ///< how a slip of the pen was read: "Burgandy is read as Burgundy"
+  std::string Doubt;    ///< why that slip may mean something else, or empty
 };
 
 /// Reads tokens as one order. A heading before a colon, a power at the front and the verb of an

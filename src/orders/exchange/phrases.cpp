@@ -399,17 +399,20 @@ void Phrases::Expected(std::string_view reason, std::size_t at) {
   SetProblem(std::string(reason), {at, std::min(at + 1, tokens_.size())});
 }
 
-void Phrases::SetProblem(std::string reason, TokenRange at) {
-  if (!problem_ || problem_->At.Begin < at.Begin) problem_ = Fault{std::move(reason), at};
+void Phrases::SetProblem(std::string reason, TokenRange at, bool isNoPlace) {
+  if (!problem_ || problem_->At.Begin < at.Begin) {
+    problem_ = Fault{std::move(reason), at, isNoPlace};
+  }
 }
 
 void Phrases::Unknown(std::size_t at, std::string_view reason, std::size_t end) {
   std::string quoted = Quoted(tokens_.subspan(at, end - at));
   const std::string_view near = names_.NearlyNamed(tokens_[at].Text);
   if (!near.empty() && names_.At(tokens_, at).empty()) {
-    return SetProblem(quoted.append(NotOnTheMap).append("; ").append(near).append("?"), {at, end});
+    return SetProblem(quoted.append(NotOnTheMap).append("; ").append(near).append("?"), {at, end},
+                      true);
   }
-  SetProblem(quoted.append(reason), {at, end});
+  SetProblem(quoted.append(reason), {at, end}, reason == NotOnTheMap);
 }
 
 void Phrases::NotInStage(std::size_t at) {

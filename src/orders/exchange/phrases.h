@@ -69,7 +69,7 @@ class Phrases {
   std::size_t PastMark(std::size_t type) const;
   bool Is(std::size_t at, TokenKind kind) const;
   bool Is(std::size_t at, std::string_view word) const;
-  void SetProblem(std::string reason, TokenRange at);
+  void SetProblem(std::string reason, TokenRange at, bool isNoPlace = false);
   void Unknown(std::size_t at, std::string_view reason, std::size_t end);
   std::size_t EndOfBracket(std::size_t at) const;
   void AddCoasts(const PlaceMatch& match, std::size_t at, Read<WrittenPlace>& places) const;

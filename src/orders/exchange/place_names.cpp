@@ -33,15 +33,14 @@ WordRun WordsFrom(Tokens tokens, std::size_t at) {
   return run;
 }
 
-/// Whether one letter is missing, surplus or wrong, or two neighbours changed places; the first
-/// letters must be the same.
+/// Whether one letter is missing, surplus or wrong, or two neighbours changed places.
 bool IsOneSlipAway(std::string_view a, std::string_view b) {
   if (a.size() > b.size()) std::swap(a, b);
-  if (b.size() - a.size() > 1 || a[0] != b[0]) return false;
+  if (b.size() - a.size() > 1 || a == b) return false;
   const auto [left, right] = std::mismatch(a.begin(), a.end(), b.begin());
   const auto at = static_cast<std::size_t>(left - a.begin());
   if (a.size() < b.size()) return a.substr(at) == b.substr(at + 1);
-  if (at == a.size() || a.substr(at + 1) == b.substr(at + 1)) return true;
+  if (a.substr(at + 1) == b.substr(at + 1)) return true;
   return at + 1 < a.size() && a[at] == b[at + 1] && a[at + 1] == b[at] &&
          a.substr(at + 2) == b.substr(at + 2);
 }
@@ -60,8 +59,11 @@ PlaceNames::PlaceNames(const model::Map& map)
   // Old abbreviations are understood in orders as in old files.
   for (const model::NameFix& fix : map.NameFixes)
     Add(fix.From, model::FindProvince(map, fix.To), false);
-  for (const UsualSpelling& spelling : UsualSpellings())
-    Add(spelling.Written, model::FindProvince(map, spelling.Abbreviation), false);
+  for (const UsualSpelling& spelling : UsualSpellings()) {
+    const int row = model::FindProvince(map, spelling.Abbreviation);
+    Add(spelling.Written, row, false);
+    AddNearOnes(spelling.Written, row);
+  }
 }
 
 void PlaceNames::AddPlace(int row) {
@@ -76,6 +78,16 @@ void PlaceNames::AddPlace(int row) {
   }
   Add(name, row, false);
   Add(map_.Provinces[row].FullName, row, true);
+}
+
+/// An alias as near to another abbreviation as a slip of the pen may mean that place as well: "tir"
+/// is Tyrolia, or Trieste.
+void PlaceNames::AddNearOnes(std::string_view alias, int row) {
+  for (int other = 1; other <= map_.Provinces.Count() && row != 0; ++other) {
+    const std::string& name = map_.Provinces[other].Name;
+    const bool isOther = other != row && name.size() == NameLength;
+    if (isOther && IsOneSlipAway(text::LowerCase(name), alias)) Add(alias, other, false);
+  }
 }
 
 void PlaceNames::Add(std::string_view name, int row, bool mayBeShort) {
@@ -139,6 +151,24 @@ int PlaceNames::Coast(int province, char letter) const {
 
 const std::vector<int>& PlaceNames::Locations(int province) const {
   return locations_[static_cast<std::size_t>(province)];
+}
+
+std::vector<PlaceNames::NearPlace> PlaceNames::Near(std::string_view word) const {
+  std::vector<NearPlace> near;
+  if (word.size() < NameLength) return near;
+  for (const auto& entry : spellings_) {
+    for (const Spelling& spelling : entry.second) {
+      const bool isWhole = IsOneSlipAway(spelling.Joined, word);
+      const bool isFirst = spelling.MayBeShort && spelling.Words.size() > 1 &&
+                           spelling.Words[0].size() > NameLength &&
+                           IsOneSlipAway(spelling.Words[0], word);
+      const bool isKnown =
+          std::ranges::find(near, spelling.Row, &NearPlace::Province) != near.end();
+      if ((!isWhole && !isFirst) || isKnown) continue;
+      near.push_back({isWhole ? spelling.Joined : spelling.Words[0], spelling.Row});
+    }
+  }
+  return near;
 }
 
 std::string_view PlaceNames::NearlyNamed(std::string_view word) const {

@@ -34,6 +34,16 @@ class PlaceNames {
   /// The province and its coasts.
   const std::vector<int>& Locations(int province) const;
 
+  /// A place that a word is one slip of the pen away from.
+  struct NearPlace {
+    std::string Word;  ///< to be read in its stead
+    int Province = 0;  ///< row of the province
+  };
+
+  /// The places whose name, or the name's first word, is one letter away from a word of three
+  /// letters or more: one missing, surplus or wrong, or two changed places. Each province once.
+  std::vector<NearPlace> Near(std::string_view word) const;
+
   /// The full name that a word of five letters or more is one slip away from, or nothing.
   std::string_view NearlyNamed(std::string_view word) const;
 
@@ -47,6 +57,7 @@ class PlaceNames {
 
   void Add(std::string_view name, int row, bool mayBeShort);
   void AddPlace(int row);
+  void AddNearOnes(std::string_view alias, int row);
 
   const model::Map& map_;
   std::map<char, std::vector<Spelling>> spellings_;  ///< by first letter

@@ -30,6 +30,7 @@ struct ReadLine {
   std::string Power;  ///< of the order or heading; else of the lines here, empty when none is named
   std::string Reason;  ///< why it is unclear, doubtful or replaced; of Order: why it cannot be
                        ///< carried out, or empty
+  std::string ReadAs;  ///< how slips of the pen were read: "\"Burgandy\" is read as Burgundy"
   Span ReasonPlace;  ///< what the reason is about; empty behind the text when something is missing
   std::vector<std::string> Candidates;  ///< of Ambiguous: the orders that it can mean
 };

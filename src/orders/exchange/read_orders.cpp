@@ -11,6 +11,7 @@
 #include "orders/exchange/phrases.h"
 #include "orders/exchange/quotations.h"
 #include "orders/exchange/run_on.h"
+#include "orders/exchange/slips.h"
 #include "orders/exchange/source_line.h"
 #include "text/strings.h"
 
@@ -56,7 +57,11 @@ class TextReader {
       CutLineTokens(line);
       const TokenRange body{PastLineStart(line.All), line.All.size()};
       Context context = context_;
-      const PartRead part = ReadPart(PartOf(line, body), known_, context);
+      PartRead part = ReadPart(PartOf(line, body), known_, context);
+      if (!IsUnderstood(part)) {
+        PartRead mended = ReadWithSlips(PartOf(line, body), part, known_, context);
+        if (IsUnderstood(mended)) part = std::move(mended);
+      }
       line.IsTooLong ? AddTooLong(line) : AddPart(line, body, part, context);
       DoubtRemarks(line, 0);
       WeighOrders(lines_, around_, known_.Stage, {});
@@ -245,6 +250,12 @@ class TextReader {
     if (!IsUnderstood(read)) {
       const PartsRead parts = ReadRunOn(PartOf(line, segment), known_, context);
       if (!parts.empty()) return AddParts(line, Moved(parts, segment.Begin), context);
+      Context slipped = context;
+      const PartRead mended = ReadWithSlips(PartOf(line, segment), read, known_, slipped);
+      if (IsUnderstood(mended)) {
+        context = slipped;
+        return AddPart(line, segment, mended, context);
+      }
     }
     context = whole;
     AddPart(line, segment, read, context);
@@ -274,6 +285,13 @@ class TextReader {
         parts.pop_back();
         parts.insert(parts.end(), runOn.begin(), runOn.end());
         tried = before;
+        continue;
+      }
+      Context slipped = before;
+      PartRead mended = ReadWithSlips(tokens, parts.back().second, known_, slipped);
+      if (IsUnderstood(mended)) {
+        parts.back().second = std::move(mended);
+        tried = slipped;
         continue;
       }
       // Before the first order, "last turn" and the like set aside what follows; behind one they do
@@ -407,6 +425,11 @@ class TextReader {
     ReadLine& read = Add(line, Written(line, range), part.Kind, context.Power);
     const std::vector<Meaning>& meant = part.Meant.All;
     read.ReasonPlace = read.Place;
+    read.ReadAs = part.ReadAs;
+    if (!part.Doubt.empty()) {
+      around_.back().Doubt = part.Doubt;
+      around_.back().DoubtAt = read.Place;
+    }
     if (IsUnderstood(part)) {
       const std::size_t end = std::min(range.Begin + part.End, range.End);
       understood_.push_back({range.Begin, end});

@@ -17,6 +17,7 @@ struct TokenRange {
 struct Fault {
   std::string Reason;
   TokenRange At;
+  bool IsNoPlace = false;  ///< a place is expected there, and the words name none
 };
 
 /// A place as written: the rows of the map that it can mean.
