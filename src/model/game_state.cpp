@@ -1,5 +1,6 @@
 #include "model/game_state.h"
 
+#include "model/errors.h"
 #include "model/messages.h"
 
 #include <utility>
@@ -27,9 +28,8 @@ std::string_view StageText(const GameState& game) {
 
 void SetCentreOwnersFromUnits(GameState& game) {
   for (const Unit& unit : game.Units) {
-    // A fleet on a coast holds the centre of the whole province, which the first three letters
-    // name.
-    const int province = FindProvince(*game.Map, std::string_view(unit.Location).substr(0, 3));
+    // A fleet on a coast holds the centre of the whole province.
+    const int province = ProvinceOf(*game.Map, unit.Location);
     if (province == 0) {
       throw IndexOutOfRange("A unit stands in an unknown province: " + unit.Power + " " +
                             unit.UnitType + "(" + unit.Location + ").");

@@ -52,6 +52,14 @@ int FindProvince(const Map& map, std::string_view name) {
   return map.Names.Find(map.Provinces, name);
 }
 
+int ProvinceOf(const Map& map, std::string_view location) {
+  return FindProvince(map, ProvinceName(location));
+}
+
+int ProvinceOf(const Map& map, int row) {
+  return row == 0 ? 0 : ProvinceOf(map, map.Provinces[row].Name);
+}
+
 const std::string& LocationName(const Map& map, int row) {
   static const std::string none;
   return row == 0 ? none : map.Provinces[row].Name;

@@ -59,6 +59,10 @@ struct Map {
 /// found only under its own abbreviation.
 int FindProvince(const Map& map, std::string_view name);
 
+/// The row of the province that a location is, or is a coast of; 0 when it is unknown.
+int ProvinceOf(const Map& map, std::string_view location);
+int ProvinceOf(const Map& map, int row);
+
 /// The abbreviation of the location in a row; empty for row 0.
 const std::string& LocationName(const Map& map, int row);
 

@@ -20,4 +20,14 @@ inline bool SamePlace(std::string_view a, std::string_view b) {
   return a[0] == b[0] && a[1] == b[1] && a[2] == b[2];
 }
 
+/// Whether the abbreviation is that of one coast of a province: "Stp.n".
+inline bool IsCoast(std::string_view location) {
+  return location.find('.') != std::string_view::npos;
+}
+
+/// The abbreviation of the province that a location is, or is a coast of: "Stp" for "Stp.n".
+inline std::string_view ProvinceName(std::string_view location) {
+  return location.substr(0, 3);
+}
+
 }  // namespace orb::model

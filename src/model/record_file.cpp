@@ -12,23 +12,19 @@ namespace orb::model {
 namespace {
 
 /// A table of what a field ends at, for one look per byte: files are read and written by thousands.
-constexpr std::array<bool, 256> Marks(std::string_view characters) {
+constexpr std::array<bool, 256> Marks(bool (*ends)(char)) {
   std::array<bool, 256> marks{};
-  for (const char c : characters)
-    marks[static_cast<unsigned char>(c)] = true;
+  for (std::size_t byte = 0; byte < marks.size(); ++byte)
+    marks[byte] = ends(static_cast<char>(byte));
   return marks;
 }
 
 // A quoted text ends with its line too, so that a missing quote is found in the line that lacks it.
-constexpr std::array<bool, 256> QuotedEnds = Marks("\"\r\n");
-constexpr std::array<bool, 256> PlainEnds = Marks(",\r\n");
+constexpr std::array<bool, 256> QuotedEnds = Marks([](char c) { return !IsStorable(c); });
+constexpr std::array<bool, 256> PlainEnds = Marks([](char c) { return c == ',' || IsLineEnd(c); });
 
 bool IsIn(const std::array<bool, 256>& marks, char c) {
   return marks[static_cast<unsigned char>(c)];
-}
-
-bool IsLineEnd(char c) {
-  return c == '\r' || c == '\n';
 }
 
 const char* SkipBlanks(const char* at, const char* end) {

@@ -6,6 +6,17 @@
 
 namespace orb::model {
 
+/// Ends a record.
+constexpr bool IsLineEnd(char c) {
+  return c == '\r' || c == '\n';
+}
+
+/// Whether a text that is stored can hold the character: texts stand between double quotes, records
+/// in lines, and neither can be written in any other way.
+constexpr bool IsStorable(char c) {
+  return c != '"' && !IsLineEnd(c);
+}
+
 /// Reads the fields of a record file one after another. Fields are separated by commas and line
 /// ends (CR LF, LF or CR); a field in double quotes may hold commas; blanks round an unquoted field
 /// are dropped. A record with too few fields takes the missing ones from the next line. Every

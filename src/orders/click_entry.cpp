@@ -51,7 +51,7 @@ bool IsBuildMeant(const std::string& text, bool unitThere) {
 
 /// The power whose home centre the place is; empty for other places.
 std::string HomePowerOf(const model::Map& map, std::string_view location) {
-  const int centre = model::FindProvince(map, location.substr(0, 3));
+  const int centre = model::ProvinceOf(map, location);
   if (centre == 0 || map.Provinces[centre].IsSupplyCentre == 0) return {};
   return map.Provinces[centre].HomeCountry;
 }

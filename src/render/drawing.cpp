@@ -1,5 +1,7 @@
 #include "render/drawing.h"
 
+#include "model/place.h"
+
 namespace orb::render {
 
 void SetPens(Surface& surface) {
@@ -29,7 +31,7 @@ void PrintAt(Surface& surface, Point corner, std::string_view text) {
 
 std::string_view LabelText(const model::Province& province) {
   const std::string_view name = province.Name;
-  return name.find('.') == std::string_view::npos ? name : name.substr(name.size() - 1);
+  return model::IsCoast(name) ? name.substr(name.size() - 1) : name;
 }
 
 Point LabelCorner(const Surface& surface, const model::Province& province) {

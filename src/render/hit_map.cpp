@@ -87,10 +87,6 @@ int Nearest(const model::Map& map, Point point, double aspect, Fits fits) {
   return nearest;
 }
 
-bool IsCoast(const model::Province& province) {
-  return province.Name.find('.') != std::string::npos;
-}
-
 }  // namespace
 
 HitMap::HitMap(std::string_view bytes, const std::string& fileName, int provinceCount) {
@@ -141,7 +137,7 @@ int HitMap::CoastWithShipAt(const model::GameState& game, Point point) const {
   const double reach = ShipReach * aspect_;
   for (const model::Unit& unit : game.Units) {
     const int row = model::FindProvince(*game.Map, unit.Location);
-    if (row == 0 || !unit.Status.empty() || !IsCoast(game.Map->Provinces[row])) continue;
+    if (row == 0 || !unit.Status.empty() || !model::IsCoast(unit.Location)) continue;
     const model::Province& coast = game.Map->Provinces[row];
     if (SquareDistance(point, {coast.UnitX, coast.UnitY}, aspect_) <= reach * reach) return row;
   }
@@ -153,7 +149,7 @@ int HitMap::AsSeenBy(const model::Map& map, int hit, Point point, std::string_vi
   const std::string& name = map.Provinces[hit].Name;
   const bool forFleet = unitType == "F";
   const int same = Nearest(map, point, aspect_, [&](const model::Province& province) {
-    return model::SamePlace(province.Name, name) && IsCoast(province) == forFleet;
+    return model::SamePlace(province.Name, name) && model::IsCoast(province.Name) == forFleet;
   });
   return same == 0 ? hit : same;
 }

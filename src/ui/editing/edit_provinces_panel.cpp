@@ -1,5 +1,6 @@
 #include "ui/editing/edit_provinces_panel.h"
 
+#include "model/place.h"
 #include "model/position_edit.h"
 #include "settings/map_options.h"
 #include "text/qt/text_codec.h"
@@ -32,11 +33,6 @@ EditingTexts texts() {
           QStringLiteral("butProvincesRedo"),
           QStringLiteral("butProvincesDone"),
           QStringLiteral("butProvincesHelp")};
-}
-
-/// The map has coasts as rows of their own; they have no owner and are edited with their province.
-bool isCoast(const model::Province& province) {
-  return province.Name.find('.') != std::string::npos;
 }
 
 /// "Par  Paris – France".
@@ -105,7 +101,8 @@ std::vector<EditingPanel::Entry> EditProvincesPanel::entries() const {
   for (const bool centres : {true, false}) {
     for (int row = 1; row <= game().Map->Provinces.Count(); ++row) {
       const model::Province& province = game().Map->Provinces[row];
-      if (isCoast(province) || (province.IsSupplyCentre != 0) != centres) continue;
+      // Coasts have no owner, and are edited with their province.
+      if (model::IsCoast(province.Name) || (province.IsSupplyCentre != 0) != centres) continue;
       const int owner = model::FindCountry(game().Provinces[row].Owner);
       found.push_back(
           {row, provinceLine(game(), row), centres ? powerIcon(game().Countries, owner) : QIcon()});

@@ -1,5 +1,6 @@
 #include "ui/widgets/text_validator.h"
 
+#include "model/record_file.h"
 #include "text/qt/text_codec.h"
 
 #include <algorithm>
@@ -7,9 +8,14 @@
 namespace orb::ui {
 namespace {
 
-/// Double quotes enclose the fields of a game file, which has no way to write one within a field.
+bool isLineEnd(QChar character) {
+  return model::IsLineEnd(character.toLatin1());
+}
+
+/// Line ends are let through: the boxes make blanks of them, or lines of their own.
 bool isStorable(QChar character) {
-  return character != QLatin1Char('"') && text::ToBytes(QStringView(&character, 1)).has_value();
+  const auto byte = text::ToBytes(QStringView(&character, 1));
+  return byte && (model::IsStorable(byte->front()) || isLineEnd(character));
 }
 
 }  // namespace
@@ -32,8 +38,7 @@ QString storageFault(QStringView text) {
 }
 
 QValidator::State TextValidator::validate(QString& text, int& /*position*/) const {
-  std::replace_if(
-      text.begin(), text.end(), [](QChar c) { return c == u'\n' || c == u'\r'; }, QChar(u' '));
+  std::replace_if(text.begin(), text.end(), isLineEnd, QChar(u' '));
   const QString fault = storageFault(text);
   if (fault.isEmpty()) return Acceptable;
   emit refused(fault);
