@@ -1,6 +1,6 @@
 #include "adjudication/adjustments.h"
 
-#include "adjudication/stages.h"
+#include "adjudication/stage_steps.h"
 #include "model/counts.h"
 #include "model/lookups.h"
 #include "model/place.h"
@@ -36,16 +36,10 @@ Fault DisbandFault(const Resolution& resolution, const GameState& game, const Or
   return {OrderResult::NoSuchUnit, "no such unit."};
 }
 
-/// Row of the province that a build's location belongs to; 0 when it is unknown.
-int CentreOf(const model::Map& map, int location) {
-  const std::string& name = model::LocationName(map, location);
-  return name.size() < 4 ? location : model::FindProvince(map, name.substr(0, 3));
-}
-
 Fault BuildFault(const GameState& game, const OrderLine& order) {
   const model::Map& map = *game.Map;
   // A coast has the home and the owner of its province. A unit on any coast is in the way.
-  const int centre = CentreOf(map, order.Location);
+  const int centre = model::ProvinceOf(map, order.Location);
   const std::string_view power = model::PowerName(order.Power);
   if (centre == 0 || power.empty() || map.Provinces[centre].HomeCountry != power ||
       !model::IsCentre(map, centre)) {

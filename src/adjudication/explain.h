@@ -1,5 +1,6 @@
 #pragma once
 
+#include "adjudication/explanation.h"
 #include "adjudication/resolution.h"
 #include "model/game_state.h"
 
@@ -7,13 +8,6 @@
 #include <vector>
 
 namespace orb::adjudication {
-
-/// Why an order came out as it did.
-struct Explanation {
-  std::string Verdict;  ///< what happened: "It moved"
-  std::string Why{};    ///< the strengths compared, who cut, what was missing; may be empty
-  std::string Also{};   ///< what else happened to its unit or its supports; begins with "; "
-};
 
 /// "Verdict: why; also.": the explanation as one sentence.
 std::string Sentence(const Explanation& explanation);

@@ -1,5 +1,3 @@
-#include "adjudication/adjustments.h"
-#include "adjudication/explain.h"
 #include "adjudication/explain_parts.h"
 #include "model/counts.h"
 #include "model/lookups.h"

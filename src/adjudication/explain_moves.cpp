@@ -1,4 +1,3 @@
-#include "adjudication/explain.h"
 #include "adjudication/explain_parts.h"
 #include "model/lookups.h"
 #include "orders/binding.h"
@@ -157,7 +156,7 @@ Account ExplainHold(const Resolution& resolution, int order) {
            {}}};
 }
 
-/// What came of the order itself; what befell its unit besides is added by ExplainMove.
+/// What came of the order itself; what else befell its unit is added by ExplainMove.
 Account ExplainOwnFate(const Resolution& resolution, int order) {
   const OrderLine& line = resolution.Orders[order];
   if (!line.Active) return ExplainRejection(resolution, order);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "adjudication/explain.h"
+#include "adjudication/explanation.h"
 #include "adjudication/resolution.h"
 #include "model/game_state.h"
 

@@ -1,6 +1,7 @@
-#include "adjudication/explain.h"
 #include "adjudication/explain_parts.h"
 #include "model/lookups.h"
+#include "model/place.h"
+#include "orders/parser.h"
 
 #include <algorithm>
 
@@ -54,8 +55,7 @@ std::string Counted(int number, std::string_view thing) {
 }
 
 Explanation NotUnderstood(const Resolution& resolution, const OrderLine& order) {
-  return {"It was not understood",
-          orders::LineFaultText(*resolution.Map, order.Text, resolution.Stage)};
+  return {"It was not understood", orders::FaultText(order, resolution.Stage)};
 }
 
 std::string UnitThere(const Resolution& resolution, int power, int place) {
@@ -88,7 +88,7 @@ Explanation NoSuchUnit(const Resolution& resolution, const OrderLine& order) {
 
 std::string CannotStandText(const Map& map, const OrderLine& order, int location) {
   const std::string& name = model::LocationName(map, location);
-  const std::string place = name.substr(0, 3);
+  const std::string place(model::ProvinceName(name));
   if (order.UnitType == UnitType::Fleet) {
     if (const std::string coasts = CoastsOf(map, location); !coasts.empty()) {
       return "a fleet must name the coast: " + coasts;

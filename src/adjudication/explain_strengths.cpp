@@ -1,4 +1,3 @@
-#include "adjudication/explain.h"
 #include "adjudication/explain_parts.h"
 #include "model/lookups.h"
 

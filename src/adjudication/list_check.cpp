@@ -5,7 +5,7 @@
 #include "adjudication/explain_parts.h"
 #include "adjudication/moves.h"
 #include "adjudication/retreats.h"
-#include "adjudication/stages.h"
+#include "adjudication/stage_steps.h"
 #include "model/counts.h"
 #include "model/lookups.h"
 #include "orders/order_list.h"
@@ -161,13 +161,6 @@ ListCheck CheckList(const GameState& game) {
   if (game.Stage == model::Stage::Adjustments)
     check.Powers = CountProblems(game, resolution.Orders);
   return check;
-}
-
-std::string JoinProblems(const LineProblems& problems) {
-  std::string text;
-  for (const std::string& problem : problems)
-    text.append(text.empty() ? "" : "; ").append(problem);
-  return text;
 }
 
 }  // namespace orb::adjudication

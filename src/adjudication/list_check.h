@@ -18,7 +18,7 @@ struct PowerProblem {
 
 /// What the checks of the stage say of its list as things stand.
 struct ListCheck {
-  std::vector<LineProblems> Lines;     ///< one a line of the list; empty: it would pass
+  std::vector<LineProblems> Lines;     ///< one per line of the list; empty: it would pass
   std::vector<std::string> Unordered;  ///< units that need an order and have none: "ENG A(Lon)"
   std::vector<PowerProblem> Powers;    ///< of the adjustments
 };
@@ -27,8 +27,5 @@ struct ListCheck {
 /// there is no room in the order table have that as their problem. A stage without orders gives an
 /// empty check.
 ListCheck CheckList(const model::GameState& game);
-
-/// The problems as one text.
-std::string JoinProblems(const LineProblems& problems);
 
 }  // namespace orb::adjudication

@@ -1,7 +1,7 @@
 #include "adjudication/moves.h"
 
 #include "adjudication/move_resolution.h"
-#include "adjudication/stages.h"
+#include "adjudication/stage_steps.h"
 #include "adjudication/support_cutting.h"
 #include "model/lookups.h"
 #include "orders/binding.h"

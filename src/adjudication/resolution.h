@@ -62,7 +62,7 @@ struct Resolution {
   int StoppedAt = 0;       ///< the order at whose warning the user stopped; 0: at none
   std::shared_ptr<const model::Map> Map;  ///< what the orders' places are rows of
   orders::OrderTable Orders;
-  model::Table<Reason, orders::OrderBound> Reasons;  ///< beside the orders
+  model::Table<Reason, orders::OrderBound> Reasons;  ///< in the rows of the orders
   model::Table<std::int16_t, model::UnitBound> Force;
   model::Table<model::Unit, model::UnitBound> UnitsBefore;  ///< what orders' unit indices refer to
   orders::Pieces Pieces;                                    ///< the same in rows

@@ -1,6 +1,6 @@
 #include "adjudication/retreats.h"
 
-#include "adjudication/stages.h"
+#include "adjudication/stage_steps.h"
 #include "model/lookups.h"
 #include "model/place.h"
 #include "orders/parser.h"
@@ -104,7 +104,8 @@ void Lose(OrderLine& order, Reason& reason, Ruling ruling, int blocker) {
   reason.Blocker = static_cast<std::int16_t>(blocker);
 }
 
-/// The last report line about the unit; a new one if there is none.
+/// The last report line about the unit; a new one if there is none. Looked for by its text, and
+/// meant so: several lines may begin alike, and the first that is found is the one to write to.
 int ReportLineOf(const Unit& unit, GameState& game) {
   const std::string key = model::UnitText(unit);
   // Lines of the moves begin with two blanks or "[ ".

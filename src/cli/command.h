@@ -18,7 +18,7 @@ struct Command {
   std::string_view Name;
   std::string_view Summary;
   Games Takes = Games::Several;
-  std::span<const OptionId> Options;  ///< those it knows besides the ones common to all
+  std::span<const OptionId> Options;  ///< those it knows in addition to those common to all
 
   /// Carries it out and returns the exit status. Throws UsageError when the command line is wrong;
   /// nothing has been done then.

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "model/game_state.h"
+#include "orders/order_outcome.h"
 #include "render/map_format.h"
-#include "render/map_view.h"
 #include "settings/map_options.h"
 
 #include <filesystem>

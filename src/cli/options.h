@@ -81,10 +81,4 @@ class CommandLine {
   std::array<std::optional<std::string>, OptionCount> values_;
 };
 
-/// Reads the arguments (without the program's name). Values follow their option or stand behind
-/// "="; "--" ends the options. Throws UsageError for anything that no command knows, and for
-/// missing or surplus arguments unless help is asked for.
-CommandLine ParseCommandLine(std::span<const std::string> arguments,
-                             std::span<const Command* const> commands);
-
 }  // namespace orb::cli

@@ -1,6 +1,7 @@
 #include "cli/run.h"
 
 #include "cli/command.h"
+#include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/help.h"
 #include "model/messages.h"

@@ -28,7 +28,7 @@ constexpr Matrix NoGreenMatrix = {{{0.367322, 0.860646, -0.227968},
 constexpr Matrix NoBlueMatrix = {{{1.255528, -0.076749, -0.178779},
                                   {-0.078411, 0.930809, 0.147602},
                                   {0.004733, 0.691367, 0.303900}}};
-/// From linear sRGB to CIE XYZ, white point D65; its middle row gives the luminance.
+/// From linear sRGB to CIE XYZ, white point D65.
 constexpr Matrix RgbToXyz = {{{0.4124564, 0.3575761, 0.1804375},
                               {0.2126729, 0.7151522, 0.0721750},
                               {0.0193339, 0.1191920, 0.9503041}}};
@@ -51,10 +51,6 @@ Vector Linear(model::Colour colour) {
     rgb[i] = part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
   }
   return rgb;
-}
-
-double Luminance(model::Colour colour) {
-  return Product(RgbToXyz, Linear(colour))[1];
 }
 
 /// The cube root of CIE Lab, continued by a straight line near black.
@@ -139,12 +135,6 @@ double Difference(const Lab& a, const Lab& b) {
   const double sh = stepH / (1 + 0.015 * c * t);
   const double rotation = -2 * ChromaWeight(c) * std::sin(Radians(2 * turn));
   return std::sqrt(sl * sl + sc * sc + sh * sh + rotation * sc * sh);
-}
-
-double Contrast(model::Colour a, model::Colour b) {
-  const double one = Luminance(a) + 0.05;
-  const double other = Luminance(b) + 0.05;
-  return std::max(one, other) / std::min(one, other);
 }
 
 std::vector<AlikePowers> PowersAlike(const model::CountryTable& countries) {

@@ -21,9 +21,6 @@ Lab Seen(model::Colour colour, Vision vision);
 /// The colour difference CIEDE2000; about 1 is just noticeable side by side.
 double Difference(const Lab& a, const Lab& b);
 
-/// The contrast ratio of two colours as defined by WCAG for web pages, 1..21; text needs 4.5.
-double Contrast(model::Colour a, model::Colour b);
-
 /// Two powers, rows 1..7, whose fill colours look alike.
 struct AlikePowers {
   int First = 0;

@@ -13,8 +13,8 @@ namespace orb::model {
 /// conna.dat and connf.dat, in this order. Throws FileError or IndexOutOfRange.
 std::shared_ptr<const Map> LoadMap(const std::filesystem::path& directory);
 
-/// fixnames.dat: two text fields a line, the old and the new abbreviation. A pair counts only when
-/// both are three characters long; reading stops at the 20th.
+/// fixnames.dat: two text fields per line, the old and the new abbreviation. A pair counts only
+/// when both are three characters long; reading stops at the 20th.
 void LoadNameFixes(std::string_view bytes, const std::string& fileName, Map& map);
 
 /// prov.dat: one location a line: abbreviation, home power or empty, supply centre flag, label x

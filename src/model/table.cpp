@@ -1,5 +1,7 @@
 #include "model/table.h"
 
+#include "model/errors.h"
+
 namespace orb::model {
 
 void ThrowIndexOutOfRange(int index, int bound) {

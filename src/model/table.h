@@ -1,7 +1,5 @@
 #pragma once
 
-#include "model/errors.h"
-
 #include <algorithm>
 #include <array>
 #include <cstddef>

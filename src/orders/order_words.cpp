@@ -241,10 +241,4 @@ std::string FaultText(const OrderWords& order, SyntaxFault fault) {
   return {};
 }
 
-std::string LineFaultText(const model::Map& map, std::string_view line, model::Stage stage) {
-  std::string work;
-  const OrderWords order = CutOrder(text::Trim(line), stage, work);
-  return FaultText(order, ReadParts(map, order, stage).Fault);
-}
-
 }  // namespace orb::orders

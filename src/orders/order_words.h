@@ -85,7 +85,4 @@ OrderParts ReadParts(const model::Map& map, const OrderWords& order, model::Stag
 /// The fault as words for the user, with the text that was not understood.
 std::string FaultText(const OrderWords& order, SyntaxFault fault);
 
-/// The first fault of a line, as words for the user; empty for a correct one.
-std::string LineFaultText(const model::Map& map, std::string_view line, model::Stage stage);
-
 }  // namespace orb::orders

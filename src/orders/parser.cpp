@@ -42,6 +42,11 @@ OrderLine ParseLine(const model::Map& map, model::Stage stage, std::string_view 
   return order;
 }
 
+std::string FaultText(const OrderLine& order, model::Stage stage) {
+  std::string work;
+  return FaultText(CutOrder(order.Text, stage, work), order.Fault);
+}
+
 bool CheckOrderSyntax(OrderTable& orders, Questions& questions) {
   for (int k = 1; k <= orders.Count(); ++k) {
     OrderLine& order = orders[k];

@@ -21,6 +21,10 @@ void ParseOrders(const model::Map& map, model::Stage stage, OrderTable& orders);
 /// The same for a single line.
 OrderLine ParseLine(const model::Map& map, model::Stage stage, std::string_view line);
 
+/// The rule of the text form that a read order breaks, as words for the user that quote the
+/// writer's own; empty for none.
+std::string FaultText(const OrderLine& order, model::Stage stage);
+
 /// Rejects every order that breaks the text form and warns about it; false when the user does not
 /// want to continue.
 bool CheckOrderSyntax(OrderTable& orders, Questions& questions);

@@ -2,6 +2,7 @@
 
 #include "model/lookups.h"
 #include "render/drawing.h"
+#include "render/map_view.h"
 #include "render/paths.h"
 #include "render/symbols.h"
 #include "settings/map_options.h"
@@ -179,12 +180,6 @@ void DrawMoving(const history::Replay& replay, const settings::MapOptions& optio
     }
   }
   DrawAboveUnits(replay.Start, options, surface);
-}
-
-void DrawFrame(const history::Replay& replay, const settings::MapOptions& options,
-               const std::filesystem::path& dataDirectory, double progress, Surface& surface) {
-  DrawStill(replay, options, dataDirectory, surface);
-  DrawMoving(replay, options, progress, surface);
 }
 
 }  // namespace orb::render

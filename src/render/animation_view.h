@@ -1,7 +1,6 @@
 #pragma once
 
 #include "history/replay.h"
-#include "render/map_view.h"
 #include "render/surface.h"
 #include "settings/map_options.h"
 
@@ -24,9 +23,5 @@ void DrawStill(const history::Replay& replay, const settings::MapOptions& option
 /// Draws the units, and what lies over them, at a progress of 0..1 on top of the still.
 void DrawMoving(const history::Replay& replay, const settings::MapOptions& options, double progress,
                 Surface& surface);
-
-/// Draws a whole frame: the still and what moves on it.
-void DrawFrame(const history::Replay& replay, const settings::MapOptions& options,
-               const std::filesystem::path& dataDirectory, double progress, Surface& surface);
 
 }  // namespace orb::render

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "model/game_state.h"
-#include "render/map_view.h"
 #include "render/order_routes.h"
 #include "render/surface.h"
 #include "settings/map_options.h"

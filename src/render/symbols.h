@@ -1,7 +1,6 @@
 #pragma once
 
 #include "model/game_state.h"
-#include "render/map_view.h"
 #include "render/surface.h"
 #include "settings/map_options.h"
 
@@ -15,7 +14,7 @@ namespace orb::render {
 /// The scale of a unit that is dislodged; the others' is 1.
 constexpr double DislodgedScale = 0.75;
 
-/// What a unit's looks depend on besides its power.
+/// What a unit's looks depend on apart from its power.
 struct SymbolStyle {
   const model::CountryTable& Countries;
   settings::MapMode Mode;

@@ -41,8 +41,7 @@ void AddOutcomes(const adjudication::Resolution& resolution, Situation& situatio
 }  // namespace
 
 bool Resolve(Situation& situation, model::Messages& messages, Noting noting) {
-  const adjudication::Resolution resolution =
-      adjudication::ResolveStageInPlace(situation.Game, messages);
+  const adjudication::Resolution resolution = adjudication::ResolveStage(situation.Game, messages);
   situation.Stopped.reset();
   if (const int k = resolution.StoppedAt; k != 0) {
     situation.Stopped = StoppedLine{k - 1, resolution.Orders[k].Result};

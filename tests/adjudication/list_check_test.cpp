@@ -14,8 +14,14 @@ namespace orb::tests {
 namespace {
 
 using adjudication::CheckList;
-using adjudication::JoinProblems;
 using adjudication::ListCheck;
+
+std::string JoinProblems(const adjudication::LineProblems& problems) {
+  std::string text;
+  for (const std::string& problem : problems)
+    text.append(text.empty() ? "" : "; ").append(problem);
+  return text;
+}
 
 /// What the check says, in its order: "ENG A(Lon): unordered".
 std::vector<std::string> Problems(const model::GameState& game) {

@@ -6,16 +6,28 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 namespace orb::tests {
 namespace {
 
-using colour::Contrast;
 using colour::Difference;
 using colour::Lab;
 using colour::Seen;
 using colour::Vision;
+
+/// The contrast ratio of two colours as defined by WCAG for web pages, 1..21; text needs 4.5.
+double Contrast(model::Colour a, model::Colour b) {
+  const auto luminance = [](model::Colour colour) {
+    // The lightness of CIE Lab, back on its linear scale.
+    const double l = Seen(colour, Vision::Normal).L;
+    return l > 8 ? std::pow((l + 16) / 116, 3) : l * 27 / 24389;
+  };
+  const double one = luminance(a) + 0.05;
+  const double other = luminance(b) + 0.05;
+  return std::max(one, other) / std::min(one, other);
+}
 
 // Some of the published pairs that check an implementation of CIEDE2000, and one that lies about
 // the green end of the axis, where one part is 0.

@@ -48,8 +48,8 @@ TEST(Syntax, OnlyTheTextFormIsCorrect) {
   for (const auto& [line, verdict] : LoadDrawnRows("orders/lines.txt", "faults")) {
     SCOPED_TRACE(line);
     const bool correct = verdict == "correct";
-    EXPECT_EQ(orders::LineFaultText(*RealMap(), line, model::Stage::Moves), correct ? "" : verdict);
     OrderTable table = Parse({line});
+    EXPECT_EQ(orders::FaultText(table[1], model::Stage::Moves), correct ? "" : verdict);
     ScriptedMessages messages;
     orders::Questions questions(messages);
     EXPECT_TRUE(orders::CheckOrderSyntax(table, questions));

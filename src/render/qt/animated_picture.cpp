@@ -5,6 +5,7 @@
 #include "render/drawing.h"
 #include "render/qt/gif_writer.h"
 #include "render/qt/map_file.h"
+#include "render/qt/palette.h"
 #include "render/qt/replay_picture.h"
 #include "settings/map_options.h"
 

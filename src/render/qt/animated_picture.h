@@ -1,8 +1,6 @@
 #pragma once
 
 #include "history/replay.h"
-#include "render/map_view.h"
-#include "render/qt/palette.h"
 #include "render/qt/picture_cache.h"
 #include "settings/map_options.h"
 

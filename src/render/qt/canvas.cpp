@@ -25,7 +25,7 @@ Canvas PlanCanvas(const std::filesystem::path& background, int pixelWidth, Pictu
 QImage NewImage(const Canvas& canvas) {
   QImage image(canvas.Pixels, QImage::Format_RGB32);
   if (image.isNull()) throw model::FileError("There is not enough memory for a map of that size.");
-  // Picture files count pixels a metre; programs that print them go by this.
+  // Picture files count pixels per metre; programs that print them go by this.
   image.setDotsPerMeterX(qRound(canvas.PixelsPerInch / 0.0254));
   image.setDotsPerMeterY(image.dotsPerMeterX());
   return image;

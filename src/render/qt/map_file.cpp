@@ -2,6 +2,7 @@
 
 #include "model/errors.h"
 #include "model/files.h"
+#include "render/map_view.h"
 #include "render/qt/canvas.h"
 #include "render/qt/painter_surface.h"
 #include "settings/map_options.h"

@@ -75,7 +75,8 @@ const QImage& PictureCache::Scaled(const std::filesystem::path& file, QSize size
 }
 
 double Resolution(const QImage& picture) {
-  // Bitmaps store pixels a metre, seldom whole pixels an inch; a broken one may store next to none.
+  // Bitmaps store pixels per metre, seldom whole pixels per inch; a broken one may store next to
+  // none.
   return std::max(1.0, std::round(picture.dotsPerMeterX() * MetresPerInch));
 }
 

@@ -1,5 +1,6 @@
 #include "render/qt/replay_picture.h"
 
+#include "render/map_view.h"
 #include "render/qt/painter_surface.h"
 #include "settings/map_options.h"
 

@@ -3,7 +3,6 @@
 #include "text/qt/text_codec.h"
 #include "ui/help/help_page.h"
 #include "ui/help/help_print.h"
-#include "ui/widgets/controls.h"
 
 #include <QEvent>
 #include <QMenu>

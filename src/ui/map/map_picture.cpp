@@ -1,6 +1,7 @@
 #include "ui/map/map_picture.h"
 
 #include "model/errors.h"
+#include "render/map_view.h"
 #include "render/qt/map_file.h"
 #include "render/qt/painter_surface.h"
 #include "ui/map/picture_painting.h"

@@ -2,6 +2,7 @@
 
 #include "model/errors.h"
 #include "model/files.h"
+#include "render/map_view.h"
 #include "render/qt/map_file.h"
 #include "report/text_report.h"
 #include "text/qt/text_codec.h"
