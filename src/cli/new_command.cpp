@@ -1,18 +1,20 @@
 #include "cli/command.h"
 #include "cli/games.h"
 #include "model/map_files.h"
+#include "model/record_file.h"
 #include "session/commands.h"
 #include "text/encoding.h"
+
+#include <algorithm>
 
 namespace orb::cli {
 namespace {
 
 constexpr std::array Options{OptionId::Blank, OptionId::Title, OptionId::Output};
 
-/// The 8-bit form of a title. Game files put texts between double quotes, one record a line, and
-/// have no way to escape either.
+/// The 8-bit form of a title.
 std::string TitleBytes(const std::string& title) {
-  if (title.find_first_of("\"\r\n") != std::string::npos) {
+  if (!std::ranges::all_of(title, model::IsStorable)) {
     throw UsageError("new: A title with a double quote or a line end cannot be stored.");
   }
   auto bytes = text::ToWindows1252(title);
@@ -34,7 +36,7 @@ int Execute(const CommandLine& line, Console& console) {
     session::Situation situation{model::EmptyGame(model::LoadMap(data))};
     line.Has(OptionId::Blank) ? session::BlankGame(situation, data)
                               : session::NewGame(situation, data);
-    if (title) situation.Game.Title = *title;
+    if (title) session::SetTitle(situation, *title);
     session::SaveGameAs(situation, file);
     return true;
   });

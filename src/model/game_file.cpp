@@ -278,6 +278,10 @@ std::optional<std::string> ParseGameFile(std::string_view bytes, const std::stri
   return std::nullopt;
 }
 
+std::string UnknownProvinceText(std::string_view location) {
+  return std::string("Unknown province: ").append(location);
+}
+
 std::string FormatGameFile(const GameState& game) {
   constexpr std::size_t usualSize = 4096;
   RecordWriter writer(usualSize);
@@ -314,7 +318,7 @@ void WriteGameFile(const GameState& game) {
 
 bool ReadGameFile(GameState& game, const std::filesystem::path& file, Messages& messages) {
   if (const auto unknown = ParseGameFile(ReadFile(file), file.string(), game)) {
-    messages.Show("Unknown province: " + *unknown, Icon::Exclamation);
+    messages.Show(UnknownProvinceText(*unknown), Icon::Exclamation);
     return false;
   }
   game.FileName = file.string();

@@ -25,6 +25,9 @@ std::string FormatGameFile(const GameState& game);
 std::optional<std::string> ParseGameFile(std::string_view bytes, const std::string& fileName,
                                          GameState& game);
 
+/// "Unknown province: Xyz": what the user is told about a location that ParseGameFile returns.
+std::string UnknownProvinceText(std::string_view location);
+
 /// Writes the situation to `game.FileName`, whole or not at all.
 void WriteGameFile(const GameState& game);
 

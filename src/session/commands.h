@@ -34,7 +34,8 @@ bool ReadGame(Situation& situation, const std::filesystem::path& file, model::Me
 void OpenGame(Situation& situation, const std::filesystem::path& file, bool readOnly,
               const std::filesystem::path& dataDirectory, model::Messages& messages);
 
-/// Writes the game to the file that it came from or was saved to last.
+/// Writes the game to the file that it came from or was saved to last. Refused for a file that was
+/// opened for reading only.
 void SaveGame(const Situation& situation);
 
 /// Writes the game to a file, which is the game's own from then on.
@@ -86,6 +87,9 @@ void NextSeason(Situation& situation);
 /// Puts the season back to its start; false when its start is not known or a question was answered
 /// No.
 bool UndoSeason(Situation& situation, model::Messages& messages);
+
+/// Gives the game a title, also an empty one.
+void SetTitle(Situation& situation, std::string title);
 
 /// Changes names, place in time and texts of the game. Ends any other editing.
 void EditSeason(Situation& situation, const model::SeasonFacts& facts);

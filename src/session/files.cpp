@@ -1,6 +1,9 @@
+#include "model/errors.h"
 #include "model/game_file.h"
 #include "model/new_game.h"
 #include "session/commands.h"
+#include "session/queries.h"
+#include "text/encoding.h"
 
 namespace orb::session {
 
@@ -27,6 +30,10 @@ void OpenGame(Situation& situation, const std::filesystem::path& file, bool read
 }
 
 void SaveGame(const Situation& situation) {
+  if (!CanSave(situation)) {
+    throw model::FatalError(text::NameInText(situation.Game.FileName) +
+                            " was opened for reading only: save the game under another name.");
+  }
   model::WriteGameFile(situation.Game);
 }
 

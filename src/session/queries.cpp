@@ -10,8 +10,26 @@ bool TakesOrders(const model::GameState& game) {
   return HasOrders(game.Stage);
 }
 
-bool HasOrders(const model::GameState& game) {
+bool HasOrderLines(const model::GameState& game) {
   return !orders::StageList(game).empty();
+}
+
+bool CanSave(const Situation& situation) {
+  return !situation.ReadOnly || situation.Game.FileName.empty();
+}
+
+bool CanUndoSeason(const Situation& situation) {
+  return situation.Game.Stage != model::Stage::Moves;
+}
+
+bool IsFinished(const Situation& situation) {
+  return situation.Game.Stage == model::Stage::Finished;
+}
+
+void ExpectFinished(const Situation& situation) {
+  if (IsFinished(situation)) return;
+  throw model::FatalError("The season is not finished: the game is in the stage \"" +
+                          std::string(StageText(situation.Game)) + "\".");
 }
 
 adjudication::ListCheck CheckOrders(const Situation& situation) {
@@ -24,7 +42,7 @@ adjudication::ListCheck CheckOrders(const Situation& situation) {
 }
 
 void ExpectOrdersToDraw(const Situation& situation) {
-  if (situation.Game.Stage == model::Stage::Finished) {
+  if (IsFinished(situation)) {
     throw model::FatalError("There are no orders to draw in the stage \"finished\".");
   }
 }

@@ -13,7 +13,19 @@ namespace orb::session {
 bool TakesOrders(const model::GameState& game);
 
 /// Whether there is any line in the stage's list.
-bool HasOrders(const model::GameState& game);
+bool HasOrderLines(const model::GameState& game);
+
+/// Whether the game may be written to its own file: one that was opened for reading only may not.
+bool CanSave(const Situation& situation);
+
+/// Whether anything of the season has been carried out that could be taken back.
+bool CanUndoSeason(const Situation& situation);
+
+/// Whether the season is finished: it is complete, so that it can be replayed and the next begin.
+bool IsFinished(const Situation& situation);
+
+/// Throws FatalError while the season is not finished.
+void ExpectFinished(const Situation& situation);
 
 /// Every problem of the stage's list: the marks of its lines, units without orders, powers whose
 /// numbers do not fit. Throws FatalError in a stage without orders.

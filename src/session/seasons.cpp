@@ -2,24 +2,28 @@
 
 #include "model/errors.h"
 #include "session/commands.h"
+#include "session/queries.h"
+
+#include <utility>
 
 namespace orb::session {
 
 void NextSeason(Situation& situation) {
-  if (situation.Game.Stage != model::Stage::Finished) {
-    throw model::FatalError("The season is not finished: the game is in the stage \"" +
-                            std::string(StageText(situation.Game)) + "\".");
-  }
+  ExpectFinished(situation);
   model::NextSeason(situation.Game);
 }
 
 bool UndoSeason(Situation& situation, model::Messages& messages) {
-  if (situation.Game.Stage == model::Stage::Moves) {
+  if (!CanUndoSeason(situation)) {
     throw model::FatalError("There is nothing to take back: the season is at its start.");
   }
   if (!model::UndoSeason(situation.Game, messages)) return false;
   situation.Editing = Editing::None;
   return true;
+}
+
+void SetTitle(Situation& situation, std::string title) {
+  situation.Game.Title = std::move(title);
 }
 
 void EditSeason(Situation& situation, const model::SeasonFacts& facts) {

@@ -124,7 +124,7 @@ TEST_F(Session, AGameIsPlayed) {
   EXPECT_THAT(Now().Notes, IsEmpty());
   EXPECT_THAT(Now().Outcomes, IsEmpty());
   Open(file);
-  EXPECT_TRUE(Now().ReadOnly);
+  EXPECT_THROW(session_.Run(session::SaveGame), model::FatalError) << "only read";
   EXPECT_THAT(DrawUnits(Game()), HasSubstr("FRA A(Par)\n"));
 
   session_.Run(session::NextSeason);

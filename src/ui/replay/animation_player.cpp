@@ -1,9 +1,9 @@
 #include "ui/replay/animation_player.h"
 
+#include "history/game_series.h"
 #include "text/qt/text_codec.h"
 #include "ui/output/file_dialogs.h"
 #include "ui/replay/animation_export.h"
-#include "ui/replay/animation_files.h"
 #include "ui/session/attempt.h"
 
 #include <algorithm>
@@ -65,8 +65,10 @@ void AnimationPlayer::connectBar() {
 }
 
 void AnimationPlayer::playSeason() {
-  attempt(m_messages,
-          [this] { play({history::SeasonPart(m_desk.game(), m_desk.now().Outcomes)}); });
+  attempt(m_messages, [this] {
+    session::ExpectFinished(m_desk.now());
+    play({history::SeasonPart(m_desk.game(), m_desk.now().Outcomes)});
+  });
 }
 
 void AnimationPlayer::askAndPlayFiles() {
@@ -76,13 +78,13 @@ void AnimationPlayer::askAndPlayFiles() {
 
 void AnimationPlayer::playFiles(const std::vector<std::filesystem::path>& files) {
   attempt(m_messages, [&] {
-    const AnimationFiles read = readAnimationFiles(files, m_desk.game());
-    std::vector<history::ReplayPart> parts = history::ReplaySequence(read.games);
+    const history::GameSeries read = history::ReadGameSeries(files, m_desk.game());
+    std::vector<history::ReplayPart> parts = history::ReplaySequence(read.Games);
     if (parts.empty()) {
-      return m_messages.Show(read.leftOut + NothingToAnimate, model::Icon::Exclamation);
+      return m_messages.Show(read.LeftOut + NothingToAnimate, model::Icon::Exclamation);
     }
-    if (!read.leftOut.empty()) {
-      m_messages.Show("Left out of the animation:\r" + read.leftOut, model::Icon::Exclamation);
+    if (!read.LeftOut.empty()) {
+      m_messages.Show("Left out of the animation:\r" + read.LeftOut, model::Icon::Exclamation);
     }
     play(std::move(parts));
   });

@@ -33,7 +33,7 @@ EditMenu::EditMenu(Desk& desk, ExportCommands& commands, ExchangeCommands& excha
 
 void EditMenu::showState() {
   // The map and the report can be copied at any time.
-  m_copyOrders->setEnabled(session::HasOrders(m_desk.game()));
+  m_copyOrders->setEnabled(session::HasOrderLines(m_desk.game()));
   m_pasteOrders->setEnabled(session::TakesOrders(m_desk.game()));
 }
 

@@ -77,12 +77,10 @@ void FileMenu::saveAs() {
 }
 
 void FileMenu::showState() {
-  // A game that was opened for reading only can be saved under another name.
-  m_save->setEnabled(!m_desk.now().ReadOnly || m_desk.game().FileName.empty());
+  m_save->setEnabled(session::CanSave(m_desk.now()));
   m_importOrders->setEnabled(session::TakesOrders(m_desk.game()));
-  m_exportOrders->setEnabled(session::HasOrders(m_desk.game()));
-  // Before that the season's moves are not complete.
-  m_animateMove->setEnabled(m_desk.game().Stage == model::Stage::Finished);
+  m_exportOrders->setEnabled(session::HasOrderLines(m_desk.game()));
+  m_animateMove->setEnabled(session::IsFinished(m_desk.now()));
 }
 
 }  // namespace orb::ui

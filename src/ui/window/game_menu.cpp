@@ -74,8 +74,7 @@ void GameMenu::showState() {
     entry->setVisible(edited != Editing::None);
   m_undoEdit->setEnabled(m_desk.now().Edits.CanUndo());
   m_redoEdit->setEnabled(m_desk.now().Edits.CanRedo());
-  // In the moves stage nothing of the season has been carried out.
-  m_undo->setEnabled(now != model::Stage::Moves);
+  m_undo->setEnabled(session::CanUndoSeason(m_desk.now()));
   // While something is edited the keys take back a step of the editing.
   m_undo->setShortcut(edited == Editing::None ? QKeySequence::Undo : QKeySequence());
 }

@@ -1,4 +1,4 @@
-#include "ui/replay/animation_files.h"
+#include "history/game_series.h"
 
 #include "history/replay.h"
 #include "history/sequence_names.h"
@@ -9,34 +9,34 @@
 
 #include <utility>
 
-namespace orb::ui {
+namespace orb::history {
 namespace {
 
 namespace fs = std::filesystem;
 using model::GameState;
 
 /// Throws FatalError for a file that cannot be played, too.
-GameState readGame(const fs::path& file, const GameState& current) {
+GameState ReadGame(const fs::path& file, const GameState& current) {
   GameState game = model::EmptyGame(current.Map);
   game.Countries = current.Countries;
   const std::string name = file.string();
   if (const auto unknown = model::ParseGameFile(model::ReadFile(file), name, game)) {
-    throw model::FileError(name + ": Unknown province: " + *unknown);
+    throw model::FileError(name + ": " + model::UnknownProvinceText(*unknown));
   }
   game.FileName = name;
   // Finds out now what would otherwise stop the animation when it reaches the season.
-  static_cast<void>(history::SeasonReplay(game));
+  static_cast<void>(SeasonReplay(game));
   return game;
 }
 
-void checkOrder(const std::vector<GameState>& games, const GameState& next) {
-  if (games.empty() || history::SeasonsBetween(games.back(), next) >= 0) return;
+void CheckOrder(const std::vector<GameState>& games, const GameState& next) {
+  if (games.empty() || SeasonsBetween(games.back(), next) >= 0) return;
   throw model::FileError(next.FileName + ": It holds " + next.Season + " " +
                          std::to_string(next.Year) + ", which is before " +
                          fs::path(games.back().FileName).filename().string() + ".");
 }
 
-std::string namesOf(const std::vector<fs::path>& files) {
+std::string NamesOf(const std::vector<fs::path>& files) {
   std::string names;
   for (const fs::path& file : files)
     names += (names.empty() ? "" : ", ") + file.filename().string();
@@ -45,23 +45,23 @@ std::string namesOf(const std::vector<fs::path>& files) {
 
 }  // namespace
 
-AnimationFiles readAnimationFiles(const std::vector<fs::path>& files, const GameState& current) {
-  const history::FileSequence sequence = history::SortBySeason(files);
-  AnimationFiles result;
+GameSeries ReadGameSeries(const std::vector<fs::path>& files, const GameState& current) {
+  const FileSequence sequence = SortBySeason(files);
+  GameSeries series;
   if (!sequence.Unfit.empty()) {
-    result.leftOut = "No season (S01, A01) in the name of: " + namesOf(sequence.Unfit) + ".\r";
+    series.LeftOut = "No season (S01, A01) in the name of: " + NamesOf(sequence.Unfit) + ".\r";
   }
   for (const fs::path& file : sequence.Files) {
     try {
-      GameState game = readGame(file, current);
-      checkOrder(result.games, game);
-      result.games.push_back(std::move(game));
+      GameState game = ReadGame(file, current);
+      CheckOrder(series.Games, game);
+      series.Games.push_back(std::move(game));
     } catch (const model::FatalError& fault) {
       // The other files are played all the same, and one message names all that do not fit.
-      result.leftOut += std::string(fault.what()) + "\r";
+      series.LeftOut += std::string(fault.what()) + "\r";
     }
   }
-  return result;
+  return series;
 }
 
-}  // namespace orb::ui
+}  // namespace orb::history

@@ -6,18 +6,18 @@
 #include <string>
 #include <vector>
 
-namespace orb::ui {
+namespace orb::history {
 
 /// The games of some files in the order of their seasons.
-struct AnimationFiles {
-  std::vector<model::GameState> games;
-  std::string leftOut;  ///< which files do not fit and why, for the user; empty: none
+struct GameSeries {
+  std::vector<model::GameState> Games;
+  std::string LeftOut;  ///< which files do not fit and why, for the user; empty: none
 };
 
 /// Reads game files on the map, and in the colours, of the current game, which stays as it is. A
 /// file does not fit when its name gives no season, when it cannot be read, and when it holds an
 /// earlier season than the one before it.
-AnimationFiles readAnimationFiles(const std::vector<std::filesystem::path>& files,
-                                  const model::GameState& current);
+GameSeries ReadGameSeries(const std::vector<std::filesystem::path>& files,
+                          const model::GameState& current);
 
-}  // namespace orb::ui
+}  // namespace orb::history
