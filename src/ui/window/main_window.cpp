@@ -74,7 +74,8 @@ MainWindow::MainWindow(Start start, const Places& places)
   createStatusBar();
   layOutPanels();
   createMenus();
-  createToolbar();
+  m_tools = new Toolbar(*m_fileMenu, *m_editMenu, *m_mapMenu, this);
+  addToolBar(m_tools);
   restoreSize();
   m_desk.setShowOrders(m_memory.flag(ShowOrders));
   // Measured and, below, drawn directly this once: when the map cannot be drawn at the start, the
@@ -185,37 +186,6 @@ void MainWindow::createMenus() {
   m_helpMenu = new HelpMenu(m_desk, m_messages, this);
   menuBar()->addMenu(m_helpMenu);
   connect(m_exchange, &ExchangeCommands::helpWanted, m_helpMenu, &HelpMenu::showTopicOver);
-}
-
-void MainWindow::createToolbar() {
-  auto* tools = new Toolbar(this);
-  tools->addButton(QStringLiteral("butFileOpen"), QStringLiteral("open"), tr("Open a game"),
-                   m_fileMenu->openEntry());
-  tools->addButton(QStringLiteral("butFileSave"), QStringLiteral("save"), tr("Save the game"),
-                   m_fileMenu->saveEntry());
-  tools->addSeparator();
-  tools->addButton(QStringLiteral("butFileImportOrders"), QStringLiteral("import-orders"),
-                   tr("Import orders from a text file"), m_fileMenu->importOrdersEntry());
-  tools->addButton(QStringLiteral("butEditPasteOrders"), QStringLiteral("paste-orders"),
-                   tr("Paste the orders of one power"), m_editMenu->pasteOrdersEntry());
-  tools->addSeparator();
-  tools->addButton(QStringLiteral("butEditCopyMap"), QStringLiteral("copy-map"), tr("Copy the map"),
-                   m_editMenu->copyMapEntry());
-  tools->addButton(QStringLiteral("butFileExportText"), QStringLiteral("export-text"),
-                   tr("Export the text report"), m_fileMenu->exportTextEntry());
-  tools->addButton(QStringLiteral("butFilePrint"), QStringLiteral("print"),
-                   tr("Print the map and the report"), m_fileMenu->printEntry());
-  tools->addSeparator();
-  tools->addButton(QStringLiteral("butMapZoomIn"), QStringLiteral("zoom-in"), tr("Enlarge the map"),
-                   m_mapMenu->zoomIn());
-  tools->addButton(QStringLiteral("butMapZoomOut"), QStringLiteral("zoom-out"),
-                   tr("Show the map smaller"), m_mapMenu->zoomOut());
-  tools->addButton(QStringLiteral("butMapZoomFit"), QStringLiteral("zoom-fit"),
-                   tr("Fit the map to the window"), m_mapMenu->zoomToFit());
-  tools->addButton(QStringLiteral("butMapShowOrders"), QStringLiteral("show-orders"),
-                   tr("Show the orders on the map"), m_mapMenu->showOrders());
-  addToolBar(tools);
-  m_tools = tools;
 }
 
 void MainWindow::createStatusBar() {

@@ -59,7 +59,6 @@ class MainWindow : public QMainWindow {
   void createPanels();
   void layOutPanels();
   void createMenus();
-  void createToolbar();
   void createStatusBar();
   // The size and place of the last start, or the preferred size on the first one.
   void restoreSize();
