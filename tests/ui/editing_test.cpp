@@ -119,6 +119,13 @@ TEST_F(EditingTest, UnitsAreEditedOnTheMapAndEveryStepIsTakenBack) {
   EXPECT_EQ(Selected("lstUnits"), "FRA F(Bul.s)  Bulgaria (south coast)");
   Press(Qt::Key_Delete);
   EXPECT_THAT(Lines("lstUnits"), Not(Contains(StartsWith("FRA F(Bul"))));
+  EXPECT_EQ(Selected("lstUnits"), "GER A(Ber)  Berlin") << "the next one";
+  auto& list = Find<QListWidget>("lstUnits");
+  list.setCurrentRow(list.count() - 1);
+  Press(Qt::Key_Delete);
+  EXPECT_EQ(list.count(), static_cast<int>(units.size()));
+  EXPECT_EQ(Selected("lstUnits"), Lines("lstUnits").back()) << "there is no next one";
+  Press(Qt::Key_Z, Qt::ControlModifier);
 
   Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_THAT(Lines("lstUnits"), Contains(StartsWith("FRA F(Bul.s)")));
