@@ -41,7 +41,7 @@ class Shell {
   TemporaryDirectory directory_;
 };
 
-/// A game file with these units ("FRA A(Bur)", dislodged "FRA A(Bur) <Mun"), one a line, and
+/// A game file with these units ("FRA A(Bur)", dislodged "FRA A(Bur) <Mun"), one per line, and
 /// owned centres: "FRA Par Mar".
 std::string GameFile(std::string_view season, std::string_view stage, std::string_view units,
                      std::string_view owners = "");

@@ -36,7 +36,7 @@ model::ProvinceState& Live(model::GameState& game, std::string_view place);
 /// Gives places to a power: "FRA Par Mar".
 void Own(model::GameState& game, std::string_view powerAndPlaces);
 
-/// The units as they are drawn, one a line, in the order of the table.
+/// The units as they are drawn, one per line, in the order of the table.
 std::string DrawUnits(const model::GameState& game);
 
 /// All that a situation holds, as text: two situations are equal when their texts are.

@@ -22,7 +22,8 @@ struct DrawnCase {
   /// The note's value, or the given one when there is none.
   std::string Note(const std::string& key, const std::string& otherwise = {}) const;
 
-  /// The note's values, one a line of the file; "|" stands for a carriage return, "none" for none.
+  /// The note's values, one per line of the file; "|" stands for a carriage return, "none" for
+  /// none.
   std::vector<std::string> Texts(const std::string& key) const;
 
   /// The answers of the note "answers": Yes, No, All.

@@ -9,7 +9,7 @@
 
 namespace mapmaker {
 
-/// Writes one pair of touching locations a line: two abbreviations and the length of the contact.
+/// Writes one pair of touching locations per line: two abbreviations and the length of the contact.
 void WriteContacts(const QString& path, const Contacts& contacts,
                    const std::vector<Location>& locations);
 
