@@ -68,8 +68,9 @@ class Contradictions {
  public:
   Contradictions(std::vector<ReadLine>& lines, const std::vector<Surroundings>& around,
                  model::Stage stage)
-      : lines_(lines), around_(around) {
+      : lines_(lines), around_(around), corrections_(lines.size() + 1) {
     for (std::size_t i = 0; i < lines.size(); ++i) {
+      corrections_[i + 1] = corrections_[i] + (around[i].Corrects ? 1U : 0U);
       if (around[i].IsOlder) continue;
       if (IsUnderstood(lines[i])) orders_[SubjectOf(lines[i].Order, stage)].push_back(i);
       // What an ambiguous line means may be another order of the unit.
@@ -107,17 +108,19 @@ class Contradictions {
     const ReadLine& now = lines_[second];
     if (!IsUnderstood(old) || now.Kind != LineKind::Order || old.Order == now.Order) return false;
     if (old.Kind == LineKind::Doubtful) return true;
-    return std::any_of(around_.begin() + static_cast<std::ptrdiff_t>(first) + 1,
-                       around_.begin() + static_cast<std::ptrdiff_t>(second) + 1,
-                       [](const Surroundings& around) { return around.Corrects; });
+    return corrections_[second + 1] > corrections_[first + 1];
   }
 
+  /// Each order is held against one that differs, of those that nothing sets aside.
   void WeighRest(const std::vector<std::size_t>& rows) {
+    const auto first = std::ranges::find_if_not(rows, [&](auto row) { return IsSetAside(row); });
+    if (first == rows.end()) return;
+    const auto differs = [&](std::size_t row) {
+      return !IsSetAside(row) && lines_[row].Order != lines_[*first].Order;
+    };
+    const auto second = std::find_if(first, rows.end(), differs);
     for (const std::size_t row : rows) {
-      const auto other = std::ranges::find_if(rows, [&](std::size_t candidate) {
-        return candidate != row && !IsSetAside(candidate) &&
-               lines_[candidate].Order != lines_[row].Order;
-      });
+      const auto other = lines_[row].Order == lines_[*first].Order ? second : first;
       if (other == rows.end()) continue;
       const std::string& order = lines_[*other].Order;
       MakeDoubtful(
@@ -132,6 +135,7 @@ class Contradictions {
 
   std::vector<ReadLine>& lines_;
   const std::vector<Surroundings>& around_;
+  std::vector<std::size_t> corrections_;  ///< how many there are in the lines before each
   OrdersOfSubject orders_;
 };
 

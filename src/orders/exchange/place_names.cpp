@@ -153,7 +153,7 @@ const std::vector<int>& PlaceNames::Locations(int province) const {
   return locations_[static_cast<std::size_t>(province)];
 }
 
-std::vector<PlaceNames::NearPlace> PlaceNames::Near(std::string_view word) const {
+std::vector<PlaceNames::NearPlace> PlaceNames::FindNear(std::string_view word) const {
   std::vector<NearPlace> near;
   if (word.size() < NameLength) return near;
   for (const auto& entry : spellings_) {
@@ -171,7 +171,7 @@ std::vector<PlaceNames::NearPlace> PlaceNames::Near(std::string_view word) const
   return near;
 }
 
-std::string_view PlaceNames::NearlyNamed(std::string_view word) const {
+std::string_view PlaceNames::FindNearlyNamed(std::string_view word) const {
   // Shorter words are one letter away from too many others.
   constexpr std::size_t shortest = 5;
   if (word.size() < shortest) return {};
@@ -187,6 +187,18 @@ std::string_view PlaceNames::NearlyNamed(std::string_view word) const {
     }
   }
   return {};
+}
+
+const std::vector<PlaceNames::NearPlace>& PlaceNames::Near(std::string_view word) const {
+  const auto [known, isNew] = near_.try_emplace(std::string(word));
+  if (isNew) known->second = FindNear(word);
+  return known->second;
+}
+
+std::string_view PlaceNames::NearlyNamed(std::string_view word) const {
+  const auto [known, isNew] = nearlyNamed_.try_emplace(std::string(word));
+  if (isNew) known->second = FindNearlyNamed(word);
+  return known->second;
 }
 
 }  // namespace orb::exchange

@@ -7,6 +7,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace orb::exchange {
@@ -42,7 +43,7 @@ class PlaceNames {
 
   /// The places whose name, or the name's first word, is one letter away from a word of three
   /// letters or more: one missing, surplus or wrong, or two changed places. Each province once.
-  std::vector<NearPlace> Near(std::string_view word) const;
+  const std::vector<NearPlace>& Near(std::string_view word) const;
 
   /// The full name that a word of five letters or more is one slip away from, or nothing.
   std::string_view NearlyNamed(std::string_view word) const;
@@ -60,6 +61,13 @@ class PlaceNames {
   void AddNearOnes(std::string_view alias, int row);
 
   const model::Map& map_;
+  std::vector<NearPlace> FindNear(std::string_view word) const;
+  std::string_view FindNearlyNamed(std::string_view word) const;
+
+  // Texts repeat their words, and to hold one against all spellings takes long: what was found is
+  // kept. So several threads must not use one object at once.
+  mutable std::unordered_map<std::string, std::vector<NearPlace>> near_;
+  mutable std::unordered_map<std::string, std::string_view> nearlyNamed_;
   std::map<char, std::vector<Spelling>> spellings_;  ///< by first letter
   std::vector<std::vector<int>> locations_;          ///< by row
 };

@@ -45,7 +45,7 @@ class SlipReader {
     PartRead found;
     const std::size_t at = failed.Problem.At.Begin;
     if (!failed.Problem.IsNoPlace || slipsLeft == 0 || at >= tokens.size()) return found;
-    const auto near = known_.Names.Near(tokens[at].Text);
+    const auto& near = known_.Names.Near(tokens[at].Text);
     const Context before = context;
     int possible = 0;
     for (const PlaceNames::NearPlace& place : near) {
