@@ -34,7 +34,7 @@ class BlockReader {
       blocks_.back().Form = HelpBlockForm::Heading;
       EndBlock();
     } else {
-      const bool inItem = lines_ > 0 && form_ == HelpBlockForm::Item;
+      const bool inItem = form_ == HelpBlockForm::Item;
       AddTo(inItem ? form_ : HelpBlockForm::Paragraph, text::Trim(line), " ");
     }
   }

@@ -133,8 +133,6 @@ bool BindOrdersToUnits(const Map& map, const Pieces& pieces, OrderTable& orders,
                        OrdersOfUnits& ordersOfUnits, Questions& questions) {
   if (!FindUnitsOfOrders(pieces, orders, questions)) return false;
   if (!FindOrdersOfUnits(map, pieces, orders, ordersOfUnits, questions)) return false;
-  for (OrderLine& order : orders)
-    order.ViaConvoy = false;
   LinkOrders(orders);
   return true;
 }
