@@ -76,6 +76,7 @@ TEST(OrderDrawing, OutcomesDifferInForm) {
                                    {"moves", {"FRA A(Gas) S A(Mar) hold"}},
                                    {"moves", {"FRA A(Gas) S A(Mar) - Bur", "FRA A(Mar) - Bur"}},
                                    {"moves", {"FRA A(Gas) S A(Mar) - Bur"}},
+                                   {"moves", {"FRA A(Gas) S A(Par) - Par", "FRA A(Par) - Par"}},
                                    {"moves", {"FRA F(GOL) C A(Mar) - Pie", "FRA A(Mar) - Pie"}},
                                    {"retreats", {"FRA A(Par) <Bur RETREAT Pic", "GER A(Par)"}},
                                    {"retreats", {"FRA A(Par) <Bur DISBAND", "GER A(Par)"}},

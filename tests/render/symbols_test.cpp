@@ -1,5 +1,6 @@
 #include "render/symbols.h"
 
+#include "render/paths.h"
 #include "render/recorder.h"
 #include "settings/map_options.h"
 
@@ -47,6 +48,8 @@ TEST(Symbols, KeepToTheModesColoursAndLeaveThePensAsTheMapWantsThem) {
       render::DrawArmy(surface, {countries, mode}, Middle, power, 1);
       render::DrawFleet(surface, {countries, mode}, Middle, power, 0.75);
       for (const Stroke& stroke : surface.Strokes) {
+        for (const render::Point& point : stroke.Points)
+          EXPECT_LT(render::Distance(point, {5000, 4000}), 220);
         for (const model::Colour colour : {stroke.Fore, stroke.Fill}) {
           const unsigned red = colour & 0xFF;
           EXPECT_TRUE(settings::InColour(mode) || colour == model::Rgb(red, red, red));

@@ -119,7 +119,9 @@ TEST_F(Session, AGameIsPlayed) {
   const auto file = directory_.Path() / "game.orb";
   EXPECT_EQ(SaveAs(file).Changed, Changes::File);
   const std::string saved = Describe(Game());
+  Edit(Editing::Units);
   EXPECT_TRUE(Undo().Done);
+  EXPECT_EQ(Now().Editing, Editing::None);
   EXPECT_THAT(DrawUnits(Game()), HasSubstr("FRA A(Bur)\n"));
   EXPECT_THAT(Now().Notes, IsEmpty());
   EXPECT_THAT(Now().Outcomes, IsEmpty());
