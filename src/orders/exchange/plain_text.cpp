@@ -1,11 +1,13 @@
 #include "orders/exchange/plain_text.h"
 
+#include "orders/exchange/references.h"
 #include "text/encoding.h"
 #include "text/utf8.h"
 #include "text/windows_1252.h"
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace orb::exchange {
 namespace {
@@ -44,15 +46,47 @@ constexpr std::string_view Letters =
     "AAAAAAACEEEEIIIIDNOOOOOxOUUUUYTsaaaaaaaceeeeiiiidnooooo/ouuuuyty";
 constexpr char32_t FirstLetter = 0xC0;
 
-/// The plain form of a character; its own bytes when it has none.
-std::string_view Fold(char32_t character, std::string_view bytes) {
+/// The plain form of a character, or nothing.
+std::optional<std::string_view> PlainForm(char32_t character) {
   if (character >= FirstLetter && character < FirstLetter + Letters.size()) {
     return Letters.substr(character - FirstLetter, 1);
   }
   for (const Folding& folding : Foldings) {
     if (character >= folding.First && character <= folding.Last) return folding.Plain;
   }
-  return bytes;
+  return std::nullopt;
+}
+
+/// Cuts the first character off a line, which is in UTF-8 or else in Windows-1252.
+char32_t NextCharacter(std::string_view& line, bool isUtf8) {
+  if (const auto character = isUtf8 ? text::NextCharacter(line) : std::nullopt) return *character;
+  const auto code = static_cast<unsigned char>(line[0]);
+  line.remove_prefix(1);
+  return text::CharacterOf(code);
+}
+
+/// Cuts off a character whose bytes in UTF-8 some program took for characters of their own, as an
+/// arrow becomes "\u00E2\u2020\u2019". Nothing, and nothing is cut, where none with a plain form
+/// stands there: "\u00DC\u201D" is two characters.
+std::optional<char32_t> NextMistaken(std::string_view& line, bool isUtf8) {
+  constexpr std::size_t longest = 4;
+  std::string_view rest = line;
+  std::string bytes;
+  while (!rest.empty() && bytes.size() < longest) {
+    const char32_t character = NextCharacter(rest, isUtf8);
+    // Latin-1 has control characters where Windows-1252 has dashes and quotes.
+    const auto code =
+        character < 0x100 ? static_cast<char>(character) : text::CodeOf(character).value_or(' ');
+    if (static_cast<unsigned char>(code) < 0x80) return std::nullopt;
+    bytes += code;
+    std::string_view meant = bytes;
+    const auto found = text::NextCharacter(meant);
+    if (!found) continue;
+    if (!PlainForm(*found)) return std::nullopt;
+    line = rest;
+    return found;
+  }
+  return std::nullopt;
 }
 
 }  // namespace
@@ -63,18 +97,25 @@ Span PlainText::Written(std::size_t begin, std::size_t end) const {
   return {first.Offset, std::max(first.Length, last.Offset + last.Length - first.Offset)};
 }
 
-PlainText ToPlain(std::string_view line, std::size_t offset) {
-  const bool utf8 = text::IsUtf8(line);
+PlainText ToPlain(std::string_view line, std::size_t offset, References references) {
+  const bool isUtf8 = text::IsUtf8(line);
   PlainText plain;
   plain.Text.reserve(line.size());
   plain.Origins.reserve(line.size());
   while (!line.empty()) {
     std::string_view rest = line;
-    const auto character = utf8 ? text::NextCharacter(rest) : std::nullopt;
-    if (!character) rest.remove_prefix(1);
+    auto meant = references == References::Read ? NextReference(rest) : std::nullopt;
+    const bool isReference = meant.has_value();
+    if (!meant) meant = NextMistaken(rest, isUtf8);
+    const char32_t character = meant ? *meant : NextCharacter(rest, isUtf8);
     const std::string_view bytes = line.substr(0, line.size() - rest.size());
-    plain.Text += Fold(
-        character ? *character : text::CharacterOf(static_cast<unsigned char>(bytes[0])), bytes);
+    if (const auto form = PlainForm(character)) {
+      plain.Text += *form;
+    } else if (isReference) {
+      text::AppendUtf8(plain.Text, character);
+    } else {
+      plain.Text += bytes;
+    }
     // A character may become several bytes, "->", or none: each byte points back to the whole
     // character.
     plain.Origins.resize(plain.Text.size(), {offset, bytes.size()});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,8 +25,13 @@ struct PlainText {
   Span Written(std::size_t begin, std::size_t end) const;
 };
 
-/// Reads a line of UTF-8, or of Windows-1252 where it is no UTF-8. `offset` is where it begins in
-/// the whole text.
-PlainText ToPlain(std::string_view line, std::size_t offset);
+/// Whether the character references of HTML are read as the characters they stand for.
+enum class References : std::uint8_t { Read, Kept };
+
+/// Reads a line of UTF-8, or of Windows-1252 where it is no UTF-8; dashes, arrows and the like
+/// whose UTF-8 was taken for Windows-1252 on the way are read as what they were. `offset` is where
+/// the line begins in the whole text.
+PlainText ToPlain(std::string_view line, std::size_t offset,
+                  References references = References::Read);
 
 }  // namespace orb::exchange

@@ -71,7 +71,9 @@ std::vector<TextRepair> LoadTextRepairs(std::string_view bytes, const std::strin
     }
     const std::string_view to = reader.Text("the text that takes its place");
     CheckLength(reader, to);
-    repairs.push_back({text::LowerCase(ToPlain(from, 0).Text), ToPlain(to, 0).Text});
+    // Read as a dash, "&mdash;" would change all dashes.
+    repairs.push_back({text::LowerCase(ToPlain(from, 0, References::Kept).Text),
+                       ToPlain(to, 0, References::Kept).Text});
   }
   return repairs;
 }
