@@ -263,6 +263,14 @@ std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceName
   return std::nullopt;
 }
 
+bool IsHarmlessTail(Tokens tail) {
+  return std::ranges::all_of(tail, [](const Token& token) {
+    const bool isPunctuation = token.Kind == TokenKind::Comma || token.Kind == TokenKind::Dot;
+    return isPunctuation || IsFiller(token) || MoodWords().contains(token.Text) ||
+           PurposeWords().contains(token.Text) || PlainWords().contains(token.Text);
+  });
+}
+
 std::optional<Aside> ReadAside(Tokens line) {
   const auto words = std::ranges::count(line, TokenKind::Word, &Token::Kind);
   if (words == 0) return std::nullopt;

@@ -15,6 +15,9 @@ namespace orb::exchange {
 /// nor does what repeats a place, power or verb of the order itself.
 std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceNames& names);
 
+/// Whether words behind an order without any brackets surely are a remark: "lol", "as agreed".
+bool IsHarmlessTail(Tokens tail);
+
 /// Which orders a line without an order sets aside.
 enum class AsideScope : std::uint8_t {
   Below,          ///< a heading: "Last turn:", "Draft:"

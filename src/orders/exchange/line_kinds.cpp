@@ -91,6 +91,23 @@ std::size_t PastStamp(Tokens tokens, std::size_t at) {
   return hasColon && close < tokens.size() ? close + 1 : at;
 }
 
+/// Whether a name stands here, in a log of a chat, and behind it a unit or a power.
+bool IsNameBeforeUnit(Tokens tokens, std::size_t at) {
+  if (!Is(tokens, at, TokenKind::Word) || at + 2 >= tokens.size()) return false;
+  const Token& name = tokens[at];
+  const bool isWord = VerbOf(name) != Verb::None || UnitTypeOf(name) != 0 || IsFiller(name) ||
+                      IsCondition(name) || IsAside(name) || PowerAt(tokens, at).Power != 0;
+  return !isWord && (UnitTypeOf(tokens[at + 1]) != 0 || PowerAt(tokens, at + 1).Power != 0);
+}
+
+/// The power that a capital alone before a colon stands for, "E:"; 0: none. "I:" is a number.
+int PowerOfInitial(const Token& token) {
+  constexpr std::string_view initials = "efgrta";
+  const bool isInitial = token.Kind == TokenKind::Word && token.Text.size() == 1 && token.Capital;
+  const auto place = isInitial ? initials.find(token.Text) : std::string_view::npos;
+  return place == std::string_view::npos ? 0 : static_cast<int>(place) + 1;
+}
+
 /// Evidence that is enough by itself; what is weaker counts 1 and needs company.
 constexpr int Strong = 2;
 
@@ -175,10 +192,32 @@ bool HoldsOrderWords(Tokens tokens, const PlaceNames& names) {
 std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
   Heading heading;
   bool hasWord = false;
+  if (tokens.size() == 2 && Is(tokens, 1, TokenKind::Colon) && PowerOfInitial(tokens[0]) != 0) {
+    heading.Power = PowerOfInitial(tokens[0]);
+    return heading;
+  }
+  // "Russia, for what it is worth:"
+  const PowerName addressed = PowerAt(tokens, 0);
+  if (addressed.Power != 0 && Is(tokens, addressed.Next, TokenKind::Comma)) {
+    const Tokens rest = tokens.subspan(addressed.Next + 1);
+    const bool isAside = std::ranges::any_of(
+        rest, [](const Token& token) { return IsCondition(token) || IsAside(token); });
+    if (!isAside && !rest.empty() && !HoldsOrderWords(rest, names)) {
+      heading.Power = addressed.Power;
+      return heading;
+    }
+  }
   for (std::size_t at = 0; at < tokens.size();) {
     const Token& token = tokens[at];
     if (token.Kind == TokenKind::Open) {
       const std::size_t close = ClosingBracket(tokens, at);
+      if (const PowerName name = PowerAt(tokens, at + 1);
+          heading.Power == 0 && name.Power != 0 && name.Next == close) {
+        heading.Power = name.Power;
+        hasWord = true;
+        at = close + 1;
+        continue;
+      }
       // Behind a power, brackets hold its player or the like: "France (Tom):".
       const bool isRemark = heading.Power != 0 && close < tokens.size();
       if (!isRemark || HoldsOrderWords(tokens.subspan(at, close - at), names)) return {};
@@ -210,6 +249,10 @@ std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
 
 std::size_t PastLineStart(Tokens tokens) {
   std::size_t at = 0;
+  // "Order #3: A Par - Bur".
+  if (!tokens.empty() && IsWord(tokens[0], "order") && PastNumber(tokens, 1) != 1) {
+    return PastNumber(tokens, 1);
+  }
   // Quotation marks ("> >>") and bullets.
   while (Is(tokens, at, TokenKind::Dash) || Is(tokens, at, TokenKind::Dot) ||
          (Is(tokens, at, TokenKind::Mark) && tokens[at].Text == "+")) {
@@ -224,6 +267,7 @@ std::size_t PastLineStart(Tokens tokens) {
       const bool isPower = PowerAt(tokens, at).Power != 0;
       if (Is(tokens, next + 1, TokenKind::Colon) && !isPower) return next + 2;
     }
+    if (IsNameBeforeUnit(tokens, at)) return at + 1;
   }
   const std::size_t behind = PastNumber(tokens, at);
   if (behind != at && Is(tokens, behind, TokenKind::Dash)) return behind + 1;

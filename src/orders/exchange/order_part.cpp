@@ -3,6 +3,8 @@
 #include "orders/exchange/line_kinds.h"
 
 #include <algorithm>
+#include <array>
+#include <string_view>
 
 namespace orb::exchange {
 namespace {
@@ -22,18 +24,47 @@ std::size_t PastOrdersAre(Tokens tokens) {
   return past;
 }
 
+/// Behind "I would like to", "we will" and the like, or 0.
+std::size_t PastWish(Tokens tokens) {
+  constexpr std::array<std::string_view, 7> who{"i", "id", "ill", "we", "wed", "well", "lets"};
+  constexpr std::array<std::string_view, 11> wish{"would", "like",  "love",  "want",   "wish", "to",
+                                                  "will",  "shall", "going", "please", "am"};
+  const auto is = [&](std::size_t at, auto words) {
+    return at < tokens.size() && tokens[at].Kind == TokenKind::Word &&
+           std::ranges::find(words, tokens[at].Text) != words.end();
+  };
+  if (!is(0, who)) return 0;
+  std::size_t at = 1;
+  while (is(at, wish))
+    ++at;
+  return at;
+}
+
 /// Behind a heading before the order, "France:" or "Builds.", whose power and verb go into the
 /// context; 0 when there is none.
 std::size_t PastHeading(Tokens tokens, const KnownGame& known, Context& context) {
   const auto lengthTo = [&](TokenKind kind) {
     return static_cast<std::size_t>(std::ranges::find(tokens, kind, &Token::Kind) - tokens.begin());
   };
+  if (const std::size_t wish = PastWish(tokens); wish != 0 && wish < tokens.size()) return wish;
+  const bool isNew = known.Stage == model::Stage::Adjustments && tokens.size() > 2 &&
+                     IsWord(tokens[0], "new") && UnitTypeOf(tokens[1]) != 0;
+  if (isNew) {
+    context.Orders = Verb::Build;
+    return 1;
+  }
   const std::size_t colon = lengthTo(TokenKind::Colon);
+  // "A: Par" is an army; "A: F Tri" is Austria's.
+  if (colon == 1 && tokens.size() > 2 && UnitTypeOf(tokens[0]) != 0 && UnitTypeOf(tokens[2]) == 0) {
+    return 0;
+  }
   const std::size_t dot = lengthTo(TokenKind::Dot);
   for (const auto& [length, past] : {std::pair(colon, colon + 1), std::pair(dot, dot + 1),
                                      std::pair(PastOrdersAre(tokens), PastOrdersAre(tokens))}) {
     if (length == 0 || past >= tokens.size()) continue;
-    const auto heading = ReadHeading(tokens.first(length), known.Names);
+    // An initial is a heading only with its colon.
+    const bool isInitial = length == 1 && past == colon + 1;
+    const auto heading = ReadHeading(tokens.first(isInitial ? past : length), known.Names);
     if (!heading || !IsHeadingOf(known.Stage, *heading)) continue;
     if (heading->Power != 0) context.Power = heading->Power;
     if (heading->Orders != Verb::None) context.Orders = heading->Orders;

@@ -379,6 +379,8 @@ bool Phrases::Ends(std::size_t at) {
       at += 2;
     } else if (IsSymbol(token)) {
       ++at;
+    } else if (token.Kind == TokenKind::Word && IsHarmlessTail(part(at, tokens_.size()))) {
+      return true;
     } else if (Skip(at) == at) {
       break;
     } else {

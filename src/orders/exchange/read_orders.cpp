@@ -74,9 +74,36 @@ class TextReader {
     return Tokens(line.All).subspan(range.Begin, range.End - range.Begin);
   }
 
+  /// Joins an order that is broken off, "A Par -", with its rest in the line below; false where the
+  /// two make no order.
+  bool JoinBroken(ReadLine& above, const SourceLine& line) {
+    ReadLine& below = lines_.back();
+    const bool areBroken =
+        above.Kind == LineKind::NotUnderstood && !line.All.empty() &&
+        (below.Kind == LineKind::NotUnderstood || below.Kind == LineKind::PassedOver);
+    if (!areBroken || above.Number + 1 != line.Number || line.IsTooLong) return false;
+    const std::string joined = ToPlain(above.Written, 0).Text + " " + line.Plain.Text;
+    const std::vector<Token> tokens = CutTokens(joined);
+    Context context{model::FindCountry(above.Power), context_.Orders};
+    const PartRead read = ReadPart(tokens, known_, context);
+    if (read.Kind != LineKind::Order ||
+        FindDoubt(Tokens(tokens).subspan(read.End), tokens, known_.Names)) {
+      return false;
+    }
+    above.Kind = LineKind::Order;
+    above.Order = read.Meant.All[0].Line;
+    above.Power = PowerText(read.Meant.All[0].Power);
+    above.Reason = read.Meant.All[0].Objection;
+    above.ReasonPlace = above.Place;
+    below.Kind = LineKind::PassedOver;
+    below.Reason.clear();
+    return true;
+  }
+
   /// A line like "- Bur" may be the rest of the order above. That order is then incomplete, though
   /// it may look whole: it becomes unclear.
   void CheckGoesOn(ReadLine& above, const SourceLine& line) {
+    if (JoinBroken(above, line)) return;
     const bool isRest = lines_.back().Kind == LineKind::NotUnderstood && !line.IsTooLong &&
                         !line.All.empty() && VerbOf(line.All[0]) != Verb::None;
     if (!isRest || above.Kind != LineKind::Order || above.Number + 1 != line.Number) return;
@@ -268,9 +295,11 @@ class TextReader {
     PartsRead parts;
     std::size_t condition = segment.End;
     bool isClear = true;
+    std::optional<Token> plural;
     const auto isOrder = [](const auto& part) { return IsUnderstood(part.second); };
     for (const TokenRange range : Split(line.All, segment, seam)) {
-      const Tokens tokens = PartOf(line, range);
+      const std::vector<Token> typed = WithSharedType(line, range, plural);
+      const Tokens tokens = typed.empty() ? PartOf(line, range) : Tokens(typed);
       Context before = tried;
       parts.emplace_back(range, ReadPart(tokens, known_, tried));
       const bool isOrdered = std::ranges::any_of(parts, isOrder);
@@ -300,6 +329,7 @@ class TextReader {
       if (at < tokens.size() && condition == segment.End) condition = range.Begin + at;
       isClear = isClear && IsNoOrder(tokens, known_.Names, inSignature_);
     }
+    ShareVerbs(line, parts);
     if (std::ranges::none_of(parts, isOrder)) return false;
     if (seam == Seam::FullStop && !isClear) return false;
     context = tried;
@@ -309,6 +339,45 @@ class TextReader {
     }
     AddParts(line, parts, context);
     return true;
+  }
+
+  /// "Armies in Paris and Marseilles": the part with the type of units that the plural before it
+  /// gives; empty where it has one of its own, or none was given.
+  static std::vector<Token> WithSharedType(const SourceLine& line, TokenRange range,
+                                           std::optional<Token>& plural) {
+    const Tokens tokens = PartOf(line, range);
+    const auto type =
+        std::ranges::find_if(tokens, [](const Token& token) { return UnitTypeOf(token) != 0; });
+    if (type != tokens.end()) {
+      plural.reset();
+      if (IsWord(*type, "armies") || IsWord(*type, "fleets")) plural = *type;
+      return {};
+    }
+    if (!plural) return {};
+    std::vector<Token> typed{*plural};
+    typed.insert(typed.end(), tokens.begin(), tokens.end());
+    return typed;
+  }
+
+  /// "A Par, A Gas S A Bur": a unit without an order does what the next one does.
+  void ShareVerbs(const SourceLine& line, PartsRead& parts) const {
+    const auto isVerb = [](const Token& token) { return VerbOf(token) != Verb::None; };
+    for (std::size_t i = parts.size(); i-- > 1;) {
+      auto& [range, part] = parts[i - 1];
+      const Tokens unit = PartOf(line, range);
+      if (IsUnderstood(part) || !IsUnderstood(parts[i].second) || UnitTypeOf(unit[0]) == 0 ||
+          std::ranges::any_of(unit, isVerb)) {
+        continue;
+      }
+      const Tokens next = PartOf(line, parts[i].first);
+      std::vector<Token> joined(unit.begin(), unit.end());
+      joined.insert(joined.end(), std::ranges::find_if(next, isVerb), next.end());
+      Context context = context_;
+      PartRead read = ReadPart(joined, known_, context);
+      if (joined.size() == unit.size() || read.Kind != LineKind::Order) continue;
+      read.End = range.End - range.Begin;
+      part = std::move(read);
+    }
   }
 
   /// "A Par - Bur, H": reads what begins with a verb as another order of the unit before it;

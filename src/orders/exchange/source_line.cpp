@@ -10,7 +10,9 @@ namespace {
 
 bool IsSeam(const Token& token, Seam seam) {
   if (seam == Seam::Semicolon) return token.Kind == TokenKind::Semicolon;
+  // A slash with a blank before it is no coast's.
   return token.Kind == TokenKind::Comma || IsWord(token, "and") ||
+         (token.Kind == TokenKind::Slash && !token.Glued) ||
          (seam == Seam::FullStop && token.Kind == TokenKind::Dot);
 }
 

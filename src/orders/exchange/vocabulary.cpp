@@ -79,9 +79,9 @@ constexpr std::array Nicknames{
     PowerWords{6, "ah"},
 };
 
-constexpr std::array<std::string_view, 20> Fillers{
-    "the", "my",  "our", "an",    "please", "pls",   "plz",       "will",  "shall", "is",
-    "are", "his", "her", "their", "unit",   "units", "dislodged", "gives", "lends", "provides"};
+constexpr std::array<std::string_view, 21> Fillers{
+    "both", "the", "my",  "our",   "an",   "please", "pls",       "plz",   "will",  "shall",   "is",
+    "are",  "his", "her", "their", "unit", "units",  "dislodged", "gives", "lends", "provides"};
 
 constexpr std::array<std::string_view, 44> Conditions{
     "if",     "unless",    "otherwise", "else",     "or",          "either",
