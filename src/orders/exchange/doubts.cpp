@@ -1,6 +1,7 @@
 #include "orders/exchange/doubts.h"
 
 #include "orders/exchange/vocabulary.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <array>
@@ -174,12 +175,29 @@ std::optional<TokenRange> FindPhrase(Tokens tokens, const std::vector<Phrase>& p
   return std::nullopt;
 }
 
-/// Signs that ask or cross out; others only decorate.
+/// Whether a sign only decorates: faces, hearts, stars, ticks, flags, good wishes. Others ask,
+/// cross out or may mean anything.
+bool IsDecoration(std::string_view sign) {
+  constexpr std::u32string_view known =
+      U"\u2713\u2714\u2705\u2764\u2665\u2605\u2606\u2B50\u263A\uFE0F\u200D\U0001F44D\U0001F389"
+      U"\U0001F340\U0001F91E\U0001F91D\U0001F64F\U0001F942\U0001F37B\U0001F603";
+  while (!sign.empty()) {
+    const auto character = text::NextCharacter(sign);
+    if (!character) return false;
+    const bool isFace = *character >= 0x1F600 && *character <= 0x1F644;
+    const bool isFlag = *character >= 0x1F1E6 && *character <= 0x1F1FF;
+    const bool isHeart = *character >= 0x1F493 && *character <= 0x1F49F;
+    if (!isFace && !isFlag && !isHeart && known.find(*character) == std::u32string_view::npos) {
+      return false;
+    }
+  }
+  return true;
+}
+
 bool IsDoubtfulSign(const Token& token) {
-  static const std::unordered_set<std::string_view> signs{
-      "?",           "<", "~", "\xE2\x9D\x93", "\xE2\x9D\x94", "\xE2\x9D\x8C", "\xE2\x9C\x97",
-      "\xE2\x9C\x98"};
-  return token.Kind == TokenKind::Mark && signs.contains(token.Text);
+  if (token.Kind != TokenKind::Mark) return false;
+  if (static_cast<unsigned char>(token.Text[0]) >= 0x80) return !IsDecoration(token.Text);
+  return token.Text == "?" || token.Text == "<" || token.Text == "~";
 }
 
 /// How many tokens from here name a place; 0: none.

@@ -4,11 +4,10 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace orb::exchange {
 namespace {
-
-// "<s>" and "[s]" are missing on purpose: an order that is struck out must not be read as one.
 
 /// Tags that end a line or an item; orders on both sides of one are apart.
 constexpr std::array<std::string_view, 19> BlockTags{
@@ -26,6 +25,55 @@ bool IsOneOf(std::string_view name, const std::array<std::string_view, Count>& n
   return std::ranges::find(names, name) != names.end();
 }
 
+/// Tags that strike out what they enclose, in pages and forums.
+constexpr std::array<std::string_view, 4> StrikingTags{"s", "del", "strike", "strikethrough"};
+
+/// A part of the plain text that is struck out: its bounds with its marks.
+struct Struck {
+  std::size_t Begin = std::string::npos;
+  std::size_t End = std::string::npos;
+};
+
+/// Struck out from here on, "~~A Par - Bur~~" or between tags; nothing where it is not closed.
+Struck StruckAt(std::string_view text, std::size_t at) {
+  constexpr std::string_view wave = "~~";
+  if (text.substr(at).starts_with(wave)) {
+    const std::size_t close = text.find(wave, at + wave.size());
+    return close == std::string_view::npos ? Struck{} : Struck{at, close + wave.size()};
+  }
+  const bool isForum = text[at] == '[';
+  if (!isForum && text[at] != '<') return {};
+  const char end = isForum ? ']' : '>';
+  const std::size_t close = text.find(end, at);
+  if (close == std::string_view::npos) return {};
+  const std::string_view tag = text.substr(at + 1, close - at - 1);
+  const std::string_view name = tag.substr(0, tag.find_first_of(" ="));
+  const bool strikes = IsOneOf(name, StrikingTags) ||
+                       (!isForum && tag.find("line-through") != std::string_view::npos);
+  if (!strikes || name.empty()) return {};
+  std::string closing(1, text[at]);
+  closing.append("/").append(name).append(1, end);
+  const std::size_t last = text.find(closing, close);
+  return last == std::string_view::npos ? Struck{} : Struck{at, last + closing.size()};
+}
+
+/// Takes out what is struck out.
+void DropStruck(PlainText& line) {
+  constexpr std::string_view marks = "~<[";
+  if (line.Text.find_first_of(marks) == std::string::npos) return;
+  const std::string lower = text::LowerCase(line.Text);
+  PlainText left;
+  for (std::size_t at = 0; at < line.Text.size();) {
+    if (const Struck struck = StruckAt(lower, at); struck.End != std::string::npos) {
+      at = struck.End;
+      continue;
+    }
+    left.Text += line.Text[at];
+    left.Origins.push_back(line.Origins[at++]);
+  }
+  line = std::move(left);
+}
+
 bool HasText(std::string_view text) {
   return text.find_first_not_of(" ;") != std::string_view::npos;
 }
@@ -33,6 +81,7 @@ bool HasText(std::string_view text) {
 }  // namespace
 
 void DropTags(PlainText& line) {
+  DropStruck(line);
   std::string text;
   std::vector<Span> origins;
   std::size_t at = 0;
