@@ -39,17 +39,46 @@ struct Preview {
       : table(*dialog.findChild<QTableView*>(QStringLiteral("tblExchange"))),
         ok(*dialog.findChild<QPushButton*>(QStringLiteral("butExchangeOK"))) {}
 
-  QVariant Data(int row, ExchangeModel::Column column, int role = Qt::DisplayRole) const {
-    return table.model()->index(row, column).data(role);
+  /// The cell of a line of the text, counted from 1.
+  QModelIndex At(int line, ExchangeModel::Column column) const {
+    int row = 0;
+    while (table.model()->headerData(row, Qt::Vertical).toInt() != line)
+      ++row;
+    return table.model()->index(row, column);
   }
-  std::string Understood(int row) const {
-    return Data(row, ExchangeModel::Understood).toString().toStdString();
+  std::string Understood(int line) const {
+    return At(line, ExchangeModel::Understood).data().toString().toStdString();
   }
-  OrderMark Mark(int row) const {
-    return static_cast<OrderMark>(Data(row, ExchangeModel::Understood, ui::OrderMarkRole).toInt());
+  OrderMark Mark(int line) const {
+    return static_cast<OrderMark>(
+        At(line, ExchangeModel::Understood).data(ui::OrderMarkRole).toInt());
   }
-  bool IsTaken(int row) const {
-    return Data(row, ExchangeModel::Take, Qt::CheckStateRole).toInt() == Qt::Checked;
+  bool IsTaken(int line) const {
+    return At(line, ExchangeModel::Take).data(Qt::CheckStateRole).toInt() == Qt::Checked;
+  }
+  /// The keys work in this line.
+  void Select(int line, ExchangeModel::Column column = ExchangeModel::Written) const {
+    table.setFocus();
+    table.setCurrentIndex(At(line, column));
+  }
+  /// What is shown from top to bottom: the numbers of the lines, and captions.
+  std::vector<std::string> Rows() const {
+    std::vector<std::string> rows;
+    for (int row = 0; row < table.model()->rowCount(); ++row) {
+      if (table.isRowHidden(row)) continue;
+      const QString number = table.model()->headerData(row, Qt::Vertical).toString();
+      const QString caption = table.model()->index(row, 0).data().toString();
+      rows.push_back((number.isEmpty() ? caption : number).toStdString());
+    }
+    return rows;
+  }
+  /// The numbers above the table.
+  std::vector<std::string> Summary() const {
+    std::vector<std::string> texts;
+    const auto* panel = table.window()->findChild<QWidget*>(QStringLiteral("panExchangeSummary"));
+    for (const QLabel* label : panel->findChildren<QLabel*>())
+      texts.push_back(label->text().toStdString());
+    return texts;
   }
   std::string Label(const char* name) const {
     return table.window()->findChild<QLabel*>(QLatin1String(name))->text().toStdString();
@@ -73,15 +102,15 @@ TEST_F(WindowTest, ImportedLinesAreCorrectedWhereTheyStand) {
   const auto correct = [](QDialog& dialog) {
     const Preview preview(dialog);
     EXPECT_EQ(dialog.windowTitle(), Titled(" Import Orders"));
-    EXPECT_EQ(preview.Understood(2), "FRA A(Par) - Bur");
-    EXPECT_EQ(preview.Mark(2), OrderMark::Passes);
-    EXPECT_EQ(preview.Mark(3), OrderMark::Stopped);
-    EXPECT_EQ(preview.Data(3, ExchangeModel::Written).toString(),
+    EXPECT_EQ(preview.Understood(3), "FRA A(Par) - Bur");
+    EXPECT_EQ(preview.Mark(3), OrderMark::Passes);
+    EXPECT_EQ(preview.Mark(4), OrderMark::Stopped);
+    EXPECT_EQ(preview.At(4, ExchangeModel::Written).data().toString(),
               QString::fromUtf8("F Brest - \u00c9xyz"));
-    EXPECT_TRUE(preview.table.isRowHidden(1));
-    EXPECT_EQ(preview.Label("lblExchangeCount"), "2 orders, 1 unclear");
-    EXPECT_EQ(preview.Label("lblExchangeResult"), "OK files 2 orders. 1 unclear line is left out.");
-    EXPECT_EQ(preview.table.currentIndex().row(), 3);
+    EXPECT_THAT(preview.Rows(), ElementsAre("To be decided", "4", "Clear", "1", "3", "5"));
+    EXPECT_THAT(preview.Summary(), ElementsAre("FRA: 2 sure, 1 unclear"));
+    EXPECT_EQ(preview.Label("lblExchangeResult"), "OK files 2 orders. Left out: 1 unclear.");
+    EXPECT_EQ(preview.table.currentIndex(), preview.At(4, ExchangeModel::Written));
 
     Press(Qt::Key_F2);
     auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
@@ -89,14 +118,14 @@ TEST_F(WindowTest, ImportedLinesAreCorrectedWhereTheyStand) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return editor->selectedText() == editor->text().mid(10); }))
         << "what is not understood is selected";
     Type("ech");
-    EXPECT_EQ(preview.Understood(3), "FRA F(Bre) - ECH") << "as it is typed";
+    EXPECT_EQ(preview.Understood(4), "FRA F(Bre) - ECH") << "as it is typed";
     Press(Qt::Key_Escape);
-    EXPECT_EQ(preview.Mark(3), OrderMark::Stopped);
+    EXPECT_EQ(preview.Mark(4), OrderMark::Stopped);
     Press(Qt::Key_F2);
     Type("brest - mao");
     Press(Qt::Key_Return);
     EXPECT_TRUE(QTest::qWaitFor([&] { return preview.table.hasFocus(); }));
-    EXPECT_EQ(preview.Label("lblExchangeCount"), "3 orders, 0 unclear");
+    EXPECT_EQ(preview.table.currentIndex().row(), 1) << "where it was";
     EXPECT_EQ(preview.Label("lblExchangeResult"),
               "OK files 3 orders, 1 in place of what is in the list.");
     Press(Qt::Key_Return);
@@ -112,9 +141,8 @@ TEST_F(WindowTest, PastedOrdersOfAnotherPowerAreFiledOnlyWhenTicked) {
   QApplication::clipboard()->setText("Orders for France:\nA Par \u2013 Bur\nENG F(Lon) - NTH\n");
   const auto cancel = [](QDialog& dialog) {
     const Preview preview(dialog);
-    EXPECT_FALSE(preview.IsTaken(2));
-    EXPECT_EQ(preview.Mark(2), OrderMark::Doubtful);
-    EXPECT_EQ(preview.Label("lblExchangeCount"), "1 order, 0 unclear, 1 of another power");
+    EXPECT_FALSE(preview.IsTaken(3));
+    EXPECT_EQ(preview.Mark(3), OrderMark::Doubtful);
     dialog.findChild<QPushButton*>(QStringLiteral("butExchangeHelp"))->click();
     auto* help = dialog.findChild<ui::HelpWindow*>();
     ASSERT_NE(help, nullptr) << "one that the dialog does not block";
@@ -127,9 +155,9 @@ TEST_F(WindowTest, PastedOrdersOfAnotherPowerAreFiledOnlyWhenTicked) {
   const auto accept = [](QDialog& /*dialog*/) { Press(Qt::Key_Return); };
   const auto tick = [](QDialog& dialog) {
     const Preview preview(dialog);
-    preview.table.setCurrentIndex(preview.table.model()->index(2, ExchangeModel::Written));
+    preview.Select(3);
     Press(Qt::Key_Space);
-    EXPECT_TRUE(preview.IsTaken(2));
+    EXPECT_TRUE(preview.IsTaken(3));
     Press(Qt::Key_Return);
   };
   const ModalScript answers({cancel, accept, tick});
@@ -149,29 +177,83 @@ TEST_F(WindowTest, ThePowerOfAPasteIsChosenAndMeaningsAreOffered) {
     const Preview preview(dialog);
     EXPECT_FALSE(preview.ok.isEnabled()) << "no power is named by all";
     auto& model = *preview.table.model();
-    EXPECT_THAT(preview.Understood(2), StartsWith("It can mean "));
-    preview.table.setFocus();
-    preview.table.setCurrentIndex(model.index(2, ExchangeModel::Understood));
+    EXPECT_THAT(preview.Understood(3), StartsWith("It can mean "));
+    preview.Select(3, ExchangeModel::Understood);
     Press(Qt::Key_F2);
     auto* meanings = dialog.findChild<QComboBox*>(QStringLiteral("cboExchangeMeaning"));
     ASSERT_NE(meanings, nullptr);
     meanings->setCurrentIndex(meanings->findText("GER A(Mun) S FRA A(Mar) - Bur"));
     emit meanings->activated(meanings->currentIndex());
-    EXPECT_EQ(preview.Mark(2), OrderMark::Passes);
-    EXPECT_THAT(preview.Understood(7), StartsWith("It can mean "));
-    model.setData(model.index(5, ExchangeModel::Written), "A Vie hold");
-    EXPECT_EQ(preview.Understood(7), "RUS A(War) S AUS A(Bud) - Gal") << "the only move there";
-    model.setData(model.index(4, ExchangeModel::Written), "F Kie - Den");
-    EXPECT_THAT(preview.Understood(3), HasSubstr("ordered again below"));
+    EXPECT_EQ(preview.Mark(3), OrderMark::Passes);
+    EXPECT_THAT(preview.Understood(8), StartsWith("It can mean "));
+    model.setData(preview.At(6, ExchangeModel::Written), "A Vie hold");
+    EXPECT_EQ(preview.Understood(8), "RUS A(War) S AUS A(Bud) - Gal") << "the only move there";
+    model.setData(preview.At(5, ExchangeModel::Written), "F Kie - Den");
+    EXPECT_THAT(preview.Understood(4), HasSubstr("line 5 is taken instead"));
+    EXPECT_FALSE(preview.IsTaken(4));
+    preview.Select(3);
+    Press(Qt::Key_Space);
     preview.Choose("Germany");
-    EXPECT_EQ(preview.Understood(4), "GER F(Kie) - Den") << "kept when the power is chosen";
-    EXPECT_FALSE(preview.IsTaken(0));
+    EXPECT_EQ(preview.Understood(5), "GER F(Kie) - Den") << "kept when the power is chosen";
+    EXPECT_FALSE(preview.IsTaken(1));
+    EXPECT_FALSE(preview.IsTaken(3)) << "left out by hand";
+    preview.Select(3);
+    Press(Qt::Key_Space);
     EXPECT_TRUE(preview.ok.isEnabled());
     preview.ok.click();
   };
   const ModalScript answers({choose});
   Trigger("mnuEditPasteOrders");
   EXPECT_THAT(Lines("lstOrders"), ElementsAre("GER A(Mun) S FRA A(Mar) - Bur", "GER F(Kie) - Den"));
+}
+
+TEST_F(WindowTest, DoubtfulOrdersWaitAboveTheSureOnesForATick) {
+  const auto file = directory_.Write("orders.txt",
+                                     "FRANCE\nF Bre - MAO\nA Par - Bur (tentative)\nA Mar - Bur\n"
+                                     "A Mar H\nGERMANY\nA Mun x\nA Ber - Kie\nSorry, rather:\n"
+                                     "A Ber - Pru\n");
+  const auto decide = [](QDialog& dialog) {
+    const Preview preview(dialog);
+    const std::vector<std::string> rows{
+        "To be decided", "7", "3", "4", "5", "Clear", "1", "2", "6", "8", "10"};
+    EXPECT_EQ(preview.Rows(), rows);
+    EXPECT_EQ(preview.Label("lblExchangeResult"),
+              "OK files 2 orders, 1 in place of what is in the list. Left out: 1 unclear, 3 "
+              "doubtful.");
+    EXPECT_THAT(preview.Summary(), ElementsAre("FRA: 1 sure, 3 doubtful, 2 units without an order",
+                                               "GER: 1 sure, 1 unclear, 1 unit without an order"));
+    EXPECT_EQ(preview.Understood(8),
+              "replaced: GER A(Ber) - Kie  (the text itself orders otherwise below)");
+    preview.Select(5);
+    Press(Qt::Key_Space);
+    EXPECT_TRUE(preview.IsTaken(5));
+    Press(Qt::Key_Up);
+    Press(Qt::Key_Space);
+    EXPECT_TRUE(preview.IsTaken(4));
+    EXPECT_FALSE(preview.IsTaken(5)) << "one order a unit";
+    EXPECT_FALSE(preview.IsTaken(3));
+    preview.Select(5);
+    Press(Qt::Key_Down);
+    EXPECT_EQ(preview.table.currentIndex(), preview.At(1, ExchangeModel::Written))
+        << "past the caption";
+    preview.Select(7);
+    Press(Qt::Key_F2);
+    Type("A Mun - Ruh");
+    Press(Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return preview.table.hasFocus(); }));
+    EXPECT_EQ(preview.Rows(), rows) << "no line jumps away";
+    EXPECT_THAT(preview.Summary(),
+                ElementsAre("FRA: 1 sure, 3 doubtful, 1 unit without an order", "GER: 2 sure"));
+    Press(Qt::Key_Return);
+  };
+  Enter("GER F(Kie) - Den");
+  Enter("FRA F(Bre) hold");
+  const ModalScript answers({FileChosen(Shown(file)), decide});
+  Trigger("mnuFileImportOrders");
+  EXPECT_THAT(Lines("lstOrders"),
+              ElementsAre("GER F(Kie) - Den", "FRA F(Bre) - MAO", "FRA A(Mar) - Bur",
+                          "GER A(Mun) - Ruh", "GER A(Ber) - Pru"))
+      << "in the order of the text";
 }
 
 TEST_F(WindowTest, OrdersHandedOutAreReadAgain) {

@@ -10,17 +10,6 @@
 namespace orb::exchange {
 namespace {
 
-/// The part of an order that tells what it is for: its unit; of a build its power and its place,
-/// where only one unit can be built.
-std::string SubjectOf(std::string_view order, model::Stage stage) {
-  const std::string unit = text::UpperCase(order.substr(0, order.find(')')));
-  if (stage != model::Stage::Adjustments) return unit;
-  const std::size_t power = std::min(unit.find(' '), unit.size());
-  if (!std::string_view(unit).substr(power).starts_with(" BUILD")) return unit;
-  constexpr std::size_t nameLength = 3;
-  return unit.substr(0, power) + unit.substr(std::min(unit.find('('), unit.size()), nameLength + 1);
-}
-
 void MakeDoubtful(ReadLine& line, std::string reason, Span at) {
   if (line.Kind != LineKind::Order) return;
   line.Kind = LineKind::Doubtful;
@@ -140,6 +129,15 @@ class Contradictions {
 };
 
 }  // namespace
+
+std::string SubjectOf(std::string_view order, model::Stage stage) {
+  const std::string unit = text::UpperCase(order.substr(0, order.find(')')));
+  if (stage != model::Stage::Adjustments) return unit;
+  const std::size_t power = std::min(unit.find(' '), unit.size());
+  if (!std::string_view(unit).substr(power).starts_with(" BUILD")) return unit;
+  constexpr std::size_t nameLength = 3;
+  return unit.substr(0, power) + unit.substr(std::min(unit.find('('), unit.size()), nameLength + 1);
+}
 
 void WeighOrders(std::vector<ReadLine>& lines, const std::vector<Surroundings>& around,
                  model::Stage stage, std::string_view power) {

@@ -9,6 +9,10 @@
 
 namespace orb::exchange {
 
+/// The part of an order that tells what it is for: its unit; of a build its power and its place,
+/// where only one unit can be built. Different orders with the same subject contradict each other.
+std::string SubjectOf(std::string_view order, model::Stage stage);
+
 /// What stands around a line that was read.
 struct Surroundings {
   bool IsOlder = false;   ///< in a part of the text that is quoted from an earlier one

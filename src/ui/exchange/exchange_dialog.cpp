@@ -2,6 +2,7 @@
 
 #include "model/messages.h"
 #include "text/qt/text_codec.h"
+#include "ui/exchange/exchange_summary.h"
 #include "ui/exchange/exchange_table.h"
 #include "ui/widgets/power_choice.h"
 
@@ -30,9 +31,10 @@ QLabel* newLabel(const QString& name) {
 ExchangeDialog::ExchangeDialog(const model::GameState& game, ExchangeKind kind, std::string text,
                                std::vector<exchange::TextRepair> repairs, QWidget* parent)
     : QDialog(parent),
+      m_game(game),
       m_model(game, std::move(text), std::move(repairs), nullptr),
       m_table(new ExchangeTable(m_model, this)),
-      m_count(newLabel(QStringLiteral("lblExchangeCount"))),
+      m_summary(new ExchangeSummary(this)),
       m_noOrders(new QCheckBox(tr("&Show lines that are no orders"))),
       m_reason(newLabel(QStringLiteral("lblExchangeReason"))),
       m_result(newLabel(QStringLiteral("lblExchangeResult"))) {
@@ -44,20 +46,25 @@ ExchangeDialog::ExchangeDialog(const model::GameState& game, ExchangeKind kind, 
   m_table->setAccessibleName(tr("Lines of the text"));
   m_noOrders->setObjectName(QStringLiteral("chkExchangeNoOrders"));
   m_reason->setWordWrap(true);
-  // Room for the longest reason: the table must not jump while the user goes through it.
-  m_reason->setMinimumHeight(3 * fontMetrics().lineSpacing());
+  // Room for the longest reason: the table must not jump while the user goes through it. Where
+  // there is little room at all, the table needs it more.
+  const QSize screen = parent->screen()->availableSize();
+  const int line = fontMetrics().lineSpacing();
+  m_reason->setMinimumHeight((screen.height() < 30 * line ? 2 : 3) * line);
   m_reason->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 
   auto* column = new QVBoxLayout(this);
   if (pasting) column->addLayout(newPowerRow(game));
-  column->addWidget(m_count);
+  column->addWidget(m_summary);
   column->addWidget(m_table, 1);
   column->addWidget(m_reason);
   column->addWidget(m_noOrders);
   column->addLayout(newButtonRow());
 
+  m_result->setWordWrap(true);
+  m_result->setMinimumHeight(2 * line);
   connect(m_noOrders, &QCheckBox::toggled, m_table, &ExchangeTable::showNoOrders);
-  connect(&m_model, &QAbstractItemModel::dataChanged, this, &ExchangeDialog::showCounts);
+  connect(&m_model, &QAbstractItemModel::dataChanged, this, &ExchangeDialog::showNumbers);
   connect(&m_model, &QAbstractItemModel::dataChanged, this, &ExchangeDialog::showReason);
   connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this,
           &ExchangeDialog::showReason);
@@ -66,9 +73,8 @@ ExchangeDialog::ExchangeDialog(const model::GameState& game, ExchangeKind kind, 
   m_noOrders->setChecked(counts.orders + counts.unclear == 0);
   choosePower();
   const QSize letters(fontMetrics().averageCharWidth(), fontMetrics().height());
-  // Room for 110 letters and 32 lines, as far as the screen has it.
-  resize(QSize(letters.width() * 110, letters.height() * 32)
-             .boundedTo(parent->screen()->availableSize() * 0.9));
+  // Room for 140 letters and 42 lines, as far as the screen has it.
+  resize(QSize(letters.width() * 140, letters.height() * 42).boundedTo(screen * 0.9));
   // When the text does not name the power, that is the first thing to choose.
   (m_power != nullptr && m_power->currentIndex() < 0 ? static_cast<QWidget*>(m_power) : m_table)
       ->setFocus();
@@ -124,31 +130,42 @@ void ExchangeDialog::choosePower() {
   m_table->finishEditing();
   if (m_power != nullptr) m_model.setPower(m_power->currentData().toByteArray().toStdString());
   m_table->selectFirst();
-  showCounts();
+  showNumbers();
   showReason();
 }
 
-void ExchangeDialog::showCounts() {
-  const ExchangeModel::Counts counts = m_model.counts();
-  QStringList parts{counted(counts.orders - counts.ofOthers, tr("order"), tr("orders")),
-                    tr("%1 unclear").arg(counts.unclear)};
-  if (counts.ofOthers > 0) parts << tr("%1 of another power").arg(counts.ofOthers);
-  m_count->setText(parts.join(QStringLiteral(", ")));
+void ExchangeDialog::showNumbers() {
+  m_summary->showLines(m_game, m_model.lines(), m_model.takenLines());
+  m_ok->setEnabled(isPowerChosen() && m_model.counts().taken > 0);
+  m_result->setText(resultText());
+}
 
+bool ExchangeDialog::isPowerChosen() const {
   // An import takes the orders of every power, so there is none to choose.
-  const bool chosen = m_power == nullptr || m_power->currentIndex() >= 0;
-  m_ok->setEnabled(chosen && counts.taken > 0);
-  const QString filed = counted(counts.taken, tr("order"), tr("orders"));
-  QStringList result{counts.replacing == 0 ? tr("OK files %1.").arg(filed)
-                                           : tr("OK files %1, %2 in place of what is in the list.")
-                                                 .arg(filed)
-                                                 .arg(counts.replacing)};
-  if (!chosen) result = QStringList{tr("Choose the power first.")};
-  const int leftOut = counts.orders - counts.taken;
-  if (counts.unclear == 1) result << tr("1 unclear line is left out.");
-  if (counts.unclear > 1) result << tr("%1 unclear lines are left out.").arg(counts.unclear);
-  if (leftOut > 0) result << tr("%1 not ticked.").arg(leftOut);
-  m_result->setText(result.join(QLatin1Char(' ')));
+  return m_power == nullptr || m_power->currentIndex() >= 0;
+}
+
+/// What OK does, and what it does not.
+QString ExchangeDialog::resultText() const {
+  if (!isPowerChosen()) return tr("Choose the power first.");
+  const ExchangeModel::Counts counts = m_model.counts();
+  QString filed = tr("No order is ticked");
+  if (counts.taken > 0) {
+    filed = tr("OK files %1").arg(counted(counts.taken, tr("order"), tr("orders")));
+    if (counts.takenDoubtful > 0) filed += tr(", %1 of them doubtful").arg(counts.takenDoubtful);
+    if (counts.replacing > 0)
+      filed += tr(", %1 in place of what is in the list").arg(counts.replacing);
+  }
+  QStringList leftOut;
+  const auto add = [&](int count, const QString& text) {
+    if (count > 0) leftOut << text.arg(count);
+  };
+  const int doubtful = counts.doubtful - counts.takenDoubtful;
+  add(counts.unclear, tr("%1 unclear"));
+  add(doubtful, tr("%1 doubtful"));
+  add(counts.orders - counts.taken - doubtful, tr("%1 not ticked"));
+  return leftOut.isEmpty() ? filed + QLatin1Char('.')
+                           : tr("%1. Left out: %2.").arg(filed, leftOut.join(QStringLiteral(", ")));
 }
 
 /// What is to be said about the current line, and how to go on.
@@ -161,7 +178,11 @@ void ExchangeDialog::showReason() {
   if (line.Kind == exchange::LineKind::Ambiguous) {
     hints << tr("A right click, or F2 in the right column, offers what it can mean.");
   }
-  if (IsUnderstood(line)) hints << tr("The space bar takes it or leaves it out.");
+  if (IsDoubtful(line)) {
+    hints << tr("It is filed only if you tick it, with the space bar.");
+  } else if (IsUnderstood(line)) {
+    hints << tr("The space bar takes it or leaves it out.");
+  }
   QString text = tr("Line %1").arg(line.Number);
   const QString reason = understood.data(Qt::ToolTipRole).toString();
   if (!reason.isEmpty()) text += QStringLiteral(": ") + reason;

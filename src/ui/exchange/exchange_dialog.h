@@ -12,6 +12,7 @@
 
 namespace orb::ui {
 
+class ExchangeSummary;
 class ExchangeTable;
 
 enum class ExchangeKind {
@@ -20,7 +21,7 @@ enum class ExchangeKind {
 };
 
 /// A text of orders before it is filed, line by line: what was written, what was understood, what
-/// is unclear. Everything can be corrected here; nothing is filed here.
+/// is unclear or doubtful. Everything can be corrected here; nothing is filed here.
 class ExchangeDialog : public QDialog {
   Q_OBJECT
 
@@ -45,13 +46,16 @@ class ExchangeDialog : public QDialog {
   void wantHelp();
   void choosePower();
   // What the labels say follows every change of the model and of the current line.
-  void showCounts();
+  void showNumbers();
+  bool isPowerChosen() const;
+  QString resultText() const;
   void showReason();
 
+  const model::GameState& m_game;
   ExchangeModel m_model;
   ExchangeTable* m_table;
   QComboBox* m_power = nullptr;  ///< only when pasting
-  QLabel* m_count;
+  ExchangeSummary* m_summary;
   QCheckBox* m_noOrders;
   QLabel* m_reason;
   QLabel* m_result;

@@ -1,16 +1,18 @@
 #include "ui/exchange/exchange_model.h"
 
+#include "orders/exchange/contradictions.h"
 #include "orders/exchange/order_files.h"
 #include "orders/order_list.h"
-#include "text/qt/text_codec.h"
+#include "ui/exchange/line_words.h"
 #include "ui/widgets/message_boxes.h"
-#include "ui/widgets/order_marks.h"
 
 #include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
 
 #include <algorithm>
+#include <array>
+#include <set>
 #include <string_view>
 
 namespace orb::ui {
@@ -25,13 +27,6 @@ std::string_view unitOf(const ReadLine& line) {
   return std::string_view(line.Order).substr(0, line.Order.find(')') + 1);
 }
 
-/// The core's faults begin with a small letter, to follow a colon; here they are sentences.
-QString sentence(const std::string& text) {
-  QString shown = displayText(text);
-  if (!shown.isEmpty()) shown[0] = shown[0].toUpper();
-  return shown;
-}
-
 /// The place of a fault in a text that begins at the offset, in characters.
 std::pair<int, int> faultIn(std::string_view text, Span fault, std::size_t offset) {
   const std::size_t start = std::min(std::max(fault.Offset, offset) - offset, text.size());
@@ -39,41 +34,6 @@ std::pair<int, int> faultIn(std::string_view text, Span fault, std::size_t offse
     return static_cast<int>(displayText(std::string(part)).size());
   };
   return {length(text.substr(0, start)), length(text.substr(start, fault.Length))};
-}
-
-OrderMark markOf(const ReadLine& line, bool doubtful) {
-  switch (line.Kind) {
-    case LineKind::Order:
-      return doubtful ? OrderMark::Doubtful : OrderMark::Passes;
-    case LineKind::Doubtful:
-      return OrderMark::Doubtful;
-    case LineKind::Waive:
-      return OrderMark::Passes;
-    case LineKind::NotUnderstood:
-    case LineKind::Ambiguous:
-      return OrderMark::Stopped;
-    default:
-      return OrderMark::None;
-  }
-}
-
-QString meaningOf(const ReadLine& line) {
-  switch (line.Kind) {
-    case LineKind::Order:
-    case LineKind::Doubtful:
-      return text::ToQString(line.Order);
-    case LineKind::Replaced:
-      return QObject::tr("replaced: %1").arg(text::ToQString(line.Order));
-    case LineKind::Waive:
-      return QObject::tr("waived, nothing to file");
-    case LineKind::Heading:
-      return line.Power.empty() ? QObject::tr("heading")
-                                : QObject::tr("heading: %1").arg(text::ToQString(line.Power));
-    case LineKind::PassedOver:
-      return QObject::tr("no order");
-    default:
-      return sentence(line.Reason);
-  }
 }
 
 }  // namespace
@@ -94,29 +54,53 @@ void ExchangeModel::setPower(const std::string& power) {
   const std::vector<Line> before = std::exchange(m_lines, {});
   for (ReadLine& read : exchange::ReadOrders(m_game, m_text, {m_power, m_repairs})) {
     if (read.Written.empty()) continue;
-    const QString written = displayText(read.Written);
-    const auto fault = faultIn(read.Written, read.ReasonPlace, read.Place.Offset);
-    const std::string context = read.Power;
+    Line& line = m_lines.emplace_back();
+    line.written = line.original = displayText(read.Written);
+    line.fault = faultIn(read.Written, read.ReasonPlace, read.Place.Offset);
+    line.power = read.Power;
+    line.subject = exchange::SubjectOf(read.Order, m_game.Stage);
     // What is doubtful, another power's orders in one power's mail too, waits for a person.
-    const bool taken = read.Kind == LineKind::Order;
-    m_lines.push_back({std::move(read), written, written, context, fault, taken});
+    line.isTaken = read.Kind == LineKind::Order;
+    line.read = std::move(read);
   }
   takeAnew(before);
+  arrangeRows();
   endResetModel();
 }
 
-/// Repeats the corrections in the text that was read again.
+/// Puts the rows in order: what needs a decision, then the rest.
+void ExchangeModel::arrangeRows() {
+  std::array<std::vector<int>, 3> groups;
+  for (std::size_t i = 0; i < m_lines.size(); ++i) {
+    const ReadLine& read = m_lines[i].read;
+    const std::size_t group = IsUnclear(read) ? 0 : needsConsent(read) ? 1 : 2;
+    groups[group].push_back(static_cast<int>(i));
+  }
+  m_rows = std::move(groups[0]);
+  m_rows.insert(m_rows.end(), groups[1].begin(), groups[1].end());
+  // Rows of one kind need no captions.
+  if (!m_rows.empty() && !groups[2].empty()) {
+    m_rows.insert(m_rows.begin(), CaptionRow);
+    m_rows.push_back(CaptionRow);
+  }
+  m_rows.insert(m_rows.end(), groups[2].begin(), groups[2].end());
+}
+
+/// Repeats the corrections in the text that was read again, and leaves out what was unticked.
 void ExchangeModel::takeAnew(const std::vector<Line>& before) {
   bool any = false;
   for (const Line& old : before) {
-    if (old.written == old.original) continue;
+    const bool isCorrected = old.written != old.original;
+    if (!isCorrected && !old.isLeftOut) continue;
     // Another power may change what a line means, but not where it stands in the text.
     const auto same = std::find_if(m_lines.begin(), m_lines.end(), [&](const Line& line) {
       return line.read.Place.Offset == old.read.Place.Offset;
     });
     if (same == m_lines.end()) continue;
-    rewrite(*same, old.written);
-    any = true;
+    if (isCorrected) rewrite(*same, old.written);
+    if (old.isLeftOut) same->isTaken = false;
+    same->isLeftOut = old.isLeftOut;
+    any = any || isCorrected;
   }
   if (any) readUnclearAgain();
 }
@@ -138,9 +122,11 @@ void ExchangeModel::rewrite(Line& line, const QString& text) {
   const Span place = line.read.Place;
   line.read = read(line, text);
   line.fault = faultIn(text.toStdString(), line.read.ReasonPlace, 0);
-  line.read.Place = place;
+  line.read.Place = line.read.ReasonPlace = place;
   line.written = text;
-  line.taken = line.read.Kind == LineKind::Order && !isOfOther(line.read);
+  line.subject = exchange::SubjectOf(line.read.Order, m_game.Stage);
+  line.isTaken = line.isLeftOut = false;
+  if (IsUnderstood(line.read) && !needsConsent(line.read)) take(line);
 }
 
 /// What a support can mean depends on the other lines.
@@ -150,8 +136,25 @@ void ExchangeModel::readUnclearAgain() {
   }
 }
 
+void ExchangeModel::take(Line& line) {
+  line.isTaken = true;
+  line.isLeftOut = false;
+  // Both in the list would mean that the later one holds, whichever was meant.
+  for (Line& other : m_lines) {
+    if (other.subject == line.subject && other.read.Order != line.read.Order) other.isTaken = false;
+  }
+}
+
+const ExchangeModel::Line* ExchangeModel::rivalOf(const Line& line) const {
+  const auto rival = std::ranges::find_if(m_lines, [&](const Line& other) {
+    return other.isTaken && other.subject == line.subject && other.read.Order != line.read.Order;
+  });
+  return rival == m_lines.end() ? nullptr : &*rival;
+}
+
 void ExchangeModel::tryText(int row, const QString& text) {
   m_trial.emplace(row, read(at(row), text));
+  m_trial->second.ReasonPlace = m_trial->second.Place = at(row).read.Place;
   emitMeaning(row);
 }
 
@@ -169,6 +172,8 @@ void ExchangeModel::emitMeaning(int row) {
 }
 
 const ReadLine& ExchangeModel::line(int row) const {
+  static const ReadLine caption;
+  if (isCaption(row)) return caption;
   return m_trial && m_trial->first == row ? m_trial->second : at(row).read;
 }
 
@@ -177,32 +182,38 @@ bool ExchangeModel::isNoOrder(int row) const {
 }
 
 std::string ExchangeModel::powerOfText() const {
-  std::vector<ReadLine> lines;
-  for (const Line& line : m_lines)
-    lines.push_back(line.read);
-  return exchange::PowerOf(lines);
+  return exchange::PowerOf(lines());
 }
 
 ExchangeModel::Counts ExchangeModel::counts() const {
   Counts counts;
-  for (int row = 0; row < rowCount(); ++row) {
-    const Line& line = at(row);
-    const bool order = IsUnderstood(line.read);
-    counts.orders += order ? 1 : 0;
+  std::set<std::string_view> replacing;
+  for (const Line& line : m_lines) {
     counts.unclear += IsUnclear(line.read) ? 1 : 0;
-    counts.ofOthers += isOfOther(line.read) ? 1 : 0;
-    counts.taken += order && line.taken ? 1 : 0;
-    // Of several orders of one unit only the last takes the place of the one in the list.
-    const bool isLast = order && line.taken && !isRepeatedBelow(row);
-    counts.replacing += isLast && isReplacing(line.read) ? 1 : 0;
+    if (!IsUnderstood(line.read)) continue;
+    const int doubtful = needsConsent(line.read) ? 1 : 0;
+    ++counts.orders;
+    counts.doubtful += doubtful;
+    if (!line.isTaken) continue;
+    ++counts.taken;
+    counts.takenDoubtful += doubtful;
+    if (isReplacing(line.read)) replacing.insert(unitOf(line.read));
   }
+  counts.replacing = static_cast<int>(replacing.size());
   return counts;
+}
+
+std::vector<ReadLine> ExchangeModel::lines() const {
+  std::vector<ReadLine> lines;
+  for (const Line& line : m_lines)
+    lines.push_back(line.read);
+  return lines;
 }
 
 std::vector<ReadLine> ExchangeModel::takenLines() const {
   std::vector<ReadLine> lines;
   for (const Line& line : m_lines) {
-    if (IsUnderstood(line.read) && line.taken) lines.push_back(line.read);
+    if (IsUnderstood(line.read) && line.isTaken) lines.push_back(line.read);
   }
   // Whoever ticked a doubtful order has consented to it.
   exchange::AcceptDoubtful(lines);
@@ -213,11 +224,8 @@ bool ExchangeModel::isOfOther(const ReadLine& line) const {
   return IsUnderstood(line) && !m_power.empty() && line.Power != m_power;
 }
 
-bool ExchangeModel::isRepeatedBelow(int row) const {
-  const std::string_view unit = unitOf(line(row));
-  return std::any_of(m_lines.begin() + row + 1, m_lines.end(), [&](const Line& below) {
-    return IsUnderstood(below.read) && below.taken && unitOf(below.read) == unit;
-  });
+bool ExchangeModel::needsConsent(const ReadLine& line) const {
+  return IsDoubtful(line) || isOfOther(line);
 }
 
 bool ExchangeModel::isReplacing(const ReadLine& line) const {
@@ -227,18 +235,34 @@ bool ExchangeModel::isReplacing(const ReadLine& line) const {
   });
 }
 
+/// The reason, with the line that it speaks of if that is another one.
+QString ExchangeModel::reasonOf(const ReadLine& line) const {
+  const QString reason = displayText(line.Reason);
+  int number = line.Number;
+  for (const Line& other : m_lines) {
+    if (other.read.Place.Offset <= line.ReasonPlace.Offset) number = other.read.Number;
+  }
+  return reason.isEmpty() || number == line.Number ? reason
+                                                   : tr("%1 (line %2)").arg(reason).arg(number);
+}
+
 /// Why an order that was understood may not be wanted; empty when nothing is known against it.
-QString ExchangeModel::doubt(int row, const ReadLine& line) const {
-  if (!IsUnderstood(line)) return {};
-  QStringList doubts;
-  if (isOfOther(line) && !IsDoubtful(line)) doubts << tr("of another power");
-  if (!line.Reason.empty()) doubts << displayText(line.Reason);
-  if (isRepeatedBelow(row)) doubts << tr("ordered again below");
-  return doubts.join(QStringLiteral("; "));
+QString ExchangeModel::objection(int row) const {
+  const ReadLine& shown = line(row);
+  if (shown.Kind == LineKind::Replaced) return reasonOf(shown);
+  if (!IsUnderstood(shown)) return {};
+  QStringList objections;
+  if (isOfOther(shown) && !IsDoubtful(shown)) objections << tr("of another power");
+  if (!shown.Reason.empty()) objections << reasonOf(shown);
+  // A doubtful order's reason says what the text orders otherwise.
+  const Line* rival =
+      shown.Kind == LineKind::Order && !at(row).isTaken ? rivalOf(at(row)) : nullptr;
+  if (rival != nullptr) objections << tr("line %1 is taken instead").arg(rival->read.Number);
+  return objections.join(QStringLiteral("; "));
 }
 
 int ExchangeModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(m_lines.size());
+  return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
 }
 
 int ExchangeModel::columnCount(const QModelIndex& parent) const {
@@ -248,34 +272,66 @@ int ExchangeModel::columnCount(const QModelIndex& parent) const {
 QVariant ExchangeModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   const int row = index.row();
+  if (isCaption(row)) return index.column() == 0 ? captionData(row, role) : QVariant();
   if (role == Qt::ForegroundRole) {
     const LineKind kind = line(row).Kind;
-    // Headings and remarks are subdued, so that orders stand out.
-    const bool aside = kind == LineKind::PassedOver || kind == LineKind::Heading;
+    // What is not to be filed is subdued, so that orders stand out.
+    const bool aside =
+        kind == LineKind::PassedOver || kind == LineKind::Heading || kind == LineKind::Replaced;
     return aside ? QVariant(QGuiApplication::palette().brush(QPalette::PlaceholderText))
                  : QVariant();
   }
-  if (index.column() == Understood) return understoodData(row, role);
-  if (index.column() == Written) return writtenData(row, role);
-  // The first column has a box to tick where there is an order to take, and nothing elsewhere.
+  switch (index.column()) {
+    case Take:
+      return takeData(row, role);
+    case Written:
+      return writtenData(row, role);
+    default:
+      return understoodData(row, role);
+  }
+}
+
+QVariant ExchangeModel::captionData(int row, int role) const {
+  switch (role) {
+    case Qt::DisplayRole:
+      return row == 0 ? tr("To be decided") : tr("Clear");
+    case Qt::ForegroundRole:
+      return QGuiApplication::palette().brush(QPalette::ButtonText);
+    case Qt::BackgroundRole:
+      return QGuiApplication::palette().brush(QPalette::Button);
+    case Qt::FontRole: {
+      QFont font = QGuiApplication::font();
+      font.setBold(true);
+      return font;
+    }
+    default:
+      return {};
+  }
+}
+
+/// A box to tick where there is an order to take, and nothing elsewhere.
+QVariant ExchangeModel::takeData(int row, int role) const {
   if (!IsUnderstood(line(row))) return {};
-  if (role == Qt::CheckStateRole) return at(row).taken ? Qt::Checked : Qt::Unchecked;
-  if (role == Qt::AccessibleTextRole) return at(row).taken ? tr("taken") : tr("left out");
+  if (role == Qt::CheckStateRole) return at(row).isTaken ? Qt::Checked : Qt::Unchecked;
+  if (role == Qt::AccessibleTextRole) return at(row).isTaken ? tr("taken") : tr("left out");
   return {};
 }
 
 QVariant ExchangeModel::understoodData(int row, int role) const {
   const ReadLine& shown = line(row);
-  const QString against = doubt(row, shown);
+  const QString against = objection(row);
+  const OrderMark mark = markOf(shown, !against.isEmpty());
   switch (role) {
     case Qt::DisplayRole:
       return against.isEmpty() ? meaningOf(shown) : tr("%1  (%2)").arg(meaningOf(shown), against);
     case Qt::EditRole:
       return meaningOf(shown);
     case Qt::ToolTipRole:
-      return against.isEmpty() ? sentence(shown.Reason) : against;
+      return sentence(against.isEmpty() ? displayText(shown.Reason) : against);
+    case Qt::AccessibleDescriptionRole:
+      return markText(mark);
     case OrderMarkRole:
-      return static_cast<int>(markOf(shown, !against.isEmpty()));
+      return static_cast<int>(mark);
     default:
       return {};
   }
@@ -295,11 +351,14 @@ QVariant ExchangeModel::writtenData(int row, int role) const {
 }
 
 bool ExchangeModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+  if (isCaption(index.row())) return false;
   Line& line = at(index.row());
   // What was tried is now either set or given up.
   m_trial.reset();
   if (index.column() == Take && role == Qt::CheckStateRole) {
-    line.taken = value.toInt() == Qt::Checked;
+    line.isTaken = value.toInt() == Qt::Checked;
+    line.isLeftOut = !line.isTaken;
+    if (line.isTaken) take(line);
   } else if (role == Qt::EditRole && value.toString() != line.written) {
     rewrite(line, value.toString());
     readUnclearAgain();
@@ -309,6 +368,8 @@ bool ExchangeModel::setData(const QModelIndex& index, const QVariant& value, int
 }
 
 Qt::ItemFlags ExchangeModel::flags(const QModelIndex& index) const {
+  // Keys and clicks pass over a caption.
+  if (isCaption(index.row())) return Qt::NoItemFlags;
   const Qt::ItemFlags shown = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
   const LineKind kind = line(index.row()).Kind;
   switch (index.column()) {
@@ -323,7 +384,8 @@ Qt::ItemFlags ExchangeModel::flags(const QModelIndex& index) const {
 
 QVariant ExchangeModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (role != Qt::DisplayRole) return QAbstractTableModel::headerData(section, orientation, role);
-  if (orientation == Qt::Vertical) return at(section).read.Number;
+  if (orientation == Qt::Vertical)
+    return isCaption(section) ? QVariant(QString()) : at(section).read.Number;
   switch (section) {
     case Take:
       return tr("Take");

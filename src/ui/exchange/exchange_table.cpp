@@ -124,19 +124,26 @@ void ExchangeTable::showNoOrders(bool shown) {
 }
 
 void ExchangeTable::applyHiding() {
-  for (int row = 0; row < m_model.rowCount(); ++row)
-    setRowHidden(row, !m_noOrdersShown && m_model.isNoOrder(row));
+  clearSpans();
+  bool anyBelow = false;
+  for (int row = m_model.rowCount() - 1; row >= 0; --row) {
+    const bool caption = m_model.isCaption(row);
+    const bool hidden = caption ? !anyBelow : !m_noOrdersShown && m_model.isNoOrder(row);
+    setRowHidden(row, hidden);
+    anyBelow = !caption && (anyBelow || !hidden);
+    if (caption) setSpan(row, 0, 1, ExchangeModel::ColumnCount);
+  }
 }
 
 void ExchangeTable::selectFirst() {
-  int first = -1;
-  // From the end, so that an unclear line further up replaces what was found below.
-  for (int row = m_model.rowCount() - 1; row >= 0; --row) {
-    if (isRowHidden(row)) continue;
-    const bool unclear = IsUnclear(m_model.line(row));
-    if (unclear || first < 0 || !IsUnclear(m_model.line(first))) first = row;
+  int first = 0;
+  while (first < m_model.rowCount() && (isRowHidden(first) || m_model.isCaption(first)))
+    ++first;
+  if (first < m_model.rowCount()) {
+    setCurrentIndex(m_model.index(first, ExchangeModel::Written));
+    // The caption above it is not current and would stay out of sight.
+    scrollToTop();
   }
-  if (first >= 0) setCurrentIndex(m_model.index(first, ExchangeModel::Written));
 }
 
 /// An editor that loses the keyboard hands over its text.
@@ -173,7 +180,7 @@ void ExchangeTable::contextMenuEvent(QContextMenuEvent* event) {
   // The menu key has no place of its own on the screen: the menu comes up below the line.
   const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
   const QModelIndex at = byKey ? currentIndex() : indexAt(event->pos());
-  if (!at.isValid()) return;
+  if (!at.isValid() || m_model.isCaption(at.row())) return;
   const int row = at.row();
   const QRect cell = visualRect(m_model.index(row, ExchangeModel::Understood));
   QMenu menu(this);

@@ -18,7 +18,7 @@ class ExchangeTable : public QTableView {
   /// Whether lines that are no orders are shown too.
   void showNoOrders(bool shown);
 
-  /// Selects the first line that is unclear; the first one shown when all are clear.
+  /// Selects the first line that is shown: one that needs a decision if any does.
   void selectFirst();
 
   /// Takes over what is still being written: the buttons must not work on the text from before.
@@ -32,8 +32,8 @@ class ExchangeTable : public QTableView {
  private:
   void editWritten(int row);
   void toggle(int row);
-  /// Hides the lines that are no orders, or shows them; again after the model has read the text
-  /// anew.
+  /// Hides the lines that are no orders, or shows them, and spreads the captions over the columns;
+  /// again after the model has read the text anew.
   void applyHiding();
 
   ExchangeModel& m_model;
