@@ -2,9 +2,9 @@
 
 #include "model/errors.h"
 #include "model/files.h"
+#include "model/modules.h"
 #include "text/encoding.h"
 
-#include <dlfcn.h>
 #include <system_error>
 
 namespace orb::cli {
@@ -16,14 +16,9 @@ void DrawMap(const MapRequest& request) {
     throw model::FatalError("Maps are drawn by " + text::NameInText(file.string()) +
                             ", which is missing.");
   }
-  // Never closed: the toolkit that it brings along does not survive that.
-  void* const module = ::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
-  void* const symbol = module == nullptr ? nullptr : ::dlsym(module, DrawFunctionName);
-  if (symbol == nullptr) {
-    throw model::FatalError("Maps cannot be drawn: " + std::string(::dlerror()) + ".");
-  }
+  void* const function = model::ModuleFunction(file, DrawFunctionName, "Maps cannot be drawn");
   std::string error;
-  if (!reinterpret_cast<DrawFunction*>(symbol)(request, error)) throw model::FatalError(error);
+  if (!reinterpret_cast<DrawFunction*>(function)(request, error)) throw model::FatalError(error);
 }
 
 }  // namespace orb::cli

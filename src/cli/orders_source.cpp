@@ -2,8 +2,8 @@
 
 #include "model/country.h"
 #include "model/files.h"
-#include "orders/exchange/order_files.h"
 #include "session/commands.h"
+#include "session/incoming_text.h"
 #include "text/strings.h"
 
 #include <system_error>
@@ -57,8 +57,9 @@ std::vector<exchange::ReadLine> OrdersSource::Take(session::Situation& situation
     return {};
   }
   if (!repairs_) repairs_ = exchange::ReadTextRepairs(data_);
-  text = exchange::OrdersFileText(std::move(text), paths.Orders.string());
-  return session::ReplaceOrdersByText(situation, text, {power_, *repairs_}, doubtful_);
+  const session::IncomingText incoming =
+      session::ReadIncomingText(std::move(text), paths.Orders.string());
+  return session::ReplaceOrdersByText(situation, incoming.Text, {power_, *repairs_}, doubtful_);
 }
 
 }  // namespace orb::cli

@@ -43,6 +43,23 @@ TEST(Loose, OrdersAreFiledLikeTypedOnesAndUnclearLinesAreAskedAbout) {
       << "read to the letter without the option";
 }
 
+TEST(Loose, MailsAreReadAsTheyWereSentOrRefusedWithASentence) {
+  const Shell shell;
+  shell.Write("a.orb", ThreeUnits());
+  const std::string line = "From tom@example.org Mon Jan  1 10:00:00 2024\n";
+  const std::string head = "From: Tom <tom@example.org>\nContent-Transfer-Encoding: ";
+  shell.Write("o.mbox", line + head + "quoted-printable\n\nFRANCE:\nA Par =E2=86=\n=92 Bur\n\n" +
+                            line + head + "base64\n\nQSBNdW4gLSBSdWgK\n");
+  const Outcome outcome = shell.Run("resolve --loose --yes --orders @o.mbox -o @b.orb @a.orb");
+  if (std::filesystem::exists(model::ProgramDirectory() / "orbmail.so")) {
+    EXPECT_EQ(outcome.Out,
+              "  FRA A(Par) - Bur  \n  GER A(Mun) - Ruh  \n  FRA F(Bre) unordered; hold  \n");
+  } else {
+    EXPECT_EQ(outcome.Status, 1);
+    EXPECT_THAT(outcome.Err, HasSubstr("built without GMime"));
+  }
+}
+
 TEST(Loose, PowerIsThatOfLinesThatNameNone) {
   const Shell shell;
   shell.Write("a.orb", ThreeUnits());

@@ -1,7 +1,7 @@
 #include "orders/exchange/plain_text.h"
 
-#include "orders/exchange/references.h"
 #include "text/encoding.h"
+#include "text/references.h"
 #include "text/utf8.h"
 #include "text/windows_1252.h"
 
@@ -104,7 +104,7 @@ PlainText ToPlain(std::string_view line, std::size_t offset, References referenc
   plain.Origins.reserve(line.size());
   while (!line.empty()) {
     std::string_view rest = line;
-    auto meant = references == References::Read ? NextReference(rest) : std::nullopt;
+    auto meant = references == References::Read ? text::NextReference(rest) : std::nullopt;
     const bool isReference = meant.has_value();
     if (!meant) meant = NextMistaken(rest, isUtf8);
     const char32_t character = meant ? *meant : NextCharacter(rest, isUtf8);

@@ -37,6 +37,7 @@ class TextReader {
     const char* const begin = text.data();
     while (!text.empty()) {
       const std::string_view bytes = text::NextLine(text);
+      if (bytes == TextSeparator) StartAnew();
       SourceLine line = CutLine(++number, bytes, static_cast<std::size_t>(bytes.data() - begin),
                                 options_.Repairs);
       const std::size_t before = lines_.size();
@@ -70,6 +71,14 @@ class TextReader {
   }
 
  private:
+  void StartAnew() {
+    context_ = {model::FindCountry(options_.Power), Verb::None};
+    inSignature_ = false;
+    quotations_ = {};
+    setAside_.clear();
+    setAsidePower_ = 0;
+  }
+
   static Tokens PartOf(const SourceLine& line, TokenRange range) {
     return Tokens(line.All).subspan(range.Begin, range.End - range.Begin);
   }

@@ -14,6 +14,11 @@ namespace orb::exchange {
 /// The longest text that is read, in bytes; what is longer is no mail with orders.
 constexpr std::size_t TextBound = 500'000;
 
+/// A line of this alone ends one text and begins another, as of two mails: what headings,
+/// quotations and the like say holds up to it. Orders for one unit on both sides still contradict
+/// each other.
+constexpr std::string_view TextSeparator = "\f";
+
 struct ReadingOptions {
   std::string Power;  ///< abbreviation of the power of lines that name none; empty: whose units
                       ///< and centres they are

@@ -1,4 +1,4 @@
-#include "orders/exchange/references.h"
+#include "text/references.h"
 
 #include "text/windows_1252.h"
 
@@ -6,7 +6,7 @@
 #include <array>
 #include <charconv>
 
-namespace orb::exchange {
+namespace orb::text {
 namespace {
 
 struct Named {
@@ -48,7 +48,7 @@ std::optional<char32_t> Numbered(std::string_view digits) {
   const bool isSurrogate = number >= 0xD800 && number < 0xE000;
   if (read.ec != std::errc() || read.ptr != end || isSurrogate || number > 0x10FFFF) return {};
   const bool isCode = number >= 0x80 && number < 0xA0;
-  return isCode ? text::CharacterOf(static_cast<unsigned char>(number)) : number;
+  return isCode ? CharacterOf(static_cast<unsigned char>(number)) : number;
 }
 
 std::optional<char32_t> CalledSo(std::string_view name) {
@@ -72,4 +72,4 @@ std::optional<char32_t> NextReference(std::string_view& text) {
   return character;
 }
 
-}  // namespace orb::exchange
+}  // namespace orb::text
