@@ -70,16 +70,27 @@ void CheckLine(std::string_view text, const ReadLine& line) {
   Require(IsInside(line.Place, text), "the place is outside", line);
   Require(text.substr(line.Place.Offset, line.Place.Length) == line.Written, "not there", line);
   Require(IsInside(line.ReasonPlace, text), "the reason is outside", line);
-  Require((line.Kind == LineKind::Order) == !line.Order.empty(), "an order in vain", line);
-  Require(!IsUnclear(line) || !line.Reason.empty(), "no reason", line);
+  const bool isOrder = IsUnderstood(line) || line.Kind == LineKind::Replaced;
+  Require(isOrder == !line.Order.empty(), "an order in vain", line);
+  const bool needsReason = IsUnclear(line) || IsDoubtful(line) || line.Kind == LineKind::Replaced;
+  Require(!needsReason || !line.Reason.empty(), "no reason", line);
   Require((line.Kind == LineKind::Ambiguous) == (line.Candidates.size() > 1), "candidates", line);
+}
+
+/// What is sure stays sure when it is read alone: nothing around it made it so, and nothing else in
+/// its line speaks against it.
+void ReadAlone(const model::GameState& game, const ReadLine& line,
+               const exchange::ReadingOptions& options, const std::vector<ReadLine>& lines) {
+  if (line.Kind != LineKind::Order) return;
+  const ReadLine alone = exchange::ReadOrder(game, line.Order, options, lines);
+  Require(alone.Kind == LineKind::Order && alone.Order == line.Order, "unsure alone", line);
 }
 
 /// Every order and candidate must read as itself.
 void ReadAgain(const model::GameState& game, const std::vector<ReadLine>& lines) {
   std::vector<std::string> orders;
   for (const ReadLine& line : lines) {
-    if (line.Kind == LineKind::Order) orders.push_back(line.Order);
+    if (!line.Order.empty()) orders.push_back(line.Order);
     orders.insert(orders.end(), line.Candidates.begin(), line.Candidates.end());
   }
   std::string text;
@@ -99,6 +110,7 @@ void ReadAll(model::GameState game, std::string_view text,
     Require(line.Number == number || line.Number == number + 1, "a line is missing", line);
     number = line.Number;
     CheckLine(text, line);
+    ReadAlone(game, line, options, lines);
   }
   ReadAgain(game, lines);
   CheckLine(text, exchange::ReadOrder(game, text, options, lines));

@@ -196,6 +196,23 @@ TEST(WrittenStyles, EveryOrderReadsBackAsItself) {
   }
 }
 
+TEST(WrittenStyles, NoOrderIsSureNextToWordsThatMayChangeIt) {
+  Writer writer(1903);
+  for (int round = 0; round < 600; ++round) {
+    model::GameState game = EmptyBoard("Autumn", "moves");
+    const PlainOrder order = AnyOrder(writer, game, model::Stage::Moves);
+    if (OnlyExact(game, order)) continue;
+    const std::string written =
+        Written(writer, order, true) +
+        writer.Any({" (tentative)", " (I mean Pic)", " # draft", " (?)", ", see below", " (or so)",
+                    " -- this is only a first idea", " (2nd choice)", " unless Tom objects",
+                    " (Tom will tell you)", " [EDIT: Ukr]", " // waiting for Anna",
+                    " \xE2\x9D\x8C"});
+    for (const auto& line : exchange::ReadOrders(game, written, {}))
+      EXPECT_NE(line.Kind, LineKind::Order) << written;
+  }
+}
+
 /// Whether two of the units that the orders name stand in one place.
 bool IsCrowded(const model::GameState& game) {
   for (const Unit& unit : game.Units) {
