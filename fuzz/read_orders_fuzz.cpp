@@ -34,15 +34,15 @@ void Require(bool holds, std::string_view what, const ReadLine& line) {
 /// Two units in one place, fleets on and off their coasts, and what no good file holds.
 void Crowd(model::GameState& game) {
   const std::array<model::Unit, 9> units{{
-      {"FRA", "A", "Bur", "dislodged", "Mun", "", 0},
-      {"GER", "A", "Bur", "", "", "", 0},
-      {"FRA", "F", "Spa.n", "", "", "", 0},
-      {"ITA", "F", "Spa.s", "dislodged", "WES", "", 0},
-      {"TUR", "F", "Bul", "dislodged", "AEG", "", 0},
-      {"AUS", "A", "NTH", "", "", "", 0},
-      {"XXX", "F", "MAO", "", "", "", 0},
-      {"ENG", "", "Wal", "", "", "", 0},
-      {"RUS", "Fleet", "Nowhere", "dislodged", "", "", 0},
+      {"FRA", "A", "Bur", "dislodged", "Mun", ""},
+      {"GER", "A", "Bur", "", "", ""},
+      {"FRA", "F", "Spa.n", "", "", ""},
+      {"ITA", "F", "Spa.s", "dislodged", "WES", ""},
+      {"TUR", "F", "Bul", "dislodged", "AEG", ""},
+      {"AUS", "A", "NTH", "", "", ""},
+      {"XXX", "F", "MAO", "", "", ""},
+      {"ENG", "", "Wal", "", "", ""},
+      {"RUS", "Fleet", "Nowhere", "dislodged", "", ""},
   }};
   for (const model::Unit& unit : units)
     game.Units.Append(unit);

@@ -1,5 +1,6 @@
 #include "cli/console.h"
 
+#include "model/errors.h"
 #include "text/encoding.h"
 
 #include <algorithm>
@@ -31,6 +32,10 @@ std::string OnOneLine(std::string_view text) {
 void Console::Print(std::string_view bytes) {
   ClearProgress();
   out_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+}
+
+void Console::Deliver() {
+  if (!out_.flush()) throw model::FileError("The standard output could not be written.");
 }
 
 void Console::Say(std::string_view subject, std::string_view text) {

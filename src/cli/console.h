@@ -24,6 +24,9 @@ class Console {
   /// Writes bytes to standard output.
   void Print(std::string_view bytes);
 
+  /// Brings everything that was printed to where it goes; throws FileError where it cannot.
+  void Deliver();
+
   /// One line on standard error: the subject, ": ", the text with every line break as one blank.
   void Say(std::string_view subject, std::string_view text);
 

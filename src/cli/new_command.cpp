@@ -32,6 +32,7 @@ int Execute(const CommandLine& line, Console& console) {
   std::optional<std::string> title;
   if (line.Has(OptionId::Title)) title = TitleBytes(*line.Value(OptionId::Title));
   const std::filesystem::path data = DataDirectory(line);
+  CheckNoDataFile(file, data);
   const bool done = Attempt(console, file, [&] {
     session::Situation situation{model::EmptyGame(model::LoadMap(data))};
     line.Has(OptionId::Blank) ? session::BlankGame(situation, data)

@@ -4,6 +4,7 @@
 #include "model/files.h"
 
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <map>
 #include <system_error>
@@ -13,6 +14,11 @@ namespace orb::cli {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// What the program itself reads: whoever writes over one of them breaks it for all games.
+constexpr std::array<std::string_view, 12> DataFiles{
+    "prov.dat", "conna.dat",   "connf.dat", "fixnames.dat", "start.dat",   "fixpaste.dat",
+    "map.bmp",  "mapgrey.bmp", "mapbw.bmp", "maphit.bmp",   "orbhelp.txt", "orb.ini"};
 
 bool IsDirectory(const fs::path& path) {
   std::error_code ignored;
@@ -92,7 +98,7 @@ class FileNames {
 /// Refuses a plan in which a file would be written twice, or be read after it has been written:
 /// either way somebody would lose what they wanted. It runs before the first game is read, so that
 /// nothing has been done when it throws.
-void CheckOverlaps(const std::vector<GamePaths>& plan, bool mayReplace) {
+void CheckOverlaps(const std::vector<GamePaths>& plan, bool mayReplace, const fs::path& data) {
   FileNames names;
   std::unordered_set<std::string> written;
   std::vector<std::string> read;
@@ -113,6 +119,10 @@ void CheckOverlaps(const std::vector<GamePaths>& plan, bool mayReplace) {
     addText(paths.Report);
     addText(paths.Reasons);
     if (!paths.Orders.empty()) read.push_back(names.Of(paths.Orders));
+  }
+  if (!written.empty()) {
+    for (const std::string_view file : DataFiles)
+      read.push_back(names.Of((data / file).string()));
   }
   // Compared only now that all outputs are known: a later game may be written over an earlier one.
   std::erase_if(read, [&](const std::string& name) { return !written.contains(name); });
@@ -145,8 +155,18 @@ std::vector<GamePaths> PlanPaths(const CommandLine& line) {
     paths.OrdersMayLack = orders.InDirectory();
   }
   const auto options = line.Verb->Options;
-  CheckOverlaps(plan, std::ranges::find(options, OptionId::InPlace) != options.end());
+  CheckOverlaps(plan, std::ranges::find(options, OptionId::InPlace) != options.end(),
+                DataDirectory(line));
   return plan;
+}
+
+void CheckNoDataFile(const fs::path& output, const fs::path& data) {
+  FileNames names;
+  const std::string written = names.Of(output.string());
+  const bool isData = std::ranges::any_of(DataFiles, [&](std::string_view file) {
+    return names.Of((data / file).string()) == written;
+  });
+  if (isData) throw UsageError(output.string() + " is one of the program's own data files.");
 }
 
 fs::path DataDirectory(const CommandLine& line) {

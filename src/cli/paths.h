@@ -30,6 +30,9 @@ bool IsDevice(const std::filesystem::path& path);
 /// may be.
 std::vector<GamePaths> PlanPaths(const CommandLine& line);
 
+/// Refuses by a UsageError to write over a data file in the directory.
+void CheckNoDataFile(const std::filesystem::path& output, const std::filesystem::path& data);
+
 /// Where the data files lie. Throws UsageError when --data names no directory.
 std::filesystem::path DataDirectory(const CommandLine& line);
 

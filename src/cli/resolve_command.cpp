@@ -38,13 +38,15 @@ int Execute(const CommandLine& line, Console& console) {
     const std::string reasons = JoinLines(at.Situation.Notes, &session::ReportNote::Reason);
     const bool printsReport = at.Paths.Report.empty() || at.Paths.Report == StandardOutput;
     const bool printsReasons = at.Paths.Reasons == StandardOutput;
-    const std::string resolved = model::FormatGameFile(at.Situation.Game);
-    // The game file comes last: a resolved game without its report could not be resolved again.
+    model::Replacement game(at.Paths.Output, model::FormatGameFile(at.Situation.Game));
+    // The game takes its place last, when all else has arrived: a resolved game without its report
+    // could not be resolved again.
     if (!printsReport) WriteText(at.Paths.Report, report);
     if (!printsReasons && !at.Paths.Reasons.empty()) WriteText(at.Paths.Reasons, reasons);
-    model::ReplaceFile(at.Paths.Output, resolved);
     if (printsReport) PrintUnderHeading(console, plan, at.Paths, report);
     if (printsReasons) console.Print(reasons);
+    console.Deliver();
+    game.Commit();
     // Somebody wrote these orders, and they were not carried out: that must not go unnoticed.
     return std::ranges::none_of(leftOut, exchange::IsDoubtful);
   });

@@ -33,8 +33,9 @@ int Run(std::span<const std::string> arguments, std::ostream& out, std::ostream&
   Console console(out, err, errIsTerminal);
   try {
     const int status = Execute(ParseCommandLine(arguments, Commands), console);
-    // A full disk or a closed pipe may show only when the last bytes go out.
-    if (out.flush()) return status;
+    // A full disk or a closed pipe may show only when the last bytes go out; a game may have told
+    // it before.
+    if (out.flush() || status != ExitDone) return status;
     console.Say("orbctl", "The standard output could not be written.");
     return ExitRefused;
   } catch (const UsageError& error) {

@@ -114,24 +114,38 @@ std::string ReadFile(const fs::path& path) {
   }
 }
 
-void ReplaceFile(const fs::path& path, std::string_view bytes) {
+Replacement::Replacement(const fs::path& path, std::string_view bytes) : path_(path) {
   const Target target = FindTarget(path);
   CheckReplaceable(target);
+  target_ = target.Path;
   // In the same directory: a file can be renamed within its file system only.
-  std::string beside(DirectoryPrefix(target.Path));
+  std::string beside(DirectoryPrefix(target_));
   beside += ".orb-XXXXXX";
   Descriptor file(::mkostemp(beside.data(), O_CLOEXEC));
-  if (file.Number() < 0) Fail("write", path, errno);
+  if (file.Number() < 0) Fail("write", path_, errno);
   // Flushed before it is renamed, or a power failure could leave an empty file under the name.
   const bool written = WriteAll(file.Number(), bytes) &&
                        ::fchmod(file.Number(), FileMode(target)) == 0 &&
-                       ::fsync(file.Number()) == 0 && file.Close() &&
-                       ::rename(beside.c_str(), target.Path.c_str()) == 0;
+                       ::fsync(file.Number()) == 0 && file.Close();
   if (!written) {
     const int error = errno;
     ::unlink(beside.c_str());
-    Fail("write", path, error);
+    Fail("write", path_, error);
   }
+  written_ = std::move(beside);
+}
+
+Replacement::~Replacement() {
+  if (!written_.empty()) ::unlink(written_.c_str());
+}
+
+void Replacement::Commit() {
+  if (::rename(written_.c_str(), target_.c_str()) != 0) Fail("write", path_, errno);
+  written_.clear();
+}
+
+void ReplaceFile(const fs::path& path, std::string_view bytes) {
+  Replacement(path, bytes).Commit();
 }
 
 bool CanReplaceFile(const fs::path& path) {

@@ -9,9 +9,28 @@ namespace orb::model {
 /// The whole contents of a file. Throws FileError with the system's reason.
 std::string ReadFile(const std::filesystem::path& path);
 
-/// Replaces a file whole or not at all: writes beside it, flushes to disk, renames over it. On
-/// failure throws FileError with the system's reason; the old file stays and nothing lies beside
-/// it. A link is followed; anything but an ordinary file is refused.
+/// The new contents of a file, written next to it and flushed to disk, that take its place at
+/// Commit. Where they are dropped before, the old file stays and nothing lies next to it. All but
+/// the renaming is done by then, so that what must come between can still stop it.
+class Replacement {
+ public:
+  /// Throws FileError with the system's reason. A link is followed; anything but an ordinary file
+  /// is refused.
+  Replacement(const std::filesystem::path& path, std::string_view bytes);
+  Replacement(const Replacement&) = delete;
+  Replacement& operator=(const Replacement&) = delete;
+  ~Replacement();
+
+  /// Takes the old file's place; throws FileError. To be called once.
+  void Commit();
+
+ private:
+  std::filesystem::path path_;    ///< as given, for error texts
+  std::filesystem::path target_;  ///< links followed
+  std::string written_;           ///< the file with the new contents; empty once it took its place
+};
+
+/// Replaces a file whole or not at all, as a Replacement that is committed at once.
 void ReplaceFile(const std::filesystem::path& path, std::string_view bytes);
 
 /// Whether ReplaceFile may write the file, as far as permissions tell.

@@ -1,10 +1,13 @@
 #include "cli/orders_source.h"
+#include "cli/run.h"
 #include "cli/shell.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
+#include <sstream>
 
 namespace orb::tests {
 namespace {
@@ -195,6 +198,19 @@ TEST(Games, AreReplacedWholeOrNotAtAll) {
   shell.Write("a.orb", quoted);
   EXPECT_EQ(shell.Run("resolve --yes --in-place --report @r.txt @a.orb").Status, 1);
   EXPECT_EQ(shell.Read("r.txt"), "none") << "the report of a game that cannot be stored";
+}
+
+TEST(Resolve, LeavesAGameWhoseReportCannotBePrinted) {
+  const Shell shell;
+  shell.Write("a.orb", TwoUnitGame());
+  std::ofstream full("/dev/full");
+  std::ostringstream err;
+  const std::vector<std::string> line{"resolve", "--yes", "--in-place",
+                                      (shell.Directory().Path() / "a.orb").string()};
+  EXPECT_EQ(cli::Run(line, full, err, false), 1);
+  EXPECT_THAT(err.str(), HasSubstr("a.orb: The standard output could not be written."));
+  EXPECT_EQ(shell.Read("a.orb"), TwoUnitGame());
+  EXPECT_EQ(shell.Listing(), "a.orb ") << "nothing is left next to it";
 }
 
 TEST(Resolve, WritesReportAndReasonsToDevicesToo) {
