@@ -1,9 +1,8 @@
 #pragma once
 
 #include "model/stage.h"
-#include "orders/exchange/read_line.h"
+#include "orders/exchange/surroundings.h"
 
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -12,14 +11,6 @@ namespace orb::exchange {
 /// The part of an order that tells what it is for: its unit; of a build its power and its place,
 /// where only one unit can be built. Different orders with the same subject contradict each other.
 std::string SubjectOf(std::string_view order, model::Stage stage);
-
-/// What stands around a line that was read.
-struct Surroundings {
-  bool IsOlder = false;   ///< in a part of the text that is quoted from an earlier one
-  bool Corrects = false;  ///< its words say that it holds rather than what stands above
-  std::string Doubt;      ///< why the orders here are set aside, or empty
-  Span DoubtAt;
-};
 
 /// Holds the orders of a text against each other and against what stands around them, and makes
 /// those doubtful that the text itself speaks against. `around` has one entry a line. Of two orders

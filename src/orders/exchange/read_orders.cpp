@@ -11,6 +11,8 @@
 #include "orders/exchange/phrases.h"
 #include "orders/exchange/quotations.h"
 #include "orders/exchange/run_on.h"
+#include "orders/exchange/segments.h"
+#include "orders/exchange/shared_words.h"
 #include "orders/exchange/slips.h"
 #include "orders/exchange/source_line.h"
 #include "text/strings.h"
@@ -45,7 +47,8 @@ class TextReader {
       LookAround(line, before);
       if (before > 0 && before + 1 == lines_.size()) CheckGoesOn(lines_[before - 1], line);
     }
-    WeighOrders(lines_, around_, known_.Stage, PowerText(model::FindCountry(options_.Power)));
+    WeighOrders(lines_, around_.Rows(), known_.Stage,
+                PowerText(model::FindCountry(options_.Power)));
     return std::move(lines_);
   }
 
@@ -65,7 +68,7 @@ class TextReader {
       }
       line.IsTooLong ? AddTooLong(line) : AddPart(line, body, part, context);
       DoubtRemarks(line, 0);
-      WeighOrders(lines_, around_, known_.Stage, {});
+      WeighOrders(lines_, around_.Rows(), known_.Stage, {});
     }
     return std::move(lines_.front());
   }
@@ -83,36 +86,10 @@ class TextReader {
     return Tokens(line.All).subspan(range.Begin, range.End - range.Begin);
   }
 
-  /// Joins an order that is broken off, "A Par -", with its rest in the line below; false where the
-  /// two make no order.
-  bool JoinBroken(ReadLine& above, const SourceLine& line) {
-    ReadLine& below = lines_.back();
-    const bool areBroken =
-        above.Kind == LineKind::NotUnderstood && !line.All.empty() &&
-        (below.Kind == LineKind::NotUnderstood || below.Kind == LineKind::PassedOver);
-    if (!areBroken || above.Number + 1 != line.Number || line.IsTooLong) return false;
-    const std::string joined = ToPlain(above.Written, 0).Text + " " + line.Plain.Text;
-    const std::vector<Token> tokens = CutTokens(joined);
-    Context context{model::FindCountry(above.Power), context_.Orders};
-    const PartRead read = ReadPart(tokens, known_, context);
-    if (read.Kind != LineKind::Order ||
-        FindDoubt(Tokens(tokens).subspan(read.End), tokens, known_.Names)) {
-      return false;
-    }
-    above.Kind = LineKind::Order;
-    above.Order = read.Meant.All[0].Line;
-    above.Power = PowerText(read.Meant.All[0].Power);
-    above.Reason = read.Meant.All[0].Objection;
-    above.ReasonPlace = above.Place;
-    below.Kind = LineKind::PassedOver;
-    below.Reason.clear();
-    return true;
-  }
-
   /// A line like "- Bur" may be the rest of the order above. That order is then incomplete, though
   /// it may look whole: it becomes unclear.
   void CheckGoesOn(ReadLine& above, const SourceLine& line) {
-    if (JoinBroken(above, line)) return;
+    if (JoinBroken(above, lines_.back(), line, known_, context_)) return;
     const bool isRest = lines_.back().Kind == LineKind::NotUnderstood && !line.IsTooLong &&
                         !line.All.empty() && VerbOf(line.All[0]) != Verb::None;
     if (!isRest || above.Kind != LineKind::Order || above.Number + 1 != line.Number) return;
@@ -185,7 +162,7 @@ class TextReader {
     Context context = context_;
     const std::size_t before = lines_.size();
     for (const TokenRange segment : Split(line.All, body, Seam::Semicolon))
-      ReadSegment(line, segment, context);
+      ReadSegmentOf(line, segment, context);
     if (said.size() > 1) remarks_.push_back({comment.Begin + 1, comment.End});
     if (HoldsOrders(before)) inSignature_ = false;
     const bool isOrder =
@@ -210,9 +187,7 @@ class TextReader {
 
   /// Notes what a line that was read, whose rows begin at `first`, says of the orders around it.
   void LookAround(const SourceLine& line, std::size_t first) {
-    const bool corrects = !line.IsTooLong && Corrects(line.All);
-    for (std::size_t row = first; row < lines_.size(); ++row)
-      around_[row].Corrects = corrects;
+    if (!line.IsTooLong && Corrects(line.All)) around_.SetCorrects(first);
     if (HoldsOrders(first)) return DoubtRemarks(line, first);
     const bool speaks = !line.IsTooLong && !isMailHead_;
     const auto aside = speaks ? ReadAside(line.All) : std::nullopt;
@@ -232,26 +207,10 @@ class TextReader {
     const std::string reason =
         Quoted(Tokens(line.All).subspan(aside->At.Begin, aside->At.End - aside->At.Begin)) +
         " sets it aside";
-    const bool isAbove = aside->Scope != AsideScope::Below && SetAsideAbove(first, reason, at);
-    if (isAbove || aside->Scope == AsideScope::Above) return;
-    setAside_ = reason;
-    setAsideAt_ = at;
-    setAsidePower_ = context_.Power;
+    around_.SetAside(aside->Scope, reason, at, context_.Power, lines_, first);
   }
 
-  /// Sets aside the orders above a row in the same part of the text; false when there are none.
-  bool SetAsideAbove(std::size_t end, const std::string& reason, Span at) {
-    bool any = false;
-    for (std::size_t row = 0; row < end; ++row) {
-      if (!IsUnderstood(lines_[row]) || around_[row].IsOlder != quotations_.IsQuoted()) continue;
-      around_[row].Doubt = reason;
-      around_[row].DoubtAt = at;
-      any = true;
-    }
-    return any;
-  }
-
-  /// What a line says beside its orders, in comments or between them, may change each of them.
+  /// What a line says next to its orders, in comments or between them, may change each of them.
   void DoubtRemarks(const SourceLine& line, std::size_t first) {
     std::vector<Token> own;
     for (const TokenRange range : understood_) {
@@ -264,162 +223,19 @@ class TextReader {
       const bool isGreeting = remark.size() <= LongestGreeting && IsGreeting(remark[0]) &&
                               !ReadAside(remark).has_value();
       if (!doubt || isGreeting) continue;
-      for (std::size_t row = first; row < lines_.size(); ++row) {
-        if (!around_[row].Doubt.empty()) continue;
-        around_[row].Doubt = Quoted(remark) + " may change it";
-        around_[row].DoubtAt = Written(line, range);
-      }
+      around_.SetDoubt(first, Quoted(remark) + " may change it", Written(line, range));
       return;
     }
   }
 
   /// Reads what stands between semicolons: one order, or several between commas.
-  void ReadSegment(const SourceLine& line, TokenRange segment, Context& context) {
-    // As one order first: "A Par, - Bur" has a comma and is one. Parting is tried only if that
-    // fails.
-    Context whole = context;
-    const PartRead read = ReadPart(PartOf(line, segment), known_, whole);
-    if (!IsUnderstood(read) && (ReadParts(line, segment, Seam::Comma, context) ||
-                                ReadParts(line, segment, Seam::FullStop, context))) {
-      return;
+  void ReadSegmentOf(const SourceLine& line, TokenRange segment, Context& context) {
+    const SegmentRead read = ReadSegment(line.All, segment, known_, context, inSignature_);
+    if (read.Condition) {
+      const std::size_t at = *read.Condition;
+      return AddUnclear(line, segment, {at, at + 1}, NotUnderstoodText(line, at));
     }
-    if (!IsUnderstood(read)) {
-      const PartsRead parts = ReadRunOn(PartOf(line, segment), known_, context);
-      if (!parts.empty()) return AddParts(line, Moved(parts, segment.Begin), context);
-      Context slipped = context;
-      const PartRead mended = ReadWithSlips(PartOf(line, segment), read, known_, slipped);
-      if (IsUnderstood(mended)) {
-        context = slipped;
-        return AddPart(line, segment, mended, context);
-      }
-    }
-    context = whole;
-    AddPart(line, segment, read, context);
-  }
-
-  /// Reads parts between commas, or full stops too; false, and nothing is read, when none of them
-  /// is an order. As full stops also follow abbreviations, none may stay unclear between them.
-  bool ReadParts(const SourceLine& line, TokenRange segment, Seam seam, Context& context) {
-    Context tried = context;
-    PartsRead parts;
-    std::size_t condition = segment.End;
-    bool isClear = true;
-    std::optional<Token> plural;
-    const auto isOrder = [](const auto& part) { return IsUnderstood(part.second); };
-    for (const TokenRange range : Split(line.All, segment, seam)) {
-      const std::vector<Token> typed = WithSharedType(line, range, plural);
-      const Tokens tokens = typed.empty() ? PartOf(line, range) : Tokens(typed);
-      Context before = tried;
-      parts.emplace_back(range, ReadPart(tokens, known_, tried));
-      const bool isOrdered = std::ranges::any_of(parts, isOrder);
-      if (IsUnderstood(parts.back().second)) continue;
-      if (const auto again = ReadSameUnit(line, parts, range)) {
-        parts.back().second = *again;
-        tried = before;
-        continue;
-      }
-      const PartsRead runOn = Moved(ReadRunOn(tokens, known_, before), range.Begin);
-      if (!runOn.empty()) {
-        parts.pop_back();
-        parts.insert(parts.end(), runOn.begin(), runOn.end());
-        tried = before;
-        continue;
-      }
-      Context slipped = before;
-      PartRead mended = ReadWithSlips(tokens, parts.back().second, known_, slipped);
-      if (IsUnderstood(mended)) {
-        parts.back().second = std::move(mended);
-        tried = slipped;
-        continue;
-      }
-      // Before the first order, "last turn" and the like set aside what follows; behind one they do
-      // not.
-      const std::size_t at = isOrdered ? FindCondition(tokens) : FindSetAside(tokens);
-      if (at < tokens.size() && condition == segment.End) condition = range.Begin + at;
-      isClear = isClear && IsNoOrder(tokens, known_.Names, inSignature_);
-    }
-    ShareVerbs(line, parts);
-    if (std::ranges::none_of(parts, isOrder)) return false;
-    if (seam == Seam::FullStop && !isClear) return false;
-    context = tried;
-    if (condition < segment.End) {
-      AddUnclear(line, segment, {condition, condition + 1}, NotUnderstoodText(line, condition));
-      return true;
-    }
-    AddParts(line, parts, context);
-    return true;
-  }
-
-  /// "Armies in Paris and Marseilles": the part with the type of units that the plural before it
-  /// gives; empty where it has one of its own, or none was given.
-  static std::vector<Token> WithSharedType(const SourceLine& line, TokenRange range,
-                                           std::optional<Token>& plural) {
-    const Tokens tokens = PartOf(line, range);
-    const auto type =
-        std::ranges::find_if(tokens, [](const Token& token) { return UnitTypeOf(token) != 0; });
-    if (type != tokens.end()) {
-      plural.reset();
-      if (IsWord(*type, "armies") || IsWord(*type, "fleets")) plural = *type;
-      return {};
-    }
-    if (!plural) return {};
-    std::vector<Token> typed{*plural};
-    typed.insert(typed.end(), tokens.begin(), tokens.end());
-    return typed;
-  }
-
-  /// "A Par, A Gas S A Bur": a unit without an order does what the next one does.
-  void ShareVerbs(const SourceLine& line, PartsRead& parts) const {
-    const auto isVerb = [](const Token& token) { return VerbOf(token) != Verb::None; };
-    for (std::size_t i = parts.size(); i-- > 1;) {
-      auto& [range, part] = parts[i - 1];
-      const Tokens unit = PartOf(line, range);
-      if (IsUnderstood(part) || !IsUnderstood(parts[i].second) || UnitTypeOf(unit[0]) == 0 ||
-          std::ranges::any_of(unit, isVerb)) {
-        continue;
-      }
-      const Tokens next = PartOf(line, parts[i].first);
-      std::vector<Token> joined(unit.begin(), unit.end());
-      joined.insert(joined.end(), std::ranges::find_if(next, isVerb), next.end());
-      Context context = context_;
-      PartRead read = ReadPart(joined, known_, context);
-      if (joined.size() == unit.size() || read.Kind != LineKind::Order) continue;
-      read.End = range.End - range.Begin;
-      part = std::move(read);
-    }
-  }
-
-  /// "A Par - Bur, H": reads what begins with a verb as another order of the unit before it;
-  /// nothing where it is none.
-  std::optional<PartRead> ReadSameUnit(const SourceLine& line, const PartsRead& parts,
-                                       TokenRange range) const {
-    const bool hasVerb = VerbOf(line.All[range.Begin]) != Verb::None;
-    if (!hasVerb || parts.size() < 2 || !IsUnderstood(parts[parts.size() - 2].second)) return {};
-    const Tokens before = PartOf(line, parts[parts.size() - 2].first);
-    const auto isVerb = [](const Token& token) { return VerbOf(token) != Verb::None; };
-    const auto verb = std::ranges::find_if(before, isVerb);
-    std::vector<Token> joined(before.begin(), verb);
-    const Tokens rest = PartOf(line, range);
-    joined.insert(joined.end(), rest.begin(), rest.end());
-    Context context = context_;
-    PartRead read = ReadPart(joined, known_, context);
-    if (joined.size() == rest.size() || !IsUnderstood(read)) return {};
-    read.End = range.End - range.Begin;
-    return read;
-  }
-
-  /// The first word that makes a condition of orders behind it or sets them aside.
-  static std::size_t FindSetAside(Tokens tokens) {
-    const auto doubts = [](const Token& token) { return IsCondition(token) || IsAside(token); };
-    return static_cast<std::size_t>(std::ranges::find_if(tokens, doubts) - tokens.begin());
-  }
-
-  static PartsRead Moved(PartsRead parts, std::size_t begin) {
-    for (auto& [range, part] : parts) {
-      range.Begin += begin;
-      range.End += begin;
-    }
-    return parts;
+    AddParts(line, read.Parts, context);
   }
 
   void AddParts(const SourceLine& line, const PartsRead& parts, const Context& context) {
@@ -441,7 +257,7 @@ class TextReader {
 
   ReadLine& Add(const SourceLine& line, Span place, LineKind kind, int power) {
     ReadLine& read = lines_.emplace_back();
-    around_.push_back({quotations_.IsQuoted(), false, setAside_, setAsideAt_});
+    around_.Add(quotations_.IsQuoted());
     read.Number = line.Number;
     read.Place = place;
     read.Written = line.Bytes.substr(place.Offset - line.Offset, place.Length);
@@ -470,11 +286,7 @@ class TextReader {
     } else if (says) {
       context_.Orders = heading.Orders;
     }
-    // "Final orders:" ends a draft, and so does the heading of another power than its own.
-    if (Corrects(line.All) ||
-        (setAsidePower_ != 0 && heading.Power != 0 && heading.Power != setAsidePower_)) {
-      setAside_.clear();
-    }
+    around_.TakeHeading(heading.Power, Corrects(line.All));
     AddLine(line, says ? LineKind::Heading : LineKind::PassedOver);
   }
 
@@ -504,10 +316,7 @@ class TextReader {
     const std::vector<Meaning>& meant = part.Meant.All;
     read.ReasonPlace = read.Place;
     read.ReadAs = part.ReadAs;
-    if (!part.Doubt.empty()) {
-      around_.back().Doubt = part.Doubt;
-      around_.back().DoubtAt = read.Place;
-    }
+    if (!part.Doubt.empty()) around_.SetDoubt(lines_.size() - 1, part.Doubt, read.Place);
     if (IsUnderstood(part)) {
       const std::size_t end = std::min(range.Begin + part.End, range.End);
       understood_.push_back({range.Begin, end});
@@ -547,10 +356,7 @@ class TextReader {
   bool isSingle_ = false;  ///< the text is an order, whatever it looks like
   Quotations quotations_;
   std::vector<ReadLine> lines_;
-  std::vector<Surroundings> around_;  ///< one for each of the lines
-  std::string setAside_;              ///< why the orders here are set aside, or empty
-  Span setAsideAt_;
-  int setAsidePower_ = 0;  ///< whose orders stood there; 0: nobody's in particular
+  SurroundingsOfLines around_;
   // Of the line that is being read: whether it heads a mail, its orders, and what it says next to
   // them.
   bool isMailHead_ = false;
