@@ -78,8 +78,7 @@ class TextReader {
     context_ = {model::FindCountry(options_.Power), Verb::None};
     inSignature_ = false;
     quotations_ = {};
-    setAside_.clear();
-    setAsidePower_ = 0;
+    around_.StartAnew();
   }
 
   static Tokens PartOf(const SourceLine& line, TokenRange range) {

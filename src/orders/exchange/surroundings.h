@@ -38,6 +38,9 @@ class SurroundingsOfLines {
   /// A heading: "Final orders:" ends what is set aside, and so does that of another power.
   void TakeHeading(int power, bool corrects);
 
+  /// Another text begins: nothing is set aside there.
+  void StartAnew() { reason_.clear(); }
+
   const std::vector<Surroundings>& Rows() const { return rows_; }
 
  private:
