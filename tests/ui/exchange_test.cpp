@@ -143,6 +143,8 @@ TEST_F(WindowTest, PastedOrdersOfAnotherPowerAreFiledOnlyWhenTicked) {
     const Preview preview(dialog);
     EXPECT_FALSE(preview.IsTaken(3));
     EXPECT_EQ(preview.Mark(3), OrderMark::Doubtful);
+    EXPECT_THAT(preview.Summary(),
+                ElementsAre("ENG: 1 doubtful", "FRA: 1 sure, 2 units without an order"));
     dialog.findChild<QPushButton*>(QStringLiteral("butExchangeHelp"))->click();
     auto* help = dialog.findChild<ui::HelpWindow*>();
     ASSERT_NE(help, nullptr) << "one that the dialog does not block";

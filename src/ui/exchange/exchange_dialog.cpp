@@ -135,9 +135,11 @@ void ExchangeDialog::choosePower() {
 }
 
 void ExchangeDialog::showNumbers() {
-  m_summary->showLines(m_game, m_model.lines(), m_model.takenLines());
+  m_summary->showLines(m_game, m_model.lines(), m_model.takenLines(), m_model.power());
   m_ok->setEnabled(isPowerChosen() && m_model.counts().taken > 0);
   m_result->setText(resultText());
+  // A screen reader comes to the button without passing the label.
+  m_ok->setAccessibleDescription(m_result->text());
 }
 
 bool ExchangeDialog::isPowerChosen() const {

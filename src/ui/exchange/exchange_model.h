@@ -45,6 +45,7 @@ class ExchangeModel : public QAbstractTableModel {
   /// The abbreviation of the power whose orders the text should hold; empty: those of all. The text
   /// is read again for it, and corrected lines keep their corrections.
   void setPower(const std::string& power);
+  const std::string& power() const { return m_power; }
 
   /// Shows what a line would mean with another text, until it is set or the trial ends.
   void tryText(int row, const QString& text);

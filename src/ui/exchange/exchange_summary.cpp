@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <limits>
 #include <map>
-#include <string>
 
 namespace orb::ui {
 namespace {
@@ -69,13 +68,15 @@ NumbersByPower countLines(const std::vector<ReadLine>& lines) {
   return numbers;
 }
 
-/// Adds the units that have no order when the taken lines are in the list.
+/// Adds the units that have no order when the taken lines are in the list: those of this power, or
+/// if it is empty those of all powers of the text.
 void countUnordered(model::GameState game, const std::vector<ReadLine>& taken,
-                    NumbersByPower& numbers) {
+                    const std::string& power, NumbersByPower& numbers) {
   exchange::FileOrders(game, taken);
   for (const std::string& unit : adjudication::CheckList(game).Unordered) {
-    const auto power = numbers.find(rowOf(std::string_view(unit).substr(0, unit.find(' '))));
-    if (power != numbers.end()) power->second.unordered << text::ToQString(unit);
+    if (!unit.starts_with(power)) continue;
+    const auto counted = numbers.find(rowOf(std::string_view(unit).substr(0, unit.find(' '))));
+    if (counted != numbers.end()) counted->second.unordered << text::ToQString(unit);
   }
 }
 
@@ -97,6 +98,7 @@ QString textOf(const QString& power, const PowerNumbers& numbers) {
 
 ExchangeSummary::ExchangeSummary(QWidget* parent) : QWidget(parent), m_grid(new QGridLayout(this)) {
   setObjectName(QStringLiteral("panExchangeSummary"));
+  setAccessibleName(tr("Orders of each power"));
   m_grid->setContentsMargins(0, 0, 0, 0);
   m_grid->setHorizontalSpacing(4 * fontMetrics().averageCharWidth());
   m_grid->setVerticalSpacing(0);
@@ -105,15 +107,15 @@ ExchangeSummary::ExchangeSummary(QWidget* parent) : QWidget(parent), m_grid(new 
 }
 
 void ExchangeSummary::showLines(const model::GameState& game, const std::vector<ReadLine>& lines,
-                                const std::vector<ReadLine>& taken) {
+                                const std::vector<ReadLine>& taken, const std::string& power) {
   NumbersByPower powers = countLines(lines);
-  countUnordered(game, taken, powers);
+  countUnordered(game, taken, power, powers);
   QStringList texts;
   QStringList details;
   for (const auto& [row, numbers] : powers) {
-    const QString power =
+    const QString name =
         row == Nobody ? tr("Power unknown") : text::ToQString(game.Countries[row].Abbreviation);
-    texts << textOf(power, numbers);
+    texts << textOf(name, numbers);
     details << (QStringList(texts.last()) + numbers.unordered).join(QLatin1Char('\n'));
   }
   if (texts.isEmpty()) texts = details = QStringList(tr("No orders were found."));

@@ -6,6 +6,7 @@
 #include <QGridLayout>
 #include <QWidget>
 
+#include <string>
 #include <vector>
 
 namespace orb::ui {
@@ -20,9 +21,10 @@ class ExchangeSummary : public QWidget {
  public:
   explicit ExchangeSummary(QWidget* parent);
 
-  /// Shows the numbers of these lines; the taken ones are filed into a copy of the game.
+  /// Shows the numbers of these lines; the taken ones are filed into a copy of the game. Where the
+  /// orders of one power are wanted, only its units are counted.
   void showLines(const model::GameState& game, const std::vector<exchange::ReadLine>& lines,
-                 const std::vector<exchange::ReadLine>& taken);
+                 const std::vector<exchange::ReadLine>& taken, const std::string& power);
 
  private:
   void showTexts(const QStringList& texts, const QStringList& details);

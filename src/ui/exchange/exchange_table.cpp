@@ -164,6 +164,12 @@ void ExchangeTable::toggle(int row) {
   m_model.setData(box, taken ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
 }
 
+QItemSelectionModel::SelectionFlags ExchangeTable::selectionCommand(const QModelIndex& index,
+                                                                    const QEvent* /*event*/) const {
+  if (!index.isValid()) return QItemSelectionModel::NoUpdate;
+  return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+}
+
 void ExchangeTable::keyPressEvent(QKeyEvent* event) {
   const QModelIndex current = currentIndex();
   if (current.isValid() && event->key() == Qt::Key_Space) return toggle(current.row());

@@ -25,6 +25,9 @@ class ExchangeTable : public QTableView {
   void finishEditing();
 
  protected:
+  /// The current line is always the selected one, whatever keys are held down.
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
