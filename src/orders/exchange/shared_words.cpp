@@ -46,8 +46,8 @@ void ShareVerbs(Tokens line, const KnownGame& known, const Context& context, Par
     const auto verb = std::ranges::find_if(next, IsVerb);
     if (verb == next.end()) continue;
     Context tried = context;
-    PartRead read = ReadPart(
-        Joined({unit.begin(), unit.end()}, std::ranges::subrange(verb, next.end())), known, tried);
+    const Tokens does = next.subspan(static_cast<std::size_t>(verb - next.begin()));
+    PartRead read = ReadPart(Joined({unit.begin(), unit.end()}, does), known, tried);
     if (read.Kind != LineKind::Order) continue;
     // The order is written in its own part, as far as it goes.
     read.End = unit.size();
