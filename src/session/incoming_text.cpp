@@ -14,14 +14,15 @@ IncomingText ReadMails(std::string_view bytes) {
   IncomingText incoming;
   const std::vector<mail::Mail> mails = mail::ReadMails(bytes);
   for (const mail::Mail& mail : mails) {
-    if (!incoming.Mails.empty()) incoming.Text.append(exchange::TextSeparator).append("\n");
+    if (&mail != mails.data()) incoming.Text.append(exchange::TextSeparator).append("\n");
     if (mails.size() > 1) {
       // Where there are several, the lines tell which one an order stands in.
       incoming.Text.append("From: ").append(mail.Sender);
       incoming.Text.append("\nSubject: ").append(mail.Subject).append("\n\n");
     }
     incoming.Text += mail.Text;
-    incoming.Mails.push_back({mail.Sender, mail.Subject});
+    const bool isNamed = !mail.Sender.empty() || !mail.Subject.empty();
+    if (isNamed) incoming.Mails.push_back({mail.Sender, mail.Subject});
   }
   return incoming;
 }

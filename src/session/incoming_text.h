@@ -1,5 +1,7 @@
 #pragma once
 
+#include "mail/mails.h"
+
 #include <string>
 #include <vector>
 
@@ -16,6 +18,9 @@ struct IncomingText {
   std::string Text;             ///< in UTF-8 or Windows-1252
   std::vector<MailHead> Mails;  ///< those that the text was in, in its order; none: no mail
 };
+
+/// The most bytes that may hold a text: those of mails, with pictures and all.
+constexpr std::size_t IncomingBound = mail::MailByteBound;
 
 /// Takes the bytes of a file, or of a clipboard's text, for what they are: mails as they were sent,
 /// or a text itself. `name` says in error messages what is read. Throws FatalError.

@@ -282,6 +282,28 @@ TEST_F(WindowTest, OrdersHandedOutAreReadAgain) {
   EXPECT_EQ(Lines("lstOrders"), orders);
 }
 
+TEST_F(WindowTest, AMailIsNamedAboveItsOrders) {
+  const std::string picture(300'000, 'x');
+  const auto file = directory_.Write("orders.eml",
+                                     "From: Tom <tom@example.org>\nSubject: Spring <b>orders</b>\n"
+                                     "Content-Type: multipart/mixed; boundary=bb\n\n--bb\n"
+                                     "Content-Transfer-Encoding: base64\n\nQSBQYXIgLSBCdXI=\n--bb\n"
+                                     "Content-Type: image/png\n\n" +
+                                         picture + "\n--bb--\n");
+  if (!std::filesystem::exists(model::ProgramDirectory() / "orbmail.so")) {
+    GTEST_SKIP() << "built without GMime";
+  }
+  const auto accept = [](QDialog& dialog) {
+    const Preview preview(dialog);
+    EXPECT_EQ(preview.Label("lblExchangeMails"),
+              "From Tom <tom@example.org>: Spring <b>orders</b>");
+    Press(Qt::Key_Return);
+  };
+  const ModalScript answers({FileChosen(Shown(file)), accept});
+  Trigger("mnuFileImportOrders");
+  EXPECT_THAT(Lines("lstOrders"), ElementsAre("FRA A(Par) - Bur"));
+}
+
 TEST_F(WindowTest, TextsThatCannotBeReadAreRefused) {
   const auto folder = directory_.Path().string() + "/";
   directory_.Write("long.txt", std::string(200'001, 'a'));

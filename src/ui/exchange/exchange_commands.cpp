@@ -18,15 +18,23 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void checkLength(std::uintmax_t bytes, const std::string& where) {
-  if (bytes <= OrdersTextBound) return;
+void checkLength(std::uintmax_t bytes, std::size_t bound, const std::string& where) {
+  if (bytes <= bound) return;
   throw model::FileError(where + " is too long for a text of orders: it has " +
-                         std::to_string(bytes) + " bytes, and at most " +
-                         std::to_string(OrdersTextBound) + " are read.");
+                         std::to_string(bytes) + " bytes, and at most " + std::to_string(bound) +
+                         " are read.");
 }
 
-/// The bytes of a file that can be a text of orders.
-std::string readOrdersFile(const fs::path& file) {
+/// The text in some bytes. They may be longer than it, if they are a mail.
+session::IncomingText readText(std::string bytes, const std::string& where) {
+  checkLength(bytes.size(), session::IncomingBound, where);
+  session::IncomingText incoming = session::ReadIncomingText(std::move(bytes), where);
+  checkLength(incoming.Text.size(), OrdersTextBound, where);
+  return incoming;
+}
+
+/// What a file holds that can be a text of orders.
+session::IncomingText readOrdersFile(const fs::path& file) {
   std::error_code error;
   const fs::file_status status = fs::status(file, error);
   // A pipe or a device could keep the window waiting for ever.
@@ -34,11 +42,9 @@ std::string readOrdersFile(const fs::path& file) {
     throw model::FileError(file.string() + " is no ordinary file.");
   }
   const std::uintmax_t size = fs::file_size(file, error);
-  if (!error) checkLength(size, file.string());
-  std::string text = model::ReadFile(file);
-  // Once more: the file may have grown, or its size may not have been known.
-  checkLength(text.size(), file.string());
-  return exchange::OrdersFileText(std::move(text), file.string());
+  if (!error) checkLength(size, session::IncomingBound, file.string());
+  // Its length is looked at once more: it may have grown, or may not have been known.
+  return readText(model::ReadFile(file), file.string());
 }
 
 QString countedOrders(int count) {
@@ -59,16 +65,15 @@ void ExchangeCommands::importOrders() {
 void ExchangeCommands::pasteOrders() {
   attempt(m_messages, [this] {
     std::string text = QGuiApplication::clipboard()->text().toStdString();
-    checkLength(text.size(), "The text on the clipboard");
     // A clipboard with a picture has an empty text.
     if (text.find_first_not_of(" \t\r\n") == std::string::npos) {
       throw model::FatalError("There is no text on the clipboard.");
     }
-    preview(ExchangeKind::Paste, std::move(text));
+    preview(ExchangeKind::Paste, readText(std::move(text), "The text on the clipboard"));
   });
 }
 
-void ExchangeCommands::preview(ExchangeKind kind, std::string text) {
+void ExchangeCommands::preview(ExchangeKind kind, session::IncomingText text) {
   ExchangeDialog dialog(m_desk.game(), kind, std::move(text),
                         exchange::ReadTextRepairs(m_desk.dataDirectory()), m_window);
   connect(&dialog, &ExchangeDialog::helpWanted, this,

@@ -35,7 +35,7 @@ class ExchangeCommands : public QObject {
 
  private:
   /// Shows what was understood of the text, and files what the user leaves ticked.
-  void preview(ExchangeKind kind, std::string text);
+  void preview(ExchangeKind kind, session::IncomingText text);
 
   Desk& m_desk;
   model::Messages& m_messages;

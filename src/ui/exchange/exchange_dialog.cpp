@@ -26,13 +26,35 @@ QLabel* newLabel(const QString& name) {
   return label;
 }
 
+/// Who wrote the mails that the text comes from, and what of: a line for each of the first ones.
+QLabel* newMailsLabel(const std::vector<session::MailHead>& mails) {
+  constexpr std::size_t shown = 4;
+  constexpr int longest = 120;
+  QStringList lines;
+  for (const session::MailHead& mail : mails) {
+    QString line =
+        QObject::tr("From %1: %2")
+            .arg(QString::fromStdString(mail.Sender), QString::fromStdString(mail.Subject));
+    if (line.size() > longest) line = line.left(longest) + QChar(0x2026);
+    lines << line;
+    if (mails.size() > shown && lines.size() + 1 == shown) break;
+  }
+  const std::size_t more = mails.size() - static_cast<std::size_t>(lines.size());
+  if (mails.size() > shown) lines << QObject::tr("and %1 more mails").arg(more);
+  QLabel* const label = newLabel(QStringLiteral("lblExchangeMails"));
+  label->setText(lines.join(QLatin1Char('\n')));
+  label->setWordWrap(true);
+  return label;
+}
+
 }  // namespace
 
-ExchangeDialog::ExchangeDialog(const model::GameState& game, ExchangeKind kind, std::string text,
+ExchangeDialog::ExchangeDialog(const model::GameState& game, ExchangeKind kind,
+                               session::IncomingText text,
                                std::vector<exchange::TextRepair> repairs, QWidget* parent)
     : QDialog(parent),
       m_game(game),
-      m_model(game, std::move(text), std::move(repairs), nullptr),
+      m_model(game, std::move(text.Text), std::move(repairs), nullptr),
       m_table(new ExchangeTable(m_model, this)),
       m_summary(new ExchangeSummary(this)),
       m_noOrders(new QCheckBox(tr("&Show lines that are no orders"))),
@@ -54,6 +76,7 @@ ExchangeDialog::ExchangeDialog(const model::GameState& game, ExchangeKind kind, 
   m_reason->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 
   auto* column = new QVBoxLayout(this);
+  if (!text.Mails.empty()) column->addWidget(newMailsLabel(text.Mails));
   if (pasting) column->addLayout(newPowerRow(game));
   column->addWidget(m_summary);
   column->addWidget(m_table, 1);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "session/incoming_text.h"
 #include "ui/exchange/exchange_model.h"
 #include "ui/widgets/controls.h"
 
@@ -26,8 +27,8 @@ class ExchangeDialog : public QDialog {
   Q_OBJECT
 
  public:
-  /// The game must outlive the dialog. The text is UTF-8 or Windows-1252.
-  ExchangeDialog(const model::GameState& game, ExchangeKind kind, std::string text,
+  /// The game must outlive the dialog.
+  ExchangeDialog(const model::GameState& game, ExchangeKind kind, session::IncomingText text,
                  std::vector<exchange::TextRepair> repairs, QWidget* parent);
 
   /// The orders to file.

@@ -40,6 +40,10 @@ QString textFiles() {
   return QObject::tr("Text files: *.txt (*.txt)");
 }
 
+QString mailFiles() {
+  return QObject::tr("Mails: *.eml, *.mbox (*.eml *.mbox)");
+}
+
 void setUpForGames(QFileDialog& dialog, const QString& title, const model::GameState& game) {
   const QStringList filters{QObject::tr("Concordat files: *.orb (*.orb)"),
                             QObject::tr("Data files: *.dat (*.dat)"), allFiles()};
@@ -126,7 +130,7 @@ std::optional<OpenChoice> askGameToOpen(QWidget* parent, const model::GameState&
 std::optional<std::filesystem::path> askOrdersToImport(QWidget* parent,
                                                        const model::GameState& game) {
   QFileDialog dialog(parent);
-  setUp(dialog, QObject::tr(" Import Orders"), {textFiles(), allFiles()}, game);
+  setUp(dialog, QObject::tr(" Import Orders"), {textFiles(), mailFiles(), allFiles()}, game);
   dialog.setFileMode(QFileDialog::ExistingFile);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return chosenFile(dialog);
