@@ -71,6 +71,11 @@ Mail HeadOf(GMimeMessage* message) {
   return head;
 }
 
+[[noreturn]] void ThrowTooManyParts() {
+  throw model::FatalError("A mail has more than " + std::to_string(PartBound) +
+                          " parts; no more are read.");
+}
+
 /// Reads the parts of one mail, those of forwarded ones too.
 class PartReader {
  public:
@@ -81,10 +86,7 @@ class PartReader {
 
  private:
   Texts Read(GMimeObject* object, int depth) {
-    if (++parts_ > PartBound) {
-      throw model::FatalError("A mail has more than " + std::to_string(PartBound) +
-                              " parts; no more are read.");
-    }
+    if (++parts_ > PartBound) ThrowTooManyParts();
     if (depth > DepthBound) {
       throw model::FatalError("A mail has parts that lie more than " + std::to_string(DepthBound) +
                               " deep in each other; such ones are not read.");
@@ -147,7 +149,19 @@ class PartReader {
   int parts_ = 0;
 };
 
+/// Throws for a text that may have so many parts that they would fill the memory: GMime takes it
+/// apart before they can be counted. Lines of other texts begin with "--", too.
+void CheckBoundaries(std::string_view bytes) {
+  constexpr int bound = 50 * PartBound;
+  int count = 0;
+  for (std::size_t at = bytes.find("\n--"); at != std::string_view::npos;
+       at = bytes.find("\n--", at + 1)) {
+    if (++count > bound) ThrowTooManyParts();
+  }
+}
+
 void ReadMail(std::string_view bytes, Mail& mail) {
+  CheckBoundaries(bytes);
   static const bool isReady = (g_mime_init(), true);
   static_cast<void>(isReady);
   const Owned<GMimeStream> stream(g_mime_stream_mem_new_with_buffer(bytes.data(), bytes.size()));
