@@ -54,30 +54,37 @@ bool WriteAll(int descriptor, std::string_view bytes) {
   return true;
 }
 
-/// Where a file is to be written, links followed, and the mode of the file that is there.
+/// Where a file is to be written, links followed, and what is known of the file that is there.
 struct Target {
   fs::path Path;
-  std::optional<mode_t> Mode;
+  std::optional<struct stat> Status;
 };
 
-/// Follows links step by step: the file at their end need not exist.
-Target FindTarget(fs::path path) {
+/// Follows links step by step: the file at their end need not exist. Nothing where they lead in a
+/// circle.
+std::optional<Target> FindTarget(fs::path path) {
   constexpr int longestChain = 40;
   for (int i = 0; i < longestChain; ++i) {
     struct stat status {};
-    if (::lstat(path.c_str(), &status) != 0) break;
-    if (!S_ISLNK(status.st_mode)) return {std::move(path), status.st_mode};
+    if (::lstat(path.c_str(), &status) != 0) return Target{std::move(path), std::nullopt};
+    if (!S_ISLNK(status.st_mode)) return Target{std::move(path), status};
     std::error_code ignored;
     path = path.parent_path() / fs::read_symlink(path, ignored);
   }
-  return {std::move(path), std::nullopt};
+  return std::nullopt;
+}
+
+Target TargetOf(const fs::path& path) {
+  if (auto target = FindTarget(path)) return std::move(*target);
+  throw FileError("Cannot write " + text::NameInText(path.string()) +
+                  ": it is a link that leads to itself.");
 }
 
 /// A file that exists must be an ordinary one with permission to write: renaming over it would not
 /// ask for any.
 void CheckReplaceable(const Target& target) {
-  if (!target.Mode) return;
-  if (!S_ISREG(*target.Mode)) {
+  if (!target.Status) return;
+  if (!S_ISREG(target.Status->st_mode)) {
     throw FileError("Cannot write " + text::NameInText(target.Path.string()) +
                     ": it is no ordinary file.");
   }
@@ -86,11 +93,24 @@ void CheckReplaceable(const Target& target) {
 
 /// The mode that the finished file is to have: that of the file it replaces, else the usual one.
 mode_t FileMode(const Target& target) {
-  if (target.Mode) return *target.Mode & 07777;
+  if (target.Status) return target.Status->st_mode & 07777;
   // The mask can only be asked for by setting it.
   const mode_t mask = ::umask(0);
   ::umask(mask);
   return 0666 & ~mask;
+}
+
+/// Leaves the file to whom it belonged, in a folder that several people share: to its owner and
+/// group where that is allowed, else at least to its group, else to whoever writes it.
+void KeepOwner(int descriptor, const Target& target) {
+  if (!target.Status) return;
+  const uid_t owner = target.Status->st_uid;
+  const gid_t group = target.Status->st_gid;
+  if (owner == ::geteuid() && group == ::getegid()) return;
+  constexpr auto unchanged = static_cast<uid_t>(-1);
+  const bool isKept =
+      ::fchown(descriptor, owner, group) == 0 || ::fchown(descriptor, unchanged, group) == 0;
+  static_cast<void>(isKept);
 }
 
 /// The path without the file's own name, "/" included.
@@ -115,7 +135,7 @@ std::string ReadFile(const fs::path& path) {
 }
 
 Replacement::Replacement(const fs::path& path, std::string_view bytes) : path_(path) {
-  const Target target = FindTarget(path);
+  const Target target = TargetOf(path);
   CheckReplaceable(target);
   target_ = target.Path;
   // In the same directory: a file can be renamed within its file system only.
@@ -123,6 +143,8 @@ Replacement::Replacement(const fs::path& path, std::string_view bytes) : path_(p
   beside += ".orb-XXXXXX";
   Descriptor file(::mkostemp(beside.data(), O_CLOEXEC));
   if (file.Number() < 0) Fail("write", path_, errno);
+  // Before its mode is set, since a new owner may take bits away from that.
+  KeepOwner(file.Number(), target);
   // Flushed before it is renamed, or a power failure could leave an empty file under the name.
   const bool written = WriteAll(file.Number(), bytes) &&
                        ::fchmod(file.Number(), FileMode(target)) == 0 &&
@@ -149,11 +171,12 @@ void ReplaceFile(const fs::path& path, std::string_view bytes) {
 }
 
 bool CanReplaceFile(const fs::path& path) {
-  const Target target = FindTarget(path);
-  const fs::path directory = target.Path.has_parent_path() ? target.Path.parent_path() : ".";
+  const auto target = FindTarget(path);
+  if (!target) return false;
+  const fs::path directory = target->Path.has_parent_path() ? target->Path.parent_path() : ".";
   if (::access(directory.c_str(), W_OK | X_OK) != 0) return false;
-  if (!target.Mode) return true;
-  return S_ISREG(*target.Mode) && ::access(target.Path.c_str(), W_OK) == 0;
+  if (!target->Status) return true;
+  return S_ISREG(target->Status->st_mode) && ::access(target->Path.c_str(), W_OK) == 0;
 }
 
 bool IsLink(const std::string& path) {

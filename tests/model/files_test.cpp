@@ -3,6 +3,7 @@
 #include "model/errors.h"
 #include "support/directories.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -59,6 +60,30 @@ TEST(ReplaceFile, KeepsPermissionsAndGivesTheUsualOnes) {
   ReplaceFile(directory.Path() / "new.orb", "new");
   ::umask(mask);
   EXPECT_EQ(fs::status(directory.Path() / "new.orb").permissions(), fs::perms(0640));
+}
+
+TEST(ReplaceFile, LeavesAFileToItsOwnerAndGroup) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root can give files away";
+  constexpr uid_t alice = 1234;
+  constexpr gid_t players = 4321;
+  const TemporaryDirectory directory;
+  const fs::path file = directory.Write("a.orb", "old");
+  ASSERT_EQ(::chown(file.c_str(), alice, players), 0);
+  fs::permissions(file, fs::perms(0660));
+  ReplaceFile(file, "new");
+  struct stat status {};
+  ASSERT_EQ(::stat(file.c_str(), &status), 0);
+  EXPECT_EQ(status.st_uid, alice);
+  EXPECT_EQ(status.st_gid, players);
+  EXPECT_EQ(status.st_mode & 07777, 0660U);
+}
+
+TEST(ReplaceFile, RefusesALinkThatLeadsToItself) {
+  const TemporaryDirectory directory;
+  const fs::path loop = directory.Path() / "loop.orb";
+  fs::create_symlink("loop.orb", loop);
+  EXPECT_THAT([&] { ReplaceFile(loop, "new"); },
+              testing::ThrowsMessage<FileError>(testing::HasSubstr("leads to itself")));
 }
 
 TEST(ReplaceFile, FollowsALink) {
