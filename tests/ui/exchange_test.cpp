@@ -27,6 +27,7 @@ namespace orb::tests {
 namespace {
 
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
@@ -138,13 +139,16 @@ TEST_F(WindowTest, ImportedLinesAreCorrectedWhereTheyStand) {
 }
 
 TEST_F(WindowTest, PastedOrdersOfAnotherPowerAreFiledOnlyWhenTicked) {
-  QApplication::clipboard()->setText("Orders for France:\nA Par \u2013 Bur\nENG F(Lon) - NTH\n");
+  QApplication::clipboard()->setText(
+      "Orders for France:\nA Par \u2013 Bur\nENG F(Lon) - NTH\nDraft:\nA Mar - Spa\n");
   const auto cancel = [](QDialog& dialog) {
     const Preview preview(dialog);
     EXPECT_FALSE(preview.IsTaken(3));
     EXPECT_EQ(preview.Mark(3), OrderMark::Doubtful);
-    EXPECT_THAT(preview.Summary(),
-                ElementsAre("ENG: 1 doubtful", "FRA: 1 sure, 2 units without an order"));
+    EXPECT_THAT(
+        preview.Summary(),
+        ElementsAre("ENG: 1 doubtful", "FRA: 1 sure, 1 doubtful, 2 units without an order"));
+    EXPECT_THAT(preview.Understood(5), EndsWith("sets it aside, in line 4)"));
     dialog.findChild<QPushButton*>(QStringLiteral("butExchangeHelp"))->click();
     auto* help = dialog.findChild<ui::HelpWindow*>();
     ASSERT_NE(help, nullptr) << "one that the dialog does not block";

@@ -203,7 +203,9 @@ void ExchangeDialog::showReason() {
   if (line.Kind == exchange::LineKind::Ambiguous) {
     hints << tr("A right click, or F2 in the right column, offers what it can mean.");
   }
-  if (IsDoubtful(line)) {
+  const QModelIndex box = m_model.index(current.row(), ExchangeModel::Take);
+  const bool isTicked = box.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+  if (IsDoubtful(line) && !isTicked) {
     hints << tr("It is filed only if you tick it, with the space bar.");
   } else if (IsUnderstood(line)) {
     hints << tr("The space bar takes it or leaves it out.");

@@ -243,7 +243,7 @@ QString ExchangeModel::reasonOf(const ReadLine& line) const {
     if (other.read.Place.Offset <= line.ReasonPlace.Offset) number = other.read.Number;
   }
   return reason.isEmpty() || number == line.Number ? reason
-                                                   : tr("%1 (line %2)").arg(reason).arg(number);
+                                                   : tr("%1, in line %2").arg(reason).arg(number);
 }
 
 /// Why an order that was understood may not be wanted; empty when nothing is known against it.
@@ -254,9 +254,10 @@ QString ExchangeModel::objection(int row) const {
   QStringList objections;
   if (isOfOther(shown) && !IsDoubtful(shown)) objections << tr("of another power");
   if (!shown.Reason.empty()) objections << reasonOf(shown);
-  // A doubtful order's reason says what the text orders otherwise.
-  const Line* rival =
-      shown.Kind == LineKind::Order && !at(row).isTaken ? rivalOf(at(row)) : nullptr;
+  // A doubtful order's reason says what the text orders otherwise; a trial would take over.
+  const bool isOutdone =
+      &shown == &at(row).read && shown.Kind == LineKind::Order && !at(row).isTaken;
+  const Line* rival = isOutdone ? rivalOf(at(row)) : nullptr;
   if (rival != nullptr) objections << tr("line %1 is taken instead").arg(rival->read.Number);
   return objections.join(QStringLiteral("; "));
 }

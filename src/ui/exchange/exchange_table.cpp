@@ -13,8 +13,6 @@
 namespace orb::ui {
 namespace {
 
-using exchange::LineKind;
-
 /// Edits a line, and shows after every key what it would mean.
 class WrittenDelegate : public QStyledItemDelegate {
  public:
