@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 namespace orb::mail {
 namespace {
@@ -96,8 +97,8 @@ std::string InUtf8(std::string bytes, const char* charset) {
   if (IsSurelyUtf8(bytes)) return bytes;
   const std::string name = text::LowerCase(charset == nullptr ? "" : charset);
   if (IsLatin1(name)) return text::ToUtf8(bytes);
-  const iconv_t converter = g_mime_iconv_open("UTF-8", name.c_str());
-  if (converter == reinterpret_cast<iconv_t>(-1)) return text::ToUtf8(bytes);
+  iconv_t converter = g_mime_iconv_open("UTF-8", name.c_str());
+  if (reinterpret_cast<std::intptr_t>(converter) == -1) return text::ToUtf8(bytes);
   std::string utf8 = Converted(converter, std::move(bytes));
   g_mime_iconv_close(converter);
   return utf8;
