@@ -30,7 +30,7 @@ Effect Session::TakeOver(Situation& next) {
 
 Effect Session::Decline(Situation& abandoned) {
   if (now_.Stopped == abandoned.Stopped) return {};
-  now_.Stopped = std::move(abandoned.Stopped);
+  now_.Stopped = abandoned.Stopped;
   return {false, Changes::Orders};
 }
 

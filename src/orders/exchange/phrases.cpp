@@ -260,6 +260,14 @@ std::size_t Phrases::PastMarks(std::size_t at) const {
   return at;
 }
 
+/// Behind a face, a sign or what is passed over anyway; the same token when there is none.
+std::size_t Phrases::PastDecoration(std::size_t at) const {
+  const bool isSmile = Is(at, TokenKind::Colon) && at + 1 < tokens_.size() &&
+                       tokens_[at + 1].Glued && IsSmile(tokens_[at + 1]);
+  if (isSmile) return at + 2;
+  return IsSymbol(tokens_[at]) ? at + 1 : Skip(at);
+}
+
 bool Phrases::Ends(std::size_t at) {
   const auto part = [&](std::size_t begin, std::size_t end) {
     return tokens_.subspan(begin, end - begin);
@@ -277,20 +285,14 @@ bool Phrases::Ends(std::size_t at) {
       at = std::min(close + 1, tokens_.size());
       // Only the first long dash may begin a comment: where the order itself has one, "A Par --
       // Bur", a second may belong to it as well.
-    } else if (IsLongDash(token) && std::ranges::none_of(part(0, at), IsLongDash) &&
-               IsProse(part(at + 1, tokens_.size()), names_)) {
+    } else if ((IsLongDash(token) && std::ranges::none_of(part(0, at), IsLongDash) &&
+                IsProse(part(at + 1, tokens_.size()), names_)) ||
+               (token.Kind == TokenKind::Word && IsHarmlessTail(part(at, tokens_.size())))) {
       return true;
-    } else if (token.Kind == TokenKind::Colon && at + 1 < tokens_.size() && tokens_[at + 1].Glued &&
-               IsSmile(tokens_[at + 1])) {
-      at += 2;
-    } else if (IsSymbol(token)) {
-      ++at;
-    } else if (token.Kind == TokenKind::Word && IsHarmlessTail(part(at, tokens_.size()))) {
-      return true;
-    } else if (Skip(at) == at) {
-      break;
+    } else if (const std::size_t next = PastDecoration(at); next != at) {
+      at = next;
     } else {
-      ++at;
+      break;
     }
   }
   if (at < tokens_.size()) Unknown(at, NotUnderstood, EndOfBracket(at));

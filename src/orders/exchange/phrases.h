@@ -63,6 +63,7 @@ class Phrases {
 
  private:
   std::size_t Skip(std::size_t at) const;
+  std::size_t PastDecoration(std::size_t at) const;
   bool IsPassedOver(std::size_t at) const;
   std::size_t ToVerb(std::size_t at) const;
   bool IsVerbInBrackets(std::size_t at) const;

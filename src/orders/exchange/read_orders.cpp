@@ -285,7 +285,7 @@ class TextReader {
     } else if (says) {
       context_.Orders = heading.Orders;
     }
-    around_.TakeHeading(heading.Power, Corrects(line.All));
+    around_.TakeHeading(heading.Power, Corrects(line.All), lines_);
     AddLine(line, says ? LineKind::Heading : LineKind::PassedOver);
   }
 

@@ -22,6 +22,7 @@ void SurroundingsOfLines::SetAside(AsideScope scope, const std::string& reason, 
   reason_ = reason;
   at_ = at;
   power_ = power;
+  below_ = rows_.size();
 }
 
 /// False when there are no orders above in the same part of the text.
@@ -39,8 +40,12 @@ bool SurroundingsOfLines::SetAsideAbove(const std::string& reason, Span at,
   return any;
 }
 
-void SurroundingsOfLines::TakeHeading(int power, bool corrects) {
-  const bool isOfAnother = power_ != 0 && power != 0 && power != power_;
+void SurroundingsOfLines::TakeHeading(int power, bool corrects,
+                                      const std::vector<ReadLine>& lines) {
+  if (reason_.empty()) return;
+  while (below_ < lines.size() && !IsUnderstood(lines[below_]))
+    ++below_;
+  const bool isOfAnother = below_ < lines.size() && power_ != 0 && power != 0 && power != power_;
   if (corrects || isOfAnother) reason_.clear();
 }
 

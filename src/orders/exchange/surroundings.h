@@ -35,8 +35,9 @@ class SurroundingsOfLines {
   void SetAside(AsideScope scope, const std::string& reason, Span at, int power,
                 const std::vector<ReadLine>& lines, std::size_t end);
 
-  /// A heading: "Final orders:" ends what is set aside, and so does that of another power.
-  void TakeHeading(int power, bool corrects);
+  /// A heading: "Final orders:" ends what is set aside, and so does that of another power where
+  /// orders of the one before were set aside.
+  void TakeHeading(int power, bool corrects, const std::vector<ReadLine>& lines);
 
   /// Another text begins: nothing is set aside there.
   void StartAnew() { reason_.clear(); }
@@ -53,6 +54,7 @@ class SurroundingsOfLines {
   std::string reason_;  ///< why the orders from now on are set aside, or empty
   Span at_;
   int power_ = 0;
+  std::size_t below_ = 0;  ///< the first row below that may have an order
 };
 
 }  // namespace orb::exchange

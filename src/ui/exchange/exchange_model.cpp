@@ -322,13 +322,16 @@ QVariant ExchangeModel::understoodData(int row, int role) const {
   const ReadLine& shown = line(row);
   const QString against = objection(row);
   const OrderMark mark = markOf(shown, !against.isEmpty());
+  // A slip of the pen is told even where only one place can be meant.
+  const QString note =
+      against.isEmpty() && IsUnderstood(shown) ? displayText(shown.ReadAs) : against;
   switch (role) {
     case Qt::DisplayRole:
-      return against.isEmpty() ? meaningOf(shown) : tr("%1  (%2)").arg(meaningOf(shown), against);
+      return note.isEmpty() ? meaningOf(shown) : tr("%1  (%2)").arg(meaningOf(shown), note);
     case Qt::EditRole:
       return meaningOf(shown);
     case Qt::ToolTipRole:
-      return sentence(against.isEmpty() ? displayText(shown.Reason) : against);
+      return sentence(note.isEmpty() ? displayText(shown.Reason) : note);
     case Qt::AccessibleDescriptionRole:
       return markText(mark);
     case OrderMarkRole:
