@@ -265,7 +265,7 @@ std::size_t Phrases::PastDecoration(std::size_t at) const {
   const bool isSmile = Is(at, TokenKind::Colon) && at + 1 < tokens_.size() &&
                        tokens_[at + 1].Glued && IsSmile(tokens_[at + 1]);
   if (isSmile) return at + 2;
-  return IsSymbol(tokens_[at]) ? at + 1 : Skip(at);
+  return IsSymbol(tokens_[at]) || IsPassedOver(at) ? at + 1 : at;
 }
 
 bool Phrases::Ends(std::size_t at) {
