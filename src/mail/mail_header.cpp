@@ -1,7 +1,5 @@
 #include "mail/mail_header.h"
 
-#include "mail/mails.h"
-
 #include "text/strings.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mail/mails.h"
+#include "mail/mail.h"
 
 #include <string>
 #include <string_view>

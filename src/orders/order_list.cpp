@@ -23,10 +23,14 @@ const List& StageList(const model::GameState& game) {
   return game.*ListOf(game.Stage);
 }
 
+std::string_view UnitPart(std::string_view line) {
+  // Without a bracket npos + 1 is 0.
+  return line.substr(0, line.find(')') + 1);
+}
+
 bool FileOrder(std::vector<std::string>& list, std::string_view text) {
-  const std::size_t bracket = text.find(')');
-  if (bracket == std::string_view::npos) return false;
-  const std::string_view unit = text.substr(0, bracket + 1);
+  const std::string_view unit = UnitPart(text);
+  if (unit.empty()) return false;
   const auto previous = std::find_if(list.rbegin(), list.rend(), [unit](const std::string& line) {
     return line.starts_with(unit);
   });

@@ -12,9 +12,13 @@ namespace orb::orders {
 std::vector<std::string>& StageList(model::GameState& game);
 const std::vector<std::string>& StageList(const model::GameState& game);
 
-/// Files a typed order at the end of a list of order lines. The last line that begins like it, up
-/// to and including its first ")", is the unit's previous order and is removed. False, the list
-/// unchanged, for a text without a ")".
+/// The part of an order line by which lists tell units apart: up to and including its first ")".
+/// Empty for a text without one. It is taken as it is written, in whatever case.
+std::string_view UnitPart(std::string_view line);
+
+/// Files a typed order at the end of a list of order lines. The last line that begins with the same
+/// UnitPart is the unit's previous order and is removed. False, the list unchanged, for a text
+/// without one.
 bool FileOrder(std::vector<std::string>& list, std::string_view text);
 
 /// Removes the line at this position, counted from 0; false when there is none.

@@ -1,5 +1,6 @@
 #include "session/incoming_text.h"
 
+#include "mail/mail_header.h"
 #include "mail/mails.h"
 
 #include "orders/exchange/order_files.h"

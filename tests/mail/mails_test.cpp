@@ -1,6 +1,7 @@
 #include "mail/mails.h"
 
 #include "mail/html_lines.h"
+#include "mail/mail_header.h"
 #include "mail/mime.h"
 
 #include "model/errors.h"

@@ -58,6 +58,7 @@ Mail HeadOf(GMimeMessage* message) {
   head.Subject = HeaderText(g_mime_message_get_subject(message));
   InternetAddressList* const senders = g_mime_message_get_from(message);
   if (internet_address_list_length(senders) == 0) return head;
+  // Of several senders the first one stands for all.
   InternetAddress* const sender = internet_address_list_get_address(senders, 0);
   if (INTERNET_ADDRESS_IS_MAILBOX(sender)) {
     head.Address = HeaderText(internet_address_mailbox_get_addr(INTERNET_ADDRESS_MAILBOX(sender)));
@@ -126,6 +127,7 @@ class PartReader {
   Texts ReadForwarded(GMimeMessagePart* part, int depth) {
     GMimeMessage* const message = g_mime_message_part_get_message(part);
     if (message == nullptr) return {};
+    // As mail programs write it, so that the reader of orders takes what follows as older.
     const Mail head = HeadOf(message);
     return {{},
             {},
@@ -136,6 +138,7 @@ class PartReader {
   Texts ReadText(GMimePart* part) {
     const bool isHtml = IsType(GMIME_OBJECT(part), "text", "html");
     const bool isAttached = IsAttached(part);
+    // Pictures and documents hold no orders that could be read.
     if (!IsPlainText(part) && (!isHtml || isAttached)) return {};
     const char* const charset =
         g_mime_object_get_content_type_parameter(GMIME_OBJECT(part), "charset");
@@ -167,6 +170,7 @@ void ReadMail(std::string_view bytes, Mail& mail) {
   const Owned<GMimeStream> stream(g_mime_stream_mem_new_with_buffer(bytes.data(), bytes.size()));
   const Owned<GMimeParser> parser(g_mime_parser_new_with_stream(stream.get()));
   const Owned<GMimeMessage> message(g_mime_parser_construct_message(parser.get(), nullptr));
+  // What GMime finds no mail in is given as it stands: somebody may still read it.
   if (message == nullptr) {
     mail.Text = Ended(InUtf8(std::string(bytes), ""));
     return;

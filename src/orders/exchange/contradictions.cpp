@@ -1,5 +1,6 @@
 #include "orders/exchange/contradictions.h"
 
+#include "orders/order_list.h"
 #include "text/strings.h"
 
 #include <algorithm>
@@ -131,7 +132,7 @@ class Contradictions {
 }  // namespace
 
 std::string SubjectOf(std::string_view order, model::Stage stage) {
-  std::string unit = text::UpperCase(order.substr(0, order.find(')')));
+  std::string unit = text::UpperCase(orders::UnitPart(order));
   if (stage != model::Stage::Adjustments) return unit;
   const std::size_t power = std::min(unit.find(' '), unit.size());
   if (!std::string_view(unit).substr(power).starts_with(" BUILD")) return unit;

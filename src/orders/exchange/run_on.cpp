@@ -1,6 +1,7 @@
 #include "orders/exchange/run_on.h"
 
 #include "orders/exchange/comments.h"
+#include "orders/order_list.h"
 
 #include <map>
 #include <set>
@@ -17,9 +18,7 @@ constexpr std::size_t LengthBound = 40;
 
 /// Whether "2." or "2)" stands here, before an order of a list.
 bool IsNumbered(Tokens tokens, std::size_t at) {
-  return tokens[at].Kind == TokenKind::Word &&
-         tokens[at].Text.find_first_not_of("0123456789") == std::string::npos &&
-         at + 2 < tokens.size() &&
+  return IsNumber(tokens[at]) && at + 2 < tokens.size() &&
          (IsA(tokens[at + 1], TokenKind::Dot) || IsA(tokens[at + 1], TokenKind::Close));
 }
 
@@ -116,7 +115,7 @@ bool RepeatsUnit(const PartsRead& parts) {
   for (const auto& [range, part] : parts) {
     if (part.Kind != LineKind::Order) continue;
     const std::string& order = part.Meant.All[0].Line;
-    if (!units.insert(order.substr(0, order.find(')'))).second) return true;
+    if (!units.insert(std::string(orders::UnitPart(order))).second) return true;
   }
   return false;
 }

@@ -21,6 +21,7 @@ AdjustmentsPanel::AdjustmentsPanel(Desk& desk, QWidget* parent)
                        .helpTopic = tr("Adjustments"),
                        .resolveTip = tr("Carries out the builds and disbands of all powers")},
                       parent) {
+  // Whoever orders builds needs to know first how many there are.
   addBelowHeading(new AdjustmentCounts(desk));
   addCommand({QStringLiteral("butAdjustmentBuild"), tr("&Build"),
               tr("The power builds a unit in a home centre"), QStringLiteral(" build ")});

@@ -27,6 +27,7 @@ RetreatsPanel::RetreatsPanel(Desk& desk, QWidget* parent)
 }
 
 void RetreatsPanel::mapClicked(const MapSpot& at) {
+  // What was typed so far tells of which unit the coast is to be chosen.
   const std::string text = line();
   const std::string location = locationAt(at, orders::LastUnitType(text));
   if (!location.empty()) write(orders::ClickRetreat(game(), text, location));

@@ -22,20 +22,6 @@ using exchange::LineKind;
 using exchange::ReadLine;
 using exchange::Span;
 
-/// The beginning of the order line, by which filing recognizes an earlier order of the unit.
-std::string_view unitOf(const ReadLine& line) {
-  return std::string_view(line.Order).substr(0, line.Order.find(')') + 1);
-}
-
-/// The place of a fault in a text that begins at the offset, in characters.
-std::pair<int, int> faultIn(std::string_view text, Span fault, std::size_t offset) {
-  const std::size_t start = std::min(std::max(fault.Offset, offset) - offset, text.size());
-  const auto length = [](std::string_view part) {
-    return static_cast<int>(displayText(std::string(part)).size());
-  };
-  return {length(text.substr(0, start)), length(text.substr(start, fault.Length))};
-}
-
 }  // namespace
 
 ExchangeModel::ExchangeModel(const model::GameState& game, std::string text,
@@ -197,7 +183,7 @@ ExchangeModel::Counts ExchangeModel::counts() const {
     if (!line.isTaken) continue;
     ++counts.taken;
     counts.takenDoubtful += doubtful;
-    if (isReplacing(line.read)) replacing.insert(unitOf(line.read));
+    if (isReplacing(line.read)) replacing.insert(orders::UnitPart(line.read.Order));
   }
   counts.replacing = static_cast<int>(replacing.size());
   return counts;
@@ -231,7 +217,7 @@ bool ExchangeModel::needsConsent(const ReadLine& line) const {
 bool ExchangeModel::isReplacing(const ReadLine& line) const {
   const auto& list = orders::StageList(m_game);
   return std::any_of(list.begin(), list.end(), [&](const std::string& filed) {
-    return filed != line.Order && filed.starts_with(unitOf(line));
+    return filed != line.Order && filed.starts_with(orders::UnitPart(line.Order));
   });
 }
 

@@ -5,6 +5,9 @@
 
 #include <QObject>
 
+#include <algorithm>
+#include <string>
+
 namespace orb::ui {
 
 using exchange::LineKind;
@@ -62,6 +65,14 @@ QString meaningOf(const ReadLine& line) {
     default:
       return sentence(displayText(line.Reason));
   }
+}
+
+std::pair<int, int> faultIn(std::string_view text, exchange::Span fault, std::size_t offset) {
+  const std::size_t start = std::min(std::max(fault.Offset, offset) - offset, text.size());
+  const auto length = [](std::string_view part) {
+    return static_cast<int>(displayText(std::string(part)).size());
+  };
+  return {length(text.substr(0, start)), length(text.substr(start, fault.Length))};
 }
 
 }  // namespace orb::ui
