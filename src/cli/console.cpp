@@ -15,6 +15,12 @@ bool IsBeyondAscii(char c) {
   return static_cast<unsigned char>(c) >= 0x80;
 }
 
+/// What a terminal would take for a command, as a character that it shows. Names of files and texts
+/// of games come from others.
+char Harmless(char c) {
+  return static_cast<unsigned char>(c) < ' ' || c == '\x7f' ? '?' : c;
+}
+
 /// A message as one line, so that a script reads each message as one line of standard error.
 std::string OnOneLine(std::string_view text) {
   std::string line;
@@ -22,7 +28,7 @@ std::string OnOneLine(std::string_view text) {
   for (std::size_t i = 0; i < text.size(); ++i) {
     // Message boxes have their lines separated by CR alone, files by CR LF.
     if (text.substr(i, 2) == "\r\n") ++i;
-    line += text[i] == '\r' || text[i] == '\n' ? ' ' : text[i];
+    line += text[i] == '\r' || text[i] == '\n' ? ' ' : Harmless(text[i]);
   }
   return line;
 }
@@ -44,6 +50,7 @@ void Console::Say(std::string_view subject, std::string_view text) {
   // converted as well: a line in two encodings could not be read anywhere.
   const bool utf8 = text::IsUtf8(subject) && std::ranges::any_of(subject, IsBeyondAscii);
   std::string line(subject);
+  std::ranges::transform(line, line.begin(), Harmless);
   line.append(": ").append(utf8 ? text::ToUtf8(OnOneLine(text)) : OnOneLine(text)).append("\n");
   err_.write(line.data(), static_cast<std::streamsize>(line.size()));
   err_.flush();

@@ -131,6 +131,10 @@ std::string ReadFile(const fs::path& path) {
     if (got < 0 && errno != EINTR) Fail("read", path, errno);
     if (got == 0) return bytes;
     if (got > 0) bytes.append(buffer.data(), static_cast<std::size_t>(got));
+    if (bytes.size() > LargestFile) {
+      throw FileError("Cannot read " + text::NameInText(path.string()) + ": it is larger than " +
+                      std::to_string(LargestFile / 1'000'000) + " MB.");
+    }
   }
 }
 

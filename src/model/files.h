@@ -1,12 +1,17 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
 
 namespace orb::model {
 
-/// The whole contents of a file. Throws FileError with the system's reason.
+/// The most that is read of a file, in bytes: far beyond any that the program can use.
+constexpr std::size_t LargestFile = 100'000'000;
+
+/// The whole contents of a file or pipe. Throws FileError with the system's reason, and for what
+/// has no end or is larger than LargestFile.
 std::string ReadFile(const std::filesystem::path& path);
 
 /// The new contents of a file, written next to it and flushed to disk, that take its place at

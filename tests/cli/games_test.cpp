@@ -177,6 +177,11 @@ TEST(Games, AreRefusedInLinesOfOneEncoding) {
   }
 }
 
+TEST(Games, NamesAreNoCommandsForATerminal) {
+  EXPECT_THAT(Shell().Run("show @a\x1b[2J.orb").Err,
+              testing::StartsWith("@a?[2J.orb: Cannot read @a?[2J.orb"));
+}
+
 TEST(Games, AreReplacedWholeOrNotAtAll) {
   const Shell shell;
   shell.Write("a.orb", TwoUnitGame());

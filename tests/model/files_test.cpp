@@ -108,7 +108,8 @@ TEST(Files, WhatIsNoFileIsRefused) {
     EXPECT_EQ(ReplaceRefused(target), 0) << target;
   }
   EXPECT_EQ(directory.EntryCount(), 2);
-  for (const fs::path& path : {directory.Path(), directory.Path() / "missing"})
+  for (const fs::path& path :
+       {directory.Path(), directory.Path() / "missing", fs::path("/dev/zero")})
     EXPECT_EQ(Refused(path, [&] { ReadFile(path); }), 0) << path;
 }
 

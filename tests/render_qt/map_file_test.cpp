@@ -152,6 +152,11 @@ TEST_F(MapFile, EveryFormatHoldsTheMap) {
                     HasSubstr(Fill().name().toStdString())));
 }
 
+TEST_F(MapFile, ATitleIsNoMarkupInAPicture) {
+  game_.Title = "Tom & </title><script>";
+  EXPECT_THAT(Saved(MapFormat::Svg), HasSubstr("Tom &amp; &lt;/title&gt;&lt;script&gt;"));
+}
+
 TEST_F(MapFile, AFailedSaveLeavesTheOldFile) {
   const fs::path file = directory_.Write("old.png", "precious");
   const auto entries = directory_.EntryCount();

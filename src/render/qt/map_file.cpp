@@ -61,7 +61,8 @@ void WriteSvg(const Job& job, QBuffer& buffer) {
   generator.setResolution(qRound(job.Size.PixelsPerInch));
   generator.setSize(job.Size.Pixels);
   generator.setViewBox(QRect(QPoint(0, 0), job.Size.Pixels));
-  generator.setTitle(text::ToQString(job.Game.Title));
+  // Qt writes it as it stands between its tags.
+  generator.setTitle(text::ToQString(job.Game.Title).toHtmlEscaped());
   QPainter painter(&generator);
   Draw(job, painter, QRectF(QPointF(0, 0), QSizeF(job.Size.Pixels)));
 }
