@@ -161,7 +161,7 @@ const std::vector<Phrase>& Titles() {
   return phrases;
 }
 
-/// Where one of the phrases stands; as many words as may come between stay apart: none.
+/// Where the first of the phrases stands, word by word.
 std::optional<TokenRange> FindPhrase(Tokens tokens, const std::vector<Phrase>& phrases) {
   for (std::size_t at = 0; at < tokens.size(); ++at) {
     for (const Phrase& phrase : phrases) {
