@@ -60,7 +60,9 @@ class Contradictions {
                  model::Stage stage)
       : lines_(lines), around_(around), corrections_(lines.size() + 1) {
     for (std::size_t i = 0; i < lines.size(); ++i) {
-      corrections_[i + 1] = corrections_[i] + (around[i].Corrects ? 1U : 0U);
+      // What is said next to an order is said of that order.
+      const bool isOrder = IsUnderstood(lines[i]) || IsUnclear(lines[i]);
+      corrections_[i + 1] = corrections_[i] + (around[i].Corrects && !isOrder ? 1U : 0U);
       if (around[i].IsOlder) continue;
       if (IsUnderstood(lines[i])) orders_[SubjectOf(lines[i].Order, stage)].push_back(i);
       // What an ambiguous line means may be another order of the unit.
@@ -98,7 +100,7 @@ class Contradictions {
     const ReadLine& now = lines_[second];
     if (!IsUnderstood(old) || now.Kind != LineKind::Order || old.Order == now.Order) return false;
     if (old.Kind == LineKind::Doubtful) return true;
-    return corrections_[second + 1] > corrections_[first + 1];
+    return around_[second].Corrects || corrections_[second] > corrections_[first + 1];
   }
 
   /// Each order is held against one that differs, of those that nothing sets aside.
@@ -125,7 +127,8 @@ class Contradictions {
 
   std::vector<ReadLine>& lines_;
   const std::vector<Surroundings>& around_;
-  std::vector<std::size_t> corrections_;  ///< how many there are in the lines before each
+  /// How many lines without an order correct, of those before each.
+  std::vector<std::size_t> corrections_;
   OrdersOfSubject orders_;
 };
 
