@@ -38,7 +38,8 @@ int ForEachGame(const CommandLine& line, Console& console, const std::vector<Gam
       session::Situation situation;  // "{}" would have all 20 kB of it cleared first
       situation.Game = model::EmptyGame(map);
       GameAtWork at{situation, paths, {console, paths.Game, line.Has(OptionId::Yes)}};
-      return session::ReadGame(situation, paths.Game, at.Messages) && work(at);
+      return session::ReadGame(situation, paths.Game, at.Messages, model::Streams::Read) &&
+             work(at);
     });
     console.ShowProgress(++done, plan.size());
   }

@@ -50,8 +50,9 @@ std::vector<exchange::ReadLine> OrdersSource::Take(session::Situation& situation
   std::error_code ignored;
   const auto type = std::filesystem::symlink_status(paths.Orders, ignored).type();
   const bool isMissing = type == std::filesystem::file_type::not_found;
-  std::string text =
-      isMissing && paths.OrdersMayLack ? std::string() : model::ReadFile(paths.Orders);
+  std::string text = isMissing && paths.OrdersMayLack
+                         ? std::string()
+                         : model::ReadFile(paths.Orders, model::Streams::Read);
   if (!isLoose_) {
     session::ReplaceOrders(situation, OrderLines(text));
     return {};

@@ -1,8 +1,8 @@
 #include "cli/command.h"
 #include "cli/games.h"
 #include "cli/orders_source.h"
-#include "model/files.h"
 #include "model/game_file.h"
+#include "model/replacement.h"
 #include "session/commands.h"
 
 #include <algorithm>
@@ -46,6 +46,7 @@ int Execute(const CommandLine& line, Console& console) {
     if (printsReport) PrintUnderHeading(console, plan, at.Paths, report);
     if (printsReasons) console.Print(reasons);
     console.Deliver();
+    session::ExpectUnchanged(at.Situation, at.Paths.Output);
     game.Commit();
     // Somebody wrote these orders, and they were not carried out: that must not go unnoticed.
     return std::ranges::none_of(leftOut, exchange::IsDoubtful);

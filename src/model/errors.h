@@ -24,4 +24,10 @@ class FileError : public FatalError {
   using FatalError::FatalError;
 };
 
+/// A file that was not replaced because somebody else has changed it since it was read.
+class FileChangedError : public FileError {
+ public:
+  using FileError::FileError;
+};
+
 }  // namespace orb::model

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "model/file_mark.h"
+
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -10,32 +13,25 @@ namespace orb::model {
 /// The most that is read of a file, in bytes: far beyond any that the program can use.
 constexpr std::size_t LargestFile = 100'000'000;
 
-/// The whole contents of a file or pipe. Throws FileError with the system's reason, and for what
-/// has no end or is larger than LargestFile.
-std::string ReadFile(const std::filesystem::path& path);
+/// Whether pipes and devices are read as well as ordinary files. They may keep the reader waiting
+/// for ever, which is what a user of a terminal expects and one of a window does not.
+enum class Streams : std::uint8_t { Refused, Read };
 
-/// The new contents of a file, written next to it and flushed to disk, that take its place at
-/// Commit. Where they are dropped before, the old file stays and nothing lies next to it. All but
-/// the renaming is done by then, so that what must come between can still stop it.
-class Replacement {
- public:
-  /// Throws FileError with the system's reason. A link is followed; anything but an ordinary file
-  /// is refused.
-  Replacement(const std::filesystem::path& path, std::string_view bytes);
-  Replacement(const Replacement&) = delete;
-  Replacement& operator=(const Replacement&) = delete;
-  ~Replacement();
+/// The whole contents of a file. Throws FileError with the system's reason, for what is no ordinary
+/// file unless that is to be read, and for what has no end or is larger than LargestFile.
+std::string ReadFile(const std::filesystem::path& path, Streams streams = Streams::Refused);
 
-  /// Takes the old file's place; throws FileError. To be called once.
-  void Commit();
-
- private:
-  std::filesystem::path path_;    ///< as given, for error texts
-  std::filesystem::path target_;  ///< links followed
-  std::string written_;           ///< the file with the new contents; empty once it took its place
+/// A file's contents, and the mark by which a later change is known.
+struct MarkedBytes {
+  std::string Bytes;
+  FileMark Mark;
 };
 
-/// Replaces a file whole or not at all, as a Replacement that is committed at once.
+/// The same with the file's mark.
+MarkedBytes ReadMarkedFile(const std::filesystem::path& path, Streams streams = Streams::Refused);
+
+/// Replaces a file whole or not at all; throws FileError with the system's reason. A link is
+/// followed; anything but an ordinary file is refused.
 void ReplaceFile(const std::filesystem::path& path, std::string_view bytes);
 
 /// Whether ReplaceFile may write the file, as far as permissions tell.

@@ -1,7 +1,6 @@
 #include "model/game_file.h"
 
 #include "model/errors.h"
-#include "model/files.h"
 #include "model/record_file.h"
 #include "model/unit_fields.h"
 #include "text/encoding.h"
@@ -312,17 +311,15 @@ std::string FormatGameFile(const GameState& game) {
   return writer.Take();
 }
 
-void WriteGameFile(const GameState& game) {
-  ReplaceFile(game.FileName, FormatGameFile(game));
-}
-
-bool ReadGameFile(GameState& game, const std::filesystem::path& file, Messages& messages) {
-  if (const auto unknown = ParseGameFile(ReadFile(file), file.string(), game)) {
+std::optional<FileMark> ReadGameFile(GameState& game, const std::filesystem::path& file,
+                                     Messages& messages, Streams streams) {
+  MarkedBytes read = ReadMarkedFile(file, streams);
+  if (const auto unknown = ParseGameFile(read.Bytes, read.Mark.Path, game)) {
     messages.Show(UnknownProvinceText(*unknown), Icon::Exclamation);
-    return false;
+    return std::nullopt;
   }
-  game.FileName = file.string();
-  return true;
+  game.FileName = read.Mark.Path;
+  return std::move(read.Mark);
 }
 
 }  // namespace orb::model

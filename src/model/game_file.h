@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/files.h"
 #include "model/game_state.h"
 #include "model/messages.h"
 
@@ -28,12 +29,10 @@ std::optional<std::string> ParseGameFile(std::string_view bytes, const std::stri
 /// "Unknown province: Xyz": what the user is told about a location that ParseGameFile returns.
 std::string UnknownProvinceText(std::string_view location);
 
-/// Writes the situation to `game.FileName`, whole or not at all.
-void WriteGameFile(const GameState& game);
-
-/// Reads the named file into the situation and makes it the current file name. An unknown location
-/// is reported in a message: false. Then, and when it throws as ParseGameFile does, the situation
-/// is unchanged.
-bool ReadGameFile(GameState& game, const std::filesystem::path& file, Messages& messages);
+/// Reads the named file into the situation and makes it the current file name; the mark of what was
+/// read. An unknown location is reported in a message: nothing. Then, and when it throws as
+/// ParseGameFile does, the situation is unchanged.
+std::optional<FileMark> ReadGameFile(GameState& game, const std::filesystem::path& file,
+                                     Messages& messages, Streams streams = Streams::Refused);
 
 }  // namespace orb::model

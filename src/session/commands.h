@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/files.h"
 #include "model/messages.h"
 #include "model/season_edit.h"
 #include "orders/exchange/read_orders.h"
@@ -28,18 +29,27 @@ void NewGame(Situation& situation, const std::filesystem::path& dataDirectory);
 void BlankGame(Situation& situation, const std::filesystem::path& dataDirectory);
 
 /// Reads a game file. A location that is not on the map is reported in a message: false.
-bool ReadGame(Situation& situation, const std::filesystem::path& file, model::Messages& messages);
+bool ReadGame(Situation& situation, const std::filesystem::path& file, model::Messages& messages,
+              model::Streams streams = model::Streams::Refused);
 
 /// Reads a game file to work on; the starting position where ReadGame is false.
 void OpenGame(Situation& situation, const std::filesystem::path& file, bool readOnly,
               const std::filesystem::path& dataDirectory, model::Messages& messages);
 
-/// Writes the game to the file that it came from or was saved to last. Refused for a file that was
-/// opened for reading only.
-void SaveGame(const Situation& situation);
+/// Whether a game is also written over what somebody else has made of its file since it was read.
+enum class Overwrite : std::uint8_t { Unchanged, Anything };
 
-/// Writes the game to a file, which is the game's own from then on.
-void SaveGameAs(Situation& situation, const std::filesystem::path& file);
+/// Writes the game to the file that it came from or was saved to last. Refused for a file that was
+/// opened for reading only, and by a FileChangedError for one that somebody else has changed.
+void SaveGame(Situation& situation, Overwrite overwrite = Overwrite::Unchanged);
+
+/// Writes the game to a file, which is the game's own from then on. Refused by a FileChangedError
+/// where it is the file that the game came from and somebody else has changed it.
+void SaveGameAs(Situation& situation, const std::filesystem::path& file,
+                Overwrite overwrite = Overwrite::Unchanged);
+
+/// Throws FileChangedError where the game came from this file and somebody else has changed it.
+void ExpectUnchanged(const Situation& situation, const std::filesystem::path& file);
 
 // Orders of the stage.
 

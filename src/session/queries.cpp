@@ -18,6 +18,13 @@ bool CanSave(const Situation& situation) {
   return !situation.ReadOnly || situation.Game.FileName.empty();
 }
 
+model::FileChange OwnFileChange(const Situation& situation) {
+  const auto& mark = situation.OwnFile;
+  // A game that has lost its file name, or got another one, does not belong to that file any more.
+  if (!mark || mark->Path != situation.Game.FileName) return model::FileChange::None;
+  return model::ChangeSince(*mark);
+}
+
 bool CanUndoSeason(const Situation& situation) {
   return situation.Game.Stage != model::Stage::Moves;
 }

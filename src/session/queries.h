@@ -18,6 +18,10 @@ bool HasOrderLines(const model::GameState& game);
 /// Whether the game may be written to its own file: one that was opened for reading only may not.
 bool CanSave(const Situation& situation);
 
+/// What became of the game's own file since the game was read from it or written to it; None where
+/// it has no file.
+model::FileChange OwnFileChange(const Situation& situation);
+
 /// Whether anything of the season has been carried out that could be taken back.
 bool CanUndoSeason(const Situation& situation);
 

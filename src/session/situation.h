@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/edit_history.h"
+#include "model/file_mark.h"
 #include "model/game_state.h"
 #include "orders/order_outcome.h"
 #include "orders/order_result.h"
@@ -40,8 +41,9 @@ struct Situation {
   std::vector<orders::OrderOutcome> Outcomes = {};  ///< of the season's orders resolved so far
   std::optional<StoppedLine> Stopped = {};          ///< until the lists change
   session::Editing Editing = session::Editing::None;
-  model::EditHistory Edits = {};  ///< the steps since the editing began
-  bool ReadOnly = false;          ///< the game's file was opened for reading only
+  model::EditHistory Edits = {};                ///< the steps since the editing began
+  bool ReadOnly = false;                        ///< the game's file was opened for reading only
+  std::optional<model::FileMark> OwnFile = {};  ///< what was read of it, or written to it last
 };
 
 }  // namespace orb::session

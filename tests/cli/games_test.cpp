@@ -8,6 +8,8 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <sys/stat.h>
+#include <thread>
 
 namespace orb::tests {
 namespace {
@@ -216,6 +218,28 @@ TEST(Resolve, LeavesAGameWhoseReportCannotBePrinted) {
   EXPECT_THAT(err.str(), HasSubstr("a.orb: The standard output could not be written."));
   EXPECT_EQ(shell.Read("a.orb"), TwoUnitGame());
   EXPECT_EQ(shell.Listing(), "a.orb ") << "nothing is left next to it";
+}
+
+TEST(Resolve, LeavesAGameThatSomebodyChangesMeanwhile) {
+  for (const char* output : {"--in-place @a.orb", "-o @./a.orb @a.orb"}) {
+    const Shell shell;
+    shell.Write("a.orb", TwoUnitGame());
+    const std::filesystem::path orders = shell.Directory().Path() / "orders";
+    ASSERT_EQ(::mkfifo(orders.c_str(), 0600), 0);
+    std::thread other([&] {
+      // Opens when orbctl reads its other end, so that it has read the game.
+      std::ofstream pipe(orders);
+      shell.Write("a.orb", "somebody else's");
+      pipe << "FRA A(Par) - Bur\n";
+    });
+    const Outcome outcome = shell.Run(std::string("resolve --yes --orders @orders ") + output);
+    other.join();
+    EXPECT_EQ(outcome.Status, 1);
+    EXPECT_THAT(outcome.Err, EndsWith("a.orb was changed by another program since it was read: it "
+                                      "is left as it is.\n"));
+    EXPECT_EQ(shell.Read("a.orb"), "somebody else's");
+    EXPECT_EQ(shell.Listing(), "a.orb orders ");
+  }
 }
 
 TEST(Resolve, WritesReportAndReasonsToDevicesToo) {

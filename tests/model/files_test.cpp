@@ -108,9 +108,15 @@ TEST(Files, WhatIsNoFileIsRefused) {
     EXPECT_EQ(ReplaceRefused(target), 0) << target;
   }
   EXPECT_EQ(directory.EntryCount(), 2);
+  // Takes no room on the disk, and all of the memory if it were read.
+  fs::resize_file(directory.Write("sparse", ""), 1'000'000'000'000);
   for (const fs::path& path :
-       {directory.Path(), directory.Path() / "missing", fs::path("/dev/zero")})
+       {directory.Path(), directory.Path() / "missing", directory.Path() / "pipe",
+        directory.Path() / "sparse", fs::path("/dev/zero"), fs::path("/dev/null")}) {
     EXPECT_EQ(Refused(path, [&] { ReadFile(path); }), 0) << path;
+  }
+  EXPECT_EQ(ReadFile("/dev/null", model::Streams::Read), "");
+  EXPECT_EQ(Refused("/dev/zero", [] { ReadFile("/dev/zero", model::Streams::Read); }), 0);
 }
 
 TEST(ReplaceFile, LeavesTheOldFileWhenItCannotBeReplaced) {

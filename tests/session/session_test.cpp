@@ -1,6 +1,7 @@
 #include "session/session.h"
 
 #include "model/errors.h"
+#include "model/files.h"
 #include "model/position_edit.h"
 #include "session/queries.h"
 #include "support/boards.h"
@@ -126,7 +127,8 @@ TEST_F(Session, AGameIsPlayed) {
   EXPECT_THAT(Now().Notes, IsEmpty());
   EXPECT_THAT(Now().Outcomes, IsEmpty());
   Open(file);
-  EXPECT_THROW(session_.Run(session::SaveGame), model::FatalError) << "only read";
+  EXPECT_THROW(session_.Run([](Situation& next) { session::SaveGame(next); }), model::FatalError)
+      << "only read";
   EXPECT_THAT(DrawUnits(Game()), HasSubstr("FRA A(Par)\n"));
 
   session_.Run(session::NextSeason);
@@ -212,6 +214,54 @@ TEST_F(Session, WhatFailsOrIsDeclinedLeavesEverything) {
   });
   EXPECT_THROW(Resolve(), model::FileError);
   EXPECT_EQ(All(Now()), before);
+}
+
+TEST_F(Session, AFileThatSomebodyElseHasChangedIsNotReplacedUnasked) {
+  using model::FileChange;
+  const auto file = directory_.Path() / "game.orb";
+  const auto save = [&](session::Overwrite overwrite = session::Overwrite::Unchanged) {
+    session_.Run([&](Situation& next) { session::SaveGame(next, overwrite); });
+  };
+  const auto bytes = [&] { return model::ReadFile(file); };
+  SaveAs(file);
+  const std::string first = bytes();
+  FileAll({"ENG A(Lvp) - Yor"});
+  save();
+  const std::string second = bytes();
+  ASSERT_NE(first, second);
+
+  for (const bool reopened : {false, true}) {
+    directory_.Write("game.orb", second);
+    if (reopened) Open(file, false);
+    EXPECT_EQ(session::OwnFileChange(Now()), FileChange::None) << "the same bytes, only newer";
+    // Of the same length, and so soon that the time may be the same.
+    std::string others = second;
+    others.replace(others.find("Yor"), 3, "Wal");
+    directory_.Write("game.orb", others);
+    EXPECT_EQ(session::OwnFileChange(Now()), FileChange::Changed);
+    for (const auto& command :
+         {Command([](Situation& next) { session::SaveGame(next); }), Command([&](Situation& next) {
+            session::SaveGameAs(next, directory_.Path() / "./game.orb");
+          })}) {
+      EXPECT_THROW(session_.Run(command), model::FileChangedError);
+      EXPECT_EQ(bytes(), others);
+    }
+    EXPECT_EQ(directory_.EntryCount(), 1);
+    save(session::Overwrite::Anything);
+    EXPECT_EQ(bytes(), second);
+    EXPECT_EQ(session::OwnFileChange(Now()), FileChange::None);
+  }
+  std::filesystem::remove(file);
+  EXPECT_EQ(session::OwnFileChange(Now()), FileChange::Gone);
+  save();
+  EXPECT_EQ(bytes(), second);
+
+  directory_.Write("other.orb", "precious");
+  SaveAs(directory_.Path() / "other.orb");
+  EXPECT_EQ(session::OwnFileChange(Now()), FileChange::None);
+  directory_.Write("other.orb", "changed");
+  session_.Run([](Situation& next) { session::NewGame(next, DataDirectory()); });
+  EXPECT_EQ(session::OwnFileChange(Now()), FileChange::None) << "it is another game";
 }
 
 TEST_F(Session, AnUnknownLocationBeginsANewGame) {

@@ -34,7 +34,7 @@ void Desk::openGame(const std::filesystem::path& file, bool readOnly) {
 }
 
 void Desk::saveGame() {
-  run(session::SaveGame);
+  run([](Situation& next) { session::SaveGame(next); });
 }
 
 void Desk::saveGameAs(const std::filesystem::path& file) {
