@@ -2,12 +2,14 @@
 
 #include "model/errors.h"
 #include "model/files.h"
+#include "model/leftovers.h"
 #include "text/encoding.h"
 
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
 #include <optional>
+#include <random>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -91,39 +93,99 @@ std::string_view DirectoryPrefix(const fs::path& path) {
   return std::string_view(path.native()).substr(0, path.native().rfind('/') + 1);
 }
 
+/// A new file without a name, which vanishes with the program; none where the file system has no
+/// such files.
+Descriptor OpenUnnamed(const std::string& directory) {
+  // It can be given a name only by way of /proc.
+  static const bool canBeNamed = ::access("/proc/self/fd", X_OK) == 0;
+  if (!canBeNamed) return Descriptor();
+  const char* const path = directory.empty() ? "." : directory.c_str();
+  Descriptor file(::open(path, O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600));
+  if (file.IsOpen()) LockUnfinished(file.Number());
+  return file;
+}
+
+/// A new file, whose name is put in place of the pattern "XXXXXX".
+Descriptor OpenNamed(std::string& pattern) {
+  Descriptor file(::mkostemp(pattern.data(), O_CLOEXEC));
+  if (file.IsOpen()) LockUnfinished(file.Number());
+  return file;
+}
+
+/// Gives a file without a name one like those of mkostemp; false with errno where that fails.
+bool GiveName(const Descriptor& file, std::string& pattern) {
+  const std::string number = "/proc/self/fd/" + std::to_string(file.Number());
+  std::random_device random;
+  constexpr int tries = 100;
+  for (int i = 0; i < tries; ++i) {
+    constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyz0123456789";
+    for (char* at = &*pattern.end() - 6; at != &*pattern.end(); ++at)
+      *at = letters[random() % letters.size()];
+    if (::linkat(AT_FDCWD, number.c_str(), AT_FDCWD, pattern.c_str(), AT_SYMLINK_FOLLOW) == 0) {
+      return true;
+    }
+    if (errno != EEXIST) return false;
+  }
+  return false;
+}
+
+/// Flushes the new name to disk as well. One who may not list a directory cannot do that, and some
+/// file systems know no such thing.
+bool FlushDirectory(const std::string& directory) {
+  const Descriptor opened(
+      ::open(directory.empty() ? "." : directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!opened.IsOpen()) return errno == EACCES;
+  return ::fsync(opened.Number()) == 0 || errno == EINVAL;
+}
+
 }  // namespace
+
+Replacement::TemporaryName::~TemporaryName() {
+  if (!Path.empty()) ::unlink(Path.c_str());
+}
 
 Replacement::Replacement(const fs::path& path, std::string_view bytes) : path_(path) {
   const Target target = TargetOf(path);
   CheckReplaceable(target);
   target_ = target.Path;
   // In the same directory: a file can be renamed within its file system only.
-  std::string beside(DirectoryPrefix(target_));
-  beside += ".orb-XXXXXX";
-  file_ = Descriptor(::mkostemp(beside.data(), O_CLOEXEC));
-  if (!file_.IsOpen()) FailWith("write", path_, errno);
+  directory_ = DirectoryPrefix(target_);
+  RemoveLeftovers(directory_);
+  file_ = OpenUnnamed(directory_);
+  if (!file_.IsOpen()) {
+    std::string name = UnfinishedName();
+    file_ = OpenNamed(name);
+    if (!file_.IsOpen()) FailWith("write", path_, errno);
+    name_.Path = std::move(name);
+  }
   // Before its mode is set, since a new owner may take bits away from that.
   KeepOwner(file_.Number(), target);
   // Flushed before it is renamed, or a power failure could leave an empty file under the name.
   const bool written = WriteAll(file_.Number(), bytes) &&
                        ::fchmod(file_.Number(), FileMode(target)) == 0 &&
                        ::fsync(file_.Number()) == 0;
-  if (!written) {
-    const int error = errno;
-    ::unlink(beside.c_str());
-    FailWith("write", path_, error);
-  }
-  written_ = std::move(beside);
+  if (!written) FailWith("write", path_, errno);
   mark_ = MarkOf(path_.string(), file_.Number(), bytes);
 }
 
-Replacement::~Replacement() {
-  if (!written_.empty()) ::unlink(written_.c_str());
+std::string Replacement::UnfinishedName() const {
+  return (directory_ + std::string(UnfinishedPrefix)).append("XXXXXX");
 }
 
 void Replacement::Commit() {
-  if (::rename(written_.c_str(), target_.c_str()) != 0) FailWith("write", path_, errno);
-  written_.clear();
+  if (name_.Path.empty()) {
+    std::string name = UnfinishedName();
+    if (!GiveName(file_, name)) FailWith("write", path_, errno);
+    name_.Path = std::move(name);
+  }
+  if (::rename(name_.Path.c_str(), target_.c_str()) != 0) FailWith("write", path_, errno);
+  name_.Path.clear();
+  if (!FlushDirectory(directory_)) {
+    const std::string reason = std::generic_category().message(errno);
+    throw FileError(
+        text::NameInText(path_.string()) +
+        " was written, but a power failure could still lose it: " + text::NameInText(reason) + ".");
+  }
 }
 
 void ReplaceFile(const fs::path& path, std::string_view bytes) {

@@ -10,8 +10,9 @@
 namespace orb::model {
 
 /// The new contents of a file, written next to it and flushed to disk, that take its place at
-/// Commit. Where they are dropped before, the old file stays and nothing lies next to it. All but
-/// the renaming is done by then, so that what must come between can still stop it.
+/// Commit. Where they are dropped before, the old file stays and nothing lies next to it, not even
+/// when the program is killed while it writes. All but the renaming is done by then, so that what
+/// must come between can still stop it.
 class Replacement {
  public:
   /// Throws FileError with the system's reason. A link is followed; anything but an ordinary file
@@ -19,19 +20,28 @@ class Replacement {
   Replacement(const std::filesystem::path& path, std::string_view bytes);
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;
-  ~Replacement();
+  ~Replacement() = default;
 
-  /// Takes the old file's place; throws FileError. To be called once.
+  /// Takes the old file's place and flushes the directory; throws FileError. To be called once.
   void Commit();
 
   /// The mark of the new file under the path as it was given.
   const FileMark& Mark() const { return mark_; }
 
  private:
+  /// The name of a file that is removed again on every way out; empty while there is none.
+  struct TemporaryName {
+    std::string Path;
+    ~TemporaryName();
+  };
+
+  std::string UnfinishedName() const;
+
   std::filesystem::path path_;    ///< as given, for error texts
   std::filesystem::path target_;  ///< links followed
-  std::string written_;           ///< the file with the new contents; empty once it took its place
-  Descriptor file_;
+  std::string directory_;         ///< of the target, with its "/"
+  Descriptor file_;               ///< the new contents; without a name where that can be
+  TemporaryName name_;
   FileMark mark_;
 };
 

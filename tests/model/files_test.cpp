@@ -8,8 +8,10 @@
 
 #include <chrono>
 #include <csignal>
+#include <fcntl.h>
 #include <functional>
 #include <random>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -169,6 +171,26 @@ TEST(ReplaceFile, IsWholeWhenTheProgramIsKilled) {
     const std::string bytes = ReadFile(file);
     ASSERT_TRUE(bytes == odd || bytes == even) << bytes.size() << " bytes";
   }
+  // Under another name, since a directory is not looked at twice within a second.
+  ReplaceFile(directory.Path() / "." / "a.orb", even);
+  EXPECT_EQ(directory.EntryCount(), 1);
+}
+
+TEST(ReplaceFile, RemovesWhatKilledProgramsLeftAndNothingElse) {
+  const TemporaryDirectory directory;
+  const fs::path link = directory.Path() / ".orb-saving-link01";
+  fs::create_symlink("precious.orb", link);
+  fs::create_directory(directory.Path() / ".orb-saving-folder");
+  for (const char* name : {".orb-saving-Dead01", ".orb-saving-Alive1", ".orb-saving-Dead012",
+                           ".orb-saving-Dead_1", ".orb-backup", "precious.orb"}) {
+    directory.Write(name, "bytes");
+  }
+  const int alive = ::open((directory.Path() / ".orb-saving-Alive1").c_str(), O_RDONLY);
+  ASSERT_EQ(::flock(alive, LOCK_EX), 0);
+  ReplaceFile(directory.Path() / "a.orb", "new");
+  EXPECT_EQ(directory.EntryCount(), 8);
+  EXPECT_FALSE(fs::exists(directory.Path() / ".orb-saving-Dead01"));
+  ::close(alive);
 }
 
 TEST(FileInAnyCase, HasItsOwnNameInSmallLettersWhereItCan) {
