@@ -1,6 +1,6 @@
 #include "orders/exchange/comments.h"
 
-#include "orders/exchange/vocabulary.h"
+#include "orders/exchange/power_names.h"
 
 #include <algorithm>
 
@@ -28,7 +28,7 @@ std::pair<int, int> CountWords(Tokens tokens, const PlaceNames& names) {
   std::pair<int, int> count;
   for (std::size_t at = 0; at < tokens.size();) {
     const std::size_t length = OrderWord(tokens, at, names);
-    const bool counts = tokens[at].Kind == TokenKind::Word && !IsFiller(tokens[at]);
+    const bool counts = tokens[at].Kind == TokenKind::Word && !HasUse(tokens[at], WordUse::Filler);
     if (length > 0) {
       ++count.first;
     } else if (counts) {
@@ -73,8 +73,9 @@ bool IsRemark(Tokens tokens, const PlaceNames& names) {
   if (std::ranges::any_of(tokens, IsCoastWord) || OrdersUnit(tokens, names)) return false;
   const auto words = std::ranges::count_if(tokens, isWord);
   if (words == 0 || std::ranges::all_of(tokens, IsNumber)) return true;
-  if (std::ranges::all_of(tokens,
-                          [&](const Token& token) { return !isWord(token) || IsFiller(token); })) {
+  if (std::ranges::all_of(tokens, [&](const Token& token) {
+        return !isWord(token) || HasUse(token, WordUse::Filler);
+      })) {
     return true;
   }
   // A single word may be a place with a slip of the pen, "(Spian)".
@@ -86,7 +87,8 @@ bool IsRemark(Tokens tokens, const PlaceNames& names) {
 }
 
 std::size_t FindCondition(Tokens tokens) {
-  return static_cast<std::size_t>(std::ranges::find_if(tokens, IsCondition) - tokens.begin());
+  const auto isCondition = [](const Token& token) { return HasUse(token, WordUse::Condition); };
+  return static_cast<std::size_t>(std::ranges::find_if(tokens, isCondition) - tokens.begin());
 }
 
 }  // namespace orb::exchange

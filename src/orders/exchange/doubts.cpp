@@ -1,179 +1,15 @@
 #include "orders/exchange/doubts.h"
 
-#include "orders/exchange/vocabulary.h"
+#include "orders/exchange/power_names.h"
 #include "text/utf8.h"
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 #include <unordered_set>
 #include <vector>
 
 namespace orb::exchange {
 namespace {
-
-using WordSet = std::unordered_set<std::string_view>;
-
-// Words that change nothing next to an order, alone or together. Each must be harmless next to all
-// others: a word missing here costs somebody a glance, one too many an order that nobody meant.
-
-/// Thanks, greetings and moods. They may be addressed to a power.
-const WordSet& MoodWords() {
-  static const WordSet words{
-      "thanks", "thank",   "thx",     "ty",       "cheers",    "regards", "greetings", "good",
-      "luck",   "gl",      "hf",      "glhf",     "best",      "danke",   "bitte",     "merci",
-      "dank",   "bedankt", "gracias", "grazie",   "lol",       "rofl",    "haha",      "hahaha",
-      "hehe",   "heh",     "yay",     "wow",      "nice",      "great",   "cool",      "fun",
-      "sorry",  "hi",      "hello",   "hey",      "friend",    "friends", "ally",      "allies",
-      "buddy",  "mate",    "dear",    "everyone", "everybody", "guys",    "folks",     "gm"};
-  return words;
-}
-
-/// What an order is for, or who helps. The places and powers that they speak of are no part of it.
-const WordSet& PurposeWords() {
-  static const WordSet words{
-      "bounce",    "bounces",    "bouncing",  "standoff",     "selfbounce", "cover",     "covers",
-      "covering",  "guard",      "guards",    "protect",      "protects",   "block",     "blocks",
-      "blocking",  "defend",     "defends",   "defence",      "defense",    "defensive", "guarding",
-      "defending", "protecting", "supported", "selfstandoff", "against"};
-  return words;
-}
-
-/// Words around those, and that the order is as the writer wants it.
-const WordSet& PlainWords() {
-  static const WordSet words{
-      "better",    "fine",       "ok",      "okay",       "yes",     "yep",       "yeah",
-      "you",       "we",         "us",      "i",          "am",      "all",       "hope",
-      "hopefully", "it",         "works",   "fingers",    "crossed", "of",        "course",
-      "obviously", "naturally",  "fyi",     "btw",        "sure",    "surely",    "definitely",
-      "certainly", "confirmed",  "confirm", "confirming", "final",   "agreed",    "as",
-      "discussed", "promised",   "usual",   "again",      "still",   "unchanged", "same",
-      "corrected", "correction", "revised", "updated",    "changed", "new",       "safe",
-      "safety",    "self",       "order",   "orders",     "and",     "this",      "that",
-      "here",      "in",         "at",      "from",       "for",     "with",      "by"};
-  return words;
-}
-
-/// Words of a heading by which the orders below it are not for now.
-bool IsSetAside(const Token& token) {
-  static const WordSet words{
-      "draft",      "drafts",      "example",      "examples",    "sample",     "samples",
-      "tentative",  "provisional", "preliminary",  "result",      "results",    "outcome",
-      "outcomes",   "report",      "adjudication", "history",     "idea",       "ideas",
-      "thoughts",   "thinking",    "hypothetical", "version",     "previously", "yesterday",
-      "yesterdays", "earlier",     "considering",  "possible",    "possibly",   "options",
-      "scenario",   "proposals",   "suggestions",  "suggested",   "wrong",      "invalid",
-      "superseded", "obsolete",    "outdated",     "discarded",   "dummy",      "fake",
-      "test",       "tests",       "probably",     "unconfirmed", "pending",    "tbc",
-      "tbd",        "withdrawn",   "void",         "vorige",      "letzte",     "entwurf",
-      "beispiel",   "brouillon",   "exemple",      "concept",     "voorbeeld"};
-  return token.Kind == TokenKind::Word &&
-         (words.contains(token.Text) || IsCondition(token) || IsAside(token));
-}
-
-using Phrase = std::vector<std::string_view>;
-
-/// What takes back the orders above.
-const std::vector<Phrase>& Revocations() {
-  static const std::vector<Phrase> phrases{
-      {"kidding"},          {"joking"},          {"a", "joke"},       {"changed", "my", "mind"},
-      {"ignore"},           {"disregard"},       {"cancel"},          {"cancelled"},
-      {"canceled"},         {"scrap"},           {"scratch", "that"}, {"forget", "that"},
-      {"forget", "these"},  {"forget", "those"}, {"forget", "the"},   {"forget", "my"},
-      {"forget", "what"},   {"forget", "about"}, {"nevermind"},       {"never", "mind"},
-      {"withdrawn"},        {"i", "withdraw"},   {"revoke"},          {"strike", "that"},
-      {"were", "examples"}, {"was", "wrong"},    {"were", "wrong"}};
-  return phrases;
-}
-
-/// What puts orders off, or leaves them open.
-const std::vector<Phrase>& Postponements() {
-  static const std::vector<Phrase> phrases{{"not", "process"},
-                                           {"dont", "process"},
-                                           {"not", "use"},
-                                           {"dont", "use"},
-                                           {"not", "enter"},
-                                           {"dont", "enter"},
-                                           {"not", "file"},
-                                           {"dont", "file"},
-                                           {"not", "submit"},
-                                           {"dont", "submit"},
-                                           {"not", "final"},
-                                           {"arent", "final"},
-                                           {"isnt", "final"},
-                                           {"not", "yet"},
-                                           {"not", "my", "final"},
-                                           {"not", "the", "final"},
-                                           {"wait", "for", "my"},
-                                           {"wait", "for", "the", "final"},
-                                           {"wait", "for", "final"},
-                                           {"wait", "until"},
-                                           {"hold", "off"},
-                                           {"will", "follow"},
-                                           {"orders", "to", "follow"},
-                                           {"tentative"},
-                                           {"tentatively"},
-                                           {"provisional"},
-                                           {"provisionally"},
-                                           {"preliminary"},
-                                           {"pending"},
-                                           {"unconfirmed"},
-                                           {"tbc"},
-                                           {"tbd"},
-                                           {"be", "confirmed"},
-                                           {"may", "change"},
-                                           {"might", "change"},
-                                           {"could", "change"},
-                                           {"still", "thinking"},
-                                           {"a", "draft"},
-                                           {"placeholder"},
-                                           {"placeholders"},
-                                           {"if", "you", "agree"},
-                                           {"what", "do", "you", "think"},
-                                           {"what", "you", "think"},
-                                           {"an", "example"},
-                                           {"just", "examples"}};
-  return phrases;
-}
-
-/// Titles without a colon, which set aside what is below them.
-const std::vector<Phrase>& Titles() {
-  static const std::vector<Phrase> phrases{{"draft"},
-                                           {"drafts"},
-                                           {"example"},
-                                           {"examples"},
-                                           {"sample"},
-                                           {"samples"},
-                                           {"proposal"},
-                                           {"proposals"},
-                                           {"suggestion"},
-                                           {"suggestions"},
-                                           {"results"},
-                                           {"last", "turn"},
-                                           {"last", "season"},
-                                           {"last", "year"},
-                                           {"previous", "turn"},
-                                           {"previous", "season"},
-                                           {"previous", "orders"},
-                                           {"old", "version"},
-                                           {"old", "orders"},
-                                           {"last", "moves"}};
-  return phrases;
-}
-
-/// Where the first of the phrases stands, word by word.
-std::optional<TokenRange> FindPhrase(Tokens tokens, const std::vector<Phrase>& phrases) {
-  for (std::size_t at = 0; at < tokens.size(); ++at) {
-    for (const Phrase& phrase : phrases) {
-      if (phrase.size() > tokens.size() - at) continue;
-      const bool isHere =
-          std::equal(phrase.begin(), phrase.end(), tokens.begin() + static_cast<std::ptrdiff_t>(at),
-                     [](std::string_view word, const Token& token) { return IsWord(token, word); });
-      if (isHere) return TokenRange{at, at + phrase.size()};
-    }
-  }
-  return std::nullopt;
-}
 
 /// Whether a sign only decorates: faces, hearts, stars, ticks, flags, good wishes. Others ask,
 /// cross out or may mean anything.
@@ -192,6 +28,11 @@ bool IsDecoration(std::string_view sign) {
     }
   }
   return true;
+}
+
+/// Whether a word next to an order changes nothing.
+bool IsHarmless(const Token& token) {
+  return HasUse(token, WordUse::Mood, WordUse::Purpose, WordUse::Plain);
 }
 
 bool IsDoubtfulSign(const Token& token) {
@@ -245,18 +86,17 @@ class OwnWords {
 }  // namespace
 
 std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceNames& names) {
-  const auto has = [&](const WordSet& words) {
-    return std::ranges::any_of(remark,
-                               [&](const Token& token) { return words.contains(token.Text); });
+  const auto has = [&](WordUse use) {
+    return std::ranges::any_of(remark, [&](const Token& token) { return HasUse(token, use); });
   };
-  const bool isPurpose = has(PurposeWords());
-  const bool maySpeakToPowers = isPurpose || has(MoodWords());
+  const bool isPurpose = has(WordUse::Purpose);
+  const bool maySpeakToPowers = isPurpose || has(WordUse::Mood);
   std::optional<OwnWords> own;
   for (std::size_t at = 0; at < remark.size();) {
     const Token& token = remark[at];
     const bool isWord = token.Kind == TokenKind::Word;
     if (IsDoubtfulSign(token)) return TokenRange{at, at + 1};
-    if (!isWord || IsNumber(token) || IsFiller(token)) {
+    if (!isWord || IsNumber(token) || HasUse(token, WordUse::Filler)) {
       ++at;
       continue;
     }
@@ -272,10 +112,8 @@ std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceName
     if (length == 0 && maySpeakToPowers && PowerAt(remark, at).Power != 0) {
       length = PowerAt(remark, at).Next - at;
     }
-    const bool isHarmless = MoodWords().contains(token.Text) ||
-                            PurposeWords().contains(token.Text) ||
-                            PlainWords().contains(token.Text) || (isPurpose && token.Text == "to");
-    if (length == 0 && !isHarmless) return TokenRange{at, at + 1};
+    if (length == 0 && !IsHarmless(token) && !(isPurpose && token.Text == "to"))
+      return TokenRange{at, at + 1};
     at += std::max<std::size_t>(length, 1);
   }
   return std::nullopt;
@@ -284,39 +122,8 @@ std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceName
 bool IsHarmlessTail(Tokens tail) {
   return std::ranges::all_of(tail, [](const Token& token) {
     const bool isPunctuation = token.Kind == TokenKind::Comma || token.Kind == TokenKind::Dot;
-    return isPunctuation || IsFiller(token) || MoodWords().contains(token.Text) ||
-           PurposeWords().contains(token.Text) || PlainWords().contains(token.Text);
+    return isPunctuation || HasUse(token, WordUse::Filler) || IsHarmless(token);
   });
-}
-
-std::optional<Aside> ReadAside(Tokens line) {
-  const auto words = std::ranges::count(line, TokenKind::Word, &Token::Kind);
-  if (words == 0) return std::nullopt;
-  if (IsA(line.back(), TokenKind::Colon)) {
-    const auto set = std::ranges::find_if(line, IsSetAside);
-    if (set == line.end()) return std::nullopt;
-    const auto at = static_cast<std::size_t>(set - line.begin());
-    return Aside{AsideScope::Below, {at, at + 1}};
-  }
-  if (const auto at = FindPhrase(line, Revocations())) return Aside{AsideScope::Above, *at};
-  if (const auto at = FindPhrase(line, Postponements()))
-    return Aside{AsideScope::AboveElseBelow, *at};
-  constexpr std::ptrdiff_t longestTitle = 4;
-  const auto title = words <= longestTitle ? FindPhrase(line, Titles()) : std::nullopt;
-  return title ? std::optional(Aside{AsideScope::Below, *title}) : std::nullopt;
-}
-
-bool Corrects(Tokens line) {
-  static const WordSet words{
-      "correction", "corrections", "corrected", "correct",   "instead",     "better",  "rather",
-      "sorry",      "oops",        "actually",  "revised",   "revision",    "update",  "updated",
-      "updates",    "replace",     "replaces",  "replacing", "replacement", "changed", "change",
-      "changes",    "final",       "amended",   "amendment", "new"};
-  static const std::vector<Phrase> phrases{{"i", "mean"}, {"i", "meant"}, {"make", "that"}};
-  return FindPhrase(line, phrases).has_value() ||
-         std::ranges::any_of(line, [&](const Token& token) {
-           return token.Kind == TokenKind::Word && words.contains(token.Text);
-         });
 }
 
 }  // namespace orb::exchange

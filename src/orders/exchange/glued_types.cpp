@@ -1,6 +1,6 @@
 #include "orders/exchange/glued_types.h"
 
-#include "orders/exchange/vocabulary.h"
+#include "orders/exchange/power_names.h"
 
 namespace orb::exchange {
 namespace {
@@ -22,7 +22,7 @@ bool IsGluedType(const std::vector<Token>& tokens, std::size_t at, const PlaceNa
   // Without one of these beside it, such a word is taken as it stands.
   if (!commands(at + 1) && (at == 0 || !commands(at - 1))) return false;
   Token place = word;
-  place.Text.erase(0, 1);
+  place.SetWord(word.Text.substr(1));
   const auto places = names.At({&place, 1}, 0);
   return !places.empty() && places[0].IsExact && names.At(tokens, at).empty() &&
          PowerAt(tokens, at).Power == 0 && VerbOf(word) == Verb::None;
@@ -34,12 +34,12 @@ void PartGluedTypes(std::vector<Token>& tokens, const PlaceNames& names) {
   for (std::size_t at = 0; at < tokens.size(); ++at) {
     if (!IsGluedType(tokens, at, names)) continue;
     Token place = tokens[at];
-    place.Text.erase(0, 1);
+    place.SetWord(place.Text.substr(1));
     place.Written.remove_prefix(1);
     ++place.Begin;
     place.Glued = true;
     Token& type = tokens[at];
-    type.Text.resize(1);
+    type.SetWord(type.Text.substr(0, 1));
     type.Written = type.Written.substr(0, 1);
     type.End = place.Begin;
     ++at;

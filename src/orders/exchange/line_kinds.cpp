@@ -1,6 +1,7 @@
 #include "orders/exchange/line_kinds.h"
 
 #include "orders/exchange/comments.h"
+#include "orders/exchange/power_names.h"
 
 #include <algorithm>
 
@@ -95,8 +96,9 @@ std::size_t PastStamp(Tokens tokens, std::size_t at) {
 bool IsNameBeforeUnit(Tokens tokens, std::size_t at) {
   if (!Is(tokens, at, TokenKind::Word) || at + 2 >= tokens.size()) return false;
   const Token& name = tokens[at];
-  const bool isWord = VerbOf(name) != Verb::None || UnitTypeOf(name) != 0 || IsFiller(name) ||
-                      IsCondition(name) || IsAside(name) || PowerAt(tokens, at).Power != 0;
+  const bool isWord = VerbOf(name) != Verb::None || UnitTypeOf(name) != 0 ||
+                      HasUse(name, WordUse::Filler, WordUse::Condition) ||
+                      HasUse(name, WordUse::Aside) || PowerAt(tokens, at).Power != 0;
   return !isWord && (UnitTypeOf(tokens[at + 1]) != 0 || PowerAt(tokens, at + 1).Power != 0);
 }
 
@@ -201,7 +203,7 @@ std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
   if (addressed.Power != 0 && Is(tokens, addressed.Next, TokenKind::Comma)) {
     const Tokens rest = tokens.subspan(addressed.Next + 1);
     const bool isAside = std::ranges::any_of(
-        rest, [](const Token& token) { return IsCondition(token) || IsAside(token); });
+        rest, [](const Token& token) { return HasUse(token, WordUse::Condition, WordUse::Aside); });
     if (!isAside && !rest.empty() && !HoldsOrderWords(rest, names)) {
       heading.Power = addressed.Power;
       return heading;
@@ -237,7 +239,7 @@ std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
     const bool isSymbol = static_cast<unsigned char>(token.Text[0]) >= 0x80;
     if (token.Kind == TokenKind::Mark && token.Text != "#" && !isSymbol) return {};
     if (token.Kind != TokenKind::Word) continue;
-    if (!IsHeadingWord(token)) return {};
+    if (!HasUse(token, WordUse::Heading)) return {};
     hasWord = true;
     const Verb verb = VerbOf(token);
     if (verb == Verb::Build || verb == Verb::Disband || verb == Verb::Retreat) {
@@ -263,7 +265,7 @@ std::size_t PastLineStart(Tokens tokens) {
     // In a log of a chat the name of who speaks follows the time.
     constexpr std::size_t longestName = 3;
     for (std::size_t next = at; next < std::min(tokens.size(), at + longestName); ++next) {
-      if (IsCondition(tokens[next]) || !IsWordToken(tokens[next])) break;
+      if (HasUse(tokens[next], WordUse::Condition) || !IsWordToken(tokens[next])) break;
       const bool isPower = PowerAt(tokens, at).Power != 0;
       if (Is(tokens, next + 1, TokenKind::Colon) && !isPower) return next + 2;
     }
@@ -284,10 +286,10 @@ bool IsNoOrder(Tokens tokens, const PlaceNames& names, bool inSignature) {
   const auto first = std::ranges::find_if(tokens, IsWordToken);
   if (first == tokens.end()) return true;
   const int places = evidence.Places;
-  if (IsGreeting(*first) && evidence.Commands == 0) {
+  if (HasUse(*first, WordUse::Greeting) && evidence.Commands == 0) {
     return evidence.Moves == 0 ? places <= Strong : places == 0;
   }
-  if (IsCondition(*first)) return false;
+  if (HasUse(*first, WordUse::Condition)) return false;
   const int orders = evidence.Commands + evidence.Moves;
   return orders + places < Strong || (inSignature && orders == 0);
 }

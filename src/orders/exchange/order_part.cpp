@@ -1,6 +1,7 @@
 #include "orders/exchange/order_part.h"
 
 #include "orders/exchange/line_kinds.h"
+#include "orders/exchange/power_names.h"
 
 #include <algorithm>
 #include <array>
@@ -15,7 +16,7 @@ std::size_t PastOrdersAre(Tokens tokens) {
   bool isOfOrders = false;
   for (std::size_t at = 0; at < tokens.size(); ++at) {
     const PowerName power = PowerAt(tokens, at);
-    if (power.Power == 0 && !IsHeadingWord(tokens[at])) break;
+    if (power.Power == 0 && !HasUse(tokens[at], WordUse::Heading)) break;
     const bool isOrders = IsWord(tokens[at], "order") || IsWord(tokens[at], "orders");
     isOfOrders = isOfOrders || isOrders;
     if (isOrders || (isOfOrders && IsWord(tokens[at], "are"))) past = at + 1;

@@ -54,7 +54,7 @@ bool Phrases::Is(std::size_t at, std::string_view word) const {
 
 bool Phrases::IsPassedOver(std::size_t at) const {
   return Is(at, TokenKind::Open) || Is(at, TokenKind::Close) || Is(at, TokenKind::Comma) ||
-         Is(at, TokenKind::Dot) || (at < tokens_.size() && IsFiller(tokens_[at]));
+         Is(at, TokenKind::Dot) || (at < tokens_.size() && HasUse(tokens_[at], WordUse::Filler));
 }
 
 std::size_t Phrases::Skip(std::size_t at) const {

@@ -2,6 +2,7 @@
 
 #include "model/stage.h"
 #include "orders/exchange/place_names.h"
+#include "orders/exchange/power_names.h"
 #include "orders/exchange/written_order.h"
 
 #include <optional>

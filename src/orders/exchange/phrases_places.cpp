@@ -43,7 +43,7 @@ void Phrases::AddGluedCoast(std::size_t at, Read<WrittenPlace>& places) const {
   Token province = tokens_[at];
   if (province.Text.size() != nameLength + coastLength) return;
   const char letter = CoastLetter(std::string_view(province.Text).substr(nameLength));
-  province.Text.resize(nameLength);
+  province.SetWord(province.Text.substr(0, nameLength));
   for (const PlaceMatch& match : names_.At({&province, 1}, 0)) {
     std::vector<int> rows = CoastRows(match.Rows, letter);
     if (match.IsExact && !rows.empty()) {

@@ -1,6 +1,7 @@
 #include "orders/exchange/read_orders.h"
 
 #include "model/errors.h"
+#include "orders/exchange/asides.h"
 #include "orders/exchange/comments.h"
 #include "orders/exchange/contradictions.h"
 #include "orders/exchange/doubts.h"
@@ -9,6 +10,7 @@
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/order_part.h"
 #include "orders/exchange/phrases.h"
+#include "orders/exchange/power_names.h"
 #include "orders/exchange/quotations.h"
 #include "orders/exchange/run_on.h"
 #include "orders/exchange/segments.h"
@@ -195,7 +197,7 @@ class TextReader {
     std::vector<Token> rest(line.All.begin(), line.All.end());
     rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(aside->At.Begin),
                rest.begin() + static_cast<std::ptrdiff_t>(aside->At.End));
-    std::erase_if(rest, IsCondition);
+    std::erase_if(rest, [](const Token& token) { return HasUse(token, WordUse::Condition); });
     const bool isHeading = IsA(line.All.back(), TokenKind::Colon) &&
                            std::ranges::find(rest, TokenKind::Dash, &Token::Kind) == rest.end();
     if (isHeading || IsNoOrder(rest, known_.Names, inSignature_)) {
@@ -219,7 +221,8 @@ class TextReader {
     for (const TokenRange range : remarks_) {
       const Tokens remark = PartOf(line, range);
       const auto doubt = FindDoubt(remark, own, known_.Names);
-      const bool isGreeting = remark.size() <= LongestGreeting && IsGreeting(remark[0]) &&
+      const bool isGreeting = remark.size() <= LongestGreeting &&
+                              HasUse(remark[0], WordUse::Greeting) &&
                               !ReadAside(remark).has_value();
       if (!doubt || isGreeting) continue;
       around_.SetDoubt(first, Quoted(remark) + " may change it", Written(line, range));

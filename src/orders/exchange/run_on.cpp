@@ -1,6 +1,7 @@
 #include "orders/exchange/run_on.h"
 
 #include "orders/exchange/comments.h"
+#include "orders/exchange/power_names.h"
 #include "orders/order_list.h"
 
 #include <map>

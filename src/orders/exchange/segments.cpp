@@ -28,7 +28,9 @@ PartsRead Moved(PartsRead parts, std::size_t begin) {
 
 /// The first word that makes a condition of orders behind it or sets them aside.
 std::size_t FindSetAside(Tokens tokens) {
-  const auto sets = [](const Token& token) { return IsCondition(token) || IsAside(token); };
+  const auto sets = [](const Token& token) {
+    return HasUse(token, WordUse::Condition, WordUse::Aside);
+  };
   return static_cast<std::size_t>(std::ranges::find_if(tokens, sets) - tokens.begin());
 }
 

@@ -33,7 +33,7 @@ bool IsPossible(const Meaning& meaning, const KnownGame& known) {
 /// The word with another one in its place.
 std::vector<Token> WithWord(Tokens tokens, std::size_t at, const std::string& word) {
   std::vector<Token> changed(tokens.begin(), tokens.end());
-  changed[at].Text = word;
+  changed[at].SetWord(word);
   return changed;
 }
 

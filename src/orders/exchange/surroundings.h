@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orders/exchange/doubts.h"
+#include "orders/exchange/asides.h"
 #include "orders/exchange/read_line.h"
 
 #include <array>

@@ -1,23 +1,11 @@
 #include "orders/exchange/vocabulary.h"
 
-#include "model/country.h"
-
 #include <algorithm>
 #include <array>
-#include <span>
-#include <string>
 #include <unordered_map>
-#include <utility>
-#include <vector>
 
 namespace orb::exchange {
 namespace {
-
-using Words = std::span<const std::string_view>;
-
-bool IsIn(const Token& token, Words words) {
-  return token.Kind == TokenKind::Word && std::ranges::find(words, token.Text) != words.end();
-}
 
 struct VerbWords {
   Verb Meaning;
@@ -43,77 +31,68 @@ constexpr std::array Verbs{
     VerbWords{Verb::Waive, "w waive waives waived waiving waiver"},
 };
 
-struct PowerWords {
-  int Power;
-  std::string_view Words;
+struct UseWords {
+  WordUse Use;
+  std::string_view Words;  ///< separated by blanks
 };
 
-/// What powers and their people are called besides the names and abbreviations in the game.
-constexpr std::array Nicknames{
-    PowerWords{1, "english"},
-    PowerWords{1, "great britain"},
-    PowerWords{1, "britain"},
-    PowerWords{1, "british"},
-    PowerWords{2, "french"},
-    PowerWords{3, "german"},
-    PowerWords{4, "russian"},
-    PowerWords{5, "turkish"},
-    PowerWords{5, "turks"},
-    PowerWords{5, "ottoman empire"},
-    PowerWords{5, "ottoman"},
-    PowerWords{6, "austria"},
-    PowerWords{6, "austrian"},
-    PowerWords{6, "austro"},
-    PowerWords{6, "austro hungarian"},
-    PowerWords{6, "austro hungary"},
-    PowerWords{6, "austrian hungarian"},
-    PowerWords{7, "italian"},
-    PowerWords{7, "italians"},
-    PowerWords{1, "brits"},
-    PowerWords{3, "germans"},
-    PowerWords{4, "russians"},
-    PowerWords{6, "austrians"},
-    PowerWords{1, "uk"},
-    PowerWords{1, "gb"},
-    PowerWords{5, "ottomans"},
-    PowerWords{6, "ah"},
+// A word may have several uses. Of those that are harmless next to an order (Mood, Purpose, Plain)
+// each must be so next to all others: a word missing there costs somebody a glance, one too many an
+// order that nobody meant.
+constexpr std::array Uses{
+    UseWords{WordUse::Filler,
+             "both the my our an please pls plz will shall is are his her their unit units "
+             "dislodged gives lends provides"},
+    UseWords{WordUse::Condition,
+             "if unless otherwise else or either maybe perhaps instead not dont never cancel "
+             "except depending should could might may cancelled canceled provided when until "
+             "ignore no wont option alternative alternatively draft proposal proposed suggest "
+             "suggestion disregard forget scratch delete undo revoke assuming case old"},
+    UseWords{WordUse::Aside, "previously formerly last next later tomorrow example eg previous"},
+    UseWords{WordUse::SetsAside,
+             "draft drafts example examples sample samples tentative provisional preliminary "
+             "result results outcome outcomes report adjudication history idea ideas thoughts "
+             "thinking hypothetical version previously yesterday yesterdays earlier considering "
+             "possible possibly options scenario proposals suggestions suggested wrong invalid "
+             "superseded obsolete outdated discarded dummy fake test tests probably unconfirmed "
+             "pending tbc tbd withdrawn void vorige letzte entwurf beispiel brouillon exemple "
+             "concept voorbeeld"},
+    UseWords{WordUse::Heading,
+             "orders order for from of the my our your here are is follow follows following "
+             "these as below in and spring autumn fall winter summer season year turn phase game "
+             "player power country moves move movement movements retreat retreats build builds "
+             "building adjustment adjustments removal removals disband disbands final new set "
+             "press submitted by revised updated gm this disbandments with remove removes "
+             "removing disbanding destroys correction corrections corrected change changes "
+             "update"},
+    UseWords{
+        WordUse::Correction,
+        "correction corrections korrektur correzione correccion correctie correcao rectification "
+        "rectificatif rattelse rettelse korekta poprawka errata erratum update updates revision "
+        "amendment amendments edit instead"},
+    UseWords{WordUse::Definite,
+             "final new revised updated corrected changed amended actual real definitive latest"},
+    UseWords{WordUse::Orders, "order orders move moves version set list"},
+    UseWords{WordUse::Greeting,
+             "hi hello hey dear greetings good morning evening howdy salut bonjour hallo ciao "
+             "regards best cheers thanks thank yours sincerely bye kind thx gl warm cordially "
+             "moin goodbye"},
+    UseWords{WordUse::Mood,
+             "thanks thank thx ty cheers regards greetings good luck gl hf glhf best danke bitte "
+             "merci dank bedankt gracias grazie lol rofl haha hahaha hehe heh yay wow nice great "
+             "cool fun sorry hi hello hey friend friends ally allies buddy mate dear everyone "
+             "everybody guys folks gm"},
+    UseWords{WordUse::Purpose,
+             "bounce bounces bouncing standoff selfbounce cover covers covering guard guards "
+             "protect protects block blocks blocking defend defends defence defense defensive "
+             "guarding defending protecting supported selfstandoff against"},
+    UseWords{WordUse::Plain,
+             "better fine ok okay yes yep yeah you we us i am all hope hopefully it works "
+             "fingers crossed of course obviously naturally fyi btw sure surely definitely "
+             "certainly confirmed confirm confirming final agreed as discussed promised usual "
+             "again still unchanged same corrected correction revised updated changed new safe "
+             "safety self order orders and this that here in at from for with by"},
 };
-
-constexpr std::array<std::string_view, 21> Fillers{
-    "both", "the", "my",  "our",   "an",   "please", "pls",       "plz",   "will",  "shall",   "is",
-    "are",  "his", "her", "their", "unit", "units",  "dislodged", "gives", "lends", "provides"};
-
-constexpr std::array<std::string_view, 44> Conditions{
-    "if",     "unless",    "otherwise", "else",     "or",          "either",
-    "maybe",  "perhaps",   "instead",   "not",      "dont",        "never",
-    "cancel", "except",    "depending", "should",   "could",       "might",
-    "may",    "cancelled", "canceled",  "provided", "when",        "until",
-    "ignore", "no",        "wont",      "option",   "alternative", "alternatively",
-    "draft",  "proposal",  "proposed",  "suggest",  "suggestion",  "disregard",
-    "forget", "scratch",   "delete",    "undo",     "revoke",      "assuming",
-    "case",   "old"};
-
-constexpr std::array<std::string_view, 9> Asides{
-    "previously", "formerly", "last", "next", "later", "tomorrow", "example", "eg", "previous"};
-
-constexpr std::array<std::string_view, 71> HeadingWords{
-    "orders",     "order",       "for",          "from",        "of",        "the",      "my",
-    "our",        "your",        "here",         "are",         "is",        "follow",   "follows",
-    "following",  "these",       "as",           "below",       "in",        "and",      "spring",
-    "autumn",     "fall",        "winter",       "summer",      "season",    "year",     "turn",
-    "phase",      "game",        "player",       "power",       "country",   "moves",    "move",
-    "movement",   "movements",   "retreat",      "retreats",    "build",     "builds",   "building",
-    "adjustment", "adjustments", "removal",      "removals",    "disband",   "disbands", "final",
-    "new",        "set",         "press",        "submitted",   "by",        "revised",  "updated",
-    "gm",         "this",        "disbandments", "with",        "remove",    "removes",  "removing",
-    "disbanding", "destroys",    "correction",   "corrections", "corrected", "change",   "changes",
-    "update"};
-
-constexpr std::array<std::string_view, 28> Greetings{
-    "hi",      "hello",  "hey",    "dear",    "greetings", "good",      "morning",
-    "evening", "howdy",  "salut",  "bonjour", "hallo",     "ciao",      "regards",
-    "best",    "cheers", "thanks", "thank",   "yours",     "sincerely", "bye",
-    "kind",    "thx",    "gl",     "warm",    "cordially", "moin",      "goodbye"};
 
 /// "s01", "f1901m", "1901", "1901s", "1st": letters about a number.
 bool IsSeasonCode(std::string_view word) {
@@ -123,90 +102,41 @@ bool IsSeasonCode(std::string_view word) {
   return word.size() - end <= 2;
 }
 
-struct SpelledPower {
-  int Power;
-  std::vector<std::string> Words;
-};
+using Meanings = std::unordered_map<std::string_view, WordMeaning>;
 
-/// All that powers are called, by the first words.
-using PowerNames = std::unordered_multimap<std::string, SpelledPower>;
-
-PowerNames AllPowerNames() {
-  PowerNames names;
-  const auto add = [&](int power, std::string_view name) {
-    SpelledPower spelled{power, {}};
-    for (const Token& token : CutTokens(name)) {
-      if (token.Kind == TokenKind::Word) spelled.Words.push_back(token.Text);
-    }
-    const std::string first = spelled.Words[0];
-    names.emplace(first, std::move(spelled));
-  };
-  const model::CountryTable countries = model::FixedCountries();
-  for (int i = 1; i <= countries.Count(); ++i) {
-    add(i, countries[i].Abbreviation);
-    add(i, countries[i].Name);
+template <class Take>
+void ForEachWord(std::string_view words, Take take) {
+  while (!words.empty()) {
+    const std::size_t end = std::min(words.find(' '), words.size());
+    take(words.substr(0, end));
+    words.remove_prefix(std::min(end + 1, words.size()));
   }
-  for (const PowerWords& name : Nicknames)
-    add(name.Power, name.Words);
-  return names;
 }
 
-/// How many tokens from here spell the words, glued dashes between them passed over; 0: they do
-/// not.
-std::size_t Spelled(Tokens tokens, std::size_t at, const std::vector<std::string>& words) {
-  std::size_t next = at;
-  for (const std::string& word : words) {
-    if (next > at && next + 1 < tokens.size() && IsA(tokens[next], TokenKind::Dash) &&
-        tokens[next].Glued && tokens[next + 1].Glued) {
-      ++next;
-    }
-    if (next == tokens.size() || !IsWord(tokens[next], word)) return 0;
-    ++next;
+Meanings AllMeanings() {
+  Meanings meanings;
+  for (const VerbWords& row : Verbs)
+    ForEachWord(row.Words, [&](std::string_view word) { meanings[word].Does = row.Meaning; });
+  for (const UseWords& row : Uses) {
+    ForEachWord(row.Words, [&](std::string_view word) {
+      meanings[word].Uses |= static_cast<unsigned>(row.Use);
+    });
   }
-  return next - at;
-}
-
-std::unordered_map<std::string_view, Verb> AllVerbs() {
-  std::unordered_map<std::string_view, Verb> verbs;
-  for (const VerbWords& row : Verbs) {
-    for (std::string_view rest = row.Words; !rest.empty();) {
-      const std::size_t end = std::min(rest.find(' '), rest.size());
-      verbs.emplace(rest.substr(0, end), row.Meaning);
-      rest.remove_prefix(std::min(end + 1, rest.size()));
-    }
-  }
-  return verbs;
+  for (const std::string_view word : {"a", "army", "armies"})
+    meanings[word].UnitType = 'A';
+  for (const std::string_view word : {"f", "fleet", "fleets"})
+    meanings[word].UnitType = 'F';
+  return meanings;
 }
 
 }  // namespace
 
-Verb VerbOf(const Token& token) {
-  static const auto verbs = AllVerbs();
-  if (token.Kind == TokenKind::Dash) return Verb::Move;
-  if (token.Kind != TokenKind::Word) return Verb::None;
-  const auto found = verbs.find(token.Text);
-  return found == verbs.end() ? Verb::None : found->second;
-}
-
-char UnitTypeOf(const Token& token) {
-  if (token.Kind != TokenKind::Word) return 0;
-  const std::string& word = token.Text;
-  if (word == "a" || word == "army" || word == "armies") return 'A';
-  return word == "f" || word == "fleet" || word == "fleets" ? 'F' : '\0';
-}
-
-PowerName PowerAt(Tokens tokens, std::size_t at) {
-  static const PowerNames names = AllPowerNames();
-  if (at < tokens.size() && IsWord(tokens[at], "the")) ++at;
-  PowerName best;
-  if (at >= tokens.size()) return best;
-  const auto [first, last] = names.equal_range(tokens[at].Text);
-  for (auto name = first; name != last; ++name) {
-    const std::size_t length = Spelled(tokens, at, name->second.Words);
-    // The longest name counts: "Austro-Hungarian", not "Austro".
-    if (length > 0 && at + length > best.Next) best = {name->second.Power, at + length};
-  }
-  return best;
+WordMeaning MeaningOf(std::string_view word) {
+  static const Meanings meanings = AllMeanings();
+  const auto found = meanings.find(word);
+  WordMeaning meaning = found == meanings.end() ? WordMeaning() : found->second;
+  if (IsSeasonCode(word)) meaning.Uses |= static_cast<unsigned>(WordUse::Heading);
+  return meaning;
 }
 
 char CoastLetter(std::string_view word) {
@@ -223,27 +153,6 @@ char CoastLetter(std::string_view word) {
     }
   }
   return 0;
-}
-
-bool IsFiller(const Token& token) {
-  return IsIn(token, Fillers);
-}
-
-bool IsCondition(const Token& token) {
-  return IsIn(token, Conditions);
-}
-
-bool IsAside(const Token& token) {
-  return IsIn(token, Asides);
-}
-
-bool IsHeadingWord(const Token& token) {
-  return IsIn(token, HeadingWords) || IsNumber(token) ||
-         (token.Kind == TokenKind::Word && IsSeasonCode(token.Text));
-}
-
-bool IsGreeting(const Token& token) {
-  return IsIn(token, Greetings);
 }
 
 }  // namespace orb::exchange

@@ -1,8 +1,5 @@
 #pragma once
 
-#include "orders/exchange/words.h"
-
-#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -21,37 +18,35 @@ enum class Verb : std::uint8_t {
   Waive
 };
 
-/// The verb of a token: a dash or arrow moves; None when it is no verb.
-Verb VerbOf(const Token& token);
-
-/// "A" or "F" for a word that is a type of unit, else 0.
-char UnitTypeOf(const Token& token);
-
-/// A power, and the token behind its name.
-struct PowerName {
-  int Power = 0;  ///< 1..7, 0: none
-  std::size_t Next = 0;
+/// What a word is for beside being a verb, a type or a name. Each value is a bit.
+enum class WordUse : std::uint16_t {
+  Filler = 1,       ///< says nothing in an order: "the", "my", "please"
+  Condition = 2,    ///< an order depends on something or is taken back: "if", "or", "not"
+  Aside = 4,        ///< tells, before an order, that it is not for now: "last" turn, "example"
+  SetsAside = 8,    ///< of headings by which the orders below are not for now: "draft", "results"
+  Heading = 0x10,   ///< "orders", "for", "spring", numbers, "s1901m"
+  Greeting = 0x20,  ///< first words of greetings and of closings
+  Mood = 0x40,      ///< harmless beside an order: thanks and moods, which may address a power
+  Purpose = 0x80,   ///< harmless beside an order: what it is for, or who helps; it may name places
+  Plain = 0x100,    ///< harmless beside an order: words around those; the order is as meant
+  Correction = 0x200,  ///< of titles: what is below holds rather than what is above
+  Definite = 0x400,    ///< "final", "new", before those of Orders
+  Orders = 0x800       ///< "orders", "moves", "version"
 };
 
-/// The power named at this token: by name, abbreviation, people, with or without "the".
-PowerName PowerAt(Tokens tokens, std::size_t at);
+/// What a word can mean wherever it stands.
+struct WordMeaning {
+  Verb Does = Verb::None;
+  char UnitType = 0;  ///< 'A' or 'F', 0: none
+  unsigned Uses = 0;  ///< bits of WordUse
+
+  bool Has(WordUse use) const { return (Uses & static_cast<unsigned>(use)) != 0; }
+};
+
+/// The meaning of a word in small letters.
+WordMeaning MeaningOf(std::string_view word);
 
 /// The letter of a coast: n, s, e or w for "nc", "north" and their like, else 0.
 char CoastLetter(std::string_view word);
-
-/// Words that say nothing in an order: "the", "my", "please".
-bool IsFiller(const Token& token);
-
-/// Words by which an order depends on something or is taken back: "if", "or", "not".
-bool IsCondition(const Token& token);
-
-/// Words that, before an order, tell that it is not for now: "last turn", "for example".
-bool IsAside(const Token& token);
-
-/// Words of headings: "orders", "for", "spring", numbers, "s1901m".
-bool IsHeadingWord(const Token& token);
-
-/// The first words of greetings and of closings.
-bool IsGreeting(const Token& token);
 
 }  // namespace orb::exchange

@@ -71,7 +71,7 @@ Token NextToken(std::string_view text, std::size_t at) {
   if (IsLetterOrDigit(c)) {
     token.End = WordEnd(text, at);
     token.Capital = c >= 'A' && c <= 'Z';
-    token.Text = WordText(text.substr(at, token.End - at));
+    token.SetWord(WordText(text.substr(at, token.End - at)));
     return token;
   }
   if (DashSigns.find(c) != std::string_view::npos) {
@@ -79,7 +79,7 @@ Token NextToken(std::string_view text, std::size_t at) {
     token.End = RunEnd(text, at, DashSigns);
   } else if (c == '&') {
     token.End = at + 1;
-    token.Text = "and";
+    token.SetWord("and");
     return token;
   } else if (text.substr(at, 2) == "//") {
     token.Kind = TokenKind::Mark;

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "orders/exchange/vocabulary.h"
+
 #include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace orb::exchange {
@@ -24,11 +27,18 @@ enum class TokenKind : std::uint8_t {
 struct Token {
   TokenKind Kind = TokenKind::Word;
   std::string Text;          ///< of a word: in small letters, without "'s"
+  WordMeaning Means;         ///< of a word
   std::string_view Written;  ///< in the plain text
   std::size_t Begin = 0;     ///< in the plain text
   std::size_t End = 0;
   bool Glued = false;    ///< no blank before it
   bool Capital = false;  ///< begins with a capital letter
+
+  /// Makes it another word, wherever it was written.
+  void SetWord(std::string word) {
+    Text = std::move(word);
+    Means = MeaningOf(Text);
+  }
 };
 
 using Tokens = std::span<const Token>;
@@ -48,6 +58,22 @@ inline bool IsA(const Token& token, TokenKind kind) {
 }
 inline bool IsWord(const Token& token, std::string_view word) {
   return token.Kind == TokenKind::Word && token.Text == word;
+}
+
+/// The verb of a token: a dash or arrow moves; None when it is no verb.
+inline Verb VerbOf(const Token& token) {
+  return token.Kind == TokenKind::Dash ? Verb::Move : token.Means.Does;
+}
+
+/// 'A' or 'F' for a word that is a type of unit, else 0.
+inline char UnitTypeOf(const Token& token) {
+  return token.Means.UnitType;
+}
+
+/// Whether a word has one of these uses; false for what is no word.
+template <class... Uses>
+bool HasUse(const Token& token, Uses... uses) {
+  return (token.Means.Has(uses) || ...);
 }
 
 }  // namespace orb::exchange

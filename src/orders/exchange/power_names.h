@@ -1,0 +1,18 @@
+#pragma once
+
+#include "orders/exchange/words.h"
+
+#include <cstddef>
+
+namespace orb::exchange {
+
+/// A power, and the token behind its name.
+struct PowerName {
+  int Power = 0;  ///< 1..7, 0: none
+  std::size_t Next = 0;
+};
+
+/// The power named at this token: by name, abbreviation, people, with or without "the".
+PowerName PowerAt(Tokens tokens, std::size_t at);
+
+}  // namespace orb::exchange
