@@ -10,8 +10,8 @@ namespace {
 using testing::HasSubstr;
 
 constexpr std::string_view Mail =
-    "Hi,\r\nOrders for France:\r\n1. Army Paris -> Burgundy\r\n2. A Par - Gas (better)\r\n"
-    "GER A Mun to Ruhr\r\nF Bre - Xyz\r\nA Par S Bur if Mun moves\r\nCheers, Tom\r\n";
+    "Hi,\r\nOrders for France:\r\n1. Army Paris -> Burgundy\r\n2. Correction: A Par - Gas\r\n"
+    "GER A Mun to Ruhr\r\nF Bre - Xyz\r\nA Xyz - Gas\r\nCheers, Tom\r\n";
 
 std::string ThreeUnits() {
   return GameFile("Spring", "moves", "FRA A(Par)\nGER A(Mun)\nFRA F(Bre)");
@@ -30,13 +30,13 @@ TEST(Loose, OrdersAreFiledLikeTypedOnesAndUnclearLinesAreAskedAbout) {
   EXPECT_EQ(yes.Out,
             "  FRA A(Par) - Gas  \n  GER A(Mun) - Ruh  \n  FRA F(Bre) unordered; hold  \n");
   EXPECT_EQ(yes.Err, no.Err +
-                         "@a.orb: Warning: A Par S Bur if Mun moves \"if\" is not understood. "
+                         "@a.orb: Warning: A Xyz - Gas \"Xyz\" is not on the map. "
                          "Continue?\n@a.orb: Warning: FRA F(Bre) unordered. Continue?\n");
   const Outcome check = shell.Run("check --loose --orders @o.txt @a.orb");
   EXPECT_EQ(check.Status, 1);
   EXPECT_EQ(check.Out,
             "@a.orb: F Bre - Xyz: \"Xyz\" is not on the map\n"
-            "@a.orb: A Par S Bur if Mun moves: \"if\" is not understood\n"
+            "@a.orb: A Xyz - Gas: \"Xyz\" is not on the map\n"
             "@a.orb: FRA F(Bre): unordered\n");
   EXPECT_THAT(shell.Run("check --orders @o.txt @a.orb").Out,
               HasSubstr("Orders for France:: syntax error"))

@@ -28,7 +28,7 @@ bool Fits(const Unit& unit, const WrittenUnit& written, const std::string& power
 }  // namespace
 
 std::string PowerText(int power) {
-  return power == 0 ? std::string() : model::FixedCountries()[power].Abbreviation;
+  return std::string(model::PowerName(power));
 }
 
 std::vector<UnitMeant> KnownGame::UnitsMeant(const WrittenUnit& written, int power, int fallback,

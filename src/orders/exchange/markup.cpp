@@ -82,6 +82,7 @@ bool HasText(std::string_view text) {
 
 void DropTags(PlainText& line) {
   DropStruck(line);
+  if (line.Text.find_first_of("<[") == std::string::npos) return;
   std::string text;
   std::vector<Span> origins;
   std::size_t at = 0;

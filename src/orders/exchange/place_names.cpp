@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace orb::exchange {
 namespace {
@@ -103,7 +104,22 @@ void PlaceNames::Add(std::string_view name, int row, bool mayBeShort) {
   spellings_[first].push_back(std::move(spelling));
 }
 
+/// The spellings that begin with a word, as a whole or in their first word.
+const std::vector<const PlaceNames::Spelling*>& PlaceNames::Beginning(
+    const std::string& word) const {
+  const auto [known, isNew] = beginning_.try_emplace(word);
+  const auto spellings = isNew && !word.empty() ? spellings_.find(word[0]) : spellings_.end();
+  if (spellings == spellings_.end()) return known->second;
+  for (const Spelling& spelling : spellings->second) {
+    if (std::string_view(spelling.Joined).starts_with(word)) known->second.push_back(&spelling);
+  }
+  return known->second;
+}
+
 std::vector<PlaceMatch> PlaceNames::At(Tokens tokens, std::size_t at) const {
+  if (at >= tokens.size() || !IsA(tokens[at], TokenKind::Word)) return {};
+  const auto& spellings = Beginning(tokens[at].Text);
+  if (spellings.empty()) return {};
   const WordRun run = WordsFrom(tokens, at);
   std::array<PlaceMatch, WordBound> matches;
   // Whole spellings push out mere beginnings of as many words.
@@ -114,11 +130,9 @@ std::vector<PlaceMatch> PlaceNames::At(Tokens tokens, std::size_t at) const {
     match.IsExact |= exact;
     match.Next = run.Next[length - 1];
   };
-  if (run.Count == 0) return {};
   const std::string_view first = run.Words[0];
-  const auto spellings = spellings_.find(first[0]);
-  if (spellings == spellings_.end()) return {};
-  for (const Spelling& spelling : spellings->second) {
+  for (const Spelling* const known : spellings) {
+    const Spelling& spelling = *known;
     const std::size_t size = spelling.Words.size();
     const bool isLong = first.size() >= ShortestStart;
     if (spelling.Joined == first ||
@@ -189,6 +203,11 @@ std::string_view PlaceNames::FindNearlyNamed(std::string_view word) const {
   return {};
 }
 
+bool PlaceNames::IsFull() const {
+  constexpr std::size_t bound = 50'000;
+  return beginning_.size() + near_.size() + nearlyNamed_.size() > bound;
+}
+
 const std::vector<PlaceNames::NearPlace>& PlaceNames::Near(std::string_view word) const {
   const auto [known, isNew] = near_.try_emplace(std::string(word));
   if (isNew) known->second = FindNear(word);
@@ -199,6 +218,19 @@ std::string_view PlaceNames::NearlyNamed(std::string_view word) const {
   const auto [known, isNew] = nearlyNamed_.try_emplace(std::string(word));
   if (isNew) known->second = FindNearlyNamed(word);
   return known->second;
+}
+
+const PlaceNames& PlaceNamesOf(const std::shared_ptr<const model::Map>& map) {
+  struct Kept {
+    std::shared_ptr<const model::Map> Map;
+    std::optional<PlaceNames> Names;
+  };
+  thread_local Kept kept;
+  if (kept.Map != map || kept.Names->IsFull()) {
+    kept.Names.emplace(*map);
+    kept.Map = map;
+  }
+  return *kept.Names;
 }
 
 }  // namespace orb::exchange

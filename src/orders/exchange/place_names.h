@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -45,6 +46,9 @@ class PlaceNames {
   /// letters or more: one missing, surplus or wrong, or two changed places. Each province once.
   const std::vector<NearPlace>& Near(std::string_view word) const;
 
+  /// Whether so many words were looked up that it is time to begin anew.
+  bool IsFull() const;
+
   /// The full name that a word of five letters or more is one slip away from, or nothing.
   std::string_view NearlyNamed(std::string_view word) const;
 
@@ -56,6 +60,7 @@ class PlaceNames {
     bool MayBeShort = false;  ///< a beginning will do
   };
 
+  const std::vector<const Spelling*>& Beginning(const std::string& word) const;
   void Add(std::string_view name, int row, bool mayBeShort);
   void AddPlace(int row);
   void AddNearOnes(std::string_view alias, int row);
@@ -66,10 +71,15 @@ class PlaceNames {
 
   // Texts repeat their words, and to hold one against all spellings takes long: what was found is
   // kept. So several threads must not use one object at once.
+  mutable std::unordered_map<std::string, std::vector<const Spelling*>> beginning_;
   mutable std::unordered_map<std::string, std::vector<NearPlace>> near_;
   mutable std::unordered_map<std::string, std::string_view> nearlyNamed_;
   std::map<char, std::vector<Spelling>> spellings_;  ///< by first letter
   std::vector<std::vector<int>> locations_;          ///< by row
 };
+
+/// The names of a map's places, kept from text to text: they take longer to make than an order to
+/// read. For one thread.
+const PlaceNames& PlaceNamesOf(const std::shared_ptr<const model::Map>& map);
 
 }  // namespace orb::exchange

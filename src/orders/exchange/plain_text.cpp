@@ -89,6 +89,11 @@ std::optional<char32_t> NextMistaken(std::string_view& line, bool isUtf8) {
   return std::nullopt;
 }
 
+/// Whether a byte is a character that stands for itself, as most do.
+bool IsPlain(char byte, References references) {
+  return byte >= ' ' && byte < 0x7F && (byte != '&' || references == References::Kept);
+}
+
 }  // namespace
 
 Span PlainText::Written(std::size_t begin, std::size_t end) const {
@@ -103,6 +108,12 @@ PlainText ToPlain(std::string_view line, std::size_t offset, References referenc
   plain.Text.reserve(line.size());
   plain.Origins.reserve(line.size());
   while (!line.empty()) {
+    if (IsPlain(line[0], references)) {
+      plain.Text += line[0];
+      plain.Origins.push_back({offset++, 1});
+      line.remove_prefix(1);
+      continue;
+    }
     std::string_view rest = line;
     auto meant = references == References::Read ? text::NextReference(rest) : std::nullopt;
     const bool isReference = meant.has_value();

@@ -6,7 +6,6 @@
 #include "orders/exchange/contradictions.h"
 #include "orders/exchange/doubts.h"
 #include "orders/exchange/exact_line.h"
-#include "orders/exchange/glued_types.h"
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/order_part.h"
 #include "orders/exchange/phrases.h"
@@ -20,6 +19,8 @@
 #include "text/strings.h"
 
 #include <algorithm>
+#include <deque>
+#include <optional>
 
 namespace orb::exchange {
 namespace {
@@ -36,14 +37,9 @@ class TextReader {
     context_.Power = model::FindCountry(options.Power);
   }
 
-  std::vector<ReadLine> Read(std::string_view text) {
-    int number = 0;
-    const char* const begin = text.data();
-    while (!text.empty()) {
-      const std::string_view bytes = text::NextLine(text);
-      if (bytes == TextSeparator) StartAnew();
-      SourceLine line = CutLine(++number, bytes, static_cast<std::size_t>(bytes.data() - begin),
-                                options_.Repairs);
+  std::vector<ReadLine> Read(std::deque<SourceLine>& text) {
+    for (SourceLine& line : text) {
+      if (line.Bytes == TextSeparator) StartAnew();
       const std::size_t before = lines_.size();
       ReadLineOf(line);
       LookAround(line, before);
@@ -56,11 +52,11 @@ class TextReader {
 
   ReadLine ReadOne(std::string_view text) {
     isSingle_ = true;
-    SourceLine line = CutLine(1, text, 0, options_.Repairs);
+    SourceLine line;
+    CutLine(line, text, 0, options_.Repairs, known_.Names);
     if (line.Bytes.empty()) {
       AddLine(line, LineKind::PassedOver);
     } else if (!ReadExact(line)) {
-      CutLineTokens(line);
       const TokenRange body{PastLineStart(line.All), line.All.size()};
       Context context = context_;
       PartRead part = ReadPart(PartOf(line, body), known_, context);
@@ -103,13 +99,7 @@ class TextReader {
     above.ReasonPlace = {above.Place.Offset + above.Place.Length, 0};
   }
 
-  void CutLineTokens(SourceLine& line) const {
-    line.All = CutTokens(line.Plain.Text);
-    PartGluedTypes(line.All, known_.Names);
-  }
-
   void ReadLineOf(SourceLine& line) {
-    if (!line.IsTooLong) CutLineTokens(line);
     const Tokens tokens = line.All;
     understood_.clear();
     remarks_.clear();
@@ -383,18 +373,19 @@ std::vector<ReadLine> ReadOrders(const model::GameState& game, std::string_view 
     throw model::FatalError("A text of orders has at most " + std::to_string(TextBound) +
                             " characters; this one has " + std::to_string(text.size()) + ".");
   }
-  const PlaceNames names(*game.Map);
+  const PlaceNames& names = PlaceNamesOf(game.Map);
+  std::deque<SourceLine> cut = CutText(text, options.Repairs, names);
   KnownGame known(game, names, game.Stage);
-  std::vector<ReadLine> lines = TextReader(known, options).Read(text);
+  std::vector<ReadLine> lines = TextReader(known, options).Read(cut);
   LearnMoves(lines, known);
   // What a support means may depend on moves that are written below it.
-  if (!known.Moves.empty()) lines = TextReader(known, options).Read(text);
+  if (!known.Moves.empty()) lines = TextReader(known, options).Read(cut);
   return lines;
 }
 
 ReadLine ReadOrder(const model::GameState& game, std::string_view text,
                    const ReadingOptions& options, const std::vector<ReadLine>& before) {
-  const PlaceNames names(*game.Map);
+  const PlaceNames& names = PlaceNamesOf(game.Map);
   KnownGame known(game, names, game.Stage);
   LearnMoves(before, known);
   return TextReader(known, options).ReadOne(text);

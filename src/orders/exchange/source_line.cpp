@@ -1,7 +1,9 @@
 #include "orders/exchange/source_line.h"
 
 #include "orders/exchange/comments.h"
+#include "orders/exchange/glued_types.h"
 #include "orders/exchange/markup.h"
+#include "text/strings.h"
 
 #include <algorithm>
 
@@ -18,20 +20,34 @@ bool IsSeam(const Token& token, Seam seam) {
 
 }  // namespace
 
-SourceLine CutLine(int number, std::string_view bytes, std::size_t offset,
-                   std::span<const TextRepair> repairs) {
-  SourceLine line;
+void CutLine(SourceLine& line, std::string_view bytes, std::size_t offset,
+             std::span<const TextRepair> repairs, const PlaceNames& names) {
   const std::size_t start = std::min(bytes.find_first_not_of(" \t"), bytes.size());
   const std::size_t end = bytes.find_last_not_of(" \t");
-  line.Number = number;
   line.Offset = offset + start;
   line.Bytes = bytes.substr(start, end == std::string_view::npos ? 0 : end + 1 - start);
   // Plain characters first, since repairs are written in them, and tags last, since a repair may
   // mend one.
   line.Plain = ToPlain(line.Bytes, line.Offset);
   line.IsTooLong = !Repair(line.Plain, repairs);
-  if (!line.IsTooLong) DropTags(line.Plain);
-  return line;
+  if (line.IsTooLong) return;
+  DropTags(line.Plain);
+  line.All = CutTokens(line.Plain.Text);
+  PartGluedTypes(line.All, names);
+}
+
+std::deque<SourceLine> CutText(std::string_view text, std::span<const TextRepair> repairs,
+                               const PlaceNames& names) {
+  std::deque<SourceLine> lines;
+  const char* const begin = text.data();
+  while (!text.empty()) {
+    const std::string_view bytes = text::NextLine(text);
+    const auto offset = static_cast<std::size_t>(bytes.data() - begin);
+    SourceLine& line = lines.emplace_back();
+    line.Number = static_cast<int>(lines.size());
+    CutLine(line, bytes, offset, repairs, names);
+  }
+  return lines;
 }
 
 std::vector<TokenRange> Split(Tokens tokens, TokenRange range, Seam seam) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orders/exchange/place_names.h"
 #include "orders/exchange/plain_text.h"
 #include "orders/exchange/text_repairs.h"
 #include "orders/exchange/words.h"
@@ -7,25 +8,34 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <span>
 #include <string_view>
 #include <vector>
 
 namespace orb::exchange {
 
-/// A line of the text with its tokens, which look into its plain form.
+/// A line of the text with its tokens. They look into its plain form, so it is never moved.
 struct SourceLine {
-  int Number = 0;
+  SourceLine() = default;
+  SourceLine(const SourceLine&) = delete;
+  SourceLine& operator=(const SourceLine&) = delete;
+
+  int Number = 1;
   std::string_view Bytes;  ///< without blanks at its ends
   std::size_t Offset = 0;
   PlainText Plain;
-  std::vector<Token> All;
+  std::vector<Token> All;  ///< none where the line is too long
   bool IsTooLong = false;
 };
 
-/// Takes a line apart, up to its plain form. `offset` is where it begins in the whole text.
-SourceLine CutLine(int number, std::string_view bytes, std::size_t offset,
-                   std::span<const TextRepair> repairs);
+/// Takes a line apart. `offset` is where it begins in the whole text.
+void CutLine(SourceLine& line, std::string_view bytes, std::size_t offset,
+             std::span<const TextRepair> repairs, const PlaceNames& names);
+
+/// The lines of a text.
+std::deque<SourceLine> CutText(std::string_view text, std::span<const TextRepair> repairs,
+                               const PlaceNames& names);
 
 /// What parts the orders of a line, the strongest first: each is tried only where the stronger ones
 /// leave something that is not understood.

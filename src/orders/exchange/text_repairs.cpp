@@ -29,6 +29,14 @@ std::size_t FindWhole(std::string_view line, std::string_view part, std::size_t 
   return at;
 }
 
+/// A bit for each byte of a text; different bytes may share one.
+std::uint64_t BytesOf(std::string_view text) {
+  std::uint64_t bits = 0;
+  for (const char c : text)
+    bits |= std::uint64_t{1} << (static_cast<unsigned char>(c) % 64U);
+  return bits;
+}
+
 void Append(PlainText& line, const PlainText& source, std::size_t begin, std::size_t end) {
   line.Text.append(source.Text, begin, end - begin);
   line.Origins.insert(line.Origins.end(), source.Origins.begin() + static_cast<Index>(begin),
@@ -72,8 +80,10 @@ std::vector<TextRepair> LoadTextRepairs(std::string_view bytes, const std::strin
     const std::string_view to = reader.Text("the text that takes its place");
     CheckLength(reader, to);
     // Read as a dash, "&mdash;" would change all dashes.
-    repairs.push_back({text::LowerCase(ToPlain(from, 0, References::Kept).Text),
-                       ToPlain(to, 0, References::Kept).Text});
+    TextRepair& repair = repairs.emplace_back();
+    repair.From = text::LowerCase(ToPlain(from, 0, References::Kept).Text);
+    repair.To = ToPlain(to, 0, References::Kept).Text;
+    repair.Bytes = BytesOf(repair.From);
   }
   return repairs;
 }
@@ -88,12 +98,16 @@ std::vector<TextRepair> ReadTextRepairs(const std::filesystem::path& directory) 
 
 bool Repair(PlainText& line, std::span<const TextRepair> repairs) {
   std::string lower = text::LowerCase(line.Text);
+  std::uint64_t bytes = BytesOf(lower);
   for (const TextRepair& repair : repairs) {
     // Looked at before each repair: a few pairs that double a text would otherwise fill the memory.
     if (line.Text.size() > LineBound) return false;
+    // Few lines have all the letters of a repair.
+    if ((repair.Bytes & ~bytes) != 0) continue;
     if (repair.From.empty() || FindWhole(lower, repair.From, 0) == std::string::npos) continue;
     line = Repaired(line, lower, repair);
     lower = text::LowerCase(line.Text);
+    bytes = BytesOf(lower);
   }
   return line.Text.size() <= LineBound;
 }

@@ -2,6 +2,7 @@
 
 #include "orders/exchange/plain_text.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <span>
 #include <string>
@@ -18,8 +19,9 @@ constexpr std::size_t LineBound = 4000;
 
 /// A piece of text that people or programs get wrong, and what takes its place.
 struct TextRepair {
-  std::string From;  ///< plain and in small letters
-  std::string To;    ///< plain
+  std::string From;         ///< plain and in small letters
+  std::string To;           ///< plain
+  std::uint64_t Bytes = 0;  ///< a bit for each byte of From, so that lines without are passed over
 };
 
 /// The repairs of fixpaste.dat: two text fields a line, what is written and what takes its place.
