@@ -39,6 +39,12 @@ bool SameLists(const GameState& a, const GameState& b) {
          std::tie(b.OrdersList, b.RetreatsList, b.AdjustmentsList);
 }
 
+bool SameWork(const GameState& a, const GameState& b) {
+  const auto player = [](const model::Country& country) { return country.PlayerName; };
+  return SameSeason(a, b) && SamePosition(a, b) && SameLists(a, b) &&
+         std::ranges::equal(a.Countries, b.Countries, {}, player, player);
+}
+
 Changes ChangesBetween(const Situation& before, const Situation& after) {
   const GameState& a = before.Game;
   const GameState& b = after.Game;

@@ -35,6 +35,10 @@ constexpr bool Meet(Changes a, Changes b) {
 /// Whether the lists of all stages are the same.
 bool SameLists(const model::GameState& a, const model::GameState& b);
 
+/// Whether the two are the same in all that people have put into them: everything but the powers'
+/// colours, the report and the file.
+bool SameWork(const model::GameState& a, const model::GameState& b);
+
 Changes ChangesBetween(const Situation& before, const Situation& after);
 
 }  // namespace orb::session

@@ -85,7 +85,10 @@ TEST_F(ColoursDialogTest, CancelAndDefaultsRestoreAndOkKeeps) {
   Trigger("mnuGameUndo");
   EXPECT_EQ(Map(), chosen);
 
-  window_->close();
+  {
+    const ModalScript answers({Pressed("frmClosing", QMessageBox::Discard)});
+    window_->close();
+  }
   EXPECT_THAT(model::ReadFile(program_.Path() / "orb.ini"), HasSubstr("\r\n12338236,"));
   Open(examples_ / "1901-2-autumn-0-start.orb");
   const QImage opened = Map();

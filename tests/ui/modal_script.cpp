@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -93,6 +94,18 @@ ModalScript::Step Answered(const QString& text, int key, Qt::KeyboardModifiers m
       ADD_FAILURE() << "the key does not answer the box";
       dialog.reject();
     }
+  };
+}
+
+ModalScript::Step Pressed(const char* box, QMessageBox::StandardButton button) {
+  return [=](QDialog& dialog) {
+    EXPECT_EQ(dialog.objectName(), box);
+    const auto* buttons = dialog.findChild<QDialogButtonBox*>();
+    auto* wanted =
+        buttons != nullptr ? buttons->button(QDialogButtonBox::StandardButton(+button)) : nullptr;
+    if (wanted != nullptr) return wanted->click();
+    ADD_FAILURE() << "no such button: " << dialog.windowTitle().toStdString();
+    dialog.reject();
   };
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QMessageBox>
 #include <QTimer>
 
 #include <deque>
@@ -38,6 +39,9 @@ void Type(const QString& text);
 /// A step for a message box: expects its text and presses the button's key.
 ModalScript::Step Answered(const QString& text, int key,
                            Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+/// A step for the message box of this name: presses one of its buttons.
+ModalScript::Step Pressed(const char* box, QMessageBox::StandardButton button);
 
 /// A step for a file dialog: types the file's name in and accepts.
 ModalScript::Step FileChosen(const QString& path);

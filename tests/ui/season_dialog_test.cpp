@@ -73,13 +73,13 @@ TEST_F(SeasonDialogTest, OkChangesTheGameAndCancelDoesNot) {
   EXPECT_THAT(Saved(), HasSubstr("\"Spring cup\",\"Autumn\",-32768,\"retreats\"\r\n"));
   EXPECT_THAT(Saved(), HasSubstr("\r\n1\r\n\"ENG F(Lon) - NTH\"\r\n2\r\n\"one\"\r\n\"two\"\r\n"));
   EXPECT_THAT(Saved(), HasSubstr("\"ITA\",\"Ada\"\r\n"));
-  EXPECT_EQ(window_->windowTitle(), Titled(" Spring cup"));
+  EXPECT_EQ(window_->windowTitle(), Titled(" Spring cup") + QLatin1String("[*]"));
   EXPECT_EQ(StagePanel(), "fraRetreats");
   EXPECT_TRUE(Find<QAction>("mnuGameEnterRetreats").isChecked());
   EXPECT_FALSE(Find<QAction>("mnuGameEditUnits").isChecked());
   EXPECT_NE(Map(), map);
   Edit([](QDialog& dialog) { dialog.findChild<QLineEdit*>("txtTitle")->clear(); }, Qt::Key_Return);
-  EXPECT_EQ(window_->windowTitle(), Titled());
+  EXPECT_EQ(window_->windowTitle(), Titled() + QLatin1String("[*]"));
 }
 
 TEST_F(SeasonDialogTest, WhatAFileHoldsIsKeptByteForByte) {
@@ -147,7 +147,7 @@ TEST_F(SeasonDialogTest, WhatCannotBeStoredIsRefusedAndSaidWhy) {
     EXPECT_EQ(text->toPlainText(), QString::fromUtf8("é"));
   };
   Edit(edit, Qt::Key_Return);
-  EXPECT_EQ(window_->windowTitle(), Titled(" abc d"));
+  EXPECT_EQ(window_->windowTitle(), Titled(" abc d") + QLatin1String("[*]"));
 }
 
 TEST_F(SeasonDialogTest, TheReportGoesWhenTheStageGoesBack) {

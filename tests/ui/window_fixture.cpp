@@ -14,7 +14,8 @@ namespace orb::tests {
 void WindowTest::Open(const std::filesystem::path& game) {
   ScriptedMessages none;
   window_.reset();
-  const ui::Places places{program_.Path(), directory_.Path() / "config"};
+  const ui::Places places{program_.Path(), directory_.Path() / "config",
+                          directory_.Path() / "state"};
   window_ = std::make_unique<ui::MainWindow>(ui::startProgram(places, game, none), places);
   window_->show();
   window_->activateWindow();

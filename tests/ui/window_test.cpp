@@ -22,6 +22,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <deque>
 #include <filesystem>
 #include <iterator>
 #include <memory>
@@ -214,6 +215,34 @@ TEST_F(WindowTest, SaveAsksProposesAndLowersTheName) {
     Trigger("mnuFileSaveAs");
   }
   std::filesystem::current_path(before);
+}
+
+TEST_F(WindowTest, SaveAsksBeforeItReplacesWhatSomebodyElseHasWritten) {
+  const auto file = directory_.Path() / "game.orb";
+  const auto other = directory_.Path() / "other.orb";
+  std::filesystem::copy_file(examples_ / "1901-2-autumn-0-start.orb", file);
+  Open(file);
+  Enter("FRA A(Mar) hold");
+  const std::string theirs = model::ReadFile(examples_ / "1902-1-spring-0-start.orb");
+  const auto save = [&](std::deque<ModalScript::Step> steps) {
+    directory_.Write("game.orb", theirs);
+    const ModalScript answers(std::move(steps));
+    Trigger("mnuFileSave");
+    return model::ReadFile(file);
+  };
+  const QString question = QString::fromStdString(
+      file.string() +
+      " was changed by another program since it was opened.\nReplace it with this game?");
+  EXPECT_EQ(save({Answered(question, Qt::Key_Return)}), theirs) << "nothing is lost unawares";
+  EXPECT_THAT(save({Answered(question, Qt::Key_R, Qt::AltModifier)}), HasSubstr("FRA A(Mar) hold"));
+  EXPECT_EQ(save({Answered(question, Qt::Key_A, Qt::AltModifier),
+                  FileChosen(QString::fromStdString(other.string()))}),
+            theirs);
+  EXPECT_THAT(model::ReadFile(other), HasSubstr("FRA A(Mar) hold"));
+  EXPECT_EQ(Find<QLabel>("lblFileName").text().toStdString(), other.string());
+  std::filesystem::remove(other);
+  EXPECT_EQ(save({}), theirs);
+  EXPECT_THAT(model::ReadFile(other), HasSubstr("FRA A(Mar) hold")) << "written anew";
 }
 
 TEST_F(WindowTest, ASelectedReportLineSaysWhyAndUndoTakesAllBack) {

@@ -1,11 +1,15 @@
+#include "end_signals.h"
+
 #include "model/errors.h"
 #include "model/files.h"
 #include "ui/session/attempt.h"
+#include "ui/window/application.h"
 #include "ui/window/main_window.h"
 
-#include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include <cstdlib>
 #include <filesystem>
@@ -47,10 +51,20 @@ class StartMessages : public ui::MessageBoxes {
   bool m_display;
 };
 
+/// The user's own directory for what outlives the program but is no setting, as the desktops have
+/// agreed on it. Qt does not know it yet.
+std::filesystem::path stateDirectory() {
+  const std::filesystem::path chosen = qgetenv("XDG_STATE_HOME").toStdString();
+  // A relative path counts for nothing there.
+  if (chosen.is_absolute()) return chosen / "orb";
+  return std::filesystem::path(QFile::encodeName(QDir::homePath()).toStdString()) /
+         ".local/state/orb";
+}
+
 /// The data files lie next to the program, so that a folder with both can be moved as a whole.
 ui::Places systemPlaces() {
   const QString config = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
-  return {model::ProgramDirectory(), QFile::encodeName(config).toStdString()};
+  return {model::ProgramDirectory(), QFile::encodeName(config).toStdString(), stateDirectory()};
 }
 
 int runProgram(const std::filesystem::path& gameFile, bool display) {
@@ -66,7 +80,10 @@ int runProgram(const std::filesystem::path& gameFile, bool display) {
           "There is no display (DISPLAY, WAYLAND_DISPLAY) for the window; orbctl needs none.");
     }
     ui::MainWindow window(std::move(start), places);
+    const ui::EndSignals endSignals([&window] { window.keepAll(); });
     window.show();
+    // From the event loop, so that the end of the window ends the program.
+    QTimer::singleShot(0, &window, &ui::MainWindow::offerRecovery);
     status = QApplication::exec();
   });
   return status;
@@ -79,8 +96,8 @@ int main(int argc, char* argv[]) {
   const bool tried = choosePlatform();
   // Tests ask for the hidden platform by name; one that Qt merely fell back on is no display.
   const bool hiddenAskedFor = qgetenv("QT_QPA_PLATFORM") == "offscreen";
-  std::unique_ptr<QApplication> application;
-  if (tried) application = std::make_unique<QApplication>(argc, argv);
+  std::unique_ptr<ui::Application> application;
+  if (tried) application = std::make_unique<ui::Application>(argc, argv);
   const bool display =
       tried && (hiddenAskedFor || QApplication::platformName() != QLatin1String("offscreen"));
 

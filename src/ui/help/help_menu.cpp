@@ -4,6 +4,7 @@
 #include "text/qt/text_codec.h"
 #include "ui/help/help_window.h"
 #include "ui/widgets/controls.h"
+#include "ui/widgets/plain_text.h"
 
 #include <QMessageBox>
 
@@ -19,20 +20,15 @@ QString topicOf(const session::Situation& situation) {
   return QObject::tr("Entering orders");
 }
 
-/// In a menu a single ampersand marks the entry's key.
-QString shownAsIs(QString text) {
-  return text.replace(QLatin1Char('&'), QLatin1String("&&"));
-}
-
 /// The caption with its first letter that no entry before has taken as the entry's key.
 QString withKey(const QString& caption, QString& taken) {
   for (qsizetype i = 0; i < caption.size(); ++i) {
     const QChar key = caption[i].toLower();
     if (!key.isLetter() || taken.contains(key)) continue;
     taken += key;
-    return shownAsIs(caption.left(i)) + QLatin1Char('&') + shownAsIs(caption.mid(i));
+    return captionText(caption.left(i)) + QLatin1Char('&') + captionText(caption.mid(i));
   }
-  return shownAsIs(caption);
+  return captionText(caption);
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "ui/output/print_dialog.h"
 #include "ui/output/print_pages.h"
 #include "ui/session/attempt.h"
+#include "ui/widgets/game_name.h"
 
 #include <QBuffer>
 #include <QClipboard>
@@ -75,12 +76,6 @@ QString proposedPdf(const model::GameState& game) {
                         ? QDir::homePath()
                         : displayPath(fs::path(game.FileName).parent_path().string()));
   return folder.absoluteFilePath(text::ToQString(proposedExportFile(game, ".pdf")));
-}
-
-/// "CONCORDAT, Spring 1901".
-QString printedTitle(const model::GameState& game) {
-  const std::string season = game.Season + " " + std::to_string(game.Year);
-  return text::ToQString(game.Title.empty() ? season : game.Title + ", " + season);
 }
 
 /// A PDF file is replaced whole or not at all.
@@ -182,7 +177,7 @@ void ExportCommands::printOnce(QPrinter& printer) {
   const View& view = m_desk.view();
   const fs::path background = render::BackgroundFile(m_desk.dataDirectory(), view.mapOptions.Mode);
   const PrintedGame game{
-      printedTitle(now), text::ToQString(report::TextReport(now)),
+      gameName(now), text::ToQString(report::TextReport(now)),
       m_pictures.Picture(background).size(), [&](QPainter& painter, const QRectF& target) {
         render::PaintMap(now, view.mapOptions, m_desk.dataDirectory(), m_pictures, painter, target,
                          shownOrders(m_desk.now(), view));

@@ -4,12 +4,14 @@
 #include "orders/exchange/order_files.h"
 #include "text/qt/text_codec.h"
 #include "ui/output/file_proposals.h"
+#include "ui/widgets/message_boxes.h"
 
 #include <QCheckBox>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QPushButton>
 
 #include <algorithm>
 #include <functional>
@@ -153,6 +155,20 @@ std::optional<std::filesystem::path> askWhereToSave(QWidget* parent, const model
   QFileDialog dialog(parent);
   setUpForGames(dialog, QObject::tr(" Save As"), game);
   return askForNewFile(dialog, proposedGameFile(game), messages, model::LowerCaseName);
+}
+
+ChangedFileChoice askAboutChangedFile(QWidget* parent, const std::filesystem::path& file) {
+  const QString text = QObject::tr(
+      "%1 was changed by another program since it was opened.\n"
+      "Replace it with this game?");
+  MessageBox box(text.arg(displayPath(file.string())), QMessageBox::Warning, parent);
+  box.setObjectName(QStringLiteral("frmChangedFile"));
+  const auto* replace = box.addButton(QObject::tr("&Replace"), QMessageBox::DestructiveRole);
+  const auto* saveAs = box.addButton(QObject::tr("Save &as..."), QMessageBox::AcceptRole);
+  box.setDefaultButton(box.addButton(QMessageBox::Cancel));
+  box.exec();
+  if (box.clickedButton() == replace) return ChangedFileChoice::Replace;
+  return box.clickedButton() == saveAs ? ChangedFileChoice::SaveAs : ChangedFileChoice::Cancel;
 }
 
 std::optional<std::filesystem::path> askWhereToExport(QWidget* parent, ExportKind kind,

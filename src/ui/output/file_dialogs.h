@@ -32,6 +32,11 @@ std::vector<std::filesystem::path> askGamesToAnimate(QWidget* parent, const mode
 std::optional<std::filesystem::path> askWhereToSave(QWidget* parent, const model::GameState& game,
                                                     model::Messages& messages);
 
+enum class ChangedFileChoice { Replace, SaveAs, Cancel };
+
+/// Asks what becomes of a game whose file somebody else has changed since it was opened.
+ChangedFileChoice askAboutChangedFile(QWidget* parent, const std::filesystem::path& file);
+
 enum class ExportKind { Bitmap, Text, Orders, Animation };
 
 /// Asks for the file to export to, whose name is taken as it stands, and whether one there may be

@@ -13,32 +13,43 @@ Desk::Desk(Start start, std::filesystem::path dataDirectory, model::Messages& me
            QObject* parent)
     : QObject(parent),
       m_session(std::move(start.situation)),
+      m_saved(game()),
       m_view(start.view),
       m_dataDirectory(std::move(dataDirectory)),
       m_messages(messages) {
   m_session.SetReview([this](const Situation& next) { m_draw(next, m_view); });
 }
 
+bool Desk::isModified() const {
+  return !m_saved || !session::SameWork(*m_saved, game());
+}
+
+bool Desk::hasOrdersNoFileKeeps() const {
+  return game().Stage != model::Stage::Moves && session::HasOrderLines(game());
+}
+
 void Desk::newGame() {
-  run([this](Situation& next) { session::NewGame(next, m_dataDirectory); });
+  run([this](Situation& next) { session::NewGame(next, m_dataDirectory); }, FileHolds::Game);
 }
 
 void Desk::blankGame() {
-  run([this](Situation& next) { session::BlankGame(next, m_dataDirectory); });
+  run([this](Situation& next) { session::BlankGame(next, m_dataDirectory); }, FileHolds::Game);
 }
 
 void Desk::openGame(const std::filesystem::path& file, bool readOnly) {
-  run([&](Situation& next) {
+  const auto open = [&](Situation& next) {
     session::OpenGame(next, file, readOnly, m_dataDirectory, m_messages);
-  });
+  };
+  run(open, FileHolds::Game);
 }
 
-void Desk::saveGame() {
-  run([](Situation& next) { session::SaveGame(next); });
+bool Desk::recoverGame(const Situation& recovered) {
+  return run([&](Situation& next) { next = recovered; }, FileHolds::Other);
 }
 
-void Desk::saveGameAs(const std::filesystem::path& file) {
-  run([&](Situation& next) { session::SaveGameAs(next, file); });
+bool Desk::saveGameAs(const std::filesystem::path& file, session::Overwrite overwrite) {
+  const auto save = [&](Situation& next) { session::SaveGameAs(next, file, overwrite); };
+  return run(save, FileHolds::Game);
 }
 
 bool Desk::fileOrder(const std::string& text) {
@@ -119,9 +130,11 @@ void Desk::setShowOrders(bool showOrders) {
   show(next);
 }
 
-bool Desk::run(const session::Command& command) {
+bool Desk::run(const session::Command& command, FileHolds holds) {
   session::Effect effect{false, Changes::All};
   attempt(m_messages, [&] { effect = m_session.Run(command); });
+  if (effect.Done && holds == FileHolds::Game) m_saved = game();
+  if (effect.Done && holds == FileHolds::Other) m_saved.reset();
   // Also when the command failed: a check mark may already show what has not happened.
   emit changed(effect.Changed);
   return effect.Done;

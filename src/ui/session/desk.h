@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,6 +31,17 @@ class Desk : public QObject {
   const session::Situation& now() const { return m_session.Now(); }
   const model::GameState& game() const { return now().Game; }
   const View& view() const { return m_view; }
+
+  /// Whether the game differs from what its file holds, or from the new game that it began as. A
+  /// recovered game does until it is saved.
+  bool isModified() const;
+
+  /// Whether it holds orders that no game file has a place for: those of retreats and adjustments.
+  bool hasOrdersNoFileKeeps() const;
+
+  /// Whether anything would be lost with the window.
+  bool hasUnsavedWork() const { return isModified() || hasOrdersNoFileKeeps(); }
+
   const std::filesystem::path& dataDirectory() const { return m_dataDirectory; }
 
   /// Called before anything new is taken over: what cannot be drawn is not.
@@ -43,12 +55,15 @@ class Desk : public QObject {
     });
   }
 
-  // The commands on game files. A file that cannot be read or written leaves the game as it was.
+  // The commands on game files. A file that cannot be read or written leaves the game as it was;
+  // saving is then false.
   void newGame();
   void blankGame();
   void openGame(const std::filesystem::path& file, bool readOnly);
-  void saveGame();
-  void saveGameAs(const std::filesystem::path& file);
+  /// Goes on with a game that was not saved; false: it could not be shown.
+  bool recoverGame(const session::Situation& recovered);
+  bool saveGameAs(const std::filesystem::path& file,
+                  session::Overwrite overwrite = session::Overwrite::Unchanged);
 
   /// False when nothing was filed.
   bool fileOrder(const std::string& text);
@@ -89,12 +104,16 @@ class Desk : public QObject {
   void stopped();
 
  private:
+  /// What the game's file holds after a command: what it held before, the game, or another game.
+  enum class FileHolds { Same, Game, Other };
+
   /// False when the command was declined or abandoned.
-  bool run(const session::Command& command);
+  bool run(const session::Command& command, FileHolds holds = FileHolds::Same);
   /// Draws the game with another view and keeps that view, or reports why not.
   void show(const View& view);
 
   session::Session m_session;
+  std::optional<model::GameState> m_saved;  ///< nothing: no file holds the game
   View m_view;
   std::filesystem::path m_dataDirectory;
   model::Messages& m_messages;

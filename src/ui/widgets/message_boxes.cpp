@@ -2,7 +2,6 @@
 
 #include "text/qt/text_codec.h"
 
-#include <QMessageBox>
 #include <QPushButton>
 #include <QStringDecoder>
 
@@ -22,20 +21,21 @@ QMessageBox::Icon boxIcon(model::Icon icon) {
   }
 }
 
-void setUp(QMessageBox& box, const std::string& text, QMessageBox::Icon icon,
-           QMessageBox::StandardButtons buttons) {
-  box.setWindowTitle(text::ToQString(model::ProgramName));
-  // File names and order lines are quoted in it, and must not be taken for markup.
-  box.setTextFormat(Qt::PlainText);
-  box.setText(displayText(text));
-  box.setIcon(icon);
-  box.setStandardButtons(buttons);
-  // Not every button has an icon of its own; either all or none.
-  for (QAbstractButton* button : box.buttons())
-    button->setIcon({});
+}  // namespace
+
+MessageBox::MessageBox(const QString& text, Icon icon, QWidget* parent) : QMessageBox(parent) {
+  setWindowTitle(text::ToQString(model::ProgramName));
+  setTextFormat(Qt::PlainText);
+  setText(text);
+  setIcon(icon);
 }
 
-}  // namespace
+int MessageBox::exec() {
+  // Not every button has an icon of its own; either all or none.
+  for (QAbstractButton* button : buttons())
+    button->setIcon({});
+  return QMessageBox::exec();
+}
 
 QString displayText(const std::string& text) {
   QStringDecoder utf8(QStringDecoder::Utf8);
@@ -46,18 +46,17 @@ QString displayText(const std::string& text) {
 }
 
 bool MessageBoxes::Warn(const std::string& text) {
-  QMessageBox box(m_parent);
-  setUp(box, text, QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No);
+  MessageBox box(displayText(text), QMessageBox::Warning, m_parent);
+  box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
   box.setDefaultButton(QMessageBox::Yes);
   box.setEscapeButton(QMessageBox::No);
   return box.exec() == QMessageBox::Yes;
 }
 
 model::Answer MessageBoxes::Ask(const std::string& text) {
-  QMessageBox box(m_parent);
+  MessageBox box(displayText(text), QMessageBox::Question, m_parent);
   box.setObjectName(QStringLiteral("frmDialog"));
-  setUp(box, text, QMessageBox::Question,
-        QMessageBox::Yes | QMessageBox::No | QMessageBox::YesToAll);
+  box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::YesToAll);
   box.button(QMessageBox::YesToAll)->setText(QObject::tr("Yes to &all"));
   // Every way of closing the box but the two kinds of Yes is a No.
   box.setDefaultButton(QMessageBox::Yes);
@@ -73,8 +72,8 @@ model::Answer MessageBoxes::Ask(const std::string& text) {
 }
 
 void MessageBoxes::Show(const std::string& text, model::Icon icon) {
-  QMessageBox box(m_parent);
-  setUp(box, text, boxIcon(icon), QMessageBox::Ok);
+  MessageBox box(displayText(text), boxIcon(icon), m_parent);
+  box.setStandardButtons(QMessageBox::Ok);
   box.exec();
 }
 

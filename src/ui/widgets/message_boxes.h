@@ -2,6 +2,7 @@
 
 #include "model/messages.h"
 
+#include <QMessageBox>
 #include <QString>
 #include <QWidget>
 
@@ -10,6 +11,18 @@ namespace orb::ui {
 /// A message text as a box shows it: every line break of the core becomes a new line. Texts of the
 /// system (file names, reasons) are UTF-8, texts of the game Windows-1252.
 QString displayText(const std::string& text);
+
+/// A message box of the program. Its text is shown as it stands: file names and order lines are
+/// quoted in it, and must not be taken for markup.
+class MessageBox : public QMessageBox {
+  Q_OBJECT
+
+ public:
+  MessageBox(const QString& text, Icon icon, QWidget* parent);
+
+  /// Shows the box. All buttons must have been added.
+  int exec() override;
+};
 
 /// Real message boxes over a window. Enter agrees, Esc declines.
 class MessageBoxes : public model::Messages {

@@ -1,5 +1,6 @@
 #include "ui/window/file_menu.h"
 
+#include "model/errors.h"
 #include "ui/exchange/exchange_commands.h"
 #include "ui/output/export_commands.h"
 #include "ui/output/file_dialogs.h"
@@ -63,17 +64,30 @@ void FileMenu::open() {
   if (choice) m_desk.openGame(choice->file, choice->readOnly);
 }
 
-void FileMenu::save() {
-  if (m_desk.game().FileName.empty()) {
-    saveAs();
-  } else {
-    m_desk.saveGame();
-  }
+bool FileMenu::save() {
+  if (m_desk.game().FileName.empty() || !session::CanSave(m_desk.now())) return saveAs();
+  return saveTo(m_desk.game().FileName);
 }
 
-void FileMenu::saveAs() {
+bool FileMenu::saveAs() {
   const auto file = askWhereToSave(m_window, m_desk.game(), m_messages);
-  if (file) m_desk.saveGameAs(*file);
+  return file && saveTo(*file);
+}
+
+bool FileMenu::saveTo(const std::filesystem::path& file) {
+  try {
+    session::ExpectUnchanged(m_desk.now(), file);
+  } catch (const model::FileChangedError&) {
+    switch (askAboutChangedFile(m_window, file)) {
+      case ChangedFileChoice::Replace:
+        return m_desk.saveGameAs(file, session::Overwrite::Anything);
+      case ChangedFileChoice::SaveAs:
+        return saveAs();
+      default:
+        return false;
+    }
+  }
+  return m_desk.saveGameAs(file);
 }
 
 void FileMenu::showState() {

@@ -29,14 +29,18 @@ class FileMenu : public QMenu {
   QAction* animateEntry() const { return m_animate; }
   QAction* animateMoveEntry() const { return m_animateMove; }
 
+  /// Saves the game, and asks where when it has no file yet or may not be written to its own.
+  /// False: it was not saved.
+  bool save();
+
  private:
   // The groups of entries between the separators.
   void addExchange(ExchangeCommands& exchange);
   void addExports(ExportCommands& exports);
   void open();
-  /// Asks for a file when the game has none yet.
-  void save();
-  void saveAs();
+  bool saveAs();
+  /// Asks first where somebody else has changed the game's file.
+  bool saveTo(const std::filesystem::path& file);
   void showState();
 
   Desk& m_desk;

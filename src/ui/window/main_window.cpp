@@ -1,5 +1,6 @@
 #include "ui/window/main_window.h"
 
+#include "model/errors.h"
 #include "settings/settings_file.h"
 #include "text/qt/text_codec.h"
 #include "ui/editing/edit_provinces_panel.h"
@@ -20,11 +21,13 @@
 #include "ui/widgets/controls.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/place_text.h"
+#include "ui/widgets/plain_text.h"
 #include "ui/window/edit_menu.h"
 #include "ui/window/file_menu.h"
 #include "ui/window/game_menu.h"
 #include "ui/window/map_menu.h"
 #include "ui/window/toolbar.h"
+#include "ui/window/unsaved_work.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -88,6 +91,7 @@ MainWindow::MainWindow(Start start, const Places& places)
   m_desk.whenChanged(Changes::Season | Changes::File | Changes::Editing, this,
                      &MainWindow::showGame);
   connect(&m_desk, &Desk::viewChanged, this, &MainWindow::showViewOnly);
+  connect(&m_desk, &Desk::changed, this, [this] { setWindowModified(m_desk.isModified()); });
   showGame();
   // The map is drawn once all has its place: at any other size it would be drawn again.
   layout()->activate();
@@ -176,6 +180,9 @@ void MainWindow::createMenus() {
           &AnimationPlayer::askAndPlayFiles);
   connect(m_fileMenu->animateMoveEntry(), &QAction::triggered, m_player,
           &AnimationPlayer::playSeason);
+  m_unsaved = new UnsavedWork(
+      m_desk, m_places, [this] { return m_fileMenu->save(); }, this);
+  connect(m_unsaved, &UnsavedWork::noted, this, &MainWindow::showStatus);
   m_editMenu = new EditMenu(m_desk, *m_exports, *m_exchange, m_map, this);
   m_gameMenu = new GameMenu(m_desk, this);
   m_mapMenu = new MapMenu(m_desk, *m_view, this);
@@ -221,17 +228,33 @@ void MainWindow::rememberSize() {
   m_memory.setGeometry(saveGeometry());
 }
 
-void MainWindow::closeEvent(QCloseEvent* event) {
+void MainWindow::rememberSettings() {
   rememberSize();
   m_memory.setZoom(m_view->zoom());
   m_memory.setFlag(ShowOrders, m_desk.view().showOrders);
+  const View& view = m_desk.view();
+  settings::WriteSettingsFile(settings::SettingsFileForWriting(m_places.program, m_places.config),
+                              {view.mapOptions, view.viewOnly}, m_desk.game().Countries);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (!m_unsaved->mayClose()) return event->ignore();
   // A settings file that cannot be written is reported, but must not keep the window open.
-  attempt(m_messages, [this] {
-    const View& view = m_desk.view();
-    settings::WriteSettingsFile(settings::SettingsFileForWriting(m_places.program, m_places.config),
-                                {view.mapOptions, view.viewOnly}, m_desk.game().Countries);
-  });
+  attempt(m_messages, [this] { rememberSettings(); });
   event->accept();
+}
+
+void MainWindow::offerRecovery() {
+  m_unsaved->offerRecovery();
+}
+
+void MainWindow::keepAll() {
+  m_unsaved->keepCopy();
+  try {
+    rememberSettings();
+  } catch (const model::FatalError&) {
+    // Nobody is there to be told.
+  }
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
@@ -252,7 +275,7 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 
 void MainWindow::showGame() {
   const model::GameState& game = m_desk.game();
-  setWindowTitle(text::ToQString(model::Caption(game)));
+  setWindowTitle(titleText(text::ToQString(model::Caption(game))));
   const QString file = displayPath(game.FileName);
   // Every way in which a game gets a file leads through here: opening, saving, and the command
   // line.

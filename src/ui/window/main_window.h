@@ -32,6 +32,7 @@ class MapView;
 class OrderEntryPanel;
 class ReportPanel;
 class SeasonFinishedPanel;
+class UnsavedWork;
 
 /// The map at the left, the panels at the right, menus and tools above, the status below.
 ///
@@ -46,6 +47,12 @@ class MainWindow : public QMainWindow {
   MainWindow(const MainWindow&) = delete;
   MainWindow& operator=(const MainWindow&) = delete;
   ~MainWindow() override;
+
+  /// Offers games that were not saved before their windows ended; to be called once it is shown.
+  void offerRecovery();
+
+  /// Keeps what can be kept without asking: the program is ended from outside.
+  void keepAll();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -63,6 +70,8 @@ class MainWindow : public QMainWindow {
   // The size and place of the last start, or the preferred size on the first one.
   void restoreSize();
   void rememberSize();
+  /// Keeps what the next start shows again. Throws FileError.
+  void rememberSettings();
 
   // Each shows one side of the state, whatever has changed, and may be called at any time.
   void showGame();
@@ -105,6 +114,7 @@ class MainWindow : public QMainWindow {
   ExportCommands* m_exports = nullptr;
   ExchangeCommands* m_exchange = nullptr;
   FileMenu* m_fileMenu = nullptr;
+  UnsavedWork* m_unsaved = nullptr;
   EditMenu* m_editMenu = nullptr;
   GameMenu* m_gameMenu = nullptr;
   HelpMenu* m_helpMenu = nullptr;

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QApplication>
+
+namespace orb::ui {
+
+/// The program's application. Two things hold in it everywhere, whatever a single widget does:
+///
+/// No label and no tooltip takes its text for markup, unless it was told to: most texts come from
+/// files, and markup can name files to be opened. And no exception ends the program: what comes out
+/// of the handling of an event becomes an error box.
+class Application : public QApplication {
+  Q_OBJECT
+
+ public:
+  using QApplication::QApplication;
+
+  bool notify(QObject* receiver, QEvent* event) override;
+
+ private:
+  void report(const QString& fault);
+
+  bool m_reporting = false;
+};
+
+}  // namespace orb::ui
