@@ -1,6 +1,6 @@
 // The least that a program can do that resolves game files: reads each, writes a file of the size
-// of the resolved one beside its place, flushes it to disk and renames it. orbctl is measured
-// against it.
+// of the resolved one beside its place, flushes it to disk, renames it and flushes the directory.
+// orbctl is measured against it.
 //
 // Usage: bare_rewrite SIZE OUTPUT_DIRECTORY GAME...
 
@@ -26,6 +26,13 @@ bool ReadWhole(const char* path) {
   return got == 0;
 }
 
+bool Flush(const char* directory) {
+  const int opened = ::open(directory, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  const bool isFlushed = opened >= 0 && ::fsync(opened) == 0;
+  if (opened >= 0) ::close(opened);
+  return isFlushed;
+}
+
 bool Replace(const std::string& path, std::string_view bytes) {
   std::string beside = path + ".XXXXXX";
   const int file = ::mkostemp(beside.data(), O_CLOEXEC);
@@ -48,7 +55,7 @@ int main(int argc, char** argv) {
     const std::string_view game = argv[i];
     const std::string output =
         std::string(argv[2]) + "/" + std::string(game.substr(game.rfind('/') + 1));
-    if (!ReadWhole(argv[i]) || !Replace(output, bytes)) {
+    if (!ReadWhole(argv[i]) || !Replace(output, bytes) || !Flush(argv[2])) {
       std::perror(argv[i]);
       return 1;
     }

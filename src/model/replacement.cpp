@@ -115,7 +115,8 @@ Descriptor OpenNamed(std::string& pattern) {
 /// Gives a file without a name one like those of mkostemp; false with errno where that fails.
 bool GiveName(const Descriptor& file, std::string& pattern) {
   const std::string number = "/proc/self/fd/" + std::to_string(file.Number());
-  std::random_device random;
+  // Seeded once: that takes as long as all the rest of it.
+  static std::minstd_rand random{std::random_device()()};
   constexpr int tries = 100;
   for (int i = 0; i < tries; ++i) {
     constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyz0123456789";
