@@ -19,7 +19,7 @@ bool Attempt(Console& console, std::string_view subject, const std::function<boo
   } catch (const UsageError&) {
     throw;  // wrong for every game: the program ends
   } catch (const std::exception& error) {
-    console.Say(subject, error.what());
+    console.Say(subject, model::SentenceOf(error));
     return false;
   }
 }
@@ -34,10 +34,10 @@ int ForEachGame(const CommandLine& line, Console& console, const std::vector<Gam
     allDone &= Attempt(console, paths.Game, [&] {
       // Loaded within the attempt, so that a broken map is reported like any other fault. All games
       // share it: the map never changes.
-      if (!map) map = model::LoadMap(data);
       session::Situation situation;  // "{}" would have all 20 kB of it cleared first
-      situation.Game = model::EmptyGame(map);
       GameAtWork at{situation, paths, {console, paths.Game, line.Has(OptionId::Yes)}};
+      if (!map) map = model::LoadMap(data, at.Messages);
+      situation.Game = model::EmptyGame(map);
       return session::ReadGame(situation, paths.Game, at.Messages, model::Streams::Read) &&
              work(at);
     });

@@ -34,7 +34,8 @@ int Execute(const CommandLine& line, Console& console) {
   const std::filesystem::path data = DataDirectory(line);
   CheckNoDataFile(file, data);
   const bool done = Attempt(console, file, [&] {
-    session::Situation situation{model::EmptyGame(model::LoadMap(data))};
+    ConsoleMessages messages(console, file, false);
+    session::Situation situation{model::EmptyGame(model::LoadMap(data, messages))};
     line.Has(OptionId::Blank) ? session::BlankGame(situation, data)
                               : session::NewGame(situation, data);
     if (title) session::SetTitle(situation, *title);

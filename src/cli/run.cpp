@@ -4,6 +4,7 @@
 #include "cli/command_line.h"
 #include "cli/console.h"
 #include "cli/help.h"
+#include "model/errors.h"
 #include "model/messages.h"
 
 #include <array>
@@ -42,6 +43,9 @@ int Run(std::span<const std::string> arguments, std::ostream& out, std::ostream&
     console.Say("orbctl", error.what());
     console.Say("orbctl", "\"orbctl --help\" shows how to use it.");
     return ExitUsage;
+  } catch (const std::exception& error) {
+    console.Say("orbctl", model::SentenceOf(error));
+    return ExitRefused;
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <stdexcept>
 #include <string>
 
@@ -29,5 +30,9 @@ class FileChangedError : public FileError {
  public:
   using FileError::FileError;
 };
+
+/// What is told to the user about an exception, as a sentence: also about those that are not meant
+/// for users, which no command may let end the program.
+std::string SentenceOf(const std::exception& problem);
 
 }  // namespace orb::model

@@ -11,6 +11,7 @@
 #include <charconv>
 #include <cstdint>
 #include <forward_list>
+#include <limits>
 #include <vector>
 
 namespace orb::model {
@@ -21,6 +22,9 @@ constexpr std::string_view OldestHeader = "ORB v0.1";
 /// Names the form of the records, which a new version of the program need not change.
 constexpr std::string_view WrittenHeader = "ORB v5.5";
 constexpr std::size_t VersionPosition = 5;
+
+/// The largest count that a file can hold of what has no bound of its own.
+constexpr int CountBound = std::numeric_limits<std::int16_t>::max();
 
 /// What the records of a game file hold, which depends on its version.
 struct Layout {
@@ -56,6 +60,13 @@ Layout LayoutOf(std::string_view header) {
   return layout;
 }
 
+/// Whether the first field of the file, with or without quotes, is a header.
+bool BeginsWithHeader(std::string_view bytes) {
+  bytes.remove_prefix(std::min(bytes.find_first_not_of(' '), bytes.size()));
+  if (bytes.starts_with('"')) bytes.remove_prefix(1);
+  return bytes.starts_with("ORB");
+}
+
 /// A unit's record.
 struct UnitFields {
   std::string_view Power, UnitType, Location, Status, DislodgedFrom, PreviousLocation;
@@ -85,14 +96,13 @@ struct Contents {
 class GameReader {
  public:
   GameReader(std::string_view bytes, const std::string& fileName, const Map& map)
-      : map_(map), scan_(map), fileName_(fileName), reader_(bytes, fileName) {
-    // The very first files began with the season; they are read again from their first byte.
-    std::string_view header = reader_.Text("a header");
-    if (!header.starts_with("ORB")) {
-      header = OldestHeader;
-      reader_ = RecordReader(bytes, fileName);
-    }
-    layout_ = LayoutOf(header);
+      : map_(map),
+        scan_(map),
+        fileName_(fileName),
+        hasHeader_(BeginsWithHeader(bytes)),
+        reader_(bytes, fileName, LoneQuotes::Refused) {
+    // The very first files began with the season.
+    layout_ = LayoutOf(hasHeader_ ? reader_.Text("a header") : OldestHeader);
   }
 
   const Layout& FileLayout() const { return layout_; }
@@ -100,7 +110,7 @@ class GameReader {
 
   /// Reads the whole file; the first location name that is not on the map, or nothing.
   std::optional<std::string> Read() {
-    ReadSituation();
+    ExpectGame();
     ReadUnits();
     if (auto unknown = ReadProvinces()) return unknown;
     ReadOrders();
@@ -108,6 +118,13 @@ class GameReader {
     ReadPlayers();
     CheckUnits();
     return std::nullopt;
+  }
+
+  /// What was found behind the end of the game, in a sentence; empty where there is nothing.
+  std::string Remark() const {
+    if (reader_.AtEnd()) return {};
+    return text::NameInText(fileName_) + ", line " + std::to_string(reader_.Line()) +
+           ": what stands behind the end of the game is not read, and is lost when it is saved.";
   }
 
  private:
@@ -119,6 +136,17 @@ class GameReader {
     std::string& fixed = fixedTexts_.emplace_front(field);
     FixNames(map_, fixed);
     return fixed;
+  }
+
+  /// A file that neither names itself a game nor begins like the oldest ones is none at all, and
+  /// what it lacks to be one would tell nobody anything.
+  void ExpectGame() {
+    try {
+      ReadSituation();
+    } catch (const FileError&) {
+      if (hasHeader_) throw;
+      throw FileError(text::NameInText(fileName_) + " is no game file.");
+    }
   }
 
   void ReadSituation() {
@@ -144,7 +172,7 @@ class GameReader {
   }
 
   std::optional<std::string> ReadProvinces() {
-    const int count = reader_.Number("the number of locations");
+    const int count = reader_.NumberUpTo(CountBound, "the number of locations");
     contents_.Provinces.SetCount(map_.Provinces.Count());
     for (int i = 1; i <= count; ++i) {
       const std::string_view name = ReadFixed("a location");
@@ -162,7 +190,7 @@ class GameReader {
   }
 
   void ReadOrders() {
-    const int count = reader_.Number("the number of orders");
+    const int count = reader_.NumberUpTo(CountBound, "the number of orders");
     // The count may be wrong by any number, so that room is made for a usual one only.
     contents_.Orders.reserve(UnitBound);
     for (int i = 1; i <= count; ++i)
@@ -180,7 +208,7 @@ class GameReader {
   void ReadPlayers() {
     contents_.HasPlayers = !reader_.AtEnd();
     if (!contents_.HasPlayers) return;
-    const int count = reader_.Number("the number of powers");
+    const int count = reader_.NumberUpTo(CountBound, "the number of powers");
     for (int i = 1; i <= count; ++i) {
       const int country = FindCountry(reader_.Text("a power"));
       const std::string_view name = reader_.Text("a player's name");
@@ -203,6 +231,7 @@ class GameReader {
   const Map& map_;
   NameFixScan scan_;
   const std::string& fileName_;
+  bool hasHeader_;
   RecordReader reader_;
   Layout layout_;
   Contents contents_;
@@ -270,9 +299,10 @@ void Take(const Contents& contents, const Layout& layout, GameState& game) {
 }  // namespace
 
 std::optional<std::string> ParseGameFile(std::string_view bytes, const std::string& fileName,
-                                         GameState& game) {
+                                         GameState& game, std::string* remark) {
   GameReader reader(bytes, fileName, *game.Map);
   if (auto unknown = reader.Read()) return unknown;
+  if (remark != nullptr) *remark = reader.Remark();
   Take(reader.Found(), reader.FileLayout(), game);
   return std::nullopt;
 }
@@ -314,10 +344,12 @@ std::string FormatGameFile(const GameState& game) {
 std::optional<FileMark> ReadGameFile(GameState& game, const std::filesystem::path& file,
                                      Messages& messages, Streams streams) {
   MarkedBytes read = ReadMarkedFile(file, streams);
-  if (const auto unknown = ParseGameFile(read.Bytes, read.Mark.Path, game)) {
+  std::string remark;
+  if (const auto unknown = ParseGameFile(read.Bytes, read.Mark.Path, game, &remark)) {
     messages.Show(UnknownProvinceText(*unknown), Icon::Exclamation);
     return std::nullopt;
   }
+  if (!remark.empty()) messages.Show(remark, Icon::Exclamation);
   game.FileName = read.Mark.Path;
   return std::move(read.Mark);
 }

@@ -7,6 +7,9 @@
 #include "text/encoding.h"
 #include "text/strings.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace orb::model {
 namespace {
 
@@ -52,6 +55,24 @@ std::string ReadNameFixes(const fs::path& file) {
   } catch (const FileError&) {
     return {};
   }
+}
+
+/// The abbreviation that the fixes, made once, turn into one that they would change again: every
+/// time that a game with it is saved and opened it would be another. Empty where there is none.
+std::string RestlessName(const Map& map) {
+  std::vector<std::string> names;
+  for (const Province& province : map.Provinces)
+    names.push_back(province.Name);
+  for (const NameFix& fix : map.NameFixes) {
+    names.push_back(fix.From);
+    FixNames(map, names.back());
+  }
+  const auto restless = std::ranges::find_if(names, [&](std::string again) {
+    const std::string once = again;
+    FixNames(map, again);
+    return again != once;
+  });
+  return restless == names.end() ? std::string() : *restless;
 }
 
 /// The row that stands for a province and its coasts: that of whichever comes first in the file.
@@ -121,6 +142,19 @@ std::shared_ptr<const Map> LoadMap(const fs::path& directory) {
   LoadAdjacency(ReadFile(armies), armies.string(), *map, map->ArmyAdjacency);
   const fs::path fleets = directory / "connf.dat";
   LoadAdjacency(ReadFile(fleets), fleets.string(), *map, map->FleetAdjacency);
+  return map;
+}
+
+std::shared_ptr<const Map> LoadMap(const fs::path& directory, Messages& messages) {
+  auto map = LoadMap(directory);
+  if (const std::string name = RestlessName(*map); !name.empty()) {
+    std::string again = name;
+    FixNames(*map, again);
+    std::string text = text::NameInText((directory / "fixnames.dat").string());
+    text.append(": the corrections do not come to rest: each time that a game is opened, \"");
+    text.append(name).append("\" becomes \"").append(again).append("\".");
+    messages.Show(text, Icon::Exclamation);
+  }
   return map;
 }
 

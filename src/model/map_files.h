@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/map.h"
+#include "model/messages.h"
 
 #include <filesystem>
 #include <memory>
@@ -12,6 +13,9 @@ namespace orb::model {
 /// Reads the map's definition from its directory: fixnames.dat (may be missing), prov.dat,
 /// conna.dat and connf.dat, in this order. Throws FileError or IndexOutOfRange.
 std::shared_ptr<const Map> LoadMap(const std::filesystem::path& directory);
+
+/// The same; a message tells of name fixes that do not come to rest.
+std::shared_ptr<const Map> LoadMap(const std::filesystem::path& directory, Messages& messages);
 
 /// fixnames.dat: two text fields per line, the old and the new abbreviation. A pair counts only
 /// when both are three characters long; reading stops at the 20th.

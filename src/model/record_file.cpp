@@ -56,8 +56,11 @@ bool Parse(std::string_view text, Number& number) {
 
 }  // namespace
 
-RecordReader::RecordReader(std::string_view bytes, std::string fileName)
-    : next_(bytes.data()), end_(bytes.data() + bytes.size()), fileName_(std::move(fileName)) {}
+RecordReader::RecordReader(std::string_view bytes, std::string fileName, LoneQuotes quotes)
+    : next_(bytes.data()),
+      end_(bytes.data() + bytes.size()),
+      quotes_(quotes),
+      fileName_(std::move(fileName)) {}
 
 void RecordReader::Fail(std::string_view expected, std::string_view found) const {
   std::string text =
@@ -94,6 +97,10 @@ std::string_view RecordReader::PlainField(const char* at, std::string_view expec
   const char* const start = at;
   while (at != end_ && !IsIn(PlainEnds, *at))
     ++at;
+  if (quotes_ == LoneQuotes::Refused &&
+      std::string_view(start, at).find('"') != std::string::npos) {
+    Fail(expected, "a double quote in a text that does not begin with one");
+  }
   const char* last = at;
   while (last != start && last[-1] == ' ')
     --last;

@@ -17,6 +17,9 @@ constexpr bool IsStorable(char c) {
   return c != '"' && !IsLineEnd(c);
 }
 
+/// Whether a field without quotes may hold one. It can be read, but never written again.
+enum class LoneQuotes : std::uint8_t { Kept, Refused };
+
 /// Reads the fields of a record file one after another. Fields are separated by commas and line
 /// ends (CR LF, LF or CR); a field in double quotes may hold commas; blanks round an unquoted field
 /// are dropped. A record with too few fields takes the missing ones from the next line. Every
@@ -24,7 +27,7 @@ constexpr bool IsStorable(char c) {
 class RecordReader {
  public:
   /// `bytes` must outlive the reader; `fileName` is used in error texts.
-  RecordReader(std::string_view bytes, std::string fileName);
+  RecordReader(std::string_view bytes, std::string fileName, LoneQuotes quotes = LoneQuotes::Kept);
 
   /// The next field as text, a part of the reader's bytes. `expected` says what the field is, for
   /// the error text.
@@ -48,6 +51,9 @@ class RecordReader {
   /// The same; the field itself is what was found, shown in quotes and not too long.
   [[noreturn]] void Refuse(std::string_view expected, std::string_view field) const;
 
+  /// The line in which the next byte stands, counted from 1.
+  int Line() const { return line_; }
+
   /// Whether nothing but blanks and line ends is left.
   bool AtEnd() const;
 
@@ -61,6 +67,7 @@ class RecordReader {
   const char* end_;
   int line_ = 1;
   int fieldLine_ = 1;
+  LoneQuotes quotes_;
   std::string fileName_;
 };
 

@@ -160,6 +160,19 @@ TEST(GameFile, TextAndPlayersMayBeMissing) {
   }
 }
 
+TEST(GameFile, WhatStandsBehindItsEndIsTold) {
+  const std::string bytes = model::FormatGameFile(FullGame());
+  for (const auto& [tail, says] : std::vector<std::pair<std::string, std::string>>{
+           {"", ""}, {"\r\n  \n", ""}, {"\r\n\r\nx", "f.orb, line 28: what stands behind"}}) {
+    GameState game = EarlierGame();
+    std::string remark = "none";
+    ASSERT_FALSE(model::ParseGameFile(bytes + tail, "f.orb", game, &remark));
+    EXPECT_EQ(model::FormatGameFile(game), bytes);
+    EXPECT_EQ(remark.empty(), says.empty());
+    EXPECT_THAT(remark, testing::StartsWith(says));
+  }
+}
+
 /// Reads the bytes; whatever they are, they are refused in words or read whole.
 bool ReadsOrRefuses(const std::string& bytes, const GameState& before, std::string& reason) {
   GameState game = before;
@@ -177,13 +190,21 @@ bool ReadsOrRefuses(const std::string& bytes, const GameState& before, std::stri
 TEST(GameFile, ABrokenOneIsRefusedAndChangesNothing) {
   const std::string head = "\"ORB v5.5\"\n\"T\",\"Spring\",1901,\"moves\"\n";
   const std::vector<std::pair<std::string, std::string>> cases = {
-      {"", "end of the file"},
+      {"", "game.orb is no game file."},
+      {"# A readme\n\nwith, a \"word\"\n", "game.orb is no game file."},
+      {"\"a lone quote\n", "game.orb is no game file."},
+      {"\"ORB v5.5\n", "line 1: expected a header, found a text without its closing quote."},
       {"\"ORB v5.5\"\n\"T\",\"Spring\",year,\"moves\"\n", "a year"},
+      {"\"ORB v5.5\"\nThe \"T\",Spring,1901,moves\n",
+       "line 2: expected a title, found a double quote in a text that does not begin with one."},
       {"\"ORB v5.5\"\n\"T\",\"Spring\",32768,\"moves\"\n", "32768"},
       {head + "ma\x1b\x7fny\n",
        "line 3: expected the number of units (a whole number), found \"ma??ny\"."},
       {head + "41\n", "0 to 40"},
       {head + "-1\n", "0 to 40"},
+      {head + "0\n-1\n", "the number of locations (0 to 32767), found -1."},
+      {head + "0\n0\n-1\n", "the number of orders (0 to 32767), found -1."},
+      {head + "0\n0\n0\n0\n-7\n", "the number of powers (0 to 32767), found -7."},
       {head + "1\n\"XXX\",\"A\",\"Lon\"",
        "game.orb, line 4: expected a unit's power (one of ENG, FRA, "
        "GER, RUS, TUR, AUS, ITA), found \"XXX\"."},

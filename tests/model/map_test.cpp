@@ -5,6 +5,7 @@
 #include "model/small_map.h"
 #include "model/table.h"
 #include "support/directories.h"
+#include "support/scripted_messages.h"
 #include "text/strings.h"
 
 #include <gmock/gmock.h>
@@ -129,6 +130,29 @@ TEST(MapFiles, ALineOfConnectionsIsFixedOnceAndOverwritesAnEarlierOne) {
   model::LoadAdjacency("Wal,Lon" + Repeat(13, ",Lon") + "\r\n", "conna.dat", *map, rows);
   EXPECT_EQ(rows[1][13], 1) << "14 neighbours fit";
   EXPECT_EQ(rows[0][0], 0) << "earlier rows are gone";
+}
+
+TEST(MapFiles, FixesThatDoNotComeToRestAreTold) {
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"\"Lpl\",\"Lvp\"\n", ""},
+      // Each is at rest by itself, and both are in this order, not in the other one.
+      {"\"Lpl\",\"Lvl\"\n\"Lvl\",\"Lvp\"\n", ""},
+      {"\"Lvl\",\"Lvp\"\n\"Lpl\",\"Lvl\"\n", "\"Lvl\" becomes \"Lvp\"."},
+      {"\"aaa\",\"bbb\"\n\"ccc\",\"aaa\"\n\"bbb\",\"ccc\"\n", "\"ccc\" becomes \"aaa\"."},
+  };
+  for (const auto& [fixes, says] : cases) {
+    const TemporaryDirectory directory;
+    for (const char* name : {"prov.dat", "conna.dat", "connf.dat"})
+      std::filesystem::copy(DataDirectory() / name, directory.Path() / name);
+    directory.Write("fixnames.dat", fixes);
+    ScriptedMessages messages;
+    model::LoadMap(directory.Path(), messages);
+    std::string told;
+    for (const auto& [text, icon] : messages.Shown)
+      told += text;
+    EXPECT_EQ(told.empty(), says.empty()) << told;
+    EXPECT_THAT(told, HasSubstr(says));
+  }
 }
 
 TEST(MapFiles, ABrokenOneIsRefusedWithItsNameAndReason) {

@@ -1,4 +1,5 @@
 #include "cli/draw_map.h"
+#include "model/errors.h"
 #include "render/qt/map_file.h"
 
 #include <QGuiApplication>
@@ -22,7 +23,7 @@ extern "C" bool OrbDrawMap(const orb::cli::MapRequest& request, std::string& err
     return true;
   } catch (const std::exception& failure) {
     // No exception may leave the module: its types need not be those of the program.
-    error = failure.what();
+    error = model::SentenceOf(failure);
     return false;
   }
 }

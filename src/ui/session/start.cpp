@@ -20,7 +20,7 @@ void readSettings(const Places& places, Start& start) {
 
 Start startProgram(const Places& places, const std::filesystem::path& gameFile,
                    model::Messages& messages) {
-  Start start{{model::EmptyGame(model::LoadMap(places.program))}};
+  Start start{{model::EmptyGame(model::LoadMap(places.program, messages))}};
   // Before the game: it is set up in the colours of the settings.
   readSettings(places, start);
   if (gameFile.empty()) {
