@@ -2,6 +2,7 @@
 
 #include "model/position_edit.h"
 #include "text/qt/text_codec.h"
+#include "ui/widgets/plain_text.h"
 #include "ui/widgets/power_choice.h"
 
 namespace orb::ui {
@@ -49,7 +50,7 @@ QMenu* newAddMenu(const model::GameState& game, const std::string& place,
   if (first.empty()) return nullptr;
   QMenu* menu = newMenu(QStringLiteral("mnuAddUnit"), parent);
   const auto add = [&choose, menu](QMenu& to, const Offer& offer, const QString& caption) {
-    QAction* entry = to.addAction(caption);
+    QAction* entry = to.addAction(captionText(caption));
     QObject::connect(entry, &QAction::triggered, menu,
                      [choose, unit = offer.unit] { choose(unit); });
     return entry;
@@ -78,7 +79,7 @@ QMenu* newPlaceMenu(const model::Map& map, const std::vector<int>& locations,
   QMenu* menu = newMenu(QStringLiteral("mnuWhichPlace"), parent);
   for (const int row : locations) {
     const model::Province& province = map.Provinces[row];
-    QAction* entry = menu->addAction(text::ToQString(province.FullName));
+    QAction* entry = menu->addAction(captionText(text::ToQString(province.FullName)));
     QObject::connect(entry, &QAction::triggered, menu,
                      [choose, name = province.Name] { choose(name); });
   }

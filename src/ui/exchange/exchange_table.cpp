@@ -2,6 +2,7 @@
 
 #include "text/qt/text_codec.h"
 #include "ui/widgets/order_marks.h"
+#include "ui/widgets/plain_text.h"
 
 #include <QComboBox>
 #include <QContextMenuEvent>
@@ -190,7 +191,7 @@ void ExchangeTable::contextMenuEvent(QContextMenuEvent* event) {
   QMenu menu(this);
   for (const std::string& order : m_model.line(row).Candidates) {
     const QString text = text::ToQString(order);
-    connect(menu.addAction(text), &QAction::triggered, this, [this, row, text] {
+    connect(menu.addAction(captionText(text)), &QAction::triggered, this, [this, row, text] {
       m_model.setData(m_model.index(row, ExchangeModel::Understood), text, Qt::EditRole);
     });
   }

@@ -4,9 +4,11 @@
 #include "text/qt/text_codec.h"
 #include "ui/help/help_window.h"
 #include "ui/widgets/controls.h"
+#include "ui/widgets/icons.h"
+#include "ui/widgets/message_boxes.h"
 #include "ui/widgets/plain_text.h"
 
-#include <QMessageBox>
+#include <QStyle>
 
 namespace orb::ui {
 namespace {
@@ -94,10 +96,14 @@ void HelpMenu::showStage() {
 }
 
 void HelpMenu::about() {
-  QMessageBox::about(m_window, text::ToQString(model::ProgramName),
-                     tr("<h3>%1</h3><p>Holds a game of seven powers, their armies and fleets, "
-                        "draws its map and resolves its orders.</p>")
-                         .arg(text::ToQString(model::ProgramName)));
+  MessageBox box(tr("<h3>%1</h3><p>Holds a game of seven powers, their armies and fleets, "
+                    "draws its map and resolves its orders.</p>")
+                     .arg(text::ToQString(model::ProgramName)),
+                 QMessageBox::NoIcon, m_window);
+  box.setTextFormat(Qt::RichText);
+  const int side = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize);
+  box.setIconPixmap(programIcon().pixmap(side));
+  box.exec();
 }
 
 }  // namespace orb::ui

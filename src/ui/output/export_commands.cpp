@@ -27,7 +27,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <system_error>
 
 namespace orb::ui {
 namespace {
@@ -50,23 +49,18 @@ QByteArray encoded(const QImage& picture, const char* format) {
   return bytes;
 }
 
-/// Writes the report to the scratch file in the working folder; where nothing can be written there,
-/// in a folder of the user's own.
-fs::path writeScratchFile(const model::GameState& game) {
-  const char* name = "orb_text.tmp";
-  std::error_code error;
-  fs::path workingFile = fs::current_path(error) / name;
+/// The report as the scratch file has it, which is written first and stays. It lies in the user's
+/// own folder: in one that others can write to it might be somebody's link to another file. Where
+/// that folder takes no file the report is the same without.
+std::string scratchedReport(const model::GameState& game) {
+  const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+  const fs::path file = fs::path(QFile::encodeName(cache).toStdString()) / "orb_text.tmp";
   try {
-    report::WriteTextReport(game, workingFile);
-    return workingFile;
-  } catch (const model::FileError&) {
-    // The folder the program was started in may be anything, one that is read-only too: an error
-    // is worth showing only when the user's own folder fails as well.
-    const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
-    if (cache.isEmpty() || !QDir().mkpath(cache)) throw;
-    fs::path file = fs::path(QFile::encodeName(cache).toStdString()) / name;
+    QDir().mkpath(cache);
     report::WriteTextReport(game, file);
-    return file;
+    return model::ReadFile(file);
+  } catch (const model::FileError&) {
+    return report::TextReport(game);
   }
 }
 
@@ -123,7 +117,7 @@ void ExportCommands::copyMap() {
 
 void ExportCommands::copyText() {
   attempt(m_messages, [this] {
-    const std::string written = model::ReadFile(writeScratchFile(m_desk.game()));
+    const std::string written = scratchedReport(m_desk.game());
     std::string_view rest = written;
     QString text;
     // Whatever the file's line ends are, the clipboard's are those that every program understands.

@@ -1,6 +1,7 @@
 #include "ui/window/recent_files_menu.h"
 
 #include "ui/widgets/controls.h"
+#include "ui/widgets/plain_text.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -20,10 +21,9 @@ void RecentFilesMenu::fill() {
   const QStringList files = m_memory.recentFiles();
   for (qsizetype i = 0; i < files.size(); ++i) {
     const QString& file = files[i];
-    // An ampersand of the name would be taken for the entry's key.
-    QString name = QFileInfo(file).fileName();
+    const QString name = captionText(QFileInfo(file).fileName());
     QAction* entry = newEntry(*this, QStringLiteral("mnuFileRecent%1").arg(i + 1),
-                              QStringLiteral("&%1  %2").arg(i + 1).arg(name.replace('&', "&&")));
+                              QStringLiteral("&%1  %2").arg(i + 1).arg(name));
     entry->setToolTip(file);
     connect(entry, &QAction::triggered, this,
             [this, file] { m_desk.openGame(QFile::encodeName(file).toStdString(), false); });
