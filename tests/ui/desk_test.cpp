@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <new>
 #include <string>
 #include <vector>
 
@@ -61,11 +62,14 @@ TEST_F(DeskTest, WhatFailsIsToldInABoxAndShownAsItWas) {
   });
   desk_.blankGame();
   desk_.setViewOnly(true);
+  desk_.setDrawing([](const session::Situation&, const ui::View&) { throw std::bad_alloc(); });
+  EXPECT_FALSE(desk_.fileOrder("ENG A(Lvp) - Yor"));
   EXPECT_EQ(Describe(desk_.game()), before);
   EXPECT_FALSE(desk_.view().viewOnly);
-  EXPECT_THAT(told_, ElementsAre(Changes::All, Changes::All));
+  EXPECT_THAT(told_, ElementsAre(Changes::All, Changes::All, Changes::All));
   EXPECT_EQ(viewChanges_, 1);
-  EXPECT_THAT(messages_.Shown, ElementsAre(stop("missing.orb"), stop("drawn"), stop("drawn")));
+  EXPECT_THAT(messages_.Shown, ElementsAre(stop("missing.orb"), stop("drawn"), stop("drawn"),
+                                           stop("not enough memory")));
 }
 
 }  // namespace

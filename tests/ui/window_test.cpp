@@ -12,12 +12,17 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QDir>
+#include <QDropEvent>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QTest>
+#include <QTimer>
+#include <QUrl>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -26,7 +31,12 @@
 #include <filesystem>
 #include <iterator>
 #include <memory>
+#include <new>
+#include <stdexcept>
 #include <string>
+#include <string_view>
+#include <sys/stat.h>
+#include <utility>
 #include <vector>
 
 namespace orb::tests {
@@ -127,6 +137,65 @@ TEST_F(WindowTest, AGameThatCannotBeDrawnIsNotOpened) {
   }
   EXPECT_EQ(StagePanel(), "fraOrders");
   EXPECT_EQ(Map(), map);
+}
+
+TEST_F(WindowTest, WhatIsNoGameFileIsRefusedInASentenceAtOnce) {
+  const std::filesystem::path pipe = directory_.Path() / "pipe";
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  const auto huge = directory_.Write("huge", "x");
+  // A gap that takes no room on the disk.
+  std::filesystem::resize_file(huge, 1'000'000'000'000);
+  const std::vector<std::pair<std::filesystem::path, const char*>> cases{
+      {pipe, "no ordinary file"},
+      {"/dev/zero", "no ordinary file"},
+      {huge, "larger than 100 MB"},
+      {directory_.Path(), "directory"},
+      {directory_.Write("notes", "Hello\n"), "notes"}};
+  const QImage map = Map();
+  for (const auto& [file, sentence] : cases) {
+    const QString name = QString::fromStdString(file.string());
+    const auto refused = [&, told = sentence](QDialog& box) {
+      EXPECT_THAT(dynamic_cast<QMessageBox&>(box).text().toStdString(), HasSubstr(told));
+      box.reject();
+    };
+    QElapsedTimer clock;
+    clock.start();
+    QMimeData dragged;
+    dragged.setUrls({QUrl::fromLocalFile(name)});
+    {
+      const ModalScript answers({refused});
+      QDragEnterEvent enter({}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(window_.get(), &enter);
+      QDropEvent drop({}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(window_.get(), &drop);
+    }
+    if (std::string_view(sentence) == "no ordinary file") {
+      const ModalScript answers({FileChosen(name), refused});
+      Trigger("mnuFileImportOrders");
+    }
+    EXPECT_LT(clock.elapsed(), 5000) << name.toStdString();
+  }
+  EXPECT_EQ(Map(), map);
+}
+
+TEST_F(WindowTest, NoExceptionEndsTheWindow) {
+  const auto fail = [](auto fault) {
+    const ModalScript answers({[](QDialog& box) {
+      EXPECT_EQ(box.windowTitle(), Titled());
+      box.reject();
+    }});
+    bool thrown = false;
+    QTimer::singleShot(0, [&] {
+      thrown = true;
+      throw fault;
+    });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return thrown; }));
+    QTest::qWait(50);
+  };
+  fail(std::bad_alloc());
+  fail(std::out_of_range("far out"));
+  fail(1);
+  EXPECT_TRUE(window_->isVisible());
 }
 
 TEST_F(WindowTest, OpenBeginsWithTheFilterOfTheLastFileAndMayBeForReadingOnly) {
