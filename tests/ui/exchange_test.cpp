@@ -177,7 +177,7 @@ TEST_F(WindowTest, PastedOrdersOfAnotherPowerAreFiledOnlyWhenTicked) {
 
 TEST_F(WindowTest, ThePowerOfAPasteIsChosenAndMeaningsAreOffered) {
   QApplication::clipboard()->setText(
-      "FRA A(Par) - Bur\nFRA A(Mar) - Bur\nGER A Mun S Bur\nGER F(Kie) - Hol\nF Kie x\n"
+      "FRA A(Par) - Bur\nFRA A(Mar) - Bur\nGER A Mun S Bur\nGER F(Kie) - Hol\nF Xyz x\n"
       "AUS A(Vie) - Gal\nAUS A(Bud) - Gal\nRUS A War S Gal");
   const auto choose = [](QDialog& dialog) {
     const Preview preview(dialog);

@@ -28,7 +28,11 @@ constexpr std::array Rows{
         "kidding|joking|a joke|changed my mind|ignore|disregard|cancel|cancelled|"
         "canceled|scrap|scratch that|forget that|forget these|forget those|forget the|"
         "forget my|forget what|forget about|nevermind|never mind|withdrawn|i withdraw|"
-        "revoke|strike that|were examples|was wrong|were wrong"},
+        "revoke|strike that|were examples|was wrong|were wrong|is void|are void|"
+        "no longer valid|not valid|no longer stand|do not stand|forget it|take back|"
+        "took back|takes back|taking back|was a joke|were a joke|april fool|was drunk|"
+        "ungultig|nicht mehr gultig|vergiss|annule|annuler|annulla|annulliere|anular|"
+        "olvida|vergeet|glem|strunta i|changed our minds"},
     Row{Kind::Postpones,
         "not process|dont process|not use|dont use|not enter|dont enter|not file|"
         "dont file|not submit|dont submit|not final|arent final|isnt final|not yet|"
@@ -37,11 +41,23 @@ constexpr std::array Rows{
         "provisional|provisionally|preliminary|pending|unconfirmed|tbc|tbd|"
         "be confirmed|may change|might change|could change|still thinking|a draft|"
         "placeholder|placeholders|if you agree|what do you think|what you think|"
-        "an example|just examples"},
+        "an example|just examples|not my|not mine|not real|not for real|not binding|"
+        "not the real|not for now|not ready|not sure|not decided|not decide|not these|"
+        "not count|dont count|doesnt count|not resolve|dont resolve|not orders|"
+        "isnt decided|havent decided|undecided|something like|thinking about it|"
+        "think about it|let me think|still deciding|sleep on it|back to you|"
+        "will confirm|confirm later|subject to|check with|ask him|ask her|call him|"
+        "call her|noch nicht|nicht werten|nicht endgultig|vorlaufig|provisoire|"
+        "pas encore|non ancora|provvisori|provvisorio|todavia no|aun no|nog niet|"
+        "voorlopig|inte klart|inte annu|preliminart|ikke endelig|forelobig|"
+        "jeszcze nie|ainda nao|to follow|will send my|will send the|more later|"
+        "double check|let me check|dont have time to decide|might still|may still|"
+        "could still"},
     Row{Kind::Titles,
         "draft|drafts|example|examples|sample|samples|proposal|proposals|suggestion|"
         "suggestions|results|last turn|last season|last year|previous turn|"
-        "previous season|previous orders|old version|old orders|last moves"},
+        "previous season|previous orders|old version|old orders|last moves|"
+        "letzter zug|letzte runde|dernier tour|ultimo turno|vorige beurt"},
     Row{Kind::Corrects,
         "changed my mind|change my mind|change of mind|change of plan|change of plans|"
         "change of heart|scrap that|scratch that|forget that|strike that|"
@@ -51,7 +67,10 @@ constexpr std::array Rows{
         "in place of|instead of|ignore my previous|ignore the previous|ignore my last|"
         "ignore my earlier|ignore the above|disregard my|disregard the|one correction|"
         "small correction|quick correction|a correction|slight correction|one change|"
-        "small change|slight change|with one change"},
+        "small change|slight change|with one change|habe mich vertan|meinung geandert|"
+        "je me suis trompe|me equivoque|mi sono sbagliato|ho cambiato idea|"
+        "change d avis|changement d avis|verbeterde versie|angrat mig|ombestemt|"
+        "zmiana zdania"},
 };
 
 struct Phrase {
@@ -59,24 +78,14 @@ struct Phrase {
   std::vector<std::string_view> Words;
 };
 
-std::vector<std::string_view> Cut(std::string_view text, char separator) {
-  std::vector<std::string_view> parts;
-  for (std::size_t end = 0; end != std::string_view::npos; text.remove_prefix(end + 1)) {
-    end = text.find(separator);
-    parts.push_back(text.substr(0, end));
-    if (end == std::string_view::npos) break;
-  }
-  return parts;
-}
-
 /// All phrases by their first word.
 using PhraseTable = std::unordered_map<std::string_view, std::vector<Phrase>>;
 
 PhraseTable AllPhrases() {
   PhraseTable table;
   for (const Row& row : Rows) {
-    for (const std::string_view phrase : Cut(row.Phrases, '|')) {
-      std::vector<std::string_view> words = Cut(phrase, ' ');
+    for (const std::string_view phrase : Parts(row.Phrases, '|')) {
+      std::vector<std::string_view> words = Parts(phrase, ' ');
       table[words[0]].push_back({row.Says, std::move(words)});
     }
   }
@@ -101,10 +110,6 @@ std::optional<TokenRange> FindPhrase(Tokens tokens, Kind kind) {
   return std::nullopt;
 }
 
-bool SetsAside(const Token& token) {
-  return HasUse(token, WordUse::SetsAside, WordUse::Condition, WordUse::Aside);
-}
-
 bool IsColon(const Token& token) {
   return token.Kind == TokenKind::Colon;
 }
@@ -114,6 +119,59 @@ bool IsOpen(Tokens tokens) {
   return std::ranges::any_of(tokens, [](const Token& token) {
     return token.Text == "?" || (HasUse(token, WordUse::Condition) && !IsWord(token, "instead"));
   });
+}
+
+/// Whether a word stands in an address, "tom@games.example".
+bool IsOfAddress(Tokens tokens, std::size_t at) {
+  const auto joins = [&](std::size_t mark) {
+    return tokens[mark].Text == "@" || (tokens[mark].Kind == TokenKind::Dot && tokens[mark].Glued);
+  };
+  return at > 0 && tokens[at].Glued && joins(at - 1);
+}
+
+/// What is behind the last full stop.
+Tokens LastSentence(Tokens line) {
+  for (std::size_t at = line.size() - 1; at > 0; --at) {
+    if (IsA(line[at - 1], TokenKind::Dot) && !line[at].Glued) return line.subspan(at);
+  }
+  return line;
+}
+
+/// Words that often only are polite: "this should be all:".
+bool IsPolite(const Token& token) {
+  return IsWord(token, "should") || IsWord(token, "could") || IsWord(token, "no") ||
+         IsWord(token, "not") || IsWord(token, "may");
+}
+
+/// What a line that ends in a colon sets aside: "Draft:", "If Germany agrees:", "Do NOT use
+/// these:".
+std::optional<Aside> ReadTitle(Tokens line) {
+  const Tokens last = LastSentence(line);
+  const std::size_t skipped = line.size() - last.size();
+  if (skipped > 0) {
+    const auto at = FindPhrase(line.first(skipped), Kind::Revokes);
+    if (at) return Aside{AsideScope::Above, *at};
+  }
+  if (Corrects(last)) return std::nullopt;
+  const auto below = [&](std::size_t begin, std::size_t end) {
+    return Aside{AsideScope::Below, {skipped + begin, skipped + end}};
+  };
+  for (std::size_t at = 0; at < last.size(); ++at) {
+    if (HasUse(last[at], WordUse::SetsAside, WordUse::Aside) && !IsOfAddress(last, at)) {
+      return below(at, at + 1);
+    }
+  }
+  if (const auto at = FindPhrase(last, Kind::Postpones)) return below(at->Begin, at->End);
+  // Behind its first words "if" is one of another thought: "here you go, hope you see if it fits:".
+  constexpr std::size_t few = 5;
+  const bool isShort = std::ranges::count(last, TokenKind::Word, &Token::Kind) <= 6;
+  for (std::size_t at = 0; at < std::min(few, last.size()); ++at) {
+    const bool isForPublic = at + 1 < last.size() && IsWord(last[at + 1], "for");
+    const bool sets =
+        HasUse(last[at], WordUse::Condition) && (at == 0 || isShort || !IsPolite(last[at]));
+    if (sets && !isForPublic && !IsWord(last[at], "instead")) return below(at, at + 1);
+  }
+  return std::nullopt;
 }
 
 /// Whether words before a colon, or at the beginning of a line, name a correction: "Correction:",
@@ -144,18 +202,61 @@ bool IsTitleOfCorrection(Tokens line) {
 std::optional<Aside> ReadAside(Tokens line) {
   const auto words = std::ranges::count(line, TokenKind::Word, &Token::Kind);
   if (words == 0) return std::nullopt;
-  if (IsColon(line.back())) {
-    const auto set = std::ranges::find_if(line, SetsAside);
-    if (set == line.end()) return std::nullopt;
-    const auto at = static_cast<std::size_t>(set - line.begin());
-    return Aside{AsideScope::Below, {at, at + 1}};
-  }
+  if (IsColon(line.back())) return ReadTitle(line);
   if (const auto at = FindPhrase(line, Kind::Revokes)) return Aside{AsideScope::Above, *at};
   if (const auto at = FindPhrase(line, Kind::Postpones))
     return Aside{AsideScope::AboveElseBelow, *at};
   constexpr std::ptrdiff_t longestTitle = 4;
   const auto title = words <= longestTitle ? FindPhrase(line, Kind::Titles) : std::nullopt;
   return title ? std::optional(Aside{AsideScope::Below, *title}) : std::nullopt;
+}
+
+std::optional<TokenRange> ReadDraftSubject(Tokens line) {
+  for (std::size_t at = 0; at < line.size(); ++at) {
+    if (HasUse(line[at], WordUse::Draft)) return TokenRange{at, at + 1};
+  }
+  return FindPhrase(line, Kind::Postpones);
+}
+
+bool MakesCondition(Tokens line) {
+  return std::ranges::any_of(line, [](const Token& token) {
+    return HasUse(token, WordUse::Condition) && !IsPolite(token);
+  });
+}
+
+bool IsReport(Tokens words) {
+  return std::ranges::any_of(words,
+                             [](const Token& token) { return HasUse(token, WordUse::Report); });
+}
+
+bool LeadsOn(Tokens line) {
+  if (IsColon(line.back())) return false;
+  const bool isOpen = std::ranges::any_of(line, [](const Token& token) {
+    return HasUse(token, WordUse::Condition, WordUse::Aside, WordUse::SetsAside);
+  });
+  const bool isExample =
+      line.size() > 1 && IsA(line.back(), TokenKind::Dot) &&
+      (IsWord(line[line.size() - 2], "g") || IsWord(line[line.size() - 2], "eg"));
+  const bool isEnd = IsA(line.back(), TokenKind::Dot) || line.back().Text == "?";
+  const bool isPolite = std::ranges::any_of(line, [](const Token& token) {
+    return IsWord(token, "sorry") || IsWord(token, "hope") || IsWord(token, "late");
+  });
+  return isExample || (isOpen && !isEnd && !isPolite);
+}
+
+bool IsOffer(Tokens line) {
+  return std::ranges::any_of(line,
+                             [](const Token& token) { return HasUse(token, WordUse::Offer); });
+}
+
+std::optional<TokenRange> ReadReservation(Tokens line, bool isBehindOrders) {
+  if (IsOffer(line)) return std::nullopt;
+  const auto word = std::ranges::find(line, TokenKind::Word, &Token::Kind);
+  if (word == line.end() || !HasUse(*word, WordUse::Reservation)) return std::nullopt;
+  // "But" begins many a new paragraph.
+  if (!isBehindOrders && !HasUse(*word, WordUse::Condition)) return std::nullopt;
+  const auto at = static_cast<std::size_t>(word - line.begin());
+  return TokenRange{at, line.size()};
 }
 
 bool Corrects(Tokens line) {

@@ -25,6 +25,27 @@ struct Aside {
 /// What a line without an order sets aside; nothing for most lines.
 std::optional<Aside> ReadAside(Tokens line);
 
+/// Where the subject of a mail says that its orders are not for now: "Entwurf", "not final".
+std::optional<TokenRange> ReadDraftSubject(Tokens line);
+
+/// Whether a line has a word by which something depends on something else, "if", "unless", or is
+/// taken back; not where "not" or "should" are all.
+bool MakesCondition(Tokens line);
+
+/// Whether words before an order tell that it is somebody else's: "Tom told me", "you could".
+bool IsReport(Tokens words);
+
+/// Whether a line that does not end supposes something or begins an example: orders that it leads
+/// to may not be meant.
+bool LeadsOn(Tokens line);
+
+/// Whether a line offers help, and changes nothing: "if anything is unclear, call me".
+bool IsOffer(Tokens line);
+
+/// Where a line behind orders begins as a reservation about them: "but", "or", "unless", "only".
+/// `isBehindOrders`: the line above has orders.
+std::optional<TokenRange> ReadReservation(Tokens line, bool isBehindOrders);
+
 /// Whether a line says plainly that the orders in it or below it hold rather than earlier ones:
 /// "Correction:", "changed my mind", "my final orders". Words such as "sorry" or "new" do not.
 bool Corrects(Tokens line);

@@ -51,6 +51,40 @@ void WeighOlder(std::vector<ReadLine>& lines, const std::vector<Surroundings>& a
   }
 }
 
+/// A line that is not understood may change the orders that it is about.
+void WeighUnclear(std::vector<ReadLine>& lines, const std::vector<Surroundings>& around) {
+  const auto isOrder = [&](std::size_t row) {
+    return !around[row].IsOlder && IsUnderstood(lines[row]);
+  };
+  std::map<std::string, std::vector<std::size_t>> orders;
+  for (std::size_t row = 0; row < lines.size(); ++row) {
+    if (isOrder(row)) orders[ProvinceOf(lines[row].Order)].push_back(row);
+  }
+  bool areAllDoubted = false;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    const ReadLine& line = lines[i];
+    if (around[i].IsOlder || line.Kind != LineKind::NotUnderstood) continue;
+    const std::string reason = "line " + std::to_string(line.Number) + " may be about it";
+    bool isOfSome = false;
+    for (const std::string& province : around[i].About.Provinces) {
+      const auto found = orders.find(province);
+      if (found == orders.end()) continue;
+      for (const std::size_t row : found->second) {
+        if (!line.Power.empty() && line.Power != lines[row].Power) continue;
+        MakeDoubtful(lines[row], reason, line.Place);
+        isOfSome = true;
+      }
+      // What was doubted once stays so.
+      if (line.Power.empty()) orders.erase(found);
+    }
+    if (isOfSome || areAllDoubted || !around[i].About.MayBeAll) continue;
+    areAllDoubted = true;
+    for (std::size_t row = 0; row < lines.size(); ++row) {
+      if (isOrder(row)) MakeDoubtful(lines[row], reason, line.Place);
+    }
+  }
+}
+
 /// Several orders for one unit: the rows of its orders, in the text's order.
 using OrdersOfSubject = std::map<std::string, std::vector<std::size_t>>;
 
@@ -99,7 +133,7 @@ class Contradictions {
     const ReadLine& old = lines_[first];
     const ReadLine& now = lines_[second];
     if (!IsUnderstood(old) || now.Kind != LineKind::Order || old.Order == now.Order) return false;
-    if (old.Kind == LineKind::Doubtful) return true;
+    if (IsSetAside(first)) return true;
     return around_[second].Corrects || corrections_[second] > corrections_[first + 1];
   }
 
@@ -123,7 +157,7 @@ class Contradictions {
   }
 
   /// What stands under "Example:" and the like says nothing against an order elsewhere.
-  bool IsSetAside(std::size_t row) const { return !around_[row].Doubt.empty(); }
+  bool IsSetAside(std::size_t row) const { return around_[row].IsSetAside; }
 
   std::vector<ReadLine>& lines_;
   const std::vector<Surroundings>& around_;
@@ -150,6 +184,7 @@ void WeighOrders(std::vector<ReadLine>& lines, const std::vector<Surroundings>& 
   }
   WeighOlder(lines, around, stage);
   Contradictions(lines, around, stage).Weigh();
+  WeighUnclear(lines, around);
   for (ReadLine& line : lines) {
     if (power.empty() || line.Power == power) continue;
     MakeDoubtful(line, "it is an order of " + line.Power, line.Place);

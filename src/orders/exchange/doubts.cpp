@@ -4,6 +4,7 @@
 #include "text/utf8.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <unordered_set>
 #include <vector>
@@ -33,12 +34,6 @@ bool IsDecoration(std::string_view sign) {
 /// Whether a word next to an order changes nothing.
 bool IsHarmless(const Token& token) {
   return HasUse(token, WordUse::Mood, WordUse::Purpose, WordUse::Plain);
-}
-
-bool IsDoubtfulSign(const Token& token) {
-  if (token.Kind != TokenKind::Mark) return false;
-  if (static_cast<unsigned char>(token.Text[0]) >= 0x80) return !IsDecoration(token.Text);
-  return token.Text == "?" || token.Text == "<" || token.Text == "~";
 }
 
 /// How many tokens from here name a place; 0: none.
@@ -83,7 +78,33 @@ class OwnWords {
   std::vector<std::vector<int>> rows_;
 };
 
+/// Whether "(not Bur)" excludes a place that the order does not speak of.
+bool ExcludesOther(Tokens remark, const OwnWords& own, const PlaceNames& names) {
+  std::vector<Token> words;
+  std::ranges::copy_if(remark, std::back_inserter(words), [](const Token& token) {
+    return IsA(token, TokenKind::Word) && !HasUse(token, WordUse::Filler);
+  });
+  if (words.size() < 2 || !IsWord(words[0], "not")) return false;
+  const std::size_t place = IsWord(words[1], "to") ? 2 : 1;
+  return place + LengthOfPlace(words, place, names) == words.size() && place < words.size() &&
+         own.Repeated(words, place) == 0;
+}
+
+/// Whether a word behind thanks or the like is a name: "sorry Franz".
+bool IsName(Tokens remark, std::size_t at, const PlaceNames& names) {
+  return at > 0 && HasUse(remark[at - 1], WordUse::Mood) && remark[at].Capital &&
+         remark[at].Text.size() > 2 && VerbOf(remark[at]) == Verb::None &&
+         remark[at].Means.Uses == 0 && names.At(remark, at).empty() &&
+         names.Near(remark[at].Text).empty();
+}
+
 }  // namespace
+
+bool IsDoubtfulSign(const Token& token) {
+  if (token.Kind != TokenKind::Mark) return false;
+  if (static_cast<unsigned char>(token.Text[0]) >= 0x80) return !IsDecoration(token.Text);
+  return token.Text == "?" || token.Text == "<" || token.Text == "~";
+}
 
 std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceNames& names) {
   const auto has = [&](WordUse use) {
@@ -106,12 +127,16 @@ std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceName
       ++at;
       continue;
     }
-    if (!own) own.emplace(order, names);
+    if (!own) {
+      own.emplace(order, names);
+      if (ExcludesOther(remark, *own, names)) return std::nullopt;
+    }
     std::size_t length = own->Repeated(remark, at);
     if (length == 0 && isPurpose) length = LengthOfPlace(remark, at, names);
     if (length == 0 && maySpeakToPowers && PowerAt(remark, at).Power != 0) {
       length = PowerAt(remark, at).Next - at;
     }
+    if (length == 0 && IsName(remark, at, names)) length = 1;
     if (length == 0 && !IsHarmless(token) && !(isPurpose && token.Text == "to"))
       return TokenRange{at, at + 1};
     at += std::max<std::size_t>(length, 1);

@@ -14,6 +14,9 @@ namespace orb::exchange {
 /// nor does what repeats a place, power or verb of the order itself.
 std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceNames& names);
 
+/// Whether a sign is known to mean something, or not known to decorate: "?", a cross.
+bool IsDoubtfulSign(const Token& token);
+
 /// Whether words behind an order without any brackets surely are a remark: "lol", "as agreed".
 bool IsHarmlessTail(Tokens tail);
 

@@ -23,18 +23,24 @@ class Grammar {
   Grammar(Phrases& phrases, model::Stage stage, Verb verb)
       : phrases_(phrases), stage_(stage), verb_(verb) {}
 
-  std::vector<WrittenOrder> Read() {
+  std::vector<WrittenOrder> Read(Rest rest) {
     States all;
     // A power may also be a place, as in "Eng - Iri": so each front is tried both ways.
     for (const State& state : Front()) {
       Append(all, UnitFirst(state));
       Append(all, VerbFirst(state));
     }
-    std::vector<WrittenOrder> orders;
+    std::size_t furthest = 0;
     for (State& state : all) {
       TakeOwner(state);
       state.Order.End = state.Next;
-      if (phrases_.Ends(state.Next)) orders.push_back(std::move(state.Order));
+      furthest = std::max(furthest, state.Next);
+    }
+    std::vector<WrittenOrder> orders;
+    for (State& state : all) {
+      const bool isWhole =
+          rest == Rest::Anything ? state.Next == furthest : phrases_.Ends(state.Next);
+      if (isWhole) orders.push_back(std::move(state.Order));
     }
     return orders;
   }
@@ -85,6 +91,7 @@ class Grammar {
       if (verb == Verb::None) {
         if (!IsAllowed(verb_) || !phrases_.Ends(via)) {
           phrases_.Expected("it is not said what the unit does", via);
+          Append(all, VerblessMoves(state));
           continue;
         }
         state.Order.What = verb_;
@@ -96,6 +103,15 @@ class Grammar {
       Append(all, Action(std::move(state), via));
     }
     return all;
+  }
+
+  /// "A Par Bur" is a move of somebody in a hurry.
+  States VerblessMoves(State state) {
+    const bool isTyped = state.Order.Unit.Type != 0;
+    if (!isTyped || !IsAllowed(Verb::Move) || !phrases_.IsWordAt(state.Next)) return {};
+    state.Order.What = Verb::Move;
+    state.Order.IsGuess = true;
+    return Destinations(state);
   }
 
   /// What may stand behind a unit and its verb, which was written at the token.
@@ -304,10 +320,10 @@ class Grammar {
 }  // namespace
 
 Parse ParseWrittenOrder(Tokens tokens, const PlaceNames& names, const model::Map& map,
-                        model::Stage stage, Verb verb) {
+                        model::Stage stage, Verb verb, Rest rest) {
   Phrases phrases(tokens, names, map, stage);
   Parse parse;
-  parse.Orders = Grammar(phrases, stage, verb).Read();
+  parse.Orders = Grammar(phrases, stage, verb).Read(rest);
   if (parse.Orders.empty()) parse.Problem = phrases.Problem();
   return parse;
 }

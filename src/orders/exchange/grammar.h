@@ -4,6 +4,7 @@
 #include "orders/exchange/place_names.h"
 #include "orders/exchange/written_order.h"
 
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -31,8 +32,11 @@ struct Parse {
   std::optional<Fault> Problem;  ///< set when there are no orders
 };
 
+/// What may stand behind an order: remarks alone, or anything, of which it takes as much as it can.
+enum class Rest : std::uint8_t { Remarks, Anything };
+
 /// Reads the tokens as one order. `verb` is the verb of an order that names none, or None.
 Parse ParseWrittenOrder(Tokens tokens, const PlaceNames& names, const model::Map& map,
-                        model::Stage stage, Verb verb = Verb::None);
+                        model::Stage stage, Verb verb = Verb::None, Rest rest = Rest::Remarks);
 
 }  // namespace orb::exchange

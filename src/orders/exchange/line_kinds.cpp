@@ -4,6 +4,7 @@
 #include "orders/exchange/power_names.h"
 
 #include <algorithm>
+#include <array>
 
 namespace orb::exchange {
 namespace {
@@ -18,6 +19,17 @@ std::ptrdiff_t CountWords(Tokens tokens) {
 
 bool Is(Tokens tokens, std::size_t at, TokenKind kind) {
   return at < tokens.size() && IsA(tokens[at], kind);
+}
+
+/// Whether signs decorate; crosses, bans, question marks and warnings do not.
+bool IsPicture(const Token& token) {
+  constexpr std::array<std::string_view, 12> crossing{
+      "\u274C", "\u274E", "\u2716", "\u2717", "\u2718",     "\u2715",
+      "\u26D4", "\u2753", "\u2754", "\u26A0", "\U0001F6AB", "\U0001F5D1"};
+  return static_cast<unsigned char>(token.Text[0]) >= 0x80 &&
+         std::ranges::none_of(crossing, [&](std::string_view sign) {
+           return token.Text.find(sign) != std::string::npos;
+         });
 }
 
 /// "i" to "xxxix".
@@ -209,7 +221,10 @@ std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
       return heading;
     }
   }
-  for (std::size_t at = 0; at < tokens.size();) {
+  // "Hi, Russia builds".
+  const bool isGreeted =
+      tokens.size() > 2 && HasUse(tokens[0], WordUse::Greeting) && Is(tokens, 1, TokenKind::Comma);
+  for (std::size_t at = isGreeted ? 2 : 0; at < tokens.size();) {
     const Token& token = tokens[at];
     if (token.Kind == TokenKind::Open) {
       const std::size_t close = ClosingBracket(tokens, at);
@@ -246,6 +261,8 @@ std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
       heading.Orders = verb;
     }
   }
+  // "Hi, Russia" greets Russia.
+  if (isGreeted && heading.Orders == Verb::None) return {};
   return hasWord ? std::optional(heading) : std::nullopt;
 }
 
@@ -255,9 +272,9 @@ std::size_t PastLineStart(Tokens tokens) {
   if (!tokens.empty() && IsWord(tokens[0], "order") && PastNumber(tokens, 1) != 1) {
     return PastNumber(tokens, 1);
   }
-  // Quotation marks ("> >>") and bullets.
+  // Quotation marks ("> >>") and bullets, which may be any pictures but such as cross out.
   while (Is(tokens, at, TokenKind::Dash) || Is(tokens, at, TokenKind::Dot) ||
-         (Is(tokens, at, TokenKind::Mark) && tokens[at].Text == "+")) {
+         (Is(tokens, at, TokenKind::Mark) && (tokens[at].Text == "+" || IsPicture(tokens[at])))) {
     ++at;
   }
   if (const std::size_t past = PastStamp(tokens, at); past != at) {

@@ -4,7 +4,7 @@
 #include "orders/exchange/power_names.h"
 
 #include <algorithm>
-#include <array>
+#include <initializer_list>
 #include <string_view>
 
 namespace orb::exchange {
@@ -25,20 +25,24 @@ std::size_t PastOrdersAre(Tokens tokens) {
   return past;
 }
 
-/// Behind "I would like to", "we will" and the like, or 0.
+/// Behind "I would like to", "please let", "I should be obliged if you would" and the like, or 0.
 std::size_t PastWish(Tokens tokens) {
-  constexpr std::array<std::string_view, 7> who{"i", "id", "ill", "we", "wed", "well", "lets"};
-  constexpr std::array<std::string_view, 11> wish{"would", "like",  "love",  "want",   "wish", "to",
-                                                  "will",  "shall", "going", "please", "am"};
-  const auto is = [&](std::size_t at, auto words) {
-    return at < tokens.size() && tokens[at].Kind == TokenKind::Word &&
-           std::ranges::find(words, tokens[at].Text) != words.end();
-  };
-  if (!is(0, who)) return 0;
-  std::size_t at = 1;
-  while (is(at, wish))
+  std::size_t at = 0;
+  while (at < tokens.size() && HasUse(tokens[at], WordUse::Wish, WordUse::Filler))
     ++at;
-  return at;
+  const Tokens wish = tokens.first(at);
+  const auto has = [&](std::initializer_list<std::string_view> words) {
+    return std::ranges::any_of(wish, [&](const Token& token) {
+      return std::ranges::find(words, token.Text) != words.end();
+    });
+  };
+  // "I could" and "if you would" leave it open, unless they are polite.
+  const bool isOpen =
+      has({"if", "should", "could"}) && !has({"obliged", "grateful", "glad", "appreciate", "you"});
+  return isOpen || std::ranges::all_of(
+                       wish, [](const Token& token) { return !HasUse(token, WordUse::Wish); })
+             ? 0
+             : at;
 }
 
 /// Behind a heading before the order, "France:" or "Builds.", whose power and verb go into the
@@ -84,7 +88,7 @@ void LeaveInContext(const WrittenOrder& order, const Token& first, model::Stage 
 
 }  // namespace
 
-PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context) {
+PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context, Rest rest) {
   PartRead part;
   std::size_t start = 0;
   // "France: Builds: A Par" has two headings.
@@ -95,8 +99,8 @@ PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context) {
   const bool isImplied =
       known.Stage == model::Stage::Adjustments || context.Orders == Verb::Disband;
   const Verb verb = isImplied ? context.Orders : Verb::None;
-  const Parse parse =
-      ParseWrittenOrder(tokens.subspan(start), known.Names, *known.Game.Map, known.Stage, verb);
+  const Parse parse = ParseWrittenOrder(tokens.subspan(start), known.Names, *known.Game.Map,
+                                        known.Stage, verb, rest);
   if (!parse.Orders.empty() && parse.Orders[0].What == Verb::Waive) {
     LeaveInContext(parse.Orders.back(), tokens[start], known.Stage, context);
     part.Power = context.Power;
@@ -109,6 +113,8 @@ PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context) {
   if (!part.Meant.All.empty()) {
     LeaveInContext(parse.Orders.back(), tokens[start], known.Stage, context);
     part.Kind = part.Meant.All.size() == 1 ? LineKind::Order : LineKind::Ambiguous;
+    const bool isGuess = std::ranges::any_of(parse.Orders, &WrittenOrder::IsGuess);
+    if (isGuess) part.Doubt = "it is not said what the unit does";
     return part;
   }
   // What is wrong in the situation is reported rather than what is wrong in the grammar: the order

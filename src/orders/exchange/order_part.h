@@ -16,20 +16,24 @@ struct Context {
 struct PartRead {
   LineKind Kind = LineKind::NotUnderstood;
   Meanings Meant;
-  int Power = 0;        ///< of a waiver: who waives
-  Fault Problem;        ///< in the part's tokens
-  std::size_t End = 0;  ///< of the order in the part's tokens; only remarks follow
-  std::string ReadAs;   ///< how a slip of the pen was read: "Burgandy is read as Burgundy"
-  std::string Doubt;    ///< why that slip may mean something else, or empty
+  int Power = 0;             ///< of a waiver: who waives
+  Fault Problem;             ///< in the part's tokens
+  std::size_t End = 0;       ///< of the order in the part's tokens; only remarks follow
+  std::string ReadAs;        ///< how a slip of the pen was read: "Burgandy is read as Burgundy"
+  std::string Doubt;         ///< why it may mean something else than it was read as, or empty
+  bool IsRemark = false;     ///< of PassedOver: it may change the orders next to it
+  std::size_t Sentence = 0;  ///< the token at which its sentence begins
 };
 
 /// Reads tokens as one order. A heading before a colon, a power at the front and the verb of an
 /// adjustment are left in the context, since they hold for further orders of the line.
-PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context);
+PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context,
+                  Rest rest = Rest::Remarks);
 
 /// Whether it was read as an order, if perhaps an ambiguous one.
 inline bool IsUnderstood(const PartRead& part) {
-  return part.Kind != LineKind::NotUnderstood;
+  return part.Kind == LineKind::Order || part.Kind == LineKind::Ambiguous ||
+         part.Kind == LineKind::Waive;
 }
 
 /// "it can mean ... or ...".

@@ -16,13 +16,15 @@ bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& word
 }
 
 // Words that may stand at certain places of an order and add nothing to it.
-constexpr std::array<std::string_view, 5> InWords{"in", "at", "from", "of", "the"};
+constexpr std::array<std::string_view, 13> InWords{
+    "in",  "at",        "from",  "of",  "the", "presently", "currently",
+    "now", "stationed", "based", "von", "aus", "di"};
 constexpr std::array<std::string_view, 6> ViaWords{"via", "by", "using", "with", "through", "over"};
 constexpr std::array<std::string_view, 6> SeaWords{"convoy", "convoys", "sea", "c", "water", "cv"};
-constexpr std::array<std::string_view, 7> HoldTails{"position", "fast", "still", "in",
-                                                    "place",    "firm", "put"};
-constexpr std::array<std::string_view, 6> MoveTails{"against", "toward", "towards",
-                                                    "on",      "upon",   "for"};
+constexpr std::array<std::string_view, 10> HoldTails{
+    "position", "fast", "still", "in", "place", "firm", "put", "strong", "steady", "there"};
+constexpr std::array<std::string_view, 11> MoveTails{
+    "against", "toward", "towards", "on", "upon", "for", "in", "ins", "im", "over", "across"};
 constexpr std::array<std::string_view, 5> Nouns{"move", "attack", "advance", "of", "for"};
 constexpr std::array<std::string_view, 12> CountWords{
     "one", "two", "a", "all", "remaining", "rest", "any", "other", "of", "both", "last", "for"};
@@ -223,7 +225,9 @@ std::size_t Phrases::PastVia(std::size_t at) const {
 
 std::size_t Phrases::PastConvoy(std::size_t at) const {
   const std::size_t next = Skip(at);
-  return Is(next, "convoy") && !Is(next + 1, TokenKind::Word) ? next + 1 : at;
+  const bool isConvoy = next < tokens_.size() && VerbOf(tokens_[next]) == Verb::Convoy &&
+                        tokens_[next].Text.size() > 2;
+  return isConvoy && !Is(next + 1, TokenKind::Word) ? next + 1 : at;
 }
 
 std::size_t Phrases::PastPlace(std::size_t at, const WrittenPlace& place) const {

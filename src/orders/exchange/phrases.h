@@ -39,6 +39,8 @@ class Phrases {
   /// Whether the verb here is one that commands a unit named behind it.
   bool MayLead(std::size_t at) const;
 
+  bool IsWordAt(std::size_t at) const { return Is(at, TokenKind::Word); }
+
   bool IsWater(const WrittenPlace& place) const;
 
   /// The power alone in brackets here, "(GER)", and the token behind them.

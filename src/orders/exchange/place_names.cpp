@@ -60,10 +60,12 @@ PlaceNames::PlaceNames(const model::Map& map)
   // Old abbreviations are understood in orders as in old files.
   for (const model::NameFix& fix : map.NameFixes)
     Add(fix.From, model::FindProvince(map, fix.To), false);
-  for (const UsualSpelling& spelling : UsualSpellings()) {
-    const int row = model::FindProvince(map, spelling.Abbreviation);
-    Add(spelling.Written, row, false);
-    AddNearOnes(spelling.Written, row);
+  for (const UsualSpellings& spellings : AllUsualSpellings()) {
+    const int row = model::FindProvince(map, spellings.Abbreviation);
+    for (const std::string_view written : Parts(spellings.Written, '|')) {
+      Add(written, row, false);
+      AddNearOnes(written, row);
+    }
   }
 }
 

@@ -22,23 +22,35 @@ struct Folding {
 };
 
 constexpr std::array Foldings{
-    Folding{0x00, 0x1F, " "},       Folding{0x7F, 0xA0, " "},      Folding{0xAB, 0xAB, ">"},
-    Folding{0xAD, 0xAD, ""},        Folding{0xB4, 0xB4, "'"},      Folding{0xB7, 0xB7, "*"},
-    Folding{0xBB, 0xBB, ">"},       Folding{0x1680, 0x1680, " "},  Folding{0x2000, 0x200A, " "},
-    Folding{0x200B, 0x200F, ""},    Folding{0x2010, 0x2013, "-"},  Folding{0x2014, 0x2015, "--"},
-    Folding{0x2018, 0x201B, "'"},   Folding{0x201C, 0x201F, "\""}, Folding{0x2022, 0x2023, "*"},
-    Folding{0x2026, 0x2026, "..."}, Folding{0x2028, 0x202F, " "},  Folding{0x2032, 0x2032, "'"},
-    Folding{0x2033, 0x2033, "\""},  Folding{0x203A, 0x203A, ">"},  Folding{0x2043, 0x2043, "*"},
-    Folding{0x205F, 0x205F, " "},   Folding{0x2060, 0x2064, ""},   Folding{0x2192, 0x2192, "->"},
-    Folding{0x21A6, 0x21A6, "->"},  Folding{0x21D2, 0x21D2, "->"}, Folding{0x2212, 0x2212, "-"},
-    Folding{0x25A0, 0x25FF, "*"},   Folding{0x2794, 0x2794, "->"}, Folding{0x2799, 0x279E, "->"},
-    Folding{0x2610, 0x2611, "*"},   Folding{0x2705, 0x2705, "*"},  Folding{0x2713, 0x2714, "*"},
-    Folding{0x27A2, 0x27A4, "*"},   Folding{0xF0A7, 0xF0A8, "*"},  Folding{0xF0B7, 0xF0B7, "*"},
-    Folding{0xF0D8, 0xF0D8, "*"},   Folding{0xF0E0, 0xF0E0, "->"}, Folding{0xF0E8, 0xF0E8, "->"},
-    Folding{0x1F1E6, 0x1F1FF, ""},  Folding{0x27A1, 0x27A1, "->"}, Folding{0x27F6, 0x27F6, "->"},
-    Folding{0x27F9, 0x27F9, "->"},  Folding{0x2B95, 0x2B95, "->"}, Folding{0x3000, 0x3000, " "},
-    Folding{0xFE00, 0xFE0F, ""},    Folding{0xFE58, 0xFE58, "--"}, Folding{0xFE63, 0xFE63, "-"},
-    Folding{0xFEFF, 0xFEFF, ""},    Folding{0xFF0D, 0xFF0D, "-"},
+    Folding{0x00, 0x1F, " "},        Folding{0x7F, 0xA0, " "},
+    Folding{0xAB, 0xAB, ">"},        Folding{0xAD, 0xAD, ""},
+    Folding{0xB4, 0xB4, "'"},        Folding{0xB7, 0xB7, "*"},
+    Folding{0xBB, 0xBB, ">"},        Folding{0x1680, 0x1680, " "},
+    Folding{0x2000, 0x200A, " "},    Folding{0x200B, 0x200F, ""},
+    Folding{0x2010, 0x2013, "-"},    Folding{0x2014, 0x2015, "--"},
+    Folding{0x2018, 0x201B, "'"},    Folding{0x201C, 0x201F, "\""},
+    Folding{0x2022, 0x2023, "*"},    Folding{0x2026, 0x2026, "..."},
+    Folding{0x2028, 0x202F, " "},    Folding{0x2032, 0x2032, "'"},
+    Folding{0x2033, 0x2033, "\""},   Folding{0x203A, 0x203A, ">"},
+    Folding{0x2043, 0x2043, "*"},    Folding{0x205F, 0x205F, " "},
+    Folding{0x2060, 0x2064, ""},     Folding{0x2192, 0x2192, "->"},
+    Folding{0x21A6, 0x21A6, "->"},   Folding{0x21D2, 0x21D2, "->"},
+    Folding{0x2212, 0x2212, "-"},    Folding{0x25B6, 0x25B8, "->"},
+    Folding{0x25BA, 0x25BB, "->"},   Folding{0x1F449, 0x1F449, "->"},
+    Folding{0x1F846, 0x1F846, "->"}, Folding{0x1F852, 0x1F852, "->"},
+    Folding{0x23E9, 0x23E9, "->"},   Folding{0x2794, 0x2798, "->"},
+    Folding{0x21E8, 0x21E8, "->"},   Folding{0x1F3FB, 0x1F3FF, ""},
+    Folding{0x25A0, 0x25FF, "*"},    Folding{0x2799, 0x27A1, "->"},
+    Folding{0x2610, 0x2611, "*"},    Folding{0x2705, 0x2705, "*"},
+    Folding{0x2713, 0x2714, "*"},    Folding{0x27A2, 0x27A4, "->"},
+    Folding{0x27A5, 0x27BF, "->"},   Folding{0xF0A7, 0xF0A8, "*"},
+    Folding{0xF0B7, 0xF0B7, "*"},    Folding{0xF0D8, 0xF0D8, "*"},
+    Folding{0xF0E0, 0xF0E0, "->"},   Folding{0xF0E8, 0xF0E8, "->"},
+    Folding{0x1F1E6, 0x1F1FF, ""},   Folding{0x27F6, 0x27F6, "->"},
+    Folding{0x27F9, 0x27F9, "->"},   Folding{0x2B95, 0x2B95, "->"},
+    Folding{0x3000, 0x3000, " "},    Folding{0xFE00, 0xFE0F, ""},
+    Folding{0xFE58, 0xFE58, "--"},   Folding{0xFE63, 0xFE63, "-"},
+    Folding{0xFEFF, 0xFEFF, ""},     Folding{0xFF0D, 0xFF0D, "-"},
 };
 
 /// The letters U+00C0 to U+00FF without their accents.
@@ -46,10 +58,22 @@ constexpr std::string_view Letters =
     "AAAAAAACEEEEIIIIDNOOOOOxOUUUUYTsaaaaaaaceeeeiiiidnooooo/ouuuuyty";
 constexpr char32_t FirstLetter = 0xC0;
 
+/// The same of U+0100 to U+017F.
+constexpr std::string_view FurtherLetters =
+    "AaAaAaCcCcCcCcDdDdEeEeEeEeEeGgGgGgGgHhHhIiIiIiIiIiIiJjKkkLlLlLlLlLlNnNnNnnNnOoOoOoOoRrRrRrSsSs"
+    "SsSsTtTtTtUuUuUuUuUuUuWwYyYZzZzZzs";
+constexpr char32_t FirstFurther = 0x100;
+static_assert(FurtherLetters.size() == 0x80);
+
 /// The plain form of a character, or nothing.
 std::optional<std::string_view> PlainForm(char32_t character) {
   if (character >= FirstLetter && character < FirstLetter + Letters.size()) {
     return Letters.substr(character - FirstLetter, 1);
+  }
+  // U+0152 and U+0153 are left out: they also are halves of signs whose bytes were mistaken.
+  const bool isHalf = character == 0x152 || character == 0x153;
+  if (!isHalf && character >= FirstFurther && character < FirstFurther + FurtherLetters.size()) {
+    return FurtherLetters.substr(character - FirstFurther, 1);
   }
   for (const Folding& folding : Foldings) {
     if (character >= folding.First && character <= folding.Last) return folding.Plain;

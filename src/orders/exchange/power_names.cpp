@@ -14,38 +14,35 @@ namespace {
 
 struct PowerWords {
   int Power;
-  std::string_view Words;
+  std::string_view Names;  ///< parted by "|"
 };
 
 /// What powers and their people are called besides the names and abbreviations in the game.
 constexpr std::array Nicknames{
-    PowerWords{1, "english"},
-    PowerWords{1, "great britain"},
-    PowerWords{1, "britain"},
-    PowerWords{1, "british"},
-    PowerWords{2, "french"},
-    PowerWords{3, "german"},
-    PowerWords{4, "russian"},
-    PowerWords{5, "turkish"},
-    PowerWords{5, "turks"},
-    PowerWords{5, "ottoman empire"},
-    PowerWords{5, "ottoman"},
-    PowerWords{6, "austria"},
-    PowerWords{6, "austrian"},
-    PowerWords{6, "austro"},
-    PowerWords{6, "austro hungarian"},
-    PowerWords{6, "austro hungary"},
-    PowerWords{6, "austrian hungarian"},
-    PowerWords{7, "italian"},
-    PowerWords{7, "italians"},
-    PowerWords{1, "brits"},
-    PowerWords{3, "germans"},
-    PowerWords{4, "russians"},
-    PowerWords{6, "austrians"},
-    PowerWords{1, "uk"},
-    PowerWords{1, "gb"},
-    PowerWords{5, "ottomans"},
-    PowerWords{6, "ah"},
+    PowerWords{1,
+               "english|great britain|britain|british|brits|uk|gb|angleterre|inglaterra|"
+               "inghilterra|engeland|anglia|storbritannien|storbritannia|grossbritannien|"
+               "grosbritannien|englander|engels|anglais|ingles|inglese|englisch"},
+    PowerWords{2,
+               "french|frankreich|francia|frankrijk|frankrike|frankrig|francja|franca|"
+               "francais|franzosen|franzosisch|frances|francese"},
+    PowerWords{3,
+               "german|germans|deutschland|allemagne|alemania|germania|duitsland|tyskland|"
+               "niemcy|alemanha|allemand|deutsch|deutsche|deutscher"},
+    PowerWords{4,
+               "russian|russians|russland|rusland|russie|rusia|ryssland|rosja|russe|russo|"
+               "russisch"},
+    PowerWords{5,
+               "turkish|turks|ottoman empire|ottoman|ottomans|turkei|tuerkei|turquie|"
+               "turquia|turchia|turkije|turkiet|tyrkiet|tyrkia|turcja|turc|turco|turkisch"},
+    PowerWords{6,
+               "austria|austrian|austro|austro hungarian|austro hungary|austrian hungarian|"
+               "austrians|ah|osterreich|oesterreich|autriche|oostenrijk|osterrike|ostrig|"
+               "osterrig|austrias|osterreich ungarn|autriche hongrie|oostenrijk hongarije|"
+               "austro wegry|autrichien|austriaco"},
+    PowerWords{7,
+               "italian|italians|italien|italie|italia|wlochy|italiaans|italienisch|"
+               "italiano|italienne"},
 };
 
 struct SpelledPower {
@@ -71,8 +68,10 @@ PowerNames AllPowerNames() {
     add(i, countries[i].Abbreviation);
     add(i, countries[i].Name);
   }
-  for (const PowerWords& name : Nicknames)
-    add(name.Power, name.Words);
+  for (const PowerWords& row : Nicknames) {
+    for (const std::string_view name : Parts(row.Names, '|'))
+      add(row.Power, name);
+  }
   return names;
 }
 

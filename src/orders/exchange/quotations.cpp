@@ -87,6 +87,13 @@ bool IsMailHead(Tokens tokens, const PlaceNames& names) {
          !HoldsOrderWords(tokens.subspan(rest), names);
 }
 
+bool IsSubject(Tokens tokens) {
+  constexpr std::array<std::string_view, 10> labels{"subject", "betreff",   "objet",   "asunto",
+                                                    "oggetto", "onderwerp", "assunto", "emne",
+                                                    "amne",    "temat"};
+  return !tokens.empty() && IsOneOf(tokens[0].Text, labels);
+}
+
 bool IsQuotationHead(std::string_view line, Tokens tokens) {
   const bool isQuoting =
       !tokens.empty() && IsA(tokens.back(), TokenKind::Colon) &&

@@ -12,6 +12,9 @@ namespace orb::exchange {
 /// Whether a line belongs to the head of a mail, "Subject: Autumn", or tells whose words follow.
 bool IsMailHead(Tokens tokens, const PlaceNames& names);
 
+/// Whether a line of the head of a mail tells what the mail is about.
+bool IsSubject(Tokens tokens);
+
 /// Whether the line, in its plain form, tells that something older follows: "Tom wrote:", "Am
 /// 1.2.2024 schrieb Tom:", "--- Original Message ---".
 bool IsQuotationHead(std::string_view line, Tokens tokens);

@@ -28,6 +28,19 @@ namespace {
 /// How many words and signs a greeting before an order has at most: "Hi Tom, A Par - Bur".
 constexpr std::size_t LongestGreeting = 4;
 
+/// An order in a line, without the remarks behind it.
+struct Understood {
+  TokenRange At;
+  std::size_t Sentence;
+  std::size_t Row;
+};
+
+/// Words of a line beside its orders.
+struct Remark {
+  TokenRange At;
+  std::size_t Sentence;
+};
+
 /// Reads a text line by line; what headings say is kept for the lines below. A line goes through
 /// these steps: the exact form, then signs that it belongs to a mail, then headings, then comments
 /// cut off its end, then its orders, separated by semicolons, commas, full stops or nothing at all.
@@ -126,7 +139,8 @@ class TextReader {
       return AddHeading(line, *heading);
     }
     const auto isSign = [](const Token& token) {
-      return token.Kind == TokenKind::Mark && (token.Text == "#" || token.Text.starts_with("//"));
+      return token.Kind == TokenKind::Mark &&
+             (token.Text == "#" || token.Text.starts_with("//") || token.Text.starts_with("<-"));
     };
     const auto sign = std::ranges::find_if(PartOf(line, body), isSign);
     const TokenRange comment{
@@ -144,17 +158,11 @@ class TextReader {
 
   void ReadBody(const SourceLine& line, TokenRange body, TokenRange comment) {
     const Tokens said = PartOf(line, comment);
-    const std::size_t condition = FindCondition(said);
-    // "A Par - Bur # if Tom agrees": the order depends on its comment.
-    if (body.Begin < body.End && condition < said.size()) {
-      const std::size_t at = comment.Begin + condition;
-      return AddUnclear(line, {body.Begin, comment.End}, {at, at + 1}, NotUnderstoodText(line, at));
-    }
     Context context = context_;
     const std::size_t before = lines_.size();
     for (const TokenRange segment : Split(line.All, body, Seam::Semicolon))
-      ReadSegmentOf(line, segment, context);
-    if (said.size() > 1) remarks_.push_back({comment.Begin + 1, comment.End});
+      AddParts(line, ReadSegment(line.All, segment, known_, context, inSignature_), context);
+    if (said.size() > 1) remarks_.push_back({{comment.Begin + 1, comment.End}, comment.Begin});
     if (HoldsOrders(before)) inSignature_ = false;
     const bool isOrder =
         !said.empty() &&
@@ -179,55 +187,77 @@ class TextReader {
   /// Notes what a line that was read, whose rows begin at `first`, says of the orders around it.
   void LookAround(const SourceLine& line, std::size_t first) {
     if (!line.IsTooLong && Corrects(line.All)) around_.SetCorrects(first);
-    if (HoldsOrders(first)) return DoubtRemarks(line, first);
-    const bool speaks = !line.IsTooLong && !isMailHead_;
-    const auto aside = speaks ? ReadAside(line.All) : std::nullopt;
-    if (!aside || lines_.back().Kind == LineKind::Heading) return;
-    // Its words alone are no reason to show it: the orders that it sets aside are shown.
-    std::vector<Token> rest(line.All.begin(), line.All.end());
-    rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(aside->At.Begin),
-               rest.begin() + static_cast<std::ptrdiff_t>(aside->At.End));
-    std::erase_if(rest, [](const Token& token) { return HasUse(token, WordUse::Condition); });
-    const bool isHeading = IsA(line.All.back(), TokenKind::Colon) &&
-                           std::ranges::find(rest, TokenKind::Dash, &Token::Kind) == rest.end();
-    if (isHeading || IsNoOrder(rest, known_.Names, inSignature_)) {
-      for (std::size_t row = first; row < lines_.size(); ++row)
-        lines_[row].Kind = LineKind::PassedOver;
+    const bool holdsOrders = HoldsOrders(first);
+    const bool isBehindOrders = around_.IsInBlock();
+    around_.EndLine(first, holdsOrders, line.Bytes.empty());
+    if (holdsOrders) return DoubtRemarks(line, first);
+    const bool isHeading = lines_.back().Kind == LineKind::Heading;
+    if (line.IsTooLong || line.All.empty() || isHeading) return;
+    if (isMailHead_) return LookAtSubject(line, first);
+    if (const auto aside = ReadAside(line.All)) return SetAside(line, *aside, first);
+    if (const auto at = ReadReservation(line.All, isBehindOrders)) {
+      around_.DoubtBlock(Quoted(line, *at) + " may change it", Written(line, *at));
+    } else if (LeadsOn(line.All)) {
+      const TokenRange all{0, line.All.size()};
+      around_.LeadTo(Quoted(line, all) + " leads to it", Written(line, all));
     }
-    const Span at = Written(line, aside->At);
-    const std::string reason =
-        Quoted(Tokens(line.All).subspan(aside->At.Begin, aside->At.End - aside->At.Begin)) +
-        " sets it aside";
-    around_.SetAside(aside->Scope, reason, at, context_.Power, lines_, first);
   }
 
-  /// What a line says next to its orders, in comments or between them, may change each of them.
+  void LookAtSubject(const SourceLine& line, std::size_t first) {
+    const auto at = IsSubject(line.All) ? ReadDraftSubject(line.All) : std::nullopt;
+    if (at) SetAside(line, {AsideScope::Below, *at}, first);
+  }
+
+  void SetAside(const SourceLine& line, const Aside& aside, std::size_t first) {
+    // Its words alone are no reason to show it: the orders that it sets aside are shown.
+    std::vector<Token> rest(line.All.begin(), line.All.end());
+    rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(aside.At.Begin),
+               rest.begin() + static_cast<std::ptrdiff_t>(aside.At.End));
+    std::erase_if(rest, [](const Token& token) { return HasUse(token, WordUse::Condition); });
+    const bool isTitle = IsA(line.All.back(), TokenKind::Colon) &&
+                         std::ranges::find(rest, TokenKind::Dash, &Token::Kind) == rest.end();
+    if (isTitle || IsNoOrder(rest, known_.Names, inSignature_)) PassOver(first);
+    const Concern concern = ConcernOf(line.All, known_.Names, *known_.Game.Map);
+    around_.SetAside(aside.Scope, Quoted(line, aside.At) + " sets it aside",
+                     Written(line, aside.At), context_.Power, concern, lines_, first);
+  }
+
+  void PassOver(std::size_t first) {
+    for (std::size_t row = first; row < lines_.size(); ++row) {
+      lines_[row].Kind = LineKind::PassedOver;
+      lines_[row].Reason.clear();
+    }
+  }
+
+  static std::string Quoted(const SourceLine& line, TokenRange range) {
+    return exchange::Quoted(PartOf(line, range));
+  }
+
+  /// What a line says next to its orders, in comments or between them, may change each order of the
+  /// same sentence; where that has none, each of the line.
   void DoubtRemarks(const SourceLine& line, std::size_t first) {
     std::vector<Token> own;
-    for (const TokenRange range : understood_) {
-      const Tokens order = PartOf(line, range);
-      own.insert(own.end(), order.begin(), order.end());
+    for (const Understood& order : understood_) {
+      const Tokens words = PartOf(line, order.At);
+      own.insert(own.end(), words.begin(), words.end());
     }
-    for (const TokenRange range : remarks_) {
-      const Tokens remark = PartOf(line, range);
+    for (const Remark& said : remarks_) {
+      const Tokens remark = PartOf(line, said.At);
       const auto doubt = FindDoubt(remark, own, known_.Names);
       const bool isGreeting = remark.size() <= LongestGreeting &&
                               HasUse(remark[0], WordUse::Greeting) &&
                               !ReadAside(remark).has_value();
       if (!doubt || isGreeting) continue;
-      around_.SetDoubt(first, Quoted(remark) + " may change it", Written(line, range));
-      return;
+      const std::string reason = Quoted(line, said.At) + " may change it";
+      const bool isOwn =
+          std::ranges::find(understood_, said.Sentence, &Understood::Sentence) != understood_.end();
+      const bool isReported = IsReport(remark);
+      for (const Understood& order : understood_) {
+        if (isOwn && order.Sentence != said.Sentence) continue;
+        around_.SetDoubt(order.Row, reason, Written(line, said.At), isReported);
+      }
+      if (!isOwn) around_.SetDoubtFrom(first, reason, Written(line, said.At));
     }
-  }
-
-  /// Reads what stands between semicolons: one order, or several between commas.
-  void ReadSegmentOf(const SourceLine& line, TokenRange segment, Context& context) {
-    const SegmentRead read = ReadSegment(line.All, segment, known_, context, inSignature_);
-    if (read.Condition) {
-      const std::size_t at = *read.Condition;
-      return AddUnclear(line, segment, {at, at + 1}, NotUnderstoodText(line, at));
-    }
-    AddParts(line, read.Parts, context);
   }
 
   void AddParts(const SourceLine& line, const PartsRead& parts, const Context& context) {
@@ -278,7 +308,10 @@ class TextReader {
     } else if (says) {
       context_.Orders = heading.Orders;
     }
-    around_.TakeHeading(heading.Power, Corrects(line.All), lines_);
+    const bool isOfOrders = std::ranges::any_of(line.All, [](const Token& token) {
+      return HasUse(token, WordUse::Orders, WordUse::Season);
+    });
+    around_.TakeHeading(heading.Power, Corrects(line.All), isOfOrders, lines_);
     AddLine(line, says ? LineKind::Heading : LineKind::PassedOver);
   }
 
@@ -293,13 +326,10 @@ class TextReader {
     read.ReasonPlace = Written(line, reasonAt);
   }
 
-  static std::string NotUnderstoodText(const SourceLine& line, std::size_t at) {
-    return Quoted(Tokens(line.All).subspan(at, 1)).append(NotUnderstood);
-  }
-
   void AddPart(const SourceLine& line, TokenRange range, const PartRead& part,
                const Context& context) {
     const Tokens tokens = PartOf(line, range);
+    if (part.IsRemark) return remarks_.push_back({range, part.Sentence});
     if (tokens.empty()) {
       AddLine(line, LineKind::PassedOver);
       return;
@@ -308,12 +338,12 @@ class TextReader {
     const std::vector<Meaning>& meant = part.Meant.All;
     read.ReasonPlace = read.Place;
     read.ReadAs = part.ReadAs;
-    if (!part.Doubt.empty()) around_.SetDoubt(lines_.size() - 1, part.Doubt, read.Place);
+    if (!part.Doubt.empty()) around_.SetDoubtFrom(lines_.size() - 1, part.Doubt, read.Place);
     if (IsUnderstood(part)) {
       const std::size_t end = std::min(range.Begin + part.End, range.End);
-      understood_.push_back({range.Begin, end});
+      understood_.push_back({{range.Begin, end}, part.Sentence, lines_.size() - 1});
       const bool isOrder = part.Kind != LineKind::Waive;
-      if (isOrder && end < range.End) remarks_.push_back({end, range.End});
+      if (isOrder && end < range.End) remarks_.push_back({{end, range.End}, part.Sentence});
     }
     if (part.Kind == LineKind::Order) {
       read.Order = meant[0].Line;
@@ -324,17 +354,22 @@ class TextReader {
       for (const Meaning& meaning : meant)
         read.Candidates.push_back(meaning.Line);
     } else if (part.Kind == LineKind::NotUnderstood) {
-      AddProblem(line, range, part.Problem, read);
+      AddProblem(line, range, part.Problem, part.Sentence, read);
     }
   }
 
-  void AddProblem(const SourceLine& line, TokenRange range, const Fault& problem, ReadLine& read) {
+  void AddProblem(const SourceLine& line, TokenRange range, const Fault& problem,
+                  std::size_t sentence, ReadLine& read) {
     if (!isSingle_ && IsNoOrder(PartOf(line, range), known_.Names, inSignature_)) {
       read.Kind = LineKind::PassedOver;
-      remarks_.push_back(range);
+      remarks_.push_back({range, sentence});
       return;
     }
     read.Reason = problem.Reason;
+    if (const int power = PowerAt(PartOf(line, range), 0).Power; power != 0) {
+      read.Power = PowerText(power);
+    }
+    around_.SetAbout(ConcernOf(PartOf(line, range), known_.Names, *known_.Game.Map));
     const std::size_t begin = range.Begin + problem.At.Begin;
     const std::size_t end = std::min(range.Begin + problem.At.End, range.End);
     read.ReasonPlace =
@@ -352,8 +387,8 @@ class TextReader {
   // Of the line that is being read: whether it heads a mail, its orders, and what it says next to
   // them.
   bool isMailHead_ = false;
-  std::vector<TokenRange> understood_;
-  std::vector<TokenRange> remarks_;
+  std::vector<Understood> understood_;  ///< of the line
+  std::vector<Remark> remarks_;         ///< of the line
 };
 
 void LearnMoves(const std::vector<ReadLine>& lines, KnownGame& known) {

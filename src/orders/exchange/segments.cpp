@@ -1,6 +1,9 @@
 #include "orders/exchange/segments.h"
 
+#include "orders/exchange/asides.h"
 #include "orders/exchange/comments.h"
+#include "orders/exchange/doubts.h"
+#include "orders/exchange/embedded.h"
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/shared_words.h"
 #include "orders/exchange/slips.h"
@@ -8,6 +11,7 @@
 #include "orders/exchange/vocabulary.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -26,76 +30,166 @@ PartsRead Moved(PartsRead parts, std::size_t begin) {
   return parts;
 }
 
-/// The first word that makes a condition of orders behind it or sets them aside.
-std::size_t FindSetAside(Tokens tokens) {
-  const auto sets = [](const Token& token) {
-    return HasUse(token, WordUse::Condition, WordUse::Aside);
-  };
-  return static_cast<std::size_t>(std::ranges::find_if(tokens, sets) - tokens.begin());
+/// Whether a full stop ends a sentence: none of "St. Petersburg", "N. Sea" or "A. Par".
+bool EndsSentence(Tokens tokens, std::size_t dot, std::size_t begin, const PlaceNames& names) {
+  if (tokens[dot].Kind != TokenKind::Dot || dot + 1 == tokens.size() || dot == begin) return false;
+  const Token& before = tokens[dot - 1];
+  const Token& behind = tokens[dot + 1];
+  if (behind.Glued || !IsA(behind, TokenKind::Word) || IsWord(behind, "via")) return false;
+  if (VerbOf(behind) != Verb::None && (!behind.Capital || behind.Text.size() == 1)) return false;
+  // The last word of an order may be one letter, but one that means something alone.
+  if (before.Text.size() == 1 && VerbOf(before) == Verb::None) return false;
+  for (const PlaceMatch& match : names.At(tokens, dot - 1)) {
+    if (match.Next > dot) return false;
+  }
+  return true;
 }
 
-/// Reads the parts of a segment between seams of one kind.
+std::vector<TokenRange> Sentences(Tokens tokens, TokenRange range, const PlaceNames& names) {
+  std::vector<TokenRange> sentences;
+  std::size_t begin = range.Begin;
+  for (std::size_t at = begin; at < range.End; ++at) {
+    if (IsA(tokens[at], TokenKind::Open)) {
+      const std::size_t close = ClosingBracket(tokens.first(range.End), at);
+      if (close < range.End) at = close;
+    } else if (EndsSentence(tokens.first(range.End), at, begin, names)) {
+      sentences.push_back({begin, at});
+      begin = at + 1;
+    }
+  }
+  if (begin < range.End) sentences.push_back({begin, range.End});
+  return sentences;
+}
+
+/// Whether a sentence without orders says something that may concern others: what is passed over
+/// silently does not.
+bool Speaks(Tokens sentence) {
+  return ReadAside(sentence) || std::ranges::any_of(sentence, [](const Token& token) {
+           return IsDoubtfulSign(token) ||
+                  HasUse(token, WordUse::Condition, WordUse::Aside, WordUse::SetsAside);
+         });
+}
+
+bool BeginsAsOrder(Tokens tokens, const PlaceNames& names) {
+  return !names.At(tokens, UnitTypeOf(tokens[0]) != 0 ? 1 : 0).empty();
+}
+
+/// Reads the sentences of a segment.
 class SegmentReader {
  public:
-  SegmentReader(Tokens line, TokenRange segment, const KnownGame& known, const Context& context,
-                bool inSignature)
-      : line_(line),
-        segment_(segment),
-        known_(known),
-        start_(context),
-        context_(context),
-        inSignature_(inSignature) {}
+  SegmentReader(Tokens line, const KnownGame& known, const Context& context, bool inSignature)
+      : line_(line), known_(known), start_(context), context_(context), inSignature_(inSignature) {}
 
-  /// Nothing when none of the parts is an order. As full stops also follow abbreviations, none may
-  /// stay unclear between them.
-  std::optional<SegmentRead> Read(Seam seam) {
-    for (const TokenRange range : Split(line_, segment_, seam))
-      ReadRange(range);
-    ShareVerbs(line_, known_, start_, read_.Parts);
-    if (std::ranges::none_of(read_.Parts, IsOrder)) return std::nullopt;
-    if (seam == Seam::FullStop && !isClear_) return std::nullopt;
-    if (read_.Condition) read_.Parts.clear();
-    return std::move(read_);
+  /// `isOnly`: there is no other sentence that it could be the heading of.
+  void ReadSentence(TokenRange range, bool isOnly) {
+    const std::size_t first = parts_.size();
+    if (isOnly || !TakeHeading(range)) ReadAnySentence(range);
+    for (std::size_t i = first; i < parts_.size(); ++i)
+      parts_[i].second.Sentence = range.Begin;
   }
 
+  bool HasOrder() const { return std::ranges::any_of(parts_, IsOrder); }
   const Context& Behind() const { return context_; }
+  PartsRead Parts() { return std::move(parts_); }
 
  private:
+  bool TakeHeading(TokenRange range) {
+    const auto heading = ReadHeading(PartOf(range), known_.Names);
+    if (!heading || heading->Power == 0 || !IsHeadingOf(known_.Stage, *heading)) return false;
+    context_ = {heading->Power, heading->Orders};
+    return true;
+  }
+
+  void ReadAnySentence(TokenRange range) {
+    const Tokens tokens = PartOf(range);
+    Context whole = context_;
+    PartRead read = ReadPart(tokens, known_, whole);
+    if (IsUnderstood(read)) return Take(range, std::move(read), whole);
+    if (ReadClauses(range)) return;
+    whole = context_;
+    if (TakeAll(ReadRunOn(tokens, known_, whole), range.Begin, whole)) return;
+    whole = context_;
+    PartRead mended = ReadWithSlips(tokens, read, known_, whole);
+    if (IsUnderstood(mended)) return Take(range, std::move(mended), whole);
+    whole = context_;
+    if (TakeAll(ReadEmbedded(tokens, known_, whole), range.Begin, whole)) return;
+    // What a heading before it says holds all the same.
+    ReadPart(tokens, known_, context_);
+    if (Speaks(tokens) && !BeginsAsOrder(tokens, known_.Names)) {
+      read = Remark();
+    } else if (IsNoOrder(tokens, known_.Names, inSignature_)) {
+      read.Kind = LineKind::PassedOver;
+    }
+    Take(range, std::move(read), context_);
+  }
+
   Tokens PartOf(TokenRange range) const {
     return line_.subspan(range.Begin, range.End - range.Begin);
   }
 
-  void ReadRange(TokenRange range) {
+  void Take(TokenRange range, PartRead read, const Context& behind) {
+    parts_.emplace_back(range, std::move(read));
+    context_ = behind;
+  }
+
+  /// False, and nothing is taken, for none.
+  bool TakeAll(PartsRead parts, std::size_t begin, const Context& behind) {
+    if (parts.empty()) return false;
+    for (auto& part : Moved(std::move(parts), begin))
+      parts_.push_back(std::move(part));
+    context_ = behind;
+    return true;
+  }
+
+  /// Reads what stands between commas; false, and nothing is taken, where none of it is an order.
+  bool ReadClauses(TokenRange range) {
     const Context before = context_;
-    read_.Parts.emplace_back(range, ReadTyped(range));
-    PartRead& part = read_.Parts.back().second;
-    if (IsUnderstood(part)) return;
-    if (auto again = ReadSameUnit(line_, read_.Parts, range, known_, start_)) {
-      part = std::move(*again);
+    const std::size_t first = parts_.size();
+    plural_.reset();
+    for (const TokenRange clause : Split(line_, range, Seam::Comma))
+      ReadClause(clause);
+    PartsRead clauses(parts_.begin() + static_cast<std::ptrdiff_t>(first), parts_.end());
+    parts_.resize(first);
+    ShareVerbs(line_, known_, start_, clauses);
+    if (std::ranges::none_of(clauses, IsOrder)) {
       context_ = before;
-      return;
+      return false;
+    }
+    return TakeAll(std::move(clauses), 0, context_);
+  }
+
+  void ReadClause(TokenRange range) {
+    const Context before = context_;
+    parts_.emplace_back(range, ReadTyped(range));
+    PartRead& part = parts_.back().second;
+    if (IsUnderstood(part)) return;
+    for (const auto& share : {ReadSameUnit, ReadPronoun}) {
+      if (auto again = share(line_, parts_, range, known_, start_)) {
+        part = std::move(*again);
+        context_ = before;
+        return;
+      }
     }
     const Tokens tokens = PartOf(range);
     const Context behind = std::exchange(context_, before);
-    if (const PartsRead runOn = ReadRunOn(tokens, known_, context_); !runOn.empty()) {
-      read_.Parts.pop_back();
-      for (auto& order : Moved(runOn, range.Begin))
-        read_.Parts.push_back(std::move(order));
-      return;
-    }
+    if (TakeInstead(ReadRunOn(tokens, known_, context_), range)) return;
     PartRead mended = ReadWithSlips(tokens, part, known_, context_);
     if (IsUnderstood(mended)) {
       part = std::move(mended);
       return;
     }
+    if (TakeInstead(ReadEmbedded(tokens, known_, context_), range)) return;
     // A heading before what was not understood holds all the same.
     context_ = behind;
-    // Before the first order, "last turn" and the like set aside what follows; behind one they do
-    // not.
-    const bool isOrdered = std::ranges::any_of(read_.Parts, IsOrder);
-    const std::size_t at = isOrdered ? FindCondition(tokens) : FindSetAside(tokens);
-    if (at < tokens.size() && !read_.Condition) read_.Condition = range.Begin + at;
-    isClear_ = isClear_ && IsNoOrder(tokens, known_.Names, inSignature_);
+    // What does not begin as an order of its own may concern the orders beside it.
+    if (Speaks(tokens) && !BeginsAsOrder(tokens, known_.Names)) part = Remark();
+  }
+
+  /// Takes orders in place of the clause that they were read from; false for none.
+  bool TakeInstead(PartsRead parts, TokenRange range) {
+    if (parts.empty()) return false;
+    parts_.pop_back();
+    return TakeAll(std::move(parts), range.Begin, context_);
   }
 
   /// Reads a part, with the type of units that it shares with the parts before it.
@@ -111,43 +205,39 @@ class SegmentReader {
   }
 
   Tokens line_;
-  TokenRange segment_;
   const KnownGame& known_;
   Context start_;
   Context context_;
   bool inSignature_;
-  bool isClear_ = true;
   std::optional<Token> plural_;
-  SegmentRead read_;
+  PartsRead parts_;
 };
 
 }  // namespace
 
-SegmentRead ReadSegment(Tokens line, TokenRange segment, const KnownGame& known, Context& context,
-                        bool inSignature) {
-  const Tokens tokens = line.subspan(segment.Begin, segment.End - segment.Begin);
-  // As one order first: "A Par, - Bur" has a comma and is one. Parting is tried only if that fails.
+PartsRead ReadSegment(Tokens line, TokenRange segment, const KnownGame& known, Context& context,
+                      bool inSignature) {
+  // As one order first: "A. Par. - Bur." has full stops and is one.
   Context whole = context;
-  PartRead read = ReadPart(tokens, known, whole);
-  if (!IsUnderstood(read)) {
-    for (const Seam seam : {Seam::Comma, Seam::FullStop}) {
-      SegmentReader reader(line, segment, known, context, inSignature);
-      if (auto parts = reader.Read(seam)) {
-        context = reader.Behind();
-        return std::move(*parts);
-      }
-    }
-    PartsRead runOn = ReadRunOn(tokens, known, context);
-    if (!runOn.empty()) return {Moved(std::move(runOn), segment.Begin), std::nullopt};
-    Context slipped = context;
-    PartRead mended = ReadWithSlips(tokens, read, known, slipped);
-    if (IsUnderstood(mended)) {
-      read = std::move(mended);
-      whole = slipped;
-    }
+  PartRead read = ReadPart(line.subspan(segment.Begin, segment.End - segment.Begin), known, whole);
+  if (IsUnderstood(read)) {
+    context = whole;
+    read.Sentence = segment.Begin;
+    return {{segment, std::move(read)}};
   }
-  context = whole;
-  return {{{segment, std::move(read)}}, std::nullopt};
+  auto sentences = Sentences(line, segment, known.Names);
+  while (true) {
+    SegmentReader reader(line, known, context, inSignature);
+    for (const TokenRange sentence : sentences)
+      reader.ReadSentence(sentence, sentences.size() == 1);
+    const bool hasOrder = reader.HasOrder();
+    if (hasOrder || sentences.size() == 1) {
+      context = reader.Behind();
+      return hasOrder ? reader.Parts() : PartsRead{{segment, std::move(read)}};
+    }
+    // They may have been no sentences.
+    sentences = {segment};
+  }
 }
 
 }  // namespace orb::exchange

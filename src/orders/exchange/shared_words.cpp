@@ -39,8 +39,8 @@ void ShareVerbs(Tokens line, const KnownGame& known, const Context& context, Par
   for (std::size_t i = parts.size(); i-- > 1;) {
     auto& [range, part] = parts[i - 1];
     const Tokens unit = PartOf(line, range);
-    const bool lacksVerb =
-        !IsUnderstood(part) && UnitTypeOf(unit[0]) != 0 && std::ranges::none_of(unit, IsVerb);
+    const bool lacksVerb = !IsUnderstood(part) && !part.IsRemark && UnitTypeOf(unit[0]) != 0 &&
+                           std::ranges::none_of(unit, IsVerb);
     if (!lacksVerb || !IsUnderstood(parts[i].second)) continue;
     const Tokens next = PartOf(line, parts[i].first);
     const auto verb = std::ranges::find_if(next, IsVerb);
@@ -68,6 +68,34 @@ std::optional<PartRead> ReadSameUnit(Tokens line, const PartsRead& parts, TokenR
   PartRead read = ReadPart(Joined({unit.begin(), verb}, rest), known, tried);
   if (!IsUnderstood(read)) return std::nullopt;
   read.End = rest.size();
+  return read;
+}
+
+std::optional<PartRead> ReadPronoun(Tokens line, const PartsRead& parts, TokenRange range,
+                                    const KnownGame& known, const Context& context) {
+  const Tokens clause = PartOf(line, range);
+  const auto verb = std::ranges::find_if(clause, [](const Token& token) {
+    return VerbOf(token) == Verb::Support || VerbOf(token) == Verb::Convoy;
+  });
+  if (verb == clause.end() || parts.size() < 2) return std::nullopt;
+  const auto isPronoun = [](const Token& token) {
+    return IsWord(token, "it") || IsWord(token, "that") || IsWord(token, "this") ||
+           IsWord(token, "him") || IsWord(token, "them");
+  };
+  const auto isTail = [](const Token& token) {
+    return IsWord(token, "up") || IsWord(token, "there") || IsWord(token, "over") ||
+           IsWord(token, "move") || IsA(token, TokenKind::Dot);
+  };
+  const auto pronoun = verb + 1;
+  if (pronoun == clause.end() || !isPronoun(*pronoun)) return std::nullopt;
+  if (!std::all_of(pronoun + 1, clause.end(), isTail)) return std::nullopt;
+  const auto& [beforeAt, before] = parts[parts.size() - 2];
+  if (before.Kind != LineKind::Order) return std::nullopt;
+  Context tried = context;
+  const Tokens order = PartOf(line, beforeAt).first(before.End);
+  PartRead read = ReadPart(Joined({clause.begin(), pronoun}, order), known, tried);
+  if (!IsUnderstood(read)) return std::nullopt;
+  read.End = clause.size();
   return read;
 }
 

@@ -14,8 +14,7 @@ bool IsSeam(const Token& token, Seam seam) {
   if (seam == Seam::Semicolon) return token.Kind == TokenKind::Semicolon;
   // A slash with a blank before it is no coast's.
   return token.Kind == TokenKind::Comma || IsWord(token, "and") ||
-         (token.Kind == TokenKind::Slash && !token.Glued) ||
-         (seam == Seam::FullStop && token.Kind == TokenKind::Dot);
+         (token.Kind == TokenKind::Slash && !token.Glued);
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ std::deque<SourceLine> CutText(std::string_view text, std::span<const TextRepair
 
 /// What parts the orders of a line, the strongest first: each is tried only where the stronger ones
 /// leave something that is not understood.
-enum class Seam : std::uint8_t { Semicolon, Comma, FullStop };
+enum class Seam : std::uint8_t { Semicolon, Comma };
 
 /// The parts between seams that stand in no brackets; empty ones are left out.
 std::vector<TokenRange> Split(Tokens tokens, TokenRange range, Seam seam);

@@ -1,5 +1,7 @@
 #include "orders/exchange/surroundings.h"
 
+#include <algorithm>
+
 namespace orb::exchange {
 
 void SurroundingsOfLines::SetCorrects(std::size_t first) {
@@ -7,17 +9,20 @@ void SurroundingsOfLines::SetCorrects(std::size_t first) {
     rows_[row].Corrects = true;
 }
 
-void SurroundingsOfLines::SetDoubt(std::size_t first, const std::string& reason, Span at) {
-  for (std::size_t row = first; row < rows_.size(); ++row) {
-    if (!rows_[row].Doubt.empty()) continue;
-    rows_[row].Doubt = reason;
-    rows_[row].DoubtAt = at;
-  }
+void SurroundingsOfLines::SetDoubtFrom(std::size_t first, const std::string& reason, Span at) {
+  Doubt(first, rows_.size(), reason, at);
+}
+
+void SurroundingsOfLines::SetDoubt(std::size_t row, const std::string& reason, Span at,
+                                   bool isSetAside) {
+  Doubt(row, row + 1, reason, at);
+  rows_[row].IsSetAside = rows_[row].IsSetAside || isSetAside;
 }
 
 void SurroundingsOfLines::SetAside(AsideScope scope, const std::string& reason, Span at, int power,
-                                   const std::vector<ReadLine>& lines, std::size_t end) {
-  const bool isAbove = scope != AsideScope::Below && SetAsideAbove(reason, at, lines, end);
+                                   const Concern& about, const std::vector<ReadLine>& lines,
+                                   std::size_t end) {
+  const bool isAbove = scope != AsideScope::Below && SetAsideAbove(reason, at, about, lines, end);
   if (isAbove || scope == AsideScope::Above) return;
   reason_ = reason;
   at_ = at;
@@ -26,27 +31,70 @@ void SurroundingsOfLines::SetAside(AsideScope scope, const std::string& reason, 
 }
 
 /// False when there are no orders above in the same part of the text.
-bool SurroundingsOfLines::SetAsideAbove(const std::string& reason, Span at,
+bool SurroundingsOfLines::SetAsideAbove(const std::string& reason, Span at, const Concern& about,
                                         const std::vector<ReadLine>& lines, std::size_t end) {
   const bool isOlder = rows_.back().IsOlder;
+  std::size_t& begin = notSetAside_[isOlder ? 1 : 0];
+  const auto isOrder = [&](std::size_t row) {
+    return IsUnderstood(lines[row]) && rows_[row].IsOlder == isOlder;
+  };
   bool any = false;
-  std::size_t& row = notSetAside_[isOlder ? 1 : 0];
-  for (; row < end; ++row) {
-    if (!IsUnderstood(lines[row]) || rows_[row].IsOlder != isOlder) continue;
+  bool isOfSome = false;
+  for (std::size_t row = begin; row < end; ++row) {
+    any = any || isOrder(row);
+    isOfSome = isOfSome || (isOrder(row) && Concerns(about, lines[row].Order));
+  }
+  for (std::size_t row = begin; row < end; ++row) {
+    if (!isOrder(row) || (isOfSome && !Concerns(about, lines[row].Order))) continue;
     rows_[row].Doubt = reason;
     rows_[row].DoubtAt = at;
-    any = true;
+    rows_[row].IsSetAside = true;
   }
+  if (!isOfSome) begin = std::max(begin, end);
   return any;
 }
 
-void SurroundingsOfLines::TakeHeading(int power, bool corrects,
+void SurroundingsOfLines::TakeHeading(int power, bool corrects, bool isOfOrders,
                                       const std::vector<ReadLine>& lines) {
   if (reason_.empty()) return;
-  while (below_ < lines.size() && !IsUnderstood(lines[below_]))
+  while (below_ < lines.size() && !IsUnderstood(lines[below_]) && !IsUnclear(lines[below_]))
     ++below_;
-  const bool isOfAnother = below_ < lines.size() && power_ != 0 && power != 0 && power != power_;
-  if (corrects || isOfAnother) reason_.clear();
+  const bool isOfAnother = power_ != 0 && power != 0 && power != power_;
+  if (corrects || (below_ < lines.size() && (isOfOrders || isOfAnother))) reason_.clear();
+}
+
+void SurroundingsOfLines::EndLine(std::size_t first, bool holdsOrders, bool isEmpty) {
+  if (!holdsOrders) {
+    if (!isEmpty || isInBlock_) lead_.clear();
+    isInBlock_ = false;
+    return;
+  }
+  if (!isInBlock_) block_ = first;
+  isInBlock_ = true;
+  blockEnd_ = rows_.size();
+  if (lead_.empty()) return;
+  SetDoubtFrom(first, lead_, leadAt_);
+  for (std::size_t row = first; row < rows_.size(); ++row)
+    rows_[row].IsSetAside = true;
+}
+
+void SurroundingsOfLines::LeadTo(const std::string& reason, Span at) {
+  lead_ = reason;
+  leadAt_ = at;
+}
+
+void SurroundingsOfLines::DoubtBlock(const std::string& reason, Span at) {
+  Doubt(block_, blockEnd_, reason, at);
+}
+
+/// Rows of the same part of the text as the last one.
+void SurroundingsOfLines::Doubt(std::size_t first, std::size_t end, const std::string& reason,
+                                Span at) {
+  for (std::size_t row = first; row < end; ++row) {
+    if (!rows_[row].Doubt.empty() || rows_[row].IsOlder != rows_.back().IsOlder) continue;
+    rows_[row].Doubt = reason;
+    rows_[row].DoubtAt = at;
+  }
 }
 
 }  // namespace orb::exchange

@@ -17,19 +17,49 @@ struct VerbWords {
 constexpr std::array Verbs{
     VerbWords{Verb::Move,
               "to into m mv move moves moving attack attacks attacking go goes going advance "
-              "advances march marches sail sails enter enters invade "
-              "invades head heads heading proceed proceeds travel travels send"},
-    VerbWords{Verb::Hold, "h hold holds holding hld stand stands stay stays remain remains"},
-    VerbWords{Verb::Support, "s sup supp supports support supporting spt sprt su"},
+              "advances march marches sail sails enter enters invade invades head heads "
+              "heading proceed proceeds travel travels send geht gehe gehen zieht ziehe "
+              "ziehen marschiert marschiere nach attackiert va vais vado attaque ataca "
+              "attacca marche avance avanza muove muovo mueve muevo rukt gaat ga naar trekt "
+              "gar rykker rusza idzie vers hacia proceeding moved sailing marching"},
+    VerbWords{Verb::Hold,
+              "h hold holds holding hld stand stands stay stays remain remains halt haelt "
+              "halte halten haller holdt holder houdt houden bleibt bleiben blijft blir reste "
+              "tient tenir mantiene queda quedan resta sta pozostaje stoi mantem"},
+    VerbWords{Verb::Support,
+              "s sup supp supports support supporting spt sprt su backs backing unterstutzt "
+              "unterstuetzt unterstutze unterstutzung soutient soutien soutenir soutiens "
+              "steunt ondersteunt apoya apoyo apoyando sostiene appoggia appoggio supporto "
+              "supporta supporte appuie stotter stodjer stoder stoetter apoia wspiera "
+              "wsparcie"},
     VerbWords{Verb::Convoy,
-              "c cv cvy conv convoy convoys convoying transport transports carry carries"},
-    VerbWords{Verb::Retreat, "r ret retr retreat retreats retreating withdraw withdraws"},
+              "c cv cvy conv convoy convoys convoying transport transports carry carries "
+              "carrying konvoi konvoit konvoiert convoie convoye convoya convoyer convoglia "
+              "transporte transporta trasporta transportiert konvojerar konvojerer konwojuje "
+              "konwoj vervoert convoyeert ferries ferry"},
+    VerbWords{Verb::Retreat,
+              "r ret retr retreat retreats retreating withdraw withdraws ruckzug rueckzug "
+              "retraite recule ritirata ritira retirada retira terugtocht trekt retratt "
+              "retraet tilbagetog odwrot weicht"},
     VerbWords{Verb::Disband,
-              "d dis disb disband disbands disbanded disbanding remove removes removed removing "
-              "removal removals destroy destroys destroyed disbandment disbandments"},
-    VerbWords{Verb::Build, "b bld build builds building raise raises"},
+              "d dis disb disband disbands disbanded disbanding remove removes removed "
+              "removing removal removals destroy destroys destroyed disbandment disbandments "
+              "auflosen aufloesen aufgelost dissout dissoute dissoudre sciolta scioglie "
+              "sciogliere disolver disuelve ontbonden ontbinden upploses upplosa oplost "
+              "oploses rozwiazac rozwiazana abbau retirer supprimer eliminar eliminare "
+              "dissolver"},
+    VerbWords{
+        Verb::Build,
+        "b bld build builds building raise raises baut bauen baue aufbau construit construire "
+        "construction construis costruisce costruire costruisco costruzione construye construir "
+        "construyo construccion bouwt bouwen bouw bygger bygg byg buduje budowa constroi"},
     VerbWords{Verb::Waive, "w waive waives waived waiving waiver"},
 };
+
+constexpr std::string_view Armies =
+    "a army armies armeen armees ejercito ejercitos exercito esercito armata armia arme leger";
+constexpr std::string_view Fleets =
+    "f fleet fleets flotte flotten flottes flota flotas flotta vloot vloten flottan flaaden";
 
 struct UseWords {
   WordUse Use;
@@ -41,47 +71,88 @@ struct UseWords {
 // order that nobody meant.
 constexpr std::array Uses{
     UseWords{WordUse::Filler,
+             "die das der la le il lo el los las les meine meiner mein mijn mon mes mio mia mi min "
+             "mina moja nos onze notre our "
              "both the my our an please pls plz will shall is are his her their unit units "
              "dislodged gives lends provides"},
     UseWords{WordUse::Condition,
              "if unless otherwise else or either maybe perhaps instead not dont never cancel "
              "except depending should could might may cancelled canceled provided when until "
-             "ignore no wont option alternative alternatively draft proposal proposed suggest "
-             "suggestion disregard forget scratch delete undo revoke assuming case old"},
+             "ignore no wont option alternative alternatively draft proposal proposed "
+             "suggest suggestion disregard forget scratch delete undo revoke assuming case "
+             "old wenn falls sofern oder vielleicht nicht noch si se sinon pas forse sino "
+             "quiza niet als tenzij misschien inte kanske hvis ikke nie jesli chyba only "
+             "whether arent isnt wasnt doesnt"},
     UseWords{WordUse::Aside, "previously formerly last next later tomorrow example eg previous"},
     UseWords{WordUse::SetsAside,
              "draft drafts example examples sample samples tentative provisional preliminary "
-             "result results outcome outcomes report adjudication history idea ideas thoughts "
-             "thinking hypothetical version previously yesterday yesterdays earlier considering "
-             "possible possibly options scenario proposals suggestions suggested wrong invalid "
-             "superseded obsolete outdated discarded dummy fake test tests probably unconfirmed "
-             "pending tbc tbd withdrawn void vorige letzte entwurf beispiel brouillon exemple "
-             "concept voorbeeld"},
+             "result results outcome outcomes report adjudication history idea ideas "
+             "thoughts thinking hypothetical version previously yesterday yesterdays earlier "
+             "considering possible possibly options scenario proposals suggestions suggested "
+             "wrong invalid superseded obsolete outdated discarded dummy fake test tests "
+             "probably unconfirmed pending tbc tbd withdrawn void vorige letzte entwurf "
+             "beispiel brouillon exemple concept voorbeeld bozza borrador utkast kladde "
+             "szkic rascunho vorlaufig provisoire provvisorio provisorio voorlopig "
+             "preliminar forelopig ergebnisse resultats risultati resultados uitslag "
+             "resultat wyniki"},
     UseWords{WordUse::Heading,
              "orders order for from of the my our your here are is follow follows following "
-             "these as below in and spring autumn fall winter summer season year turn phase game "
-             "player power country moves move movement movements retreat retreats build builds "
-             "building adjustment adjustments removal removals disband disbands final new set "
-             "press submitted by revised updated gm this disbandments with remove removes "
-             "removing disbanding destroys correction corrections corrected change changes "
-             "update"},
+             "these as below in and spring autumn fall winter summer season year turn phase "
+             "game player power country moves move movement movements retreat retreats build "
+             "builds building adjustment adjustments removal removals disband disbands final "
+             "new set press submitted by revised updated gm this disbandments with remove "
+             "removes removing disbanding destroys correction corrections corrected change "
+             "changes update herbst fruhjahr fruhling fruehjahr sommer automne printemps "
+             "hiver autunno primavera inverno otono invierno herfst lente najaar voorjaar "
+             "host hosten var varen efterar forar jesien wiosna outono befehle befehl ordres "
+             "ordini ordine ordenes rozkazy ordens ordrer zuge zug ruckzuge fur pour per "
+             "para voor till til voor dla de von der die das des le la les sind son sont "
+             "sono yr yours today now spieler joueur bonjour hallo"},
     UseWords{
         WordUse::Correction,
         "correction corrections korrektur correzione correccion correctie correcao rectification "
         "rectificatif rattelse rettelse korekta poprawka errata erratum update updates revision "
         "amendment amendments edit instead"},
+    UseWords{
+        WordUse::Reservation,
+        "but or unless if only except although though however otherwise else provided assuming "
+        "depending aber oder falls wenn mais ou sauf ma pero maar tenzij men eller ale albo mas"},
+    UseWords{WordUse::Offer,
+             "question questions unclear wrong illegal mistake mistakes typo typos problem "
+             "problems anything know missed error errors forgot missing understand help fragen "
+             "unklar probleme domande preguntas vragen"},
+    UseWords{WordUse::Wish,
+             "i id ill im we wed well lets let would like love want wish to will shall going "
+             "please am be obliged grateful glad appreciate if you could should can kindly have "
+             "make ich mochte wurde gerne bitte je voudrais souhaite voglio vorrei quiero quisiera "
+             "ik wil graag jag vill jeg chce"},
+    UseWords{WordUse::Season,
+             "spring summer autumn fall winter herbst fruhjahr fruhling sommer automne printemps "
+             "hiver ete autunno primavera estate inverno otono verano invierno outono verao herfst "
+             "lente zomer najaar voorjaar host hosten var varen forar efterar jesien wiosna zima"},
+    UseWords{WordUse::Report,
+             "told tells proposed proposes suggests asked asks wants wanted said says claims "
+             "claimed thinks expects believes promised promises offered offers lied pretended "
+             "sagte meinte dit disait dice zei"},
     UseWords{WordUse::Definite,
-             "final new revised updated corrected changed amended actual real definitive latest"},
+             "final new revised updated corrected changed amended actual real definitive "
+             "latest"},
     UseWords{WordUse::Orders, "order orders move moves version set list"},
     UseWords{WordUse::Greeting,
-             "hi hello hey dear greetings good morning evening howdy salut bonjour hallo ciao "
-             "regards best cheers thanks thank yours sincerely bye kind thx gl warm cordially "
-             "moin goodbye"},
+             "hi hello hey dear greetings good morning evening howdy salut bonjour hallo "
+             "ciao regards best cheers thanks thank yours sincerely bye kind thx gl warm "
+             "cordially moin goodbye love gruss grus grusse gruse gruesse saludos saluti "
+             "groeten groetjes hilsen halsningar pozdrawiam abracos abrazos bisous mfg lg "
+             "mvh hej hola ola dag czesc salve buongiorno bonsoir servus hiya yo sent"},
     UseWords{WordUse::Mood,
-             "thanks thank thx ty cheers regards greetings good luck gl hf glhf best danke bitte "
-             "merci dank bedankt gracias grazie lol rofl haha hahaha hehe heh yay wow nice great "
-             "cool fun sorry hi hello hey friend friends ally allies buddy mate dear everyone "
-             "everybody guys folks gm"},
+             "thanks thank thx ty cheers regards greetings good luck gl hf glhf best danke "
+             "bitte merci dank bedankt gracias grazie lol rofl haha hahaha hehe heh yay wow "
+             "nice great cool fun sorry hi hello hey friend friends ally allies buddy mate "
+             "dear everyone everybody guys folks gm yours sincerely love xoxo gruss grus "
+             "grusse gruse gruesse saludos saluti groeten groetjes hilsen halsningar "
+             "pozdrawiam abracos abrazos ciao bisous salut servus mfg lg vg mvh mfs bye "
+             "night weekend ta tack takk tak dzieki obrigado obrigada prego wink grin cheeky "
+             "boring"},
     UseWords{WordUse::Purpose,
              "bounce bounces bouncing standoff selfbounce cover covers covering guard guards "
              "protect protects block blocks blocking defend defends defence defense defensive "
@@ -89,9 +160,11 @@ constexpr std::array Uses{
     UseWords{WordUse::Plain,
              "better fine ok okay yes yep yeah you we us i am all hope hopefully it works "
              "fingers crossed of course obviously naturally fyi btw sure surely definitely "
-             "certainly confirmed confirm confirming final agreed as discussed promised usual "
-             "again still unchanged same corrected correction revised updated changed new safe "
-             "safety self order orders and this that here in at from for with by"},
+             "certainly confirmed confirm confirming final agreed as discussed promised "
+             "usual again still unchanged same corrected correction revised updated changed "
+             "new safe safety self order orders and this that here in at from for with by "
+             "really always now too also then well indeed just simply first second third 1st "
+             "2nd 3rd 4th 5th unit number dvs ie namely sprich cioe soit"},
 };
 
 /// "s01", "f1901m", "1901", "1901s", "1st": letters about a number.
@@ -104,27 +177,19 @@ bool IsSeasonCode(std::string_view word) {
 
 using Meanings = std::unordered_map<std::string_view, WordMeaning>;
 
-template <class Take>
-void ForEachWord(std::string_view words, Take take) {
-  while (!words.empty()) {
-    const std::size_t end = std::min(words.find(' '), words.size());
-    take(words.substr(0, end));
-    words.remove_prefix(std::min(end + 1, words.size()));
-  }
-}
-
 Meanings AllMeanings() {
   Meanings meanings;
-  for (const VerbWords& row : Verbs)
-    ForEachWord(row.Words, [&](std::string_view word) { meanings[word].Does = row.Meaning; });
-  for (const UseWords& row : Uses) {
-    ForEachWord(row.Words, [&](std::string_view word) {
-      meanings[word].Uses |= static_cast<unsigned>(row.Use);
-    });
+  for (const VerbWords& row : Verbs) {
+    for (const std::string_view word : Parts(row.Words, ' '))
+      meanings[word].Does = row.Meaning;
   }
-  for (const std::string_view word : {"a", "army", "armies"})
+  for (const UseWords& row : Uses) {
+    for (const std::string_view word : Parts(row.Words, ' '))
+      meanings[word].Uses |= static_cast<unsigned>(row.Use);
+  }
+  for (const std::string_view word : Parts(Armies, ' '))
     meanings[word].UnitType = 'A';
-  for (const std::string_view word : {"f", "fleet", "fleets"})
+  for (const std::string_view word : Parts(Fleets, ' '))
     meanings[word].UnitType = 'F';
   return meanings;
 }
@@ -137,6 +202,16 @@ WordMeaning MeaningOf(std::string_view word) {
   WordMeaning meaning = found == meanings.end() ? WordMeaning() : found->second;
   if (IsSeasonCode(word)) meaning.Uses |= static_cast<unsigned>(WordUse::Heading);
   return meaning;
+}
+
+std::vector<std::string_view> Parts(std::string_view text, char separator) {
+  std::vector<std::string_view> parts;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find(separator), text.size());
+    if (end > 0) parts.push_back(text.substr(0, end));
+    text.remove_prefix(std::min(end + 1, text.size()));
+  }
+  return parts;
 }
 
 char CoastLetter(std::string_view word) {

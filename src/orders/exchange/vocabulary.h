@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 namespace orb::exchange {
 
@@ -19,7 +20,7 @@ enum class Verb : std::uint8_t {
 };
 
 /// What a word is for beside being a verb, a type or a name. Each value is a bit.
-enum class WordUse : std::uint16_t {
+enum class WordUse : std::uint32_t {
   Filler = 1,       ///< says nothing in an order: "the", "my", "please"
   Condition = 2,    ///< an order depends on something or is taken back: "if", "or", "not"
   Aside = 4,        ///< tells, before an order, that it is not for now: "last" turn, "example"
@@ -29,9 +30,15 @@ enum class WordUse : std::uint16_t {
   Mood = 0x40,      ///< harmless beside an order: thanks and moods, which may address a power
   Purpose = 0x80,   ///< harmless beside an order: what it is for, or who helps; it may name places
   Plain = 0x100,    ///< harmless beside an order: words around those; the order is as meant
-  Correction = 0x200,  ///< of titles: what is below holds rather than what is above
-  Definite = 0x400,    ///< "final", "new", before those of Orders
-  Orders = 0x800       ///< "orders", "moves", "version"
+  Correction = 0x200,    ///< of titles: what is below holds rather than what is above
+  Definite = 0x400,      ///< "final", "new", before those of Orders
+  Orders = 0x800,        ///< "orders", "moves", "version"
+  Draft = 0x1000,        ///< of a mail's subject: its orders are not for now
+  Reservation = 0x2000,  ///< begins a line about the orders above: "but", "or", "unless"
+  Wish = 0x1'0000,       ///< before an order: "I would like to"
+  Season = 0x2'0000,     ///< "spring"
+  Report = 0x8000,       ///< tells what somebody else says or wants
+  Offer = 0x4000         ///< of lines that offer help: "if anything is unclear"
 };
 
 /// What a word can mean wherever it stands.
@@ -45,6 +52,9 @@ struct WordMeaning {
 
 /// The meaning of a word in small letters.
 WordMeaning MeaningOf(std::string_view word);
+
+/// What stands between separators, in tables that hold several words in a text.
+std::vector<std::string_view> Parts(std::string_view text, char separator);
 
 /// The letter of a coast: n, s, e or w for "nc", "north" and their like, else 0.
 char CoastLetter(std::string_view word);

@@ -3,6 +3,7 @@
 #include "text/strings.h"
 
 #include <algorithm>
+#include <array>
 
 namespace orb::exchange {
 namespace {
@@ -63,6 +64,26 @@ std::size_t RunEnd(std::string_view text, std::size_t at, std::string_view signs
   return std::min(text.find_first_not_of(signs, at), text.size());
 }
 
+/// Behind a face, ":-)", ";)", "8-)", ":twisted:", that stands between blanks; else the same.
+std::size_t PastFace(std::string_view text, std::size_t at) {
+  if (at > 0 && text[at - 1] != ' ') return at;
+  const std::size_t blank = std::min(text.find(' ', at), text.size());
+  const std::string_view word = text.substr(at, blank - at);
+  constexpr std::array<std::string_view, 22> faces{
+      ":)", ":-)", ";)", ";-)", ":D", ":-D", ";D",   ":P", ":-P", ":p",  ";P",
+      "8)", "8-)", "=)", "^^",  "<3", "xD",  "\\o/", "XD", ":o)", ":))", ";-))"};
+  if (std::ranges::find(faces, word) != faces.end()) return blank;
+  const bool isNamed = word.size() > 2 && word.front() == ':' && word.back() == ':' &&
+                       std::ranges::all_of(word.substr(1, word.size() - 2),
+                                           [](char c) { return IsLetterOrDigit(c) || c == '_'; });
+  return isNamed ? blank : at;
+}
+
+/// Whether dots lead from one column to the next, as a dash does; three are an ellipsis.
+bool IsLeader(std::string_view text, std::size_t at) {
+  return text.substr(at).starts_with("....");
+}
+
 /// The token that begins here; what parts tokens has been passed.
 Token NextToken(std::string_view text, std::size_t at) {
   Token token;
@@ -77,6 +98,13 @@ Token NextToken(std::string_view text, std::size_t at) {
   if (DashSigns.find(c) != std::string_view::npos) {
     token.Kind = TokenKind::Dash;
     token.End = RunEnd(text, at, DashSigns);
+  } else if (IsLeader(text, at)) {
+    token.Kind = TokenKind::Dash;
+    token.End = RunEnd(text, at, ".");
+  } else if (c == '<' && at + 1 < text.size() &&
+             DashSigns.find(text[at + 1]) != std::string::npos) {
+    token.Kind = TokenKind::Mark;
+    token.End = RunEnd(text, at + 1, DashSigns);
   } else if (c == '&') {
     token.End = at + 1;
     token.SetWord("and");
@@ -106,6 +134,10 @@ std::vector<Token> CutTokens(std::string_view plain) {
     // An apostrophe that is no part of a word is a quotation mark.
     if (plain[at] == '\'' || Parting.find(plain[at]) != std::string_view::npos) {
       ++at;
+      continue;
+    }
+    if (const std::size_t face = PastFace(plain, at); face != at) {
+      at = face;
       continue;
     }
     Token token = NextToken(plain, at);

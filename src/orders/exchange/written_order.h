@@ -43,7 +43,8 @@ struct WrittenOrder {
   Verb OtherWhat = Verb::None;  ///< Move or Hold, None: not written
   WrittenPlace Destination;     ///< of the move, also the supported or convoyed one
   bool ByConvoy = false;
-  std::size_t End = 0;  ///< the token behind it; only remarks follow
+  bool IsGuess = false;  ///< no verb is written: "A Par Bur"
+  std::size_t End = 0;   ///< the token behind it; only remarks follow
 };
 
 }  // namespace orb::exchange
