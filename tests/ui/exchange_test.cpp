@@ -216,7 +216,7 @@ TEST_F(WindowTest, ThePowerOfAPasteIsChosenAndMeaningsAreOffered) {
 TEST_F(WindowTest, DoubtfulOrdersWaitAboveTheSureOnesForATick) {
   const auto file = directory_.Write("orders.txt",
                                      "FRANCE\nF Bre - MAO\nA Par - Bur (tentative)\nA Mar - Bur\n"
-                                     "A Mar H\nGERMANY\nA Mun x\nA Ber - Kie\nSorry, rather:\n"
+                                     "A Mar H\nGERMANY\nA Mun x\nA Ber - Kie\nI changed my mind:\n"
                                      "A Ber - Pru\n");
   const auto decide = [](QDialog& dialog) {
     const Preview preview(dialog);
