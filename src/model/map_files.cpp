@@ -98,7 +98,8 @@ void LoadNameFixes(std::string_view bytes, const std::string& fileName, Map& map
 }
 
 void LoadProvinces(std::string_view bytes, const std::string& fileName, Map& map) {
-  RecordReader reader(bytes, fileName);
+  // Games are saved with the names and the powers of the map.
+  RecordReader reader(bytes, fileName, LoneQuotes::Refused);
   do {
     if (map.Provinces.Count() == ProvinceBound) {
       throw IndexOutOfRange(text::NameInText(fileName) + ": expected at most " +

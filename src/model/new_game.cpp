@@ -14,7 +14,9 @@ namespace {
 class StartFile {
  public:
   explicit StartFile(const std::filesystem::path& dataDirectory)
-      : path_(dataDirectory / "start.dat"), bytes_(ReadFile(path_)), reader_(bytes_, path_) {}
+      : path_(dataDirectory / "start.dat"),
+        bytes_(ReadFile(path_)),
+        reader_(bytes_, path_, LoneQuotes::Refused) {}
   RecordReader& Reader() { return reader_; }
 
  private:

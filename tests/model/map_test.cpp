@@ -169,6 +169,7 @@ TEST(MapFiles, ABrokenOneIsRefusedWithItsNameAndReason) {
       {"prov.dat", "Lon,ENG,1,nan,0,0,0,x\r\n", false, "nan"},
       {"prov.dat", Repeat(2, "Lon,ENG,1,0,0,0,0\r\n"), false, "unit's y"},
       {"prov.dat", "\"Lon,ENG,1,0,0,0,0,x\r\n", false, "closing quote"},
+      {"prov.dat", "Lon,E\"NG,1,0,0,0,0,x\r\n", false, "double quote"},
       {"prov.dat", Repeat(91, "Lon,,0,0,0,0,0,x\r\n"), true, "90"},
       {"conna.dat", "", false, "empty"},
       {"connf.dat", "", false, "empty"},

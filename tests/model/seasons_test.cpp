@@ -71,7 +71,7 @@ TEST(NewGame, ABrokenStartFileChangesNothing) {
     units += "\"ENG\",\"A\",\"Lon\"\r\n";
   for (const std::string& bytes : std::vector<std::string>{
            "", "\"Spring\"", "\"Spring\",soon", units, "\"Spring\",1901\r\n\"ENG\",\"A\"",
-           "\"Spring\",1901\r\n\"ENG\",\"A\",\"Xyz\"",
+           "\"Spring\",1901\r\n\"ENG\",\"A\",\"Xyz\"", "Sp\"ring,1901",
            "\"Spring\",1901\r\n\"XXX\",\"A\",\"Lon\""}) {
     const TemporaryDirectory directory;
     directory.Write("start.dat", bytes);

@@ -131,6 +131,12 @@ TEST_F(MapFile, AChangedBackgroundIsSeenAndAMissingOneNoticed) {
   EXPECT_THROW(Image(200), model::FileError);
   directory_.Write("map.bmp", "BM and nothing more");
   EXPECT_THROW(Image(200), model::FileError);
+  // A header may ask for any size: here one whose rows run from top to bottom.
+  std::string large = Background(Qt::white);
+  large.replace(18, 8, std::string_view("\0\x50\0\0\0\xFC\xFF\xFF", 8));
+  directory_.Write("map.bmp", large);
+  EXPECT_THAT([&] { Image(200); },
+              testing::ThrowsMessage<model::FileError>(HasSubstr("20480 by 1024")));
   EXPECT_NO_THROW(Image(200, {MapMode::BlackWhite}));
   EXPECT_THROW(Image(200, {MapMode::Grey}), model::FileError);
 }

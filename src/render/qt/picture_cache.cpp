@@ -3,6 +3,9 @@
 #include "model/errors.h"
 #include "model/files.h"
 
+#include <QBuffer>
+#include <QImageReader>
+
 #include <algorithm>
 #include <cmath>
 #include <string>
@@ -15,13 +18,34 @@ namespace {
 constexpr double TwipsPerInch = 1440;
 constexpr double MetresPerInch = 0.0254;
 
+/// The most that a picture may take in memory: a few bytes of a broken header can ask for anything.
+qint64 LargestPicture(std::size_t fileSize) {
+  constexpr qint64 always = 50'000'000;
+  return always + 10 * static_cast<qint64>(fileSize);
+}
+
+/// What decoding takes: an index of the colour and the colour for each pixel. The height is
+/// negative where the rows run from top to bottom.
+qint64 MemoryFor(QSize size) {
+  constexpr qint64 bytesPerPixel = 5;
+  return std::abs(bytesPerPixel * size.width() * size.height());
+}
+
 /// Reads through the core's file functions, so that a missing file gives the same message
 /// everywhere.
 QImage Decode(const std::filesystem::path& file) {
   const std::string bytes = model::ReadFile(file);
-  const QByteArray data =
-      QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
-  const QImage picture = QImage::fromData(data);
+  QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  QBuffer buffer(&data);
+  QImageReader reader(&buffer);
+  const QSize size = reader.size();
+  if (MemoryFor(size) > LargestPicture(bytes.size())) {
+    throw model::FileError(
+        "Cannot read " + file.string() + ": a picture of " + std::to_string(size.width()) + " by " +
+        std::to_string(std::abs(size.height())) + " is too large for a file of " +
+        std::to_string(bytes.size()) + " bytes.");
+  }
+  const QImage picture = reader.read();
   if (picture.isNull()) {
     throw model::FileError("Cannot read " + file.string() + ": it is not a bitmap picture.");
   }
