@@ -24,48 +24,28 @@ bool IsBuild(const OrderLine& order) {
   return order.Kind == OrderKind::Build;
 }
 
-/// What a failed check found, and the words that the user sees, which sometimes differ.
-struct Fault {
-  OrderResult Result = OrderResult::None;
-  std::string_view Message;
-};
-
-Fault DisbandFault(const Resolution& resolution, const GameState& game, const OrderLine& order) {
+OrderResult DisbandFault(const Resolution& resolution, const GameState& game,
+                         const OrderLine& order) {
   const int u = model::FindUnitAt(game, order.Location);
-  if (u != 0 && resolution.Pieces[u] == orders::OrderedPiece(order)) return {};
-  return {OrderResult::NoSuchUnit, "no such unit."};
+  const bool fits = u != 0 && resolution.Pieces[u] == orders::OrderedPiece(order);
+  return fits ? OrderResult::None : OrderResult::NoSuchUnit;
 }
 
-Fault BuildFault(const GameState& game, const OrderLine& order) {
-  const model::Map& map = *game.Map;
-  // A coast has the home and the owner of its province. A unit on any coast is in the way.
-  const int centre = model::ProvinceOf(map, order.Location);
-  const std::string_view power = model::PowerName(order.Power);
-  if (centre == 0 || power.empty() || map.Provinces[centre].HomeCountry != power ||
-      !model::IsCentre(map, centre)) {
-    return {OrderResult::NotHomeCentre, "not home centre."};
-  }
-  if (game.Provinces[centre].Owner != power) {
-    return {OrderResult::CentreNotOwned, "centre not owned."};
-  }
-  if (model::FindUnitAt(game, order.Location) != 0) {
-    return {OrderResult::CentreNotEmpty, "centre not empty1."};
-  }
-  if (!model::CanStandIn(map, order.UnitType, order.Location)) {
-    return {OrderResult::ImpossibleUnit, "impossible unit."};
-  }
-  return {};
+/// What the user is told of a fault; once it is not the word that the report has.
+std::string FaultMessage(OrderResult fault) {
+  if (fault == OrderResult::NotHomeCentre) return "not home centre.";
+  return std::string(orders::ResultWord(fault)).append(".");
 }
 
 /// Also looks at lines that broke the form: the word that it finds for them is the one reported.
 bool CheckEachOrder(const GameState& game, Resolution& resolution, Questions& questions) {
   for (int k = 1; k <= resolution.Orders.Count(); ++k) {
     OrderLine& order = resolution.Orders[k];
-    const Fault fault =
+    const OrderResult fault =
         IsBuild(order) ? BuildFault(game, order) : DisbandFault(resolution, game, order);
-    if (fault.Result == OrderResult::None) continue;
-    orders::Reject(order, fault.Result);
-    if (!questions.GoOn(k, model::WarningText(order.Text, fault.Message))) return false;
+    if (fault == OrderResult::None) continue;
+    orders::Reject(order, fault);
+    if (!questions.GoOn(k, model::WarningText(order.Text, FaultMessage(fault)))) return false;
   }
   return true;
 }
@@ -114,39 +94,22 @@ bool CheckAdjustmentCounts(const GameState& game, const OrderTable& table, Messa
   return true;
 }
 
-void ReportAdjustments(GameState& game, Resolution& resolution) {
-  game.ReportLines.Append("ADJUSTMENTS");
-  resolution.Entries.push_back({game.ReportLines.Count(), 0});
-  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
-    const OrderLine& order = resolution.Orders[k];
-    std::string line = order.Active ? order.Text + "  " : "[ " + order.Text + " ]  ";
-    if (!order.Active) line += orders::ResultWord(order.Result);
-    game.ReportLines.Append(std::move(line));
-    resolution.Entries.push_back({game.ReportLines.Count(), k});
-  }
-}
-
-/// A build that finds no room on the board ends it: what follows, removals too, is not carried out.
-void ApplyAdjustments(GameState& game, const OrderTable& table, Messages& messages) {
-  for (const OrderLine& order : table) {
-    if (!order.Active) continue;
-    if (!IsBuild(order)) {
-      game.Units.Remove(model::FindUnitAt(game, order.Location));
-    } else if (game.Units.Count() == model::UnitBound) {
-      messages.Show("Too many units", model::Icon::Stop);
-      return;
-    } else {
-      game.Units.Append({std::string(model::PowerName(order.Power)),
-                         std::string(model::UnitTypeName(order.UnitType)),
-                         model::LocationName(*game.Map, order.Location),
-                         {},
-                         {},
-                         {}});
-    }
-  }
-}
-
 }  // namespace
+
+OrderResult BuildFault(const GameState& game, const OrderLine& order) {
+  const model::Map& map = *game.Map;
+  // A coast has the home and the owner of its province. A unit on any coast is in the way.
+  const int centre = model::ProvinceOf(map, order.Location);
+  const std::string_view power = model::PowerName(order.Power);
+  if (centre == 0 || power.empty() || map.Provinces[centre].HomeCountry != power ||
+      !model::IsCentre(map, centre)) {
+    return OrderResult::NotHomeCentre;
+  }
+  if (game.Provinces[centre].Owner != power) return OrderResult::CentreNotOwned;
+  if (model::FindUnitAt(game, order.Location) != 0) return OrderResult::CentreNotEmpty;
+  return model::CanStandIn(map, order.UnitType, order.Location) ? OrderResult::None
+                                                                : OrderResult::ImpossibleUnit;
+}
 
 int ChangeOf(const OrderTable& table, int power) {
   int change = 0;
@@ -172,8 +135,10 @@ Resolution ResolveAdjustments(GameState& game, Messages& messages) {
   Resolution resolution =
       StartResolution(model::Stage::Adjustments, game, std::move(game.AdjustmentsList));
   if (!CheckAdjustments(game, resolution, messages)) return resolution;
-  ReportAdjustments(game, resolution);
-  ApplyAdjustments(game, resolution.Orders, messages);
+  WriteAdjustmentReport(game, resolution);
+  if (!CarryOutAdjustments(game, resolution.Orders)) {
+    messages.Show("Too many units", model::Icon::Stop);
+  }
   game.AdjustmentsList.clear();
   game.Stage = model::Stage::Finished;
   resolution.Completed = true;

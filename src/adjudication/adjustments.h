@@ -9,6 +9,9 @@ namespace orb::adjudication {
 // An adjustment order: POWER BUILD TYPE(LOC), or POWER DISBAND TYPE(LOC); power and verb in any
 // case.
 
+/// Why the power cannot build the unit there as things stand; None where it can.
+orders::OrderResult BuildFault(const model::GameState& game, const orders::OrderLine& order);
+
 /// How many units the valid orders add to the power in row 1..7; below 0 when they take some away.
 int ChangeOf(const orders::OrderTable& table, int power);
 

@@ -21,14 +21,14 @@ Explanation ExplainOrder(const model::GameState& after, const Resolution& resolu
   }
 }
 
-std::vector<std::string> ExplainReport(const model::GameState& after,
-                                       const Resolution& resolution) {
+std::vector<std::string> ExplainReport(const model::GameState& after, const Resolution& resolution,
+                                       Explain explain) {
   std::vector<std::string> sentences(static_cast<std::size_t>(after.ReportLines.Count()));
   for (const ReportEntry& entry : resolution.Entries) {
     std::string& sentence = sentences.at(static_cast<std::size_t>(entry.Line - 1));
     // Two orders for one unit write to the same line of the report.
     if (!sentence.empty()) sentence += ' ';
-    sentence += Sentence(ExplainOrder(after, resolution, entry.Order));
+    sentence += Sentence(explain(after, resolution, entry.Order));
   }
   return sentences;
 }

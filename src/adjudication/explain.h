@@ -18,8 +18,13 @@ std::string Sentence(const Explanation& explanation);
 /// done.
 Explanation ExplainOrder(const model::GameState& after, const Resolution& resolution, int order);
 
+/// How ExplainOrder and its like for other rules are called.
+using Explain = Explanation (*)(const model::GameState& after, const Resolution& resolution,
+                                int order);
+
 /// One sentence for each line of `after`'s report; empty for a line that this resolution did not
-/// write to.
-std::vector<std::string> ExplainReport(const model::GameState& after, const Resolution& resolution);
+/// write to. `explain` is that of the rules which it was resolved by.
+std::vector<std::string> ExplainReport(const model::GameState& after, const Resolution& resolution,
+                                       Explain explain = ExplainOrder);
 
 }  // namespace orb::adjudication

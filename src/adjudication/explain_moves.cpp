@@ -27,32 +27,6 @@ std::string AimText(const Resolution& resolution, const OrderLine& move) {
   return std::string(orders::CutOrder(move.Text, resolution.Stage, work).Target);
 }
 
-/// Why a support or convoy found no order that it describes.
-Explanation NotUsed(const Resolution& resolution, const OrderLine& order) {
-  const OrderTable& table = resolution.Orders;
-  const std::string verdict = "It is void";
-  const std::string other = std::string(model::PowerName(order.Power2)) + " " +
-                            std::string(UnitTypeName(order.UnitType2)) + "(" +
-                            NameOf(resolution, order.Target) + ")";
-  // The last of several orders for a unit is the one that counts.
-  for (int t = table.Count(); t >= 1; --t) {
-    if (!orders::RefersTo(order, table[t])) continue;
-    if (!orders::IsMove(table[t])) return {verdict, other + " was not ordered to move"};
-    return {verdict,
-            other + " was ordered to move to " + AimText(resolution, table[t]) + ", not to " +
-                (order.Kind2 == OrderKind::Move ? "move to " + NameOf(resolution, order.Target2)
-                                                : "hold")};
-  }
-  return {verdict, "there is no " + other + UnitThere(resolution, order.Power2, order.Target)};
-}
-
-/// Which fleet was lost, and to whom.
-std::string BrokenConvoy(const Resolution& resolution, int fleet) {
-  const int attack = DislodgerOfUnit(resolution, fleet);
-  return UnitName(resolution, resolution.Orders[fleet]) + " was dislodged" +
-         (attack == 0 ? "" : " by " + Quoted(resolution.Orders[attack]));
-}
-
 Account ExplainCut(const Resolution& resolution, int order) {
   const Reason& reason = resolution.Reasons[order];
   const std::string text = "Its support was cut by " + Quoted(resolution.Orders[reason.Cutter]);
@@ -169,9 +143,51 @@ Account ExplainOwnFate(const Resolution& resolution, int order) {
   return account;
 }
 
-/// The supports for the order that came to nothing. One that was cut is still taken off the
-/// strength when it is withdrawn.
+/// Where another order for the same unit took it.
+std::string OtherMoveText(const Resolution& resolution, int order) {
+  const OrderTable& table = resolution.Orders;
+  const OrderLine& line = table[order];
+  int last = 0;
+  for (int k = 1; k <= table.Count(); ++k) {
+    const OrderLine& other = table[k];
+    const bool moved = other.Active && orders::IsMove(other) && !other.Failed;
+    if (moved && line.UnitIndex != 0 && other.UnitIndex == line.UnitIndex) last = k;
+  }
+  if (last == 0 || last == order) return {};
+  const bool movedItself = line.Active && orders::IsMove(line) && !line.Failed;
+  return std::string(", but ") + (last > order ? "a later" : "an earlier") + " order " +
+         (movedItself ? "took the unit on to " : "moved the unit to ") +
+         NameOf(resolution, table[last].Target);
+}
+
+}  // namespace
+
+Explanation NotUsed(const Resolution& resolution, const OrderLine& order) {
+  const OrderTable& table = resolution.Orders;
+  const std::string verdict = "It is void";
+  const std::string other = std::string(model::PowerName(order.Power2)) + " " +
+                            std::string(UnitTypeName(order.UnitType2)) + "(" +
+                            NameOf(resolution, order.Target) + ")";
+  // The last of several orders for a unit is the one that counts.
+  for (int t = table.Count(); t >= 1; --t) {
+    if (!orders::RefersTo(order, table[t])) continue;
+    if (!orders::IsMove(table[t])) return {verdict, other + " was not ordered to move"};
+    return {verdict,
+            other + " was ordered to move to " + AimText(resolution, table[t]) + ", not to " +
+                (order.Kind2 == OrderKind::Move ? "move to " + NameOf(resolution, order.Target2)
+                                                : "hold")};
+  }
+  return {verdict, "there is no " + other + UnitThere(resolution, order.Power2, order.Target)};
+}
+
+std::string BrokenConvoy(const Resolution& resolution, int fleet) {
+  const int attack = DislodgerOfUnit(resolution, fleet);
+  return UnitName(resolution, resolution.Orders[fleet]) + " was dislodged" +
+         (attack == 0 ? "" : " by " + Quoted(resolution.Orders[attack]));
+}
+
 std::string LostSupportsOf(const Resolution& resolution, int order) {
+  // One that was cut is still taken off the strength when it is withdrawn.
   const Reason& outcome = resolution.Reasons[order];
   const bool weakened = outcome.Strength < 1 + static_cast<int>(outcome.Behind.count());
   std::string text;
@@ -192,25 +208,6 @@ std::string LostSupportsOf(const Resolution& resolution, int order) {
   }
   return text;
 }
-
-/// Where another order for the same unit took it.
-std::string OtherMoveText(const Resolution& resolution, int order) {
-  const OrderTable& table = resolution.Orders;
-  const OrderLine& line = table[order];
-  int last = 0;
-  for (int k = 1; k <= table.Count(); ++k) {
-    const OrderLine& other = table[k];
-    const bool moved = other.Active && orders::IsMove(other) && !other.Failed;
-    if (moved && line.UnitIndex != 0 && other.UnitIndex == line.UnitIndex) last = k;
-  }
-  if (last == 0 || last == order) return {};
-  const bool movedItself = line.Active && orders::IsMove(line) && !line.Failed;
-  return std::string(", but ") + (last > order ? "a later" : "an earlier") + " order " +
-         (movedItself ? "took the unit on to " : "moved the unit to ") +
-         NameOf(resolution, table[last].Target);
-}
-
-}  // namespace
 
 int DislodgerOfUnit(const Resolution& resolution, int order) {
   const int unit = resolution.Orders[order].UnitIndex;

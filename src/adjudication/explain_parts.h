@@ -53,6 +53,15 @@ std::string NoWayText(const model::Map& map, const orders::OrderLine& order);
 /// Why a move of the moves stage, which a convoy could have carried, is impossible.
 Explanation ImpossibleMove(const model::Map& map, const orders::OrderLine& order);
 
+/// Why a support or convoy found no order that it describes.
+Explanation NotUsed(const Resolution& resolution, const orders::OrderLine& order);
+
+/// Which fleet was lost, and to whom.
+std::string BrokenConvoy(const Resolution& resolution, int fleet);
+
+/// The supports for the order that came to nothing, each behind a "; ".
+std::string LostSupportsOf(const Resolution& resolution, int order);
+
 /// Why a move succeeded or failed: what its strength was measured against.
 Explanation ExplainMovement(const Resolution& resolution, int order);
 

@@ -23,11 +23,6 @@ std::string CoastsOf(const Map& map, int location) {
   return names;
 }
 
-bool IsCoastal(const Map& map, int location) {
-  return model::CanStandIn(map, UnitType::Army, location) &&
-         (model::CanStandIn(map, UnitType::Fleet, location) || !CoastsOf(map, location).empty());
-}
-
 }  // namespace
 
 std::string Quoted(const OrderLine& order) {
@@ -109,9 +104,9 @@ std::string NoWayText(const Map& map, const OrderLine& order) {
 
 Explanation ImpossibleMove(const Map& map, const OrderLine& order) {
   const std::string noWay = NoWayText(map, order);
-  const bool couldSail = order.UnitType == UnitType::Army && IsCoastal(map, order.Location) &&
-                         IsCoastal(map, order.Target) &&
-                         !model::IsSamePlace(map, order.Location, order.Target);
+  const bool couldSail =
+      order.UnitType == UnitType::Army && model::IsCoastal(map, order.Location) &&
+      model::IsCoastal(map, order.Target) && !model::IsSamePlace(map, order.Location, order.Target);
   return {"It is impossible", couldSail ? noWay + " by land, and no order convoys it" : noWay};
 }
 

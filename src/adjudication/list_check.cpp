@@ -21,14 +21,6 @@ using orders::OrderLine;
 using orders::OrderResult;
 using orders::OrderTable;
 
-/// Lets every check go on to its end.
-class YesToEverything : public model::Messages {
- public:
-  bool Warn(const std::string& /*text*/) override { return true; }
-  model::Answer Ask(const std::string& /*text*/) override { return model::Answer::YesToAll; }
-  void Show(const std::string& /*text*/, model::Icon /*icon*/) override {}
-};
-
 /// Explanations tell what happened and why; before a resolution only the why is true.
 std::string WhyOf(const GameState& game, const Resolution& resolution, int k) {
   return ExplainOrder(game, resolution, k).Why;
@@ -65,20 +57,6 @@ LineProblems ProblemsOf(const GameState& game, const Resolution& resolution, int
   }
   if (const int later = OrderedAgain(resolution.Orders, k); later != 0) {
     problems.push_back("ordered again: " + resolution.Orders[later].Text);
-  }
-  return problems;
-}
-
-std::vector<PowerProblem> CountProblems(const GameState& game, const OrderTable& table) {
-  std::vector<PowerProblem> problems;
-  for (const model::Country& country : game.Countries) {
-    const model::PowerCount count = model::CountPower(game, country.Abbreviation);
-    const int units = count.Units + ChangeOf(table, model::FindCountry(country.Abbreviation));
-    if (units == count.Centres) continue;
-    problems.push_back(
-        {country.Abbreviation, (units > count.Centres ? "too many units: " : "not enough units: ") +
-                                   std::to_string(units) + " after these orders, with " +
-                                   Counted(count.Centres, "centre")});
   }
   return problems;
 }
@@ -124,7 +102,8 @@ std::size_t LinesWithRoom(const GameState& game, const std::vector<std::string>&
 /// Runs the checks of the resolution itself, so that a mark never says anything else. Of retreats
 /// it also finds those that lead back to the attacker or to a unit, which the resolution decides.
 Resolution CheckLines(const GameState& game, std::vector<std::string> lines) {
-  YesToEverything messages;
+  // Lets every check go on to its end.
+  model::Consent messages;
   Resolution resolution;
   if (game.Stage == model::Stage::Moves) {
     resolution = StartResolution(model::Stage::Moves, game, std::move(lines));
@@ -141,6 +120,25 @@ Resolution CheckLines(const GameState& game, std::vector<std::string> lines) {
 }
 
 }  // namespace
+
+Resolution CheckedOrders(const GameState& game) {
+  if (!HasOrders(game.Stage)) ThrowNothingToResolve(game);
+  return CheckLines(game, orders::StageList(game));
+}
+
+std::vector<PowerProblem> CountProblems(const GameState& game, const OrderTable& table) {
+  std::vector<PowerProblem> problems;
+  for (const model::Country& country : game.Countries) {
+    const model::PowerCount count = model::CountPower(game, country.Abbreviation);
+    const int units = count.Units + ChangeOf(table, model::FindCountry(country.Abbreviation));
+    if (units == count.Centres) continue;
+    problems.push_back(
+        {country.Abbreviation, (units > count.Centres ? "too many units: " : "not enough units: ") +
+                                   std::to_string(units) + " after these orders, with " +
+                                   Counted(count.Centres, "centre")});
+  }
+  return problems;
+}
 
 ListCheck CheckList(const GameState& game) {
   ListCheck check;

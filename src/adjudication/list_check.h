@@ -1,5 +1,6 @@
 #pragma once
 
+#include "adjudication/resolution.h"
 #include "model/game_state.h"
 
 #include <string>
@@ -27,5 +28,14 @@ struct ListCheck {
 /// there is no room in the order table have that as their problem. A stage without orders gives an
 /// empty check.
 ListCheck CheckList(const model::GameState& game);
+
+/// The stage's list as resolving it would check it, without a question: what each line means and
+/// whether it was rejected, and an order for each unit that had none. Throws IndexOutOfRange for
+/// more than 80 orders, and FatalError in a stage without orders.
+Resolution CheckedOrders(const model::GameState& game);
+
+/// The powers whose units will not be as many as their centres after these adjustments.
+std::vector<PowerProblem> CountProblems(const model::GameState& game,
+                                        const orders::OrderTable& table);
 
 }  // namespace orb::adjudication

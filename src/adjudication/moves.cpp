@@ -6,9 +6,7 @@
 #include "model/lookups.h"
 #include "orders/binding.h"
 #include "orders/parser.h"
-#include "text/strings.h"
 
-#include <algorithm>
 #include <bitset>
 #include <utility>
 
@@ -19,15 +17,6 @@ using model::GameState;
 using orders::IsConvoy;
 using orders::IsMove;
 using orders::OrderLine;
-
-/// Keeps where everybody stood and who owned what: undoing the season goes back to it, and its
-/// replay starts from it.
-void SavePreviousPositions(GameState& game) {
-  for (model::Unit& unit : game.Units)
-    text::Assign(unit.PreviousLocation, unit.Location);
-  for (model::ProvinceState& province : game.Provinces)
-    text::Assign(province.PreviousOwner, province.Owner);
-}
 
 /// The first cutting of supports. Whether an attack will succeed does not matter; only moves by
 /// convoy must wait until it is known whether their convoys hold.
@@ -98,20 +87,6 @@ bool DisruptConvoys(GameState& game, Resolution& resolution) {
   return convoyExists;
 }
 
-/// Two orders for one unit may both have succeeded: the later one then says where it ends.
-void ApplyMoves(GameState& game, Resolution& resolution) {
-  for (int u = 1; u <= game.Units.Count(); ++u) {
-    if (game.Units[u].Status == model::Dislodged) {
-      resolution.Orders[resolution.OrdersOfUnits[u]].Result = orders::OrderResult::Dislodged;
-    }
-  }
-  for (const OrderLine& order : resolution.Orders) {
-    if (order.Active && IsMove(order) && !order.Failed) {
-      game.Units[order.UnitIndex].Location = model::LocationName(*game.Map, order.Target);
-    }
-  }
-}
-
 /// Marks every place that a move with any force left was aimed at. A place that somebody entered is
 /// marked as well: it is occupied, so the mark forbids nothing there.
 void MarkStandoffs(GameState& game, const Resolution& resolution) {
@@ -123,36 +98,6 @@ void MarkStandoffs(GameState& game, const Resolution& resolution) {
   }
   for (int p = 1; p <= game.Provinces.Count(); ++p)
     game.Provinces[p].Uncontested = !contested.test(static_cast<std::size_t>(map.Places[p]));
-}
-
-std::string ReportLine(const OrderLine& order) {
-  const std::string_view result = orders::ResultWord(order.Result);
-  std::string line;
-  line.reserve(order.Text.size() + result.size() + 6);
-  line.append(order.Failed ? "[ " : "  ").append(order.Text).append(order.Failed ? " ]" : "");
-  return line.append("  ").append(result);
-}
-
-void BuildMoveReport(GameState& game, Resolution& resolution) {
-  game.ReportLines.SetCount(0);
-  resolution.Entries.reserve(static_cast<std::size_t>(resolution.Orders.Count()));
-  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
-    game.ReportLines.Append(ReportLine(resolution.Orders[k]));
-    resolution.Entries.push_back({k, k});
-  }
-  game.OrdersList.clear();
-}
-
-/// While units have to retreat nothing else advances: centres change hands after the retreats.
-void AdvanceStage(GameState& game) {
-  const bool retreats =
-      std::any_of(game.Units.begin(), game.Units.end(),
-                  [](const model::Unit& unit) { return unit.Status == model::Dislodged; });
-  if (retreats) {
-    game.Stage = model::Stage::Retreats;
-  } else {
-    EndMovement(game);
-  }
 }
 
 }  // namespace
@@ -186,10 +131,10 @@ Resolution ResolveMoves(GameState& game, model::Messages& messages) {
   }
   CutByConvoyedMoves(field);
   ResolveOtherMoves(field, convoyAttacks);
-  ApplyMoves(game, resolution);
+  CarryOutMoves(game, resolution);
   MarkStandoffs(game, resolution);
-  BuildMoveReport(game, resolution);
-  AdvanceStage(game);
+  WriteMoveReport(game, resolution);
+  AdvanceAfterMoves(game);
   resolution.Completed = true;
   return resolution;
 }

@@ -11,6 +11,9 @@ using orders::Outcome;
 Outcome OutcomeAt(const Resolution& resolution, int k, int endOfRoom) {
   const orders::OrderLine& order = resolution.Orders[k];
   const Reason& reason = resolution.Reasons[k];
+  if (order.Rejection == orders::OrderResult::Repeated) {
+    return OutcomeAt(resolution, reason.Blocker, endOfRoom);
+  }
   if (reason.LostFleet != 0) return Outcome::Failed;
   if (reason.Cutter != 0) return Outcome::Cut;
   if (!order.Active) return Outcome::Void;

@@ -27,6 +27,8 @@ enum class Ruling : std::uint8_t {
   BackToAttacker,   ///< a retreat to where the attack came from
   PlaceTaken,       ///< a retreat to where a unit stands
   RetreatsCollide,  ///< another retreat aims at the same place
+  NoPath,           ///< by the usual rules: no whole chain of fleets carried it
+  Paradox,          ///< by the usual rules: its convoy would have depended on its own landing
 };
 
 using OrderSet = std::bitset<orders::OrderBound + 1>;

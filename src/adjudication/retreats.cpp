@@ -13,7 +13,6 @@ namespace {
 
 using model::GameState;
 using model::Messages;
-using model::Unit;
 using orders::OrderKind;
 using orders::OrderLine;
 using orders::OrderResult;
@@ -104,51 +103,6 @@ void Lose(OrderLine& order, Reason& reason, Ruling ruling, int blocker) {
   reason.Blocker = static_cast<std::int16_t>(blocker);
 }
 
-/// The last report line about the unit; a new one if there is none. Looked for by its text, and
-/// meant so: several lines may begin alike, and the first that is found is the one to write to.
-int ReportLineOf(const Unit& unit, GameState& game) {
-  const std::string key = model::UnitText(unit);
-  // Lines of the moves begin with two blanks or "[ ".
-  constexpr std::size_t lead = 2;
-  for (int i = game.ReportLines.Count(); i >= 1; --i) {
-    if (game.ReportLines[i].compare(std::min(lead, game.ReportLines[i].size()), key.size(), key) ==
-        0) {
-      return i;
-    }
-  }
-  game.ReportLines.Append(key + " ! ");
-  return game.ReportLines.Count();
-}
-
-/// Runs before the units move, since their lines are found by where they were dislodged.
-void ReportRetreats(GameState& game, Resolution& resolution) {
-  for (int k = 1; k <= resolution.Orders.Count(); ++k) {
-    const OrderLine& order = resolution.Orders[k];
-    if (!order.Active) continue;
-    const int number = ReportLineOf(game.Units[order.UnitIndex], game);
-    resolution.Entries.push_back({number, k});
-    std::string& line = game.ReportLines[number];
-    if (!IsRetreat(order)) {
-      line += " disband";
-    } else {
-      line.append(" retreat ").append(model::LocationName(*game.Map, order.Target));
-      if (order.Failed) line += " failed disband";
-    }
-  }
-}
-
-void ApplyRetreats(GameState& game, const OrderTable& table) {
-  for (const OrderLine& order : table) {
-    if (!order.Active || !IsRetreat(order) || order.Failed) continue;
-    game.Units[order.UnitIndex].Location = model::LocationName(*game.Map, order.Target);
-    game.Units[order.UnitIndex].Status.clear();
-  }
-  // Whoever was disbanded, lost its retreat or had no valid order is still marked, and goes.
-  for (int u = game.Units.Count(); u >= 1; --u) {
-    if (game.Units[u].Status == model::Dislodged) game.Units.Remove(u);
-  }
-}
-
 }  // namespace
 
 bool CheckRetreats(const GameState& game, Resolution& resolution, Messages& messages) {
@@ -172,7 +126,7 @@ void ResolveRetreatStandoffs(const GameState& game, Resolution& resolution) {
     if (!IsRetreat(order) || !order.Pending || !order.Active) continue;
     Reason& reason = resolution.Reasons[i];
     // Dislodged units have not left yet: they are in each other's way, too.
-    const Unit& unit = game.Units[order.UnitIndex];
+    const model::Unit& unit = game.Units[order.UnitIndex];
     if (model::SamePlace(model::LocationName(*game.Map, order.Target), unit.DislodgedFrom)) {
       Lose(order, reason, Ruling::BackToAttacker, 0);
     } else if (const int occupant = model::FindUnitAt(game, order.Target); occupant != 0) {
@@ -188,8 +142,8 @@ Resolution ResolveRetreats(GameState& game, Messages& messages) {
       StartResolution(model::Stage::Retreats, game, std::move(game.RetreatsList));
   if (!CheckRetreats(game, resolution, messages)) return resolution;
   ResolveRetreatStandoffs(game, resolution);
-  ReportRetreats(game, resolution);
-  ApplyRetreats(game, resolution.Orders);
+  WriteRetreatReport(game, resolution);
+  CarryOutRetreats(game, resolution.Orders);
   game.RetreatsList.clear();
   EndMovement(game);
   resolution.Completed = true;

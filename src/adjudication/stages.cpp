@@ -3,7 +3,7 @@
 #include "adjudication/adjustments.h"
 #include "adjudication/moves.h"
 #include "adjudication/retreats.h"
-#include "model/errors.h"
+#include "adjudication/stage_steps.h"
 
 namespace orb::adjudication {
 
@@ -11,8 +11,7 @@ Resolution ResolveStage(model::GameState& game, model::Messages& messages) {
   if (game.Stage == model::Stage::Moves) return ResolveMoves(game, messages);
   if (game.Stage == model::Stage::Retreats) return ResolveRetreats(game, messages);
   if (game.Stage == model::Stage::Adjustments) return ResolveAdjustments(game, messages);
-  throw model::FatalError("There is nothing to resolve in the stage \"" +
-                          std::string(StageText(game)) + "\".");
+  ThrowNothingToResolve(game);
 }
 
 }  // namespace orb::adjudication

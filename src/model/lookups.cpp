@@ -65,6 +65,14 @@ bool CanStandIn(const Map& map, UnitType type, int row) {
   return neighbours != nullptr && neighbours->front() != 0;
 }
 
+bool IsCoastal(const Map& map, int row) {
+  if (!CanStandIn(map, UnitType::Army, row)) return false;
+  for (int coast = 1; coast <= map.Provinces.Count(); ++coast) {
+    if (IsSamePlace(map, coast, row) && CanStandIn(map, UnitType::Fleet, coast)) return true;
+  }
+  return false;
+}
+
 bool CanSupportInto(const Map& map, UnitType type, int from, int target) {
   return AnyNeighbour(NeighbourRow(map, type, from),
                       [&](int neighbour) { return IsSamePlace(map, neighbour, target); });

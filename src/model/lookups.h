@@ -38,6 +38,9 @@ bool IsAdjacent(const Map& map, UnitType type, int from, int to);
 bool CanStandIn(const Map& map, UnitType type, int row);
 bool CanSupportInto(const Map& map, UnitType type, int from, int target);
 
+/// Whether a land place touches water: armies can stand in the row, and fleets in it or on a coast.
+bool IsCoastal(const Map& map, int row);
+
 /// Whether two rows are the same place: a province and its coasts.
 inline bool IsSamePlace(const Map& map, int a, int b) {
   return a != 0 && b != 0 && map.Places[a] == map.Places[b];

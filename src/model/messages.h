@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace orb::model {
 
@@ -29,6 +30,16 @@ class Messages {
 
   /// A box with OK only that offers no choice. The command may go on after it.
   virtual void Show(const std::string& text, Icon icon) = 0;
+};
+
+/// Consents to everything and keeps what was shown: for trying out what nobody is asked about.
+class Consent : public Messages {
+ public:
+  bool Warn(const std::string& /*text*/) override { return true; }
+  Answer Ask(const std::string& /*text*/) override { return Answer::YesToAll; }
+  void Show(const std::string& text, Icon /*icon*/) override { Shown.push_back(text); }
+
+  std::vector<std::string> Shown;
 };
 
 /// "Warning: ", the subject, the problem and "Continue?", one below the other.

@@ -6,7 +6,7 @@ namespace orb::orders {
 
 std::string_view ResultWord(OrderResult result) {
   // In the order of the enumerators. The "1" is part of the text that users know.
-  static constexpr std::array<std::string_view, 17> words = {"",
+  static constexpr std::array<std::string_view, 21> words = {"",
                                                              "syntax error",
                                                              "no such unit",
                                                              "not used",
@@ -22,7 +22,11 @@ std::string_view ResultWord(OrderResult result) {
                                                              "centre not owned",
                                                              "centre not empty1",
                                                              "impossible unit",
-                                                             "clash"};
+                                                             "clash",
+                                                             "contradicted",
+                                                             "repeated",
+                                                             "impossible convoy",
+                                                             "too many"};
   return words[static_cast<std::size_t>(result)];
 }
 

@@ -25,6 +25,11 @@ enum class OrderResult : std::uint8_t {
   CentreNotEmpty,
   ImpossibleUnit,
   Clash,
+  // By the usual rules alone.
+  Contradicted,  ///< several lines for one unit that differ
+  Repeated,      ///< says what an earlier line says
+  ImpossibleConvoy,
+  TooMany,  ///< a build or removal beyond the number allowed
 };
 
 /// The result as reports have it: "syntax error", "centre not empty1"; empty for None.
