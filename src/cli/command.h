@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/options.h"
+#include "session/rules.h"
 
 #include <span>
 #include <string_view>
@@ -9,8 +10,8 @@ namespace orb::cli {
 
 class Console;
 
-/// How many GAME arguments a command takes.
-enum class Games { None, One, Several };
+/// How many GAME arguments a command takes; OneAndOrder: a game, then the text of an order.
+enum class Games { None, One, Several, OneAndOrder };
 
 /// One command of the program. Each lives in a source file of its own; the table in run.cpp gives
 /// the order in which the help lists them.
@@ -25,11 +26,15 @@ struct Command {
   int (*Execute)(const CommandLine& line, Console& console) = nullptr;
 };
 
+/// The rules that the command line chooses; ORB's own without the option. Throws UsageError.
+session::Rules RulesOf(const CommandLine& line);
+
 extern const Command NewCommand;
 extern const Command ResolveCommand;
 extern const Command NextCommand;
 extern const Command UndoCommand;
 extern const Command CheckCommand;
+extern const Command WhatIfCommand;
 extern const Command ShowCommand;
 extern const Command MapCommand;
 

@@ -82,6 +82,12 @@ void CheckOutput(const CommandLine& line) {
   if (line.Has(OptionId::Output) && line.Has(OptionId::InPlace)) {
     throw UsageError(name + ": -o and --in-place cannot go together.");
   }
+  if (line.Has(OptionId::Try)) {
+    for (const OptionId id : {OptionId::Output, OptionId::InPlace, OptionId::Report}) {
+      if (line.Has(id)) throw UsageError(name + ": --try writes no file.");
+    }
+    return;
+  }
   if (!line.Has(OptionId::Output) && !line.Has(OptionId::InPlace)) {
     throw UsageError(
         name + (mayReplace ? ": -o PATH or --in-place is missing." : ": -o PATH is missing."));
@@ -96,6 +102,8 @@ void CheckGames(const CommandLine& line) {
       throw UsageError(name + ": It takes no game file, but \"" + line.Games[0] + "\" is given.");
   } else if (count == 0) {
     throw UsageError(name + ": The game file is missing.");
+  } else if (line.Verb->Takes == Games::OneAndOrder) {
+    if (count != 2) throw UsageError(name + ": It takes a game file and the text of one order.");
   } else if (line.Verb->Takes == Games::One && count > 1) {
     throw UsageError(name + ": One game file at a time.");
   }

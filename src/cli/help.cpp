@@ -28,22 +28,25 @@ std::string Row(std::string_view name, std::string_view explanation) {
 /// take it or --in-place.
 std::string OutputUsage(const Command& command) {
   if (command.Takes == Games::None) return "-o GAME";
-  return Takes(command, OptionId::InPlace) ? "(-o PATH | --in-place)" : "-o PICTURE";
+  if (!Takes(command, OptionId::InPlace)) return "-o PICTURE";
+  return Takes(command, OptionId::Try) ? "(-o PATH | --in-place | --try)"
+                                       : "(-o PATH | --in-place)";
 }
 
 /// The form of the command line, broken before the column where a terminal ends.
 std::string Usage(const Command& command) {
   std::vector<std::string> parts{"[--data DIR]", std::string(command.Name)};
   for (const Option& option : AllOptions()) {
-    // --in-place is shown together with -o, as its alternative.
+    // --in-place and --try are shown together with -o, as its alternatives.
     if (!Takes(command, option.Id)) continue;
     if (option.Id == OptionId::Output) {
       parts.push_back(OutputUsage(command));
-    } else if (option.Id != OptionId::InPlace) {
+    } else if (option.Id != OptionId::InPlace && option.Id != OptionId::Try) {
       parts.push_back(std::string("[").append(Spelled(option)).append("]"));
     }
   }
   if (command.Takes == Games::One) parts.emplace_back("GAME");
+  if (command.Takes == Games::OneAndOrder) parts.emplace_back("GAME \"ORDER\"");
   if (command.Takes == Games::Several) parts.emplace_back("GAME...");
   constexpr std::size_t width = 78;
   std::string usage;

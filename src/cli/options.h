@@ -34,6 +34,10 @@ enum class OptionId {
   AcceptDoubtful,
   Report,
   Reasons,
+  Rules,
+  Compare,
+  Try,
+  Pairs,
   Yes,
   Mode,
   CentreCount,
@@ -45,7 +49,7 @@ enum class OptionId {
 };
 
 /// The number of OptionIds; the table and a command line's values are indexed by them.
-constexpr std::size_t OptionCount = 19;
+constexpr std::size_t OptionCount = 23;
 
 /// One row of the table of options.
 struct Option {

@@ -13,7 +13,7 @@ namespace orb::cli {
 namespace {
 
 constexpr std::array Commands{&NewCommand,   &ResolveCommand, &NextCommand, &UndoCommand,
-                              &CheckCommand, &ShowCommand,    &MapCommand};
+                              &CheckCommand, &WhatIfCommand,  &ShowCommand, &MapCommand};
 
 int Execute(const CommandLine& line, Console& console) {
   if (line.Has(OptionId::Version)) {

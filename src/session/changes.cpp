@@ -24,7 +24,8 @@ bool SamePosition(const GameState& a, const GameState& b) {
 
 bool SameReport(const Situation& a, const Situation& b) {
   return SameRows(a.Game.ReportLines, b.Game.ReportLines) &&
-         std::tie(a.Notes, a.Outcomes) == std::tie(b.Notes, b.Outcomes);
+         std::tie(a.Notes, a.Outcomes, a.Differences, a.ByUsualRules) ==
+             std::tie(b.Notes, b.Outcomes, b.Differences, b.ByUsualRules);
 }
 
 bool SameEditing(const Situation& a, const Situation& b) {
@@ -56,6 +57,7 @@ Changes ChangesBetween(const Situation& before, const Situation& after) {
   if (!SameReport(before, after)) changes |= Changes::Report;
   if (a.FileName != b.FileName || before.ReadOnly != after.ReadOnly) changes |= Changes::File;
   if (!SameEditing(before, after)) changes |= Changes::Editing;
+  if (before.Rules != after.Rules) changes |= Changes::Rules;
   return changes;
 }
 

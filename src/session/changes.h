@@ -16,7 +16,8 @@ enum class Changes : std::uint8_t {
   Report = 16,   ///< the report with its notes, and the outcomes of orders
   File = 32,     ///< the game's file and whether it is only read
   Editing = 64,  ///< what is edited, and which steps can be taken
-  All = 127,
+  Rules = 128,   ///< by which rules stages are resolved
+  All = 255,
 };
 
 constexpr Changes operator|(Changes a, Changes b) {

@@ -87,9 +87,17 @@ bool GoOnWithout(const std::vector<exchange::ReadLine>& leftOut, model::Messages
 /// Whether a resolution notes why each line of the report came out so, and each order's outcome.
 enum class Noting : std::uint8_t { Full, None };
 
-/// Resolves the stage that the game is in. False when a question was answered No or the numbers of
-/// a power do not fit; Stopped then tells the line that the question was about.
-bool Resolve(Situation& situation, model::Messages& messages, Noting noting = Noting::Full);
+/// Whether a resolution is held against what the other rules make of the same orders.
+enum class Comparing : std::uint8_t { No, Yes };
+
+/// Resolves the stage that the game is in, by the rules in force. False when a question was
+/// answered No or the numbers of a power do not fit; Stopped then tells the line that the question
+/// was about.
+bool Resolve(Situation& situation, model::Messages& messages, Noting noting = Noting::Full,
+             Comparing comparing = Comparing::No);
+
+/// Chooses the rules for what is resolved from now on.
+void SetRules(Situation& situation, Rules rules);
 
 /// Starts the season that follows a finished one.
 void NextSeason(Situation& situation);

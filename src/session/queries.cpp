@@ -39,15 +39,6 @@ void ExpectFinished(const Situation& situation) {
                           std::string(StageText(situation.Game)) + "\".");
 }
 
-adjudication::ListCheck CheckOrders(const Situation& situation) {
-  const model::GameState& game = situation.Game;
-  if (!TakesOrders(game)) {
-    throw model::FatalError("There are no orders to check in the stage \"" +
-                            std::string(StageText(game)) + "\".");
-  }
-  return adjudication::CheckList(game);
-}
-
 void ExpectOrdersToDraw(const Situation& situation) {
   if (IsFinished(situation)) {
     throw model::FatalError("There are no orders to draw in the stage \"finished\".");

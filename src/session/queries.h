@@ -31,9 +31,14 @@ bool IsFinished(const Situation& situation);
 /// Throws FatalError while the season is not finished.
 void ExpectFinished(const Situation& situation);
 
-/// Every problem of the stage's list: the marks of its lines, units without orders, powers whose
-/// numbers do not fit. Throws FatalError in a stage without orders.
+/// Every problem of the stage's list by the rules in force: the marks of its lines, units without
+/// orders, powers whose numbers do not fit. Throws FatalError in a stage without orders.
 adjudication::ListCheck CheckOrders(const Situation& situation);
+
+/// For each line of the stage's list how the other rules read it, where that is otherwise: "By the
+/// usual rules: it is for F(Stp.s)". Empty where they read it the same, and for all lines where
+/// there are too many. Throws FatalError in a stage without orders.
+std::vector<std::string> OtherReadings(const Situation& situation);
 
 /// Throws FatalError for a finished season: it has no orders to draw on the map.
 void ExpectOrdersToDraw(const Situation& situation);

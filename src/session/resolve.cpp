@@ -1,7 +1,5 @@
-#include "adjudication/explain.h"
 #include "adjudication/outcomes.h"
 #include "adjudication/participants.h"
-#include "adjudication/stages.h"
 #include "session/commands.h"
 
 #include <algorithm>
@@ -18,7 +16,7 @@ void AddMissing(const std::vector<std::string>& texts, std::vector<std::string>&
 /// The later stages of a season write on in the report of the moves, and so do their notes.
 void AddNotes(const adjudication::Resolution& resolution, Situation& situation) {
   std::vector<ReportNote>& notes = situation.Notes;
-  const std::vector<std::string> reasons = adjudication::ExplainReport(situation.Game, resolution);
+  const std::vector<std::string> reasons = Reasons(situation.Rules, situation.Game, resolution);
   const auto participants = adjudication::ReportParticipants(situation.Game, resolution);
   notes.resize(reasons.size());
   for (std::size_t i = 0; i < reasons.size(); ++i) {
@@ -38,24 +36,52 @@ void AddOutcomes(const adjudication::Resolution& resolution, Situation& situatio
   situation.Outcomes.insert(situation.Outcomes.end(), outcomes.begin(), outcomes.end());
 }
 
+/// The lines of the report that tell of orders which the other rules decide otherwise.
+void AddDifferences(const model::GameState& before, const adjudication::Resolution& resolution,
+                    Situation& situation) {
+  std::vector<ReportNote>& notes = situation.Notes;
+  notes.resize(static_cast<std::size_t>(situation.Game.ReportLines.Count()));
+  for (Difference& difference : Compare(situation.Rules, before, situation.Game, resolution)) {
+    if (difference.Line != 0) {
+      std::string& otherwise = notes.at(static_cast<std::size_t>(difference.Line - 1)).Otherwise;
+      otherwise.append(otherwise.empty() ? "" : " ").append(difference.There);
+    }
+    situation.Differences.push_back(std::move(difference));
+  }
+}
+
+/// A season's report begins with its moves, and so does what is known of it.
+void ForgetReport(Situation& situation) {
+  situation.Notes.clear();
+  situation.Outcomes.clear();
+  situation.Differences.clear();
+  situation.ByUsualRules = false;
+}
+
 }  // namespace
 
-bool Resolve(Situation& situation, model::Messages& messages, Noting noting) {
-  const adjudication::Resolution resolution = adjudication::ResolveStage(situation.Game, messages);
+bool Resolve(Situation& situation, model::Messages& messages, Noting noting, Comparing comparing) {
+  std::optional<model::GameState> before;
+  if (comparing == Comparing::Yes) before = situation.Game;
+  const adjudication::Resolution resolution =
+      ResolveStage(situation.Rules, situation.Game, messages);
   situation.Stopped.reset();
   if (const int k = resolution.StoppedAt; k != 0) {
     situation.Stopped = StoppedLine{k - 1, resolution.Orders[k].Result};
   }
   if (!resolution.Completed) return false;
-  if (resolution.Stage == model::Stage::Moves) {
-    situation.Notes.clear();
-    situation.Outcomes.clear();
-  }
+  if (resolution.Stage == model::Stage::Moves) ForgetReport(situation);
+  if (situation.Rules == Rules::Usual) situation.ByUsualRules = true;
   if (noting == Noting::Full) {
     AddNotes(resolution, situation);
     AddOutcomes(resolution, situation);
   }
+  if (before) AddDifferences(*before, resolution, situation);
   return true;
+}
+
+void SetRules(Situation& situation, Rules rules) {
+  situation.Rules = rules;
 }
 
 }  // namespace orb::session

@@ -8,7 +8,11 @@ namespace {
 void KeepInStep(const Situation& before, Situation& next) {
   const int reportCount = next.Game.ReportLines.Count();
   next.Notes.resize(static_cast<std::size_t>(reportCount));
-  if (reportCount == 0) next.Outcomes.clear();
+  if (reportCount == 0) {
+    next.Outcomes.clear();
+    next.Differences.clear();
+    next.ByUsualRules = false;
+  }
   if (!SameLists(before.Game, next.Game)) next.Stopped.reset();
   if (next.Editing == Editing::None || !next.Edits.LeadsTo(next.Game)) next.Edits.Clear();
 }

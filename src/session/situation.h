@@ -5,6 +5,7 @@
 #include "model/game_state.h"
 #include "orders/order_outcome.h"
 #include "orders/order_result.h"
+#include "session/comparison.h"
 
 #include <cstdint>
 #include <optional>
@@ -18,6 +19,7 @@ struct ReportNote {
   bool Failed = false;
   std::string Reason;                  ///< why it came out so, in sentences
   std::vector<std::string> Locations;  ///< of the units that had a part in it; its own one first
+  std::string Otherwise = {};          ///< what the other rules would have brought; empty: the same
 
   bool operator==(const ReportNote&) const = default;
 };
@@ -39,7 +41,10 @@ struct Situation {
   model::GameState Game;
   std::vector<ReportNote> Notes = {};               ///< one for each line of the report
   std::vector<orders::OrderOutcome> Outcomes = {};  ///< of the season's orders resolved so far
+  std::vector<Difference> Differences = {};         ///< of those from the other rules' outcomes
   std::optional<StoppedLine> Stopped = {};          ///< until the lists change
+  session::Rules Rules = Rules::Orb;                ///< in force for what is resolved next
+  bool ByUsualRules = false;                        ///< some stage of the season was resolved so
   session::Editing Editing = session::Editing::None;
   model::EditHistory Edits = {};                ///< the steps since the editing began
   bool ReadOnly = false;                        ///< the game's file was opened for reading only

@@ -44,7 +44,7 @@ TEST(CommandLine, HelpNamesEveryOptionOfTheCommandAndGoesToStandardOutput) {
   const Outcome whole = shell.Run("--help");
   for (const cli::Command* command :
        {&cli::NewCommand, &cli::ResolveCommand, &cli::NextCommand, &cli::UndoCommand,
-        &cli::CheckCommand, &cli::ShowCommand, &cli::MapCommand}) {
+        &cli::CheckCommand, &cli::WhatIfCommand, &cli::ShowCommand, &cli::MapCommand}) {
     EXPECT_THAT(whole.Out, HasSubstr("\n  " + std::string(command->Name) + " "));
     const Outcome outcome = shell.Run(std::string(command->Name) + " --help");
     EXPECT_EQ(outcome.Status, 0);
