@@ -1,7 +1,11 @@
+#include "adjudication/possible_orders.h"
 #include "adjudication/stages.h"
+#include "adjudication/usual/stages.h"
 #include "model/files.h"
 #include "model/game_file.h"
+#include "model/lookups.h"
 #include "model/map_files.h"
+#include "session/what_if.h"
 
 #include <benchmark/benchmark.h>
 
@@ -13,17 +17,11 @@
 
 namespace {
 
+namespace adjudication = orb::adjudication;
 namespace model = orb::model;
+namespace session = orb::session;
 
 const std::filesystem::path Source = ORB_SOURCE_DIR;
-
-/// Answers Yes to every question.
-class Agreeable : public model::Messages {
- public:
-  bool Warn(const std::string& /*text*/) override { return true; }
-  model::Answer Ask(const std::string& /*text*/) override { return model::Answer::YesToAll; }
-  void Show(const std::string& /*text*/, model::Icon /*icon*/) override {}
-};
 
 std::string GameBytes(const std::string& name) {
   return model::ReadFile(Source / "bench" / "data" / name);
@@ -36,9 +34,9 @@ model::GameState LoadGame(const std::string& name) {
 }
 
 /// As the programs do: on a copy, which takes the game's place when it is resolved.
-orb::adjudication::Resolution ResolveOnCopy(model::GameState& game, model::Messages& messages) {
+adjudication::Resolution ResolveOnCopy(model::GameState& game, model::Messages& messages) {
   model::GameState next = game;
-  orb::adjudication::Resolution resolution = orb::adjudication::ResolveStage(next, messages);
+  adjudication::Resolution resolution = adjudication::ResolveStage(next, messages);
   if (resolution.Completed) game = std::move(next);
   return resolution;
 }
@@ -47,7 +45,7 @@ orb::adjudication::Resolution ResolveOnCopy(model::GameState& game, model::Messa
 void ResolveSeason(benchmark::State& state, const std::string& name) {
   using Clock = std::chrono::steady_clock;
   const model::GameState start = LoadGame(name);
-  Agreeable messages;
+  model::Consent messages;
   model::GameState game = start;
   while (state.KeepRunning()) {
     game = start;
@@ -55,6 +53,36 @@ void ResolveSeason(benchmark::State& state, const std::string& name) {
     benchmark::DoNotOptimize(ResolveOnCopy(game, messages));
     state.SetIterationTime(std::chrono::duration<double>(Clock::now() - begin).count());
   }
+}
+
+void ResolveSeasonByUsualRules(benchmark::State& state, const std::string& name) {
+  const model::GameState start = LoadGame(name);
+  model::GameState game = start;
+  while (state.KeepRunning()) {
+    state.PauseTiming();
+    game = start;
+    state.ResumeTiming();
+    benchmark::DoNotOptimize(adjudication::usual::ResolveStage(game));
+  }
+}
+
+void ListPossibleOrders(benchmark::State& state) {
+  const model::GameState game = LoadGame("midgame.orb");
+  while (state.KeepRunning()) {
+    const adjudication::PossibleOrders possible(game);
+    for (int u = 1; u <= game.Units.Count(); ++u)
+      benchmark::DoNotOptimize(possible.OfUnit(u));
+  }
+}
+
+void AskWhatIf(benchmark::State& state, session::Rules rules) {
+  session::Situation situation;
+  situation.Game = LoadGame("midgame.orb");
+  situation.Rules = rules;
+  const session::Question question =
+      session::Ask(situation, model::UnitText(situation.Game.Units[1]));
+  while (state.KeepRunning())
+    benchmark::DoNotOptimize(session::SingleChanges(question));
 }
 
 void ReadGame(benchmark::State& state) {
@@ -73,6 +101,11 @@ void WriteGame(benchmark::State& state) {
 
 BENCHMARK_CAPTURE(ResolveSeason, MidGame34Units, "midgame.orb")->UseManualTime();
 BENCHMARK_CAPTURE(ResolveSeason, Ring40Units, "ring.orb")->UseManualTime();
+BENCHMARK_CAPTURE(ResolveSeasonByUsualRules, MidGame34Units, "midgame.orb");
+BENCHMARK_CAPTURE(ResolveSeasonByUsualRules, Ring40Units, "ring.orb");
+BENCHMARK(ListPossibleOrders);
+BENCHMARK_CAPTURE(AskWhatIf, Orb, session::Rules::Orb);
+BENCHMARK_CAPTURE(AskWhatIf, Usual, session::Rules::Usual);
 BENCHMARK(ReadGame);
 BENCHMARK(WriteGame);
 
