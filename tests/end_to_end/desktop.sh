@@ -56,7 +56,7 @@ dialog_takes_keys() {
 
 # launch [GAME]: starts the program, for a user of $language, and waits for its window.
 launch() {
-  (cd "$work" && exec env LC_ALL="${language:-C.UTF-8}" program/orb "$@") 2>> "$work/log" &
+  (cd "${folder:-$work}" && exec env LC_ALL="${language:-C.UTF-8}" "$work/program/orb" "$@") 2>> "$work/log" &
   program=$!
   await window_is_there
 }

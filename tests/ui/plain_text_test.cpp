@@ -184,7 +184,8 @@ TEST_F(PlainTextTest, WhatComesFromOutsideIsShownAsItStands) {
        {seen("action: 1  ", inMenu), seen("tip: ", path), seen("label: ", path),
         seen("label: ", path + " already exists.\nReplace it?"),
         seen("item: ", "ENG F(" + Hostile + ") hold"),
-        seen("label: ", Hostile + ", Spring 1901 has changes that are not saved.")})
+        seen("label: ",
+             Hostile + ", Spring 1901 has changes that are not saved.\nSave them before closing?")})
     EXPECT_THAT(sight_.Seen(), Contains(text));
   EXPECT_THAT(sight_.Seen(), Contains(AllOf(HasSubstr("ORB ended"), HasSubstr("<img"))));
 }

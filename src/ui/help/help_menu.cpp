@@ -103,6 +103,7 @@ void HelpMenu::about() {
   box.setTextFormat(Qt::RichText);
   const int side = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize);
   box.setIconPixmap(programIcon().pixmap(side));
+  box.setStandardButtons(QMessageBox::Ok);
   box.exec();
 }
 

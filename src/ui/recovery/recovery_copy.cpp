@@ -7,6 +7,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <filesystem>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -30,6 +32,13 @@ std::string bytesOf(const QJsonValue& value) {
   return value.toString().toLatin1().toStdString();
 }
 
+/// As it is found from any folder: the next start may be in another one.
+QJsonValue jsonOfPath(const std::string& file) {
+  std::error_code error;
+  const std::filesystem::path path = std::filesystem::absolute(file, error);
+  return jsonOf(file.empty() || error ? file : path.string());
+}
+
 QJsonArray jsonOf(const std::vector<std::string>& lines) {
   QJsonArray array;
   for (const std::string& line : lines)
@@ -51,7 +60,7 @@ QJsonValue textOf(Number number) {
 }
 
 QJsonObject jsonOf(const model::FileMark& mark) {
-  return {{QStringLiteral("path"), jsonOf(mark.Path)},
+  return {{QStringLiteral("path"), jsonOfPath(mark.Path)},
           {QStringLiteral("device"), textOf(mark.Device)},
           {QStringLiteral("inode"), textOf(mark.Inode)},
           {QStringLiteral("size"), textOf(mark.Size)},
@@ -77,7 +86,7 @@ model::FileMark markOf(const QJsonObject& note) {
 
 std::string formatRecoveryCopy(const session::Situation& situation, const QDateTime& time) {
   const model::GameState& game = situation.Game;
-  QJsonObject note{{File, jsonOf(game.FileName)},
+  QJsonObject note{{File, jsonOfPath(game.FileName)},
                    {ReadOnly, situation.ReadOnly},
                    {Time, time.toString(Qt::ISODate)},
                    {Retreats, jsonOf(game.RetreatsList)},

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "random_use/disk_watch.h"
+
+#include "ui/window/main_window.h"
+
+#include <QObject>
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <random>
+#include <string>
+#include <vector>
+
+class QDialog;
+class QFileDialog;
+
+namespace orb::tests {
+
+/// Somebody who uses the window without any plan: keys, clicks, drags, menus, dialogs, sizes. The
+/// same seed does the same again, as far as the clock has no part in it.
+class RandomUser : public QObject {
+  Q_OBJECT
+
+ public:
+  /// `folder` holds the games and texts that are opened; everything is saved there.
+  RandomUser(unsigned seed, std::filesystem::path folder, ui::Places places, DiskWatch& disk);
+
+  /// Does so many things, then closes all windows and ends the application.
+  void use(int events);
+
+  /// Counts up with each thing done. May be asked from another thread.
+  int done() const { return m_done; }
+
+  /// The last things that were done, the latest last.
+  std::vector<std::string> lastDeeds() const;
+
+  /// What went wrong with files so far.
+  const std::vector<std::string>& faults() const { return m_faults; }
+
+  int dialogs() const { return m_dialogs; }
+  int starts() const { return m_starts; }
+
+ private:
+  // One thing after the other from the event loop, also from that of a dialog which the last thing
+  // has opened and which keeps it waiting.
+  void plan();
+  void step();
+  void act();
+  void finish();
+
+  void open();
+  void actOn(QWidget& target);
+  void answer(QDialog& dialog);
+  void answer(QFileDialog& dialog);
+  void useWindow();
+
+  void key(QWidget& target);
+  void typeText(QWidget& target);
+  void click(QWidget& target);
+  void drag(QWidget& target);
+  void wheel(QWidget& target);
+  void choose();
+  void drop();
+  void fillClipboard();
+  void resize();
+  void allowOwnFile();
+  void lookAtDisk();
+  void note(const std::string& deed);
+
+  int below(int bound) { return static_cast<int>(m_random() % static_cast<unsigned>(bound)); }
+  template <class Values>
+  const auto& oneOf(const Values& values) {
+    return values[static_cast<std::size_t>(below(static_cast<int>(std::size(values))))];
+  }
+  QWidget& someWidget(QWidget& target);
+  QPoint somePoint(const QWidget& widget);
+  Qt::KeyboardModifiers someModifiers();
+  std::filesystem::path someFile();
+
+  std::mt19937 m_random;
+  std::filesystem::path m_folder;
+  ui::Places m_places;
+  DiskWatch& m_disk;
+  std::unique_ptr<ui::MainWindow> m_window;
+  std::atomic<int> m_done = 0;
+  int m_wanted = 0;
+  int m_dialogs = 0;
+  int m_looked = 0;  ///< at the disk, after so many events
+  int m_starts = 0;
+  int m_running = 0;  ///< steps that wait for the end of a dialog
+  bool m_planned = false;
+  std::vector<std::string> m_deeds;
+  std::vector<std::string> m_faults;
+};
+
+}  // namespace orb::tests
