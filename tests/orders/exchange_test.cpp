@@ -142,6 +142,12 @@ TEST(TextRepairs, WholeWordsInAnyCaseOnePairAfterTheOther) {
   EXPECT_TRUE(exchange::Repair(longLine, {}));
   longLine = exchange::ToPlain(std::string(exchange::LineBound + 1, 'a'), 0);
   EXPECT_FALSE(exchange::Repair(longLine, {}));
+  // Back and forth.
+  std::string pairs;
+  for (int i = 0; i < 50; ++i)
+    pairs += "\"-\",\"+\"\n\"+\",\"-\"\n";
+  exchange::PlainText line = exchange::ToPlain("F Lon - NTH", 0);
+  EXPECT_FALSE(exchange::Repair(line, exchange::LoadTextRepairs(pairs, "f")));
 }
 
 }  // namespace

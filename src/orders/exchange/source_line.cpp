@@ -29,7 +29,11 @@ void CutLine(SourceLine& line, std::string_view bytes, std::size_t offset,
   // mend one.
   line.Plain = ToPlain(line.Bytes, line.Offset);
   line.IsTooLong = !Repair(line.Plain, repairs);
-  if (line.IsTooLong) return;
+  if (line.IsTooLong) {
+    // As written: thousands of lines as long as repairs can make them would fill the memory.
+    line.Plain = ToPlain(line.Bytes, line.Offset);
+    return;
+  }
   DropTags(line.Plain);
   line.All = CutTokens(line.Plain.Text);
   PartGluedTypes(line.All, names);

@@ -4,6 +4,7 @@
 #include "model/record_file.h"
 #include "text/strings.h"
 
+#include <algorithm>
 #include <system_error>
 
 namespace orb::exchange {
@@ -97,19 +98,26 @@ std::vector<TextRepair> ReadTextRepairs(const std::filesystem::path& directory) 
 }
 
 bool Repair(PlainText& line, std::span<const TextRepair> repairs) {
+  // How long the line may get, and what its repairs may write together: more than any writer
+  // needs, and little enough for a text of thousands of lines whose pairs undo each other.
+  constexpr std::size_t oneRepair = 50;
+  const std::size_t longest = std::min(LineBound, 4 * line.Text.size() + 8 * oneRepair);
+  const std::size_t most = 40 * (line.Text.size() + oneRepair);
+  std::size_t written = 0;
   std::string lower = text::LowerCase(line.Text);
   std::uint64_t bytes = BytesOf(lower);
   for (const TextRepair& repair : repairs) {
     // Looked at before each repair: a few pairs that double a text would otherwise fill the memory.
-    if (line.Text.size() > LineBound) return false;
+    if (line.Text.size() > longest || written > most) return false;
     // Few lines have all the letters of a repair.
     if ((repair.Bytes & ~bytes) != 0) continue;
     if (repair.From.empty() || FindWhole(lower, repair.From, 0) == std::string::npos) continue;
     line = Repaired(line, lower, repair);
+    written += line.Text.size() + oneRepair;
     lower = text::LowerCase(line.Text);
     bytes = BytesOf(lower);
   }
-  return line.Text.size() <= LineBound;
+  return line.Text.size() <= longest && written <= most;
 }
 
 }  // namespace orb::exchange

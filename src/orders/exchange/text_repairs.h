@@ -33,7 +33,8 @@ std::vector<TextRepair> LoadTextRepairs(std::string_view bytes, const std::strin
 std::vector<TextRepair> ReadTextRepairs(const std::filesystem::path& directory);
 
 /// Applies every repair in order to all places where its text is written, in any case; where it
-/// begins or ends with a letter, only whole words count. False when the line gets too long.
+/// begins or ends with a letter, only whole words count. False when the line gets far too long, or
+/// the repairs change all of it again and again.
 bool Repair(PlainText& line, std::span<const TextRepair> repairs);
 
 }  // namespace orb::exchange
