@@ -75,6 +75,8 @@ TEST(Mails, GiveWhatAPersonReads) {
        "M\xC3\xBCnchen \xE2\x80\x93 Bur\n"},
       {Plain + "; charset=koi8-r\n\n\xF0 \n", "\xD0\x9F \n"},
       {Plain + "\n\nM\xC3\xBCnchen\n", "M\xC3\xBCnchen\n"},
+      {Plain + "; charset=utf-8\n\nM\xC3\xBCn\xF8\x88\x88\x88\x88\n",
+       "M\xC3\xBCn\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\n"},
       {Html + "; charset=iso-8859-1\n\n<p>M\xFCnchen<br>A Par\n- Bur</p>\n",
        "M\xC3\xBCnchen\nA Par - Bur\n"},
       {Multipart("alternative", {Part(Plain, "A Par - Bur"), Part(Html, "<p>no")}),

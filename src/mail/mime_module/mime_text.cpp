@@ -2,6 +2,7 @@
 
 #include "text/encoding.h"
 #include "text/strings.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <array>
@@ -9,6 +10,24 @@
 
 namespace orb::mail {
 namespace {
+
+constexpr std::string_view NoCharacter = "\xEF\xBF\xBD";  // U+FFFD
+
+/// Puts U+FFFD in place of what is no UTF-8. The system's converter lets numbers pass that are far
+/// beyond the last character, and one of them would make all the text none.
+std::string OnlyCharacters(std::string_view bytes) {
+  std::string utf8;
+  while (!bytes.empty()) {
+    const std::string_view before = bytes;
+    if (text::NextCharacter(bytes)) {
+      utf8 += before.substr(0, before.size() - bytes.size());
+    } else {
+      utf8 += NoCharacter;
+      bytes.remove_prefix(1);
+    }
+  }
+  return utf8;
+}
 
 /// Converts what can be converted; other bytes become U+FFFD.
 std::string Converted(iconv_t converter, std::string bytes) {
@@ -24,7 +43,7 @@ std::string Converted(iconv_t converter, std::string bytes) {
     const std::size_t written = buffer.size() - room;
     utf8.append(buffer.data(), written);
     if (isDone || (left < before && written > 0)) continue;
-    utf8 += "\xEF\xBF\xBD";
+    utf8 += NoCharacter;
     ++in;
     --left;
   }
@@ -101,7 +120,7 @@ std::string InUtf8(std::string bytes, const char* charset) {
   if (reinterpret_cast<std::intptr_t>(converter) == -1) return text::ToUtf8(bytes);
   std::string utf8 = Converted(converter, std::move(bytes));
   g_mime_iconv_close(converter);
-  return utf8;
+  return OnlyCharacters(utf8);
 }
 
 std::string Content(GMimePart* part) {
