@@ -159,12 +159,7 @@ void PlayFile(std::string_view bytes, std::string_view text, Course course) {
 
 void PlayDrawn(Choices next, Course course) {
   Play(
-      Session({DrawnGame(next)}),
-      [&](Situation& now) {
-        for (int i = next.Below(orders::OrderBound + 5); i > 0; --i)
-          session::FileOrder(now, DrawnOrder(now.Game, next));
-      },
-      course);
+      Session({DrawnGame(next)}), [&](Situation& now) { FileDrawnOrders(now.Game, next); }, course);
 }
 
 }  // namespace

@@ -1,9 +1,11 @@
 #include "support/drawn_game.h"
 
 #include "model/lookups.h"
+#include "orders/order_line.h"
+#include "orders/order_list.h"
 #include "support/fuzzing.h"
 
-#include <array>
+#include <algorithm>
 
 namespace orb::fuzz {
 namespace {
@@ -15,15 +17,17 @@ std::string AnyPlace(const GameState& game, Choices& next) {
   return game.Map->Provinces[1 + next.Below(game.Map->Provinces.Count())].Name;
 }
 
-/// A place beside this one: orders to anywhere else hardly ever pass the checks.
-std::string PlaceBeside(const GameState& game, const std::string& place, Choices& next) {
-  const int row = model::FindProvince(*game.Map, place);
-  const int choice = next.Below(16);
-  if (row == 0 || choice == 15) return AnyPlace(game, next);
-  const auto& adjacency = choice % 2 == 0 ? game.Map->ArmyAdjacency : game.Map->FleetAdjacency;
-  const int neighbour =
-      adjacency[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(choice / 2)];
-  return neighbour == 0 ? AnyPlace(game, next) : game.Map->Provinces[neighbour].Name;
+/// A place that the unit can most likely go to: orders to anywhere else hardly ever pass the
+/// checks.
+std::string PlaceBeside(const GameState& game, const Unit& unit, Choices& next) {
+  const int row = model::FindProvince(*game.Map, unit.Location);
+  const int choice = next.Below(model::NeighbourBound + 1);
+  if (row == 0 || choice == model::NeighbourBound) return AnyPlace(game, next);
+  const auto& adjacency = unit.UnitType == "A" ? game.Map->ArmyAdjacency : game.Map->FleetAdjacency;
+  const auto& neighbours = adjacency[static_cast<std::size_t>(row - 1)];
+  const auto count = std::ranges::find(neighbours, 0) - neighbours.begin();
+  if (count == 0) return AnyPlace(game, next);
+  return game.Map->Provinces[neighbours[static_cast<std::size_t>(choice % count)]].Name;
 }
 
 std::string AnyPower(Choices& next) {
@@ -34,7 +38,11 @@ Unit AnyUnit(const GameState& game, Choices& next) {
   Unit unit;
   unit.Power = AnyPower(next);
   unit.UnitType = next.Below(2) == 0 ? "A" : "F";
-  unit.Location = AnyPlace(game, next);
+  // Most units stand beside another: only neighbours come into conflict.
+  const int count = game.Units.Count();
+  unit.Location = count == 0 || next.OneIn(4)
+                      ? AnyPlace(game, next)
+                      : PlaceBeside(game, game.Units[1 + next.Below(count)], next);
   unit.PreviousLocation = next.OneIn(4) ? AnyPlace(game, next) : std::string();
   return unit;
 }
@@ -51,7 +59,7 @@ void AddUnit(GameState& game, Choices& next) {
   Unit unit = AnyUnit(game, next);
   if (game.Stage == model::Stage::Retreats && next.OneIn(2)) {
     unit.Status = model::Dislodged;
-    unit.DislodgedFrom = PlaceBeside(game, unit.Location, next);
+    unit.DislodgedFrom = PlaceBeside(game, unit, next);
   }
   if (!IsTaken(game, unit)) game.Units.Append(unit);
 }
@@ -69,19 +77,44 @@ std::string Name(const Unit& unit) {
 std::string MovesOrder(const GameState& game, const Unit& unit, Choices& next) {
   const std::string own = unit.Power + " " + Name(unit);
   const int kind = next.Below(8);
-  if (kind < 3) return own + " - " + PlaceBeside(game, unit.Location, next);
+  if (kind < 3) return own + " - " + PlaceBeside(game, unit, next);
   if (kind == 3) return own + " hold";
-  const Unit other = UnitToOrder(game, next);
   const std::string verb = kind < 6 ? " S " : " C ";
+  // Most of what is supported or carried has been ordered to go there.
+  const int count = static_cast<int>(game.OrdersList.size());
+  const int row = next.Below(256);
+  if (count > 0 && row < 192) {
+    return own + verb + game.OrdersList[static_cast<std::size_t>(row % count)];
+  }
+  const Unit other = UnitToOrder(game, next);
   const std::string head = own + verb + (next.OneIn(4) ? "" : other.Power + " ") + Name(other);
   if (kind == 4) return head + " hold";
-  return head + " - " + PlaceBeside(game, next.OneIn(2) ? unit.Location : other.Location, next);
+  return head + " - " + PlaceBeside(game, next.OneIn(2) ? unit : other, next);
+}
+
+std::string OrderFor(const GameState& game, const Unit& unit, Choices& next) {
+  const std::string own = unit.Power + " " + Name(unit);
+  switch (game.Stage) {
+    case model::Stage::Retreats:
+      if (next.OneIn(8)) return own + " DISBAND";
+      return own + " RETREAT " + PlaceBeside(game, unit, next);
+    case model::Stage::Adjustments:
+      if (next.OneIn(2)) return unit.Power + " DISBAND " + Name(unit);
+      return unit.Power + " BUILD " + Name(AnyUnit(game, next));
+    default:
+      return MovesOrder(game, unit, next);
+  }
 }
 
 }  // namespace
 
+Choices::Choices(std::string_view bytes) : bytes_(bytes) {
+  std::seed_seq seeds(bytes.begin(), bytes.end());
+  chance_.seed(seeds);
+}
+
 int Choices::Below(int bound) {
-  if (bytes_.empty()) return 0;
+  if (bytes_.empty()) return static_cast<int>(chance_() % static_cast<unsigned>(bound));
   const int choice = static_cast<unsigned char>(bytes_.front()) % bound;
   bytes_.remove_prefix(1);
   return choice;
@@ -92,7 +125,8 @@ model::GameState DrawnGame(Choices& next) {
   game.Stage = static_cast<model::Stage>(next.Below(3));
   if (next.OneIn(2)) game.Season = "Autumn";
   if (next.OneIn(16)) game.Year = 32767;
-  const int count = next.Below(model::UnitBound + 1);
+  // The starting position now and then; few units are in each other's way less often than many.
+  const int count = next.OneIn(4) ? 0 : next.Below(model::UnitBound + 1);
   if (count > 0) game.Units.SetCount(0);
   for (int i = 1; i <= count; ++i)
     AddUnit(game, next);
@@ -104,19 +138,16 @@ model::GameState DrawnGame(Choices& next) {
   return game;
 }
 
-std::string DrawnOrder(const model::GameState& game, Choices& next) {
-  const Unit unit = UnitToOrder(game, next);
-  const std::string own = unit.Power + " " + Name(unit);
-  switch (game.Stage) {
-    case model::Stage::Retreats:
-      if (next.OneIn(4)) return own + " DISBAND";
-      return own + " RETREAT " + PlaceBeside(game, unit.Location, next);
-    case model::Stage::Adjustments:
-      if (next.OneIn(2)) return unit.Power + " DISBAND " + Name(unit);
-      return unit.Power + " BUILD " + Name(AnyUnit(game, next));
-    default:
-      return MovesOrder(game, unit, next);
+void FileDrawnOrders(model::GameState& game, Choices& next) {
+  std::vector<std::string>& list = orders::StageList(game);
+  if (game.Stage != model::Stage::Adjustments) {
+    for (const Unit& unit : game.Units) {
+      if (!next.OneIn(8)) orders::FileOrder(list, OrderFor(game, unit, next));
+    }
   }
+  const bool isLong = next.OneIn(16);
+  for (int i = next.Below(isLong ? orders::OrderBound + 5 : 8); i > 0; --i)
+    orders::FileOrder(list, OrderFor(game, UnitToOrder(game, next), next));
 }
 
 }  // namespace orb::fuzz
