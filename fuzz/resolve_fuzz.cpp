@@ -6,6 +6,7 @@
 #include "session/commands.h"
 #include "session/queries.h"
 #include "session/session.h"
+#include "session/trial.h"
 #include "support/blank_surface.h"
 #include "support/drawn_game.h"
 #include "support/fuzzing.h"
@@ -14,10 +15,10 @@
 #include <algorithm>
 #include <functional>
 
-// The input's first byte tells whether a game file follows, up to a NUL, and then the texts of
-// order lists, parted by blank lines; or bytes by which a game and its orders are chosen. Stage
-// after stage is resolved with yes to everything; then comes the next season, or the stage is taken
-// back.
+// The input's first byte tells how the game goes on (Course), and whether a game file follows, up
+// to a NUL, and then order lists, parted by blank lines; or bytes by which a game and its orders
+// are chosen. Stage after stage is resolved by either rules with yes to everything; then comes the
+// next season, or the stage is taken back.
 
 namespace orb::fuzz {
 namespace {
@@ -86,8 +87,18 @@ void CheckResolved(const Situation& before, const Situation& after) {
           Described(before.Game) + "\n--- became\n" + Described(game));
 }
 
+/// Trying a stage out shows what resolving it with yes to everything makes of it.
+void CheckTrial(const Situation& before, const Situation& after) {
+  Require(IsAccepted([&] {
+            const Situation tried = session::TryOut(before, session::Noting::None);
+            Require(Described(tried.Game) == Described(after.Game), "tried out otherwise",
+                    Described(before.Game));
+          }),
+          "resolved, but not to be tried out", Described(before.Game));
+}
+
 /// Resolves the stage; whether it was done.
-bool ResolveStage(Session& game) {
+bool ResolveStage(Session& game, session::Comparing comparing) {
   const Situation before = game.Now();
   adjudication::ListCheck check;
   const bool isChecked = IsAccepted([&] { check = session::CheckOrders(before); });
@@ -95,30 +106,43 @@ bool ResolveStage(Session& game) {
     Require(check.Lines.size() == orders::StageList(before.Game).size(), "lines not checked");
   }
   YesToAll messages;
-  const bool isDone =
-      Run(game, [&](Situation& situation) { return session::Resolve(situation, messages); });
-  if (isChecked && FindsNothing(check)) {
-    const bool isTold = messages.Count() > 0 && messages.Last() != "Convoys are not fully checked.";
-    Require(!isTold, "a clean list is asked about: " + messages.Last(), Described(before.Game));
-  }
-  if (isDone) CheckResolved(before, game.Now());
-  return isDone;
+  const bool isDone = Run(game, [&](Situation& now) {
+    return session::Resolve(now, messages, session::Noting::Full, comparing);
+  });
+  const bool isAsked = messages.Count() > 0 && messages.Last() != "Convoys are not fully checked.";
+  const bool asksNothing =
+      before.Rules == session::Rules::Usual || (isChecked && FindsNothing(check));
+  Require(!isAsked || !asksNothing, "asked in vain: " + messages.Last(), Described(before.Game));
+  if (!isDone) return false;
+  CheckResolved(before, game.Now());
+  CheckTrial(before, game.Now());
+  return true;
 }
 
 /// What the first byte of the input tells.
 struct Course {
+  explicit Course(std::uint8_t byte)
+      : IsFile((byte & 1U) != 0),
+        TakesBack((byte & 2U) != 0),
+        IsDrawn((byte & 4U) != 0),
+        Rules((byte & 8U) != 0 ? session::Rules::Usual : session::Rules::Orb),
+        Comparing((byte & 16U) != 0 ? session::Comparing::Yes : session::Comparing::No) {}
+
   bool IsFile, TakesBack, IsDrawn;
+  session::Rules Rules;
+  session::Comparing Comparing;
 };
 
 /// Plays on as far as it goes. `file` puts the orders of a stage into the situation.
 void Play(Session game, const std::function<void(Situation&)>& file, Course course) {
-  constexpr int longest = 8;
+  constexpr int longest = 6;
+  Run(game, [&](Situation& now) { session::SetRules(now, course.Rules); });
   for (int i = 0; i < longest; ++i) {
     Run(game, file);
     if (!session::TakesOrders(game.Now().Game)) break;
     // Drawing takes longer than all the rest.
     if (i == 0 && course.IsDrawn) Draw(game.Now());
-    if (!ResolveStage(game)) break;
+    if (!ResolveStage(game, course.Comparing)) break;
     if (i == 0 && course.IsDrawn) Draw(game.Now());
     if (course.TakesBack) {
       YesToAll messages;
@@ -168,7 +192,7 @@ void PlayDrawn(Choices next, Course course) {
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
   const std::string_view input = orb::fuzz::Text(data + 1, size - 1);
-  const orb::fuzz::Course course{(data[0] & 1U) != 0, (data[0] & 2U) != 0, (data[0] & 4U) != 0};
+  const orb::fuzz::Course course(data[0]);
   if (course.IsFile) {
     const auto parts = orb::fuzz::Parts(input, 2);
     orb::fuzz::PlayFile(parts[0], parts[1], course);
