@@ -97,7 +97,8 @@ HelpTopics ReadHelpTopics(std::string_view bytes) {
   HelpTopics topics;
   while (!bytes.empty()) {
     const std::string_view line = text::NextLine(bytes);
-    if (line.substr(0, 1) == "%") {
+    // Each mark is held against each caption: without a bound, 64 kB could take seconds.
+    if (line.substr(0, 1) == "%" && topics.size() < HelpTopicBound) {
       topics.push_back({std::string(line.substr(1)), {}});
     } else if (!topics.empty()) {
       topics.back().Text.append(line).append("\n");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -31,6 +32,9 @@ struct HelpTopic {
 };
 
 using HelpTopics = std::vector<HelpTopic>;
+
+/// The most topics that a file can have; what looks like more of them is text of the last one.
+constexpr std::size_t HelpTopicBound = 500;
 
 /// The topics of a help file in file order.
 HelpTopics ReadHelpTopics(std::string_view bytes);

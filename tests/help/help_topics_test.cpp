@@ -32,6 +32,15 @@ TEST(HelpTopics, FileIsReadAsWritten) {
       "P<A paragraph runs on. Title ----->H<Title>I<item goes on>I<next>L<A  b\n  c>I<not% x>");
 }
 
+TEST(HelpTopics, AreNotMoreThanCanBeSearched) {
+  std::string bytes;
+  for (int i = 0; i < 502; ++i)
+    bytes += "%" + std::to_string(i) + "\n";
+  const HelpTopics topics = help::ReadHelpTopics(bytes);
+  ASSERT_EQ(topics.size(), 500U);
+  EXPECT_EQ(topics.back().Text, "%500\n%501\n");
+}
+
 TEST(HelpTopics, MarksThatMeanNothingStayText) {
   const HelpTopics topics = help::ReadHelpTopics("%Here\n%There");
   const std::vector<std::pair<std::string, std::string>> cases{
