@@ -7,6 +7,7 @@
 #include "session/queries.h"
 #include "session/session.h"
 #include "session/trial.h"
+#include "session/what_if.h"
 #include "support/blank_surface.h"
 #include "support/drawn_game.h"
 #include "support/fuzzing.h"
@@ -97,6 +98,25 @@ void CheckTrial(const Situation& before, const Situation& after) {
           "resolved, but not to be tried out", Described(before.Game));
 }
 
+/// What is asked about a list besides its check: how the other rules read its lines, and which
+/// other orders would have changed what comes of the first one.
+void AskAbout(const Situation& before, bool isWhatIf) {
+  const std::vector<std::string>& list = orders::StageList(before.Game);
+  IsAccepted([&] {
+    Require(session::OtherReadings(before).size() == list.size(), "lines not read otherwise");
+  });
+  // The time goes with the square of the units.
+  constexpr int few = 8;
+  if (!isWhatIf || list.empty() || before.Game.Units.Count() > few) return;
+  IsAccepted([&] {
+    const session::Question question = session::Ask(before, list[0]);
+    for (const session::Alternative& alternative : session::SingleChanges(question)) {
+      Require(alternative.Orders.size() == 1, "more than one change", list[0]);
+      Require(!alternative.Sentence.empty(), "a change without its outcome", list[0]);
+    }
+  });
+}
+
 /// Resolves the stage; whether it was done.
 bool ResolveStage(Session& game, session::Comparing comparing) {
   const Situation before = game.Now();
@@ -126,11 +146,13 @@ struct Course {
         TakesBack((byte & 2U) != 0),
         IsDrawn((byte & 4U) != 0),
         Rules((byte & 8U) != 0 ? session::Rules::Usual : session::Rules::Orb),
-        Comparing((byte & 16U) != 0 ? session::Comparing::Yes : session::Comparing::No) {}
+        Comparing((byte & 16U) != 0 ? session::Comparing::Yes : session::Comparing::No),
+        IsAsked((byte & 32U) != 0) {}
 
   bool IsFile, TakesBack, IsDrawn;
   session::Rules Rules;
   session::Comparing Comparing;
+  bool IsAsked;
 };
 
 /// Plays on as far as it goes. `file` puts the orders of a stage into the situation.
@@ -142,6 +164,7 @@ void Play(Session game, const std::function<void(Situation&)>& file, Course cour
     if (!session::TakesOrders(game.Now().Game)) break;
     // Drawing takes longer than all the rest.
     if (i == 0 && course.IsDrawn) Draw(game.Now());
+    if (course.IsAsked) AskAbout(game.Now(), i == 0);
     if (!ResolveStage(game, course.Comparing)) break;
     if (i == 0 && course.IsDrawn) Draw(game.Now());
     if (course.TakesBack) {

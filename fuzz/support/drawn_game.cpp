@@ -6,6 +6,8 @@
 #include "support/fuzzing.h"
 
 #include <algorithm>
+#include <iterator>
+#include <vector>
 
 namespace orb::fuzz {
 namespace {
@@ -74,18 +76,26 @@ std::string Name(const Unit& unit) {
   return unit.UnitType + "(" + unit.Location + ")";
 }
 
+/// One of the moves in the list, empty for none: most of what is supported or carried goes there.
+std::string ListedMove(const GameState& game, Choices& next) {
+  std::vector<std::string> moves;
+  std::ranges::copy_if(game.OrdersList, std::back_inserter(moves),
+                       [](const std::string& line) { return line.find(") - ") == line.find(')'); });
+  const auto row = static_cast<std::size_t>(next.Below(256));
+  return moves.empty() || row >= 224 ? std::string() : moves[row % moves.size()];
+}
+
 std::string MovesOrder(const GameState& game, const Unit& unit, Choices& next) {
   const std::string own = unit.Power + " " + Name(unit);
   const int kind = next.Below(8);
-  if (kind < 3) return own + " - " + PlaceBeside(game, unit, next);
-  if (kind == 3) return own + " hold";
-  const std::string verb = kind < 6 ? " S " : " C ";
-  // Most of what is supported or carried has been ordered to go there.
-  const int count = static_cast<int>(game.OrdersList.size());
-  const int row = next.Below(256);
-  if (count > 0 && row < 192) {
-    return own + verb + game.OrdersList[static_cast<std::size_t>(row % count)];
-  }
+  if (kind == 0) return own + " hold";
+  // Armies also go where only fleets can carry them.
+  const bool isFar = unit.UnitType == "A" && kind == 1;
+  if (kind <= 3)
+    return own + " - " + (isFar ? AnyPlace(game, next) : PlaceBeside(game, unit, next));
+  const std::string verb = kind < (unit.UnitType == "A" ? 8 : 6) ? " S " : " C ";
+  const std::string move = ListedMove(game, next);
+  if (!move.empty()) return own + verb + move;
   const Unit other = UnitToOrder(game, next);
   const std::string head = own + verb + (next.OneIn(4) ? "" : other.Power + " ") + Name(other);
   if (kind == 4) return head + " hold";
