@@ -191,13 +191,14 @@ Section FreeText(const GameState& game) {
 
 }  // namespace
 
-std::string TextReport(const GameState& game) {
+std::string TextReport(const GameState& game, std::string_view remark) {
   std::string report;
   AddWrapped(game.Title, 0, report);
   // A title of several lines is underlined over the full width.
   report.append(std::min(game.Title.size(), TextReportWidth), '=').append("\n");
   AddWrapped(game.Season + " " + std::to_string(game.Year) + ", " + std::string(StageText(game)), 0,
              report);
+  if (!remark.empty()) AddWrapped(remark, 0, report);
   for (const Section& section :
        {Report(game), Units(game), DislodgedUnits(game), SupplyCentres(game), AdjustmentsDue(game),
         Players(game), FreeText(game)}) {
@@ -206,8 +207,9 @@ std::string TextReport(const GameState& game) {
   return report;
 }
 
-void WriteTextReport(const GameState& game, const std::filesystem::path& file) {
-  const std::string report = TextReport(game);
+void WriteTextReport(const GameState& game, const std::filesystem::path& file,
+                     std::string_view remark) {
+  const std::string report = TextReport(game, remark);
   std::string lines;
   for (std::string_view rest = report; !rest.empty();)
     lines.append(text::NextLine(rest)).append("\r\n");

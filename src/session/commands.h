@@ -20,7 +20,8 @@
 
 namespace orb::session {
 
-// Games and their files.
+// Games and their files. A game that is begun or opened is resolved by ORB's own rules until others
+// are chosen.
 
 /// The starting position. The data directory is that of start.dat.
 void NewGame(Situation& situation, const std::filesystem::path& dataDirectory);

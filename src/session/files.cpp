@@ -12,11 +12,13 @@ namespace orb::session {
 
 void NewGame(Situation& situation, const std::filesystem::path& dataDirectory) {
   situation.Editing = Editing::None;
+  situation.Rules = Rules::Orb;
   model::NewGame(situation.Game, dataDirectory);
 }
 
 void BlankGame(Situation& situation, const std::filesystem::path& dataDirectory) {
   situation.Editing = Editing::None;
+  situation.Rules = Rules::Orb;
   model::BlankGame(situation.Game, dataDirectory);
 }
 
@@ -30,6 +32,7 @@ void OpenGame(Situation& situation, const std::filesystem::path& file, bool read
               const std::filesystem::path& dataDirectory, model::Messages& messages) {
   situation.ReadOnly = readOnly;
   situation.Editing = Editing::None;
+  situation.Rules = Rules::Orb;
   situation.Stopped.reset();
   if (!ReadGame(situation, file, messages)) model::NewGame(situation.Game, dataDirectory);
 }

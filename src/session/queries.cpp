@@ -33,6 +33,10 @@ bool IsFinished(const Situation& situation) {
   return situation.Game.Stage == model::Stage::Finished;
 }
 
+std::string_view RulesRemark(const Situation& situation) {
+  return situation.ByUsualRules ? "Resolved by the usual rules" : "";
+}
+
 void ExpectFinished(const Situation& situation) {
   if (IsFinished(situation)) return;
   throw model::FatalError("The season is not finished: the game is in the stage \"" +

@@ -28,6 +28,10 @@ bool CanUndoSeason(const Situation& situation);
 /// Whether the season is finished: it is complete, so that it can be replayed and the next begin.
 bool IsFinished(const Situation& situation);
 
+/// "Resolved by the usual rules", where any stage of the season was; else empty. It belongs into
+/// the heading of every report.
+std::string_view RulesRemark(const Situation& situation);
+
 /// Throws FatalError while the season is not finished.
 void ExpectFinished(const Situation& situation);
 

@@ -71,6 +71,7 @@ bool Resolve(Situation& situation, model::Messages& messages, Noting noting, Com
   }
   if (!resolution.Completed) return false;
   if (resolution.Stage == model::Stage::Moves) ForgetReport(situation);
+  situation.ResolvedBy = situation.Rules;
   if (situation.Rules == Rules::Usual) situation.ByUsualRules = true;
   if (noting == Noting::Full) {
     AddNotes(resolution, situation);

@@ -44,6 +44,7 @@ struct Situation {
   std::vector<Difference> Differences = {};         ///< of those from the other rules' outcomes
   std::optional<StoppedLine> Stopped = {};          ///< until the lists change
   session::Rules Rules = Rules::Orb;                ///< in force for what is resolved next
+  session::Rules ResolvedBy = Rules::Orb;           ///< the last of them
   bool ByUsualRules = false;                        ///< some stage of the season was resolved so
   session::Editing Editing = session::Editing::None;
   model::EditHistory Edits = {};                ///< the steps since the editing began

@@ -42,16 +42,22 @@ QString unfitPowers(std::size_t count) {
 }  // namespace
 
 void showMarks(QListWidget& list, const ListCheck& check,
+               const std::vector<std::string>& otherReadings,
                const std::optional<session::StoppedLine>& stopped) {
   for (int row = 0; row < list.count(); ++row) {
-    const QString reason = lines(check.Lines.at(static_cast<std::size_t>(row)));
+    std::vector<std::string> texts = check.Lines.at(static_cast<std::size_t>(row));
+    const bool passes = texts.empty();
+    const std::string& reading = otherReadings.at(static_cast<std::size_t>(row));
+    if (!reading.empty()) texts.push_back(reading);
+    const QString reason = lines(texts);
     if (stopped && stopped->Row == row) {
       // The check says the same and more.
       const QString why = reason.isEmpty() ? text::ToQString(ResultWord(stopped->Result)) : reason;
       showMark(*list.item(row), OrderMark::Stopped,
                QObject::tr("Resolving stopped here: %1").arg(why));
     } else {
-      showMark(*list.item(row), reason.isEmpty() ? OrderMark::Passes : OrderMark::Doubtful, reason);
+      const OrderMark passing = reading.empty() ? OrderMark::Passes : OrderMark::Otherwise;
+      showMark(*list.item(row), passes ? passing : OrderMark::Doubtful, reason);
     }
   }
 }

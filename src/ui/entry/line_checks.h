@@ -11,8 +11,10 @@
 namespace orb::ui {
 
 /// Marks every line of the stage's list by what the checks say of it; tooltips give the reasons.
-/// The line at which a resolution was abandoned has a mark of its own.
+/// The line at which a resolution was abandoned has a mark of its own, and so has one that would
+/// pass but that the other rules read otherwise.
 void showMarks(QListWidget& list, const adjudication::ListCheck& check,
+               const std::vector<std::string>& otherReadings,
                const std::optional<session::StoppedLine>& stopped);
 
 /// Says how many units, or in the adjustments how many powers, still need orders; the tooltip names

@@ -132,8 +132,9 @@ void OrderEntryPanel::connectControls(const QString& helpTopic) {
   connect(m_list, &QListWidget::itemClicked, this, &OrderEntryPanel::editSelectedOrder);
   connect(m_list, &QListWidget::itemActivated, this, &OrderEntryPanel::editSelectedOrder);
   connect(m_list, &QListWidget::itemSelectionChanged, this, &OrderEntryPanel::tellStatus);
-  m_desk.whenChanged(Changes::Season | Changes::Position | Changes::Orders, this,
+  m_desk.whenChanged(Changes::Season | Changes::Position | Changes::Orders | Changes::Rules, this,
                      &OrderEntryPanel::showLines);
+  connect(&m_desk, &Desk::viewChanged, this, &OrderEntryPanel::showLines);
   connect(&m_desk, &Desk::stopped, this, &OrderEntryPanel::showStoppedLine);
 }
 
@@ -193,7 +194,9 @@ void OrderEntryPanel::showLines() {
 
 void OrderEntryPanel::markLines() {
   const adjudication::ListCheck check = session::CheckOrders(m_desk.now());
-  showMarks(*m_list, check, m_desk.now().Stopped);
+  std::vector<std::string> otherReadings(check.Lines.size());
+  if (m_desk.view().compare) otherReadings = session::OtherReadings(m_desk.now());
+  showMarks(*m_list, check, otherReadings, m_desk.now().Stopped);
   showMissing(*m_missing, check, m_stage);
   tellStatus();
 }

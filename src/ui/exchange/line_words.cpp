@@ -42,6 +42,7 @@ QString markText(OrderMark mark) {
       return QObject::tr("doubtful");
     case OrderMark::Stopped:
       return QObject::tr("unclear");
+    case OrderMark::Otherwise:
     case OrderMark::None:
       break;
   }

@@ -2,6 +2,7 @@
 
 #include "text/qt/text_codec.h"
 #include "ui/widgets/controls.h"
+#include "ui/widgets/order_marks.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -21,7 +22,11 @@ constexpr int ReasonLines = 4;
 }  // namespace
 
 ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
-    : QWidget(parent), m_desk(desk), m_lines(new QListWidget), m_reason(new QLabel) {
+    : QWidget(parent),
+      m_desk(desk),
+      m_differences(new QLabel),
+      m_lines(new QListWidget),
+      m_reason(new QLabel) {
   setObjectName(QStringLiteral("fraReport"));
   m_lines->setObjectName(QStringLiteral("lstReport"));
   m_lines->setAccessibleName(tr("Report"));
@@ -36,6 +41,14 @@ ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
   m_reason->setAlignment(Qt::AlignTop | Qt::AlignLeft);
   // A game master quotes reasons in mails.
   m_reason->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  m_differences->setObjectName(QStringLiteral("lblDifferences"));
+  m_differences->setTextFormat(Qt::RichText);
+  m_differences->setWordWrap(true);
+  m_differences->setTextInteractionFlags(Qt::LinksAccessibleByMouse |
+                                         Qt::LinksAccessibleByKeyboard);
+  connect(m_differences, &QLabel::linkActivated, this,
+          [this] { emit helpWanted(tr("Differences from the usual rules")); });
+  m_lines->setItemDelegate(new OrderMarkDelegate(m_lines));
   layOut();
   addListActions();
   connect(m_lines, &QListWidget::itemSelectionChanged, this, &ReportPanel::showReason);
@@ -55,6 +68,7 @@ void ReportPanel::layOut() {
   reason->setMaximumHeight(ReasonLines * fontMetrics().lineSpacing());
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});
+  column->addWidget(m_differences);
   column->addWidget(m_lines, 1);
   column->addWidget(reason);
 }
@@ -91,7 +105,25 @@ void ReportPanel::showReport() {
     colourLines();
     showReason();
   }
+  showDifferences();
   setVisible(report.Count() > 0);
+}
+
+void ReportPanel::showDifferences() {
+  const session::Situation& now = m_desk.now();
+  // The number is all that is not fixed: nothing from outside becomes part of the markup.
+  const std::string text =
+      session::DifferencesText(static_cast<int>(now.Differences.size()), now.ResolvedBy);
+  m_differences->setText(
+      QStringLiteral("<a href=\"differences\">%1</a>").arg(text::ToQString(text)));
+  m_differences->setVisible(!now.Differences.empty());
+  for (int row = 0; row < m_lines->count(); ++row) {
+    const std::string& otherwise = now.Notes.at(static_cast<std::size_t>(row)).Otherwise;
+    const auto mark = otherwise.empty() ? OrderMark::None : OrderMark::Otherwise;
+    QListWidgetItem& item = *m_lines->item(row);
+    item.setData(OrderMarkRole, static_cast<int>(mark));
+    item.setData(Qt::AccessibleDescriptionRole, text::ToQString(otherwise));
+  }
 }
 
 void ReportPanel::colourLines() {
@@ -112,7 +144,10 @@ void ReportPanel::showReason() {
   if (!chosen) return emit unitsPicked({});
   const session::ReportNote& note =
       m_desk.now().Notes.at(static_cast<std::size_t>(m_lines->currentRow()));
-  m_reason->setText(text::ToQString(note.Reason));
+  const QString reason = text::ToQString(note.Reason);
+  m_reason->setText(note.Otherwise.empty()
+                        ? reason
+                        : reason + QLatin1Char('\n') + text::ToQString(note.Otherwise));
   emit unitsPicked(note.Locations);
 }
 

@@ -11,8 +11,9 @@
 
 namespace orb::ui {
 
-/// The report of the season resolved last, line by line; failed orders are red. Below it stands why
-/// the selected line came out as it did. Hidden as long as there is no report.
+/// The report of the season resolved last, line by line; failed orders are red, those that came out
+/// otherwise than by the other rules are marked. Below it stands why the selected line came out as
+/// it did, and what the other rules would have brought. Hidden as long as there is no report.
 class ReportPanel : public QWidget {
   Q_OBJECT
 
@@ -26,6 +27,8 @@ class ReportPanel : public QWidget {
   /// The units at these locations had a part in the selected line; the first is the line's own.
   void unitsPicked(const std::vector<std::string>& locations);
 
+  void helpWanted(const QString& topic);
+
  protected:
   void changeEvent(QEvent* event) override;
 
@@ -34,6 +37,8 @@ class ReportPanel : public QWidget {
   /// Copying and selecting everything, by key and in the list's own menu.
   void addListActions();
   void showReport();
+  /// Says above the lines how many orders came out otherwise than by the other rules.
+  void showDifferences();
   /// Needed again when the theme changes from light to dark.
   void colourLines();
   /// Shows why the current line came out so, or how to find out while none is selected.
@@ -42,6 +47,7 @@ class ReportPanel : public QWidget {
   void copySelectedLines();
 
   const Desk& m_desk;
+  QLabel* m_differences;
   QListWidget* m_lines;
   QLabel* m_reason;
 };

@@ -52,15 +52,17 @@ QByteArray encoded(const QImage& picture, const char* format) {
 /// The report as the scratch file has it, which is written first and stays. It lies in the user's
 /// own folder: in one that others can write to it might be somebody's link to another file. Where
 /// that folder takes no file the report is the same without.
-std::string scratchedReport(const model::GameState& game) {
+std::string scratchedReport(const session::Situation& situation) {
+  const model::GameState& game = situation.Game;
+  const std::string_view remark = session::RulesRemark(situation);
   const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
   const fs::path file = fs::path(QFile::encodeName(cache).toStdString()) / "orb_text.tmp";
   try {
     QDir().mkpath(cache);
-    report::WriteTextReport(game, file);
+    report::WriteTextReport(game, file, remark);
     return model::ReadFile(file);
   } catch (const model::FileError&) {
-    return report::TextReport(game);
+    return report::TextReport(game, remark);
   }
 }
 
@@ -117,7 +119,7 @@ void ExportCommands::copyMap() {
 
 void ExportCommands::copyText() {
   attempt(m_messages, [this] {
-    const std::string written = scratchedReport(m_desk.game());
+    const std::string written = scratchedReport(m_desk.now());
     std::string_view rest = written;
     QString text;
     // Whatever the file's line ends are, the clipboard's are those that every program understands.
@@ -141,7 +143,7 @@ void ExportCommands::exportText() {
   const auto file = askWhereToExport(m_window, ExportKind::Text, m_desk.game(), m_messages);
   if (!file) return;
   attempt(m_messages, [&] {
-    report::WriteTextReport(m_desk.game(), *file);
+    report::WriteTextReport(m_desk.game(), *file, session::RulesRemark(m_desk.now()));
     const QString shown = displayPath(file->string());
     const bool opened = m_open(QUrl::fromLocalFile(shown));
     emit noted(opened ? tr("The text is in %1.").arg(shown)
@@ -171,7 +173,7 @@ void ExportCommands::printOnce(QPrinter& printer) {
   const View& view = m_desk.view();
   const fs::path background = render::BackgroundFile(m_desk.dataDirectory(), view.mapOptions.Mode);
   const PrintedGame game{
-      gameName(now), text::ToQString(report::TextReport(now)),
+      gameName(now), text::ToQString(report::TextReport(now, session::RulesRemark(m_desk.now()))),
       m_pictures.Picture(background).size(), [&](QPainter& painter, const QRectF& target) {
         render::PaintMap(now, view.mapOptions, m_desk.dataDirectory(), m_pictures, painter, target,
                          shownOrders(m_desk.now(), view));

@@ -39,12 +39,17 @@ void Desk::blankGame() {
 void Desk::openGame(const std::filesystem::path& file, bool readOnly) {
   const auto open = [&](Situation& next) {
     session::OpenGame(next, file, readOnly, m_dataDirectory, m_messages);
+    session::SetRules(next, m_rulesOf(next.Game.FileName));
   };
   run(open, FileHolds::Game);
 }
 
 bool Desk::recoverGame(const Situation& recovered) {
-  return run([&](Situation& next) { next = recovered; }, FileHolds::Other);
+  const auto recover = [&](Situation& next) {
+    next = recovered;
+    session::SetRules(next, m_rulesOf(next.Game.FileName));
+  };
+  return run(recover, FileHolds::Other);
 }
 
 bool Desk::saveGameAs(const std::filesystem::path& file, session::Overwrite overwrite) {
@@ -67,7 +72,10 @@ int Desk::fileOrders(const std::vector<exchange::ReadLine>& lines) {
 }
 
 void Desk::resolve() {
-  run([this](Situation& next) { return session::Resolve(next, m_messages); });
+  const auto comparing = m_view.compare ? session::Comparing::Yes : session::Comparing::No;
+  run([&](Situation& next) {
+    return session::Resolve(next, m_messages, session::Noting::Full, comparing);
+  });
   if (now().Stopped) emit stopped();
 }
 
@@ -77,6 +85,10 @@ void Desk::nextSeason() {
 
 void Desk::undoSeason() {
   run([this](Situation& next) { return session::UndoSeason(next, m_messages); });
+}
+
+void Desk::setRules(session::Rules rules) {
+  run([&](Situation& next) { session::SetRules(next, rules); });
 }
 
 void Desk::editSeason(const model::SeasonFacts& facts) {
@@ -127,6 +139,12 @@ void Desk::setViewOnly(bool viewOnly) {
 void Desk::setShowOrders(bool showOrders) {
   View next = m_view;
   next.showOrders = showOrders;
+  show(next);
+}
+
+void Desk::setCompare(bool compare) {
+  View next = m_view;
+  next.compare = compare;
   show(next);
 }
 

@@ -47,6 +47,11 @@ class Desk : public QObject {
   /// Called before anything new is taken over: what cannot be drawn is not.
   void setDrawing(Drawing draw) { m_draw = std::move(draw); }
 
+  /// Tells by which rules the game of a file was resolved before; asked when a file is opened.
+  void setRulesMemory(std::function<session::Rules(const std::string& file)> rulesOf) {
+    m_rulesOf = std::move(rulesOf);
+  }
+
   /// Calls the receiver's slot after every command that changed any of these parts.
   template <class Receiver>
   void whenChanged(session::Changes parts, Receiver* receiver, void (Receiver::*slot)()) const {
@@ -75,6 +80,7 @@ class Desk : public QObject {
   void resolve();
   void nextSeason();
   void undoSeason();
+  void setRules(session::Rules rules);
   void editSeason(const model::SeasonFacts& facts);
   void setColours(const model::CountryTable& colours);
 
@@ -91,6 +97,7 @@ class Desk : public QObject {
   void setMapOptions(const settings::MapOptions& options);
   void setViewOnly(bool viewOnly);
   void setShowOrders(bool showOrders);
+  void setCompare(bool compare);
 
  signals:
   /// A command changed these parts of the situation. After one that was abandoned, all of them:
@@ -118,6 +125,9 @@ class Desk : public QObject {
   std::filesystem::path m_dataDirectory;
   model::Messages& m_messages;
   Drawing m_draw = [](const session::Situation&, const View&) {};
+  std::function<session::Rules(const std::string&)> m_rulesOf = [](const std::string&) {
+    return session::Rules::Orb;
+  };
 };
 
 }  // namespace orb::ui

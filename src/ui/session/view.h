@@ -12,6 +12,7 @@ struct View {
   settings::MapOptions mapOptions = {};
   bool viewOnly = false;    ///< only the map is shown
   bool showOrders = false;  ///< orders are drawn on the map
+  bool compare = true;      ///< what the other rules would have brought is told
 };
 
 /// The orders to be drawn on the map: none while the view does not show them. The map on the

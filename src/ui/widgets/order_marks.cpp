@@ -31,6 +31,7 @@ MarkColours coloursOf(OrderMark mark, const QStyleOptionViewItem& item) {
   const QColor background = item.palette.color(group, QPalette::Base);
   switch (mark) {
     case OrderMark::Doubtful:
+    case OrderMark::Otherwise:
       return {doubtColour(background), background};
     case OrderMark::Stopped:
       return {failureColour(background), background};
@@ -55,6 +56,13 @@ void paintTriangle(QPainter& painter, const MarkColours& colours) {
   painter.drawPoint(QPointF(8, 11.9));
 }
 
+void paintInequality(QPainter& painter, const MarkColours& colours) {
+  painter.setPen(QPen(colours.shape, 1.6, Qt::SolidLine, Qt::RoundCap));
+  painter.drawLine(QPointF(3, 6), QPointF(13, 6));
+  painter.drawLine(QPointF(3, 10.5), QPointF(13, 10.5));
+  painter.drawLine(QPointF(10.5, 2.5), QPointF(5.5, 14));
+}
+
 void paintStop(QPainter& painter, const MarkColours& colours) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(colours.shape);
@@ -69,6 +77,8 @@ void paintMark(OrderMark mark, QPainter& painter, const MarkColours& colours) {
       return paintTick(painter, colours);
     case OrderMark::Doubtful:
       return paintTriangle(painter, colours);
+    case OrderMark::Otherwise:
+      return paintInequality(painter, colours);
     case OrderMark::Stopped:
       return paintStop(painter, colours);
     case OrderMark::None:

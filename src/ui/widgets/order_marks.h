@@ -7,9 +7,10 @@ namespace orb::ui {
 /// What is known about a line of orders before it is resolved.
 enum class OrderMark : std::uint8_t {
   None,
-  Passes,    ///< a thin tick
-  Doubtful,  ///< a triangle with an exclamation mark
-  Stopped,   ///< a filled disc with a bar: the line stopped the resolution or is not understood
+  Passes,     ///< a thin tick
+  Doubtful,   ///< a triangle with an exclamation mark
+  Otherwise,  ///< an inequality sign: the other rules decide or read it otherwise
+  Stopped,    ///< a filled disc with a bar: the line stopped the resolution or is not understood
 };
 
 /// Where an item of a list keeps its OrderMark, as an int.

@@ -4,6 +4,8 @@
 #include "ui/editing/season_dialog.h"
 #include "ui/widgets/controls.h"
 
+#include <QActionGroup>
+
 namespace orb::ui {
 
 using session::Editing;
@@ -24,10 +26,13 @@ GameMenu::GameMenu(Desk& desk, QWidget* parent) : QMenu(tr("&Game"), parent), m_
           &QAction::triggered, this, [this] { editColours(m_desk, parentWidget()); });
   addEditSteps();
   addSeparator();
+  addRules();
+  addSeparator();
   m_undo = newEntry(*this, QStringLiteral("mnuGameUndo"), tr("U&ndo season"), QKeySequence::Undo);
   connect(m_undo, &QAction::triggered, &desk, &Desk::undoSeason);
-  m_desk.whenChanged(session::Changes::Season | session::Changes::Editing, this,
-                     &GameMenu::showState);
+  m_desk.whenChanged(session::Changes::Season | session::Changes::Editing | session::Changes::Rules,
+                     this, &GameMenu::showState);
+  connect(&m_desk, &Desk::viewChanged, this, &GameMenu::showState);
   showState();
 }
 
@@ -60,6 +65,26 @@ void GameMenu::addEditSteps() {
   connect(m_redoEdit, &QAction::triggered, &m_desk, &Desk::redoEdit);
 }
 
+void GameMenu::addRules() {
+  auto* menu = new QMenu(tr("Rul&es"), this);
+  menu->setObjectName(QStringLiteral("mnuGameRules"));
+  addMenu(menu);
+  auto* group = new QActionGroup(menu);
+  const auto add = [&](const QString& name, const QString& caption, session::Rules rules) {
+    QAction* entry = newEntry(*menu, name, caption);
+    entry->setCheckable(true);
+    group->addAction(entry);
+    m_rules.emplace_back(entry, rules);
+    connect(entry, &QAction::triggered, this, [this, rules] { m_desk.setRules(rules); });
+  };
+  add(QStringLiteral("mnuGameRulesOrb"), tr("&ORB's own"), session::Rules::Orb);
+  add(QStringLiteral("mnuGameRulesUsual"), tr("The &usual ones"), session::Rules::Usual);
+  m_compare =
+      newEntry(*this, QStringLiteral("mnuGameCompare"), tr("&Compare with the usual rules"));
+  m_compare->setCheckable(true);
+  connect(m_compare, &QAction::triggered, &m_desk, &Desk::setCompare);
+}
+
 void GameMenu::showState() {
   const model::Stage now = m_desk.game().Stage;
   const Editing edited = m_desk.now().Editing;
@@ -69,6 +94,12 @@ void GameMenu::showState() {
   }
   for (const auto& [entry, editing] : m_editings)
     entry->setChecked(editing == edited);
+  for (const auto& [entry, rules] : m_rules)
+    entry->setChecked(rules == m_desk.now().Rules);
+  m_compare->setChecked(m_desk.view().compare);
+  m_compare->setText(m_desk.now().Rules == session::Rules::Orb
+                         ? tr("&Compare with the usual rules")
+                         : tr("&Compare with ORB's own rules"));
   // The keys of a hidden entry do nothing.
   for (QAction* entry : {m_undoEdit, m_redoEdit})
     entry->setVisible(edited != Editing::None);

@@ -23,6 +23,7 @@ class GameMenu : public QMenu {
   void addStage(const QString& name, const QString& caption, model::Stage stage);
   void addEditing(const QString& name, const QString& caption, session::Editing editing);
   void addEditSteps();
+  void addRules();
   void showState();
 
   Desk& m_desk;
@@ -32,6 +33,8 @@ class GameMenu : public QMenu {
   QAction* m_undoEdit = nullptr;
   QAction* m_redoEdit = nullptr;
   QAction* m_undo = nullptr;
+  std::vector<std::pair<QAction*, session::Rules>> m_rules;
+  QAction* m_compare = nullptr;
 };
 
 }  // namespace orb::ui

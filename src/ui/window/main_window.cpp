@@ -33,6 +33,7 @@
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
@@ -55,12 +56,18 @@ constexpr int ColumnWidth = 345;
 /// The name under which it is remembered whether orders are drawn; the settings file has a fixed
 /// form without a place for it.
 const QString ShowOrders = QStringLiteral("map/showOrders");
+/// Whether the outcomes are held against the other rules.
+const QString Compare = QStringLiteral("game/compare");
 constexpr QSize PreferredSize(1280, 800);
 
 /// The one local file that is dragged; empty when it is anything else.
 QString draggedFile(const QMimeData& data) {
   const QList<QUrl> urls = data.urls();
   return urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
+}
+
+QString fullPath(const std::string& file) {
+  return QFileInfo(displayPath(file)).absoluteFilePath();
 }
 
 }  // namespace
@@ -81,6 +88,9 @@ MainWindow::MainWindow(Start start, const Places& places)
   addToolBar(m_tools);
   restoreSize();
   m_desk.setShowOrders(m_memory.flag(ShowOrders));
+  m_desk.setCompare(m_memory.flag(Compare, true));
+  m_desk.setRulesMemory([this](const std::string& file) { return rememberedRules(file); });
+  m_desk.setRules(rememberedRules(m_desk.game().FileName));
   // Measured and, below, drawn directly this once: when the map cannot be drawn at the start, the
   // exception must reach the caller instead of becoming a box over a window that is not there yet.
   m_map->measure(m_desk.view());
@@ -90,9 +100,11 @@ MainWindow::MainWindow(Start start, const Places& places)
   using session::Changes;
   m_desk.whenChanged(Changes::Season | Changes::File | Changes::Editing, this,
                      &MainWindow::showGame);
+  m_desk.whenChanged(Changes::Rules | Changes::File, this, &MainWindow::showRules);
   connect(&m_desk, &Desk::viewChanged, this, &MainWindow::showViewOnly);
   connect(&m_desk, &Desk::changed, this, [this] { setWindowModified(m_desk.isModified()); });
   showGame();
+  showRules();
   // The map is drawn once all has its place: at any other size it would be drawn again.
   layout()->activate();
   centralWidget()->layout()->activate();
@@ -132,6 +144,8 @@ void MainWindow::createPanels() {
   connect(m_view, &MapView::zoomChanged, this, &MainWindow::leaveSpareWidth);
   // The units that a selected report line mentions are ringed on the map.
   connect(m_report, &ReportPanel::unitsPicked, m_map, &MapPicture::setMarks);
+  connect(m_report, &ReportPanel::helpWanted, this,
+          [this](const QString& topic) { m_helpMenu->showTopic(topic); });
   m_player = new AnimationPlayer(m_desk, m_messages, *m_map, this);
   connect(m_player, &AnimationPlayer::changed, this, &MainWindow::showAnimation);
   connect(m_player, &AnimationPlayer::noted, this, &MainWindow::showStatus);
@@ -206,7 +220,12 @@ void MainWindow::createStatusBar() {
     label->setContentsMargins(Margin, 0, Margin, 0);
   }
   statusBar()->setSizeGripEnabled(false);
+  m_rules = new QLabel;
+  m_rules->setObjectName(QStringLiteral("lblRules"));
+  m_rules->setContentsMargins(Margin, 0, Margin, 0);
+  m_rules->hide();
   statusBar()->addWidget(m_status, 1);
+  statusBar()->addWidget(m_rules);
   statusBar()->addWidget(m_fileName);
 }
 
@@ -232,6 +251,7 @@ void MainWindow::rememberSettings() {
   rememberSize();
   m_memory.setZoom(m_view->zoom());
   m_memory.setFlag(ShowOrders, m_desk.view().showOrders);
+  m_memory.setFlag(Compare, m_desk.view().compare);
   const View& view = m_desk.view();
   settings::WriteSettingsFile(settings::SettingsFileForWriting(m_places.program, m_places.config),
                               {view.mapOptions, view.viewOnly}, m_desk.game().Countries);
@@ -282,12 +302,25 @@ void MainWindow::showGame() {
   if (file != m_fileName->text()) {
     m_fileName->setText(file);
     m_fileName->setToolTip(file);
-    if (!file.isEmpty()) m_memory.addRecentFile(QFileInfo(file).absoluteFilePath());
+    if (!file.isEmpty()) m_memory.addRecentFile(fullPath(game.FileName));
   }
   // Only a real change brings the panel to the front again: it takes the keyboard and begins its
   // line anew.
   if (m_shownPanel != std::pair(game.Stage, m_desk.now().Editing)) showStagePanel();
   showViewOnly();
+}
+
+session::Rules MainWindow::rememberedRules(const std::string& file) const {
+  const bool usual = !file.empty() && m_memory.usualRules(fullPath(file));
+  return usual ? session::Rules::Usual : session::Rules::Orb;
+}
+
+void MainWindow::showRules() {
+  const bool usual = m_desk.now().Rules == session::Rules::Usual;
+  const std::string& file = m_desk.game().FileName;
+  if (!file.empty()) m_memory.setUsualRules(fullPath(file), usual);
+  m_rules->setText(usual ? tr("By the usual rules") : QString());
+  m_rules->setVisible(usual);
 }
 
 /// Only the map shows in view-only mode, and nothing that belongs to playing.

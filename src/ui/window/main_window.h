@@ -11,6 +11,7 @@
 #include <optional>
 #include <utility>
 
+class QLabel;
 class QTabWidget;
 class QToolBar;
 
@@ -76,6 +77,9 @@ class MainWindow : public QMainWindow {
   // Each shows one side of the state, whatever has changed, and may be called at any time.
   void showGame();
   void showViewOnly();
+  session::Rules rememberedRules(const std::string& file) const;
+  /// Shows and remembers which rules are in force for the game's file.
+  void showRules();
   /// How wide the window is, in pixels, when only the map shows.
   int mapOnlyWidth();
   /// What the window has for the map from top to bottom, in pixels.
@@ -120,6 +124,7 @@ class MainWindow : public QMainWindow {
   HelpMenu* m_helpMenu = nullptr;
   MapMenu* m_mapMenu = nullptr;
   ElidedLabel* m_status = nullptr;
+  QLabel* m_rules = nullptr;
   ElidedLabel* m_fileName = nullptr;
   /// What the visible panel is for, so that it is replaced only when that has changed.
   std::optional<std::pair<model::Stage, session::Editing>> m_shownPanel;

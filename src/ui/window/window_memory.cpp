@@ -9,6 +9,9 @@ namespace {
 const QString Geometry = QStringLiteral("window/geometry");
 const QString Zoom = QStringLiteral("map/zoom");
 const QString RecentFiles = QStringLiteral("files/recent");
+const QString UsualRules = QStringLiteral("files/usualRules");
+
+constexpr qsizetype UsualRulesBound = 1000;
 
 }  // namespace
 
@@ -34,12 +37,24 @@ void WindowMemory::setZoom(std::optional<double> zoom) {
   zoom ? m_store.setValue(Zoom, *zoom) : m_store.remove(Zoom);
 }
 
-bool WindowMemory::flag(const QString& name) const {
-  return m_store.value(name).toBool();
+bool WindowMemory::flag(const QString& name, bool otherwise) const {
+  return m_store.value(name, otherwise).toBool();
 }
 
 void WindowMemory::setFlag(const QString& name, bool on) {
   m_store.setValue(name, on);
+}
+
+bool WindowMemory::usualRules(const QString& file) const {
+  return m_store.value(UsualRules).toStringList().contains(file);
+}
+
+void WindowMemory::setUsualRules(const QString& file, bool usual) {
+  if (usual == usualRules(file)) return;
+  QStringList files = m_store.value(UsualRules).toStringList();
+  files.removeAll(file);
+  if (usual) files.prepend(file);
+  m_store.setValue(UsualRules, files.mid(0, UsualRulesBound));
 }
 
 QStringList WindowMemory::recentFiles() const {

@@ -27,9 +27,14 @@ class WindowMemory {
   std::optional<double> zoom() const;
   void setZoom(std::optional<double> zoom);
 
-  /// A choice that is on or off; off until it is set.
-  bool flag(const QString& name) const;
+  /// A choice that is on or off; as given until it is set.
+  bool flag(const QString& name, bool otherwise = false) const;
   void setFlag(const QString& name, bool on);
+
+  /// Whether the game of the file is resolved by the usual rules. The file's form has no place for
+  /// it. Of more files than anybody keeps up the oldest are forgotten.
+  bool usualRules(const QString& file) const;
+  void setUsualRules(const QString& file, bool usual);
 
   /// Game files opened or saved, the last one first.
   QStringList recentFiles() const;
