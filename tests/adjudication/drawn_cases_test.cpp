@@ -1,6 +1,7 @@
 #include "support/drawn_cases.h"
 
 #include "adjudication/stages.h"
+#include "adjudication/usual/stages.h"
 #include "model/game_file.h"
 #include "support/boards.h"
 #include "support/scripted_messages.h"
@@ -66,11 +67,18 @@ struct Trial {
   std::vector<std::string> Results;  ///< result words, where the report does not show them
 };
 
+/// The rules that a file of cases is about.
+using Rules = adjudication::Resolution (*)(GameState&, model::Messages&);
+
+adjudication::Resolution ByUsualRules(GameState& game, model::Messages& /*asks nothing*/) {
+  return adjudication::usual::ResolveStage(game);
+}
+
 /// Resolves the case's stage and compares what every kind of case is about.
-void RunCase(const DrawnCase& drawn, Trial& trial) {
+void RunCase(const DrawnCase& drawn, Rules resolve, Trial& trial) {
   GameState game = trial.Before;
   ScriptedMessages messages(drawn.Answers());
-  const adjudication::Resolution resolution = adjudication::ResolveStage(game, messages);
+  const adjudication::Resolution resolution = resolve(game, messages);
   if (drawn.Has("asks")) {
     EXPECT_THAT(messages.Questions, ElementsAreArray(drawn.Texts("asks")));
   }
@@ -87,7 +95,8 @@ void RunCase(const DrawnCase& drawn, Trial& trial) {
   }
   EXPECT_EQ(DrawUnits(game), DrawUnits(trial.After));
   EXPECT_EQ(StageText(game), drawn.Note("stage", std::string(StageText(trial.After))));
-  if (drawn.Has("contested")) {
+  const bool isByUsualMoves = resolve == ByUsualRules && trial.Before.Stage == model::Stage::Moves;
+  if (drawn.Has("contested") || isByUsualMoves) {
     EXPECT_THAT(Words(ContestedPlaces(game)),
                 UnorderedElementsAreArray(Words(drawn.Note("contested"))));
   }
@@ -118,17 +127,18 @@ Trial DrawMoves(const DrawnCase& drawn) {
   Trial trial;
   trial.Before = EmptyBoard(drawn.Note("season", "Spring"), "moves");
   trial.After = EmptyBoard("", trial.Before.Season == "Spring" ? "finished" : "adjustments");
+  for (const std::string& unit : drawn.Texts("units"))
+    AddDrawnUnit(trial.Before, unit);
   for (const std::string& line : drawn.Drawing) {
     const DrawnOrder order = ReadReportLine(line);
     trial.Report.push_back(MoveReportLine(order));
-    PlaceUnit(trial, order);
+    if (!drawn.Has("units")) PlaceUnit(trial, order);
     if (order.Result == model::Dislodged) trial.After.Stage = model::Stage::Retreats;
     if (!order.Text.ends_with(" unordered; hold")) trial.Before.OrdersList.push_back(order.Text);
   }
-  if (drawn.Has("board")) {
-    trial.After.Units.SetCount(0);
-    AddDrawnUnit(trial.After, drawn.Note("board"));
-  }
+  if (drawn.Has("board")) trial.After.Units.SetCount(0);
+  for (const std::string& unit : drawn.Texts(drawn.Has("board") ? "board" : "units"))
+    AddDrawnUnit(trial.After, unit);
   return trial;
 }
 
@@ -170,7 +180,7 @@ Trial DrawRetreats(const DrawnCase& drawn) {
 
 bool IsAdjustment(std::string_view line) {
   const std::vector<std::string> words = Words(line);
-  return line.starts_with("[ ") ||
+  return line.starts_with("[ ") || line.ends_with("  unordered") ||
          (words.size() == 3 && (words[1].size() == 5 || words[1].size() == 7));
 }
 
@@ -185,9 +195,9 @@ Trial DrawAdjustments(const DrawnCase& drawn) {
       continue;
     }
     const DrawnOrder order = ReadReportLine(line);
-    trial.Before.AdjustmentsList.push_back(order.Text);
+    if (order.Result != "unordered") trial.Before.AdjustmentsList.push_back(order.Text);
     trial.Results.push_back(order.Result);
-    trial.Report.push_back(order.Failed ? MoveReportLine(order) : order.Text + "  ");
+    trial.Report.push_back(MoveReportLine(order).substr(order.Failed ? 0 : 2));
   }
   for (const std::string& note : drawn.Texts("centres"))
     Own(trial.Before, note);
@@ -198,15 +208,23 @@ Trial DrawAdjustments(const DrawnCase& drawn) {
 }
 
 TEST(DrawnCases, EndAsDrawn) {
-  const std::vector<std::pair<std::string_view, Trial (*)(const DrawnCase&)>> files = {
-      {"adjudication/moves.txt", DrawMoves},
-      {"adjudication/retreats.txt", DrawRetreats},
-      {"adjudication/adjustments.txt", DrawAdjustments}};
-  for (const auto& [fileName, draw] : files) {
-    for (const DrawnCase& drawn : LoadDrawnCases(fileName)) {
-      SCOPED_TRACE(drawn.Name);
-      Trial trial = draw(drawn);
-      RunCase(drawn, trial);
+  struct CaseFile {
+    std::string_view Name;
+    Trial (*Draw)(const DrawnCase&);
+    Rules Resolve;
+  };
+  const std::vector<CaseFile> files = {
+      {"moves.txt", DrawMoves, adjudication::ResolveStage},
+      {"retreats.txt", DrawRetreats, adjudication::ResolveStage},
+      {"adjustments.txt", DrawAdjustments, adjudication::ResolveStage},
+      {"usual_moves.txt", DrawMoves, ByUsualRules},
+      {"usual_retreats.txt", DrawRetreats, ByUsualRules},
+      {"usual_adjustments.txt", DrawAdjustments, ByUsualRules}};
+  for (const CaseFile& file : files) {
+    for (const DrawnCase& drawn : LoadDrawnCases(std::string("adjudication/").append(file.Name))) {
+      SCOPED_TRACE(std::string(file.Name).append(": ").append(drawn.Name));
+      Trial trial = file.Draw(drawn);
+      RunCase(drawn, file.Resolve, trial);
     }
   }
 }
