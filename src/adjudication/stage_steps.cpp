@@ -144,7 +144,7 @@ void WriteAdjustmentReport(GameState& game, Resolution& resolution) {
   resolution.Entries.push_back({game.ReportLines.Count(), 0});
   for (int k = 1; k <= resolution.Orders.Count(); ++k) {
     const OrderLine& order = resolution.Orders[k];
-    std::string line = order.Active ? order.Text + "  " : "[ " + order.Text + " ]  ";
+    std::string line = order.Failed ? "[ " + order.Text + " ]  " : order.Text + "  ";
     line += orders::ResultWord(order.Result);
     game.ReportLines.Append(std::move(line));
     resolution.Entries.push_back({game.ReportLines.Count(), k});
