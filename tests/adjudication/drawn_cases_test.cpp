@@ -95,6 +95,8 @@ void RunCase(const DrawnCase& drawn, Rules resolve, Trial& trial) {
   }
   EXPECT_EQ(DrawUnits(game), DrawUnits(trial.After));
   EXPECT_EQ(StageText(game), drawn.Note("stage", std::string(StageText(trial.After))));
+  for (int u = 1; u <= game.Units.Count() && trial.Before.Stage == model::Stage::Moves; ++u)
+    EXPECT_EQ(game.Units[u].PreviousLocation, trial.Before.Units[u].Location);
   const bool isByUsualMoves = resolve == ByUsualRules && trial.Before.Stage == model::Stage::Moves;
   if (drawn.Has("contested") || isByUsualMoves) {
     EXPECT_THAT(Words(ContestedPlaces(game)),

@@ -15,6 +15,7 @@
 namespace orb::tests {
 namespace {
 
+using adjudication::Ruling;
 using model::GameState;
 using model::Unit;
 
@@ -41,11 +42,16 @@ std::string Difference(const GameState& before, const Ruled& ruled) {
     got.DislodgedFrom = unit.DislodgedFrom;
     got.Dislodged = unit.Status == model::Dislodged;
     if (fate.Moves || fate.Supports) got.Serves = !order.Failed;
+    const Ruling ruling = resolution.Reasons[resolution.OrdersOfUnits[u]].Ruling;
+    const bool isSpecial =
+        ruling == Ruling::Paradox || ruling == Ruling::NoPath || ruling == Ruling::Ring;
+    got.Why = isSpecial ? ruling : Ruling::None;
     if (got == fate) continue;
     text += model::UnitText(before.Units[u]) + " ends in " + got.Location + " <" +
             got.DislodgedFrom + (got.Dislodged ? "!" : "") + (got.Serves ? " served" : "") +
             " instead of " + fate.Location + " <" + fate.DislodgedFrom +
-            (fate.Dislodged ? "!" : "") + (fate.Serves ? " served" : "") + "\n";
+            (fate.Dislodged ? "!" : "") + (fate.Serves ? " served" : "") +
+            (got.Why == fate.Why ? "" : ", for another reason") + "\n";
   }
   return text;
 }

@@ -10,6 +10,8 @@
 namespace orb::tests {
 namespace {
 
+using adjudication::Ruling;
+
 int CountOf(Bits bits) {
   return std::popcount(bits);
 }
@@ -18,8 +20,10 @@ int CountOf(Bits bits) {
 struct World {
   Bits Succeeding = 0;  ///< moves
   Bits Dislodged = 0;
-  Bits Pathed = 0;  ///< moves that have their path
-  Bits Given = 0;   ///< supports
+  Bits Pathed = 0;   ///< moves that have their path
+  Bits Given = 0;    ///< supports
+  Bits Barred = 0;   ///< moves without a path since it would depend on itself
+  Bits Turning = 0;  ///< moves that succeed together or not at all
 };
 
 /// The units' duties and the definitions of the usual rules, word by word.
@@ -204,9 +208,11 @@ class Trials {
         return world.Pathed == worlds.front().Pathed;
       });
       if (!worlds.empty() && agree) {
-        ruled.Paradoxes = CountOf(barred);
-        ruled.HasCircle = worlds.size() > 1;
-        return Fullest(worlds, ruled);
+        World world = Fullest(worlds, ruled);
+        world.Barred = barred;
+        for (const World& other : worlds)
+          world.Turning |= world.Succeeding & ~other.Succeeding;
+        return world;
       }
       const Bits more = SelfDependent(barred, ruled);
       if (more == 0) {
@@ -348,12 +354,18 @@ void TellFates(const model::GameState& game, const Definitions& rules, const Wor
     fate.Supports = duty.Kind == Duty::What::Support;
     fate.Serves = Has(world.Succeeding | world.Given, u);
     fate.Dislodged = Has(world.Dislodged, u);
+    fate.Why = Has(world.Barred, u)                  ? Ruling::Paradox
+               : fate.Moves && !Has(world.Pathed, u) ? Ruling::NoPath
+               : Has(world.Turning, u)               ? Ruling::Ring
+                                                     : Ruling::None;
     if (fate.Moves && fate.Serves) fate.Location = model::LocationName(*game.Map, duty.Landing);
     for (int v = 0; fate.Dislodged && v < rules.Count(); ++v) {
       if (!Has(world.Succeeding & rules.MovesInto(duty.From), v) || rules.Of(v).ByConvoy) continue;
       fate.DislodgedFrom = game.Units[v + 1].Location;
     }
     ruled.Moves += fate.Moves ? 1 : 0;
+    ruled.Paradoxes += fate.Why == Ruling::Paradox ? 1 : 0;
+    ruled.HasCircle = ruled.HasCircle || fate.Why == Ruling::Ring;
     ruled.Convoyed += duty.ByConvoy && !duty.Chains.empty() ? 1 : 0;
   }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "adjudication/resolution.h"
 #include "model/game_state.h"
 
 #include <set>
@@ -16,6 +17,9 @@ struct UnitFate {
   bool Moves = false;     ///< it has a possible move
   bool Supports = false;  ///< it has a possible support that matches
   bool Serves = false;    ///< its move succeeds, its support is given
+
+  /// Paradox, NoPath or Ring of moves that they decide; else None.
+  adjudication::Ruling Why = adjudication::Ruling::None;
 
   bool operator==(const UnitFate&) const = default;
 };
