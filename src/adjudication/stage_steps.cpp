@@ -41,6 +41,19 @@ int ReportLineOf(const model::Unit& unit, GameState& game) {
   return game.ReportLines.Count();
 }
 
+/// Removes the unit that the order is for, not another one that stands in its place too.
+void RemoveUnit(GameState& game, const OrderLine& order) {
+  for (int u = game.Units.Count(); u >= 1; --u) {
+    const model::Unit& unit = game.Units[u];
+    if (unit.Power == model::PowerName(order.Power) &&
+        unit.UnitType == model::UnitTypeName(order.UnitType) &&
+        unit.Location == model::LocationName(*game.Map, order.Location)) {
+      game.Units.Remove(u);
+      return;
+    }
+  }
+}
+
 }  // namespace
 
 void ThrowNothingToResolve(const GameState& game) {
@@ -155,7 +168,7 @@ bool CarryOutAdjustments(GameState& game, const OrderTable& table) {
   for (const OrderLine& order : table) {
     if (!order.Active) continue;
     if (order.Kind != OrderKind::Build) {
-      game.Units.Remove(model::FindUnitAt(game, order.Location));
+      RemoveUnit(game, order);
     } else if (game.Units.Count() == model::UnitBound) {
       return false;
     } else {
