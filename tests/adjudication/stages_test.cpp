@@ -1,5 +1,6 @@
 #include "adjudication/stages.h"
 
+#include "adjudication/usual/stages.h"
 #include "model/errors.h"
 #include "support/boards.h"
 #include "support/scripted_messages.h"
@@ -39,11 +40,14 @@ TEST(Stages, TablesHaveBounds) {
     AddDrawnUnit(game, c.Unit);
     OrdersOf(game).assign(c.Orders, c.Order);
     game.ReportLines.SetCount(c.ReportLines);
+    GameState same = game;
     ScriptedMessages messages;
     if (c.Fits) {
       EXPECT_TRUE(adjudication::ResolveStage(game, messages).Completed);
+      EXPECT_TRUE(adjudication::usual::ResolveStage(same).Completed);
     } else {
       EXPECT_THROW(adjudication::ResolveStage(game, messages), model::IndexOutOfRange);
+      EXPECT_THROW(adjudication::usual::ResolveStage(same), model::IndexOutOfRange);
     }
   }
 }
@@ -53,6 +57,7 @@ TEST(Stages, OnlyThreeStagesCanBeResolved) {
   for (const char* stage : {"finished", "", "Moves"}) {
     GameState game = EmptyBoard("Spring", stage);
     EXPECT_THROW(adjudication::ResolveStage(game, messages), model::FatalError) << stage;
+    EXPECT_THROW(adjudication::usual::ResolveStage(game), model::FatalError) << stage;
   }
 }
 
