@@ -54,7 +54,8 @@ int Execute(const CommandLine& line, Console& console) {
   return ForEachGame(line, console, plan, [&](GameAtWork& at) {
     // Nothing is asked here, so --yes has no meaning: every problem is listed, and no game is
     // written.
-    const std::vector<exchange::ReadLine> leftOut = source.Take(at.Situation, at.Paths);
+    const std::vector<exchange::ReadLine> leftOut =
+        source.Take(at.Situation, at.Paths, at.Messages);
     at.Situation.Rules = rules;
     const std::string text = ProblemLines(at.Situation, at.Paths.Game, leftOut);
     console.Print(text);

@@ -45,9 +45,9 @@ int PixelWidth(const CommandLine& line) {
 /// The orders to be drawn, taken from the orders file. This is done only when --orders is given: by
 /// default not even the orders of the game file are drawn, since maps go to all players.
 std::vector<orders::OrderOutcome> OrdersToDraw(session::Situation& situation, OrdersSource& source,
-                                               const GamePaths& paths) {
+                                               const GamePaths& paths, model::Messages& messages) {
   session::ExpectOrdersToDraw(situation);
-  source.Take(situation, paths);
+  source.Take(situation, paths, messages);
   return session::EnteredOrders(situation);
 }
 
@@ -61,8 +61,9 @@ int Execute(const CommandLine& line, Console& console) {
   const std::filesystem::path data = DataDirectory(line);
   OrdersSource source(line);
   return ForEachGame(line, console, PlanPaths(line), [&](GameAtWork& at) {
-    const auto drawn = line.Has(OptionId::Orders) ? OrdersToDraw(at.Situation, source, at.Paths)
-                                                  : std::vector<orders::OrderOutcome>{};
+    const auto drawn = line.Has(OptionId::Orders)
+                           ? OrdersToDraw(at.Situation, source, at.Paths, at.Messages)
+                           : std::vector<orders::OrderOutcome>{};
     DrawMap({at.Situation.Game, options, data, width, picture, format, drawn});
     return true;
   });

@@ -43,7 +43,8 @@ OrdersSource::OrdersSource(const CommandLine& line) : isLoose_(line.Has(OptionId
 }
 
 std::vector<exchange::ReadLine> OrdersSource::Take(session::Situation& situation,
-                                                   const GamePaths& paths) {
+                                                   const GamePaths& paths,
+                                                   model::Messages& messages) {
   // Without an orders file the moves stage keeps the orders that came with the game file.
   if (paths.Orders.empty()) return {};
   // A file that cannot be looked at is not missing: reading it will say why.
@@ -60,7 +61,8 @@ std::vector<exchange::ReadLine> OrdersSource::Take(session::Situation& situation
   if (!repairs_) repairs_ = exchange::ReadTextRepairs(data_);
   const session::IncomingText incoming =
       session::ReadIncomingText(std::move(text), paths.Orders.string());
-  return session::ReplaceOrdersByText(situation, incoming.Text, {power_, *repairs_}, doubtful_);
+  return session::ReplaceOrdersByText(situation, incoming.Text, {power_, *repairs_}, doubtful_,
+                                      messages);
 }
 
 }  // namespace orb::cli

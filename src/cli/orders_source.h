@@ -25,8 +25,10 @@ class OrdersSource {
 
   /// Fills the stage's list from the orders file where there is one; else only the moves stage has
   /// orders, those of the game file. Read as people write them, lines that are unclear or
-  /// doubtful are left out and returned. Throws FileError.
-  std::vector<exchange::ReadLine> Take(session::Situation& situation, const GamePaths& paths);
+  /// doubtful are left out and returned, and how slips of the pen were read is shown. Throws
+  /// FileError.
+  std::vector<exchange::ReadLine> Take(session::Situation& situation, const GamePaths& paths,
+                                       model::Messages& messages);
 
  private:
   bool isLoose_;

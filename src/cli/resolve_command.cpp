@@ -93,7 +93,8 @@ int Execute(const CommandLine& line, Console& console) {
   OrdersSource orders(line);
   return ForEachGame(line, console, plan, [&](GameAtWork& at) {
     // Unclear lines are asked about first: --yes leaves them out, otherwise the game is abandoned.
-    const std::vector<exchange::ReadLine> leftOut = orders.Take(at.Situation, at.Paths);
+    const std::vector<exchange::ReadLine> leftOut =
+        orders.Take(at.Situation, at.Paths, at.Messages);
     if (!session::GoOnWithout(leftOut, at.Messages)) return false;
     // Somebody wrote the doubtful orders, and they were not carried out: that must not go
     // unnoticed.

@@ -51,7 +51,8 @@ int Execute(const CommandLine& line, Console& console) {
   const session::Rules rules = RulesOf(line);
   OrdersSource orders(game);
   return ForEachGame(game, console, PlanPaths(game), [&](GameAtWork& at) {
-    const std::vector<exchange::ReadLine> leftOut = orders.Take(at.Situation, at.Paths);
+    const std::vector<exchange::ReadLine> leftOut =
+        orders.Take(at.Situation, at.Paths, at.Messages);
     for (const exchange::ReadLine& left : leftOut)
       console.Say(at.Paths.Game, left.Written + ": " + session::LeftOutReason(left));
     at.Situation.Rules = rules;

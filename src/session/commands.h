@@ -72,10 +72,10 @@ enum class Doubtful : std::uint8_t { LeftOut, Accepted };
 
 /// The orders in a text as people write it take the place of the stage's list. Returns the lines
 /// that were left out: those that are unclear, and those that are doubtful unless they are
-/// accepted.
+/// accepted. How slips of the pen in the others were read is shown.
 std::vector<exchange::ReadLine> ReplaceOrdersByText(Situation& situation, std::string_view text,
                                                     const exchange::ReadingOptions& options,
-                                                    Doubtful doubtful);
+                                                    Doubtful doubtful, model::Messages& messages);
 
 /// Why a line was left out: what is unclear about it, or "doubtful: " and what speaks against it.
 std::string LeftOutReason(const exchange::ReadLine& line);

@@ -25,11 +25,17 @@ void ReplaceOrders(Situation& situation, std::vector<std::string> lines) {
 
 std::vector<exchange::ReadLine> ReplaceOrdersByText(Situation& situation, std::string_view text,
                                                     const exchange::ReadingOptions& options,
-                                                    Doubtful doubtful) {
+                                                    Doubtful doubtful, model::Messages& messages) {
   std::vector<exchange::ReadLine> lines = exchange::ReadOrders(situation.Game, text, options);
   if (doubtful == Doubtful::Accepted) exchange::AcceptDoubtful(lines);
   ReplaceOrders(situation, {});
   FileOrders(situation, lines);
+  for (const exchange::ReadLine& line : lines) {
+    const bool isFiled = line.Kind == exchange::LineKind::Order;
+    if (isFiled && !line.ReadAs.empty()) {
+      messages.Show(line.Written + ": " + line.ReadAs, model::Icon::Information);
+    }
+  }
   std::erase_if(
       lines, [](const exchange::ReadLine& line) { return !IsUnclear(line) && !IsDoubtful(line); });
   return lines;

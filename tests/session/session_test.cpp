@@ -303,11 +303,14 @@ TEST(Commands, RefuseInAStageWhereTheyMeanNothing) {
 
 TEST(Commands, OrdersOfATextTakeThePlaceOfTheList) {
   Situation situation{Board("Spring", "moves", {"ENG A(Lon) hold", "ENG F(Edi)", "FRA A(Par)"})};
-  const auto unclear = session::ReplaceOrdersByText(situation, "F Edi-NTH\nA Paris to somewhere\n",
-                                                    {"ENG", {}}, session::Doubtful::LeftOut);
-  EXPECT_THAT(situation.Game.OrdersList, ElementsAre("ENG F(Edi) - NTH"));
-  ASSERT_EQ(unclear.size(), 1U);
   ScriptedMessages no({Answer::No});
+  const auto unclear =
+      session::ReplaceOrdersByText(situation, "F Edi-Clyed\nA Paris to somewhere\n", {"ENG", {}},
+                                   session::Doubtful::LeftOut, no);
+  EXPECT_THAT(situation.Game.OrdersList, ElementsAre("ENG F(Edi) - Cly"));
+  ASSERT_EQ(no.Shown.size(), 1U);
+  EXPECT_EQ(no.Shown[0].first, "F Edi-Clyed: \"Clyed\" is read as Clyde");
+  ASSERT_EQ(unclear.size(), 1U);
   EXPECT_FALSE(session::GoOnWithout(unclear, no));
   EXPECT_THAT(no.Questions, ElementsAre(StartsWith("Warning: A Paris to somewhere\r")));
 }

@@ -32,7 +32,7 @@ constexpr std::array Rows{
         "no longer valid|not valid|no longer stand|do not stand|forget it|take back|"
         "took back|takes back|taking back|was a joke|were a joke|april fool|was drunk|"
         "ungultig|nicht mehr gultig|vergiss|annule|annuler|annulla|annulliere|anular|"
-        "olvida|vergeet|glem|strunta i|changed our minds"},
+        "olvida|vergeet|glem|strunta i|changed our minds|forget everything|forget all"},
     Row{Kind::Postpones,
         "not process|dont process|not use|dont use|not enter|dont enter|not file|"
         "dont file|not submit|dont submit|not final|arent final|isnt final|not yet|"
@@ -52,7 +52,8 @@ constexpr std::array Rows{
         "voorlopig|inte klart|inte annu|preliminart|ikke endelig|forelobig|"
         "jeszcze nie|ainda nao|to follow|will send my|will send the|more later|"
         "double check|let me check|dont have time to decide|might still|may still|"
-        "could still"},
+        "could still|look like this|looks like this|looks like|look like|would look|"
+        "said something"},
     Row{Kind::Titles,
         "draft|drafts|example|examples|sample|samples|proposal|proposals|suggestion|"
         "suggestions|results|last turn|last season|last year|previous turn|"
@@ -63,14 +64,14 @@ constexpr std::array Rows{
         "change of heart|scrap that|scratch that|forget that|strike that|"
         "final version|these are final|these are my final|i mean|i meant|make that|"
         "should be|should read|should have been|use these|use this instead|"
-        "these instead|this instead|replaces|supersedes|replace my|replace the|"
-        "in place of|instead of|ignore my previous|ignore the previous|ignore my last|"
-        "ignore my earlier|ignore the above|disregard my|disregard the|one correction|"
-        "small correction|quick correction|a correction|slight correction|one change|"
-        "small change|slight change|with one change|habe mich vertan|meinung geandert|"
-        "je me suis trompe|me equivoque|mi sono sbagliato|ho cambiato idea|"
-        "change d avis|changement d avis|verbeterde versie|angrat mig|ombestemt|"
-        "zmiana zdania"},
+        "these instead|this instead|ignore my previous|ignore the previous|"
+        "ignore my last|ignore my earlier|ignore the above|disregard my|disregard the|"
+        "one correction|small correction|quick correction|a correction|"
+        "slight correction|one change|small change|slight change|with one change|"
+        "habe mich vertan|meinung geandert|je me suis trompe|me equivoque|"
+        "mi sono sbagliato|ho cambiato idea|change d avis|changement d avis|"
+        "verbeterde versie|angrat mig|ombestemt|zmiana zdania|scratch that last one|"
+        "scrap that one"},
 };
 
 struct Phrase {
@@ -187,7 +188,8 @@ bool IsTitleOfCorrection(Tokens line) {
   }
   for (std::size_t at = 0; at < title.size(); ++at) {
     // "Correction - A Par - Pic" does without a colon.
-    if (HasUse(title[at], WordUse::Correction) && (hasColon || at == 0)) return true;
+    const bool isOf = at + 1 < title.size() && IsWord(title[at + 1], "of");
+    if (HasUse(title[at], WordUse::Correction) && !isOf && (hasColon || at == 0)) return true;
     const bool isOrders = at + 1 < title.size() && HasUse(title[at], WordUse::Definite) &&
                           HasUse(title[at + 1], WordUse::Orders);
     const bool isOwn = at > 0 && (IsWord(title[at - 1], "my") || IsWord(title[at - 1], "our") ||
@@ -220,20 +222,28 @@ std::optional<TokenRange> ReadDraftSubject(Tokens line) {
 
 bool MakesCondition(Tokens line) {
   return std::ranges::any_of(line, [](const Token& token) {
-    return HasUse(token, WordUse::Condition) && !IsPolite(token);
+    return HasUse(token, WordUse::Condition) && !IsPolite(token) && !IsWord(token, "instead");
   });
 }
 
 bool IsReport(Tokens words) {
-  return std::ranges::any_of(words,
-                             [](const Token& token) { return HasUse(token, WordUse::Report); });
+  constexpr std::array<std::string_view, 8> own{"i", "we", "my", "im", "ive", "id", "ill", "our"};
+  bool tells = false;
+  for (const Token& token : words) {
+    // "I wanted A Par - Pic" is the writer's own.
+    if (std::ranges::find(own, token.Text) != own.end()) return false;
+    tells = tells || HasUse(token, WordUse::Report);
+  }
+  return tells;
 }
 
 bool LeadsOn(Tokens line) {
   if (IsColon(line.back())) return false;
-  const bool isOpen = std::ranges::any_of(line, [](const Token& token) {
-    return HasUse(token, WordUse::Condition, WordUse::Aside, WordUse::SetsAside);
-  });
+  const bool isOpen =
+      std::ranges::any_of(
+          line,
+          [](const Token& token) { return HasUse(token, WordUse::Aside, WordUse::SetsAside); }) ||
+      MakesCondition(line);
   const bool isExample =
       line.size() > 1 && IsA(line.back(), TokenKind::Dot) &&
       (IsWord(line[line.size() - 2], "g") || IsWord(line[line.size() - 2], "eg"));
@@ -252,6 +262,8 @@ bool IsOffer(Tokens line) {
 std::optional<TokenRange> ReadReservation(Tokens line, bool isBehindOrders) {
   if (IsOffer(line)) return std::nullopt;
   const auto word = std::ranges::find(line, TokenKind::Word, &Token::Kind);
+  const bool asks = std::ranges::find(line, "?", &Token::Text) != line.end();
+  if (asks && isBehindOrders) return TokenRange{0, line.size()};
   if (word == line.end() || !HasUse(*word, WordUse::Reservation)) return std::nullopt;
   // "But" begins many a new paragraph.
   if (!isBehindOrders && !HasUse(*word, WordUse::Condition)) return std::nullopt;
@@ -259,8 +271,22 @@ std::optional<TokenRange> ReadReservation(Tokens line, bool isBehindOrders) {
   return TokenRange{at, line.size()};
 }
 
+std::optional<TokenRange> FindCorrection(Tokens words) {
+  if (const auto at = FindPhrase(words, Kind::Corrects)) return at;
+  for (std::size_t at = 0; at < words.size(); ++at) {
+    const bool isOf = at + 1 < words.size() && IsWord(words[at + 1], "of");
+    if (IsWord(words[at], "instead") && !isOf) return TokenRange{at, at + 1};
+  }
+  return std::nullopt;
+}
+
 bool Corrects(Tokens line) {
-  if (IsTitleOfCorrection(line)) return true;
+  if (line.empty()) return false;
+  if (IsTitleOfCorrection(line) || IsTitleOfCorrection(LastSentence(line))) return true;
+  const auto last = std::find_if(line.rbegin(), line.rend(), [](const Token& token) {
+    return IsA(token, TokenKind::Word) && !HasUse(token, WordUse::Filler);
+  });
+  if (last != line.rend() && IsWord(*last, "instead") && !MakesCondition(line)) return true;
   const auto phrase = FindPhrase(line, Kind::Corrects);
   const bool isAsked = std::ranges::find(line, "?", &Token::Text) != line.end();
   return phrase && !isAsked && !IsOpen(line.first(phrase->Begin));

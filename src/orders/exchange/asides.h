@@ -46,6 +46,9 @@ bool IsOffer(Tokens line);
 /// `isBehindOrders`: the line above has orders.
 std::optional<TokenRange> ReadReservation(Tokens line, bool isBehindOrders);
 
+/// Where words next to an order say that it holds rather than another one: "make that", "instead".
+std::optional<TokenRange> FindCorrection(Tokens words);
+
 /// Whether a line says plainly that the orders in it or below it hold rather than earlier ones:
 /// "Correction:", "changed my mind", "my final orders". Words such as "sorry" or "new" do not.
 bool Corrects(Tokens line);

@@ -36,6 +36,13 @@ std::string ProvinceOf(std::string_view order) {
   return text::UpperCase(order.substr(bracket + 1, nameLength));
 }
 
+std::string TargetOf(std::string_view order) {
+  constexpr std::size_t nameLength = 3;
+  const std::string last = text::UpperCase(order.substr(order.rfind(' ') + 1));
+  const bool isPlace = last != "HOLD" && last != "DISBAND" && last.find('(') == std::string::npos;
+  return isPlace ? last.substr(0, nameLength) : std::string();
+}
+
 bool Concerns(const Concern& concern, std::string_view order) {
   return std::ranges::find(concern.Provinces, ProvinceOf(order)) != concern.Provinces.end();
 }
@@ -53,6 +60,9 @@ Concern ConcernOf(Tokens tokens, const PlaceNames& names, const model::Map& map)
     ++first;
   if (first == tokens.size()) return concern;
   const bool isTyped = UnitTypeOf(tokens[first]) != 0;
+  // A line that ends in a colon speaks of what is below it, and sets it aside or does not.
+  const bool isTitle = IsA(tokens.back(), TokenKind::Colon);
+  if (isTitle && !isTyped) return concern;
   if (isTyped || !names.At(tokens, first).empty()) {
     for (std::size_t at = first; at < tokens.size() && concern.Provinces.empty(); ++at) {
       const auto matches = names.At(tokens, at);
@@ -60,12 +70,12 @@ Concern ConcernOf(Tokens tokens, const PlaceNames& names, const model::Map& map)
     }
     return concern;
   }
-  if (!SpeaksOfOrders(tokens)) return concern;
+  // "Rather not the one to Armenia."
+  concern.OfTargets = FindCondition(tokens) < tokens.size();
+  if (!concern.OfTargets && !SpeaksOfOrders(tokens)) return concern;
   for (std::size_t at = 0; at < tokens.size(); ++at)
     add(PlaceAt(tokens, at, names));
-  // A line that ends in a colon speaks of what is below it, and sets it aside or does not.
-  const bool isTitle = IsA(tokens.back(), TokenKind::Colon);
-  concern.MayBeAll = !isTitle && MakesCondition(tokens) && !IsOffer(tokens);
+  concern.MayBeAll = MakesCondition(tokens) && !IsOffer(tokens);
   return concern;
 }
 

@@ -11,11 +11,15 @@ namespace orb::exchange {
 /// Which orders of a text a line that is not understood may be about.
 struct Concern {
   std::vector<std::string> Provinces;  ///< of their units, in capitals: "PAR"
+  bool OfTargets = false;              ///< and of those that are to go or to help there
   bool MayBeAll = false;  ///< all, if none of them is for a unit in one of the provinces
 };
 
 /// The province of an order's unit, in capitals.
 std::string ProvinceOf(std::string_view order);
+
+/// The province that an order is directed to, in capitals; empty for those that hold or disband.
+std::string TargetOf(std::string_view order);
 
 /// Whether an order is for a unit in one of the provinces.
 bool Concerns(const Concern& concern, std::string_view order);

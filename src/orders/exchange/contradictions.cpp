@@ -1,5 +1,6 @@
 #include "orders/exchange/contradictions.h"
 
+#include "orders/exchange/known_game.h"
 #include "orders/order_list.h"
 #include "text/strings.h"
 
@@ -56,28 +57,38 @@ void WeighUnclear(std::vector<ReadLine>& lines, const std::vector<Surroundings>&
   const auto isOrder = [&](std::size_t row) {
     return !around[row].IsOlder && IsUnderstood(lines[row]);
   };
-  std::map<std::string, std::vector<std::size_t>> orders;
+  std::multimap<std::string, std::size_t> ofUnits;
+  std::multimap<std::string, std::size_t> ofTargets;
   for (std::size_t row = 0; row < lines.size(); ++row) {
-    if (isOrder(row)) orders[ProvinceOf(lines[row].Order)].push_back(row);
+    if (!isOrder(row)) continue;
+    ofUnits.emplace(lines[row].Power + ProvinceOf(lines[row].Order), row);
+    ofTargets.emplace(lines[row].Power + TargetOf(lines[row].Order), row);
   }
   bool areAllDoubted = false;
   for (std::size_t i = 0; i < lines.size(); ++i) {
     const ReadLine& line = lines[i];
     if (around[i].IsOlder || line.Kind != LineKind::NotUnderstood) continue;
+    const Concern& about = around[i].About;
     const std::string reason = "line " + std::to_string(line.Number) + " may be about it";
     bool isOfSome = false;
-    for (const std::string& province : around[i].About.Provinces) {
-      const auto found = orders.find(province);
-      if (found == orders.end()) continue;
-      for (const std::size_t row : found->second) {
-        if (!line.Power.empty() && line.Power != lines[row].Power) continue;
-        MakeDoubtful(lines[row], reason, line.Place);
-        isOfSome = true;
+    const auto doubt = [&](std::multimap<std::string, std::size_t>& orders,
+                           const std::string& province) {
+      for (int power = 1; power <= model::CountryCount; ++power) {
+        const std::string owner = PowerText(power);
+        if (!line.Power.empty() && line.Power != owner) continue;
+        const auto [first, last] = orders.equal_range(owner + province);
+        isOfSome = isOfSome || first != last;
+        for (auto at = first; at != last; ++at)
+          MakeDoubtful(lines[at->second], reason, line.Place);
+        // What is doubted once stays so, and need not be looked at again.
+        orders.erase(first, last);
       }
-      // What was doubted once stays so.
-      if (line.Power.empty()) orders.erase(found);
+    };
+    for (const std::string& province : about.Provinces) {
+      doubt(ofUnits, province);
+      if (about.OfTargets) doubt(ofTargets, province);
     }
-    if (isOfSome || areAllDoubted || !around[i].About.MayBeAll) continue;
+    if (isOfSome || areAllDoubted || !about.MayBeAll) continue;
     areAllDoubted = true;
     for (std::size_t row = 0; row < lines.size(); ++row) {
       if (isOrder(row)) MakeDoubtful(lines[row], reason, line.Place);
@@ -134,6 +145,8 @@ class Contradictions {
     const ReadLine& now = lines_[second];
     if (!IsUnderstood(old) || now.Kind != LineKind::Order || old.Order == now.Order) return false;
     if (IsSetAside(first)) return true;
+    // Of two in one line, either may be the one that is put right: "A Par - Bur should be - Pic".
+    if (old.Number == now.Number) return false;
     return around_[second].Corrects || corrections_[second] > corrections_[first + 1];
   }
 

@@ -12,25 +12,6 @@
 namespace orb::exchange {
 namespace {
 
-/// Whether a sign only decorates: faces, hearts, stars, ticks, flags, good wishes. Others ask,
-/// cross out or may mean anything.
-bool IsDecoration(std::string_view sign) {
-  constexpr std::u32string_view known =
-      U"\u2713\u2714\u2705\u2764\u2665\u2605\u2606\u2B50\u263A\uFE0F\u200D\U0001F44D\U0001F389"
-      U"\U0001F340\U0001F91E\U0001F91D\U0001F64F\U0001F942\U0001F37B\U0001F603";
-  while (!sign.empty()) {
-    const auto character = text::NextCharacter(sign);
-    if (!character) return false;
-    const bool isFace = *character >= 0x1F600 && *character <= 0x1F644;
-    const bool isFlag = *character >= 0x1F1E6 && *character <= 0x1F1FF;
-    const bool isHeart = *character >= 0x1F493 && *character <= 0x1F49F;
-    if (!isFace && !isFlag && !isHeart && known.find(*character) == std::u32string_view::npos) {
-      return false;
-    }
-  }
-  return true;
-}
-
 /// Whether a word next to an order changes nothing.
 bool IsHarmless(const Token& token) {
   return HasUse(token, WordUse::Mood, WordUse::Purpose, WordUse::Plain);
@@ -90,6 +71,13 @@ bool ExcludesOther(Tokens remark, const OwnWords& own, const PlaceNames& names) 
          own.Repeated(words, place) == 0;
 }
 
+/// Whether words are set off as the outcome of an order: "*bounce*".
+bool IsOutcome(Tokens remark) {
+  const auto first = std::ranges::find(remark, TokenKind::Word, &Token::Kind);
+  if (first == remark.end() || first->Begin == 0 || !HasUse(*first, WordUse::Purpose)) return false;
+  return first->Written.data()[-1] == '*';
+}
+
 /// Whether a word behind thanks or the like is a name: "sorry Franz".
 bool IsName(Tokens remark, std::size_t at, const PlaceNames& names) {
   return at > 0 && HasUse(remark[at - 1], WordUse::Mood) && remark[at].Capital &&
@@ -100,13 +88,31 @@ bool IsName(Tokens remark, std::size_t at, const PlaceNames& names) {
 
 }  // namespace
 
+bool IsDecoration(std::string_view signs) {
+  // Crosses, bans, bins, questions, doubts, thumbs down, hourglasses, warnings, arrows.
+  constexpr std::u32string_view meaning =
+      U"\u274C\u274E\u2716\u2717\u2718\u2715\u26D4\u2753\u2754\u26A0\u231B\u23F3\U0001F6AB"
+      U"\U0001F5D1\U0001F44E\U0001F914\U0001F937\U0001F928\U0001F6D1\U0001F504\U0001F501";
+  while (!signs.empty()) {
+    const auto character = text::NextCharacter(signs);
+    if (!character) return false;
+    const bool isPicture = *character >= 0x1F000 || (*character >= 0x2600 && *character < 0x2800) ||
+                           *character == 0x2B50 || *character == 0x200D || *character == 0xFE0F ||
+                           (*character >= 0x2300 && *character < 0x2400);
+    if (!isPicture || meaning.find(*character) != std::u32string_view::npos) return false;
+  }
+  return true;
+}
+
 bool IsDoubtfulSign(const Token& token) {
   if (token.Kind != TokenKind::Mark) return false;
   if (static_cast<unsigned char>(token.Text[0]) >= 0x80) return !IsDecoration(token.Text);
-  return token.Text == "?" || token.Text == "<" || token.Text == "~";
+  return token.Text == "?" || token.Text == "<" || token.Text == "~" || token.Text == "%";
 }
 
-std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceNames& names) {
+std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceNames& names,
+                                    int power) {
+  if (IsOutcome(remark)) return TokenRange{0, remark.size()};
   const auto has = [&](WordUse use) {
     return std::ranges::any_of(remark, [&](const Token& token) { return HasUse(token, use); });
   };
@@ -133,8 +139,9 @@ std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceName
     }
     std::size_t length = own->Repeated(remark, at);
     if (length == 0 && isPurpose) length = LengthOfPlace(remark, at, names);
-    if (length == 0 && maySpeakToPowers && PowerAt(remark, at).Power != 0) {
-      length = PowerAt(remark, at).Next - at;
+    const PowerName named = PowerAt(remark, at);
+    if (length == 0 && named.Power != 0 && (maySpeakToPowers || named.Power == power)) {
+      length = named.Next - at;
     }
     if (length == 0 && IsName(remark, at, names)) length = 1;
     if (length == 0 && !IsHarmless(token) && !(isPurpose && token.Text == "to"))

@@ -4,6 +4,7 @@
 #include "orders/exchange/written_order.h"
 
 #include <optional>
+#include <string_view>
 
 namespace orb::exchange {
 
@@ -12,7 +13,13 @@ namespace orb::exchange {
 
 /// The first words of a remark that may change the order beside it. Thanks and the like never do,
 /// nor does what repeats a place, power or verb of the order itself.
-std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceNames& names);
+/// `power`: whose order it is, 0: not known.
+std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceNames& names,
+                                    int power = 0);
+
+/// Whether signs beyond ASCII are pictures that only decorate; crosses, question marks and thumbs
+/// down are none.
+bool IsDecoration(std::string_view signs);
 
 /// Whether a sign is known to mean something, or not known to decorate: "?", a cross.
 bool IsDoubtfulSign(const Token& token);

@@ -3,6 +3,8 @@
 #include "orders/exchange/power_names.h"
 
 #include <algorithm>
+#include <array>
+#include <string_view>
 
 namespace orb::exchange {
 namespace {
@@ -43,9 +45,25 @@ bool MayBegin(Tokens before, Tokens tokens, const PlaceNames& names) {
   return !HoldsBeginning(before, names, isTyped || leads);
 }
 
+/// Whether an order without anything behind it may go on with the next: "A Mar S A Par" "Bur -
+/// Mun".
+bool IsOpenEnded(const PartRead& part) {
+  if (part.Kind != LineKind::Order) return part.Kind == LineKind::Ambiguous;
+  const std::string& line = part.Meant.All[0].Line;
+  return line.find(" S ") != std::string::npos || line.find(" C ") != std::string::npos;
+}
+
 /// Whether words behind an order may be more of it: "- Nwy", "Gas", "(sc)".
 bool MayGoOn(Tokens rest, const PlaceNames& names) {
   if (rest.empty()) return false;
+  // A long dash before other words begins a thought, an arrow may lead to an outcome.
+  constexpr std::array<std::string_view, 12> outcomes{
+      "bounced",  "bounce",    "bounces", "fails", "failed",    "failure",
+      "succeeds", "succeeded", "success", "cut",   "dislodged", "void"};
+  const bool isDash = IsA(rest[0], TokenKind::Dash) && rest.size() > 1 && names.At(rest, 1).empty();
+  const bool isThought = isDash && (rest[0].Text == "--" ||
+                                    std::ranges::find(outcomes, rest[1].Text) != outcomes.end());
+  if (isThought) return false;
   if (VerbOf(rest[0]) != Verb::None || !names.At(rest, 0).empty()) return true;
   return rest.size() > 1 && IsA(rest[0], TokenKind::Open) && CoastLetter(rest[1].Text) != 0;
 }
@@ -82,8 +100,9 @@ PartsRead ReadEmbedded(Tokens tokens, const KnownGame& known, Context& context) 
     }
     if (goesOn(at)) return {};
     if (at > done) parts.emplace_back(TokenRange{done, at}, Remark());
-    const bool isParted = parts.empty() || parts.back().second.IsRemark;
-    if (!isParted) part.Doubt = parts.back().second.Doubt = "it is not said where the order ends";
+    if (!parts.empty() && IsOpenEnded(parts.back().second)) {
+      part.Doubt = parts.back().second.Doubt = "it is not said where the order ends";
+    }
     done = at + part.End;
     parts.emplace_back(TokenRange{at, done}, std::move(part));
     context = behind;

@@ -107,10 +107,11 @@ class Grammar {
 
   /// "A Par Bur" is a move of somebody in a hurry.
   States VerblessMoves(State state) {
-    const bool isTyped = state.Order.Unit.Type != 0;
-    if (!isTyped || !IsAllowed(Verb::Move) || !phrases_.IsWordAt(state.Next)) return {};
-    state.Order.What = Verb::Move;
+    const WrittenUnit& unit = state.Order.Unit;
+    const bool isUnit = unit.Type != 0 || unit.Power != 0 || state.Order.Power != 0;
+    state.Order.What = stage_ == model::Stage::Retreats ? Verb::Retreat : Verb::Move;
     state.Order.IsGuess = true;
+    if (!isUnit || !IsAllowed(state.Order.What) || !phrases_.IsWordAt(state.Next)) return {};
     return Destinations(state);
   }
 

@@ -1,10 +1,10 @@
 #include "orders/exchange/line_kinds.h"
 
 #include "orders/exchange/comments.h"
+#include "orders/exchange/doubts.h"
 #include "orders/exchange/power_names.h"
 
 #include <algorithm>
-#include <array>
 
 namespace orb::exchange {
 namespace {
@@ -19,17 +19,6 @@ std::ptrdiff_t CountWords(Tokens tokens) {
 
 bool Is(Tokens tokens, std::size_t at, TokenKind kind) {
   return at < tokens.size() && IsA(tokens[at], kind);
-}
-
-/// Whether signs decorate; crosses, bans, question marks and warnings do not.
-bool IsPicture(const Token& token) {
-  constexpr std::array<std::string_view, 12> crossing{
-      "\u274C", "\u274E", "\u2716", "\u2717", "\u2718",     "\u2715",
-      "\u26D4", "\u2753", "\u2754", "\u26A0", "\U0001F6AB", "\U0001F5D1"};
-  return static_cast<unsigned char>(token.Text[0]) >= 0x80 &&
-         std::ranges::none_of(crossing, [&](std::string_view sign) {
-           return token.Text.find(sign) != std::string::npos;
-         });
 }
 
 /// "i" to "xxxix".
@@ -254,12 +243,12 @@ std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
     const bool isSymbol = static_cast<unsigned char>(token.Text[0]) >= 0x80;
     if (token.Kind == TokenKind::Mark && token.Text != "#" && !isSymbol) return {};
     if (token.Kind != TokenKind::Word) continue;
-    if (!HasUse(token, WordUse::Heading)) return {};
-    hasWord = true;
     const Verb verb = VerbOf(token);
-    if (verb == Verb::Build || verb == Verb::Disband || verb == Verb::Retreat) {
-      heading.Orders = verb;
-    }
+    const bool isKind = token.Text.size() > 2 &&
+                        (verb == Verb::Build || verb == Verb::Disband || verb == Verb::Retreat);
+    if (!isKind && !HasUse(token, WordUse::Heading)) return {};
+    hasWord = true;
+    if (isKind) heading.Orders = verb;
   }
   // "Hi, Russia" greets Russia.
   if (isGreeted && heading.Orders == Verb::None) return {};
@@ -269,12 +258,15 @@ std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
 std::size_t PastLineStart(Tokens tokens) {
   std::size_t at = 0;
   // "Order #3: A Par - Bur".
-  if (!tokens.empty() && IsWord(tokens[0], "order") && PastNumber(tokens, 1) != 1) {
+  const bool isCounted =
+      !tokens.empty() && (IsWord(tokens[0], "order") || IsWord(tokens[0], "unit"));
+  if (isCounted && PastNumber(tokens, 1) != 1) {
     return PastNumber(tokens, 1);
   }
   // Quotation marks ("> >>") and bullets, which may be any pictures but such as cross out.
   while (Is(tokens, at, TokenKind::Dash) || Is(tokens, at, TokenKind::Dot) ||
-         (Is(tokens, at, TokenKind::Mark) && (tokens[at].Text == "+" || IsPicture(tokens[at])))) {
+         (Is(tokens, at, TokenKind::Mark) &&
+          (tokens[at].Text == "+" || IsDecoration(tokens[at].Text)))) {
     ++at;
   }
   if (const std::size_t past = PastStamp(tokens, at); past != at) {

@@ -80,6 +80,30 @@ bool HasText(std::string_view text) {
 
 }  // namespace
 
+bool StruckLines::Take(std::string_view plain) {
+  constexpr std::string_view marks = "~<[";
+  if (plain.empty()) isOpen_ = false;
+  if (plain.find_first_of(marks) == std::string_view::npos) return isOpen_;
+  bool isStruck = isOpen_;
+  const std::string lower = text::LowerCase(plain);
+  for (std::size_t at = 0; at < lower.size(); ++at) {
+    const std::string_view rest = std::string_view(lower).substr(at);
+    if (rest.starts_with("~~")) {
+      isOpen_ = !isOpen_;
+      ++at;
+    }
+    for (const std::string_view tag : StrikingTags) {
+      if (rest[0] != '<' && rest[0] != '[') break;
+      const bool isEnd = rest.substr(1).starts_with('/');
+      const std::string_view name = rest.substr(isEnd ? 2 : 1);
+      if (name.starts_with(tag) && name.substr(tag.size()).find_first_of(">] ") == 0)
+        isOpen_ = !isEnd;
+    }
+    isStruck = isStruck || isOpen_;
+  }
+  return isStruck;
+}
+
 void DropTags(PlainText& line) {
   DropStruck(line);
   if (line.Text.find_first_of("<[") == std::string::npos) return;

@@ -138,6 +138,24 @@ void Add(Meanings& meanings, const Completed& order, const KnownGame& known, Tok
 
 }  // namespace
 
+bool IsPossible(const Meaning& meaning, const KnownGame& known) {
+  if (!meaning.Objection.empty()) return false;
+  const auto order = ReadExactLine(*known.Game.Map, known.Stage, meaning.Line);
+  if (!order) return false;
+  const model::Map& map = *known.Game.Map;
+  const model::Unit unit{order->Power, order->UnitType, order->Location, {}, {}, {}};
+  switch (order->Kind) {
+    case orders::OrderKind::Move:
+    case orders::OrderKind::Retreat:
+      return model::IsAdjacent(map, order->UnitType, order->Location, order->Target);
+    case orders::OrderKind::Support:
+      return model::CanSupportInto(map, unit,
+                                   order->Target2.empty() ? order->Target : order->Target2);
+    default:
+      return true;
+  }
+}
+
 Meanings FindMeanings(const std::vector<WrittenOrder>& readings, const KnownGame& known,
                       int power) {
   Meanings meanings;

@@ -21,6 +21,9 @@ struct Meanings {
   std::optional<Fault> Problem;
 };
 
+/// Whether the unit can be ordered so, as far as the map tells.
+bool IsPossible(const Meaning& meaning, const KnownGame& known);
+
 /// What the readings of one text mean in the game. Orders without an objection outdo those
 /// with one. `power` is who gives the order unless the text names another; 0: nobody.
 Meanings FindMeanings(const std::vector<WrittenOrder>& readings, const KnownGame& known, int power);

@@ -113,8 +113,12 @@ PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context, Rest 
   if (!part.Meant.All.empty()) {
     LeaveInContext(parse.Orders.back(), tokens[start], known.Stage, context);
     part.Kind = part.Meant.All.size() == 1 ? LineKind::Order : LineKind::Ambiguous;
-    const bool isGuess = std::ranges::any_of(parse.Orders, &WrittenOrder::IsGuess);
-    if (isGuess) part.Doubt = "it is not said what the unit does";
+    part.IsGuess = std::ranges::any_of(parse.Orders, &WrittenOrder::IsGuess);
+    if (part.IsGuess && !IsPossible(part.Meant.All[0], known)) {
+      part.Doubt = "it is not said what the unit does";
+    }
+    part.NamesPower = std::ranges::any_of(
+        parse.Orders, [](const WrittenOrder& order) { return order.Power != 0; });
     return part;
   }
   // What is wrong in the situation is reported rather than what is wrong in the grammar: the order

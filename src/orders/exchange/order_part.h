@@ -21,6 +21,8 @@ struct PartRead {
   std::size_t End = 0;       ///< of the order in the part's tokens; only remarks follow
   std::string ReadAs;        ///< how a slip of the pen was read: "Burgandy is read as Burgundy"
   std::string Doubt;         ///< why it may mean something else than it was read as, or empty
+  bool NamesPower = false;   ///< the order itself says whose it is
+  bool IsGuess = false;      ///< it is not said what the unit does
   bool IsRemark = false;     ///< of PassedOver: it may change the orders next to it
   std::size_t Sentence = 0;  ///< the token at which its sentence begins
 };

@@ -16,15 +16,17 @@ bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& word
 }
 
 // Words that may stand at certain places of an order and add nothing to it.
-constexpr std::array<std::string_view, 13> InWords{
-    "in",  "at",        "from",  "of",  "the", "presently", "currently",
-    "now", "stationed", "based", "von", "aus", "di"};
+constexpr std::array<std::string_view, 21> InWords{
+    "in",  "at", "from", "of", "the", "presently", "currently", "now", "stationed", "based", "von",
+    "aus", "di", "da",   "du", "del", "della",     "dello",     "de",  "i",         "en"};
 constexpr std::array<std::string_view, 6> ViaWords{"via", "by", "using", "with", "through", "over"};
 constexpr std::array<std::string_view, 6> SeaWords{"convoy", "convoys", "sea", "c", "water", "cv"};
-constexpr std::array<std::string_view, 10> HoldTails{
-    "position", "fast", "still", "in", "place", "firm", "put", "strong", "steady", "there"};
-constexpr std::array<std::string_view, 11> MoveTails{
-    "against", "toward", "towards", "on", "upon", "for", "in", "ins", "im", "over", "across"};
+constexpr std::array<std::string_view, 15> HoldTails{
+    "position", "fast",  "still", "in", "place", "firm",  "put",   "strong",
+    "steady",   "there", "where", "it", "they",  "ferma", "parada"};
+constexpr std::array<std::string_view, 14> MoveTails{"against", "toward", "towards", "on", "upon",
+                                                     "for",     "in",     "ins",     "im", "over",
+                                                     "across",  "out",    "up",      "en"};
 constexpr std::array<std::string_view, 5> Nouns{"move", "attack", "advance", "of", "for"};
 constexpr std::array<std::string_view, 12> CountWords{
     "one", "two", "a", "all", "remaining", "rest", "any", "other", "of", "both", "last", "for"};
@@ -154,6 +156,14 @@ Phrases::Read<WrittenUnit> Phrases::Units(std::size_t at) {
       if (unit.Type == 0 && hasTail) unit.Type = UnitTypeOf(tokens_[behind]);
       const bool isTail = head.Type == 0 && unit.Type != 0;
       if (isTail) ++behind;
+      // "Trieste (F)".
+      const bool isBracketed = unit.Type == 0 && Is(behind, TokenKind::Open) &&
+                               Is(behind + 2, TokenKind::Close) &&
+                               UnitTypeOf(tokens_[behind + 1]) != 0;
+      if (isBracketed) {
+        unit.Type = UnitTypeOf(tokens_[behind + 1]);
+        behind += 3;
+      }
       if (const PowerName owner = PowerInBrackets(behind); owner.Power != 0 && unit.Power == 0) {
         WrittenUnit owned = unit;
         owned.Power = owner.Power;
@@ -165,13 +175,22 @@ Phrases::Read<WrittenUnit> Phrases::Units(std::size_t at) {
   return units;
 }
 
+/// "To" in languages that have a short word for it, between two names.
+bool Phrases::IsPreposition(std::size_t at) const {
+  constexpr std::array<std::string_view, 4> words{"do", "a", "na", "em"};
+  return at > 0 && at + 1 < tokens_.size() && IsOneOf(tokens_[at], words) && !tokens_[at].Capital &&
+         tokens_[at - 1].Capital && tokens_[at + 1].Capital && tokens_[at + 1].Text.size() > 2 &&
+         UnitTypeOf(tokens_[at + 1]) == 0 && !names_.At(tokens_, at - 1).empty();
+}
+
 std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
   Verb verb = Verb::None;
   for (std::size_t next = ToVerb(at); next < tokens_.size(); next = ToVerb(next + 1)) {
-    const Verb word = VerbOf(tokens_[next]);
     const bool isFirst = verb == Verb::None;
-    const bool isTail = (verb == Verb::Hold && IsOneOf(tokens_[next], HoldTails)) ||
-                        (verb == Verb::Move && IsOneOf(tokens_[next], MoveTails));
+    const Verb word = isFirst && IsPreposition(next) ? Verb::Move : VerbOf(tokens_[next]);
+    const bool isTail =
+        (verb == Verb::Hold && IsOneOf(tokens_[next], HoldTails)) ||
+        ((verb == Verb::Move || verb == Verb::Retreat) && IsOneOf(tokens_[next], MoveTails));
     // "Moves to" and "retreats to" are one verb; of "moves to hold" the last word tells.
     const bool goesOn = verb == Verb::Move || (verb == Verb::Retreat && word == Verb::Move);
     if (!isTail && (word == Verb::None || !(isFirst || goesOn))) break;
@@ -185,7 +204,9 @@ bool Phrases::MayLead(std::size_t at) const {
   at = Skip(at);
   if (at >= tokens_.size() || IsA(tokens_[at], TokenKind::Dash)) return false;
   // "To Par" or "attack Par" at the front would name a destination, not the unit that moves.
-  return VerbOf(tokens_[at]) != Verb::Move || Is(at, "move") || Is(at, "moves") || Is(at, "send");
+  constexpr std::array<std::string_view, 8> leading{"move",  "moves", "send",  "mueve",
+                                                    "muevo", "muove", "muovo", "walk"};
+  return VerbOf(tokens_[at]) != Verb::Move || IsOneOf(tokens_[at], leading);
 }
 
 bool Phrases::IsWater(const WrittenPlace& place) const {

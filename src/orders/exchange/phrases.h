@@ -70,6 +70,7 @@ class Phrases {
   bool IsPassedOver(std::size_t at) const;
   std::size_t ToVerb(std::size_t at) const;
   bool IsVerbInBrackets(std::size_t at) const;
+  bool IsPreposition(std::size_t at) const;
   std::size_t PastMark(std::size_t type) const;
   bool Is(std::size_t at, TokenKind kind) const;
   bool Is(std::size_t at, std::string_view word) const;

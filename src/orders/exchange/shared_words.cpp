@@ -1,6 +1,7 @@
 #include "orders/exchange/shared_words.h"
 
 #include "orders/exchange/doubts.h"
+#include "orders/exchange/line_kinds.h"
 
 #include <algorithm>
 #include <utility>
@@ -39,8 +40,12 @@ void ShareVerbs(Tokens line, const KnownGame& known, const Context& context, Par
   for (std::size_t i = parts.size(); i-- > 1;) {
     auto& [range, part] = parts[i - 1];
     const Tokens unit = PartOf(line, range);
-    const bool lacksVerb = !IsUnderstood(part) && !part.IsRemark && UnitTypeOf(unit[0]) != 0 &&
-                           std::ranges::none_of(unit, IsVerb);
+    // "Berlin and Munich both hold" needs its "both".
+    const bool isBoth = std::ranges::any_of(
+        PartOf(line, parts[i].first), [](const Token& token) { return IsWord(token, "both"); });
+    const bool isUnit = UnitTypeOf(unit[0]) != 0 || isBoth;
+    const bool lacksVerb =
+        !IsUnderstood(part) && !part.IsRemark && isUnit && std::ranges::none_of(unit, IsVerb);
     if (!lacksVerb || !IsUnderstood(parts[i].second)) continue;
     const Tokens next = PartOf(line, parts[i].first);
     const auto verb = std::ranges::find_if(next, IsVerb);
@@ -106,11 +111,15 @@ bool JoinBroken(ReadLine& above, ReadLine& below, const SourceLine& line, const 
       !line.All.empty() &&
       (below.Kind == LineKind::NotUnderstood || below.Kind == LineKind::PassedOver);
   if (!areBroken) return false;
-  const std::string joined = ToPlain(above.Written, 0).Text + " " + line.Plain.Text;
+  const std::size_t start = PastLineStart(line.All);
+  if (start == line.All.size()) return false;
+  // "Order 1: to Bur" goes on behind its number.
+  const std::size_t begin = IsA(line.All[0], TokenKind::Dash) ? 0 : line.All[start].Begin;
+  const std::string joined = ToPlain(above.Written, 0).Text + " " + line.Plain.Text.substr(begin);
   const std::vector<Token> tokens = CutTokens(joined);
   Context tried{model::FindCountry(above.Power), context.Orders};
   const PartRead read = ReadPart(tokens, known, tried);
-  if (read.Kind != LineKind::Order) return false;
+  if (read.Kind != LineKind::Order || read.IsGuess) return false;
   if (FindDoubt(Tokens(tokens).subspan(read.End), tokens, known.Names)) return false;
   const Meaning& meant = read.Meant.All[0];
   above.Kind = LineKind::Order;

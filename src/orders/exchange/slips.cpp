@@ -1,8 +1,5 @@
 #include "orders/exchange/slips.h"
 
-#include "model/lookups.h"
-#include "orders/exchange/exact_line.h"
-
 #include <vector>
 
 namespace orb::exchange {
@@ -10,25 +7,6 @@ namespace {
 
 /// More slips in one order are no slips.
 constexpr int MostSlips = 2;
-
-/// Whether the unit can be ordered so, as far as the map tells.
-bool IsPossible(const Meaning& meaning, const KnownGame& known) {
-  if (!meaning.Objection.empty()) return false;
-  const auto order = ReadExactLine(*known.Game.Map, known.Stage, meaning.Line);
-  if (!order) return false;
-  const model::Map& map = *known.Game.Map;
-  const model::Unit unit{order->Power, order->UnitType, order->Location, {}, {}, {}};
-  switch (order->Kind) {
-    case orders::OrderKind::Move:
-    case orders::OrderKind::Retreat:
-      return model::IsAdjacent(map, order->UnitType, order->Location, order->Target);
-    case orders::OrderKind::Support:
-      return model::CanSupportInto(map, unit,
-                                   order->Target2.empty() ? order->Target : order->Target2);
-    default:
-      return true;
-  }
-}
 
 /// The word with another one in its place.
 std::vector<Token> WithWord(Tokens tokens, std::size_t at, const std::string& word) {
@@ -59,6 +37,7 @@ class SlipReader {
       }
       if (read.Kind != LineKind::Order || !IsPossible(read.Meant.All[0], known_)) continue;
       if (++possible > 1) return {};
+      if (read.IsGuess) read.Doubt = "it is not said what the unit does";
       Note(tokens[at], place.Province, near, read);
       found = std::move(read);
       context = tried;

@@ -6,14 +6,30 @@
 #include "text/strings.h"
 
 #include <algorithm>
+#include <array>
 
 namespace orb::exchange {
 namespace {
 
-bool IsSeam(const Token& token, Seam seam) {
+/// "And" in several languages. Short words are only so before a unit.
+bool IsAnd(Tokens tokens, std::size_t at) {
+  constexpr std::array<std::string_view, 7> words{"and", "und", "et", "och", "og", "oraz", "ja"};
+  constexpr std::array<std::string_view, 5> shortWords{"y", "e", "ed", "en", "i"};
+  if (!IsA(tokens[at], TokenKind::Word)) return false;
+  const std::string& word = tokens[at].Text;
+  if (std::ranges::find(words, word) != words.end()) return true;
+  const bool isBeforeUnit =
+      at > 0 && at + 1 < tokens.size() && tokens[at + 1].Text.size() > 1 &&
+      (UnitTypeOf(tokens[at + 1]) != 0 || HasUse(tokens[at + 1], WordUse::Filler));
+  return isBeforeUnit && !tokens[at].Capital &&
+         std::ranges::find(shortWords, word) != shortWords.end();
+}
+
+bool IsSeam(Tokens tokens, std::size_t at, Seam seam) {
+  const Token& token = tokens[at];
   if (seam == Seam::Semicolon) return token.Kind == TokenKind::Semicolon;
   // A slash with a blank before it is no coast's.
-  return token.Kind == TokenKind::Comma || IsWord(token, "and") ||
+  return token.Kind == TokenKind::Comma || IsAnd(tokens, at) ||
          (token.Kind == TokenKind::Slash && !token.Glued);
 }
 
@@ -63,7 +79,7 @@ std::vector<TokenRange> Split(Tokens tokens, TokenRange range, Seam seam) {
     if (IsA(tokens[at], TokenKind::Open)) {
       const std::size_t bracket = ClosingBracket(tokens.first(range.End), at);
       if (bracket < range.End) at = bracket;
-    } else if (IsSeam(tokens[at], seam)) {
+    } else if (IsSeam(tokens.first(range.End), at, seam)) {
       close(at);
       start = at + 1;
     }

@@ -27,6 +27,15 @@ struct SourceLine {
   PlainText Plain;
   std::vector<Token> All;  ///< none where the line is too long
   bool IsTooLong = false;
+
+  Tokens Part(TokenRange range) const {
+    return Tokens(All).subspan(range.Begin, range.End - range.Begin);
+  }
+
+  /// Where some tokens were written in the whole text.
+  exchange::Span Span(TokenRange range) const {
+    return Plain.Written(All[range.Begin].Begin, All[range.End - 1].End);
+  }
 };
 
 /// Takes a line apart. `offset` is where it begins in the whole text.

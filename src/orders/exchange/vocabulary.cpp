@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <unordered_map>
+#include <utility>
 
 namespace orb::exchange {
 namespace {
@@ -21,17 +22,20 @@ constexpr std::array Verbs{
               "heading proceed proceeds travel travels send geht gehe gehen zieht ziehe "
               "ziehen marschiert marschiere nach attackiert va vais vado attaque ataca "
               "attacca marche avance avanza muove muovo mueve muevo rukt gaat ga naar trekt "
-              "gar rykker rusza idzie vers hacia proceeding moved sailing marching"},
+              "gar rykker rusza idzie vers hacia proceeding moved sailing marching till til "
+              "mot nello nella negli nel alla al zum zur para walk walks walking run runs "
+              "puts retires"},
     VerbWords{Verb::Hold,
               "h hold holds holding hld stand stands stay stays remain remains halt haelt "
               "halte halten haller holdt holder houdt houden bleibt bleiben blijft blir reste "
-              "tient tenir mantiene queda quedan resta sta pozostaje stoi mantem"},
+              "tient tenir mantiene queda quedan resta sta pozostaje stoi mantem rimane "
+              "rimangono fica ficam permanece permanecen zostaje stehen steht"},
     VerbWords{Verb::Support,
               "s sup supp supports support supporting spt sprt su backs backing unterstutzt "
               "unterstuetzt unterstutze unterstutzung soutient soutien soutenir soutiens "
               "steunt ondersteunt apoya apoyo apoyando sostiene appoggia appoggio supporto "
               "supporta supporte appuie stotter stodjer stoder stoetter apoia wspiera "
-              "wsparcie"},
+              "wsparcie helps help aids"},
     VerbWords{Verb::Convoy,
               "c cv cvy conv convoy convoys convoying transport transports carry carries "
               "carrying konvoi konvoit konvoiert convoie convoye convoya convoyer convoglia "
@@ -57,9 +61,11 @@ constexpr std::array Verbs{
 };
 
 constexpr std::string_view Armies =
-    "a army armies armeen armees ejercito ejercitos exercito esercito armata armia arme leger";
+    "a army armies armeen armees ejercito ejercitos exercito esercito armata armia arme leger "
+    "armia armie armii armen haren";
 constexpr std::string_view Fleets =
-    "f fleet fleets flotte flotten flottes flota flotas flotta vloot vloten flottan flaaden";
+    "f fleet fleets flotte flotten flottes flota flotas flotta vloot vloten flottan flaaden frota "
+    "flaten flaade";
 
 struct UseWords {
   WordUse Use;
@@ -71,10 +77,10 @@ struct UseWords {
 // order that nobody meant.
 constexpr std::array Uses{
     UseWords{WordUse::Filler,
-             "die das der la le il lo el los las les meine meiner mein mijn mon mes mio mia mi min "
-             "mina moja nos onze notre our "
-             "both the my our an please pls plz will shall is are his her their unit units "
-             "dislodged gives lends provides"},
+             "die das der la le il lo el los las les meine meiner mein mijn mon mes mio mia "
+             "mi min mina moja nos onze notre our both the my our an please pls plz will "
+             "shall is are his her their unit units dislodged gives lends provides os as um "
+             "een ein eine einen une una uno wird werden soll sollen"},
     UseWords{WordUse::Condition,
              "if unless otherwise else or either maybe perhaps instead not dont never cancel "
              "except depending should could might may cancelled canceled provided when until "
@@ -107,7 +113,8 @@ constexpr std::array Uses{
              "host hosten var varen efterar forar jesien wiosna outono befehle befehl ordres "
              "ordini ordine ordenes rozkazy ordens ordrer zuge zug ruckzuge fur pour per "
              "para voor till til voor dla de von der die das des le la les sind son sont "
-             "sono yr yours today now spieler joueur bonjour hallo"},
+             "sono yr yours today now spieler joueur bonjour hallo two three one both so "
+             "jetzt maintenant ahora adesso nu do"},
     UseWords{
         WordUse::Correction,
         "correction corrections korrektur correzione correccion correctie correcao rectification "
@@ -127,9 +134,10 @@ constexpr std::array Uses{
              "make ich mochte wurde gerne bitte je voudrais souhaite voglio vorrei quiero quisiera "
              "ik wil graag jag vill jeg chce"},
     UseWords{WordUse::Season,
-             "spring summer autumn fall winter herbst fruhjahr fruhling sommer automne printemps "
-             "hiver ete autunno primavera estate inverno otono verano invierno outono verao herfst "
-             "lente zomer najaar voorjaar host hosten var varen forar efterar jesien wiosna zima"},
+             "spring summer autumn fall winter herbst fruhjahr fruhling sommer automne "
+             "printemps hiver ete autunno primavera estate inverno otono verano invierno "
+             "outono verao herfst lente zomer najaar voorjaar host hosten var varen forar "
+             "efterar jesien wiosna zima now jetzt maintenant ahora adesso nu"},
     UseWords{WordUse::Report,
              "told tells proposed proposes suggests asked asks wants wanted said says claims "
              "claimed thinks expects believes promised promises offered offers lied pretended "
@@ -152,7 +160,9 @@ constexpr std::array Uses{
              "grusse gruse gruesse saludos saluti groeten groetjes hilsen halsningar "
              "pozdrawiam abracos abrazos ciao bisous salut servus mfg lg vg mvh mfs bye "
              "night weekend ta tack takk tak dzieki obrigado obrigada prego wink grin cheeky "
-             "boring"},
+             "boring buenas estimado estimada sehr geehrte geehrter spielleitung spielleiter "
+             "arbitre arbitro umpire host moderator ref referee hoi hei hejsan moin slt "
+             "coucou caro cara"},
     UseWords{WordUse::Purpose,
              "bounce bounces bouncing standoff selfbounce cover covers covering guard guards "
              "protect protects block blocks blocking defend defends defence defense defensive "
@@ -164,7 +174,9 @@ constexpr std::array Uses{
              "usual again still unchanged same corrected correction revised updated changed "
              "new safe safety self order orders and this that here in at from for with by "
              "really always now too also then well indeed just simply first second third 1st "
-             "2nd 3rd 4th 5th unit number dvs ie namely sprich cioe soit"},
+             "2nd 3rd 4th 5th unit number dvs ie namely sprich cioe soit time so certain "
+             "thus round please the anyway perfect voila ordres ordini ordenes befehle zuge "
+             "end ende fin follows following below"},
 };
 
 /// "s01", "f1901m", "1901", "1901s", "1st": letters about a number.
@@ -215,6 +227,15 @@ std::vector<std::string_view> Parts(std::string_view text, char separator) {
 }
 
 char CoastLetter(std::string_view word) {
+  constexpr std::array<std::pair<std::string_view, char>, 22> abroad{
+      {{"cn", 'n'},        {"cs", 's'},        {"ce", 'e'},        {"nord", 'n'},
+       {"norte", 'n'},     {"noord", 'n'},     {"norra", 'n'},     {"nordre", 'n'},
+       {"sud", 's'},       {"sur", 's'},       {"sul", 's'},       {"zuid", 's'},
+       {"sodra", 's'},     {"sondre", 's'},    {"nordkuste", 'n'}, {"sudkuste", 's'},
+       {"ostkuste", 'e'},  {"noordkust", 'n'}, {"zuidkust", 's'},  {"oostkust", 'e'},
+       {"sydkysten", 's'}, {"nordkysten", 'n'}}};
+  const auto known = std::ranges::find(abroad, word, &std::pair<std::string_view, char>::first);
+  if (known != abroad.end()) return known->second;
   constexpr std::string_view letters = "nsew";
   constexpr std::array<std::string_view, 4> names{"north", "south", "east", "west"};
   for (std::size_t i = 0; i < names.size(); ++i) {

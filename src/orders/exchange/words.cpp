@@ -29,6 +29,8 @@ std::size_t WordEnd(std::string_view text, std::size_t at) {
 std::string WordText(std::string_view written) {
   std::string word = text::LowerCase(written);
   if (word.ends_with("'s")) word.resize(word.size() - 2);
+  // "l'armata", "d'Istanbul".
+  if (word.size() > 3 && word[1] == '\'' && (word[0] == 'l' || word[0] == 'd')) word.erase(0, 2);
   std::erase(word, '\'');
   return word;
 }

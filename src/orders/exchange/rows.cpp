@@ -1,0 +1,170 @@
+#include "orders/exchange/rows.h"
+
+#include "orders/exchange/doubts.h"
+#include "orders/exchange/line_kinds.h"
+#include "orders/exchange/power_names.h"
+
+#include <algorithm>
+
+namespace orb::exchange {
+namespace {
+
+/// How many words and signs a greeting before an order has at most: "Hi Tom, A Par - Bur".
+constexpr std::size_t LongestGreeting = 4;
+
+}  // namespace
+
+void Rows::BeginLine(bool isOlder, bool inSignature) {
+  isOlder_ = isOlder;
+  inSignature_ = inSignature;
+  understood_.clear();
+  remarks_.clear();
+}
+
+ReadLine& Rows::Add(const SourceLine& line, Span place, LineKind kind, int power) {
+  ReadLine& read = Lines.emplace_back();
+  Around.Add(isOlder_);
+  read.Number = line.Number;
+  read.Place = place;
+  read.Written = line.Bytes.substr(place.Offset - line.Offset, place.Length);
+  read.Kind = kind;
+  read.Power = PowerText(power);
+  return read;
+}
+
+ReadLine& Rows::AddLine(const SourceLine& line, int power, LineKind kind) {
+  return Add(line, {line.Offset, line.Bytes.size()}, kind, power);
+}
+
+void Rows::AddTooLong(const SourceLine& line, int power) {
+  ReadLine& read = AddLine(line, power, LineKind::NotUnderstood);
+  read.Reason = "the line is longer than " + std::to_string(LineBound) + " characters";
+  read.ReasonPlace = read.Place;
+}
+
+void Rows::AddUnclear(const SourceLine& line, TokenRange range, int power,
+                      const std::string& reason) {
+  ReadLine& read = Add(line, line.Span(range), LineKind::NotUnderstood, power);
+  read.Reason = reason;
+  read.ReasonPlace = line.Span({range.Begin, range.Begin + 1});
+}
+
+void Rows::AddPart(const SourceLine& line, TokenRange range, const PartRead& part,
+                   const Context& context) {
+  if (part.IsRemark) return AddRemark(range, part.Sentence);
+  const bool isNone = part.Kind == LineKind::NotUnderstood &&
+                      IsNoOrder(line.Part(range), known_.Names, inSignature_);
+  if (!isNone) return AddOnly(line, range, part, context);
+  Add(line, line.Span(range), LineKind::PassedOver, context.Power);
+  AddRemark(range, part.Sentence);
+}
+
+void Rows::AddOnly(const SourceLine& line, TokenRange range, const PartRead& part,
+                   const Context& context) {
+  if (range.Begin == range.End) {
+    AddLine(line, context.Power, LineKind::PassedOver);
+    return;
+  }
+  ReadLine& read = Add(line, line.Span(range), part.Kind, context.Power);
+  const std::vector<Meaning>& meant = part.Meant.All;
+  read.ReasonPlace = read.Place;
+  read.ReadAs = part.ReadAs;
+  const std::size_t row = Lines.size() - 1;
+  if (!part.Doubt.empty()) Around.SetDoubtFrom(row, part.Doubt, read.Place);
+  if (part.NamesPower && IsOfOther(line, part)) {
+    Around.SetDoubtFrom(row, "the line has orders of another power", read.Place);
+  }
+  if (IsUnderstood(part)) {
+    const std::size_t end = std::min(range.Begin + part.End, range.End);
+    understood_.push_back({{range.Begin, end}, part.Sentence, row});
+    const bool isOrder = part.Kind != LineKind::Waive;
+    if (isOrder && end < range.End) AddRemark({end, range.End}, part.Sentence);
+  }
+  if (part.Kind == LineKind::Order) {
+    read.Order = meant[0].Line;
+    read.Power = PowerText(meant[0].Power);
+    read.Reason = meant[0].Objection;
+  } else if (part.Kind == LineKind::Ambiguous) {
+    read.Reason = AmbiguityText(part.Meant);
+    for (const Meaning& meaning : meant)
+      read.Candidates.push_back(meaning.Line);
+  } else if (part.Kind == LineKind::NotUnderstood) {
+    AddProblem(line, range, part.Problem, read);
+  }
+}
+
+/// Whether an order before it in its line is one of another power.
+bool Rows::IsOfOther(const SourceLine& line, const PartRead& part) const {
+  if (part.Kind != LineKind::Order) return false;
+  const std::string power = PowerText(part.Meant.All[0].Power);
+  for (auto other = Lines.rbegin() + 1; other != Lines.rend(); ++other) {
+    if (other->Number != line.Number) break;
+    if (exchange::IsUnderstood(*other) && other->Power != power) return true;
+  }
+  return false;
+}
+
+void Rows::AddProblem(const SourceLine& line, TokenRange range, const Fault& problem,
+                      ReadLine& read) {
+  const Tokens tokens = line.Part(range);
+  read.Reason = problem.Reason;
+  // A line that names its own power counts for that.
+  if (const int power = PowerAt(tokens, 0).Power; power != 0) read.Power = PowerText(power);
+  Around.SetAbout(ConcernOf(tokens, known_.Names, *known_.Game.Map));
+  const std::size_t begin = range.Begin + problem.At.Begin;
+  const std::size_t end = std::min(range.Begin + problem.At.End, range.End);
+  read.ReasonPlace =
+      begin < end ? line.Span({begin, end}) : Span{read.Place.Offset + read.Place.Length, 0};
+}
+
+bool Rows::HoldsOrders(std::size_t first) const {
+  return std::any_of(Lines.begin() + static_cast<std::ptrdiff_t>(first), Lines.end(),
+                     [](const ReadLine& line) {
+                       return exchange::IsUnderstood(line) || line.Kind == LineKind::Ambiguous ||
+                              line.Kind == LineKind::Waive;
+                     });
+}
+
+void Rows::PassOver(std::size_t first) {
+  for (std::size_t row = first; row < Lines.size(); ++row) {
+    Lines[row].Kind = LineKind::PassedOver;
+    Lines[row].Reason.clear();
+  }
+}
+
+void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
+  for (const Said& said : remarks_) {
+    const Tokens remark = line.Part(said.At);
+    const bool isGreeting = remark.size() <= LongestGreeting &&
+                            HasUse(remark[0], WordUse::Greeting) && !ReadAside(remark).has_value();
+    const bool isOwn =
+        std::ranges::find(understood_, said.Sentence, &Understood::Sentence) != understood_.end();
+    if (isGreeting || !IsDoubted(line, said, isOwn)) continue;
+    const std::string reason = Quoted(line.Part(said.At)) + " may change it";
+    const bool isReported = IsReport(remark);
+    for (const Understood& order : understood_) {
+      if (isOwn && order.Sentence != said.Sentence) continue;
+      Around.SetDoubt(order.Row, reason, line.Span(said.At), isReported);
+    }
+    if (!isOwn) Around.SetDoubtFrom(first, reason, line.Span(said.At));
+  }
+}
+
+/// Whether words are not known to leave the orders of their sentence as they are.
+bool Rows::IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const {
+  std::vector<Token> own;
+  int power = 0;
+  for (const Understood& order : understood_) {
+    power = model::FindCountry(Lines[order.Row].Power);
+    const Tokens words = line.Part(order.At);
+    if (!isOwn || order.Sentence == said.Sentence)
+      own.insert(own.end(), words.begin(), words.end());
+  }
+  const Tokens remark = line.Part(said.At);
+  const auto correction = FindCorrection(remark);
+  if (!correction) return FindDoubt(remark, own, known_.Names, power).has_value();
+  return FindDoubt(remark.first(correction->Begin), own, known_.Names, power) ||
+         FindDoubt(remark.subspan(correction->End), own, known_.Names, power);
+}
+
+}  // namespace orb::exchange

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "orders/exchange/order_part.h"
+#include "orders/exchange/source_line.h"
+#include "orders/exchange/surroundings.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace orb::exchange {
+
+/// What the lines of a text were read as, row by row, and what stands around each.
+class Rows {
+ public:
+  explicit Rows(const KnownGame& known) : known_(known) {}
+
+  /// The rows that are added next are those of another line. `isOlder`: it is quoted from an
+  /// earlier text; `inSignature`: places alone make no order there.
+  void BeginLine(bool isOlder, bool inSignature);
+
+  /// A row of a whole line. `power`: of the lines here, 0: none is named.
+  ReadLine& AddLine(const SourceLine& line, int power, LineKind kind);
+  void AddTooLong(const SourceLine& line, int power);
+
+  /// Some tokens of a line that somebody must look at.
+  void AddUnclear(const SourceLine& line, TokenRange range, int power, const std::string& reason);
+
+  /// What some tokens of a line were read as.
+  void AddPart(const SourceLine& line, TokenRange range, const PartRead& part,
+               const Context& context);
+
+  /// The same where they surely are meant as an order.
+  void AddOnly(const SourceLine& line, TokenRange range, const PartRead& part,
+               const Context& context);
+
+  /// Words of the line beside its orders, in the sentence that begins at a token.
+  void AddRemark(TokenRange range, std::size_t sentence) { remarks_.push_back({range, sentence}); }
+
+  /// What the line says next to its orders may change each order of the same sentence; where that
+  /// has none, each of the line, whose rows begin at `first`.
+  void DoubtRemarks(const SourceLine& line, std::size_t first);
+
+  /// Whether any row from one on holds an order.
+  bool HoldsOrders(std::size_t first) const;
+
+  /// The rows from one on surely are no orders.
+  void PassOver(std::size_t first);
+
+  std::vector<ReadLine> Lines;
+  SurroundingsOfLines Around;
+
+ private:
+  /// An order in the line, without the remarks behind it.
+  struct Understood {
+    TokenRange At;
+    std::size_t Sentence;
+    std::size_t Row;
+  };
+
+  struct Said {
+    TokenRange At;
+    std::size_t Sentence;
+  };
+
+  ReadLine& Add(const SourceLine& line, Span place, LineKind kind, int power);
+  void AddProblem(const SourceLine& line, TokenRange range, const Fault& problem, ReadLine& read);
+  bool IsOfOther(const SourceLine& line, const PartRead& part) const;
+  bool IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const;
+
+  const KnownGame& known_;
+  bool isOlder_ = false;
+  bool inSignature_ = false;
+  // Of the line that is being read.
+  std::vector<Understood> understood_;
+  std::vector<Said> remarks_;
+};
+
+}  // namespace orb::exchange
