@@ -1,9 +1,10 @@
-// Usage: save_under_faults ORBCTL LIBRARY EXAMPLES [all]
+// Usage: save_under_faults ORBCTL WINDOW LIBRARY EXAMPLES [all]
 // Lets each call of every command that writes fail in turn, or kills the command there, by the
 // LIBRARY of faulty_calls.cpp. Afterwards each file is the old or the new one, whole; no game is
 // new without its report; the next save leaves no other file; a command that was not killed has
 // said one sentence and has the status 1, or has done all that it should. Prints what broke, and a
 // line of figures. "all" takes every error and picture.
+// WINDOW is save_in_window, whose commands are tried as those of orbctl are.
 
 #include <algorithm>
 #include <cerrno>
@@ -50,6 +51,13 @@ constexpr Command Commands[] = {
 };
 constexpr std::size_t QuickCommands = 6;
 
+/// Each starts a window, which takes its time.
+constexpr Command WindowCommands[] = {
+    {"save @moves.orb", "", ""},           {"saveas @moves.orb @fresh.orb", "", ""},
+    {"bitmap @done.orb @map.bmp", "", ""}, {"text @done.orb @r.txt", "", ""},
+    {"orders @moves.orb @r.txt", "", ""},
+};
+
 std::string Bytes(const fs::path& file) {
   std::ifstream stream(file, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), {}};
@@ -71,8 +79,8 @@ struct Outcome {
 
 class Trial {
  public:
-  Trial(fs::path orbctl, std::string library, const fs::path& examples)
-      : orbctl_(std::move(orbctl)), library_(std::move(library)) {
+  Trial(fs::path orbctl, fs::path window, std::string library, const fs::path& examples)
+      : orbctl_(std::move(orbctl)), window_(std::move(window)), library_(std::move(library)) {
     // In memory where that can be: flushing to a disk thousands of times would take minutes.
     const fs::path memory = "/dev/shm";
     const fs::path base = fs::exists(memory) ? memory : fs::temp_directory_path();
@@ -122,7 +130,9 @@ class Trial {
   }
 
   int Execute(std::string_view words, const std::string& fault) const {
-    std::vector<std::string> arguments{orbctl_.string()};
+    const bool isInWindow = std::ranges::any_of(
+        WindowCommands, [&](const Command& command) { return command.Words == words; });
+    std::vector<std::string> arguments{isInWindow ? window_.string() : orbctl_.string()};
     std::istringstream stream{std::string(words)};
     for (std::string word; stream >> word;)
       arguments.push_back(word[0] == '@' ? (scratch_ / "folder" / word.substr(1)).string() : word);
@@ -144,7 +154,7 @@ class Trial {
       ::setenv("ORB_FAULT_LOG", (scratch_ / "log").c_str(), 1);
       if (named_) ::setenv("ORB_FAULT_NAMED", "1", 1);
       // The drawing toolkit opens hundreds of files of fonts.
-      if (arguments[1] == "map") {
+      if (arguments[1] == "map" || arguments[0] == window_) {
         ::setenv("ORB_FAULT_DIRECTORY", (scratch_ / "folder").c_str(), 1);
       }
     }
@@ -224,6 +234,7 @@ class Trial {
   }
 
   fs::path orbctl_;
+  fs::path window_;
   std::string library_;
   fs::path scratch_;
   Files before_;
@@ -235,17 +246,17 @@ class Trial {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc < 4) {
-    std::cerr << "Usage: save_under_faults ORBCTL LIBRARY EXAMPLES [all]\n";
+  if (argc < 5) {
+    std::cerr << "Usage: save_under_faults ORBCTL WINDOW LIBRARY EXAMPLES [all]\n";
     return 2;
   }
-  const bool all = argc > 4 && std::string_view(argv[4]) == "all";
+  const bool all = argc > 5 && std::string_view(argv[5]) == "all";
   std::vector<std::string> kinds{std::to_string(ENOSPC), "kill", "killed"};
   if (all) {
     for (const int error : {EIO, EACCES, EDQUOT})
       kinds.push_back(std::to_string(error));
   }
-  Trial trial(argv[1], argv[2], argv[3]);
+  Trial trial(argv[1], argv[2], argv[3], argv[4]);
   for (const bool named : {false, true}) {
     trial.SetNamed(named);
     const std::size_t quick = named ? 1 : QuickCommands;
@@ -253,6 +264,12 @@ int main(int argc, char** argv) {
       for (const std::string& kind : kinds)
         trial.Run(Commands[i], kind);
     }
+  }
+  trial.SetNamed(false);
+  for (const Command& command : WindowCommands) {
+    for (const std::string& kind : all ? kinds : std::vector{kinds.front(), kinds.back()})
+      trial.Run(command, kind);
+    if (!all) break;
   }
   std::cout << trial.Faults() << " faults, " << trial.Broken() << " broken\n";
   return trial.Broken() == 0 && trial.Faults() > 0 ? 0 : 1;

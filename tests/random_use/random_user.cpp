@@ -125,7 +125,7 @@ void RandomUser::step() {
     ++m_dialogs;
     plan();
   });
-  waiting.start(15);
+  waiting.start(5);
   ++m_running;
   m_done >= m_wanted ? finish() : act();
   --m_running;
