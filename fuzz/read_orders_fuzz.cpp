@@ -86,6 +86,30 @@ void ReadAlone(const model::GameState& game, const ReadLine& line,
   Require(alone.Kind == LineKind::Order && alone.Order == line.Order, "unsure alone", line);
 }
 
+/// The text without what stands in round brackets.
+std::string WithoutBrackets(std::string_view text) {
+  std::string left;
+  int depth = 0;
+  for (const char c : text) {
+    if (c == '(') ++depth;
+    if (depth == 0) left += c;
+    if (c == ')' && depth > 0) --depth;
+  }
+  return left;
+}
+
+/// No remark makes a sure order another one: without it, and without the rest of the text, it reads
+/// the same where it is understood at all.
+void ReadWithoutRemarks(const model::GameState& game, const ReadLine& line,
+                        const exchange::ReadingOptions& options,
+                        const std::vector<ReadLine>& lines) {
+  if (line.Kind != LineKind::Order) return;
+  for (const std::string& text : {line.Written, WithoutBrackets(line.Written)}) {
+    const ReadLine alone = exchange::ReadOrder(game, text, {line.Power, options.Repairs}, lines);
+    Require(alone.Kind != LineKind::Order || alone.Order == line.Order, "another one alone", line);
+  }
+}
+
 /// Every order and candidate must read as itself.
 void ReadAgain(const model::GameState& game, const std::vector<ReadLine>& lines) {
   std::vector<std::string> orders;
@@ -111,6 +135,7 @@ void ReadAll(model::GameState game, std::string_view text,
     number = line.Number;
     CheckLine(text, line);
     ReadAlone(game, line, options, lines);
+    ReadWithoutRemarks(game, line, options, lines);
   }
   ReadAgain(game, lines);
   CheckLine(text, exchange::ReadOrder(game, text, options, lines));
