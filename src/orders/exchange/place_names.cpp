@@ -113,7 +113,12 @@ const std::vector<const PlaceNames::Spelling*>& PlaceNames::Beginning(
   const auto spellings = isNew && !word.empty() ? spellings_.find(word[0]) : spellings_.end();
   if (spellings == spellings_.end()) return known->second;
   for (const Spelling& spelling : spellings->second) {
-    if (std::string_view(spelling.Joined).starts_with(word)) known->second.push_back(&spelling);
+    // Shorter words are no beginnings: "a" is not Albania.
+    const bool mayBegin =
+        word.size() >= ShortestStart || spelling.Words[0] == word || spelling.Joined == word;
+    if (mayBegin && std::string_view(spelling.Joined).starts_with(word)) {
+      known->second.push_back(&spelling);
+    }
   }
   return known->second;
 }
