@@ -72,6 +72,25 @@ int LineOf(const Course& course, int order) {
   return line;
 }
 
+/// Where a unit that is dislodged in both courses may go in the other: the sentences about its
+/// order may be the same.
+std::string OtherRetreats(const Course& here, const Course& there, int unit) {
+  if (unit == 0 || here.Result.Stage != model::Stage::Moves) return {};
+  const model::Unit& lost = there.After.Units[unit];
+  if (lost.Status != model::Dislodged || here.After.Units[unit].Status != model::Dislodged)
+    return {};
+  const Places places = RetreatPlaces(there.After, lost);
+  if (places == RetreatPlaces(here.After, here.After.Units[unit])) return {};
+  if (places.none()) return " It may not retreat.";
+  std::string text;
+  for (int row = 1; row <= there.After.Map->Provinces.Count(); ++row) {
+    if (!places.test(static_cast<std::size_t>(row))) continue;
+    text.append(text.empty() ? " It may retreat to " : ", ");
+    text.append(model::LocationName(*there.After.Map, row));
+  }
+  return text.append(".");
+}
+
 std::string ThereText(Rules there, const std::string& sentence) {
   return "By " + std::string(RulesName(there)) + ": " + sentence;
 }
@@ -98,7 +117,8 @@ void AddDifferent(const Course& here, const Course& there, Differences& differen
     differences.push_back(
         {k, LineOf(here, k), here.Result.Orders[k].Text,
          Reason(here.Rules, here.After, here.Result, k),
-         ThereText(there.Rules, Reason(there.Rules, there.After, there.Result, other))});
+         ThereText(there.Rules, Reason(there.Rules, there.After, there.Result, other)) +
+             OtherRetreats(here, there, here.Result.Orders[k].UnitIndex)});
   }
 }
 

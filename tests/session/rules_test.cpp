@@ -20,6 +20,7 @@ using session::Noting;
 using session::Rules;
 using session::Situation;
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
@@ -117,6 +118,14 @@ TEST(Rules, TellWhyByBothAndForgetItWithTheReport) {
               StartsWith("By ORB's own rules: It is impossible: no army can move from Par to Ruh"));
   EXPECT_EQ(session::DifferencesText(0, Rules::Usual),
             "No order came out otherwise than by ORB's own rules");
+}
+
+TEST(Rules, TellWhereAUnitMayRetreatToOtherwise) {
+  const Situation orb = Resolved(At("Spring", "moves",
+                                    {"FRA A(Bel) hold", "ENG A(Hol) - Bel",
+                                     "ENG F(NTH) C A(Hol) - Bel", "ENG F(ECH) S A(Hol) - Bel"}));
+  ASSERT_EQ(orb.Differences.size(), 1U);
+  EXPECT_THAT(orb.Differences[0].There, EndsWith(" It may retreat to Bur, Pic, Ruh, Hol."));
 }
 
 TEST(Rules, TellWhatTheOthersRefuseOrChoose) {
