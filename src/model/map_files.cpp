@@ -83,6 +83,17 @@ std::int16_t FirstRowOfPlace(const Map& map, std::string_view name) {
   return static_cast<std::int16_t>(row);
 }
 
+/// A part of a point, as a fraction of the map. Far beyond its edge nothing could be drawn any
+/// more.
+float ReadFraction(RecordReader& reader, const std::string& expected) {
+  constexpr float farthest = 100;
+  const float fraction = reader.Fraction(expected);
+  if (fraction < -farthest || fraction > farthest) {
+    reader.Fail(expected + " (a fraction of the map)", std::to_string(fraction));
+  }
+  return fraction;
+}
+
 }  // namespace
 
 void LoadNameFixes(std::string_view bytes, const std::string& fileName, Map& map) {
@@ -110,10 +121,10 @@ void LoadProvinces(std::string_view bytes, const std::string& fileName, Map& map
     FixNames(map, province.Name);
     province.HomeCountry = reader.Text("a home power");
     province.IsSupplyCentre = reader.Number("a supply centre flag");
-    province.LabelX = reader.Fraction("a label's x");
-    province.LabelY = reader.Fraction("a label's y");
-    province.UnitX = reader.Fraction("a unit's x");
-    province.UnitY = reader.Fraction("a unit's y");
+    province.LabelX = ReadFraction(reader, "a label's x");
+    province.LabelY = ReadFraction(reader, "a label's y");
+    province.UnitX = ReadFraction(reader, "a unit's x");
+    province.UnitY = ReadFraction(reader, "a unit's y");
     province.FullName = reader.Text("a location's full name");
     map.Places.Append(FirstRowOfPlace(map, province.Name));
     map.Names.Insert(map.Provinces, map.Provinces.Count());

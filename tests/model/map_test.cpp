@@ -163,6 +163,7 @@ TEST(MapFiles, ABrokenOneIsRefusedWithItsNameAndReason) {
   };
   const std::vector<Case> cases = {
       {"prov.dat", "", false, "end of the file"},
+      {"prov.dat", "Lon,ENG,1,0,0,-1e37,0,x\r\n", false, "unit's x (a fraction of the map)"},
       {"prov.dat", "Lon,ENG,1,0,0,0,0", false, "full name"},
       {"prov.dat", "Lon,ENG,yes,0,0,0,0,x\r\n", false, "yes"},
       {"prov.dat", "Lon,ENG,1,0,2,0,0,0,x\r\nWal,ENG", false, "line 2"},
