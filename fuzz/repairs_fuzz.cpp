@@ -27,7 +27,8 @@ void RepairText(std::string_view bytes, std::string_view text) {
   Require(repairs.size() <= exchange::TextRepairBound, "too many repairs");
   for (const exchange::TextRepair& repair : repairs)
     Require(!repair.From.empty(), "a repair of nothing", repair.To);
-  const auto lines = exchange::ReadOrders(StartingGame(), text, {"", repairs});
+  std::vector<exchange::ReadLine> lines;
+  IsAccepted([&] { lines = exchange::ReadOrders(StartingGame(), text, {"", repairs}); });
   for (const exchange::ReadLine& line : lines) {
     const std::size_t size = text.size();
     Require(line.Place.Offset <= size && line.Place.Length <= size - line.Place.Offset,

@@ -121,7 +121,7 @@ class GameReader {
   }
 
   /// What was found behind the end of the game, in a sentence; empty where there is nothing.
-  std::string Remark() const {
+  std::string Remark() {
     if (reader_.AtEnd()) return {};
     return text::NameInText(fileName_) + ", line " + std::to_string(reader_.Line()) +
            ": what stands behind the end of the game is not read, and is lost when it is saved.";
@@ -224,7 +224,7 @@ class GameReader {
       std::string text = text::NameInText(fileName_);
       text += ": expected every unit in a location of the map, found ";
       text.append(unit.Power).append(" ").append(unit.UnitType);
-      throw FileError(text.append("(").append(unit.Location).append(")."));
+      throw FileError(text.append("(").append(Shortened(unit.Location)).append(")."));
     }
   }
 
@@ -308,7 +308,7 @@ std::optional<std::string> ParseGameFile(std::string_view bytes, const std::stri
 }
 
 std::string UnknownProvinceText(std::string_view location) {
-  return std::string("Unknown province: ").append(location);
+  return std::string("Unknown province: ").append(Shortened(location));
 }
 
 std::string FormatGameFile(const GameState& game) {

@@ -34,7 +34,7 @@ void LoadAdjacencyLine(std::string_view line, const Map& map, Adjacency& adjacen
   const int row = FindProvince(map, name);
   if (row == 0) {
     FailAtLine(fileName, lineNumber,
-               "expected a location of prov.dat, found \"" + std::string(name) + "\".");
+               "expected a location of prov.dat, found \"" + Shortened(name) + "\".");
   }
   auto& neighbours = adjacency[static_cast<std::size_t>(row - 1)];
   for (std::size_t k = 0; !rest.empty(); ++k) {
@@ -42,7 +42,7 @@ void LoadAdjacencyLine(std::string_view line, const Map& map, Adjacency& adjacen
     if (k == neighbours.size()) {
       FailAtLine(fileName, lineNumber,
                  "expected at most " + std::to_string(NeighbourBound) + " neighbours of " +
-                     std::string(name) + ", found more.");
+                     Shortened(name) + ", found more.");
     }
     neighbours[k] = static_cast<std::int16_t>(FindProvince(map, neighbour));
   }

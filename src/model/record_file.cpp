@@ -3,6 +3,7 @@
 #include "model/errors.h"
 #include "text/encoding.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <limits>
@@ -35,12 +36,10 @@ const char* SkipBlanks(const char* at, const char* end) {
 
 /// The field as it is shown in an error text: short, and without bytes that cannot be printed.
 std::string Shown(std::string_view field) {
-  constexpr std::size_t longest = 40;
-  std::string shown(field.substr(0, longest));
+  std::string shown = Shortened(field);
   for (char& c : shown) {
     if (static_cast<unsigned char>(c) < ' ' || c == '\x7f') c = '?';
   }
-  if (field.size() > longest) shown += "...";
   return '"' + shown + '"';
 }
 
@@ -55,6 +54,12 @@ bool Parse(std::string_view text, Number& number) {
 }
 
 }  // namespace
+
+std::string Shortened(std::string_view text) {
+  constexpr std::size_t longest = 40;
+  std::string shown(text.substr(0, longest));
+  return text.size() > longest ? shown.append("...") : shown;
+}
 
 RecordReader::RecordReader(std::string_view bytes, std::string fileName, LoneQuotes quotes)
     : next_(bytes.data()),
@@ -154,8 +159,12 @@ float RecordReader::Fraction(std::string_view expected) {
   return number;
 }
 
-bool RecordReader::AtEnd() const {
-  return std::string_view(next_, end_).find_first_not_of(" \r\n") == std::string_view::npos;
+bool RecordReader::AtEnd() {
+  // Asked before each record, of which there may be a million empty ones.
+  if (content_ == nullptr || content_ < next_) {
+    content_ = std::find_if_not(next_, end_, [](char c) { return c == ' ' || IsLineEnd(c); });
+  }
+  return content_ == end_;
 }
 
 void RecordWriter::Grow(std::size_t size) {

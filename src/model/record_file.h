@@ -20,6 +20,9 @@ constexpr bool IsStorable(char c) {
 /// Whether a field without quotes may hold one. It can be read, but never written again.
 enum class LoneQuotes : std::uint8_t { Kept, Refused };
 
+/// As much of a text as an error text shows: a broken file may have a name of many megabytes.
+std::string Shortened(std::string_view text);
+
 /// Reads the fields of a record file one after another. Fields are separated by commas and line
 /// ends (CR LF, LF or CR); a field in double quotes may hold commas; blanks round an unquoted field
 /// are dropped. A record with too few fields takes the missing ones from the next line. Every
@@ -55,7 +58,7 @@ class RecordReader {
   int Line() const { return line_; }
 
   /// Whether nothing but blanks and line ends is left.
-  bool AtEnd() const;
+  bool AtEnd();
 
  private:
   template <class Whole>
@@ -63,7 +66,8 @@ class RecordReader {
   std::string_view PlainField(const char* at, std::string_view expected);
   void EndField(const char* at, std::string_view expected);
 
-  const char* next_;  ///< the first byte that was not read
+  const char* next_;               ///< the first byte that was not read
+  const char* content_ = nullptr;  ///< the first byte that AtEnd saw to be none of those
   const char* end_;
   int line_ = 1;
   int fieldLine_ = 1;

@@ -211,6 +211,8 @@ TEST(GameFile, ABrokenOneIsRefusedAndChangesNothing) {
       {head + "1\n\"ENG\",\"B\",\"Lon\"", "line 4: expected a unit's type (A or F), found \"B\"."},
       {head + "0\n1\n\"Lon\",\"ENG\",true,\"\"\n", "uncontested"},
       {head + "0\n1\n\"Xyz\",\"ENG\",0,\"\"\n", "unknown location Xyz"},
+      {head + "1\nENG,A," + std::string(1000, 'x') + ",,,\n0\n0\n",
+       "ENG A(xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx...)."},
       {head + "0\n0\n3\none\n", "an order"},
       {head + "0\n0\n0\n101\n", "0 to 100"},
       {head + "0\n0\n0\n1\n", "a text line"},

@@ -24,10 +24,10 @@ qint64 LargestPicture(std::size_t fileSize) {
   return always + 10 * static_cast<qint64>(fileSize);
 }
 
-/// What decoding takes: an index of the colour and the colour for each pixel. The height is
-/// negative where the rows run from top to bottom.
+/// What decoding takes at most: what is read of a row and of the picture, and the colour, for each
+/// pixel. The height is negative where the rows run from top to bottom.
 qint64 MemoryFor(QSize size) {
-  constexpr qint64 bytesPerPixel = 5;
+  constexpr qint64 bytesPerPixel = 8;
   return std::abs(bytesPerPixel * size.width() * size.height());
 }
 
