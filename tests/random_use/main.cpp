@@ -8,9 +8,12 @@
 #include <QElapsedTimer>
 
 #include <chrono>
+#include <condition_variable>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <mutex>
+#include <stop_token>
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -30,11 +33,14 @@ void print(const RandomUser& user) {
 }
 
 /// Ends the program when the window does not come on.
-void watch(const RandomUser& user) {
+void watch(const std::stop_token& end, const RandomUser& user) {
+  std::mutex mutex;
+  std::condition_variable_any wakeUp;
   int last = -1;
   int seconds = 0;
-  while (true) {
-    std::this_thread::sleep_for(std::chrono::seconds(1));
+  while (!end.stop_requested()) {
+    std::unique_lock lock(mutex);
+    wakeUp.wait_for(lock, end, std::chrono::seconds(1), [] { return false; });
     seconds = user.done() == last ? seconds + 1 : 0;
     last = user.done();
     if (seconds < LongestSeconds) continue;
@@ -72,7 +78,7 @@ int used(unsigned seed, int events, const fs::path& folder, const fs::path& prog
   orb::tests::DiskWatch disk(folder, {places.config, places.state, folder / "cache"});
   orb::tests::DiskWatch data(orb::tests::DataDirectory(), {});
   RandomUser user(seed, folder, places, disk);
-  std::thread([&user] { watch(user); }).detach();
+  const std::jthread watcher([&user](const std::stop_token& end) { watch(end, user); });
   QElapsedTimer clock;
   clock.start();
   user.use(events);
