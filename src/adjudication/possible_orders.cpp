@@ -140,9 +140,10 @@ class PossibleOrders::Look {
         order.Power = static_cast<std::int8_t>(power);
         order.UnitType = type;
         order.Location = static_cast<std::int16_t>(row);
-        if (BuildFault(game_, order) == orders::OrderResult::None)
+        if (BuildFault(game_, order) == orders::OrderResult::None) {
           lines.push_back(name + " build " +
                           PieceText(map_, orders::Piece{0, type, order.Location}));
+        }
       }
     }
     for (const Piece& piece : pieces_) {

@@ -14,7 +14,7 @@ using orders::UnitSet;
 struct Plan {
   orders::OrderKind Kind = orders::OrderKind::Hold;
   bool ByConvoy = false;  ///< its move is carried by fleets
-  std::int8_t Power = 0;
+  std::int16_t Power = 0;
   std::int16_t Place = 0;  ///< where it stands
   std::int16_t Aim = 0;    ///< where its move leads; the place that its support is directed into
   std::int16_t Order = 0;  ///< the row of its order
