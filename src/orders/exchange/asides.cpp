@@ -12,10 +12,11 @@ namespace {
 
 /// What a phrase in a line without orders says of orders.
 enum class Kind : std::uint8_t {
-  Revokes,    ///< takes back those above
-  Postpones,  ///< puts them off, or leaves them open
-  Titles,     ///< sets aside those below, without a colon
-  Corrects    ///< says that those below hold rather than those above
+  Revokes,     ///< takes back those above
+  Postpones,   ///< puts them off, or leaves them open
+  Titles,      ///< sets aside those below, without a colon
+  Corrects,    ///< says that those below hold rather than those above
+  Reconsiders  ///< before an order, or alone: the one above may be meant no longer
 };
 
 struct Row {
@@ -72,6 +73,18 @@ constexpr std::array Rows{
         "mi sono sbagliato|ho cambiato idea|change d avis|changement d avis|"
         "verbeterde versie|angrat mig|ombestemt|zmiana zdania|scratch that last one|"
         "scrap that one"},
+    Row{Kind::Reconsiders,
+        "no|nope|nah|nay|wait|hang "
+        "on|actually|rather|hmm|hm|oops|whoops|ooops|sorry|apologies|better|"
+        "on reflection|second thought|second thoughts|not that|i mean|i meant|make that|"
+        "scratch that|strike that|scrap that|correction|my mistake|my bad|instead|"
+        "nein|nee|doch|lieber|besser|quatsch|moment|stopp|verzeihung|korrektur|"
+        "non|plutot|en fait|enfin|pardon|attends|attendez|mieux|erreur|"
+        "anzi|aspetta|aspetti|meglio|invece|scusa|scusate|mejor|espera|perdon|en realidad|"
+        "nao|alias|melhor|na verdade|afinal|desculpa|digo|"
+        "wacht|liever|toch|eigenlijk|foutje|"
+        "nej|nei|vent|hellere|heller|alligevel|egentlig|egentligen|vanta|hellre|snarare|undskyld|"
+        "unnskyld|forlat|nie|czekaj|raczej|jednak|wlasciwie|przepraszam"},
 };
 
 struct Phrase {
@@ -264,11 +277,19 @@ std::optional<TokenRange> ReadReservation(Tokens line, bool isBehindOrders) {
   const auto word = std::ranges::find(line, TokenKind::Word, &Token::Kind);
   const bool asks = std::ranges::find(line, "?", &Token::Text) != line.end();
   if (asks && isBehindOrders) return TokenRange{0, line.size()};
-  if (word == line.end() || !HasUse(*word, WordUse::Reservation)) return std::nullopt;
+  if (word == line.end()) return std::nullopt;
+  if (!HasUse(*word, WordUse::Reservation)) return std::nullopt;
   // "But" begins many a new paragraph.
   if (!isBehindOrders && !HasUse(*word, WordUse::Condition)) return std::nullopt;
   const auto at = static_cast<std::size_t>(word - line.begin());
   return TokenRange{at, line.size()};
+}
+
+bool Reconsiders(Tokens words) {
+  // Farther on such words belong to another thought.
+  constexpr std::size_t few = 5;
+  const bool isRemark = !words.empty() && IsA(words[0], TokenKind::Open);
+  return !isRemark && FindPhrase(words.first(std::min(few, words.size())), Kind::Reconsiders);
 }
 
 std::optional<TokenRange> FindCorrection(Tokens words) {

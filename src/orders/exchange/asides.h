@@ -46,6 +46,10 @@ bool IsOffer(Tokens line);
 /// `isBehindOrders`: the line above has orders.
 std::optional<TokenRange> ReadReservation(Tokens line, bool isBehindOrders);
 
+/// Whether words before an order are second thoughts about the one before it: "no wait", "oder
+/// doch".
+bool Reconsiders(Tokens words);
+
 /// Where words next to an order say that it holds rather than another one: "make that", "instead".
 std::optional<TokenRange> FindCorrection(Tokens words);
 

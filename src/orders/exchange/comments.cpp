@@ -8,7 +8,7 @@ namespace orb::exchange {
 namespace {
 
 bool IsCoastWord(const Token& token) {
-  return token.Text == "coast" || (token.Text.size() == 2 && CoastLetter(token.Text) != 0);
+  return IsCoastNoun(token.Text) || (token.Text.size() > 1 && CoastLetter(token.Text) != 0);
 }
 
 /// How many tokens from here make up a word of orders: a verb, a type of unit, a power, a place or

@@ -96,6 +96,35 @@ void WeighUnclear(std::vector<ReadLine>& lines, const std::vector<Surroundings>&
   }
 }
 
+/// Second thoughts take back the orders before them in their line, or of the line above; the units
+/// that are ordered again tell which ones otherwise. Builds are a choice of all.
+void WeighSecondThoughts(std::vector<ReadLine>& lines, const std::vector<Surroundings>& around,
+                         model::Stage stage) {
+  for (std::size_t row = 1; row < lines.size(); ++row) {
+    if (around[row].SecondThoughts.empty() || !IsUnderstood(lines[row])) continue;
+    const std::string subject = SubjectOf(lines[row].Order, stage);
+    const auto isBefore = [&](std::size_t other) {
+      return IsUnderstood(lines[other]) && around[other].IsOlder == around[row].IsOlder &&
+             lines[other].Power == lines[row].Power;
+    };
+    std::vector<std::size_t> before;
+    bool isAgain = false;
+    for (std::size_t other = 0; other < row; ++other) {
+      if (!isBefore(other)) continue;
+      before.push_back(other);
+      isAgain = isAgain || (SubjectOf(lines[other].Order, stage) == subject &&
+                            lines[other].Order != lines[row].Order);
+    }
+    if (isAgain || before.empty()) continue;
+    const int last = lines[before.back()].Number;
+    for (const std::size_t other : before) {
+      if (stage != model::Stage::Adjustments && lines[other].Number != last) continue;
+      MakeDoubtful(lines[other], around[row].SecondThoughts + " may change it",
+                   around[row].SecondThoughtsAt);
+    }
+  }
+}
+
 /// Several orders for one unit: the rows of its orders, in the text's order.
 using OrdersOfSubject = std::map<std::string, std::vector<std::size_t>>;
 
@@ -196,6 +225,7 @@ void WeighOrders(std::vector<ReadLine>& lines, const std::vector<Surroundings>& 
     if (!around[i].Doubt.empty()) MakeDoubtful(lines[i], around[i].Doubt, around[i].DoubtAt);
   }
   WeighOlder(lines, around, stage);
+  WeighSecondThoughts(lines, around, stage);
   Contradictions(lines, around, stage).Weigh();
   WeighUnclear(lines, around);
   for (ReadLine& line : lines) {

@@ -63,7 +63,10 @@ bool MayGoOn(Tokens rest, const PlaceNames& names) {
   const bool isDash = IsA(rest[0], TokenKind::Dash) && rest.size() > 1 && names.At(rest, 1).empty();
   const bool isThought = isDash && (rest[0].Text == "--" ||
                                     std::ranges::find(outcomes, rest[1].Text) != outcomes.end());
-  if (isThought) return false;
+  // "to bounce him" tells a purpose.
+  const bool isPurpose =
+      IsWord(rest[0], "to") && rest.size() > 1 && HasUse(rest[1], WordUse::Purpose);
+  if (isThought || isPurpose) return false;
   if (VerbOf(rest[0]) != Verb::None || !names.At(rest, 0).empty()) return true;
   return rest.size() > 1 && IsA(rest[0], TokenKind::Open) && CoastLetter(rest[1].Text) != 0;
 }

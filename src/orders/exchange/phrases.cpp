@@ -10,6 +10,8 @@
 namespace orb::exchange {
 namespace {
 
+using std::string_view_literals::operator""sv;
+
 template <std::size_t Count>
 bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& words) {
   return token.Kind == TokenKind::Word && std::ranges::find(words, token.Text) != words.end();
@@ -19,14 +21,20 @@ bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& word
 constexpr std::array<std::string_view, 21> InWords{
     "in",  "at", "from", "of", "the", "presently", "currently", "now", "stationed", "based", "von",
     "aus", "di", "da",   "du", "del", "della",     "dello",     "de",  "i",         "en"};
-constexpr std::array<std::string_view, 6> ViaWords{"via", "by", "using", "with", "through", "over"};
-constexpr std::array<std::string_view, 6> SeaWords{"convoy", "convoys", "sea", "c", "water", "cv"};
-constexpr std::array<std::string_view, 15> HoldTails{
-    "position", "fast",  "still", "in", "place", "firm",  "put",   "strong",
-    "steady",   "there", "where", "it", "they",  "ferma", "parada"};
-constexpr std::array<std::string_view, 14> MoveTails{"against", "toward", "towards", "on", "upon",
-                                                     "for",     "in",     "ins",     "im", "over",
-                                                     "across",  "out",    "up",      "en"};
+constexpr std::array ViaWords{"via"sv,   "by"sv,  "using"sv, "with"sv, "through"sv,
+                              "over"sv,  "mit"sv, "met"sv,   "med"sv,  "door"sv,
+                              "przez"sv, "per"sv, "com"sv};
+constexpr std::array SeaWords{"convoy"sv,    "convoys"sv, "sea"sv,     "c"sv,       "water"sv,
+                              "cv"sv,        "konvoi"sv,  "konvoj"sv,  "convoi"sv,  "konwoj"sv,
+                              "convoglio"sv, "comboio"sv, "konvooi"sv, "convooi"sv, "konvojen"sv,
+                              "konvoien"sv,  "k"sv,       "konwoju"sv};
+constexpr std::array<std::string_view, 20> HoldTails{
+    "staan", "stehen", "dort",   "tight",  "put",   "position", "fast", "still", "in",    "place",
+    "firm",  "home",   "strong", "steady", "there", "where",    "it",   "they",  "ferma", "parada"};
+constexpr std::array<std::string_view, 26> MoveTails{
+    "sich",  "zich",    "sig",     "seg",     "ab",     "vor",     "back", "zuruck", "zurueck",
+    "terug", "tilbage", "tilbake", "against", "toward", "towards", "on",   "upon",   "for",
+    "in",    "ins",     "im",      "over",    "across", "out",     "up",   "en"};
 constexpr std::array<std::string_view, 5> Nouns{"move", "attack", "advance", "of", "for"};
 constexpr std::array<std::string_view, 12> CountWords{
     "one", "two", "a", "all", "remaining", "rest", "any", "other", "of", "both", "last", "for"};
@@ -135,11 +143,12 @@ Phrases::Read<WrittenUnit> Phrases::Units(std::size_t at) {
   }
   Read<WrittenUnit> units;
   for (auto& [head, next] : heads) {
-    // "a fleet": here "a" is no army.
-    if (Is(next, "a") && next + 1 < tokens_.size() && tokens_[next + 1].Text.size() > 1 &&
-        UnitTypeOf(tokens_[next + 1]) != 0) {
-      ++next;
-    }
+    // "a fleet", "apoya a F Bre": here "a" is no army.
+    const bool isBeforeType = Is(next, "a") && next + 1 < tokens_.size() &&
+                              UnitTypeOf(tokens_[next + 1]) != 0 &&
+                              (tokens_[next + 1].Text.size() > 1 ||
+                               (!tokens_[next].Capital && tokens_[next + 1].Capital));
+    if (isBeforeType) ++next;
     if (next < tokens_.size()) head.Type = UnitTypeOf(tokens_[next]);
     if (head.Type != 0) next = Skip(PastMark(next));
     while (next < tokens_.size() && IsOneOf(tokens_[next], InWords))
@@ -183,8 +192,19 @@ bool Phrases::IsPreposition(std::size_t at) const {
          UnitTypeOf(tokens_[at + 1]) == 0 && !names_.At(tokens_, at - 1).empty();
 }
 
+/// "Se replie", "si ritira". Before other verbs the words are "if".
+bool Phrases::IsReflexive(std::size_t at) const {
+  constexpr std::array<std::string_view, 2> words{"se", "si"};
+  constexpr std::array verbs{"replie"sv,  "replient"sv, "retire"sv,   "retirent"sv, "retira"sv,
+                             "retiran"sv, "ritira"sv,   "ritirano"sv, "sposta"sv,   "spostano"sv,
+                             "muove"sv,   "muovono"sv,  "mueve"sv,    "mueven"sv,   "queda"sv,
+                             "quedan"sv,  "mantiene"sv, "desplaza"sv, "repliega"sv};
+  return at + 1 < tokens_.size() && IsOneOf(tokens_[at], words) && IsOneOf(tokens_[at + 1], verbs);
+}
+
 std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
   Verb verb = Verb::None;
+  if (const std::size_t next = ToVerb(at); IsReflexive(next)) at = next + 1;
   for (std::size_t next = ToVerb(at); next < tokens_.size(); next = ToVerb(next + 1)) {
     const bool isFirst = verb == Verb::None;
     const Verb word = isFirst && IsPreposition(next) ? Verb::Move : VerbOf(tokens_[next]);

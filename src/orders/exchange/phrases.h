@@ -70,6 +70,7 @@ class Phrases {
   bool IsPassedOver(std::size_t at) const;
   std::size_t ToVerb(std::size_t at) const;
   bool IsVerbInBrackets(std::size_t at) const;
+  bool IsReflexive(std::size_t at) const;
   bool IsPreposition(std::size_t at) const;
   std::size_t PastMark(std::size_t type) const;
   bool Is(std::size_t at, TokenKind kind) const;
@@ -80,7 +81,9 @@ class Phrases {
   void AddCoasts(const PlaceMatch& match, std::size_t at, Read<WrittenPlace>& places) const;
   void AddGluedCoast(std::size_t at, Read<WrittenPlace>& places) const;
   void AddLeadingCoast(std::size_t at, Read<WrittenPlace>& places) const;
-  std::size_t PastEcho(const PlaceMatch& match) const;
+  std::size_t PastEcho(PlaceMatch& match) const;
+  std::size_t PastArticle(std::size_t at) const;
+  bool IsCoastNoun(std::size_t at) const;
   std::vector<int> CoastRows(const std::vector<int>& provinces, char letter) const;
 
   Tokens tokens_;

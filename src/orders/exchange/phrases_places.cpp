@@ -1,6 +1,10 @@
 #include "orders/exchange/phrases.h"
 #include "orders/exchange/vocabulary.h"
 
+#include <algorithm>
+#include <array>
+#include <iterator>
+
 // Places with their coasts, of the parts that orders are made of.
 
 namespace orb::exchange {
@@ -13,6 +17,10 @@ std::vector<int> Phrases::CoastRows(const std::vector<int>& provinces, char lett
   return rows;
 }
 
+bool Phrases::IsCoastNoun(std::size_t at) const {
+  return Is(at, TokenKind::Word) && exchange::IsCoastNoun(tokens_[at].Text);
+}
+
 /// "Spa(sc)", "Spa/s", "Spa.s", "Spa-sc", "Spa (s.c.)", "Spain, south coast".
 void Phrases::AddCoasts(const PlaceMatch& match, std::size_t at, Read<WrittenPlace>& places) const {
   std::size_t next = match.Next;
@@ -21,6 +29,8 @@ void Phrases::AddCoasts(const PlaceMatch& match, std::size_t at, Read<WrittenPla
                         Is(next, TokenKind::Comma) ||
                         (Is(next, TokenKind::Dash) && tokens_[next].Glued);
   if (isParted) ++next;
+  // "costa sur", "cote du sud".
+  if (IsCoastNoun(next)) ++next;
   if (!Is(next, TokenKind::Word)) return;
   const char letter = CoastLetter(tokens_[next].Text);
   std::vector<int> rows = CoastRows(match.Rows, letter);
@@ -29,7 +39,7 @@ void Phrases::AddCoasts(const PlaceMatch& match, std::size_t at, Read<WrittenPla
   // "s.c." comes as four tokens.
   if (isShort && Is(next, TokenKind::Dot) && Is(next + 1, "c")) {
     next += Is(next + 2, TokenKind::Dot) ? 3 : 2;
-  } else if (Is(next, "coast") || Is(next, "cst")) {
+  } else if (IsCoastNoun(next)) {
     ++next;
   }
   if (isOpen && Is(next, TokenKind::Close)) ++next;
@@ -59,7 +69,7 @@ void Phrases::AddLeadingCoast(std::size_t at, Read<WrittenPlace>& places) const 
   std::size_t next = at + 1;
   // "S Spain" is a support of Spain, not its south coast.
   if (letter == 0 || !isLong) return;
-  if (Is(next, "coast")) ++next;
+  if (IsCoastNoun(next)) ++next;
   while (Is(next, "of") || Is(next, "the"))
     ++next;
   if (!Is(next, TokenKind::Word)) return;
@@ -69,13 +79,43 @@ void Phrases::AddLeadingCoast(std::size_t at, Read<WrittenPlace>& places) const 
   }
 }
 
-/// Behind the same place once more in brackets, "Par (Paris)"; else 0.
-std::size_t Phrases::PastEcho(const PlaceMatch& match) const {
-  if (!Is(match.Next, TokenKind::Open) || !Is(match.Next + 1, TokenKind::Word)) return 0;
-  for (const PlaceMatch& echo : names_.At(tokens_, match.Next + 1)) {
-    if (echo.Rows == match.Rows && Is(echo.Next, TokenKind::Close)) return echo.Next + 1;
+/// Behind other names of the place in brackets, "Par (Paris)", "Atlantique (MAO)", "Bre (la Manche,
+/// ECH)"; of what the name alone leaves open, they leave only what they name as well. Else 0.
+std::size_t Phrases::PastEcho(PlaceMatch& match) const {
+  if (!Is(match.Next, TokenKind::Open)) return 0;
+  std::vector<int> rows = match.Rows;
+  std::size_t next = Skip(match.Next + 1);
+  if (Is(next, TokenKind::Close)) return 0;
+  while (Is(next, TokenKind::Word)) {
+    std::size_t behind = 0;
+    for (const PlaceMatch& echo : names_.At(tokens_, next)) {
+      std::vector<int> common;
+      std::ranges::set_intersection(rows, echo.Rows, std::back_inserter(common));
+      const bool isEnd = Is(echo.Next, TokenKind::Close) || Is(echo.Next, TokenKind::Comma);
+      if (common.empty() || !isEnd || (common != rows && !echo.IsExact)) continue;
+      rows = std::move(common);
+      behind = echo.Next;
+      break;
+    }
+    if (behind == 0) return 0;
+    if (Is(behind, TokenKind::Close)) {
+      match.Rows = std::move(rows);
+      return behind + 1;
+    }
+    next = Skip(behind);
   }
   return 0;
+}
+
+/// Behind an article before a place, "para o Piemonte", "naar het Kanaal"; right behind the verb
+/// alone, since "o" is "or" as well.
+std::size_t Phrases::PastArticle(std::size_t at) const {
+  constexpr std::array<std::string_view, 6> articles{"o", "a", "den", "het", "det", "de"};
+  const bool isArticle = at > 0 && Is(at, TokenKind::Word) && !tokens_[at].Capital &&
+                         std::ranges::find(articles, tokens_[at].Text) != articles.end() &&
+                         Is(at - 1, TokenKind::Word) && VerbOf(tokens_[at - 1]) == Verb::Move;
+  return isArticle && names_.At(tokens_, at).empty() && !names_.At(tokens_, at + 1).empty() ? at + 1
+                                                                                            : at;
 }
 
 Phrases::Read<WrittenPlace> Phrases::Places(std::size_t at, std::string_view whenMissing,
@@ -86,7 +126,8 @@ Phrases::Read<WrittenPlace> Phrases::Places(std::size_t at, std::string_view whe
     Expected(whenMissing, at);
     return places;
   }
-  for (const PlaceMatch& match : names_.At(tokens_, at)) {
+  at = PastArticle(at);
+  for (PlaceMatch match : names_.At(tokens_, at)) {
     places.push_back({{match.Rows, {at, match.Next}}, match.Next});
     AddCoasts(match, at, places);
     if (const std::size_t behind = PastEcho(match); behind != 0) {

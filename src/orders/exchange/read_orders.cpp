@@ -184,7 +184,15 @@ class TextReader {
     if (line.IsTooLong || line.All.empty() || isHeading) return;
     if (isMailHead_) return LookAtSubject(line, first);
     if (const auto aside = ReadAside(line.All)) return SetAside(line, *aside, first);
-    if (const auto at = ReadReservation(line.All, isBehindOrders)) {
+    constexpr std::size_t few = 4;
+    // Units name themselves in other stages.
+    const bool isBuild = known_.Stage == model::Stage::Adjustments;
+    const bool isOfAbove =
+        (isBuild && IsUnclear(rows_.Lines.back())) || (isBehindOrders && line.All.size() <= few);
+    const Tokens said = Tokens(line.All).subspan(speakers_.Past(line.All, PastLineStart(line.All)));
+    if (isOfAbove && Reconsiders(said)) {
+      rows_.Around.DoubtBlock(Quoted(said) + " may change it", {line.Offset, line.Bytes.size()});
+    } else if (const auto at = ReadReservation(line.All, isBehindOrders)) {
       rows_.Around.DoubtBlock(Quoted(line.Part(*at)) + " may change it", line.Span(*at));
     } else if (isBehindOrders && IsPlaceAlone(line)) {
       rows_.Around.DoubtBlock(Quoted(line.All) + " may change it",

@@ -135,6 +135,12 @@ void Rows::PassOver(std::size_t first) {
 void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
   for (const Said& said : remarks_) {
     const Tokens remark = line.Part(said.At);
+    if (Reconsiders(remark)) {
+      const auto next = std::ranges::find_if(
+          understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
+      if (next != understood_.end())
+        Around.SetReconsiders(next->Row, Quoted(remark), line.Span(said.At));
+    }
     const bool isGreeting = remark.size() <= LongestGreeting &&
                             HasUse(remark[0], WordUse::Greeting) && !ReadAside(remark).has_value();
     const bool isOwn =

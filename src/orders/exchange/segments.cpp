@@ -63,8 +63,13 @@ std::vector<TokenRange> Sentences(Tokens tokens, TokenRange range, const PlaceNa
 
 /// Whether a sentence without orders says something that may concern others: what is passed over
 /// silently does not.
-bool Speaks(Tokens sentence) {
-  return ReadAside(sentence) || std::ranges::any_of(sentence, [](const Token& token) {
+bool Speaks(Tokens sentence, const PlaceNames& names) {
+  // More words than these are a thought of their own: "sorry, I was at football".
+  constexpr std::size_t few = 4;
+  const bool reconsiders =
+      sentence.size() <= few && Reconsiders(sentence) && !HoldsOrderWords(sentence, names);
+  return ReadAside(sentence) || reconsiders ||
+         std::ranges::any_of(sentence, [](const Token& token) {
            return IsDoubtfulSign(token) ||
                   HasUse(token, WordUse::Condition, WordUse::Aside, WordUse::SetsAside);
          });
@@ -115,7 +120,7 @@ class SegmentReader {
     if (TakeAll(ReadEmbedded(tokens, known_, whole), range.Begin, whole)) return;
     // What a heading before it says holds all the same.
     ReadPart(tokens, known_, context_);
-    if (Speaks(tokens) && !BeginsAsOrder(tokens, known_.Names)) {
+    if (Speaks(tokens, known_.Names) && !BeginsAsOrder(tokens, known_.Names)) {
       read = Remark();
     } else if (IsNoOrder(tokens, known_.Names, inSignature_)) {
       read.Kind = LineKind::PassedOver;
@@ -182,7 +187,7 @@ class SegmentReader {
     // A heading before what was not understood holds all the same.
     context_ = behind;
     // What does not begin as an order of its own may concern the orders beside it.
-    if (Speaks(tokens) && !BeginsAsOrder(tokens, known_.Names)) part = Remark();
+    if (Speaks(tokens, known_.Names) && !BeginsAsOrder(tokens, known_.Names)) part = Remark();
   }
 
   /// Takes orders in place of the clause that they were read from; false for none.

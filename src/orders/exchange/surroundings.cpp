@@ -9,6 +9,11 @@ void SurroundingsOfLines::SetCorrects(std::size_t first) {
     rows_[row].Corrects = true;
 }
 
+void SurroundingsOfLines::SetReconsiders(std::size_t row, std::string quoted, Span at) {
+  rows_[row].SecondThoughts = std::move(quoted);
+  rows_[row].SecondThoughtsAt = at;
+}
+
 void SurroundingsOfLines::SetDoubtFrom(std::size_t first, const std::string& reason, Span at) {
   Doubt(first, rows_.size(), reason, at);
 }

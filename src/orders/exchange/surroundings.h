@@ -19,6 +19,8 @@ struct Surroundings {
   bool IsSetAside = false;  ///< a heading or line says that it is not for now
   std::string Doubt;        ///< why the orders here may not be meant, or empty
   Span DoubtAt;
+  std::string SecondThoughts;  ///< right before the order, about the one above; quoted, or empty
+  Span SecondThoughtsAt;
   Concern About;  ///< of a line that is not understood
 };
 
@@ -26,7 +28,9 @@ struct Surroundings {
 class SurroundingsOfLines {
  public:
   /// One more line was read.
-  void Add(bool isOlder) { rows_.push_back({isOlder, false, !reason_.empty(), reason_, at_, {}}); }
+  void Add(bool isOlder) {
+    rows_.push_back({isOlder, false, !reason_.empty(), reason_, at_, {}, {}, {}});
+  }
 
   /// The last row is not understood and may be about these orders.
   void SetAbout(Concern concern) { rows_.back().About = std::move(concern); }
@@ -46,6 +50,9 @@ class SurroundingsOfLines {
 
   /// The lines from a row on correct what stands above them.
   void SetCorrects(std::size_t first);
+
+  /// Before the order of a row the writer thinks better of what is above.
+  void SetReconsiders(std::size_t row, std::string quoted, Span at);
 
   /// Something speaks against the orders from a row on; what was found first counts.
   void SetDoubtFrom(std::size_t first, const std::string& reason, Span at);

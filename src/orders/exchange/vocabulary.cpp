@@ -24,39 +24,60 @@ constexpr std::array Verbs{
               "attacca marche avance avanza muove muovo mueve muevo rukt gaat ga naar trekt "
               "gar rykker rusza idzie vers hacia proceeding moved sailing marching till til "
               "mot nello nella negli nel alla al zum zur para walk walks walking run runs "
-              "puts retires"},
-    VerbWords{Verb::Hold,
-              "h hold holds holding hld stand stands stay stays remain remains halt haelt "
-              "halte halten haller holdt holder houdt houden bleibt bleiben blijft blir reste "
-              "tient tenir mantiene queda quedan resta sta pozostaje stoi mantem rimane "
-              "rimangono fica ficam permanece permanecen zostaje stehen steht"},
+              "puts retires rueckt ruckt ruecke rucke avanzan marchar vai vao sposta spostano "
+              "desplaza desplazan beweegt beweg marcheert flytter flyttar flytta gaa drar seglar "
+              "sejler seiler plynie przechodzi atakuje atakuja angreift angriper angriber angrepp "
+              "aanvalt valt attaquer attaquent attaccano atacan atacam entra entre desloca segue "
+              "marszeruje retire przesuwa"},
+    VerbWords{
+        Verb::Hold,
+        "h hold holds holding hld stand stands stay stays remain remains halt haelt "
+        "halte halten haller holdt holder houdt houden bleibt bleiben blijft blir reste "
+        "tient tenir mantiene queda quedan resta sta pozostaje stoi mantem rimane "
+        "rimangono fica ficam permanece permanecen zostaje stehen steht tiene tienen tiens tengo "
+        "tengono mantenere segura seguram wartet verharrt halter trzyma bron resto rester restent "
+        "restano zostaja blijven bly blijf stannar forblir forbliver holden warten sits sit stoja"},
     VerbWords{Verb::Support,
               "s sup supp supports support supporting spt sprt su backs backing unterstutzt "
               "unterstuetzt unterstutze unterstutzung soutient soutien soutenir soutiens "
               "steunt ondersteunt apoya apoyo apoyando sostiene appoggia appoggio supporto "
               "supporta supporte appuie stotter stodjer stoder stoetter apoia wspiera "
-              "wsparcie helps help aids"},
+              "wsparcie helps help aids unterstutzen unterstuetzen apoiam apoyan appoggiano "
+              "sostengono soutiennent appuient steunen steun ondersteunen stotte stoette stottar "
+              "stodja wspieram wspieraja popiera apoio"},
     VerbWords{Verb::Convoy,
               "c cv cvy conv convoy convoys convoying transport transports carry carries "
               "carrying konvoi konvoit konvoiert convoie convoye convoya convoyer convoglia "
               "transporte transporta trasporta transportiert konvojerar konvojerer konwojuje "
-              "konwoj vervoert convoyeert ferries ferry"},
+              "konwoj vervoert convoyeert ferries ferry k konvoy konvojera konvojere konwojuja "
+              "convogliano convoiano convoient convoyons comboia comboio transportera "
+              "transporterar transporterer transportieren vervoeren escolta"},
     VerbWords{Verb::Retreat,
               "r ret retr retreat retreats retreating withdraw withdraws ruckzug rueckzug "
-              "retraite recule ritirata ritira retirada retira terugtocht trekt retratt "
-              "retraet tilbagetog odwrot weicht"},
-    VerbWords{Verb::Disband,
-              "d dis disb disband disbands disbanded disbanding remove removes removed "
-              "removing removal removals destroy destroys destroyed disbandment disbandments "
-              "auflosen aufloesen aufgelost dissout dissoute dissoudre sciolta scioglie "
-              "sciogliere disolver disuelve ontbonden ontbinden upploses upplosa oplost "
-              "oploses rozwiazac rozwiazana abbau retirer supprimer eliminar eliminare "
-              "dissolver"},
+              "retraite recule ritirata ritira retirada retira terugtocht retratt "
+              "retraet tilbagetog odwrot weicht replie replient repliega repliegan repli retirent "
+              "retiran retiram retirano ritirano tillbakadrar wycofuje wycofuja cofa retirerer "
+              "retraiterer reculer rekul trekker"},
+    VerbWords{
+        Verb::Disband,
+        "d dis disb disband disbands disbanded disbanding remove removes removed "
+        "removing removal removals destroy destroys destroyed disbandment disbandments "
+        "auflosen aufloesen aufgelost dissout dissoute dissoudre sciolta scioglie "
+        "sciogliere disolver disuelve ontbonden ontbinden upploses upplosa oplost "
+        "oploses rozwiazac rozwiazana abbau retirer supprimer eliminar eliminare "
+        "dissolver rozwiazuje rozwiazuja usuwam usuwa likwiduje dissous dissolvent supprime "
+        "supprimons sciolgo sciolgono rimuovo rimuove elimino elimina disuelvo disuelven dissolvo "
+        "dissolve dissolvem removo remova ontbindt ontbind verwijder verwijdert verwijderen "
+        "oploser fjerner fjern nedlagger nedlaegger nedlegger opploser upploser entferne entfernt "
+        "entfernen auflosung auflosungen abbauten abbauen retraits desbanda desbando"},
     VerbWords{
         Verb::Build,
         "b bld build builds building raise raises baut bauen baue aufbau construit construire "
         "construction construis costruisce costruire costruisco costruzione construye construir "
-        "construyo construccion bouwt bouwen bouw bygger bygg byg buduje budowa constroi"},
+        "construyo construccion bouwt bouwen bouw bygger bygg byg buduje budowa constroi bygga "
+        "bygge bygges byggs bygningen budujemy buduja construo construimos costruiamo construisons "
+        "construyen errichtet errichte aufbauten neubau neubauten constructions construcciones "
+        "costruzioni construcoes bouwsels byggen budowy zbuduj"},
     VerbWords{Verb::Waive, "w waive waives waived waiving waiver"},
 };
 
@@ -151,7 +172,8 @@ constexpr std::array Uses{
              "ciao regards best cheers thanks thank yours sincerely bye kind thx gl warm "
              "cordially moin goodbye love gruss grus grusse gruse gruesse saludos saluti "
              "groeten groetjes hilsen halsningar pozdrawiam abracos abrazos bisous mfg lg "
-             "mvh hej hola ola dag czesc salve buongiorno bonsoir servus hiya yo sent"},
+             "mvh hej hola ola dag czesc salve buongiorno bonsoir servus hiya yo sent kia nga kh "
+             "alright szia shalom geia"},
     UseWords{WordUse::Mood,
              "thanks thank thx ty cheers regards greetings good luck gl hf glhf best danke "
              "bitte merci dank bedankt gracias grazie lol rofl haha hahaha hehe heh yay wow "
@@ -162,7 +184,9 @@ constexpr std::array Uses{
              "night weekend ta tack takk tak dzieki obrigado obrigada prego wink grin cheeky "
              "boring buenas estimado estimada sehr geehrte geehrter spielleitung spielleiter "
              "arbitre arbitro umpire host moderator ref referee hoi hei hejsan moin slt "
-             "coucou caro cara"},
+             "coucou caro cara alright kia ora nga mihi kh vh trudno jammer helaas leider schade "
+             "tant pis peccato lastima szkoda sniff brr jaja jajaja kkk vlw flw blz lmao lmaoo "
+             "lmaooo bises bonne soiree"},
     UseWords{WordUse::Purpose,
              "bounce bounces bouncing standoff selfbounce cover covers covering guard guards "
              "protect protects block blocks blocking defend defends defence defense defensive "
@@ -176,7 +200,7 @@ constexpr std::array Uses{
              "really always now too also then well indeed just simply first second third 1st "
              "2nd 3rd 4th 5th unit number dvs ie namely sprich cioe soit time so certain "
              "thus round please the anyway perfect voila ordres ordini ordenes befehle zuge "
-             "end ende fin follows following below"},
+             "end ende fin follows following below hes shes theyre"},
 };
 
 /// "s01", "f1901m", "1901", "1901s", "1st": letters about a number.
@@ -226,16 +250,33 @@ std::vector<std::string_view> Parts(std::string_view text, char separator) {
   return parts;
 }
 
+bool IsCoastNoun(std::string_view word) {
+  constexpr std::array<std::string_view, 12> nouns{"coast",  "cst",  "costa",  "cote",
+                                                   "kuste",  "kust", "kusten", "kyst",
+                                                   "kysten", "cost", "kueste", "wybrzeze"};
+  return std::ranges::find(nouns, word) != nouns.end();
+}
+
 char CoastLetter(std::string_view word) {
-  constexpr std::array<std::pair<std::string_view, char>, 22> abroad{
-      {{"cn", 'n'},        {"cs", 's'},        {"ce", 'e'},        {"nord", 'n'},
-       {"norte", 'n'},     {"noord", 'n'},     {"norra", 'n'},     {"nordre", 'n'},
-       {"sud", 's'},       {"sur", 's'},       {"sul", 's'},       {"zuid", 's'},
-       {"sodra", 's'},     {"sondre", 's'},    {"nordkuste", 'n'}, {"sudkuste", 's'},
-       {"ostkuste", 'e'},  {"noordkust", 'n'}, {"zuidkust", 's'},  {"oostkust", 'e'},
-       {"sydkysten", 's'}, {"nordkysten", 'n'}}};
-  const auto known = std::ranges::find(abroad, word, &std::pair<std::string_view, char>::first);
-  if (known != abroad.end()) return known->second;
+  struct Abroad {
+    char Letter;
+    std::string_view Words;  ///< separated by blanks
+  };
+  constexpr std::array abroad{
+      Abroad{'n',
+             "cn nord norte noord norra norr nordre nk nordkuste nordkueste noordkust nordkust "
+             "nordkusten nordkyst nordkysten polnocne polnoc"},
+      Abroad{
+          's',
+          "cs sud sur sul zuid sodra soder sondre syd sk zk sudkuste suedkueste zuidkust sydkust "
+          "sydkusten sydkyst sydkysten sorkyst sorkysten poludniowe poludnie"},
+      Abroad{'e',
+             "ce est este oost ost ostra ostkuste ostkueste oostkust ostkusten ostkyst ostkysten "
+             "wschodnie wschod"}};
+  for (const Abroad& row : abroad) {
+    const auto words = Parts(row.Words, ' ');
+    if (std::ranges::find(words, word) != words.end()) return row.Letter;
+  }
   constexpr std::string_view letters = "nsew";
   constexpr std::array<std::string_view, 4> names{"north", "south", "east", "west"};
   for (std::size_t i = 0; i < names.size(); ++i) {

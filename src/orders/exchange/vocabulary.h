@@ -59,4 +59,7 @@ std::vector<std::string_view> Parts(std::string_view text, char separator);
 /// The letter of a coast: n, s, e or w for "nc", "north" and their like, else 0.
 char CoastLetter(std::string_view word);
 
+/// Whether a word is "coast" in any language.
+bool IsCoastNoun(std::string_view word);
+
 }  // namespace orb::exchange
