@@ -11,7 +11,9 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QMimeData>
 #include <QPushButton>
+#include <QUrl>
 
 #include <algorithm>
 #include <functional>
@@ -183,6 +185,15 @@ std::optional<std::filesystem::path> askWhereToExport(QWidget* parent, ExportKin
 
 QString displayPath(const std::string& file) {
   return QFile::decodeName(QByteArray::fromStdString(file));
+}
+
+QString fullPath(const std::string& file) {
+  return file.empty() ? QString() : QFileInfo(displayPath(file)).absoluteFilePath();
+}
+
+QString draggedFile(const QMimeData& data) {
+  const QList<QUrl> urls = data.urls();
+  return urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
 }
 
 }  // namespace orb::ui

@@ -10,6 +10,8 @@
 #include <optional>
 #include <vector>
 
+class QMimeData;
+
 namespace orb::ui {
 
 struct OpenChoice {
@@ -47,5 +49,11 @@ std::optional<std::filesystem::path> askWhereToExport(QWidget* parent, ExportKin
 
 /// A file name of the system for display.
 QString displayPath(const std::string& file);
+
+/// The same from the root of the system; empty for no name.
+QString fullPath(const std::string& file);
+
+/// The one local file that is dragged; empty when it is anything else.
+QString draggedFile(const QMimeData& data);
 
 }  // namespace orb::ui

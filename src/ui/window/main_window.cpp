@@ -26,14 +26,13 @@
 #include "ui/window/file_menu.h"
 #include "ui/window/game_menu.h"
 #include "ui/window/map_menu.h"
+#include "ui/window/status_line.h"
 #include "ui/window/toolbar.h"
 #include "ui/window/unsaved_work.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
-#include <QFileInfo>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
@@ -60,16 +59,6 @@ const QString ShowOrders = QStringLiteral("map/showOrders");
 const QString Compare = QStringLiteral("game/compare");
 constexpr QSize PreferredSize(1280, 800);
 
-/// The one local file that is dragged; empty when it is anything else.
-QString draggedFile(const QMimeData& data) {
-  const QList<QUrl> urls = data.urls();
-  return urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
-}
-
-QString fullPath(const std::string& file) {
-  return QFileInfo(displayPath(file)).absoluteFilePath();
-}
-
 }  // namespace
 
 MainWindow::MainWindow(Start start, const Places& places)
@@ -81,7 +70,8 @@ MainWindow::MainWindow(Start start, const Places& places)
   setAcceptDrops(true);
   setWindowIcon(programIcon());
   createPanels();
-  createStatusBar();
+  m_status = new StatusLine(m_desk, this);
+  setStatusBar(m_status);
   layOutPanels();
   createMenus();
   m_tools = new Toolbar(*m_fileMenu, *m_editMenu, *m_mapMenu, this);
@@ -89,8 +79,8 @@ MainWindow::MainWindow(Start start, const Places& places)
   restoreSize();
   m_desk.setShowOrders(m_memory.flag(ShowOrders));
   m_desk.setCompare(m_memory.flag(Compare, true));
-  m_desk.setRulesMemory([this](const std::string& file) { return rememberedRules(file); });
-  m_desk.setRules(rememberedRules(m_desk.game().FileName));
+  m_desk.setRulesMemory([this](const std::string& file) { return m_memory.rules(fullPath(file)); });
+  m_desk.setRules(m_memory.rules(fullPath(m_desk.game().FileName)));
   // Measured and, below, drawn directly this once: when the map cannot be drawn at the start, the
   // exception must reach the caller instead of becoming a box over a window that is not there yet.
   m_map->measure(m_desk.view());
@@ -100,11 +90,10 @@ MainWindow::MainWindow(Start start, const Places& places)
   using session::Changes;
   m_desk.whenChanged(Changes::Season | Changes::File | Changes::Editing, this,
                      &MainWindow::showGame);
-  m_desk.whenChanged(Changes::Rules | Changes::File, this, &MainWindow::showRules);
+  m_desk.whenChanged(Changes::Rules | Changes::File, this, &MainWindow::rememberRules);
   connect(&m_desk, &Desk::viewChanged, this, &MainWindow::showViewOnly);
   connect(&m_desk, &Desk::changed, this, [this] { setWindowModified(m_desk.isModified()); });
   showGame();
-  showRules();
   // The map is drawn once all has its place: at any other size it would be drawn again.
   layout()->activate();
   centralWidget()->layout()->activate();
@@ -209,26 +198,6 @@ void MainWindow::createMenus() {
   connect(m_exchange, &ExchangeCommands::helpWanted, m_helpMenu, &HelpMenu::showTopicOver);
 }
 
-void MainWindow::createStatusBar() {
-  m_status = new ElidedLabel;
-  m_status->setObjectName(QStringLiteral("lblStatus"));
-  m_fileName = new ElidedLabel;
-  m_fileName->setObjectName(QStringLiteral("lblFileName"));
-  m_fileName->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  for (ElidedLabel* label : {m_status, m_fileName}) {
-    label->setTextFormat(Qt::PlainText);
-    label->setContentsMargins(Margin, 0, Margin, 0);
-  }
-  statusBar()->setSizeGripEnabled(false);
-  m_rules = new QLabel;
-  m_rules->setObjectName(QStringLiteral("lblRules"));
-  m_rules->setContentsMargins(Margin, 0, Margin, 0);
-  m_rules->hide();
-  statusBar()->addWidget(m_status, 1);
-  statusBar()->addWidget(m_rules);
-  statusBar()->addWidget(m_fileName);
-}
-
 void MainWindow::restoreSize() {
   // Qt itself moves a window back that would open on a screen that is gone.
   if (restoreGeometry(m_memory.geometry())) return;
@@ -296,13 +265,11 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 void MainWindow::showGame() {
   const model::GameState& game = m_desk.game();
   setWindowTitle(titleText(text::ToQString(model::Caption(game))));
-  const QString file = displayPath(game.FileName);
   // Every way in which a game gets a file leads through here: opening, saving, and the command
   // line.
-  if (file != m_fileName->text()) {
-    m_fileName->setText(file);
-    m_fileName->setToolTip(file);
-    if (!file.isEmpty()) m_memory.addRecentFile(fullPath(game.FileName));
+  if (game.FileName != m_shownFile) {
+    m_shownFile = game.FileName;
+    if (!m_shownFile.empty()) m_memory.addRecentFile(fullPath(m_shownFile));
   }
   // Only a real change brings the panel to the front again: it takes the keyboard and begins its
   // line anew.
@@ -310,17 +277,9 @@ void MainWindow::showGame() {
   showViewOnly();
 }
 
-session::Rules MainWindow::rememberedRules(const std::string& file) const {
-  const bool usual = !file.empty() && m_memory.usualRules(fullPath(file));
-  return usual ? session::Rules::Usual : session::Rules::Orb;
-}
-
-void MainWindow::showRules() {
-  const bool usual = m_desk.now().Rules == session::Rules::Usual;
+void MainWindow::rememberRules() {
   const std::string& file = m_desk.game().FileName;
-  if (!file.empty()) m_memory.setUsualRules(fullPath(file), usual);
-  m_rules->setText(usual ? tr("By the usual rules") : QString());
-  m_rules->setVisible(usual);
+  if (!file.empty()) m_memory.setRules(fullPath(file), m_desk.now().Rules);
 }
 
 /// Only the map shows in view-only mode, and nothing that belongs to playing.
@@ -391,7 +350,7 @@ void MainWindow::showInstead(QWidget* shown) {
 }
 
 void MainWindow::showStatus(const QString& text) {
-  m_status->setText(text);
+  m_status->showText(text);
 }
 
 /// A map that is only viewed does nothing.

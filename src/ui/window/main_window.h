@@ -9,9 +9,9 @@
 
 #include <array>
 #include <optional>
+#include <string>
 #include <utility>
 
-class QLabel;
 class QTabWidget;
 class QToolBar;
 
@@ -21,7 +21,6 @@ class AnimationPlayer;
 class EditMenu;
 class EditProvincesPanel;
 class EditUnitsPanel;
-class ElidedLabel;
 class ExchangeCommands;
 class ExportCommands;
 class FileMenu;
@@ -33,6 +32,7 @@ class MapView;
 class OrderEntryPanel;
 class ReportPanel;
 class SeasonFinishedPanel;
+class StatusLine;
 class UnsavedWork;
 
 /// The map at the left, the panels at the right, menus and tools above, the status below.
@@ -67,7 +67,6 @@ class MainWindow : public QMainWindow {
   void createPanels();
   void layOutPanels();
   void createMenus();
-  void createStatusBar();
   // The size and place of the last start, or the preferred size on the first one.
   void restoreSize();
   void rememberSize();
@@ -77,9 +76,8 @@ class MainWindow : public QMainWindow {
   // Each shows one side of the state, whatever has changed, and may be called at any time.
   void showGame();
   void showViewOnly();
-  session::Rules rememberedRules(const std::string& file) const;
-  /// Shows and remembers which rules are in force for the game's file.
-  void showRules();
+  /// Remembers which rules are in force for the game's file.
+  void rememberRules();
   /// How wide the window is, in pixels, when only the map shows.
   int mapOnlyWidth();
   /// What the window has for the map from top to bottom, in pixels.
@@ -123,9 +121,8 @@ class MainWindow : public QMainWindow {
   GameMenu* m_gameMenu = nullptr;
   HelpMenu* m_helpMenu = nullptr;
   MapMenu* m_mapMenu = nullptr;
-  ElidedLabel* m_status = nullptr;
-  QLabel* m_rules = nullptr;
-  ElidedLabel* m_fileName = nullptr;
+  StatusLine* m_status = nullptr;
+  std::string m_shownFile;  ///< the game's file that was put among the recent ones last
   /// What the visible panel is for, so that it is replaced only when that has changed.
   std::optional<std::pair<model::Stage, session::Editing>> m_shownPanel;
   int m_normalWidth = 0;  ///< of the window, while only the map shows

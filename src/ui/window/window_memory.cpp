@@ -45,15 +45,16 @@ void WindowMemory::setFlag(const QString& name, bool on) {
   m_store.setValue(name, on);
 }
 
-bool WindowMemory::usualRules(const QString& file) const {
-  return m_store.value(UsualRules).toStringList().contains(file);
+session::Rules WindowMemory::rules(const QString& file) const {
+  const bool usual = m_store.value(UsualRules).toStringList().contains(file);
+  return usual ? session::Rules::Usual : session::Rules::Orb;
 }
 
-void WindowMemory::setUsualRules(const QString& file, bool usual) {
-  if (usual == usualRules(file)) return;
+void WindowMemory::setRules(const QString& file, session::Rules rules) {
+  if (rules == this->rules(file)) return;
   QStringList files = m_store.value(UsualRules).toStringList();
   files.removeAll(file);
-  if (usual) files.prepend(file);
+  if (rules == session::Rules::Usual) files.prepend(file);
   m_store.setValue(UsualRules, files.mid(0, UsualRulesBound));
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "session/rules.h"
+
 #include <QByteArray>
 #include <QSettings>
 #include <QStringList>
@@ -31,10 +33,10 @@ class WindowMemory {
   bool flag(const QString& name, bool otherwise = false) const;
   void setFlag(const QString& name, bool on);
 
-  /// Whether the game of the file is resolved by the usual rules. The file's form has no place for
-  /// it. Of more files than anybody keeps up the oldest are forgotten.
-  bool usualRules(const QString& file) const;
-  void setUsualRules(const QString& file, bool usual);
+  /// The rules for the game of a file, whose form has no place for them; ORB's own until others are
+  /// set. Of more files than anybody keeps up the oldest are forgotten.
+  session::Rules rules(const QString& file) const;
+  void setRules(const QString& file, session::Rules rules);
 
   /// Game files opened or saved, the last one first.
   QStringList recentFiles() const;
