@@ -16,6 +16,7 @@ enum class Kind : std::uint8_t {
   Postpones,   ///< puts them off, or leaves them open
   Titles,      ///< sets aside those below, without a colon
   Corrects,    ///< says that those below hold rather than those above
+  Shrugs,      ///< leaves what may happen to itself: "if he minds, tough luck"
   Reconsiders  ///< before an order, or alone: the one above may be meant no longer
 };
 
@@ -73,6 +74,10 @@ constexpr std::array Rows{
         "mi sono sbagliato|ho cambiato idea|change d avis|changement d avis|"
         "verbeterde versie|angrat mig|ombestemt|zmiana zdania|scratch that last one|"
         "scrap that one"},
+    Row{Kind::Shrugs,
+        "no hard feelings|lump it|tough luck|serves him right|so be it|his problem|their problem|"
+        "wont mind|not angry|nicht bose|selber schuld|pech gehabt|sein problem|tant pis|"
+        "peor para|peggio per|pior para|jammer dan|ikke sur|inte arg|trudno"},
     Row{Kind::Reconsiders,
         "no|nope|nah|nay|wait|hang "
         "on|actually|rather|hmm|hm|oops|whoops|ooops|sorry|apologies|better|"
@@ -268,6 +273,7 @@ bool LeadsOn(Tokens line) {
 }
 
 bool IsOffer(Tokens line) {
+  if (FindPhrase(line, Kind::Shrugs)) return true;
   return std::ranges::any_of(line,
                              [](const Token& token) { return HasUse(token, WordUse::Offer); });
 }

@@ -39,7 +39,8 @@ bool IsReport(Tokens words);
 /// to may not be meant.
 bool LeadsOn(Tokens line);
 
-/// Whether a line offers help, and changes nothing: "if anything is unclear, call me".
+/// Whether a line offers help or shrugs, and changes nothing: "if anything is unclear, call me",
+/// "if he minds, tough luck".
 bool IsOffer(Tokens line);
 
 /// Where a line behind orders begins as a reservation about them: "but", "or", "unless", "only".

@@ -67,8 +67,10 @@ void WeighUnclear(std::vector<ReadLine>& lines, const std::vector<Surroundings>&
   bool areAllDoubted = false;
   for (std::size_t i = 0; i < lines.size(); ++i) {
     const ReadLine& line = lines[i];
-    if (around[i].IsOlder || line.Kind != LineKind::NotUnderstood) continue;
     const Concern& about = around[i].About;
+    const bool says = line.Kind == LineKind::NotUnderstood ||
+                      (line.Kind == LineKind::Doubtful && !about.Provinces.empty());
+    if (around[i].IsOlder || !says) continue;
     const std::string reason = "line " + std::to_string(line.Number) + " may be about it";
     bool isOfSome = false;
     const auto doubt = [&](std::multimap<std::string, std::size_t>& orders,

@@ -5,6 +5,8 @@
 #include "orders/exchange/power_names.h"
 
 #include <algorithm>
+#include <array>
+#include <string_view>
 
 namespace orb::exchange {
 namespace {
@@ -253,6 +255,13 @@ std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
   // "Hi, Russia" greets Russia.
   if (isGreeted && heading.Orders == Verb::None) return {};
   return hasWord ? std::optional(heading) : std::nullopt;
+}
+
+bool IsPressTitle(Tokens tokens) {
+  constexpr std::array<std::string_view, 8> titles{"press",  "presse", "pers",     "prensa",
+                                                   "stampa", "prasa",  "imprensa", "pressen"};
+  const auto first = std::ranges::find_if(tokens, IsWordToken);
+  return CountWords(tokens) == 1 && std::ranges::find(titles, first->Text) != titles.end();
 }
 
 std::size_t PastLineStart(Tokens tokens) {

@@ -23,6 +23,9 @@ inline bool IsHeadingOf(model::Stage stage, const Heading& heading) {
 /// The heading that all the tokens are; nothing when they are none.
 std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names);
 
+/// Whether a line is the title of a part that players write to each other, "PRESS:".
+bool IsPressTitle(Tokens tokens);
+
 /// Behind the marks that begin a line in mails and lists: "> ", "- ", "1.", "(2)", "a)", "[10:15]",
 /// "<name>"; what comes before belongs to none of its orders.
 std::size_t PastLineStart(Tokens tokens);

@@ -26,12 +26,14 @@ constexpr std::array Nicknames{
     PowerWords{2,
                "french|frankreich|francia|frankrijk|frankrike|frankrig|francja|franca|"
                "francais|franzosen|franzosisch|frances|francese"},
-    PowerWords{3,
-               "german|germans|deutschland|allemagne|alemania|germania|duitsland|tyskland|"
-               "niemcy|alemanha|allemand|deutsch|deutsche|deutscher"},
-    PowerWords{4,
-               "russian|russians|russland|rusland|russie|rusia|ryssland|rosja|russe|russo|"
-               "russisch"},
+    PowerWords{
+        3,
+        "german|germans|deutschland|allemagne|alemania|germania|duitsland|tyskland|"
+        "niemcy|alemanha|allemand|aleman|alemao|tedesco|duits|tysk|deutsch|deutsche|deutscher"},
+    PowerWords{
+        4,
+        "russian|russians|russland|rusland|russie|rusia|ryssland|rosja|russe|russo|ruso|rysk|"
+        "russisch"},
     PowerWords{5,
                "turkish|turks|ottoman empire|ottoman|ottomans|turkei|tuerkei|turquie|"
                "turquia|turchia|turkije|turkiet|tyrkiet|tyrkia|turcja|turc|turco|turkisch"},

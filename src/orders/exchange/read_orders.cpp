@@ -76,7 +76,7 @@ class TextReader {
  private:
   void StartAnew() {
     context_ = {model::FindCountry(options_.Power), Verb::None};
-    inSignature_ = false;
+    inSignature_ = inPress_ = false;
     quotations_ = {};
     struck_ = {};
     rows_.Around.StartAnew();
@@ -115,13 +115,20 @@ class TextReader {
     }
     if (IsMailHead(line.Part(body), known_.Names) || IsQuotationHead(line.Plain.Text, tokens)) {
       isMailHead_ = true;
+      inPress_ = false;
       rows_.AddLine(line, context_.Power, LineKind::PassedOver);
       return;
     }
-    const auto heading = ReadHeading(line.Part(body), known_.Names);
+    const bool isPressTitle = IsPressTitle(line.Part(body));
+    const auto heading = isPressTitle ? std::nullopt : ReadHeading(line.Part(body), known_.Names);
     if (heading && IsHeadingOf(known_.Stage, *heading) &&
         !IsOrderAlone(line.Part(body), *heading)) {
       return AddHeading(line, *heading);
+    }
+    if (isPressTitle || (inPress_ && !IsTyped(line.Part(body)))) {
+      inPress_ = true;
+      rows_.AddLine(line, context_.Power, LineKind::PassedOver);
+      return;
     }
     const auto isSign = [](const Token& token) {
       return token.Kind == TokenKind::Mark &&
@@ -133,6 +140,10 @@ class TextReader {
     body.End = comment.Begin;
     ReadBody(line, body, comment);
   }
+
+  /// What players write to each other may name places, but hardly units: "Con - Sev: I told you
+  /// so".
+  static bool IsTyped(Tokens tokens) { return !tokens.empty() && UnitTypeOf(tokens[0]) != 0; }
 
   /// "France: disband" is meant for a dislodged unit, which it does not name.
   bool IsOrderAlone(Tokens tokens, const Heading& heading) const {
@@ -244,6 +255,7 @@ class TextReader {
   }
 
   void AddHeading(const SourceLine& line, const Heading& heading) {
+    inPress_ = false;
     const bool says = heading.Power != 0 || heading.Orders != Verb::None;
     // Another power's heading ends what the one before said of builds or disbands, and any
     // signature.
@@ -265,6 +277,7 @@ class TextReader {
   Context context_;
   Speakers speakers_;
   bool inSignature_ = false;
+  bool inPress_ = false;
   bool isMailHead_ = false;  ///< of the line that is being read
   Quotations quotations_;
   StruckLines struck_;

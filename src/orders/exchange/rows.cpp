@@ -146,6 +146,9 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
     const bool isOwn =
         std::ranges::find(understood_, said.Sentence, &Understood::Sentence) != understood_.end();
     if (isGreeting || !IsDoubted(line, said, isOwn)) continue;
+    Concern about = ConcernOf(remark, known_.Names, *known_.Game.Map);
+    about.MayBeAll = false;
+    if (!understood_.empty()) Around.AddAbout(understood_.front().Row, about);
     const std::string reason = Quoted(line.Part(said.At)) + " may change it";
     const bool isReported = IsReport(remark);
     for (const Understood& order : understood_) {
@@ -154,6 +157,18 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
     }
     if (!isOwn) Around.SetDoubtFrom(first, reason, line.Span(said.At));
   }
+}
+
+/// Whether words at the beginning of a line greet and head it: "alright mate england orders for
+/// spring".
+bool Rows::IsAddress(Tokens words, bool isFirst, int power) const {
+  std::size_t at = 0;
+  while (at < words.size() && HasUse(words[at], WordUse::Mood, WordUse::Greeting))
+    ++at;
+  if (!isFirst || at == words.size()) return false;
+  const auto heading = ReadHeading(words.subspan(at), known_.Names);
+  return heading && heading->Orders == Verb::None &&
+         (heading->Power == power || heading->Power == 0);
 }
 
 /// Whether words are not known to leave the orders of their sentence as they are.
@@ -167,6 +182,7 @@ bool Rows::IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const
       own.insert(own.end(), words.begin(), words.end());
   }
   const Tokens remark = line.Part(said.At);
+  if (IsAddress(remark, said.At.Begin == 0, power)) return false;
   const auto correction = FindCorrection(remark);
   if (!correction) return FindDoubt(remark, own, known_.Names, power).has_value();
   return FindDoubt(remark.first(correction->Begin), own, known_.Names, power) ||

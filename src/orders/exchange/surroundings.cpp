@@ -9,6 +9,11 @@ void SurroundingsOfLines::SetCorrects(std::size_t first) {
     rows_[row].Corrects = true;
 }
 
+void SurroundingsOfLines::AddAbout(std::size_t row, const Concern& concern) {
+  Concern& about = rows_[row].About;
+  about.Provinces.insert(about.Provinces.end(), concern.Provinces.begin(), concern.Provinces.end());
+}
+
 void SurroundingsOfLines::SetReconsiders(std::size_t row, std::string quoted, Span at) {
   rows_[row].SecondThoughts = std::move(quoted);
   rows_[row].SecondThoughtsAt = at;

@@ -21,12 +21,15 @@ struct Surroundings {
   Span DoubtAt;
   std::string SecondThoughts;  ///< right before the order, about the one above; quoted, or empty
   Span SecondThoughtsAt;
-  Concern About;  ///< of a line that is not understood
+  Concern About;  ///< what is not understood in the line
 };
 
 /// Follows what the lines of a text say of the orders around them.
 class SurroundingsOfLines {
  public:
+  /// Words in the line of an order may be about these orders, too.
+  void AddAbout(std::size_t row, const Concern& concern);
+
   /// One more line was read.
   void Add(bool isOlder) {
     rows_.push_back({isOlder, false, !reason_.empty(), reason_, at_, {}, {}, {}});
