@@ -78,12 +78,19 @@ bool IsOutcome(Tokens remark) {
   return first->Written.data()[-1] == '*';
 }
 
+/// Whether the writer signs with one word behind a sentence: "A Par - Bur. /Anders".
+bool IsSignature(Tokens remark) {
+  constexpr std::string_view mark = ". /";
+  return remark.size() == 1 && remark[0].Begin >= mark.size() &&
+         std::string_view(remark[0].Written.data() - mark.size(), mark.size()) == mark;
+}
+
 /// Whether a word behind thanks or the like is a name: "sorry Franz".
 bool IsName(Tokens remark, std::size_t at, const PlaceNames& names) {
-  return at > 0 && HasUse(remark[at - 1], WordUse::Mood) && remark[at].Capital &&
-         remark[at].Text.size() > 2 && VerbOf(remark[at]) == Verb::None &&
-         remark[at].Means.Uses == 0 && names.At(remark, at).empty() &&
-         names.Near(remark[at].Text).empty();
+  const bool isGreeted = at > 0 && HasUse(remark[at - 1], WordUse::Mood);
+  return (isGreeted || IsSignature(remark)) && remark[at].Capital && remark[at].Text.size() > 2 &&
+         VerbOf(remark[at]) == Verb::None && remark[at].Means.Uses == 0 &&
+         names.At(remark, at).empty() && names.Near(remark[at].Text).empty();
 }
 
 }  // namespace

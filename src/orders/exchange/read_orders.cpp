@@ -198,8 +198,9 @@ class TextReader {
     constexpr std::size_t few = 4;
     // Units name themselves in other stages.
     const bool isBuild = known_.Stage == model::Stage::Adjustments;
+    const bool isBrief = line.All.size() <= few;
     const bool isOfAbove =
-        (isBuild && IsUnclear(rows_.Lines.back())) || (isBehindOrders && line.All.size() <= few);
+        (isBuild && (isBrief || IsUnclear(rows_.Lines.back()))) || (isBehindOrders && isBrief);
     const Tokens said = Tokens(line.All).subspan(speakers_.Past(line.All, PastLineStart(line.All)));
     if (isOfAbove && Reconsiders(said)) {
       rows_.Around.DoubtBlock(Quoted(said) + " may change it", {line.Offset, line.Bytes.size()});

@@ -135,17 +135,19 @@ void Rows::PassOver(std::size_t first) {
 void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
   for (const Said& said : remarks_) {
     const Tokens remark = line.Part(said.At);
-    if (Reconsiders(remark)) {
-      const auto next = std::ranges::find_if(
-          understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
-      if (next != understood_.end())
-        Around.SetReconsiders(next->Row, Quoted(remark), line.Span(said.At));
-    }
     const bool isGreeting = remark.size() <= LongestGreeting &&
                             HasUse(remark[0], WordUse::Greeting) && !ReadAside(remark).has_value();
     const bool isOwn =
         std::ranges::find(understood_, said.Sentence, &Understood::Sentence) != understood_.end();
-    if (isGreeting || !IsDoubted(line, said, isOwn)) continue;
+    const bool isDoubted = !isGreeting && IsDoubted(line, said, isOwn);
+    // Builds name no unit twice, so that any such words may take back those above.
+    const bool isOfAbove = isDoubted && known_.Stage == model::Stage::Adjustments;
+    const auto next = std::ranges::find_if(
+        understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
+    if ((isOfAbove || Reconsiders(remark)) && next != understood_.end()) {
+      Around.SetReconsiders(next->Row, Quoted(remark), line.Span(said.At));
+    }
+    if (!isDoubted) continue;
     Concern about = ConcernOf(remark, known_.Names, *known_.Game.Map);
     about.MayBeAll = false;
     if (!understood_.empty()) Around.AddAbout(understood_.front().Row, about);
