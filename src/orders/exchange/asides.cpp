@@ -75,9 +75,8 @@ constexpr std::array Rows{
         "verbeterde versie|angrat mig|ombestemt|zmiana zdania|scratch that last one|"
         "scrap that one"},
     Row{Kind::Shrugs,
-        "no hard feelings|lump it|tough luck|serves him right|so be it|his problem|their problem|"
-        "wont mind|not angry|nicht bose|selber schuld|pech gehabt|sein problem|tant pis|"
-        "peor para|peggio per|pior para|jammer dan|ikke sur|inte arg|trudno"},
+        "no hard feelings|lump it|tough luck|serves him right|nicht bose|selber schuld|"
+        "pech gehabt|tant pis|peor para|peggio per|pior para"},
     Row{Kind::Reconsiders,
         "no|nope|nah|nay|wait|hang "
         "on|actually|rather|hmm|hm|oops|whoops|ooops|sorry|apologies|better|"
@@ -217,6 +216,17 @@ bool IsTitleOfCorrection(Tokens line) {
   return false;
 }
 
+/// Whether a line leaves what others may do to itself, and orders nothing in return.
+bool IsShrug(Tokens line) {
+  const bool orders = std::ranges::any_of(line, [](const Token& token) {
+    const Verb verb = VerbOf(token);
+    return (verb != Verb::None && verb != Verb::Move) || IsWord(token, "dont") ||
+           IsWord(token, "but") || IsWord(token, "unless") || IsWord(token, "only") ||
+           IsWord(token, "instead") || HasUse(token, WordUse::Orders);
+  });
+  return !orders && FindPhrase(line, Kind::Shrugs);
+}
+
 }  // namespace
 
 std::optional<Aside> ReadAside(Tokens line) {
@@ -273,7 +283,7 @@ bool LeadsOn(Tokens line) {
 }
 
 bool IsOffer(Tokens line) {
-  if (FindPhrase(line, Kind::Shrugs)) return true;
+  if (IsShrug(line)) return true;
   return std::ranges::any_of(line,
                              [](const Token& token) { return HasUse(token, WordUse::Offer); });
 }
