@@ -12,7 +12,7 @@
 namespace orb::exchange {
 
 enum class TokenKind : std::uint8_t {
-  Word,  ///< letters and digits; "&" is the word "and"
+  Word,  ///< letters and digits; "&" and "+" are the word "and"
   Dash,  ///< dashes and arrows of any length
   Open,
   Close,
