@@ -48,8 +48,9 @@ QJsonArray jsonOf(const std::vector<std::string>& lines) {
 
 std::vector<std::string> linesOf(const QJsonValue& value) {
   std::vector<std::string> lines;
-  for (const QJsonValue& line : value.toArray())
-    lines.push_back(bytesOf(line));
+  const QJsonArray array = value.toArray();
+  for (qsizetype i = 0; i < array.size(); ++i)
+    lines.push_back(bytesOf(array.at(i)));
   return lines;
 }
 

@@ -32,6 +32,7 @@
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
+#include <QFile>
 #include <QHBoxLayout>
 #include <QMenuBar>
 #include <QMimeData>

@@ -28,9 +28,10 @@ QString ordersAtStake(const Desk& desk) {
 
 QString question(const Desk& desk) {
   QStringList sentences;
-  if (desk.isModified())
+  if (desk.isModified()) {
     sentences << QObject::tr("%1 has changes that are not saved.\nSave them before closing?")
                      .arg(gameName(desk.game()));
+  }
   if (desk.hasOrdersNoFileKeeps()) sentences << ordersAtStake(desk);
   return sentences.join(QLatin1String("\n\n"));
 }
