@@ -10,28 +10,11 @@ using orders::OrderLine;
 using orders::OrderResult;
 using orders::OrderTable;
 
-/// An explanation in the making, and whether it already tells how the unit was dislodged.
-struct Account {
-  Explanation Told;
-  bool ToldDislodged = false;
-};
-
-bool WasDislodged(const Resolution& resolution, int order) {
-  return resolution.Reasons[order].Dislodger != 0;
-}
-
 /// Where a move is aimed at; one that leads nowhere in the words of its writer.
 std::string AimText(const Resolution& resolution, const OrderLine& move) {
   if (move.Target != 0) return NameOf(resolution, move.Target);
   std::string work;
   return std::string(orders::CutOrder(move.Text, resolution.Stage, work).Target);
-}
-
-Account ExplainCut(const Resolution& resolution, int order) {
-  const Reason& reason = resolution.Reasons[order];
-  const std::string text = "Its support was cut by " + Quoted(resolution.Orders[reason.Cutter]);
-  if (reason.Dislodger != reason.Cutter) return {{text, {}}};
-  return {{text + ", which also dislodged it", DislodgingStrengths(resolution, order)}, true};
 }
 
 Account ExplainRejection(const Resolution& resolution, int order) {
@@ -120,16 +103,6 @@ Account ExplainSupport(const Resolution& resolution, int order) {
   return {{text + UncutText(resolution, line), {}}};
 }
 
-Account ExplainHold(const Resolution& resolution, int order) {
-  const bool unordered = resolution.Orders[order].Supplied;
-  if (WasDislodged(resolution, order)) {
-    if (unordered) return {{"It had no order", {}}};
-    return {{"It " + DislodgedBy(resolution, order), DislodgingStrengths(resolution, order)}, true};
-  }
-  return {{(unordered ? "It had no order, so it held" : "It held") + HeldAgainst(resolution, order),
-           {}}};
-}
-
 /// What came of the order itself; what else befell its unit is added by ExplainMove.
 Account ExplainOwnFate(const Resolution& resolution, int order) {
   const OrderLine& line = resolution.Orders[order];
@@ -161,6 +134,27 @@ std::string OtherMoveText(const Resolution& resolution, int order) {
 }
 
 }  // namespace
+
+bool WasDislodged(const Resolution& resolution, int order) {
+  return resolution.Reasons[order].Dislodger != 0;
+}
+
+Account ExplainCut(const Resolution& resolution, int order) {
+  const Reason& reason = resolution.Reasons[order];
+  const std::string text = "Its support was cut by " + Quoted(resolution.Orders[reason.Cutter]);
+  if (reason.Dislodger != reason.Cutter) return {{text, {}}};
+  return {{text + ", which also dislodged it", DislodgingStrengths(resolution, order)}, true};
+}
+
+Account ExplainHold(const Resolution& resolution, int order) {
+  const bool unordered = resolution.Orders[order].Supplied;
+  if (WasDislodged(resolution, order)) {
+    if (unordered) return {{"It had no order", {}}};
+    return {{"It " + DislodgedBy(resolution, order), DislodgingStrengths(resolution, order)}, true};
+  }
+  return {{(unordered ? "It had no order, so it held" : "It held") + HeldAgainst(resolution, order),
+           {}}};
+}
 
 Explanation NotUsed(const Resolution& resolution, const OrderLine& order) {
   const OrderTable& table = resolution.Orders;

@@ -11,6 +11,21 @@
 
 namespace orb::adjudication {
 
+/// An explanation in the making, and whether it already tells how the unit was dislodged.
+struct Account {
+  Explanation Told;
+  bool ToldDislodged = false;
+};
+
+/// Whether the unit of the order was dislodged, as recorded at the order itself.
+bool WasDislodged(const Resolution& resolution, int order);
+
+/// What cut a support, and that it dislodged the supporter too where it did.
+Account ExplainCut(const Resolution& resolution, int order);
+
+/// What came of an order to hold, also one that nobody wrote.
+Account ExplainHold(const Resolution& resolution, int order);
+
 /// The explanations of each stage, as ExplainOrder returns them.
 Explanation ExplainMove(const Resolution& resolution, int order);
 Explanation ExplainRetreat(const Resolution& resolution, int order);

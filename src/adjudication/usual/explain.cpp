@@ -14,16 +14,6 @@ using orders::OrderKind;
 using orders::OrderLine;
 using orders::OrderResult;
 
-/// An explanation in the making, and whether it already tells how the unit was dislodged.
-struct Account {
-  Explanation Told;
-  bool ToldDislodged = false;
-};
-
-bool WasDislodged(const Resolution& resolution, int order) {
-  return resolution.Reasons[order].Dislodger != 0;
-}
-
 /// The line that contradicts the order, stands for it, or came before it.
 std::string OtherLine(const Resolution& resolution, int order) {
   return Quoted(resolution.Orders[resolution.Reasons[order].Blocker]);
@@ -79,13 +69,6 @@ Explanation VoidText(const Resolution& resolution, const OrderLine& order) {
     }
   }
   return NotUsed(resolution, order);
-}
-
-Account ExplainCut(const Resolution& resolution, int order) {
-  const Reason& reason = resolution.Reasons[order];
-  const std::string text = "Its support was cut by " + Quoted(resolution.Orders[reason.Cutter]);
-  if (reason.Dislodger != reason.Cutter) return {{text, {}}};
-  return {{text + ", which also dislodged it", DislodgingStrengths(resolution, order)}, true};
 }
 
 Account ExplainRejection(const Resolution& resolution, int order) {
@@ -181,16 +164,6 @@ Explanation ExplainSupport(const Resolution& resolution, int order) {
     text += ", but that move's convoy failed";
   }
   return {text + UncutText(resolution, line), {}};
-}
-
-Account ExplainHold(const Resolution& resolution, int order) {
-  const bool unordered = resolution.Orders[order].Supplied;
-  if (WasDislodged(resolution, order)) {
-    if (unordered) return {{"It had no order", {}}};
-    return {{"It " + DislodgedBy(resolution, order), DislodgingStrengths(resolution, order)}, true};
-  }
-  return {{(unordered ? "It had no order, so it held" : "It held") + HeldAgainst(resolution, order),
-           {}}};
 }
 
 /// What came of the order itself; what else befell its unit is added by ExplainMoveOrder.
