@@ -3,6 +3,7 @@
 #include "model/new_game.h"
 #include "orders/exchange/order_files.h"
 #include "orders/exchange/read_orders.h"
+#include "text/strings.h"
 
 #include <array>
 #include <cstdint>
@@ -99,14 +100,15 @@ std::string WithoutBrackets(std::string_view text) {
 }
 
 /// No remark makes a sure order another one: without it, and without the rest of the text, it reads
-/// the same where it is understood at all.
+/// the same where it is understood at all. A line in the exact form keeps its case.
 void ReadWithoutRemarks(const model::GameState& game, const ReadLine& line,
                         const exchange::ReadingOptions& options,
                         const std::vector<ReadLine>& lines) {
   if (line.Kind != LineKind::Order) return;
   for (const std::string& text : {line.Written, WithoutBrackets(line.Written)}) {
     const ReadLine alone = exchange::ReadOrder(game, text, {line.Power, options.Repairs}, lines);
-    Require(alone.Kind != LineKind::Order || alone.Order == line.Order, "another one alone", line);
+    const bool isSame = text::UpperCase(alone.Order) == text::UpperCase(line.Order);
+    Require(alone.Kind != LineKind::Order || isSame, "another one alone", line);
   }
 }
 

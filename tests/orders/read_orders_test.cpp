@@ -103,6 +103,25 @@ TEST(ReadOrders, AsPeopleWriteThem) {
   }
 }
 
+TEST(ReadOrders, WordsAroundOrdersThatMayChangeThem) {
+  const std::string orders = "A Par - Bur\nA Mar - Spa\nF Bre - MAO\n";
+  model::GameState game = EmptyBoard("Spring", "moves");
+  model::NewGame(game, DataDirectory());
+  for (const DrawnCase& drawn : LoadDrawnCases("orders/around_orders.txt")) {
+    const bool areSure = drawn.Name.starts_with("sure");
+    for (const std::string& line : drawn.Drawing) {
+      std::vector<std::string> texts{line + "\n" + orders};
+      if (drawn.Name.ends_with("below")) texts = {orders + line, orders + "\n" + line};
+      for (const std::string& text : texts) {
+        int sure = 0;
+        for (const ReadLine& read : exchange::ReadOrders(game, text, {"FRA", {}}))
+          sure += read.Kind == LineKind::Order ? 1 : 0;
+        EXPECT_EQ(sure, areSure ? 3 : 0) << text;
+      }
+    }
+  }
+}
+
 TEST(TextRepairs, EveryShippedPairHelps) {
   const auto repairs = exchange::ReadTextRepairs(DataDirectory());
   const DrawnCase drawn = LoadDrawnCases("orders/repairs.txt").front();

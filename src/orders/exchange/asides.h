@@ -35,6 +35,9 @@ bool MakesCondition(Tokens line);
 /// Whether words before an order tell that it is somebody else's: "Tom told me", "you could".
 bool IsReport(Tokens words);
 
+/// Whether a title tells that the orders below are the writer's own, and for now.
+bool IsOwnTitle(Tokens line);
+
 /// Whether a line that does not end supposes something or begins an example: orders that it leads
 /// to may not be meant.
 bool LeadsOn(Tokens line);
@@ -52,7 +55,8 @@ std::optional<TokenRange> ReadReservation(Tokens line, bool isBehindOrders);
 bool Reconsiders(Tokens words);
 
 /// Where words next to an order say that it holds rather than another one: "make that", "instead".
-std::optional<TokenRange> FindCorrection(Tokens words);
+/// `isBefore`: the order stands behind them.
+std::optional<TokenRange> FindCorrection(Tokens words, bool isBefore);
 
 /// Whether a line says plainly that the orders in it or below it hold rather than earlier ones:
 /// "Correction:", "changed my mind", "my final orders". Words such as "sorry" or "new" do not.

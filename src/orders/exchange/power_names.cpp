@@ -22,29 +22,41 @@ constexpr std::array Nicknames{
     PowerWords{1,
                "english|great britain|britain|british|brits|uk|gb|angleterre|inglaterra|"
                "inghilterra|engeland|anglia|storbritannien|storbritannia|grossbritannien|"
-               "grosbritannien|englander|engels|anglais|ingles|inglese|englisch"},
+               "grosbritannien|englander|engels|anglais|ingles|inglese|englisch|englanti|"
+               "anglie|angol|britannien|ingiltere|angliya|englannin|engelsk|engelska|"
+               "englische|engelse"},
     PowerWords{2,
                "french|frankreich|francia|frankrijk|frankrike|frankrig|francja|franca|"
-               "francais|franzosen|franzosisch|frances|francese"},
-    PowerWords{
-        3,
-        "german|germans|deutschland|allemagne|alemania|germania|duitsland|tyskland|"
-        "niemcy|alemanha|allemand|aleman|alemao|tedesco|duits|tysk|deutsch|deutsche|deutscher"},
-    PowerWords{
-        4,
-        "russian|russians|russland|rusland|russie|rusia|ryssland|rosja|russe|russo|ruso|rysk|"
-        "russisch"},
+               "francais|franzosen|franzosisch|frances|francese|ranska|francie|"
+               "franciaorszag|fransa|frantsiya|gallia|fransk|franska|franse|francesa|"
+               "francaise|franzose|fransman"},
+    PowerWords{3,
+               "german|germans|deutschland|allemagne|alemania|germania|duitsland|"
+               "tyskland|niemcy|alemanha|allemand|aleman|alemao|tedesco|duits|tysk|"
+               "deutsch|deutsche|deutscher|saksa|nemecko|nemetorszag|almanya|germaniya|"
+               "tyska|tyske|duitse|tedesca|alemana|alema|allemande"},
+    PowerWords{4,
+               "russian|russians|russland|rusland|russie|rusia|ryssland|rosja|russe|"
+               "russo|ruso|rysk|russisch|venaja|rusko|oroszorszag|rusya|rossiya|rosia|"
+               "ryska|russiske|russische|rusa|russa"},
     PowerWords{5,
                "turkish|turks|ottoman empire|ottoman|ottomans|turkei|tuerkei|turquie|"
-               "turquia|turchia|turkije|turkiet|tyrkiet|tyrkia|turcja|turc|turco|turkisch"},
+               "turquia|turchia|turkije|turkiet|tyrkiet|tyrkia|turcja|turc|turco|"
+               "turkisch|turkki|turecko|torokorszag|turkiye|turtsiya|tourkia|tyrkisk|"
+               "tyrkiske|turkiska|turkse|turque|turca|turke"},
     PowerWords{6,
                "austria|austrian|austro|austro hungarian|austro hungary|austrian hungarian|"
                "austrians|ah|osterreich|oesterreich|autriche|oostenrijk|osterrike|ostrig|"
                "osterrig|austrias|osterreich ungarn|autriche hongrie|oostenrijk hongarije|"
-               "austro wegry|autrichien|austriaco"},
+               "austro wegry|autrichien|austriaco|itavalta|rakousko|ausztria|avusturya|"
+               "avstriya|afstria|rakousko uhersko|austria hungary|osterreichisch|"
+               "oostenrijkse|osterrikisk|ostrigske|autrichienne|austriaca|austria hungria|"
+               "austria ungheria|austro ungheria|osterrike ungern|ostrig ungarn|"
+               "avstro vengriya|ausztria magyarorszag|itavalta unkari|osterreicher"},
     PowerWords{7,
                "italian|italians|italien|italie|italia|wlochy|italiaans|italienisch|"
-               "italiano|italienne"},
+               "italiano|italienne|italiaanse|olaszorszag|italya|italiya|italska|"
+               "italiensk|italienske|italiana|italiener|itaalia"},
 };
 
 struct SpelledPower {
@@ -106,6 +118,13 @@ PowerName PowerAt(Tokens tokens, std::size_t at) {
     if (length > 0 && at + length > best.Next) best = {name->second.Power, at + length};
   }
   return best;
+}
+
+int PowerIn(Tokens tokens) {
+  for (std::size_t at = 0; at < tokens.size(); ++at) {
+    if (const int power = PowerAt(tokens, at).Power; power != 0) return power;
+  }
+  return 0;
 }
 
 }  // namespace orb::exchange

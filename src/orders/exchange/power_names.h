@@ -15,4 +15,7 @@ struct PowerName {
 /// The power named at this token: by name, abbreviation, people, with or without "the".
 PowerName PowerAt(Tokens tokens, std::size_t at);
 
+/// The first power that is named anywhere, or 0.
+int PowerIn(Tokens tokens);
+
 }  // namespace orb::exchange

@@ -100,7 +100,7 @@ class TextReader {
 
   void ReadLineOf(SourceLine& line) {
     const Tokens tokens = line.All;
-    isMailHead_ = false;
+    isMailHead_ = isTitle_ = false;
     quotations_.Take(line.Bytes, line.Plain.Text, tokens);
     rows_.BeginLine(quotations_.IsQuoted(), inSignature_);
     if (ReadExact(line)) return;
@@ -189,7 +189,7 @@ class TextReader {
       rows_.Around.SetDoubtFrom(first, "it may be struck out", {line.Offset, line.Bytes.size()});
     }
     const bool isBehindOrders = rows_.Around.IsInBlock();
-    rows_.Around.EndLine(first, holdsOrders, line.Bytes.empty());
+    rows_.Around.EndLine(first, holdsOrders, line.Bytes.empty(), rows_.Lines);
     if (holdsOrders) return rows_.DoubtRemarks(line, first);
     const bool isHeading = rows_.Lines.back().Kind == LineKind::Heading;
     if (line.IsTooLong || line.All.empty() || isHeading) return;
@@ -212,7 +212,16 @@ class TextReader {
     } else if (!IsUnclear(rows_.Lines.back()) && LeadsOn(line.All)) {
       const TokenRange all{0, line.All.size()};
       rows_.Around.LeadTo(Quoted(line.Part(all)) + " leads to it", line.Span(all));
+    } else if (!said.empty() && IsA(said.back(), TokenKind::Colon) && !isTitle_) {
+      if (IsOwnTitle(said)) return TakeOwnTitle(said);
+      rows_.Around.EntitleBlock(Quoted(said) + " is not understood",
+                                {line.Offset, line.Bytes.size()}, PowerIn(said));
     }
+  }
+
+  /// "My orders for England:" ends what another title set aside.
+  void TakeOwnTitle(Tokens title) {
+    rows_.Around.TakeHeading(PowerIn(title), Corrects(title), true, rows_.Lines);
   }
 
   /// "*nwg" below an order puts it right.
@@ -256,6 +265,7 @@ class TextReader {
   }
 
   void AddHeading(const SourceLine& line, const Heading& heading) {
+    isTitle_ = true;
     inPress_ = false;
     const bool says = heading.Power != 0 || heading.Orders != Verb::None;
     // Another power's heading ends what the one before said of builds or disbands, and any
@@ -279,7 +289,9 @@ class TextReader {
   Speakers speakers_;
   bool inSignature_ = false;
   bool inPress_ = false;
-  bool isMailHead_ = false;  ///< of the line that is being read
+  // Of the line that is being read.
+  bool isMailHead_ = false;
+  bool isTitle_ = false;  ///< of words known to be those of headings
   Quotations quotations_;
   StruckLines struck_;
   Rows rows_;

@@ -185,7 +185,10 @@ bool Rows::IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const
   }
   const Tokens remark = line.Part(said.At);
   if (IsAddress(remark, said.At.Begin == 0, power)) return false;
-  const auto correction = FindCorrection(remark);
+  // Before an order such words put it in the place of another one, behind it another in its place.
+  const bool isBefore = std::ranges::any_of(
+      understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
+  const auto correction = FindCorrection(remark, isBefore);
   if (!correction) return FindDoubt(remark, own, known_.Names, power).has_value();
   return FindDoubt(remark.first(correction->Begin), own, known_.Names, power) ||
          FindDoubt(remark.subspan(correction->End), own, known_.Names, power);

@@ -1,5 +1,7 @@
 #include "orders/exchange/surroundings.h"
 
+#include "orders/exchange/known_game.h"
+
 #include <algorithm>
 
 namespace orb::exchange {
@@ -73,24 +75,22 @@ void SurroundingsOfLines::TakeHeading(int power, bool corrects, bool isOfOrders,
   if (corrects || (below_ < lines.size() && (isOfOrders || isOfAnother))) reason_.clear();
 }
 
-void SurroundingsOfLines::EndLine(std::size_t first, bool holdsOrders, bool isEmpty) {
+void SurroundingsOfLines::EndLine(std::size_t first, bool holdsOrders, bool isEmpty,
+                                  const std::vector<ReadLine>& lines) {
   if (!holdsOrders) {
-    if (!isEmpty || isInBlock_) lead_.clear();
+    if (!isEmpty || isInBlock_) lead_ = {};
     isInBlock_ = false;
     return;
   }
   if (!isInBlock_) block_ = first;
   isInBlock_ = true;
   blockEnd_ = rows_.size();
-  if (lead_.empty()) return;
-  SetDoubtFrom(first, lead_, leadAt_);
-  for (std::size_t row = first; row < rows_.size(); ++row)
-    rows_[row].IsSetAside = true;
-}
-
-void SurroundingsOfLines::LeadTo(const std::string& reason, Span at) {
-  lead_ = reason;
-  leadAt_ = at;
+  if (lead_.Reason.empty()) return;
+  for (std::size_t row = first; row < rows_.size(); ++row) {
+    if (lead_.Power != 0 && lines[row].Power == PowerText(lead_.Power)) continue;
+    Doubt(row, row + 1, lead_.Reason, lead_.At);
+    rows_[row].IsSetAside = rows_[row].IsSetAside || lead_.SetsAside;
+  }
 }
 
 void SurroundingsOfLines::DoubtBlock(const std::string& reason, Span at) {

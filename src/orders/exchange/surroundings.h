@@ -40,10 +40,17 @@ class SurroundingsOfLines {
 
   /// The rows from `first` on are those of a line; `isEmpty`: nothing is written there. Orders that
   /// follow each other are a block.
-  void EndLine(std::size_t first, bool holdsOrders, bool isEmpty);
+  void EndLine(std::size_t first, bool holdsOrders, bool isEmpty,
+               const std::vector<ReadLine>& lines);
 
   /// A line that asks or supposes leads to the block of orders below it.
-  void LeadTo(const std::string& reason, Span at);
+  void LeadTo(const std::string& reason, Span at) { lead_ = {reason, at, true, 0}; }
+
+  /// A title that is not understood stands above the block of orders below it; those of `power`
+  /// are its own.
+  void EntitleBlock(const std::string& reason, Span at, int power) {
+    lead_ = {reason, at, false, power};
+  }
 
   /// A line behind the last block of orders makes a reservation about it.
   void DoubtBlock(const std::string& reason, Span at);
@@ -77,7 +84,7 @@ class SurroundingsOfLines {
   /// Another text begins: nothing is set aside there.
   void StartAnew() {
     reason_.clear();
-    lead_.clear();
+    lead_ = {};
     block_ = blockEnd_ = rows_.size();
   }
 
@@ -94,8 +101,13 @@ class SurroundingsOfLines {
   std::size_t block_ = 0;     ///< the first row of the last block of orders
   std::size_t blockEnd_ = 0;  ///< the row behind it
   bool isInBlock_ = false;
-  std::string lead_;  ///< why the orders of the next block may not be meant, or empty
-  Span leadAt_;
+  struct Lead {
+    std::string Reason;  ///< why the orders of the next block may not be meant, or empty
+    Span At;
+    bool SetsAside = false;  ///< they surely are none of the writer's
+    int Power = 0;           ///< whose orders are meant all the same
+  };
+  Lead lead_;
   std::string reason_;  ///< why the orders from now on are set aside, or empty
   Span at_;
   int power_ = 0;

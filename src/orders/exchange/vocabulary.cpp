@@ -120,8 +120,22 @@ constexpr std::array Uses{
              "probably unconfirmed pending tbc tbd withdrawn void vorige letzte entwurf "
              "beispiel brouillon exemple concept voorbeeld bozza borrador utkast kladde "
              "szkic rascunho vorlaufig provisoire provvisorio provisorio voorlopig "
-             "preliminar forelopig ergebnisse resultats risultati resultados uitslag "
-             "resultat wyniki"},
+             "preliminar forelopig ergebnisse ergebnis resultats risultati resultados uitslag "
+             "resultat resultater wyniki"},
+    UseWords{
+        WordUse::Elsewhere,
+        "original originally intended wanted planned fallback backup "
+        "contingency plans trial practice theoretical hypothetically joke dream other was were had "
+        "before formerly comparison record vorschlag alternativ alternative alternativplan "
+        "alte alten bisherige bisherigen ungultig vergleich plane vorhatte wollte gestern "
+        "letzter letzten letztes proposition anciens ancien precedent precedents precedente "
+        "confirmer voulais propuesta anterior anteriores confirmar ejemplo ayer proposta "
+        "precedenti vecchi vecchio confermare esempio ieri volevo quero antigas antigo passado "
+        "exemplo ontem voorstel oude gisteren bevestigen forslag udkast sidste gamle eksempel "
+        "forrige igar gamla exempel forra bekraftat propozycja poprzednia poprzednie stare "
+        "przyklad wczoraj potwierdzenia ehdotus luonnos vanhat esimerkki javaslat tervezet "
+        "regi navrh stare predchozi chernovik primer staryi nachster nachste prochain proximo "
+        "prossimo volgende naste neste nasta nastepna"},
     UseWords{WordUse::Heading,
              "orders order for from of the my our your here are is follow follows following "
              "these as below in and spring autumn fall winter summer season year turn phase "
@@ -159,6 +173,18 @@ constexpr std::array Uses{
              "printemps hiver ete autunno primavera estate inverno otono verano invierno "
              "outono verao herfst lente zomer najaar voorjaar host hosten var varen forar "
              "efterar jesien wiosna zima now jetzt maintenant ahora adesso nu"},
+    UseWords{
+        WordUse::Own,
+        "my mine our ours final real actual true these those here hereby herewith now today "
+        "following follows below submit submitted submitting sending proper official current "
+        "meine mein unsere anbei hier folgende folgt gelten gilt nun jetzt heute "
+        "mes mon nos voici voila cijoint maintenant aujourdhui suivants "
+        "mis mi estas estos aqui ahora hoy siguientes adjunto miei mie nostri ecco oggi adesso "
+        "seguenti qui meus minhas nossas seguem agora hoje segue mijn onze hierbij nu vandaag "
+        "mine vores vare mina har her nu riktig riktige rett rigtige moje oto teraz tutaj "
+        "omat tassa nyt itt most zde nyni moje copied deadline writing repeat again "
+        "wie besprochen discussed agreed promised kopiert copie copiato copiado zo so asi cosi "
+        "ainsi sadan slik takto igy nain suit publication standard usual description"},
     UseWords{WordUse::Report,
              "told tells proposed proposes suggests asked asks wants wanted said says claims "
              "claimed thinks expects believes promised promises offered offers lied pretended "
@@ -166,7 +192,12 @@ constexpr std::array Uses{
     UseWords{WordUse::Definite,
              "final new revised updated corrected changed amended actual real definitive "
              "latest"},
-    UseWords{WordUse::Orders, "order orders move moves version set list"},
+    UseWords{WordUse::Orders,
+             "order orders move moves version set list befehl befehle zuge zug ordre ordres coups "
+             "ordenes orden movimientos jugadas ordini ordine mosse ordens ordem jogadas bevel "
+             "bevelen zetten ordrer trekk traek drag rozkazy rozkaz ruchy kaskyt kasky siirrot "
+             "parancsok parancs lepesek rozkazy prikazy prikaz tahy emirler emirleri prikaz "
+             "diatages diatagh ordrene orderna"},
     UseWords{WordUse::Greeting,
              "hi hello hey dear greetings good morning evening howdy salut bonjour hallo "
              "ciao regards best cheers thanks thank yours sincerely bye kind thx gl warm "

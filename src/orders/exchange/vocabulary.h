@@ -37,6 +37,8 @@ enum class WordUse : std::uint32_t {
   Reservation = 0x2000,  ///< begins a line about the orders above: "but", "or", "unless"
   Wish = 0x1'0000,       ///< before an order: "I would like to"
   Season = 0x2'0000,     ///< "spring"
+  Elsewhere = 0x8'0000,  ///< of titles: what is below is of another time, or only a thought
+  Own = 0x4'0000,        ///< of titles: what is below is the writer's, and for now
   Report = 0x8000,       ///< tells what somebody else says or wants
   Offer = 0x4000         ///< of lines that offer help: "if anything is unclear"
 };

@@ -1,0 +1,286 @@
+#include "orders/exchange/sayings.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace orb::exchange {
+namespace {
+
+struct Row {
+  Saying Says;
+  std::string_view Phrases;  ///< separated by "|", in small letters, without accents; "x*": any
+                             ///< word that begins so; "=x": the words of the line are no others
+};
+
+// English, German, French, Spanish, Italian, Portuguese, Dutch, Danish and Norwegian, Swedish,
+// Polish, Finnish, Hungarian, Czech. A phrase missing here may file an order that nobody meant; one
+// too many costs somebody a glance.
+constexpr std::array Rows{
+    Row{Saying::Revokes,
+        "=as if|=no chance|=but i wont|=i wont|=yeah right|=in his dreams|=in your dreams|swap|"
+        "kidding|joking|a joke|changed my mind|ignore|disregard|cancel|cancelled|"
+        "canceled|scrap|scratch that|forget that|forget these|forget those|forget the|"
+        "forget my|forget what|forget about|nevermind|never mind|withdrawn|i withdraw|"
+        "revoke|strike that|were examples|was wrong|were wrong|is void|are void|"
+        "no longer valid|not valid|no longer stand|do not stand|forget it|take back|"
+        "took back|takes back|taking back|was a joke|were a joke|april fool|was drunk|"
+        "changed our minds|forget everything|forget all|just testing|just a test|"
+        "only a test|dream on|over my dead|id never|i would never|ill never|"
+        "never do that|not in a million|no way|was the plan|were the plan|his words|"
+        "her words|their words|wants me to do|wanted me to do|told me to do|"
+        "asked me to do|other way round|other way around|not the fleet|not the army|"
+        "the second one not|the first one not|the last one not|not the last|not the first|"
+        "not the second|superseded|obsolete|not valid anymore|on second thought|"
+        "on second thoughts|was last turn|were last turn|was last season|"
+        "were last season|did last turn|sent last|had last|did in spring|did in autumn|"
+        "did in fall|my spring orders|my autumn orders|my fall orders|from last turn|"
+        "from last season|this was last|this was my|this was the plan|those were my|"
+        "those were his|those were last|these were my|these were last|that was the plan|"
+        "that was the idea|that was the old|one is wrong|order is wrong|line is wrong|"
+        "ones are wrong|orders are wrong|lines are wrong|all wrong|these are wrong|"
+        "i wont do|except the last|except the first|except the fleet|except the army|"
+        "minus the last|minus the fleet|minus the army|apart from the fleet|"
+        "apart from the army|apart from the last|apart from the first|swap the|swap them|"
+        "swap these|s own words|his idea not|her idea not"},
+    Row{Saying::Revokes,
+        "ungultig|nicht mehr gultig|gilt nicht|gelten nicht|vergiss|vergesst|"
+        "vergessen sie|nur spas|war spas|ein scherz|scherz|war ein witz|ein witz|nicht ernst|"
+        "ziehe zuruck|nehme zuruck|zuruckgezogen|zuruckziehen|streich|streiche|"
+        "streichen|gestrichen|hinfallig|verworfen|doch nicht|lieber nicht|ignorier*|"
+        "storno|storniere*|stornier*|widerruf*|annulliere|annule|annulez|annuler|"
+        "annulons|oublie|oubliez|une blague|je plaisante|je rigole|plaisanterie|"
+        "laisse tomber|laissez tomber|ne pas tenir|ne tenez pas|ne pas prendre|"
+        "ne prenez pas|nest plus valable|ne sont plus|plus valable|plus valables|ignorez|"
+        "anular|anula|anulad*|anulo|olvida|olvidalo|olvidad*|olviden|era broma|"
+        "es broma|una broma|bromeaba|ignora|ignorad|ignoren|no vale|no valen|"
+        "no cuenta|no cuentan|ya no|annulla|annullo|annullate|scherzavo|uno scherzo|"
+        "lascia perdere|lasciate perdere|lascia stare|dimentica|dimenticate|"
+        "dimenticatevi|ignorate|non valgono|non vale|non piu"},
+    Row{Saying::Revokes,
+        "esquece|esquecam|esqueca|esquecer|a brincar|brincadeira|brincando|ignorem|"
+        "nao vale|nao valem|ja nao|vergeet|negeer|grapje|geintje|trek in|ingetrokken|"
+        "geldt niet|gelden niet|vervalt|vervallen|annuleer|glem|glom|for sjov|"
+        "for spog|for moro|bare tull|tuller|tulla|tullet|skojar|skojade|skamtar|"
+        "skamtade|pa skamt|se bort fra|bortse fran|bortse fra|annuller*|annullera*|"
+        "strunta i|galler inte|gjelder ikke|gaelder ikke|galder ikke|ignorera|ignorer|"
+        "zapomnij*|zignoruj*|ignoruj*|anuluj*|zartowalem|zartowalam|zartuje|to zart|"
+        "niewazn*|unohda|vitsailin|vitsi|peruutan|perun|peruttu|vicceltem|viccelek|"
+        "felejtsd*|ervenytelen|zertoval*|zapomen*|zrus*|neplati|shutka|shutil*|zabud*|"
+        "otmen*|xechna|ksechna|plaka kano|astei*"},
+    Row{Saying::Postpones,
+        "=let me know|not process|dont process|not use|dont use|not enter|dont enter|not file|"
+        "dont file|not submit|dont submit|not final|arent final|isnt final|not yet|"
+        "not my final|not the final|wait for my|wait for the final|wait for final|"
+        "wait until|hold off|will follow|orders to follow|tentative|tentatively|"
+        "provisional|provisionally|preliminary|pending|unconfirmed|tbc|tbd|"
+        "be confirmed|may change|might change|could change|still thinking|a draft|"
+        "placeholder|placeholders|if you agree|what you think|an example|just examples|"
+        "not my|not mine|not real|not for real|not binding|not the real|not for now|"
+        "not ready|not sure|not decided|not decide|not these|not count|dont count|"
+        "doesnt count|not resolve|dont resolve|not orders|isnt decided|havent decided|"
+        "undecided|something like|thinking about it|think about it|let me think|"
+        "still deciding|sleep on it|back to you|will confirm|confirm later|subject to|"
+        "check with|ask him|ask her|call him|call her|to follow|will send my|"
+        "will send the|more later|more tomorrow|double check|let me check|"
+        "dont have time to decide|might still|may still|could still|look like this|"
+        "looks like this|looks like|look like|would look|said something|ill confirm|"
+        "confirm tomorrow|to be continued|final orders tomorrow|final orders follow|"
+        "finals tomorrow|orders tomorrow|please wait|just wait|im torn|"
+        "still have to talk|still need to|have to talk|have to ask|need to check|"
+        "need to ask|need to talk|want to check|still open|still unsure|unsure|"
+        "not convinced|on the fence|havent heard|wait to hear|waiting to hear|waiting on|"
+        "until i hear|once i hear|depends on|a suggestion|a proposal|let me know what|"
+        "hold these|keep these|a rough|what he wants|what she wants|what they want|"
+        "above is what|above you|above was|ill write tomorrow|ill write again|"
+        "will write again|write tomorrow|decide tomorrow|tell you tomorrow|send tomorrow|"
+        "mail tomorrow|update tomorrow|yet to confirm|still to confirm|am torn|"
+        "befehle kommen|befehle folgen|zuge folgen|nur als beispiel|nur als idee|"
+        "in attesa di risposta|in attesa di conferma|in attesa della risposta|"
+        "jattends la reponse|jattends sa|a la espera de respuesta|a la espera de confirm*|"
+        "a falta de confirm*|dois encore parler|dois encore demander|dois encore voir|"
+        "devo ancora parlare|devo ancora chiedere|devo ancora decidere|devo ancora sentire|"
+        "estoy pensando|sigo pensando|estou pensando|ainda pensando|estou a pensar|"
+        "moet nog met|moet nog overleggen|moet nog vragen|moet nog nadenken|ik twijfel|"
+        "skal lige hore|skal lige tale|skal lige tanke|ma lige tanke|ma hore|"
+        "ordrer kommer|ordre kommer|resten kommer|musze jeszcze zapytac|"
+        "musze jeszcze pomyslec|ci sto ancora|ci sto pensando"},
+    Row{Saying::Postpones,
+        "noch nicht|nicht werten|nicht endgultig|vorlaufig|nur ein vorschlag|"
+        "ein vorschlag|ein entwurf|melde mich|noch offen|unsicher|uberlege noch|"
+        "uberlege es|folgen morgen|folgt morgen|folgen noch|folgt noch|nur wenn|"
+        "nur falls|gilt nur|bitte warten|nicht verwenden|nicht nehmen|nicht abgeben|"
+        "unter vorbehalt|vorbehaltlich|bestatige noch|bestatige morgen|warte noch|"
+        "muss noch mit|muss noch fragen|noch klaren|noch uberlegen|noch abklaren|"
+        "in absprache|bin mir nicht|provisoire|provisoires|pas encore|un brouillon|"
+        "brouillon|une proposition|je confirme demain|je confirmerai|confirme demain|"
+        "a confirmer|sera confirme|reflechis|reflechir|jhesite|hesite|pas sur|pas sure|"
+        "pas certain|pas definiti*|sous reserve|seulement si|uniquement si|que si|"
+        "en attente|attends la reponse|je te redis|je vous redis|a suivre|"
+        "ordres definitifs|non ancora|provvisori|provvisorio|una bozza|bozza|"
+        "una proposta|confermo domani|confermo piu tardi|confermero|da confermare|"
+        "sto pensando|ci devo pensare|non definitiv*|non sono sicur*|solo se|soltanto se|"
+        "faccio sapere"},
+    Row{Saying::Postpones,
+        "todavia no|todavia lo|todavia estoy|aun no|aun lo|un borrador|borrador|"
+        "una propuesta|confirmare|confirmo manana|confirmo luego|por confirmar|"
+        "pensandolo|no estoy segur*|no es definitiv*|no son definitiv*|solo si|"
+        "solamente si|unicamente si|ya te dire|no uses|no usar|tengo que hablar|"
+        "ainda nao|ainda estou|um rascunho|rascunho|a confirmar|confirmo amanha|"
+        "confirmo depois|confirmarei|vou confirmar|nao definitiv*|nao tenho certeza|"
+        "so se|somente se|apenas se|nao usar|tenho de falar|nog niet|voorlopig|"
+        "een concept|concept|een voorstel|ik bevestig|nog te bevestigen|bevestig morgen|"
+        "twijfel nog|weet niet zeker|onder voorbehoud|alleen als|alleen wanneer|hoor nog|"
+        "wacht nog|laat nog weten|laat het nog|volgen morgen|volgt morgen|volgen nog|"
+        "niet zeker|niet definitief"},
+    Row{Saying::Postpones,
+        "inte klart|inte annu|preliminart|preliminara|ikke endelig*|forelobig*|"
+        "et udkast|et utkast|ett utkast|udkast|utkast|et forslag|ett forslag|"
+        "bekrafter i morgen|bekrefter i morgen|bekraftar imorgon|bekraftar i morgon|"
+        "tanker stadig|tenker fortsatt|funderar fortfarande|funderar|usikker|osaker|"
+        "er i tvivl|er i tvil|inte slutgiltig*|inte klar*|endnu ikke|enda ikke|"
+        "annu inte|ikke brug|ikke bruk|anvand inte|kun hvis|bare hvis|bara om|"
+        "endast om|afventer|avventer|avvaktar|melder tilbage|maste forst|jeszcze nie|"
+        "szkic|to propozycja|propozycja|potwierdze|do potwierdzenia|jeszcze mysle|"
+        "mysle nad|zastanawiam|nie jestem pew*|nieostateczn*|tylko jesli|tylko gdy|"
+        "czekam na odp*|dam znac|luonnos|ehdotus|vahvistan|ei viela|epavarma|harkitsen|"
+        "mietin|vain jos|javaslat|tervezet|vazlat|megerosit*|meg nem|csak ha|"
+        "nem biztos|meg gondol*|navrh|potvrdim|jeste ne|jeste to|rozmyslim|premyslim|"
+        "jen pokud|pouze pokud|nejsem si jist*|chernovik|esche ne|podtverzh*|tolko esli|"
+        "prosxedio|protasi"},
+    Row{Saying::Asks,
+        "=thoughts|=opinions|what do you think|what do you reckon|what you "
+        "reckon|would that work|"
+        "would this work|does that work|does this work|would it work|is that ok|"
+        "is this ok|okay like this|ok like this|is this legal|is that legal|"
+        "is this allowed|is that allowed|do you agree|any thoughts|any objections|"
+        "please advise|how does that|how does this|any better idea|any better ideas|"
+        "let me know|was meinst du|was meint ihr|was meinen sie|was haltst du|passt das|"
+        "geht das|quen penses|quen dis|que opinas|que te parece|que os parece|"
+        "que piensas|te parece bien|che ne pensi|che ne dici|che ne dite|va bene cosi|"
+        "o que acha*|que acha*|que achas|wat denk je|wat vind je|wat vinden|hvad synes|"
+        "hva synes|vad tycker|hvad siger|hva sier|vad sager|co myslisz|co sadzisz|"
+        "co o tym|co ty na to|mit szolsz|co na to|mita mielta|how about this|"
+        "how about these|how about that|a better idea|is that a good idea|should i rather|"
+        "should i instead"},
+    Row{Saying::Titles,
+        "draft|drafts|example|examples|sample|samples|proposal|proposals|suggestion|"
+        "suggestions|results|last turn|last season|last year|previous turn|"
+        "previous season|previous orders|old version|old orders|last moves|plan b|"
+        "backup|backup orders|fallback|contingency|original plan|next turn|next season|"
+        "trial|practice|theoretical|hypothetically|dream moves|joke orders|other game|"
+        "letzter zug|letzte runde|vorschlag|alte befehle|bisherige befehle|nachster zug|"
+        "nachste runde|beispiel|ergebnis|ergebnisse|entwurf|dernier tour|tour precedent|"
+        "proposition|anciens ordres|ordres precedents|prochain tour|exemple|resultats|"
+        "brouillon|ultimo turno|turno anterior|turno pasado|proximo turno|propuesta|"
+        "ejemplo|resultados|borrador|turno precedente|turno scorso|prossimo turno|"
+        "proposta|esempio|risultati|bozza|turno passado|exemplo|rascunho|vorige beurt|"
+        "volgende beurt|voorstel|oude orders|voorbeeld|uitslag|sidste tur|forrige tur|"
+        "naste tur|neste runde|nasta runda|forra rundan|forslag|udkast|utkast|eksempel|"
+        "exempel|gamle ordrer|gamle ordre|gamla order|resultater|resultat|propozycja|"
+        "szkic|przyklad|wyniki|poprzednia tura|nastepna tura|stare rozkazy|luonnos|"
+        "ehdotus|esimerkki|javaslat|tervezet|pelda|navrh|priklad|chernovik|primer"},
+    Row{Saying::Corrects,
+        "changed my mind|change my mind|change of mind|change of plan|change of plans|"
+        "change of heart|scrap that|scratch that|forget that|strike that|final version|"
+        "these are final|these are my final|i mean|i meant|make that|should be|"
+        "should read|should have been|use these|use this instead|these instead|"
+        "this instead|ignore my previous|ignore the previous|ignore my last|"
+        "ignore my earlier|ignore the above|disregard my|disregard the|one correction|"
+        "small correction|quick correction|a correction|slight correction|one change|"
+        "small change|slight change|with one change|habe mich vertan|meinung geandert|"
+        "je me suis trompe|me equivoque|mi sono sbagliato|ho cambiato idea|change d avis|"
+        "changement d avis|verbeterde versie|angrat mig|ombestemt|zmiana zdania|"
+        "scratch that last one|scrap that one"},
+    Row{Saying::Shrugs,
+        "no hard feelings|lump it|tough luck|serves him right|nicht bose|selber schuld|"
+        "pech gehabt|tant pis|peor para|peggio per|pior para"},
+    Row{Saying::Reconsiders,
+        "no|nope|nah|nay|wait|hang on|actually|rather|hmm|hm|oops|whoops|ooops|"
+        "sorry|apologies|better|on reflection|second thought|second thoughts|not that|"
+        "i mean|i meant|make that|scratch that|strike that|scrap that|correction|"
+        "my mistake|my bad|instead|nein|nee|doch|lieber|besser|quatsch|moment|stopp|"
+        "verzeihung|korrektur|non|plutot|en fait|enfin|pardon|attends|attendez|mieux|"
+        "erreur|anzi|aspetta|aspetti|meglio|invece|scusa|scusate|mejor|espera|"
+        "perdon|en realidad|nao|alias|melhor|na verdade|afinal|desculpa|digo|wacht|"
+        "liever|toch|eigenlijk|foutje|nej|nei|vent|hellere|heller|alligevel|"
+        "egentlig|egentligen|vanta|hellre|snarare|undskyld|unnskyld|forlat|nie|"
+        "czekaj|raczej|jednak|wlasciwie|przepraszam"},
+};
+
+/// Of a word of a phrase that only tells how the word begins, the letters by which it is found.
+constexpr std::size_t StemLength = 4;
+
+bool IsStem(std::string_view word) {
+  return word.ends_with('*');
+}
+
+bool Matches(const Token& token, std::string_view word) {
+  if (!IsStem(word)) return IsWord(token, word);
+  word.remove_suffix(1);
+  return IsA(token, TokenKind::Word) && std::string_view(token.Text).starts_with(word);
+}
+
+struct Phrase {
+  Saying Says;
+  std::vector<std::string_view> Words;
+  bool IsAll = false;  ///< no other words stand in the line
+};
+
+/// All phrases by their first word, or by the first letters of a stem.
+using PhraseTable = std::unordered_map<std::string_view, std::vector<Phrase>>;
+
+PhraseTable AllPhrases(bool areStems) {
+  PhraseTable table;
+  for (const Row& row : Rows) {
+    for (const std::string_view phrase : Parts(row.Phrases, '|')) {
+      const bool isAll = phrase.starts_with('=');
+      std::vector<std::string_view> words = Parts(phrase.substr(isAll ? 1 : 0), ' ');
+      const std::string_view first = words[0];
+      if (IsStem(first) != areStems) continue;
+      table[areStems ? first.substr(0, StemLength) : first].push_back(
+          {row.Says, std::move(words), isAll});
+    }
+  }
+  return table;
+}
+
+std::size_t CountWords(Tokens tokens) {
+  return static_cast<std::size_t>(std::ranges::count(tokens, TokenKind::Word, &Token::Kind));
+}
+
+/// The length of the phrase that says so at a token, or 0.
+std::size_t LengthAt(Tokens tokens, std::size_t at, Saying saying) {
+  static const std::array tables{AllPhrases(false), AllPhrases(true)};
+  const std::string_view word = tokens[at].Text;
+  const std::array keys{word, word.substr(0, StemLength)};
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    const auto found = tables[i].find(keys[i]);
+    if (found == tables[i].end()) continue;
+    for (const Phrase& phrase : found->second) {
+      if (phrase.Says != saying || phrase.Words.size() > tokens.size() - at) continue;
+      if (phrase.IsAll && CountWords(tokens) != phrase.Words.size()) continue;
+      const bool isHere = std::equal(
+          phrase.Words.begin(), phrase.Words.end(),
+          tokens.begin() + static_cast<std::ptrdiff_t>(at),
+          [](std::string_view expected, const Token& token) { return Matches(token, expected); });
+      if (isHere) return phrase.Words.size();
+    }
+  }
+  return 0;
+}
+
+}  // namespace
+
+std::optional<TokenRange> FindSaying(Tokens tokens, Saying saying) {
+  for (std::size_t at = 0; at < tokens.size(); ++at) {
+    if (tokens[at].Kind != TokenKind::Word) continue;
+    if (const std::size_t length = LengthAt(tokens, at, saying); length > 0)
+      return TokenRange{at, at + length};
+  }
+  return std::nullopt;
+}
+
+}  // namespace orb::exchange
