@@ -5,6 +5,7 @@
 #include "model/place.h"
 #include "render/drawing.h"
 #include "render/order_drawing.h"
+#include "render/parts.h"
 #include "render/symbols.h"
 
 #include <algorithm>
@@ -39,6 +40,7 @@ void DrawOwnerBox(Surface& surface, Point corner, std::string_view label, model:
 void DrawLabel(Surface& surface, const GameState& game, const settings::MapOptions& options,
                int row) {
   const model::Province& province = game.Map->Provinces[row];
+  const DrawnPart part(surface, game, row);
   const std::string_view label = LabelText(province);
   const Point corner = LabelCorner(surface, province);
   PrintAt(surface, corner, label);
@@ -150,6 +152,7 @@ void DrawUnits(Surface& surface, const GameState& game, settings::MapMode mode, 
     const model::Province& province = model::PlaceOf(*game.Map, unit.Location);
     // Only now, so that a unit in no known place is an error even where it would not be drawn.
     if (unit.Status != (dislodged ? model::Dislodged : std::string_view{})) continue;
+    const DrawnPart part(surface, unit);
     DrawUnit(surface, style, unit.UnitType, dislodged ? LabelPoint(province) : UnitPoint(province),
              power, dislodged ? DislodgedScale : 1.0);
   }
@@ -158,6 +161,7 @@ void DrawUnits(Surface& surface, const GameState& game, settings::MapMode mode, 
 void DrawCentreOwners(Surface& surface, const GameState& game, settings::MapMode mode) {
   for (int row = 1; row <= game.Map->Provinces.Count(); ++row) {
     if (game.Map->Provinces[row].IsSupplyCentre != 0) {
+      const DrawnPart part(surface, game, row);
       DrawCentreOwnerMarker(surface, game, mode, row);
     }
   }

@@ -4,6 +4,7 @@
 #include "model/place.h"
 #include "render/drawing.h"
 #include "render/order_strokes.h"
+#include "render/parts.h"
 #include "render/symbols.h"
 #include "settings/map_options.h"
 
@@ -53,6 +54,12 @@ class Artist {
  public:
   Artist(Surface& surface, const model::GameState& game, settings::MapMode mode)
       : surface_(surface), game_(game), mode_(mode) {}
+
+  /// Draws one of the following for an order, as a part of the picture.
+  void Draw(void (Artist::*what)(const OrderRoute&) const, const OrderRoute& route) const {
+    const DrawnPart part(surface_, *route.Order);
+    (this->*what)(route);
+  }
 
   /// A move or a retreat. A failed one runs on beyond its bar in dashes, to show where it headed.
   void DrawArrow(const OrderRoute& route) const {
@@ -197,15 +204,15 @@ void DrawOrdersBelowUnits(Surface& surface, const model::GameState& game,
     return route.Order->Outcome == Outcome::Void;
   });
   for (const OrderRoute& route : sorted) {
-    if (IsRing(route)) artist.DrawRing(route);
-    if (route.Order->Kind == orders::OrderKind::Convoy) artist.DrawConvoy(route);
-    if (IsSupportLine(route)) artist.DrawSupport(route);
+    if (IsRing(route)) artist.Draw(&Artist::DrawRing, route);
+    if (route.Order->Kind == orders::OrderKind::Convoy) artist.Draw(&Artist::DrawConvoy, route);
+    if (IsSupportLine(route)) artist.Draw(&Artist::DrawSupport, route);
   }
   for (const OrderRoute& route : sorted) {
-    if (!IsSupportLine(route) && !route.Way.Line.empty()) artist.DrawArrow(route);
+    if (!IsSupportLine(route) && !route.Way.Line.empty()) artist.Draw(&Artist::DrawArrow, route);
   }
   for (const OrderRoute& route : sorted) {
-    if (IsSupportLine(route)) artist.DrawSupportEnd(route);
+    if (IsSupportLine(route)) artist.Draw(&Artist::DrawSupportEnd, route);
   }
 }
 
@@ -213,8 +220,8 @@ void DrawOrdersAboveUnits(Surface& surface, const model::GameState& game,
                           std::span<const OrderRoute> routes, settings::MapMode mode) {
   const Artist artist(surface, game, mode);
   for (const OrderRoute& route : routes) {
-    if (route.Order->Kind == orders::OrderKind::Disband) artist.DrawDisband(route);
-    if (route.Order->Kind == orders::OrderKind::Build) artist.DrawBuild(route);
+    if (route.Order->Kind == orders::OrderKind::Disband) artist.Draw(&Artist::DrawDisband, route);
+    if (route.Order->Kind == orders::OrderKind::Build) artist.Draw(&Artist::DrawBuild, route);
   }
 }
 

@@ -42,6 +42,14 @@ class Surface {
   /// Paints the whole surface with the picture of a file. Throws FileError, nothing painted.
   virtual void LoadPicture(const std::filesystem::path& file) = 0;
 
+  /// What a part of the picture shows.
+  enum class Part { Province, Unit, Order };
+
+  /// Everything until EndPart shows this one, whose title is for whoever reads or points at it.
+  /// Means nothing to surfaces that only paint. Parts lie in no other.
+  virtual void BeginPart(Part /*part*/, std::string_view /*name*/, std::string_view /*title*/) {}
+  virtual void EndPart() {}
+
   /// Paints the whole surface white and puts the text cursor at its top left corner.
   void Clear();
 

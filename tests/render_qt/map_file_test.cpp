@@ -11,11 +11,16 @@
 
 #include <QBuffer>
 #include <QImage>
+#include <QPainter>
+#include <QSvgRenderer>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
+#include <regex>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -154,13 +159,16 @@ TEST_F(MapFile, EveryFormatHoldsTheMap) {
               AllOf(StartsWith("%PDF-"), HasSubstr("/MediaBox [0 0 150.000000 120.000000]"),
                     HasSubstr("/Width 400\n/Height 320\n")));
   EXPECT_THAT(Saved(MapFormat::Svg, 800),
-              AllOf(HasSubstr("viewBox=\"0 0 800 640\""), HasSubstr("<image "), HasSubstr(">Lon<"),
-                    HasSubstr(Fill().name().toStdString())));
+              AllOf(HasSubstr("viewBox=\"0 0 800 640\""), HasSubstr("width=\"105.8mm\""),
+                    HasSubstr("<image "), HasSubstr(Fill().name().toStdString())));
 }
 
-TEST_F(MapFile, ATitleIsNoMarkupInAPicture) {
-  game_.Title = "Tom & </title><script>";
-  EXPECT_THAT(Saved(MapFormat::Svg), HasSubstr("Tom &amp; &lt;/title&gt;&lt;script&gt;"));
+TEST_F(MapFile, ATextIsNoMarkupInAPicture) {
+  game_.Title = "Tom & </title><script>\x01\x80\x81";
+  game_.Provinces[1].Owner = "\"<b>'";
+  EXPECT_THAT(Saved(MapFormat::Svg),
+              AllOf(HasSubstr("<title>Tom &amp; &lt;/title&gt;&lt;script&gt;?\u20AC?</title>"),
+                    HasSubstr("<title>London (&quot;&lt;b&gt;&#39;)</title>")));
 }
 
 TEST_F(MapFile, AFailedSaveLeavesTheOldFile) {
@@ -198,6 +206,71 @@ TEST(RealMapPicture, UnitsOfTheStartStandInTheirColours) {
   for (const MapMode mode : {MapMode::Grey, MapMode::BlackWhite}) {
     EXPECT_TRUE(render::MapImage(game, {mode, true, false, true}, DataDirectory(), 500, pictures)
                     .isGrayscale());
+  }
+}
+
+/// How many pixels of two pictures differ plainly when they are seen from further away: the places
+/// at which letters are laid on pixels may differ a little.
+int PixelsApart(const QImage& one, const QImage& other) {
+  const auto small = [](const QImage& picture) {
+    return picture.scaledToWidth(500, Qt::SmoothTransformation);
+  };
+  const QImage first = small(one);
+  const QImage second = small(other);
+  int apart = 0;
+  for (int i = 0; i < first.width() * first.height(); ++i) {
+    const QPoint at(i % first.width(), i / first.width());
+    const QColor a = first.pixelColor(at);
+    const QColor b = second.pixelColor(at);
+    apart += std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) +
+                         std::abs(a.blue() - b.blue()) >
+                     90
+                 ? 1
+                 : 0;
+  }
+  return apart;
+}
+
+TEST(RealMapPicture, AVectorFileShowsTheSameAndNamesItsParts) {
+  model::GameState game = model::EmptyGame(RealMap());
+  model::NewGame(game, DataDirectory());
+  game.Units[1].Status = model::Dislodged;
+  using orders::OrderKind;
+  using orders::Outcome;
+  const std::vector<orders::OrderOutcome> orders = {
+      {"FRA", "A", "Par", OrderKind::Move, "", "Bur", false, Outcome::Failed},
+      {"FRA", "A", "Mar", OrderKind::Support, "Par", "Bur", false, Outcome::Cut},
+      {"RUS", "F", "Stp.s", OrderKind::Hold, "", "", false, Outcome::Succeeded}};
+  PictureCache pictures;
+  TemporaryDirectory directory;
+  const fs::path file = directory.Path() / "map.svg";
+  const MapOptions options{MapMode::Colour3D, true, true, true};
+  render::SaveMap(game, options, DataDirectory(), 0, pictures, file, MapFormat::Svg, orders);
+  const std::string svg = model::ReadFile(file);
+  EXPECT_LE(svg.size(), 900'000U);
+
+  const QImage expected = render::MapImage(game, options, DataDirectory(), 0, pictures, orders);
+  QImage shown(expected.size(), QImage::Format_RGB32);
+  QPainter painter(&shown);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  QSvgRenderer(QByteArray::fromStdString(svg)).render(&painter);
+  EXPECT_LE(PixelsApart(expected, shown), 5);
+
+  std::set<std::string> ids;
+  const std::regex id("id=\"([^\"]*)\"");
+  for (std::sregex_iterator at(svg.begin(), svg.end(), id); at != std::sregex_iterator(); ++at)
+    EXPECT_TRUE(ids.insert((*at)[1]).second) << (*at)[1];
+  for (const model::Province& province : game.Map->Provinces) {
+    std::string name = "province-" + province.Name;
+    std::replace(name.begin(), name.end(), '.', '-');
+    EXPECT_EQ(ids.count(name), 1U) << name;
+  }
+  for (const char* part :
+       {"id=\"unit-Lvp\" class=\"unit\"><title>ENG A(Lvp)</title>",
+        "<title>ENG F(Lon), dislodged</title>", "<title>London (ENG)</title>",
+        "id=\"order-FRA-Par\" class=\"order\"><title>FRA A(Par) - Bur: failed</title>",
+        "<title>FRA A(Mar) S Par - Bur: cut</title>", "<title>RUS F(Stp.s) hold</title>"}) {
+    EXPECT_THAT(svg, HasSubstr(part));
   }
 }
 

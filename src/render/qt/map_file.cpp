@@ -5,13 +5,16 @@
 #include "render/map_view.h"
 #include "render/qt/canvas.h"
 #include "render/qt/painter_surface.h"
+#include "render/qt/qt_svg_material.h"
+#include "render/svg_surface.h"
 #include "settings/map_options.h"
 #include "text/qt/text_codec.h"
 
 #include <QBuffer>
 #include <QPageSize>
 #include <QPdfWriter>
-#include <QSvgGenerator>
+
+#include <string>
 
 namespace orb::render {
 namespace {
@@ -56,15 +59,14 @@ void WriteImage(const Job& job, QBuffer& buffer, const char* format) {
 
 /// The drawing's unit is the canvas's pixel; the resolution tells viewers how large one is.
 void WriteSvg(const Job& job, QBuffer& buffer) {
-  QSvgGenerator generator;
-  generator.setOutputDevice(&buffer);
-  generator.setResolution(qRound(job.Size.PixelsPerInch));
-  generator.setSize(job.Size.Pixels);
-  generator.setViewBox(QRect(QPoint(0, 0), job.Size.Pixels));
-  // Qt writes it as it stands between its tags.
-  generator.setTitle(text::ToQString(job.Game.Title).toHtmlEscaped());
-  QPainter painter(&generator);
-  Draw(job, painter, QRectF(QPointF(0, 0), QSizeF(job.Size.Pixels)));
+  QtSvgMaterial material(job.Pictures);
+  SvgDefinitions definitions(material, job.Size.Twips.width() / job.Size.Pixels.width());
+  SvgSurface surface(definitions, {job.Size.Twips.width(), job.Size.Twips.height()});
+  RenderMap(job.Game, job.Options, job.DataDirectory, surface, job.Orders);
+  const std::string file =
+      SvgDocument(surface, definitions, job.Game.Title, job.Size.Pixels.width(),
+                  job.Size.Pixels.height(), job.Size.PixelsPerInch);
+  buffer.write(file.data(), static_cast<qint64>(file.size()));
 }
 
 /// One page of just the map's size, at the background's own resolution, without margins.

@@ -1,6 +1,7 @@
 #include "render/qt/painter_surface.h"
 
 #include "colour/qt/colours.h"
+#include "render/qt/map_font.h"
 #include "text/qt/text_codec.h"
 
 #include <QPaintEngine>
@@ -14,15 +15,6 @@ namespace {
 
 QPointF ToQPoint(Point point) {
   return {point.X, point.Y};
-}
-
-/// The map's font. The painter's unit is a twip, so a font's size "in pixels" is one in twips.
-/// Without hinting, texts keep their proportions at every scale.
-QFont MapFont() {
-  QFont font(QStringList{QStringLiteral("Open Sans"), QStringLiteral("sans-serif")});
-  font.setStyleHint(QFont::SansSerif);
-  font.setHintingPreference(QFont::PreferNoHinting);
-  return font;
 }
 
 /// Degrees as the painter counts them: sixteenths.
@@ -39,7 +31,7 @@ PainterSurface::PainterSurface(QPainter& painter, const QRectF& target, QSizeF t
       outer_(painter.worldTransform()),
       twips_(twips),
       pictures_(pictures),
-      font_(MapFont()),
+      font_(MapFont(8, false, false)),
       metrics_(font_) {
   painter_.save();
   painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "render/qt/picture_cache.h"
+#include "render/svg_material.h"
+
+#include <QRawFont>
+#include <QString>
+
+#include <map>
+#include <tuple>
+
+namespace orb::render {
+
+/// The shapes of texts in the map's font and pictures, by Qt. Needs an application object.
+class QtSvgMaterial : public SvgMaterial {
+ public:
+  /// The cache must outlive the material.
+  explicit QtSvgMaterial(PictureCache& pictures) : pictures_(pictures) {}
+
+  double Width(const TextFont& font, std::string_view text) override;
+  double Height(const TextFont& font) override;
+  std::vector<PlacedGlyph> Shape(const TextFont& font, std::string_view text) override;
+  std::vector<OutlineStep> Outline(int glyph) override;
+  std::string Png(const std::filesystem::path& file) override;
+
+ private:
+  /// A glyph of one of the fonts that a text falls back to.
+  struct Known {
+    QRawFont Font;
+    quint32 Index = 0;
+  };
+
+  PictureCache& pictures_;
+  std::map<std::pair<QString, quint32>, int> numbers_;  ///< by font and index
+  std::vector<Known> glyphs_;
+  std::map<std::filesystem::path, std::string> pngs_;
+};
+
+}  // namespace orb::render
