@@ -2,12 +2,8 @@
 
 #include "model/country.h"
 
-#include <string>
-
 namespace orb::model {
-namespace {
 
-/// "a unit's power (one of ENG, FRA, ...)".
 std::string ExpectedPower(std::string_view expected) {
   std::string text(expected);
   std::string_view before = " (one of ";
@@ -17,8 +13,6 @@ std::string ExpectedPower(std::string_view expected) {
   }
   return text + ")";
 }
-
-}  // namespace
 
 std::string_view ReadPower(RecordReader& reader) {
   constexpr std::string_view expected = "a unit's power";

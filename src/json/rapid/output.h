@@ -1,0 +1,88 @@
+#pragma once
+
+#include <cstdint>
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+#include <string>
+#include <string_view>
+
+namespace orb::json {
+
+/// Writes one JSON value, on one line. Texts are given as the core has them, in Windows-1252;
+/// names of members are plain ASCII.
+class Output {
+ public:
+  /// An object of the members that `fill` writes.
+  template <class Fill>
+  void Object(const Fill& fill) {
+    writer_.StartObject();
+    fill();
+    writer_.EndObject();
+  }
+
+  /// An array of what `write` writes for each of the items.
+  template <class Items, class Write>
+  void Array(const Items& items, const Write& write) {
+    writer_.StartArray();
+    for (const auto& item : items)
+      write(item);
+    writer_.EndArray();
+  }
+
+  void Key(std::string_view name) { writer_.Key(name.data(), Size(name)); }
+  void Text(std::string_view text);
+  void Utf8(std::string_view text) { writer_.String(text.data(), Size(text)); }
+  void Number(std::int64_t number) { writer_.Int64(number); }
+  void Flag(bool flag) { writer_.Bool(flag); }
+
+  /// A value that is JSON already.
+  void Raw(std::string_view json) {
+    writer_.RawValue(json.data(), json.size(), rapidjson::kStringType);
+  }
+
+  // Members of the object that is being written.
+
+  void Member(std::string_view name, std::string_view text) {
+    Key(name);
+    Text(text);
+  }
+  void Member(std::string_view name, int number) {
+    Key(name);
+    Number(number);
+  }
+  void Member(std::string_view name, bool flag) {
+    Key(name);
+    Flag(flag);
+  }
+
+  /// A text that is left out where it is empty: that is what its absence means.
+  void MemberUnlessEmpty(std::string_view name, std::string_view text) {
+    if (!text.empty()) Member(name, text);
+  }
+
+  /// A flag that is left out where it is false.
+  void MemberIfTrue(std::string_view name, bool flag) {
+    if (flag) Member(name, true);
+  }
+
+  /// An array of texts.
+  template <class Lines>
+  void Texts(std::string_view name, const Lines& texts) {
+    Key(name);
+    Array(texts, [&](const auto& text) { Text(text); });
+  }
+
+  /// What was written. The output may be used for the next value after Clear.
+  std::string_view Written() const { return {buffer_.GetString(), buffer_.GetSize()}; }
+  void Clear();
+
+ private:
+  static rapidjson::SizeType Size(std::string_view text) {
+    return static_cast<rapidjson::SizeType>(text.size());
+  }
+
+  rapidjson::StringBuffer buffer_;
+  rapidjson::Writer<rapidjson::StringBuffer> writer_{buffer_};
+};
+
+}  // namespace orb::json
