@@ -65,6 +65,42 @@ constexpr std::string_view FurtherLetters =
 constexpr char32_t FirstFurther = 0x100;
 static_assert(FurtherLetters.size() == 0x80);
 
+/// The Greek capitals from U+0391 and Cyrillic ones from U+0410 on, in Latin letters; the small
+/// ones follow in the same order.
+constexpr std::array<std::string_view, 25> Greek{"a", "v", "g", "d", "e",  "z",  "i", "th", "i",
+                                                 "k", "l", "m", "n", "x",  "o",  "p", "r",  "s",
+                                                 "s", "t", "y", "f", "ch", "ps", "o"};
+constexpr std::array<std::string_view, 32> Cyrillic{
+    "a", "b", "v", "g", "d", "e",  "zh", "z",  "i",  "y",    "k", "l", "m", "n", "o",  "p",
+    "r", "s", "t", "u", "f", "kh", "ts", "ch", "sh", "shch", "",  "y", "",  "e", "yu", "ya"};
+constexpr char32_t FirstGreek = 0x391;
+constexpr char32_t FirstCyrillic = 0x410;
+
+/// A Greek or Cyrillic letter in small Latin ones; nothing for other characters.
+std::optional<std::string_view> LatinForm(char32_t character) {
+  constexpr std::array<std::pair<char32_t, std::string_view>, 9> accented{{{0x3AC, "a"},
+                                                                           {0x3AD, "e"},
+                                                                           {0x3AE, "i"},
+                                                                           {0x3AF, "i"},
+                                                                           {0x3CC, "o"},
+                                                                           {0x3CD, "y"},
+                                                                           {0x3CE, "o"},
+                                                                           {0x401, "e"},
+                                                                           {0x451, "e"}}};
+  for (const auto& [letter, form] : accented) {
+    if (letter == character) return form;
+  }
+  const auto formIn = [&](const auto& letters, char32_t first) -> std::optional<std::string_view> {
+    constexpr char32_t toSmall = 0x20;
+    const char32_t place = character - first;
+    if (character < first || place >= 2 * toSmall) return std::nullopt;
+    if (place % toSmall >= letters.size()) return std::nullopt;
+    return letters[place % toSmall];
+  };
+  const auto greek = formIn(Greek, FirstGreek);
+  return greek ? greek : formIn(Cyrillic, FirstCyrillic);
+}
+
 /// The plain form of a character, or nothing.
 std::optional<std::string_view> PlainForm(char32_t character) {
   if (character >= FirstLetter && character < FirstLetter + Letters.size()) {
@@ -128,6 +164,11 @@ Span PlainText::Written(std::size_t begin, std::size_t end) const {
 
 PlainText ToPlain(std::string_view line, std::size_t offset, References references) {
   const bool isUtf8 = text::IsUtf8(line);
+  // A letter alone may have been taken for the Latin one that looks like it.
+  bool wasForeign = false;
+  const auto isForeign = [&](std::string_view text) {
+    return !text.empty() && LatinForm(NextCharacter(text, isUtf8)).has_value();
+  };
   PlainText plain;
   plain.Text.reserve(line.size());
   plain.Origins.reserve(line.size());
@@ -136,6 +177,7 @@ PlainText ToPlain(std::string_view line, std::size_t offset, References referenc
       plain.Text += line[0];
       plain.Origins.push_back({offset++, 1});
       line.remove_prefix(1);
+      wasForeign = false;
       continue;
     }
     std::string_view rest = line;
@@ -144,7 +186,10 @@ PlainText ToPlain(std::string_view line, std::size_t offset, References referenc
     if (!meant) meant = NextMistaken(rest, isUtf8);
     const char32_t character = meant ? *meant : NextCharacter(rest, isUtf8);
     const std::string_view bytes = line.substr(0, line.size() - rest.size());
-    if (const auto form = PlainForm(character)) {
+    const auto latin = LatinForm(character);
+    if (latin && (wasForeign || isForeign(rest))) {
+      plain.Text += *latin;
+    } else if (const auto form = PlainForm(character)) {
       plain.Text += *form;
     } else if (isReference) {
       text::AppendUtf8(plain.Text, character);
@@ -154,6 +199,7 @@ PlainText ToPlain(std::string_view line, std::size_t offset, References referenc
     // A character may become several bytes, "->", or none: each byte points back to the whole
     // character.
     plain.Origins.resize(plain.Text.size(), {offset, bytes.size()});
+    wasForeign = latin.has_value();
     offset += bytes.size();
     line = rest;
   }

@@ -16,7 +16,8 @@ struct Span {
 
 /// A line with its typography made plain, and for every byte where it was written. Dashes of all
 /// lengths are "-" or "--", arrows "->", special blanks blanks, quotes straight, letters without
-/// accents; invisible characters are gone. What has no plain form stays as its bytes.
+/// accents, Greek and Cyrillic ones in Latin; invisible characters are gone. What has no plain form
+/// stays as its bytes.
 struct PlainText {
   std::string Text;
   std::vector<Span> Origins;  ///< one a byte of Text

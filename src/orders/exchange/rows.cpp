@@ -12,6 +12,21 @@ namespace {
 /// How many words and signs a greeting before an order has at most: "Hi Tom, A Par - Bur".
 constexpr std::size_t LongestGreeting = 4;
 
+/// Whether words before an order are a title of it: "Orders of Turkey, with love: the".
+bool IsTitle(Tokens words, int power) {
+  const auto last = std::find_if_not(words.rbegin(), words.rend(), [](const Token& token) {
+    return HasUse(token, WordUse::Filler) || IsWord(token, "het") || IsWord(token, "o");
+  });
+  if (last == words.rend() || !IsA(*last, TokenKind::Colon)) return false;
+  const Tokens title = words.first(static_cast<std::size_t>(words.rend() - last));
+  const bool isOpen = std::ranges::any_of(title, [](const Token& token) {
+    return HasUse(token, WordUse::Condition) || IsDoubtfulSign(token);
+  });
+  const int named = PowerIn(title);
+  if (isOpen || ReadAside(title) || IsReport(title) || Reconsiders(title)) return false;
+  return named == power || (named == 0 && IsOwnTitle(title));
+}
+
 }  // namespace
 
 void Rows::BeginLine(bool isOlder, bool inSignature) {
@@ -184,7 +199,7 @@ bool Rows::IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const
       own.insert(own.end(), words.begin(), words.end());
   }
   const Tokens remark = line.Part(said.At);
-  if (IsAddress(remark, said.At.Begin == 0, power)) return false;
+  if (IsAddress(remark, said.At.Begin == 0, power) || IsTitle(remark, power)) return false;
   // Before an order such words put it in the place of another one, behind it another in its place.
   const bool isBefore = std::ranges::any_of(
       understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
