@@ -6,6 +6,8 @@
 #include "text/strings.h"
 
 #include <algorithm>
+#include <array>
+#include <string_view>
 
 namespace orb::exchange {
 namespace {
@@ -19,10 +21,32 @@ int PlaceAt(Tokens tokens, std::size_t at, const PlaceNames& names) {
   return matches.empty() || matches[0].Rows.size() != 1 ? 0 : matches[0].Rows[0];
 }
 
-/// Whether any word speaks of orders: a verb, a unit, the word itself.
+/// Whether a line that begins with a place may order something there: it is short, or a verb stands
+/// near the place.
+bool MayOrder(Tokens tokens, std::size_t place, const PlaceNames& names) {
+  constexpr std::ptrdiff_t few = 6;
+  constexpr std::size_t near = 3;
+  if (std::ranges::count(tokens, TokenKind::Word, &Token::Kind) <= few) return true;
+  const std::size_t next = names.At(tokens, place)[0].Next;
+  const Tokens behind = tokens.subspan(next, std::min(near, tokens.size() - next));
+  return std::ranges::any_of(
+      behind, [](const Token& token) { return VerbOf(token) != Verb::None && token.Text != "--"; });
+}
+
+/// Whether a unit's type stands before a token: "F Nwy".
+bool IsUnitAt(Tokens tokens, std::size_t at) {
+  return at > 0 && UnitTypeOf(tokens[at - 1]) != 0;
+}
+
+/// Whether any word speaks of orders: a verb, but none such as "to", a unit, the word itself.
 bool SpeaksOfOrders(Tokens tokens) {
-  return std::ranges::any_of(tokens, [](const Token& token) {
-    return VerbOf(token) != Verb::None || (UnitTypeOf(token) != 0 && token.Text.size() > 1) ||
+  constexpr std::array<std::string_view, 15> prepositions{"to",   "into", "nach", "zum",  "zur",
+                                                          "vers", "al",   "alla", "para", "naar",
+                                                          "til",  "mot",  "till", "nel",  "hacia"};
+  return std::ranges::any_of(tokens, [&](const Token& token) {
+    const bool isVerb = VerbOf(token) != Verb::None &&
+                        std::ranges::find(prepositions, token.Text) == prepositions.end();
+    return isVerb || (UnitTypeOf(token) != 0 && token.Text.size() > 1) ||
            HasUse(token, WordUse::Orders);
   });
 }
@@ -60,10 +84,12 @@ Concern ConcernOf(Tokens tokens, const PlaceNames& names, const model::Map& map)
     ++first;
   if (first == tokens.size()) return concern;
   const bool isTyped = UnitTypeOf(tokens[first]) != 0;
+  // Words behind the name of a place that order nothing are prose: "VIENNA (AP) -- The Emperor".
+  const bool isOfPlace = !names.At(tokens, first).empty() && MayOrder(tokens, first, names);
   // A line that ends in a colon speaks of what is below it, and sets it aside or does not.
   const bool isTitle = IsA(tokens.back(), TokenKind::Colon);
   if (isTitle && !isTyped) return concern;
-  if (isTyped || !names.At(tokens, first).empty()) {
+  if (isTyped || isOfPlace) {
     for (std::size_t at = first; at < tokens.size() && concern.Provinces.empty(); ++at) {
       const auto matches = names.At(tokens, at);
       if (!matches.empty() && matches[0].Rows.size() == 1) add(matches[0].Rows[0]);
@@ -72,10 +98,15 @@ Concern ConcernOf(Tokens tokens, const PlaceNames& names, const model::Map& map)
   }
   // "Rather not the one to Armenia."
   concern.OfTargets = FindCondition(tokens) < tokens.size();
-  if (!concern.OfTargets && !SpeaksOfOrders(tokens)) return concern;
-  for (std::size_t at = 0; at < tokens.size(); ++at)
-    add(PlaceAt(tokens, at, names));
-  concern.MayBeAll = MakesCondition(tokens) && !IsOffer(tokens);
+  const bool isOfOrders = concern.OfTargets || SpeaksOfOrders(tokens);
+  for (std::size_t at = 0; at < tokens.size(); ++at) {
+    if (isOfOrders || IsUnitAt(tokens, at)) add(PlaceAt(tokens, at, names));
+  }
+  if (!isOfOrders) return concern;
+  // Farther on a condition may be of anything: "the link does not work".
+  constexpr std::size_t few = 4;
+  const bool isOfAll = SpeaksOfOrders(tokens) || FindCondition(tokens) < few;
+  concern.MayBeAll = isOfAll && MakesCondition(tokens) && !IsOffer(tokens);
   return concern;
 }
 

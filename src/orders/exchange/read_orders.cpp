@@ -39,13 +39,14 @@ class TextReader {
   std::vector<ReadLine> Read(std::deque<SourceLine>& text) {
     for (const SourceLine& line : text)
       speakers_.Take(line.All, PastLineStart(line.All), known_.Names);
-    for (SourceLine& line : text) {
-      if (line.Bytes == TextSeparator) StartAnew();
-      const std::size_t before = rows_.Lines.size();
-      ReadLineOf(line);
-      LookAround(line, before);
-      if (before > 0 && before + 1 == rows_.Lines.size())
-        CheckGoesOn(rows_.Lines[before - 1], line);
+    for (std::size_t at = 0; at < text.size();) {
+      if (text[at].Bytes == TextSeparator) StartAnew();
+      SourceLine joined;
+      const std::size_t count = JoinParagraph(text, at, joined);
+      Take(count > 1 ? joined : text[at]);
+      for (std::size_t i = 1; i < count; ++i)
+        rows_.AddLine(text[at + i], context_.Power, LineKind::PassedOver);
+      at += count;
     }
     WeighOrders(rows_.Lines, rows_.Around.Rows(), known_.Stage,
                 PowerText(model::FindCountry(options_.Power)));
@@ -74,6 +75,45 @@ class TextReader {
   }
 
  private:
+  void Take(SourceLine& line) {
+    const std::size_t before = rows_.Lines.size();
+    ReadLineOf(line);
+    LookAround(line, before);
+    if (before > 0 && before + 1 == rows_.Lines.size()) CheckGoesOn(rows_.Lines[before - 1], line);
+  }
+
+  /// How many lines from one on are a paragraph that gives more orders as a whole than line by
+  /// line; 1, and nothing is joined, where it does not.
+  std::size_t JoinParagraph(const std::deque<SourceLine>& text, std::size_t first,
+                            SourceLine& joined) const {
+    constexpr std::size_t longest = 8;
+    std::size_t count = 1;
+    std::size_t size = text[first].Bytes.size();
+    while (count < longest && first + count < text.size() &&
+           MayGoOn(text[first + count - 1], text[first + count])) {
+      size += 1 + text[first + count++].Bytes.size();
+    }
+    if (count == 1 || size > LineBound) return 1;
+    JoinLines(joined, text, first, count, known_.Names);
+    const std::size_t whole = CountOrders(joined);
+    std::size_t single = 0;
+    for (std::size_t i = 0; i < count && single < whole; ++i)
+      single += CountOrders(text[first + i]);
+    return single < whole ? count : 1;
+  }
+
+  std::size_t CountOrders(const SourceLine& line) const {
+    std::size_t orders = 0;
+    Context context = context_;
+    const TokenRange all{PastLineStart(line.All), line.All.size()};
+    for (const TokenRange segment : Split(line.All, all, Seam::Semicolon)) {
+      const PartsRead parts = ReadSegment(line.All, segment, known_, context, inSignature_);
+      orders += static_cast<std::size_t>(
+          std::ranges::count_if(parts, [](const auto& part) { return IsUnderstood(part.second); }));
+    }
+    return orders;
+  }
+
   void StartAnew() {
     context_ = {model::FindCountry(options_.Power), Verb::None};
     inSignature_ = inPress_ = false;
@@ -230,7 +270,9 @@ class TextReader {
         Tokens(line.All).subspan(speakers_.Past(line.All, PastLineStart(line.All)));
     const auto places = known_.Names.At(tokens, 0);
     const bool goesOn = IsA(line.All[0], TokenKind::Dash);
-    return !goesOn && !places.empty() && places[0].Next == tokens.size();
+    // Several places have the name that some people have as well: "Noa".
+    return !goesOn && !places.empty() && places[0].Next == tokens.size() &&
+           places[0].Rows.size() == 1;
   }
 
   void LookAtSubject(const SourceLine& line, std::size_t first) {

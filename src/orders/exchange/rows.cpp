@@ -3,6 +3,7 @@
 #include "orders/exchange/doubts.h"
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/power_names.h"
+#include "orders/exchange/sayings.h"
 
 #include <algorithm>
 
@@ -152,6 +153,10 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
     const Tokens remark = line.Part(said.At);
     const bool isGreeting = remark.size() <= LongestGreeting &&
                             HasUse(remark[0], WordUse::Greeting) && !ReadAside(remark).has_value();
+    if (FindSaying(remark, Saying::Excludes)) {
+      Exclude(line, said);
+      continue;
+    }
     const bool isOwn =
         std::ranges::find(understood_, said.Sentence, &Understood::Sentence) != understood_.end();
     const bool isDoubted = !isGreeting && IsDoubted(line, said, isOwn);
@@ -173,6 +178,23 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
       Around.SetDoubt(order.Row, reason, line.Span(said.At), isReported);
     }
     if (!isOwn) Around.SetDoubtFrom(first, reason, line.Span(said.At));
+  }
+}
+
+/// The orders behind the words, up to other words, are those that are not meant: "(not F Kie -
+/// Hol)".
+void Rows::Exclude(const SourceLine& line, const Said& said) {
+  std::size_t end = line.All.size();
+  for (const Said& other : remarks_) {
+    // An "and" alone goes on.
+    const bool goesOn = other.At.End - other.At.Begin == 1;
+    if (other.At.Begin > said.At.End && !goesOn) end = std::min(end, other.At.Begin);
+  }
+  for (const Understood& order : understood_) {
+    const bool isBehind = order.At.Begin >= said.At.End && order.At.Begin < end;
+    if (order.Sentence != said.Sentence || !isBehind) continue;
+    Around.SetDoubt(order.Row, Quoted(line.Part(said.At)) + " excludes it", line.Span(said.At),
+                    true);
   }
 }
 

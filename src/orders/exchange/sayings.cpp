@@ -197,6 +197,11 @@ constexpr std::array Rows{
     Row{Saying::Shrugs,
         "no hard feelings|lump it|tough luck|serves him right|nicht bose|selber schuld|"
         "pech gehabt|tant pis|peor para|peggio per|pior para"},
+    Row{Saying::Excludes,
+        "=not|=nicht|=pas|=niet|=ikke|=inte|=instead of|=rather than|=statt|=anstatt|=anstelle von|"
+        "=au lieu de|=plutot que|=en lugar de|=en vez de|=invece di|=invece che|=em vez de|"
+        "=em lugar de|=in plaats van|=i stedet for|=istallet for|=i stallet for|=zamiast|=a nie|"
+        "=misto|=helyett|=eika"},
     Row{Saying::Reconsiders,
         "no|nope|nah|nay|wait|hang on|actually|rather|hmm|hm|oops|whoops|ooops|"
         "sorry|apologies|better|on reflection|second thought|second thoughts|not that|"

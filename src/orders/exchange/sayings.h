@@ -16,6 +16,7 @@ enum class Saying : std::uint8_t {
   Titles,      ///< sets aside those below, even without a colon
   Corrects,    ///< says that those below hold rather than those above
   Shrugs,      ///< leaves what may happen to itself: "if he minds, tough luck"
+  Excludes,    ///< before an order: it is the one that is not meant: "(not A Par - Pic)"
   Reconsiders  ///< before an order, or alone: the one above may be meant no longer
 };
 
