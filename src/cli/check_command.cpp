@@ -1,4 +1,4 @@
-#include "cli/command.h"
+#include "cli/commands.h"
 #include "cli/games.h"
 #include "cli/orders_source.h"
 #include "orders/order_list.h"
@@ -9,16 +9,23 @@
 namespace orb::cli {
 namespace {
 
-constexpr std::array Options{OptionId::Orders, OptionId::Loose, OptionId::Power,
-                             OptionId::AcceptDoubtful, OptionId::Rules};
+constexpr std::array Options{OptionId::Orders,         OptionId::Loose, OptionId::Power,
+                             OptionId::AcceptDoubtful, OptionId::Rules, OptionId::FilesFrom};
+
+constexpr Example Examples[] = {
+    {"what is wrong with the orders of a file", "check --orders s01.txt league.orb"},
+    {"with orders as they came from one power",
+     "check --loose --power FRA --orders from_france.txt league.orb"},
+    {"with orders that another program writes", "check --orders - league.orb"},
+};
 
 /// One line for each problem: of lines that were left out, of the orders as listed, of units
 /// without orders, of powers.
-std::string ProblemLines(const session::Situation& situation, const std::string& path,
-                         const std::vector<exchange::ReadLine>& leftOut) {
-  std::string text;
+std::vector<std::string> ProblemLines(const session::Situation& situation,
+                                      const std::vector<exchange::ReadLine>& leftOut) {
+  std::vector<std::string> lines;
   const auto add = [&](std::string_view subject, std::string_view problem) {
-    text.append(path).append(": ").append(subject).append(": ").append(problem).append("\n");
+    lines.push_back(std::string(subject).append(": ").append(problem));
   };
   for (const exchange::ReadLine& line : leftOut)
     add(line.Written, session::LeftOutReason(line));
@@ -32,7 +39,7 @@ std::string ProblemLines(const session::Situation& situation, const std::string&
     add(unit, "unordered");
   for (const auto& [power, problem] : check.Powers)
     add(power, problem);
-  return text;
+  return lines;
 }
 
 /// How the other rules read single lines, where that is otherwise: no problem, but worth knowing
@@ -57,18 +64,26 @@ int Execute(const CommandLine& line, Console& console) {
     const std::vector<exchange::ReadLine> leftOut =
         source.Take(at.Situation, at.Paths, at.Messages);
     at.Situation.Rules = rules;
-    const std::string text = ProblemLines(at.Situation, at.Paths.Game, leftOut);
-    console.Print(text);
+    const std::vector<std::string> problems = ProblemLines(at.Situation, leftOut);
+    for (const std::string& problem : problems) {
+      console.PrintPath(at.Paths.Game);
+      console.Print(std::string(": ").append(problem).append("\n"));
+    }
     SayOtherReadings(at.Situation, at.Paths.Game, console);
     // A game with problems counts as refused, which makes the exit status 1.
-    return text.empty();
+    return problems.empty();
   });
 }
 
 }  // namespace
 
-const Command CheckCommand{"check",
-                           "parses and checks the orders of the stage and lists every problem",
-                           Games::Several, Options, Execute};
+const Command CheckCommand{
+    .Name = "check",
+    .Summary = "parses and checks the orders of the stage and lists every problem",
+    .Takes = Games::Several,
+    .Options = Options,
+    .Examples = Examples,
+    .Execute = Execute,
+};
 
 }  // namespace orb::cli

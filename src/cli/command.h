@@ -3,6 +3,7 @@
 #include "cli/options.h"
 #include "session/rules.h"
 
+#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -11,31 +12,36 @@ namespace orb::cli {
 class Console;
 
 /// How many GAME arguments a command takes; OneAndOrder: a game, then the text of an order.
-enum class Games { None, One, Several, OneAndOrder };
+enum class Games : std::uint8_t { None, One, Several, OneAndOrder };
 
-/// One command of the program. Each lives in a source file of its own; the table in run.cpp gives
-/// the order in which the help lists them.
+/// A command line to learn from.
+struct Example {
+  std::string_view What;  ///< what it does
+  std::string_view Line;  ///< as it is typed, without the program's name
+};
+
+/// One command of the program: a row of the table that help, manual pages and completions come
+/// from. Each lives in a source file of its own; commands.cpp lists them.
 struct Command {
-  std::string_view Name;
-  std::string_view Summary;
+  std::string_view Name = {};
+  std::string_view Summary = {};
   Games Takes = Games::Several;
-  std::span<const OptionId> Options;  ///< those it knows in addition to those common to all
+  std::span<const OptionId> Options = {};  ///< those it knows in addition to those common to all
+  std::span<const Example> Examples = {};
+  std::string_view OutputName = "PATH";  ///< what -o names: "GAME", "PICTURE"; PATH: or a directory
 
   /// Carries it out and returns the exit status. Throws UsageError when the command line is wrong;
   /// nothing has been done then.
   int (*Execute)(const CommandLine& line, Console& console) = nullptr;
 };
 
+/// Whether the command takes the option, those common to all included.
+bool Knows(const Command& command, OptionId id);
+
+/// All commands, in the order of the help.
+std::span<const Command* const> AllCommands();
+
 /// The rules that the command line chooses; ORB's own without the option. Throws UsageError.
 session::Rules RulesOf(const CommandLine& line);
-
-extern const Command NewCommand;
-extern const Command ResolveCommand;
-extern const Command NextCommand;
-extern const Command UndoCommand;
-extern const Command CheckCommand;
-extern const Command WhatIfCommand;
-extern const Command ShowCommand;
-extern const Command MapCommand;
 
 }  // namespace orb::cli

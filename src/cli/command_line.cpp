@@ -1,30 +1,60 @@
 #include "cli/command_line.h"
 
+#include "cli/command.h"
+#include "cli/paths.h"
+#include "cli/suggestion.h"
+#include "model/files.h"
+
 #include <algorithm>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace orb::cli {
 namespace {
 
-bool Knows(const Command* command, OptionId id) {
-  // Options before the command can only be those that every command knows.
-  if (command == nullptr) return IsCommonOption(id);
-  return IsCommonOption(id) ||
-         std::find(command->Options.begin(), command->Options.end(), id) != command->Options.end();
+/// "orbctl help resolve" is another way to ask for what "orbctl resolve --help" gives.
+constexpr std::string_view HelpWord = "help";
+
+/// Options before the command can only be those that every command knows.
+bool IsKnown(const Command* command, const Option& option) {
+  return command == nullptr ? option.IsCommon : Knows(*command, option.Id);
 }
 
-const Command& FindCommand(const std::string& name, std::span<const Command* const> commands) {
-  for (const Command* command : commands) {
+const Command& FindCommand(const std::string& name) {
+  std::vector<std::string_view> names{HelpWord};
+  for (const Command* command : AllCommands()) {
     if (command->Name == name) return *command;
+    names.push_back(command->Name);
   }
-  throw UsageError("There is no command \"" + name + "\".");
+  throw UsageError("There is no command \"" + name + "\"." + Suggestion(name, names));
+}
+
+[[noreturn]] void RefuseOption(const Command* command, std::string_view name) {
+  std::vector<std::string_view> names;
+  for (const Option& option : AllOptions()) {
+    if (!IsKnown(command, option)) continue;
+    for (const std::string_view spelling : {option.Name, option.Other}) {
+      if (spelling.starts_with("--")) names.push_back(spelling);
+    }
+  }
+  std::string text = command == nullptr ? "" : std::string(command->Name) + ": ";
+  text.append("There is no option ").append(name).append(".");
+  throw UsageError(text.append(Suggestion(name, names)));
+}
+
+/// A path as the programs that are called by it have it; "-" stands for a stream.
+std::string WrittenOut(ValueKind kind, std::string value) {
+  if (value != "-") return value;
+  if (kind == ValueKind::FileToRead) return std::string(model::StandardInput);
+  if (kind == ValueKind::FileToWrite) return std::string(StandardOutput);
+  return value;
 }
 
 /// Goes through the arguments from left to right.
 class Reader {
  public:
-  Reader(std::span<const std::string> arguments, std::span<const Command* const> commands)
-      : arguments_(arguments), commands_(commands) {}
+  explicit Reader(std::span<const std::string> arguments) : arguments_(arguments) {}
 
   CommandLine Read() {
     while (next_ < arguments_.size()) {
@@ -33,43 +63,54 @@ class Reader {
         optionsEnded_ = true;
       } else if (!optionsEnded_ && argument.size() > 1 && argument.front() == '-') {
         ReadOption(argument);
-      } else if (line_.Verb == nullptr) {
-        line_.Verb = &FindCommand(argument, commands_);
       } else {
-        line_.Games.push_back(argument);
+        ReadWord(argument);
       }
     }
     return std::move(line_);
   }
 
  private:
-  void ReadOption(const std::string& argument) {
-    // As usual only long options take a value behind "="; "-o=x" is none that is known.
-    const std::size_t equals = argument.starts_with("--") ? argument.find('=') : std::string::npos;
-    const std::string_view name = std::string_view(argument).substr(0, equals);
-    const auto table = AllOptions();
-    const auto option =
-        std::find_if(table.begin(), table.end(), [&](const Option& o) { return o.Name == name; });
-    if (option == table.end() || !Knows(line_.Verb, option->Id)) {
-      const std::string command = line_.Verb == nullptr ? "" : std::string(line_.Verb->Name) + ": ";
-      throw UsageError(command + "There is no option " + std::string(name) + ".");
+  void ReadWord(const std::string& word) {
+    if (line_.Verb != nullptr) {
+      line_.Games.push_back(WrittenOut(ValueKind::FileToRead, word));
+    } else if (word == HelpWord) {
+      line_.Set(OptionOf(OptionId::Help), {});
+    } else {
+      line_.Verb = &FindCommand(word);
     }
-    if (option->Value.empty()) {
-      if (equals != std::string::npos) {
+  }
+
+  void ReadOption(const std::string& argument) {
+    // A long option has its value behind "=", a short one right behind its letter.
+    const bool isLong = argument.starts_with("--");
+    const std::size_t end = isLong ? argument.find('=') : 2;
+    const std::string_view name = std::string_view(argument).substr(0, end);
+    const auto table = AllOptions();
+    const auto option = std::ranges::find_if(
+        table, [&](const Option& row) { return row.Name == name || row.Other == name; });
+    const bool hasValue = argument.size() > name.size();
+    if (option == table.end() || !IsKnown(line_.Verb, *option)) RefuseOption(line_.Verb, name);
+    if (option->Kind == ValueKind::None) {
+      if (hasValue && !isLong) RefuseOption(line_.Verb, argument);
+      if (hasValue) {
         throw UsageError("The option " + std::string(name) + " takes no value.");
       }
       line_.Set(*option, {});
-    } else if (equals != std::string::npos) {
-      line_.Set(*option, argument.substr(equals + 1));
+    } else if (hasValue) {
+      Set(*option, argument.substr(end + (isLong ? 1 : 0)));
     } else if (next_ < arguments_.size()) {
-      line_.Set(*option, arguments_[next_++]);
+      Set(*option, arguments_[next_++]);
     } else {
       throw UsageError("The option " + std::string(name) + " needs a value.");
     }
   }
 
+  void Set(const Option& option, std::string value) {
+    line_.Set(option, WrittenOut(option.Kind, std::move(value)));
+  }
+
   std::span<const std::string> arguments_;
-  std::span<const Command* const> commands_;
   std::size_t next_ = 0;
   bool optionsEnded_ = false;
   CommandLine line_;
@@ -77,10 +118,13 @@ class Reader {
 
 void CheckOutput(const CommandLine& line) {
   const std::string name(line.Verb->Name);
-  if (!Knows(line.Verb, OptionId::Output)) return;
-  const bool mayReplace = Knows(line.Verb, OptionId::InPlace);
+  if (!Knows(*line.Verb, OptionId::Output)) return;
+  const bool mayReplace = Knows(*line.Verb, OptionId::InPlace);
   if (line.Has(OptionId::Output) && line.Has(OptionId::InPlace)) {
     throw UsageError(name + ": -o and --in-place cannot go together.");
+  }
+  if (line.Has(OptionId::NoClobber) && line.Has(OptionId::InPlace)) {
+    throw UsageError(name + ": --no-clobber and --in-place cannot go together.");
   }
   if (line.Has(OptionId::Try)) {
     for (const OptionId id : {OptionId::Output, OptionId::InPlace, OptionId::Report}) {
@@ -101,6 +145,7 @@ void CheckGames(const CommandLine& line) {
     if (count > 0)
       throw UsageError(name + ": It takes no game file, but \"" + line.Games[0] + "\" is given.");
   } else if (count == 0) {
+    if (line.Has(OptionId::FilesFrom)) return;
     throw UsageError(name + ": The game file is missing.");
   } else if (line.Verb->Takes == Games::OneAndOrder) {
     if (count != 2) throw UsageError(name + ": It takes a game file and the text of one order.");
@@ -109,15 +154,22 @@ void CheckGames(const CommandLine& line) {
   }
 }
 
+void CheckInputs(const CommandLine& line) {
+  auto inputs = std::ranges::count(line.Games, model::StandardInput);
+  for (const OptionId id : {OptionId::Orders, OptionId::FilesFrom})
+    inputs += line.Value(id) == model::StandardInput ? 1 : 0;
+  if (inputs > 1) throw UsageError("The standard input can be read only once.");
+}
+
 }  // namespace
 
-CommandLine ParseCommandLine(std::span<const std::string> arguments,
-                             std::span<const Command* const> commands) {
-  CommandLine line = Reader(arguments, commands).Read();
+CommandLine ParseCommandLine(std::span<const std::string> arguments) {
+  CommandLine line = Reader(arguments).Read();
   if (line.Has(OptionId::Help) || line.Has(OptionId::Version)) return line;
   if (line.Verb == nullptr) throw UsageError("The command is missing.");
   CheckOutput(line);
   CheckGames(line);
+  CheckInputs(line);
   return line;
 }
 

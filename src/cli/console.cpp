@@ -33,11 +33,67 @@ std::string OnOneLine(std::string_view text) {
   return line;
 }
 
+void Write(std::ostream& stream, std::string_view bytes) {
+  stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+}
+
+std::string Encoded(std::string_view text, Encoding encoding) {
+  return encoding == Encoding::Utf8 ? text::ToUtf8(text) : std::string(text);
+}
+
+/// A text of some lines as a terminal shows it.
+std::string Shown(std::string_view text) {
+  std::string shown(text);
+  std::ranges::transform(shown, shown.begin(),
+                         [](char c) { return c == '\n' || c == '\t' ? c : Harmless(c); });
+  return shown;
+}
+
 }  // namespace
 
-void Console::Print(std::string_view bytes) {
+Console::Console(std::ostream& out, std::ostream& err, const Terminals& terminals)
+    : out_(out), err_(err), terminals_(terminals) {
+  const auto encodingOf = [&](bool isTerminal) {
+    return isTerminal && terminals.Utf8 ? Encoding::Utf8 : Encoding::Windows1252;
+  };
+  outEncoding_ = encodingOf(terminals.Out);
+  errEncoding_ = encodingOf(terminals.Err);
+}
+
+void Console::UseEncoding(Encoding encoding) {
+  outEncoding_ = errEncoding_ = fileEncoding_ = encoding;
+}
+
+std::string Console::ForFile(std::string_view text) const {
+  return Encoded(text, fileEncoding_);
+}
+
+void Console::Print(std::string_view text) {
+  // Nearly always: thousands of reports go to a file byte for byte.
+  if (!terminals_.Out && outEncoding_ == Encoding::Windows1252) return PrintBytes(text);
+  PrintBytes(Encoded(terminals_.Out ? Shown(text) : std::string(text), outEncoding_));
+}
+
+void Console::PrintFailure(std::string_view line) {
+  if (!HasColours()) return Print(line);
+  PrintBytes("\x1b[31m");
+  Print(line.substr(0, line.find('\n')));
+  PrintBytes("\x1b[0m\n");
+}
+
+void Console::PrintPath(std::string_view path) {
+  PrintBytes(terminals_.Out ? Shown(path) : std::string(path));
+}
+
+void Console::PrintBytes(std::string_view bytes) {
   ClearProgress();
-  out_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  Write(out_, bytes);
+}
+
+void Console::PrintToErr(std::string_view text) {
+  ClearProgress();
+  Write(err_, Encoded(terminals_.Err ? Shown(text) : std::string(text), errEncoding_));
+  if (!err_.flush()) throw model::FileError("The standard error could not be written.");
 }
 
 void Console::Deliver() {
@@ -48,16 +104,17 @@ void Console::Say(std::string_view subject, std::string_view text) {
   ClearProgress();
   // The subject is a path, which is written as it was given. If it holds UTF-8, the message is
   // converted as well: a line in two encodings could not be read anywhere.
-  const bool utf8 = text::IsUtf8(subject) && std::ranges::any_of(subject, IsBeyondAscii);
+  const bool utf8 = errEncoding_ == Encoding::Utf8 ||
+                    (text::IsUtf8(subject) && std::ranges::any_of(subject, IsBeyondAscii));
   std::string line(subject);
   std::ranges::transform(line, line.begin(), Harmless);
   line.append(": ").append(utf8 ? text::ToUtf8(OnOneLine(text)) : OnOneLine(text)).append("\n");
-  err_.write(line.data(), static_cast<std::streamsize>(line.size()));
+  Write(err_, line);
   err_.flush();
 }
 
 void Console::ShowProgress(std::size_t done, std::size_t total) {
-  if (!showProgress_ || total <= ShortRun) return;
+  if (!terminals_.Err || total <= ShortRun) return;
   // A hundred updates are enough for the eye; the terminal is slower than the work.
   if (done % std::max<std::size_t>(total / 100, 1) != 0) return;
   const std::string line = std::to_string(done) + " of " + std::to_string(total) + " games";
@@ -74,11 +131,13 @@ void Console::ClearProgress() {
 
 bool ConsoleMessages::Warn(const std::string& text) {
   console_.Say(subject_, text);
+  hasDeclined_ |= !yes_;
   return yes_;
 }
 
 model::Answer ConsoleMessages::Ask(const std::string& text) {
   console_.Say(subject_, text);
+  hasDeclined_ |= !yes_;
   // A plain Yes would only bring the same question for the next unit; the answer would be the same.
   return yes_ ? model::Answer::YesToAll : model::Answer::No;
 }

@@ -9,7 +9,7 @@
 
 namespace orb::cli {
 
-void DrawMap(const MapRequest& request) {
+std::string DrawMap(const MapRequest& request) {
   const std::filesystem::path file = model::ProgramDirectory() / DrawModule;
   std::error_code ignored;
   if (!std::filesystem::exists(file, ignored)) {
@@ -17,8 +17,9 @@ void DrawMap(const MapRequest& request) {
                             ", which is missing.");
   }
   void* const function = model::ModuleFunction(file, DrawFunctionName, "Maps cannot be drawn");
-  std::string error;
-  if (!reinterpret_cast<DrawFunction*>(function)(request, error)) throw model::FatalError(error);
+  std::string result;
+  if (!reinterpret_cast<DrawFunction*>(function)(request, result)) throw model::FatalError(result);
+  return result;
 }
 
 }  // namespace orb::cli

@@ -11,7 +11,7 @@
 
 namespace orb::cli {
 
-/// A map to be saved as a picture. Asking for one needs nothing of the drawing toolkit: a module
+/// A map to be drawn as a picture. Asking for one needs nothing of the drawing toolkit: a module
 /// beside the program does the drawing and is loaded only then, so the other commands start without
 /// it and run where the toolkit is not installed.
 struct MapRequest {
@@ -19,7 +19,6 @@ struct MapRequest {
   settings::MapOptions Options;
   std::filesystem::path DataDirectory;
   int PixelWidth = 0;  ///< 0: the background picture's own
-  std::filesystem::path Picture;
   render::MapFormat Format;
   std::vector<orders::OrderOutcome> Orders;  ///< drawn on the map
 };
@@ -27,12 +26,13 @@ struct MapRequest {
 /// The name of the module's file, in the directory of the program.
 constexpr const char* DrawModule = "orbdraw.so";
 
-/// The name of its only function: false with a sentence for the user when nothing was written.
+/// The name of its only function. `result` is the picture's bytes, or a sentence for the user
+/// where that is false.
 constexpr const char* DrawFunctionName = "OrbDrawMap";
-using DrawFunction = bool(const MapRequest& request, std::string& error);
+using DrawFunction = bool(const MapRequest& request, std::string& result);
 
-/// Loads the module and lets it draw. Throws FatalError.
-void DrawMap(const MapRequest& request);
+/// Loads the module and lets it draw: the bytes of the picture. Throws FatalError.
+std::string DrawMap(const MapRequest& request);
 
 }  // namespace orb::cli
 

@@ -1,13 +1,12 @@
 #include "cli/games.h"
 
+#include "cli/delivery.h"
 #include "model/errors.h"
 #include "model/files.h"
 #include "model/map_files.h"
 #include "session/commands.h"
-#include "text/encoding.h"
 
 #include <exception>
-#include <fstream>
 #include <memory>
 #include <system_error>
 
@@ -37,6 +36,7 @@ int ForEachGame(const CommandLine& line, Console& console, const std::vector<Gam
       session::Situation situation;  // "{}" would have all 20 kB of it cleared first
       GameAtWork at{situation, paths, {console, paths.Game, line.Has(OptionId::Yes)}};
       if (!map) map = model::LoadMap(data, at.Messages);
+      ExpectNothingToKeep(paths);
       situation.Game = model::EmptyGame(map);
       return session::ReadGame(situation, paths.Game, at.Messages, model::Streams::Read) &&
              work(at);
@@ -46,20 +46,10 @@ int ForEachGame(const CommandLine& line, Console& console, const std::vector<Gam
   return allDone ? ExitDone : ExitRefused;
 }
 
-void WriteText(const std::filesystem::path& path, std::string_view text) {
-  if (!IsDevice(path)) return model::ReplaceFile(path, text);
-  // A device or pipe cannot be replaced by a new file. Appending keeps what other games wrote
-  // there.
-  std::ofstream stream(path, std::ios::binary | std::ios::app);
-  if (!stream.write(text.data(), static_cast<std::streamsize>(text.size())).flush()) {
-    throw model::FileError("Cannot write " + text::NameInText(path.string()) + ".");
-  }
-}
-
-void PrintUnderHeading(Console& console, const std::vector<GamePaths>& plan, const GamePaths& paths,
-                       std::string_view text) {
-  if (plan.size() > 1) console.Print("== " + paths.Game + "\n");
-  console.Print(text);
+void SayAbandoned(Console& console, const GameAtWork& at, std::string_view done) {
+  if (!at.Messages.HasDeclined()) return;
+  console.Say(at.Paths.Game,
+              std::string("Not ").append(done).append(", nothing written; --yes goes on."));
 }
 
 }  // namespace orb::cli

@@ -33,11 +33,8 @@ int ForEachGame(const CommandLine& line, Console& console, const std::vector<Gam
 /// was done. A UsageError passes through, since it is no fault of the one game.
 bool Attempt(Console& console, std::string_view subject, const std::function<bool()>& work);
 
-/// Replaces a file whole or not at all; a device or pipe is written to. Throws FileError.
-void WriteText(const std::filesystem::path& path, std::string_view text);
-
-/// Prints what belongs to one game; of several each is headed by "== " and the game's path.
-void PrintUnderHeading(Console& console, const std::vector<GamePaths>& plan, const GamePaths& paths,
-                       std::string_view text);
+/// Says of a game that was abandoned at a question what that means and how it would have gone on;
+/// `done` is what has not been done: "resolved".
+void SayAbandoned(Console& console, const GameAtWork& at, std::string_view done);
 
 }  // namespace orb::cli

@@ -1,4 +1,5 @@
-#include "cli/command.h"
+#include "cli/commands.h"
+#include "cli/delivery.h"
 #include "cli/draw_map.h"
 #include "cli/games.h"
 #include "cli/orders_source.h"
@@ -12,9 +13,24 @@ namespace {
 
 constexpr std::array Options{OptionId::Orders,  OptionId::Mode,         OptionId::CentreCount,
                              OptionId::Borders, OptionId::CentreOwners, OptionId::Width,
-                             OptionId::Output};
+                             OptionId::Format,  OptionId::Output,       OptionId::NoClobber};
 
-render::MapFormat Format(const std::filesystem::path& picture) {
+constexpr Example Examples[] = {
+    {"the map as a picture for the next mail", "map --width 1200 -o league.png league.orb"},
+    {"with arrows for the orders of a file", "map --orders s01.txt -o orders.svg league.orb"},
+    {"handed on to another program", "map --format pdf -o - league.orb | lp"},
+};
+
+render::MapFormat Format(const CommandLine& line, const std::filesystem::path& picture) {
+  if (line.Has(OptionId::Format)) {
+    const std::string& name = *line.Value(OptionId::Format);
+    const auto format = render::FormatOf("picture." + name);
+    if (format) return *format;
+    throw UsageError("map: The format is one of bmp, png, svg and pdf, not \"" + name + "\".");
+  }
+  if (picture == StandardOutput) {
+    throw UsageError("map: A picture on the standard output needs --format.");
+  }
   const auto format = render::FormatOf(picture);
   if (!format) throw UsageError("map: The picture's name must end in .bmp, .png, .svg or .pdf.");
   return *format;
@@ -54,7 +70,10 @@ std::vector<orders::OrderOutcome> OrdersToDraw(session::Situation& situation, Or
 int Execute(const CommandLine& line, Console& console) {
   // Everything that can be wrong with the command line is looked at before a game is read.
   const std::filesystem::path picture = *line.Value(OptionId::Output);
-  const render::MapFormat format = Format(picture);
+  const render::MapFormat format = Format(line, picture);
+  if (picture == StandardOutput && console.IsTerminal()) {
+    throw UsageError("map: A picture would only garble the terminal: -o names a file.");
+  }
   const int width = PixelWidth(line);
   const settings::MapOptions options{Mode(line), line.Has(OptionId::CentreCount),
                                      line.Has(OptionId::Borders), line.Has(OptionId::CentreOwners)};
@@ -64,14 +83,23 @@ int Execute(const CommandLine& line, Console& console) {
     const auto drawn = line.Has(OptionId::Orders)
                            ? OrdersToDraw(at.Situation, source, at.Paths, at.Messages)
                            : std::vector<orders::OrderOutcome>{};
-    DrawMap({at.Situation.Game, options, data, width, picture, format, drawn});
+    DeliverBytes(console, at.Paths.Output,
+                 DrawMap({at.Situation.Game, options, data, width, format, drawn}),
+                 at.Paths.Existing);
     return true;
   });
 }
 
 }  // namespace
 
-const Command MapCommand{"map", "draws the map; the picture's format follows its extension",
-                         Games::One, Options, Execute};
+const Command MapCommand{
+    .Name = "map",
+    .Summary = "draws the map; the picture's format follows its extension",
+    .Takes = Games::One,
+    .Options = Options,
+    .Examples = Examples,
+    .OutputName = "PICTURE",
+    .Execute = Execute,
+};
 
 }  // namespace orb::cli

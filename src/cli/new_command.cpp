@@ -1,4 +1,5 @@
-#include "cli/command.h"
+#include "cli/commands.h"
+#include "cli/delivery.h"
 #include "cli/games.h"
 #include "model/map_files.h"
 #include "model/record_file.h"
@@ -10,7 +11,13 @@
 namespace orb::cli {
 namespace {
 
-constexpr std::array Options{OptionId::Blank, OptionId::Title, OptionId::Output};
+constexpr std::array Options{OptionId::Blank, OptionId::Title, OptionId::Output,
+                             OptionId::NoClobber};
+
+constexpr Example Examples[] = {
+    {"begin a game", "new --title \"Winter league\" -o league.orb"},
+    {"look at the starting position without a file", "new -o - | orbctl show -"},
+};
 
 /// The 8-bit form of a title.
 std::string TitleBytes(const std::string& title) {
@@ -33,13 +40,17 @@ int Execute(const CommandLine& line, Console& console) {
   if (line.Has(OptionId::Title)) title = TitleBytes(*line.Value(OptionId::Title));
   const std::filesystem::path data = DataDirectory(line);
   CheckNoDataFile(file, data);
+  GamePaths paths;
+  paths.Output = file;
+  if (line.Has(OptionId::NoClobber)) paths.Existing = model::Existing::Kept;
   const bool done = Attempt(console, file, [&] {
+    ExpectNothingToKeep(paths);
     ConsoleMessages messages(console, file, false);
     session::Situation situation{model::EmptyGame(model::LoadMap(data, messages))};
     line.Has(OptionId::Blank) ? session::BlankGame(situation, data)
                               : session::NewGame(situation, data);
     if (title) session::SetTitle(situation, *title);
-    session::SaveGameAs(situation, file);
+    DeliverGame(console, situation, paths);
     return true;
   });
   return done ? ExitDone : ExitRefused;
@@ -47,7 +58,14 @@ int Execute(const CommandLine& line, Console& console) {
 
 }  // namespace
 
-const Command NewCommand{"new", "writes the starting position (or the blank one) to a game file",
-                         Games::None, Options, Execute};
+const Command NewCommand{
+    .Name = "new",
+    .Summary = "writes the starting position (or the blank one) to a game file",
+    .Takes = Games::None,
+    .Options = Options,
+    .Examples = Examples,
+    .OutputName = "GAME",
+    .Execute = Execute,
+};
 
 }  // namespace orb::cli

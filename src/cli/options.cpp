@@ -5,34 +5,66 @@
 namespace orb::cli {
 namespace {
 
-/// The one place where options are described: both the reader and the help go by this table.
+using enum OptionId;
+
 constexpr std::array<Option, OptionCount> Table{{
-    {OptionId::Data, "--data", "DIR",
-     "the directory of the data files (default: the program's own)"},
-    {OptionId::Help, "--help", "", "print this help and exit"},
-    {OptionId::Version, "--version", "", "print the version and exit"},
-    {OptionId::Blank, "--blank", "", "the blank position: no units, every province at home"},
-    {OptionId::Title, "--title", "TEXT", "the title of the game"},
-    {OptionId::Orders, "--orders", "PATH", "the orders, one per line (in a directory: NAME.txt)"},
-    {OptionId::Loose, "--loose", "", "read the orders as people write them: mails, chats, files"},
-    {OptionId::Power, "--power", "ABC", "with --loose: the power of lines that name none"},
-    {OptionId::AcceptDoubtful, "--accept-doubtful", "",
+    {Blank, "--blank", "", ValueKind::None, "", "",
+     "the blank position: no units, every province at home"},
+    {Title, "--title", "", ValueKind::Text, "TEXT", "", "the title of the game"},
+    {Orders, "--orders", "", ValueKind::FileToRead, "PATH", "",
+     "the orders, one per line (in a directory: NAME.txt)"},
+    {Loose, "--loose", "", ValueKind::None, "", "",
+     "read the orders as people write them: mails, chats, files"},
+    {Power, "--power", "", ValueKind::Choice, "ABC", "ENG FRA GER RUS TUR AUS ITA",
+     "with --loose: the power of lines that name none"},
+    {AcceptDoubtful, "--accept-doubtful", "", ValueKind::None, "", "",
      "with --loose: file also orders that something speaks against"},
-    {OptionId::Report, "--report", "PATH", "write the report to PATH (in a directory: NAME.txt)"},
-    {OptionId::Reasons, "--reasons", "PATH", "write to PATH why each order came out as it did"},
-    {OptionId::Rules, "--rules", "RULES", "orb (ORB's own, the default) or usual"},
-    {OptionId::Compare, "--compare", "", "tell which orders come out otherwise by the other rules"},
-    {OptionId::Try, "--try", "", "only try it out: no question is asked, nothing is written"},
-    {OptionId::Pairs, "--pairs", "", "also changes of two orders of one power"},
-    {OptionId::Yes, "--yes", "", "answer Yes to every question (else No, abandoning the game)"},
-    {OptionId::Mode, "--mode", "MODE", "colour3d (the default), colour, grey or bw"},
-    {OptionId::CentreCount, "--centre-count", "", "show how many centres each power owns"},
-    {OptionId::Borders, "--borders", "", "colour the borders by owner"},
-    {OptionId::CentreOwners, "--centre-owners", "", "mark the centres with their owners"},
-    {OptionId::Width, "--width", "PIXELS", "the width of the picture (default: that of the map)"},
-    {OptionId::Output, "-o", "PATH", "the file to write (in a directory: NAME.orb)"},
-    {OptionId::InPlace, "--in-place", "", "write over the game file that was read"},
+    {Report, "--report", "", ValueKind::FileToWrite, "PATH", "",
+     "write the report to PATH (in a directory: NAME.txt)"},
+    {Reasons, "--reasons", "", ValueKind::FileToWrite, "PATH", "",
+     "write to PATH why each order came out as it did"},
+    {Rules, "--rules", "", ValueKind::Choice, "RULES", "orb usual",
+     "orb (ORB's own, the default) or usual"},
+    {Compare, "--compare", "", ValueKind::None, "", "",
+     "tell which orders come out otherwise by the other rules"},
+    {Try, "--try", "", ValueKind::None, "", "",
+     "only try it out: no question is asked, nothing is written"},
+    {Pairs, "--pairs", "", ValueKind::None, "", "", "also changes of two orders of one power"},
+    {Yes, "--yes", "", ValueKind::None, "", "",
+     "answer Yes to every question (else No, abandoning the game)"},
+    {Mode, "--mode", "", ValueKind::Choice, "MODE", "colour3d colour grey bw",
+     "colour3d (the default), colour, grey or bw"},
+    {CentreCount, "--centre-count", "", ValueKind::None, "", "",
+     "show how many centres each power owns"},
+    {Borders, "--borders", "", ValueKind::None, "", "", "colour the borders by owner"},
+    {CentreOwners, "--centre-owners", "", ValueKind::None, "", "",
+     "mark the centres with their owners"},
+    {Width, "--width", "", ValueKind::Text, "PIXELS", "",
+     "the width of the picture (default: that of the map)"},
+    {Format, "--format", "", ValueKind::Choice, "FORMAT", "bmp png svg pdf",
+     "bmp, png, svg or pdf, whatever the file's extension"},
+    {NoClobber, "--no-clobber", "", ValueKind::None, "", "",
+     "leave files that exist already as they are"},
+    {FilesFrom, "--files-from", "", ValueKind::FileToRead, "PATH", "",
+     "also the games that PATH lists, one per line or ended by NUL"},
+    {Output, "-o", "--output", ValueKind::FileToWrite, "PATH", "",
+     "the file to write (in a directory: NAME.orb)"},
+    {InPlace, "--in-place", "", ValueKind::None, "", "", "write over the game file that was read"},
+    {Data, "--data", "", ValueKind::Directory, "DIR", "",
+     "the directory of the data files (default: the program's own)", true},
+    {Encoding, "--encoding", "", ValueKind::Choice, "NAME", "utf-8 windows-1252",
+     "of texts that are printed and written: utf-8 or windows-1252", true},
+    {Help, "--help", "-h", ValueKind::None, "", "", "print this help and exit", true},
+    {Version, "--version", "-V", ValueKind::None, "", "", "print the version and exit", true},
 }};
+
+constexpr bool IsInOrder() {
+  for (std::size_t i = 0; i < OptionCount; ++i) {
+    if (static_cast<std::size_t>(Table[i].Id) != i) return false;
+  }
+  return true;
+}
+static_assert(IsInOrder(), "OptionOf looks rows up by their number");
 
 }  // namespace
 
@@ -40,8 +72,8 @@ std::span<const Option, OptionCount> AllOptions() {
   return Table;
 }
 
-bool IsCommonOption(OptionId id) {
-  return id == OptionId::Data || id == OptionId::Help || id == OptionId::Version;
+const Option& OptionOf(OptionId id) {
+  return Table[static_cast<std::size_t>(id)];
 }
 
 void CommandLine::Set(const Option& option, std::string value) {

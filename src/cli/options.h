@@ -1,6 +1,8 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <stdexcept>
@@ -22,10 +24,7 @@ class UsageError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-enum class OptionId {
-  Data,
-  Help,
-  Version,
+enum class OptionId : std::uint8_t {
   Blank,
   Title,
   Orders,
@@ -44,28 +43,43 @@ enum class OptionId {
   Borders,
   CentreOwners,
   Width,
+  Format,
+  NoClobber,
+  FilesFrom,
   Output,
   InPlace,
+  Data,
+  Encoding,
+  Help,
+  Version,
 };
 
 /// The number of OptionIds; the table and a command line's values are indexed by them.
-constexpr std::size_t OptionCount = 23;
+constexpr std::size_t OptionCount = static_cast<std::size_t>(OptionId::Version) + 1;
 
-/// One row of the table of options.
+/// What an option takes, as far as reading the line and completing it must know.
+enum class ValueKind : std::uint8_t { None, Text, Choice, Directory, FileToRead, FileToWrite };
+
+/// One row of the table of options. Reading, help, manual pages and completions go by it alone.
 struct Option {
   OptionId Id;
-  std::string_view Name;   ///< as it is written: "--orders"
-  std::string_view Value;  ///< what stands for its value in the help; empty for a plain switch
+  std::string_view Name;   ///< as messages call it: "--orders"
+  std::string_view Other;  ///< its other spelling: "-h"; empty where there is none
+  ValueKind Kind = ValueKind::None;
+  std::string_view Value;    ///< what stands for its value in the help; empty for a plain switch
+  std::string_view Choices;  ///< the values that it can have, separated by blanks
   std::string_view Help;
+  bool IsCommon = false;  ///< every command knows it
 };
 
 /// All options, in the order of the help.
 std::span<const Option, OptionCount> AllOptions();
 
-/// Whether every command knows the option.
-bool IsCommonOption(OptionId id);
+/// The option's row of the table.
+const Option& OptionOf(OptionId id);
 
-/// A command line that keeps to the table of options.
+/// A command line that keeps to the table of options. "-" is written out in it as the path of the
+/// standard input or output.
 class CommandLine {
  public:
   const Command* Verb = nullptr;   ///< none when only help or the version is asked for
@@ -78,6 +92,9 @@ class CommandLine {
 
   /// Throws UsageError when the option was given before with another value.
   void Set(const Option& option, std::string value);
+
+  /// Whether it may be about more than one game, so that what is printed needs headings.
+  bool IsForMany() const { return Games.size() > 1 || Has(OptionId::FilesFrom); }
 
  private:
   static std::size_t Index(OptionId id) { return static_cast<std::size_t>(id); }

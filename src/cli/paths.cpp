@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <iterator>
 #include <map>
 #include <system_error>
 #include <unordered_set>
@@ -50,7 +51,9 @@ class PathOption {
     if (path_.empty()) throw UsageError("A path cannot be empty.");
     inDirectory_ = IsDirectory(path_);
     prefix_ = (path_ / "").string();
-    if (!inDirectory_ && line.Games.size() > 1) {
+    // Texts of several games can be told apart where they are printed, by their headings.
+    const bool isPrinted = path_ == StandardOutput && id != OptionId::Output;
+    if (!inDirectory_ && !isPrinted && line.IsForMany()) {
       throw UsageError("With several games " + path_.string() + " must be an existing directory.");
     }
   }
@@ -107,10 +110,10 @@ void CheckOverlaps(const std::vector<GamePaths>& plan, bool mayReplace, const fs
     throw UsageError(path.string() + " would be written twice.");
   };
   const auto addText = [&](const fs::path& path) {
-    if (!path.empty() && path != StandardOutput && !IsDevice(path)) add(path, names.Of(path));
+    if (!path.empty() && !IsStream(path) && !IsDevice(path)) add(path, names.Of(path));
   };
   for (const GamePaths& paths : plan) {
-    if (paths.Output.empty()) continue;
+    if (paths.Output.empty() || paths.Output == StandardOutput) continue;
     std::string game = names.Of(paths.Game);
     std::string output = paths.Output.native() == paths.Game ? game : names.Of(paths.Output);
     // A game written over itself is safe: it is read whole before.
@@ -130,9 +133,55 @@ void CheckOverlaps(const std::vector<GamePaths>& plan, bool mayReplace, const fs
   throw UsageError(*std::ranges::min_element(read) + " would be both read and written.");
 }
 
+/// Refuses a plan in which the standard output would have to hold two things.
+void CheckStreams(const CommandLine& line, const std::vector<GamePaths>& plan) {
+  for (const GamePaths& paths : plan) {
+    if (paths.Output == model::StandardInput) {
+      throw UsageError("A game from the standard input cannot be replaced: -o names another file.");
+    }
+    if (paths.Output != StandardOutput) continue;
+    const bool reports = Knows(*line.Verb, OptionId::Report);
+    if (reports && (paths.Report.empty() || paths.Report == StandardOutput)) {
+      throw UsageError(
+          "The game and its report cannot both go to the standard output: "
+          "--report names another place.");
+    }
+    if (paths.Reasons == StandardOutput) {
+      throw UsageError("The game and its reasons cannot both go to the standard output.");
+    }
+  }
+}
+
+/// The names that a list holds: one per line, or each ended by NUL as "find -print0" writes them.
+std::vector<std::string> ListedNames(std::string_view list) {
+  const char end = list.find('\0') == std::string_view::npos ? '\n' : '\0';
+  std::vector<std::string> names;
+  while (!list.empty()) {
+    const std::size_t length = std::min(list.find(end), list.size());
+    if (length > 0) names.emplace_back(list.substr(0, length));
+    list.remove_prefix(std::min(length + 1, list.size()));
+  }
+  return names;
+}
+
 }  // namespace
 
+void AddListedGames(CommandLine& line) {
+  const auto& file = line.Value(OptionId::FilesFrom);
+  if (!file) return;
+  auto names = ListedNames(model::ReadFile(*file, model::Streams::Read));
+  std::ranges::move(names, std::back_inserter(line.Games));
+}
+
+bool IsStream(const fs::path& path) {
+  return path == model::StandardInput || path == StandardOutput || path == StandardError;
+}
+
 bool IsDevice(const fs::path& path) {
+  // What these lead to may be an ordinary file, but one that somebody has opened to be written on.
+  const bool isOpened =
+      path.native().starts_with("/dev/fd/") || path.native().starts_with("/proc/self/fd/");
+  if (isOpened) return true;
   std::error_code ignored;
   const fs::file_type type = fs::status(path, ignored).type();
   return type == fs::file_type::character || type == fs::file_type::fifo;
@@ -153,10 +202,11 @@ std::vector<GamePaths> PlanPaths(const CommandLine& line) {
     paths.Report = report.For(game);
     paths.Reasons = reasons.For(game);
     paths.OrdersMayLack = orders.InDirectory();
+    paths.HasHeading = line.IsForMany();
+    if (line.Has(OptionId::NoClobber)) paths.Existing = model::Existing::Kept;
   }
-  const auto options = line.Verb->Options;
-  CheckOverlaps(plan, std::ranges::find(options, OptionId::InPlace) != options.end(),
-                DataDirectory(line));
+  CheckStreams(line, plan);
+  CheckOverlaps(plan, Knows(*line.Verb, OptionId::InPlace), DataDirectory(line));
   return plan;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/options.h"
+#include "model/files.h"
 
 #include <filesystem>
 #include <string>
@@ -9,8 +10,9 @@
 
 namespace orb::cli {
 
-/// Reports and reasons that go to this path are printed like anything else.
+/// What goes to these paths is printed like anything else.
 constexpr std::string_view StandardOutput = "/dev/stdout";
+constexpr std::string_view StandardError = "/dev/stderr";
 
 /// The files of one game; empty where the command line asks for none.
 struct GamePaths {
@@ -20,10 +22,18 @@ struct GamePaths {
   std::filesystem::path Report;
   std::filesystem::path Reasons;
   bool OrdersMayLack = false;  ///< in a directory of orders, a game without a file has no orders
+  bool HasHeading = false;     ///< there are several games: what is printed says of which it is
+  model::Existing Existing = model::Existing::Replaced;  ///< what becomes of files written over
 };
 
-/// Whether it is a device or a pipe, which is written to and never replaced.
+/// Whether it is one of the paths that stand for the streams of the program itself.
+bool IsStream(const std::filesystem::path& path);
+
+/// Whether it is a device, a pipe or an open file, which is written to and never replaced.
 bool IsDevice(const std::filesystem::path& path);
+
+/// Adds the games that --files-from lists to those of the line. Throws FileError.
+void AddListedGames(CommandLine& line);
 
 /// The files of every game. Throws UsageError where several games share a path that is no
 /// directory, and where a file would be written twice or over another one that is read; a device

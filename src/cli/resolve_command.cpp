@@ -1,4 +1,5 @@
-#include "cli/command.h"
+#include "cli/commands.h"
+#include "cli/delivery.h"
 #include "cli/games.h"
 #include "cli/orders_source.h"
 #include "model/game_file.h"
@@ -7,23 +8,30 @@
 #include "session/trial.h"
 
 #include <algorithm>
-#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace orb::cli {
 namespace {
 
 constexpr std::array Options{
-    OptionId::Orders, OptionId::Loose,   OptionId::Power,  OptionId::AcceptDoubtful,
-    OptionId::Report, OptionId::Reasons, OptionId::Rules,  OptionId::Compare,
-    OptionId::Try,    OptionId::Yes,     OptionId::Output, OptionId::InPlace};
+    OptionId::Orders,    OptionId::Loose,    OptionId::Power,  OptionId::AcceptDoubtful,
+    OptionId::Report,    OptionId::Reasons,  OptionId::Rules,  OptionId::Compare,
+    OptionId::Try,       OptionId::Yes,      OptionId::Output, OptionId::InPlace,
+    OptionId::NoClobber, OptionId::FilesFrom};
 
-/// One line for each row, ended by LF.
-std::string JoinLines(const auto& rows, auto textOf) {
-  std::string text;
-  for (const auto& row : rows)
-    text.append(std::invoke(textOf, row)).append("\n");
-  return text;
-}
+constexpr Example Examples[] = {
+    {"resolve the stage, with the report on the terminal and the reasons in a file",
+     "resolve --orders s01.txt --reasons why.txt --in-place league.orb"},
+    {"try out the orders that stand in a mail, and read why each came out as it did",
+     "resolve --try --loose --orders mail.txt --reasons - league.orb"},
+    {"ten games at once, each with its own file of orders in the directory mail",
+     "resolve --orders mail --report reports --yes --in-place games/*.orb"},
+    {"keep the game as it was and write the resolved one beside it",
+     "resolve --yes --no-clobber --orders s01.txt -o after.orb league.orb"},
+};
 
 /// What --compare tells: how many orders came out otherwise, and for each both reasons.
 void SayDifferences(Console& console, const std::string& game,
@@ -42,48 +50,78 @@ void SayDifferences(Console& console, const std::string& game,
 class Report {
  public:
   Report(const GamePaths& paths, const session::Situation& situation)
-      : paths_(paths),
-        report_(JoinLines(situation.Game.ReportLines, std::identity())),
-        reasons_(JoinLines(situation.Notes, &session::ReportNote::Reason)) {}
+      : paths_(paths), notes_(situation.Notes) {
+    auto note = notes_.begin();
+    for (const std::string& line : situation.Game.ReportLines) {
+      report_.append(line).append("\n");
+      if (note == notes_.end()) continue;
+      // Each reason stands behind its line, so that it can be read without the report.
+      reasons_.append(line, 0, line.find_last_not_of(' ') + 1);
+      reasons_.append(": ").append(note->Reason).append("\n");
+      ++note;
+    }
+  }
 
-  void Deliver(Console& console, const std::vector<GamePaths>& plan) const {
+  void Deliver(Console& console) const {
     const bool printsReport = paths_.Report.empty() || paths_.Report == StandardOutput;
     const bool printsReasons = paths_.Reasons == StandardOutput;
-    if (!printsReport) WriteText(paths_.Report, report_);
-    if (!printsReasons && !paths_.Reasons.empty()) WriteText(paths_.Reasons, reasons_);
-    if (printsReport) PrintUnderHeading(console, plan, paths_, report_);
+    if (!printsReport) DeliverText(console, paths_.Report, report_, paths_.Existing);
+    if (!printsReasons && !paths_.Reasons.empty()) {
+      DeliverText(console, paths_.Reasons, reasons_, paths_.Existing);
+    }
+    if (printsReport || printsReasons) PrintHeading(console, paths_);
+    if (printsReport) Print(console);
     if (printsReasons) console.Print(reasons_);
     console.Deliver();
   }
 
  private:
+  void Print(Console& console) const {
+    if (!console.HasColours()) return console.Print(report_);
+    std::string_view rest = report_;
+    for (const session::ReportNote& note : notes_) {
+      const std::string_view line = rest.substr(0, rest.find('\n') + 1);
+      note.Failed ? console.PrintFailure(line) : console.Print(line);
+      rest.remove_prefix(line.size());
+    }
+    console.Print(rest);
+  }
+
   const GamePaths& paths_;
+  const std::vector<session::ReportNote>& notes_;
   std::string report_;
   std::string reasons_;
 };
 
 /// Resolves the stage and writes the game, or only tries it out. False when it was abandoned.
-bool Resolve(const CommandLine& line, Console& console, const std::vector<GamePaths>& plan,
-             GameAtWork& at) {
-  // Reasons cost time, so they are only noted when somebody will read them.
-  const auto noting = at.Paths.Reasons.empty() ? session::Noting::None : session::Noting::Full;
+bool Resolve(const CommandLine& line, Console& console, GameAtWork& at) {
+  // Notes cost time, so they are only made when somebody will see them.
+  const bool isNoted = !at.Paths.Reasons.empty() || console.HasColours();
+  const auto noting = isNoted ? session::Noting::Full : session::Noting::None;
   const auto comparing =
       line.Has(OptionId::Compare) ? session::Comparing::Yes : session::Comparing::No;
   at.Situation.Rules = RulesOf(line);
   if (line.Has(OptionId::Try)) {
     const session::Situation tried = session::TryOut(at.Situation, noting, comparing);
-    Report(at.Paths, tried).Deliver(console, plan);
+    Report(at.Paths, tried).Deliver(console);
     if (comparing == session::Comparing::Yes) SayDifferences(console, at.Paths.Game, tried);
     return true;
   }
   if (!session::Resolve(at.Situation, at.Messages, noting, comparing)) return false;
-  model::Replacement game(at.Paths.Output, model::FormatGameFile(at.Situation.Game));
+  const std::string bytes = model::FormatGameFile(at.Situation.Game);
+  const bool isPrinted = at.Paths.Output == StandardOutput;
+  std::optional<model::Replacement> game;
+  if (!isPrinted) game.emplace(at.Paths.Output, bytes);
   // The game takes its place last, when all else has arrived: a resolved game without its report
   // could not be resolved again.
-  Report(at.Paths, at.Situation).Deliver(console, plan);
+  Report(at.Paths, at.Situation).Deliver(console);
   if (comparing == session::Comparing::Yes) SayDifferences(console, at.Paths.Game, at.Situation);
-  session::ExpectUnchanged(at.Situation, at.Paths.Output);
-  game.Commit();
+  if (isPrinted) {
+    DeliverBytes(console, at.Paths.Output, bytes, at.Paths.Existing);
+  } else {
+    session::ExpectUnchanged(at.Situation, at.Paths.Output);
+    game->Commit(at.Paths.Existing);
+  }
   return true;
 }
 
@@ -95,10 +133,13 @@ int Execute(const CommandLine& line, Console& console) {
     // Unclear lines are asked about first: --yes leaves them out, otherwise the game is abandoned.
     const std::vector<exchange::ReadLine> leftOut =
         orders.Take(at.Situation, at.Paths, at.Messages);
-    if (!session::GoOnWithout(leftOut, at.Messages)) return false;
+    if (!session::GoOnWithout(leftOut, at.Messages) || !Resolve(line, console, at)) {
+      SayAbandoned(console, at, "resolved");
+      return false;
+    }
     // Somebody wrote the doubtful orders, and they were not carried out: that must not go
     // unnoticed.
-    return Resolve(line, console, plan, at) && std::ranges::none_of(leftOut, exchange::IsDoubtful);
+    return std::ranges::none_of(leftOut, exchange::IsDoubtful);
   });
 }
 
@@ -112,7 +153,12 @@ session::Rules RulesOf(const CommandLine& line) {
 }
 
 const Command ResolveCommand{
-    "resolve", "resolves the stage that the game is in: moves, retreats or adjustments",
-    Games::Several, Options, Execute};
+    .Name = "resolve",
+    .Summary = "resolves the stage that the game is in: moves, retreats or adjustments",
+    .Takes = Games::Several,
+    .Options = Options,
+    .Examples = Examples,
+    .Execute = Execute,
+};
 
 }  // namespace orb::cli

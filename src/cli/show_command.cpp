@@ -1,14 +1,22 @@
-#include "cli/command.h"
+#include "cli/commands.h"
+#include "cli/delivery.h"
 #include "cli/games.h"
 #include "report/text_report.h"
 
 namespace orb::cli {
 namespace {
 
+constexpr std::array Options{OptionId::FilesFrom};
+
+constexpr Example Examples[] = {
+    {"the situation as text, for the next mail", "show league.orb"},
+    {"that of all games of a list, one after the other", "show --files-from games.txt"},
+};
+
 int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);
   return ForEachGame(line, console, plan, [&](const GameAtWork& at) {
-    PrintUnderHeading(console, plan, at.Paths, report::TextReport(at.Situation.Game));
+    PrintUnderHeading(console, at.Paths, report::TextReport(at.Situation.Game));
     return true;
   });
 }
@@ -16,6 +24,12 @@ int Execute(const CommandLine& line, Console& console) {
 }  // namespace
 
 const Command ShowCommand{
-    "show", "prints the text report of the game", Games::Several, {}, Execute};
+    .Name = "show",
+    .Summary = "prints the text report of the game",
+    .Takes = Games::Several,
+    .Options = Options,
+    .Examples = Examples,
+    .Execute = Execute,
+};
 
 }  // namespace orb::cli

@@ -1,25 +1,41 @@
-#include "cli/command.h"
+#include "cli/commands.h"
+#include "cli/delivery.h"
 #include "cli/games.h"
 #include "session/commands.h"
 
 namespace orb::cli {
 namespace {
 
-constexpr std::array Options{OptionId::Yes, OptionId::Output, OptionId::InPlace};
+constexpr std::array Options{OptionId::Yes, OptionId::Output, OptionId::InPlace,
+                             OptionId::NoClobber, OptionId::FilesFrom};
+
+constexpr Example Examples[] = {
+    {"put the season back to its start, to resolve it with other orders",
+     "undo --in-place league.orb"},
+};
 
 int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);
-  return ForEachGame(line, console, plan, [](GameAtWork& at) {
+  return ForEachGame(line, console, plan, [&](GameAtWork& at) {
     // Abandoned for a finished Autumn, and by No to losing units whose start was not recorded.
-    if (!session::UndoSeason(at.Situation, at.Messages)) return false;
-    session::SaveGameAs(at.Situation, at.Paths.Output);
+    if (!session::UndoSeason(at.Situation, at.Messages)) {
+      SayAbandoned(console, at, "undone");
+      return false;
+    }
+    DeliverGame(console, at.Situation, at.Paths);
     return true;
   });
 }
 
 }  // namespace
 
-const Command UndoCommand{"undo", "puts the season back to its start", Games::Several, Options,
-                          Execute};
+const Command UndoCommand{
+    .Name = "undo",
+    .Summary = "puts the season back to its start",
+    .Takes = Games::Several,
+    .Options = Options,
+    .Examples = Examples,
+    .Execute = Execute,
+};
 
 }  // namespace orb::cli

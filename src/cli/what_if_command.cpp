@@ -1,4 +1,4 @@
-#include "cli/command.h"
+#include "cli/commands.h"
 #include "cli/games.h"
 #include "cli/orders_source.h"
 #include "session/commands.h"
@@ -9,6 +9,13 @@ namespace {
 
 constexpr std::array Options{OptionId::Orders,         OptionId::Loose, OptionId::Power,
                              OptionId::AcceptDoubtful, OptionId::Rules, OptionId::Pairs};
+
+constexpr Example Examples[] = {
+    {"what would have let the army through",
+     "whatif --orders s01.txt league.orb \"FRA A(Mar) - Spa\""},
+    {"also with two orders of one power, by the usual rules",
+     "whatif --pairs --rules usual --orders s01.txt league.orb \"FRA A(Mar)\""},
+};
 
 /// "  GER A(Mun) - Bur: It failed: ... (2 other orders come out otherwise)"
 std::string AlternativeLine(const session::Alternative& alternative) {
@@ -70,8 +77,13 @@ int Execute(const CommandLine& line, Console& console) {
 
 }  // namespace
 
-const Command WhatIfCommand{"whatif",
-                            "tells which other orders would have changed what comes of one order",
-                            Games::OneAndOrder, Options, Execute};
+const Command WhatIfCommand{
+    .Name = "whatif",
+    .Summary = "tells which other orders would have changed what comes of one order",
+    .Takes = Games::OneAndOrder,
+    .Options = Options,
+    .Examples = Examples,
+    .Execute = Execute,
+};
 
 }  // namespace orb::cli

@@ -26,7 +26,10 @@ namespace fs = std::filesystem;
 /// opening until somebody writes into it.
 Descriptor OpenToRead(const fs::path& path, Streams streams) {
   const int patience = streams == Streams::Refused ? O_NONBLOCK : 0;
-  Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | patience));
+  // The stream itself rather than what /dev leads to: that cannot be opened where it is a socket.
+  const bool isInput = path == StandardInput && streams == Streams::Read;
+  Descriptor file(isInput ? ::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 0)
+                          : ::open(path.c_str(), O_RDONLY | O_CLOEXEC | patience));
   struct stat status {};
   if (!file.IsOpen() || ::fstat(file.Number(), &status) != 0) FailWith("read", path, errno);
   if (S_ISDIR(status.st_mode)) FailWith("read", path, EISDIR);

@@ -6,6 +6,7 @@
 #include "text/encoding.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <optional>
@@ -112,9 +113,14 @@ Descriptor OpenNamed(std::string& pattern) {
   return file;
 }
 
+/// A path to an open file that may have no name.
+std::string NumberPath(const Descriptor& file) {
+  return "/proc/self/fd/" + std::to_string(file.Number());
+}
+
 /// Gives a file without a name one like those of mkostemp; false with errno where that fails.
 bool GiveName(const Descriptor& file, std::string& pattern) {
-  const std::string number = "/proc/self/fd/" + std::to_string(file.Number());
+  const std::string number = NumberPath(file);
   // Seeded once: that takes as long as all the rest of it.
   static std::minstd_rand random{std::random_device()()};
   constexpr int tries = 100;
@@ -173,13 +179,27 @@ std::string Replacement::UnfinishedName() const {
   return (directory_ + std::string(UnfinishedPrefix)).append("XXXXXX");
 }
 
-void Replacement::Commit() {
+void Replacement::TakeFreeName() {
+  const bool isNamed = !name_.Path.empty();
+  const int failed = isNamed ? ::renameat2(AT_FDCWD, name_.Path.c_str(), AT_FDCWD, target_.c_str(),
+                                           RENAME_NOREPLACE)
+                             : ::linkat(AT_FDCWD, NumberPath(file_).c_str(), AT_FDCWD,
+                                        target_.c_str(), AT_SYMLINK_FOLLOW);
+  if (failed != 0 && errno == EEXIST) FailForExisting(path_);
+  if (failed != 0) FailWith("write", path_, errno);
+}
+
+void Replacement::TakeName() {
   if (name_.Path.empty()) {
     std::string name = UnfinishedName();
     if (!GiveName(file_, name)) FailWith("write", path_, errno);
     name_.Path = std::move(name);
   }
   if (::rename(name_.Path.c_str(), target_.c_str()) != 0) FailWith("write", path_, errno);
+}
+
+void Replacement::Commit(Existing existing) {
+  existing == Existing::Kept ? TakeFreeName() : TakeName();
   name_.Path.clear();
   if (!FlushDirectory(directory_)) {
     const std::string reason = std::generic_category().message(errno);
@@ -189,8 +209,12 @@ void Replacement::Commit() {
   }
 }
 
-void ReplaceFile(const fs::path& path, std::string_view bytes) {
-  Replacement(path, bytes).Commit();
+void ReplaceFile(const fs::path& path, std::string_view bytes, Existing existing) {
+  Replacement(path, bytes).Commit(existing);
+}
+
+void FailForExisting(const fs::path& path) {
+  throw FileError(text::NameInText(path.string()) + " exists already: it is left as it is.");
 }
 
 bool CanReplaceFile(const fs::path& path) {

@@ -2,6 +2,7 @@
 
 #include "model/descriptor.h"
 #include "model/file_mark.h"
+#include "model/files.h"
 
 #include <filesystem>
 #include <string>
@@ -22,8 +23,9 @@ class Replacement {
   Replacement& operator=(const Replacement&) = delete;
   ~Replacement() = default;
 
-  /// Takes the old file's place and flushes the directory; throws FileError. To be called once.
-  void Commit();
+  /// Takes the old file's place and flushes the directory. Throws FileError, also where there is an
+  /// old file and it is to be kept. To be called once.
+  void Commit(Existing existing = Existing::Replaced);
 
   /// The mark of the new file under the path as it was given.
   const FileMark& Mark() const { return mark_; }
@@ -36,6 +38,10 @@ class Replacement {
   };
 
   std::string UnfinishedName() const;
+
+  /// Gives the new file its final name; also where an old file has it, or only where that is free.
+  void TakeName();
+  void TakeFreeName();
 
   std::filesystem::path path_;    ///< as given, for error texts
   std::filesystem::path target_;  ///< links followed

@@ -1,3 +1,5 @@
+#include "cli/command_line.h"
+
 #include "cli/command.h"
 #include "cli/help.h"
 #include "cli/run.h"
@@ -14,6 +16,7 @@ namespace orb::tests {
 namespace {
 
 using testing::HasSubstr;
+using testing::Matches;
 using testing::StartsWith;
 
 TEST(CommandLine, WhatIsWrongIsRefusedAndNothingIsDone) {
@@ -42,19 +45,19 @@ TEST(CommandLine, WhatIsWrongIsRefusedAndNothingIsDone) {
 TEST(CommandLine, HelpNamesEveryOptionOfTheCommandAndGoesToStandardOutput) {
   const Shell shell;
   const Outcome whole = shell.Run("--help");
-  for (const cli::Command* command :
-       {&cli::NewCommand, &cli::ResolveCommand, &cli::NextCommand, &cli::UndoCommand,
-        &cli::CheckCommand, &cli::WhatIfCommand, &cli::ShowCommand, &cli::MapCommand}) {
+  for (const cli::Command* command : cli::AllCommands()) {
     EXPECT_THAT(whole.Out, HasSubstr("\n  " + std::string(command->Name) + " "));
     const Outcome outcome = shell.Run(std::string(command->Name) + " --help");
     EXPECT_EQ(outcome.Status, 0);
     EXPECT_EQ(outcome.Err, "");
+    const std::size_t start = outcome.Out.find("\nOptions:\n");
+    const std::string rows = outcome.Out.substr(start, outcome.Out.find("\nExample") - start);
     for (const cli::Option& option : cli::AllOptions()) {
-      const bool known = std::find(command->Options.begin(), command->Options.end(), option.Id) !=
-                         command->Options.end();
-      const std::string row = "\n  " + std::string(option.Name) + " ";
-      EXPECT_EQ(outcome.Out.find(row) != std::string::npos, known || cli::IsCommonOption(option.Id))
-          << command->Name << row;
+      for (const std::string_view name : {option.Name, option.Other}) {
+        const auto row = testing::ContainsRegex("(\n  |, )" + std::string(name) + "[ ,]");
+        const bool isKnown = !name.empty() && Knows(*command, option.Id);
+        EXPECT_EQ(Matches(row)(rows), isKnown) << command->Name << name;
+      }
     }
   }
   const std::vector<std::pair<std::string, std::string>> outputs = {
@@ -64,6 +67,47 @@ TEST(CommandLine, HelpNamesEveryOptionOfTheCommandAndGoesToStandardOutput) {
   for (const auto& [command, usage] : outputs)
     EXPECT_THAT(shell.Run(command + " --help").Out, HasSubstr(usage));
   EXPECT_EQ(shell.Run("--version").Out, std::string(model::ProgramName) + ", orbctl\n");
+}
+
+/// The words of a line as a shell parts them.
+std::vector<std::string> Words(std::string_view line) {
+  std::vector<std::string> words(1);
+  bool isQuoted = false;
+  for (const char c : line) {
+    if (c == '"') {
+      isQuoted = !isQuoted;
+    } else if (c == ' ' && !isQuoted) {
+      words.emplace_back();
+    } else {
+      words.back() += c;
+    }
+  }
+  return words;
+}
+
+TEST(CommandLine, EveryExampleIsOne) {
+  for (const cli::Command* command : cli::AllCommands()) {
+    EXPECT_FALSE(command->Examples.empty()) << command->Name;
+    for (const cli::Example& example : command->Examples) {
+      const std::string_view line = example.Line.substr(0, example.Line.find(" | "));
+      EXPECT_EQ(cli::ParseCommandLine(Words(line)).Verb, command) << line;
+    }
+  }
+}
+
+TEST(CommandLine, HasManySpellings) {
+  for (const auto& [line, same] : LoadDrawnRows("cli/lines.txt", "the same")) {
+    const Shell a;
+    const Shell b;
+    for (const Shell* shell : {&a, &b})
+      shell->Write("a.orb", GameFile("Spring", "finished", "FRA A(Par)\n"));
+    const Outcome one = a.Run(line);
+    const Outcome other = b.Run(same);
+    EXPECT_EQ(one.Status, 0) << line;
+    EXPECT_EQ(one.Out, other.Out) << line;
+    EXPECT_EQ(a.Listing(), b.Listing()) << line;
+    EXPECT_EQ(a.Read("b.orb"), b.Read("b.orb")) << line;
+  }
 }
 
 TEST(CommandLine, ValuesMayStandBehindAnEqualsSignAndNamesMayBeginWithADash) {

@@ -19,6 +19,8 @@ using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
+constexpr std::string_view NotResolved = "@a.orb: Not resolved, nothing written; --yes goes on.\n";
+
 constexpr std::string_view TwoUnits = "FRA A(Par)\nGER A(Mun)\n";
 
 std::string TwoUnitGame() {
@@ -93,7 +95,7 @@ TEST(Resolve, DirectoriesHoldAFileForEachGame) {
             "reports reports/x.y.txt reports/z.txt why why/x.y.txt why/z.txt ");
   EXPECT_EQ(shell.Read("reports/x.y.txt"), "  FRA A(Par) - Bur  \n  GER A(Mun) hold  \n");
   EXPECT_EQ(shell.Read("reports/z.txt"), "FRA A(Bur) !  retreat Gas\n");
-  EXPECT_EQ(shell.Read("why/z.txt"), "It retreated: Gas was free.\n");
+  EXPECT_EQ(shell.Read("why/z.txt"), "FRA A(Bur) !  retreat Gas: It retreated: Gas was free.\n");
   const std::string reasons = shell.Read("why/x.y.txt");
   EXPECT_EQ(std::count(reasons.begin(), reasons.end(), '\n'), 2);
 }
@@ -123,7 +125,8 @@ TEST(Resolve, QuestionsAreAnsweredNoUnlessToldYes) {
     shell.Write("o.txt", c.Orders);
     const Outcome no = shell.Run("resolve --orders @o.txt --report @r.txt -o @b.orb @a.orb");
     EXPECT_EQ(no.Status, 1);
-    EXPECT_EQ(no.Out + no.Err, c.NoErr);
+    EXPECT_EQ(no.Out + no.Err,
+              c.NoErr + (c.YesStatus == 0 ? std::string(NotResolved) : std::string()));
     EXPECT_EQ(shell.Listing(), "a.orb o.txt ");
     const Outcome yes = shell.Run("resolve --yes --orders @o.txt --in-place @a.orb");
     EXPECT_EQ(yes.Status, c.YesStatus) << c.Orders;
@@ -214,7 +217,7 @@ TEST(Resolve, LeavesAGameWhoseReportCannotBePrinted) {
   std::ostringstream err;
   const std::vector<std::string> line{"resolve", "--yes", "--in-place",
                                       (shell.Directory().Path() / "a.orb").string()};
-  EXPECT_EQ(cli::Run(line, full, err, false), 1);
+  EXPECT_EQ(cli::Run(line, full, err), 1);
   EXPECT_THAT(err.str(), HasSubstr("a.orb: The standard output could not be written."));
   EXPECT_EQ(shell.Read("a.orb"), TwoUnitGame());
   EXPECT_EQ(shell.Listing(), "a.orb ") << "nothing is left next to it";
@@ -295,7 +298,8 @@ TEST(Seasons, CommandsThatRefuseLeaveTheGame) {
       {"next --in-place", "Autumn", "retreats",
        "The season is not finished: the game is in the stage \"retreats\"."},
       {"undo --in-place", "Spring", "retreats",
-       "2 units do not have original locations recorded. Continue?"},
+       "2 units do not have original locations recorded. Continue?\n"
+       "@a.orb: Not undone, nothing written; --yes goes on."},
       {"check", "Spring", "finished", "There are no orders to check in the stage \"finished\"."},
   };
   for (const auto& c : cases) {
@@ -381,11 +385,13 @@ TEST(Progress, IsShownForLongRunsOnATerminalAndClearedAtTheEnd) {
     shell.Write(name, GameFile("Spring", "moves", i == 30 ? "FRA A(Par)" : ""));
     arguments.push_back(std::string("@").append(name));
   }
-  const Outcome shown = shell.Run(arguments, true);
+  const Outcome shown = shell.Run(arguments, {.Err = true});
   EXPECT_THAT(shown.Err, StartsWith("\r1 of 60 games\r2 of 60"));
   EXPECT_THAT(shown.Err, HasSubstr("\r              \r@30.orb: Warning: "));
   EXPECT_THAT(shown.Err, EndsWith("\r60 of 60 games\r              \r"));
-  EXPECT_EQ(shell.Run(arguments, false).Err, "@30.orb: Warning: FRA A(Par) unordered. Continue?\n");
+  EXPECT_EQ(shell.Run(arguments).Err,
+            "@30.orb: Warning: FRA A(Par) unordered. Continue?\n"
+            "@30.orb: Not resolved, nothing written; --yes goes on.\n");
 }
 
 TEST(Games, ManyShownHaveHeadings) {

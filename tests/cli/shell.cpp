@@ -27,7 +27,8 @@ Outcome Shell::Run(std::string_view line) const {
   return Run(Words(line));
 }
 
-Outcome Shell::Run(const std::vector<std::string>& arguments, bool errIsTerminal) const {
+Outcome Shell::Run(const std::vector<std::string>& arguments,
+                   const cli::Terminals& terminals) const {
   std::vector<std::string> expanded;
   if (std::ranges::find(arguments, "--data") == arguments.end()) {
     expanded = {"--data", DataDirectory().string()};
@@ -36,7 +37,7 @@ Outcome Shell::Run(const std::vector<std::string>& arguments, bool errIsTerminal
     expanded.push_back(Expanded(argument));
   std::ostringstream out;
   std::ostringstream err;
-  const int status = cli::Run(expanded, out, err, errIsTerminal);
+  const int status = cli::Run(expanded, out, err, terminals);
   return {status, Shortened(out.str()), Shortened(err.str())};
 }
 

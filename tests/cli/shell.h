@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/console.h"
 #include "support/directories.h"
 
 #include <string>
@@ -23,7 +24,7 @@ class Shell {
 
   /// Runs a command line whose arguments are separated by single blanks.
   Outcome Run(std::string_view line) const;
-  Outcome Run(const std::vector<std::string>& arguments, bool errIsTerminal = false) const;
+  Outcome Run(const std::vector<std::string>& arguments, const cli::Terminals& terminals = {}) const;
 
   void Write(std::string_view name, std::string_view bytes) const { directory_.Write(name, bytes); }
   void MakeDirectory(std::string_view name) const;

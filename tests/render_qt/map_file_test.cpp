@@ -66,9 +66,7 @@ class MapFile : public ::testing::Test {
   }
 
   std::string Saved(MapFormat format, int width = 0) {
-    const fs::path file = directory_.Path() / "picture";
-    render::SaveMap(game_, {MapMode::Colour}, directory_.Path(), width, pictures_, file, format);
-    return model::ReadFile(file);
+    return render::MapBytes(game_, {MapMode::Colour}, directory_.Path(), width, pictures_, format);
   }
 
   QColor Fill() const { return colour::ToQColor(game_.Countries[1].Colour); }
@@ -171,20 +169,10 @@ TEST_F(MapFile, ATextIsNoMarkupInAPicture) {
                     HasSubstr("<title>London (&quot;&lt;b&gt;&#39;)</title>")));
 }
 
-TEST_F(MapFile, AFailedSaveLeavesTheOldFile) {
-  const fs::path file = directory_.Write("old.png", "precious");
-  const auto entries = directory_.EntryCount();
+TEST_F(MapFile, AUnitNowhereIsNotPassedOver) {
   game_.Units[1].Location = "Xyz";
-  for (const MapFormat format : {MapFormat::Bmp, MapFormat::Png, MapFormat::Svg, MapFormat::Pdf}) {
-    EXPECT_THROW(render::SaveMap(game_, {}, directory_.Path(), 0, pictures_, file, format),
-                 model::IndexOutOfRange);
-    EXPECT_EQ(model::ReadFile(file), "precious");
-  }
-  EXPECT_EQ(directory_.EntryCount(), entries);
-  game_.Units.SetCount(0);
-  EXPECT_THROW(render::SaveMap(game_, {}, directory_.Path(), 0, pictures_,
-                               directory_.Path() / "none" / "a.png", MapFormat::Png),
-               model::FileError);
+  for (const MapFormat format : {MapFormat::Bmp, MapFormat::Png, MapFormat::Svg, MapFormat::Pdf})
+    EXPECT_THROW(Saved(format), model::IndexOutOfRange);
 }
 
 TEST(RealMapPicture, UnitsOfTheStartStandInTheirColours) {

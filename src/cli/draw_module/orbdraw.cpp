@@ -6,7 +6,7 @@
 
 #include <exception>
 
-extern "C" bool OrbDrawMap(const orb::cli::MapRequest& request, std::string& error) {
+extern "C" bool OrbDrawMap(const orb::cli::MapRequest& request, std::string& result) {
   using namespace orb;
   try {
     // What the toolkit has to say about its surroundings is no message of this program.
@@ -18,12 +18,12 @@ extern "C" bool OrbDrawMap(const orb::cli::MapRequest& request, std::string& err
     char* argv[] = {name, nullptr};
     const QGuiApplication application(argc, argv);
     render::PictureCache pictures;
-    render::SaveMap(request.Game, request.Options, request.DataDirectory, request.PixelWidth,
-                    pictures, request.Picture, request.Format, request.Orders);
+    result = render::MapBytes(request.Game, request.Options, request.DataDirectory,
+                              request.PixelWidth, pictures, request.Format, request.Orders);
     return true;
   } catch (const std::exception& failure) {
     // No exception may leave the module: its types need not be those of the program.
-    error = model::SentenceOf(failure);
+    result = model::SentenceOf(failure);
     return false;
   }
 }

@@ -1,7 +1,6 @@
 #include "render/qt/map_file.h"
 
 #include "model/errors.h"
-#include "model/files.h"
 #include "render/map_view.h"
 #include "render/qt/canvas.h"
 #include "render/qt/painter_surface.h"
@@ -97,12 +96,11 @@ void PaintMap(const model::GameState& game, const settings::MapOptions& options,
   RenderMap(game, options, dataDirectory, surface, orders);
 }
 
-void SaveMap(const model::GameState& game, const settings::MapOptions& options,
-             const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures,
-             const std::filesystem::path& file, MapFormat format,
-             std::span<const orders::OrderOutcome> orders) {
+std::string MapBytes(const model::GameState& game, const settings::MapOptions& options,
+                     const std::filesystem::path& dataDirectory, int pixelWidth,
+                     PictureCache& pictures, MapFormat format,
+                     std::span<const orders::OrderOutcome> orders) {
   const Job job = Plan(game, options, dataDirectory, pixelWidth, pictures, orders);
-  // Everything is drawn in memory first, so that a failure leaves an existing file as it was.
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   switch (format) {
@@ -119,8 +117,7 @@ void SaveMap(const model::GameState& game, const settings::MapOptions& options,
       WritePdf(job, buffer);
       break;
   }
-  const QByteArray& bytes = buffer.data();
-  model::ReplaceFile(file, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+  return buffer.data().toStdString();
 }
 
 }  // namespace orb::render

@@ -12,6 +12,7 @@
 
 #include <filesystem>
 #include <span>
+#include <string>
 
 namespace orb::render {
 
@@ -28,12 +29,11 @@ void PaintMap(const model::GameState& game, const settings::MapOptions& options,
               const std::filesystem::path& dataDirectory, PictureCache& pictures, QPainter& painter,
               const QRectF& target, std::span<const orders::OrderOutcome> orders = {});
 
-/// Saves the map in a format, whatever the file's extension: Bmp is uncompressed, Svg and Pdf hold
-/// vectors over the bitmap. The file is replaced whole or not at all. Throws as MapImage does,
-/// FileError also when it cannot be written.
-void SaveMap(const model::GameState& game, const settings::MapOptions& options,
-             const std::filesystem::path& dataDirectory, int pixelWidth, PictureCache& pictures,
-             const std::filesystem::path& file, MapFormat format,
-             std::span<const orders::OrderOutcome> orders = {});
+/// The bytes of a file that holds the map in a format: Bmp is uncompressed, Svg and Pdf hold
+/// vectors over the bitmap. Throws as MapImage does.
+std::string MapBytes(const model::GameState& game, const settings::MapOptions& options,
+                     const std::filesystem::path& dataDirectory, int pixelWidth,
+                     PictureCache& pictures, MapFormat format,
+                     std::span<const orders::OrderOutcome> orders = {});
 
 }  // namespace orb::render

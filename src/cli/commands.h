@@ -1,0 +1,18 @@
+#pragma once
+
+#include "cli/command.h"
+
+namespace orb::cli {
+
+// Each is defined in its own source file, with its options and examples.
+
+extern const Command NewCommand;
+extern const Command ResolveCommand;
+extern const Command NextCommand;
+extern const Command UndoCommand;
+extern const Command CheckCommand;
+extern const Command WhatIfCommand;
+extern const Command ShowCommand;
+extern const Command MapCommand;
+
+}  // namespace orb::cli
