@@ -24,7 +24,8 @@ class Shell {
 
   /// Runs a command line whose arguments are separated by single blanks.
   Outcome Run(std::string_view line) const;
-  Outcome Run(const std::vector<std::string>& arguments, const cli::Terminals& terminals = {}) const;
+  Outcome Run(const std::vector<std::string>& arguments,
+              const cli::Terminals& terminals = {}) const;
 
   void Write(std::string_view name, std::string_view bytes) const { directory_.Write(name, bytes); }
   void MakeDirectory(std::string_view name) const;

@@ -230,11 +230,9 @@ TEST(RealMapPicture, AVectorFileShowsTheSameAndNamesItsParts) {
       {"FRA", "A", "Mar", OrderKind::Support, "Par", "Bur", false, Outcome::Cut},
       {"RUS", "F", "Stp.s", OrderKind::Hold, "", "", false, Outcome::Succeeded}};
   PictureCache pictures;
-  TemporaryDirectory directory;
-  const fs::path file = directory.Path() / "map.svg";
   const MapOptions options{MapMode::Colour3D, true, true, true};
-  render::SaveMap(game, options, DataDirectory(), 0, pictures, file, MapFormat::Svg, orders);
-  const std::string svg = model::ReadFile(file);
+  const std::string svg =
+      render::MapBytes(game, options, DataDirectory(), 0, pictures, MapFormat::Svg, orders);
   EXPECT_LE(svg.size(), 900'000U);
 
   const QImage expected = render::MapImage(game, options, DataDirectory(), 0, pictures, orders);
