@@ -62,7 +62,10 @@ std::optional<Aside> ReadTitle(Tokens line) {
       return below(at, at + 1);
     }
   }
-  if (const auto at = FindSaying(last, Saying::Postpones)) return below(at->Begin, at->End);
+  for (const Saying saying : {Saying::Postpones, Saying::Titles}) {
+    const auto at = FindSaying(last, saying);
+    if (at && !IsOfAddress(last, at->Begin)) return below(at->Begin, at->End);
+  }
   // Behind its first words "if" is one of another thought: "here you go, hope you see if it fits:".
   constexpr std::size_t few = 5;
   const bool isShort = std::ranges::count(last, TokenKind::Word, &Token::Kind) <= 6;

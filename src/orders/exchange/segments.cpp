@@ -151,7 +151,7 @@ class SegmentReader {
     const Context before = context_;
     const std::size_t first = parts_.size();
     plural_.reset();
-    for (const TokenRange clause : Split(line_, range, Seam::Comma))
+    for (const TokenRange clause : Clauses(range))
       ReadClause(clause);
     PartsRead clauses(parts_.begin() + static_cast<std::ptrdiff_t>(first), parts_.end());
     parts_.resize(first);
@@ -161,6 +161,26 @@ class SegmentReader {
       return false;
     }
     return TakeAll(std::move(clauses), 0, context_);
+  }
+
+  /// What stands between commas; those before a colon part no orders, where there are none:
+  /// "Turkey, with love: A Con - Bul".
+  std::vector<TokenRange> Clauses(TokenRange range) const {
+    const Tokens tokens = PartOf(range);
+    const auto colon = std::ranges::find(tokens, TokenKind::Colon, &Token::Kind);
+    const bool isTitle =
+        colon != tokens.end() && std::none_of(tokens.begin(), colon, [](auto& word) {
+          return IsA(word, TokenKind::Dash) || UnitTypeOf(word) != 0;
+        });
+    std::vector<TokenRange> clauses = Split(line_, range, Seam::Comma);
+    if (!isTitle) return clauses;
+    const std::size_t end = range.Begin + static_cast<std::size_t>(colon - tokens.begin());
+    const auto last =
+        std::ranges::find_if(clauses, [&](const TokenRange& clause) { return clause.End > end; });
+    if (last == clauses.end()) return clauses;
+    last->Begin = range.Begin;
+    clauses.erase(clauses.begin(), last);
+    return clauses;
   }
 
   void ReadClause(TokenRange range) {

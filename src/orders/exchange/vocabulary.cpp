@@ -225,12 +225,13 @@ constexpr std::array Uses{
     UseWords{WordUse::Definite,
              "final new revised updated corrected changed amended actual real definitive "
              "latest"},
-    UseWords{WordUse::Orders,
-             "order orders move moves version set list befehl befehle zuge zug ordre ordres coups "
-             "ordenes orden movimientos jugadas ordini ordine mosse ordens ordem jogadas bevel "
-             "bevelen zetten ordrer trekk traek drag rozkazy rozkaz ruchy kaskyt kasky siirrot "
-             "parancsok parancs lepesek rozkazy prikazy prikaz tahy emirler emirleri prikaz "
-             "diatages diatagh ordrene orderna"},
+    UseWords{
+        WordUse::Orders,
+        "order orders move moves version set list plan befehl befehle zuge zug ordre ordres coups "
+        "ordenes orden movimientos jugadas ordini ordine mosse ordens ordem jogadas bevel "
+        "bevelen zetten ordrer trekk traek drag rozkazy rozkaz ruchy kaskyt kasky siirrot "
+        "parancsok parancs lepesek rozkazy prikazy prikaz tahy emirler emirleri prikaz "
+        "diatages diatagh ordrene orderna"},
     UseWords{WordUse::Greeting,
              "hi hello hey dear greetings good morning evening howdy salut bonjour hallo "
              "ciao regards best cheers thanks thank yours sincerely bye kind thx gl warm "
