@@ -53,9 +53,11 @@ bool OrdersUnit(Tokens tokens, const PlaceNames& names) {
 }  // namespace
 
 std::size_t ClosingBracket(Tokens tokens, std::size_t open) {
+  // Nobody means brackets nested deeper than these.
+  constexpr int deepest = 8;
   int depth = 0;
   for (std::size_t at = open; at < tokens.size(); ++at) {
-    if (IsA(tokens[at], TokenKind::Open)) ++depth;
+    if (IsA(tokens[at], TokenKind::Open) && ++depth > deepest) break;
     if (IsA(tokens[at], TokenKind::Close) && --depth == 0) return at;
   }
   return tokens.size();

@@ -102,28 +102,30 @@ void WeighUnclear(std::vector<ReadLine>& lines, const std::vector<Surroundings>&
 /// that are ordered again tell which ones otherwise. Builds are a choice of all.
 void WeighSecondThoughts(std::vector<ReadLine>& lines, const std::vector<Surroundings>& around,
                          model::Stage stage) {
-  for (std::size_t row = 1; row < lines.size(); ++row) {
-    if (around[row].SecondThoughts.empty() || !IsUnderstood(lines[row])) continue;
-    const std::string subject = SubjectOf(lines[row].Order, stage);
-    const auto isBefore = [&](std::size_t other) {
-      return IsUnderstood(lines[other]) && around[other].IsOlder == around[row].IsOlder &&
-             lines[other].Power == lines[row].Power;
-    };
-    std::vector<std::size_t> before;
-    bool isAgain = false;
-    for (std::size_t other = 0; other < row; ++other) {
-      if (!isBefore(other)) continue;
-      before.push_back(other);
-      isAgain = isAgain || (SubjectOf(lines[other].Order, stage) == subject &&
-                            lines[other].Order != lines[row].Order);
+  /// The orders so far of a power, of the answer or of what is older.
+  struct Before {
+    std::vector<std::size_t> Rows;
+    std::size_t Doubted = 0;  ///< so many of them, from the first on
+    std::map<std::string, std::set<std::string>> OfSubjects;
+  };
+  std::map<std::pair<std::string, bool>, Before> ofPowers;
+  for (std::size_t row = 0; row < lines.size(); ++row) {
+    if (!IsUnderstood(lines[row])) continue;
+    Before& before = ofPowers[{lines[row].Power, around[row].IsOlder}];
+    std::set<std::string>& others = before.OfSubjects[SubjectOf(lines[row].Order, stage)];
+    const auto& misgiving = around[row].SecondThoughts;
+    const bool isAgain = others.size() > (others.contains(lines[row].Order) ? 1U : 0U);
+    if (misgiving != nullptr && !isAgain && !before.Rows.empty()) {
+      const int last = lines[before.Rows.back()].Number;
+      for (std::size_t i = before.Rows.size(); i > before.Doubted; --i) {
+        ReadLine& other = lines[before.Rows[i - 1]];
+        if (stage != model::Stage::Adjustments && other.Number != last) break;
+        MakeDoubtful(other, misgiving->Reason, misgiving->At);
+      }
+      before.Doubted = before.Rows.size();
     }
-    if (isAgain || before.empty()) continue;
-    const int last = lines[before.back()].Number;
-    for (const std::size_t other : before) {
-      if (stage != model::Stage::Adjustments && lines[other].Number != last) continue;
-      MakeDoubtful(lines[other], around[row].SecondThoughts + " may change it",
-                   around[row].SecondThoughtsAt);
-    }
+    before.Rows.push_back(row);
+    others.insert(lines[row].Order);
   }
 }
 
@@ -224,7 +226,8 @@ std::string SubjectOf(std::string_view order, model::Stage stage) {
 void WeighOrders(std::vector<ReadLine>& lines, const std::vector<Surroundings>& around,
                  model::Stage stage, std::string_view power) {
   for (std::size_t i = 0; i < lines.size(); ++i) {
-    if (!around[i].Doubt.empty()) MakeDoubtful(lines[i], around[i].Doubt, around[i].DoubtAt);
+    const Misgiving* doubt = around[i].Doubt.get();
+    if (doubt != nullptr) MakeDoubtful(lines[i], doubt->Reason, doubt->At);
   }
   WeighOlder(lines, around, stage);
   WeighSecondThoughts(lines, around, stage);

@@ -37,6 +37,7 @@ class TextReader {
   }
 
   std::vector<ReadLine> Read(std::deque<SourceLine>& text) {
+    rows_.Reserve(text.size());
     for (const SourceLine& line : text)
       speakers_.Take(line.All, PastLineStart(line.All), known_.Names);
     for (std::size_t at = 0; at < text.size();) {

@@ -165,7 +165,7 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
     const auto next = std::ranges::find_if(
         understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
     if ((isOfAbove || Reconsiders(remark)) && next != understood_.end()) {
-      Around.SetReconsiders(next->Row, Quoted(remark), line.Span(said.At));
+      Around.SetReconsiders(next->Row, Quoted(remark) + " may change it", line.Span(said.At));
     }
     if (!isDoubted) continue;
     Concern about = ConcernOf(remark, known_.Names, *known_.Game.Map);

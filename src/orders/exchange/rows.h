@@ -15,6 +15,12 @@ class Rows {
  public:
   explicit Rows(const KnownGame& known) : known_(known) {}
 
+  /// There will be so many rows or more.
+  void Reserve(std::size_t count) {
+    Lines.reserve(count);
+    Around.Reserve(count);
+  }
+
   /// The rows that are added next are those of another line. `isOlder`: it is quoted from an
   /// earlier text; `inSignature`: places alone make no order there.
   void BeginLine(bool isOlder, bool inSignature);

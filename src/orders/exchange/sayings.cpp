@@ -256,32 +256,54 @@ std::size_t CountWords(Tokens tokens) {
   return static_cast<std::size_t>(std::ranges::count(tokens, TokenKind::Word, &Token::Kind));
 }
 
-/// The length of the phrase that says so at a token, or 0.
-std::size_t LengthAt(Tokens tokens, std::size_t at, Saying saying) {
+/// Phrases by their first words, and those by their first letters.
+const std::array<PhraseTable, 2>& Tables() {
   static const std::array tables{AllPhrases(false), AllPhrases(true)};
-  const std::string_view word = tokens[at].Text;
+  return tables;
+}
+
+/// Calls with each phrase that may begin with a word.
+template <class Use>
+void ForPhrasesAt(std::string_view word, const Use& use) {
   const std::array keys{word, word.substr(0, StemLength)};
   for (std::size_t i = 0; i < keys.size(); ++i) {
-    const auto found = tables[i].find(keys[i]);
-    if (found == tables[i].end()) continue;
-    for (const Phrase& phrase : found->second) {
-      if (phrase.Says != saying || phrase.Words.size() > tokens.size() - at) continue;
-      if (phrase.IsAll && CountWords(tokens) != phrase.Words.size()) continue;
-      const bool isHere = std::equal(
-          phrase.Words.begin(), phrase.Words.end(),
-          tokens.begin() + static_cast<std::ptrdiff_t>(at),
-          [](std::string_view expected, const Token& token) { return Matches(token, expected); });
-      if (isHere) return phrase.Words.size();
-    }
+    const auto found = Tables()[i].find(keys[i]);
+    if (found == Tables()[i].end()) continue;
+    for (const Phrase& phrase : found->second)
+      use(phrase);
   }
-  return 0;
+}
+
+unsigned Bit(Saying saying) {
+  return 1U << static_cast<unsigned>(saying);
+}
+
+/// The length of the phrase that says so at a token, or 0.
+std::size_t LengthAt(Tokens tokens, std::size_t at, Saying saying) {
+  std::size_t length = 0;
+  ForPhrasesAt(tokens[at].Text, [&](const Phrase& phrase) {
+    if (length > 0 || phrase.Says != saying || phrase.Words.size() > tokens.size() - at) return;
+    if (phrase.IsAll && CountWords(tokens) != phrase.Words.size()) return;
+    const bool isHere = std::equal(
+        phrase.Words.begin(), phrase.Words.end(), tokens.begin() + static_cast<std::ptrdiff_t>(at),
+        [](std::string_view expected, const Token& token) { return Matches(token, expected); });
+    if (isHere) length = phrase.Words.size();
+  });
+  return length;
 }
 
 }  // namespace
 
+unsigned SayingsBeginningWith(std::string_view word) {
+  unsigned sayings = 0;
+  ForPhrasesAt(word, [&](const Phrase& phrase) { sayings |= Bit(phrase.Says); });
+  return sayings;
+}
+
 std::optional<TokenRange> FindSaying(Tokens tokens, Saying saying) {
   for (std::size_t at = 0; at < tokens.size(); ++at) {
-    if (tokens[at].Kind != TokenKind::Word) continue;
+    const bool mayBegin = (tokens[at].Means.Sayings & Bit(saying)) != 0;
+    if (tokens[at].Kind != TokenKind::Word || !mayBegin) continue;
     if (const std::size_t length = LengthAt(tokens, at, saying); length > 0)
       return TokenRange{at, at + length};
   }

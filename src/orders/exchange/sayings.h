@@ -1,24 +1,12 @@
 #pragma once
 
+#include "orders/exchange/saying_kinds.h"
 #include "orders/exchange/words.h"
 #include "orders/exchange/written_order.h"
 
-#include <cstdint>
 #include <optional>
 
 namespace orb::exchange {
-
-/// What a phrase beside or between orders says of them.
-enum class Saying : std::uint8_t {
-  Revokes,     ///< takes back those above
-  Postpones,   ///< puts them off, or leaves them open
-  Asks,        ///< asks whether they are right, or what somebody thinks of them
-  Titles,      ///< sets aside those below, even without a colon
-  Corrects,    ///< says that those below hold rather than those above
-  Shrugs,      ///< leaves what may happen to itself: "if he minds, tough luck"
-  Excludes,    ///< before an order: it is the one that is not meant: "(not A Par - Pic)"
-  Reconsiders  ///< before an order, or alone: the one above may be meant no longer
-};
 
 /// Where the first phrase that says so stands, word by word.
 std::optional<TokenRange> FindSaying(Tokens tokens, Saying saying);

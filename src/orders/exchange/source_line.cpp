@@ -64,8 +64,9 @@ bool MayGoOn(const SourceLine& line, const SourceLine& next) {
   const Token& first = next.All.front();
   const bool isOpen = IsA(last, TokenKind::Word) || IsA(last, TokenKind::Dash) ||
                       IsA(last, TokenKind::Comma) || IsA(last, TokenKind::Close);
-  const bool begins =
-      IsA(first, TokenKind::Open) || (IsA(first, TokenKind::Word) && !IsNumber(first));
+  const bool isClosed =
+      IsA(first, TokenKind::Open) && ClosingBracket(next.All, 0) < next.All.size();
+  const bool begins = isClosed || (IsA(first, TokenKind::Word) && !IsNumber(first));
   if (!isOpen || !begins || next.Plain.Text.find_first_of(">|") == 0) return false;
   const bool isSmall = IsA(first, TokenKind::Word) && !first.Capital;
   return isSmall || HasUse(last, WordUse::Filler) || VerbOf(last) != Verb::None ||

@@ -16,35 +16,35 @@ void SurroundingsOfLines::AddAbout(std::size_t row, const Concern& concern) {
   about.Provinces.insert(about.Provinces.end(), concern.Provinces.begin(), concern.Provinces.end());
 }
 
-void SurroundingsOfLines::SetReconsiders(std::size_t row, std::string quoted, Span at) {
-  rows_[row].SecondThoughts = std::move(quoted);
-  rows_[row].SecondThoughtsAt = at;
+void SurroundingsOfLines::SetReconsiders(std::size_t row, const std::string& reason, Span at) {
+  rows_[row].SecondThoughts = std::make_shared<Misgiving>(Misgiving{reason, at});
 }
 
 void SurroundingsOfLines::SetDoubtFrom(std::size_t first, const std::string& reason, Span at) {
-  Doubt(first, rows_.size(), reason, at);
+  Doubt(first, rows_.size(), std::make_shared<Misgiving>(Misgiving{reason, at}));
 }
 
 void SurroundingsOfLines::SetDoubt(std::size_t row, const std::string& reason, Span at,
                                    bool isSetAside) {
-  Doubt(row, row + 1, reason, at);
+  Doubt(row, row + 1, std::make_shared<Misgiving>(Misgiving{reason, at}));
   rows_[row].IsSetAside = rows_[row].IsSetAside || isSetAside;
 }
 
 void SurroundingsOfLines::SetAside(AsideScope scope, const std::string& reason, Span at, int power,
                                    const Concern& about, const std::vector<ReadLine>& lines,
                                    std::size_t end) {
-  const bool isAbove = scope != AsideScope::Below && SetAsideAbove(reason, at, about, lines, end);
+  const auto misgiving = std::make_shared<const Misgiving>(Misgiving{reason, at});
+  const bool isAbove = scope != AsideScope::Below && SetAsideAbove(misgiving, about, lines, end);
   if (isAbove || scope == AsideScope::Above) return;
-  reason_ = reason;
-  at_ = at;
+  setAside_ = misgiving;
   power_ = power;
   below_ = rows_.size();
 }
 
 /// False when there are no orders above in the same part of the text.
-bool SurroundingsOfLines::SetAsideAbove(const std::string& reason, Span at, const Concern& about,
-                                        const std::vector<ReadLine>& lines, std::size_t end) {
+bool SurroundingsOfLines::SetAsideAbove(const std::shared_ptr<const Misgiving>& misgiving,
+                                        const Concern& about, const std::vector<ReadLine>& lines,
+                                        std::size_t end) {
   const bool isOlder = rows_.back().IsOlder;
   std::size_t& begin = notSetAside_[isOlder ? 1 : 0];
   const auto isOrder = [&](std::size_t row) {
@@ -58,8 +58,7 @@ bool SurroundingsOfLines::SetAsideAbove(const std::string& reason, Span at, cons
   }
   for (std::size_t row = begin; row < end; ++row) {
     if (!isOrder(row) || (isOfSome && !Concerns(about, lines[row].Order))) continue;
-    rows_[row].Doubt = reason;
-    rows_[row].DoubtAt = at;
+    rows_[row].Doubt = misgiving;
     rows_[row].IsSetAside = true;
   }
   if (!isOfSome) begin = std::max(begin, end);
@@ -68,11 +67,11 @@ bool SurroundingsOfLines::SetAsideAbove(const std::string& reason, Span at, cons
 
 void SurroundingsOfLines::TakeHeading(int power, bool corrects, bool isOfOrders,
                                       const std::vector<ReadLine>& lines) {
-  if (reason_.empty()) return;
+  if (setAside_ == nullptr) return;
   while (below_ < lines.size() && !IsUnderstood(lines[below_]) && !IsUnclear(lines[below_]))
     ++below_;
   const bool isOfAnother = power_ != 0 && power != 0 && power != power_;
-  if (corrects || (below_ < lines.size() && (isOfOrders || isOfAnother))) reason_.clear();
+  if (corrects || (below_ < lines.size() && (isOfOrders || isOfAnother))) setAside_.reset();
 }
 
 void SurroundingsOfLines::EndLine(std::size_t first, bool holdsOrders, bool isEmpty,
@@ -85,25 +84,25 @@ void SurroundingsOfLines::EndLine(std::size_t first, bool holdsOrders, bool isEm
   if (!isInBlock_) block_ = first;
   isInBlock_ = true;
   blockEnd_ = rows_.size();
-  if (lead_.Reason.empty()) return;
+  if (lead_.Doubt == nullptr) return;
   for (std::size_t row = first; row < rows_.size(); ++row) {
     if (lead_.Power != 0 && lines[row].Power == PowerText(lead_.Power)) continue;
-    Doubt(row, row + 1, lead_.Reason, lead_.At);
+    Doubt(row, row + 1, lead_.Doubt);
     rows_[row].IsSetAside = rows_[row].IsSetAside || lead_.SetsAside;
   }
 }
 
 void SurroundingsOfLines::DoubtBlock(const std::string& reason, Span at) {
-  Doubt(block_, blockEnd_, reason, at);
+  Doubt(block_, blockEnd_, std::make_shared<Misgiving>(Misgiving{reason, at}));
 }
 
 /// Rows of the same part of the text as the last one.
-void SurroundingsOfLines::Doubt(std::size_t first, std::size_t end, const std::string& reason,
-                                Span at) {
+void SurroundingsOfLines::Doubt(std::size_t first, std::size_t end,
+                                const std::shared_ptr<const Misgiving>& misgiving) {
   for (std::size_t row = first; row < end; ++row) {
-    if (!rows_[row].Doubt.empty() || rows_[row].IsOlder != rows_.back().IsOlder) continue;
-    rows_[row].Doubt = reason;
-    rows_[row].DoubtAt = at;
+    const bool isDoubted = rows_[row].Doubt != nullptr;
+    if (isDoubted || rows_[row].IsOlder != rows_.back().IsOlder) continue;
+    rows_[row].Doubt = misgiving;
   }
 }
 

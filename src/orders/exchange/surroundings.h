@@ -6,22 +6,27 @@
 
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace orb::exchange {
 
+/// Why orders may not be meant, and where that is said. Many lines may share one.
+struct Misgiving {
+  std::string Reason;
+  Span At;
+};
+
 /// What stands around a line that was read.
 struct Surroundings {
   bool IsOlder = false;     ///< in a part of the text that is quoted from an earlier one
   bool Corrects = false;    ///< its words say that it holds rather than what stands above
   bool IsSetAside = false;  ///< a heading or line says that it is not for now
-  std::string Doubt;        ///< why the orders here may not be meant, or empty
-  Span DoubtAt;
-  std::string SecondThoughts;  ///< right before the order, about the one above; quoted, or empty
-  Span SecondThoughtsAt;
-  Concern About;  ///< what is not understood in the line
+  std::shared_ptr<const Misgiving> Doubt;           ///< about the orders here, or none
+  std::shared_ptr<const Misgiving> SecondThoughts;  ///< right before the order, about those above
+  Concern About;                                    ///< what is not understood in the line
 };
 
 /// Follows what the lines of a text say of the orders around them.
@@ -30,9 +35,11 @@ class SurroundingsOfLines {
   /// Words in the line of an order may be about these orders, too.
   void AddAbout(std::size_t row, const Concern& concern);
 
+  void Reserve(std::size_t count) { rows_.reserve(count); }
+
   /// One more line was read.
   void Add(bool isOlder) {
-    rows_.push_back({isOlder, false, !reason_.empty(), reason_, at_, {}, {}, {}});
+    rows_.push_back({isOlder, false, setAside_ != nullptr, setAside_, {}, {}});
   }
 
   /// The last row is not understood and may be about these orders.
@@ -44,12 +51,14 @@ class SurroundingsOfLines {
                const std::vector<ReadLine>& lines);
 
   /// A line that asks or supposes leads to the block of orders below it.
-  void LeadTo(const std::string& reason, Span at) { lead_ = {reason, at, true, 0}; }
+  void LeadTo(const std::string& reason, Span at) {
+    lead_ = {std::make_shared<Misgiving>(Misgiving{reason, at}), true, 0};
+  }
 
   /// A title that is not understood stands above the block of orders below it; those of `power`
   /// are its own.
   void EntitleBlock(const std::string& reason, Span at, int power) {
-    lead_ = {reason, at, false, power};
+    lead_ = {std::make_shared<Misgiving>(Misgiving{reason, at}), false, power};
   }
 
   /// A line behind the last block of orders makes a reservation about it.
@@ -62,7 +71,7 @@ class SurroundingsOfLines {
   void SetCorrects(std::size_t first);
 
   /// Before the order of a row the writer thinks better of what is above.
-  void SetReconsiders(std::size_t row, std::string quoted, Span at);
+  void SetReconsiders(std::size_t row, const std::string& reason, Span at);
 
   /// Something speaks against the orders from a row on; what was found first counts.
   void SetDoubtFrom(std::size_t first, const std::string& reason, Span at);
@@ -83,7 +92,7 @@ class SurroundingsOfLines {
 
   /// Another text begins: nothing is set aside there.
   void StartAnew() {
-    reason_.clear();
+    setAside_.reset();
     lead_ = {};
     block_ = blockEnd_ = rows_.size();
   }
@@ -91,8 +100,8 @@ class SurroundingsOfLines {
   const std::vector<Surroundings>& Rows() const { return rows_; }
 
  private:
-  void Doubt(std::size_t first, std::size_t end, const std::string& reason, Span at);
-  bool SetAsideAbove(const std::string& reason, Span at, const Concern& about,
+  void Doubt(std::size_t first, std::size_t end, const std::shared_ptr<const Misgiving>& misgiving);
+  bool SetAsideAbove(const std::shared_ptr<const Misgiving>& misgiving, const Concern& about,
                      const std::vector<ReadLine>& lines, std::size_t end);
 
   std::vector<Surroundings> rows_;
@@ -102,14 +111,12 @@ class SurroundingsOfLines {
   std::size_t blockEnd_ = 0;  ///< the row behind it
   bool isInBlock_ = false;
   struct Lead {
-    std::string Reason;  ///< why the orders of the next block may not be meant, or empty
-    Span At;
-    bool SetsAside = false;  ///< they surely are none of the writer's
-    int Power = 0;           ///< whose orders are meant all the same
+    std::shared_ptr<const Misgiving> Doubt;  ///< about the orders of the next block, or none
+    bool SetsAside = false;                  ///< they surely are none of the writer's
+    int Power = 0;                           ///< whose orders are meant all the same
   };
   Lead lead_;
-  std::string reason_;  ///< why the orders from now on are set aside, or empty
-  Span at_;
+  std::shared_ptr<const Misgiving> setAside_;  ///< about the orders from now on, or none
   int power_ = 0;
   std::size_t below_ = 0;  ///< the first row below that may have an order
 };

@@ -1,5 +1,7 @@
 #include "orders/exchange/vocabulary.h"
 
+#include "orders/exchange/saying_kinds.h"
+
 #include <algorithm>
 #include <array>
 #include <unordered_map>
@@ -301,6 +303,7 @@ WordMeaning MeaningOf(std::string_view word) {
   static const Meanings meanings = AllMeanings();
   const auto found = meanings.find(word);
   WordMeaning meaning = found == meanings.end() ? WordMeaning() : found->second;
+  meaning.Sayings = SayingsBeginningWith(word);
   if (IsSeasonCode(word)) meaning.Uses |= static_cast<unsigned>(WordUse::Heading);
   return meaning;
 }
@@ -313,48 +316,6 @@ std::vector<std::string_view> Parts(std::string_view text, char separator) {
     text.remove_prefix(std::min(end + 1, text.size()));
   }
   return parts;
-}
-
-bool IsCoastNoun(std::string_view word) {
-  constexpr std::array<std::string_view, 12> nouns{"coast",  "cst",  "costa",  "cote",
-                                                   "kuste",  "kust", "kusten", "kyst",
-                                                   "kysten", "cost", "kueste", "wybrzeze"};
-  return std::ranges::find(nouns, word) != nouns.end();
-}
-
-char CoastLetter(std::string_view word) {
-  struct Abroad {
-    char Letter;
-    std::string_view Words;  ///< separated by blanks
-  };
-  constexpr std::array abroad{
-      Abroad{'n',
-             "cn nord norte noord norra norr nordre nk nordkuste nordkueste noordkust nordkust "
-             "nordkusten nordkyst nordkysten polnocne polnoc"},
-      Abroad{
-          's',
-          "cs sud sur sul zuid sodra soder sondre syd sk zk sudkuste suedkueste zuidkust sydkust "
-          "sydkusten sydkyst sydkysten sorkyst sorkysten poludniowe poludnie"},
-      Abroad{'e',
-             "ce est este oost ost ostra ostkuste ostkueste oostkust ostkusten ostkyst ostkysten "
-             "wschodnie wschod"}};
-  for (const Abroad& row : abroad) {
-    const auto words = Parts(row.Words, ' ');
-    if (std::ranges::find(words, word) != words.end()) return row.Letter;
-  }
-  constexpr std::string_view letters = "nsew";
-  constexpr std::array<std::string_view, 4> names{"north", "south", "east", "west"};
-  for (std::size_t i = 0; i < names.size(); ++i) {
-    const std::string_view letter = letters.substr(i, 1);
-    const std::string_view rest = word.substr(std::min<std::size_t>(1, word.size()));
-    if (word.starts_with(letter) && (rest.empty() || rest == "c" || rest == "cst"))
-      return letter[0];
-    if (word.starts_with(names[i]) &&
-        (word.size() == names[i].size() || word.substr(names[i].size()) == "ern")) {
-      return letter[0];
-    }
-  }
-  return 0;
 }
 
 }  // namespace orb::exchange

@@ -46,8 +46,9 @@ enum class WordUse : std::uint32_t {
 /// What a word can mean wherever it stands.
 struct WordMeaning {
   Verb Does = Verb::None;
-  char UnitType = 0;  ///< 'A' or 'F', 0: none
-  unsigned Uses = 0;  ///< bits of WordUse
+  char UnitType = 0;     ///< 'A' or 'F', 0: none
+  unsigned Uses = 0;     ///< bits of WordUse
+  unsigned Sayings = 0;  ///< which phrases it may begin: SayingsBeginningWith
 
   bool Has(WordUse use) const { return (Uses & static_cast<unsigned>(use)) != 0; }
 };
