@@ -2,6 +2,7 @@
 
 #include "model/lookups.h"
 #include "render/drawing.h"
+#include "render/labels.h"
 #include "render/map_view.h"
 #include "render/paths.h"
 #include "render/symbols.h"
@@ -151,6 +152,28 @@ Pose PoseAt(const model::Map& map, const history::Journey& journey, const Clock&
   return pose;
 }
 
+/// The place on whose label a pose lies, once it lies there at rest; else 0.
+int LabelUnder(const model::Map& map, const history::Journey& journey, const Pose& pose) {
+  if (pose.Layer != Layer::Aside || pose.Scale != DislodgedScale) return 0;
+  const bool hasMoved = !journey.DislodgedAtFirst && history::HasMoved(journey);
+  const int row = model::FindProvince(map, hasMoved ? journey.Aim : journey.From);
+  const Point label = LabelPoint(map.Provinces[row]);
+  return pose.At.X == label.X && pose.At.Y == label.Y ? row : 0;
+}
+
+std::vector<ShownUnit> UnitsShown(const model::Map& map,
+                                  const std::vector<history::Journey>& journeys,
+                                  const std::vector<Pose>& poses) {
+  std::vector<ShownUnit> shown;
+  for (std::size_t i = 0; i < poses.size(); ++i) {
+    const Pose& pose = poses[i];
+    if (pose.Scale < LeastScale) continue;
+    shown.push_back(
+        {journeys[i].UnitType, pose.At, pose.Scale, LabelUnder(map, journeys[i], pose)});
+  }
+  return shown;
+}
+
 }  // namespace
 
 double Seconds(const history::Replay& replay) {
@@ -169,6 +192,8 @@ void DrawMoving(const history::Replay& replay, const settings::MapOptions& optio
   poses.reserve(replay.Journeys.size());
   for (const history::Journey& journey : replay.Journeys)
     poses.push_back(PoseAt(*replay.Start.Map, journey, clock));
+  const std::vector<ShownUnit> shown = UnitsShown(*replay.Start.Map, replay.Journeys, poses);
+  HideLabelsUnder(surface, *replay.Start.Map, shown);
   const SymbolStyle style{replay.Start.Countries, options.Mode};
   for (const Layer layer : {Layer::Standing, Layer::Moving, Layer::Aside}) {
     for (std::size_t i = 0; i < poses.size(); ++i) {
@@ -179,6 +204,7 @@ void DrawMoving(const history::Replay& replay, const settings::MapOptions& optio
                pose.Scale);
     }
   }
+  DrawLabelsBeside(surface, *replay.Start.Map, shown);
   DrawAboveUnits(replay.Start, options, surface);
 }
 

@@ -4,12 +4,12 @@
 #include "model/lookups.h"
 #include "model/place.h"
 #include "render/drawing.h"
+#include "render/labels.h"
 #include "render/order_drawing.h"
 #include "render/parts.h"
 #include "render/symbols.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
 #include <vector>
 
@@ -19,63 +19,6 @@ namespace {
 using model::GameState;
 using model::Unit;
 using Orders = std::span<const orders::OrderOutcome>;
-
-/// The font of labels, captions and legend: 8 points, as the label boxes expect it.
-void SetFont(Surface& surface) {
-  surface.FontSize = 8;
-  surface.FontBold = false;
-  surface.FontUnderline = false;
-}
-
-void DrawOwnerBox(Surface& surface, Point corner, std::string_view label, model::Colour colour) {
-  const double height = surface.TextHeight(label);
-  surface.FillStyle = Fill::Transparent;
-  surface.DrawWidth = 2;
-  surface.ForeColour = colour;
-  surface.Box({corner.X - surface.TextWidth(" ") / 2, corner.Y + 0.1 * height},
-              surface.TextWidth(std::string(" ").append(label)), 0.8 * height);
-  SetPens(surface);
-}
-
-void DrawLabel(Surface& surface, const GameState& game, const settings::MapOptions& options,
-               int row) {
-  const model::Province& province = game.Map->Provinces[row];
-  const DrawnPart part(surface, game, row);
-  const std::string_view label = LabelText(province);
-  const Point corner = LabelCorner(surface, province);
-  PrintAt(surface, corner, label);
-  if (province.IsSupplyCentre == 0) return;
-  const int owner = model::FindCountry(game.Provinces[row].Owner);
-  if (owner != 0 && options.ColourBordersByOwner) {
-    DrawOwnerBox(surface, corner, label, game.Countries[owner].Colour);
-  }
-  surface.Circle(CentreDot(surface, province), DotRadius);
-}
-
-/// Draws a label once more, over the lines of orders: a light seam keeps the letters and the dot
-/// apart from them. The shifts are twips.
-void DrawLabelAgain(Surface& surface, const GameState& game, const settings::MapOptions& options,
-                    int row) {
-  const model::Province& province = game.Map->Provinces[row];
-  constexpr std::array<Point, 8> around = {
-      {{-18, 0}, {18, 0}, {0, -18}, {0, 18}, {-13, -13}, {13, -13}, {-13, 13}, {13, 13}}};
-  const Point corner = LabelCorner(surface, province);
-  surface.ForeColour = White;
-  surface.FillColour = White;
-  for (const Point& shift : around) {
-    PrintAt(surface, {corner.X + shift.X, corner.Y + shift.Y}, LabelText(province));
-  }
-  if (province.IsSupplyCentre != 0) surface.Circle(CentreDot(surface, province), DotRadius + 12);
-  SetPens(surface);
-  DrawLabel(surface, game, options, row);
-}
-
-void DrawLabelsAndCentres(Surface& surface, const GameState& game,
-                          const settings::MapOptions& options) {
-  for (int row = 1; row <= game.Map->Provinces.Count(); ++row) {
-    DrawLabel(surface, game, options, row);
-  }
-}
 
 std::string_view StageCaption(model::Stage stage) {
   if (stage == model::Stage::Moves) return "before moves";
@@ -223,8 +166,9 @@ void DrawGround(const GameState& game, const settings::MapOptions& options,
                 const Orders& orders) {
   surface.LoadPicture(BackgroundFile(dataDirectory, options.Mode));
   SetPens(surface);
-  SetFont(surface);
-  DrawLabelsAndCentres(surface, game, options);
+  SetLabelFont(surface);
+  for (int row = 1; row <= game.Map->Provinces.Count(); ++row)
+    DrawLabel(surface, game, options, row);
   DrawCaptions(surface, game);
   if (game.Stage == model::Stage::Retreats) {
     DrawStandoffMarkers(surface, game);
@@ -246,7 +190,7 @@ void DrawBelowUnits(const GameState& game, const settings::MapOptions& options,
 }
 
 void DrawAboveUnits(const GameState& game, const settings::MapOptions& options, Surface& surface) {
-  SetFont(surface);
+  SetLabelFont(surface);
   if (options.ShowCentreOwners) DrawCentreOwners(surface, game, options.Mode);
   if (options.ShowCentreCount) {
     settings::InColour(options.Mode) ? DrawColourLegend(surface, game)
@@ -261,12 +205,16 @@ void RenderMap(const GameState& game, const settings::MapOptions& options,
   const std::vector<LabelBoxes> labels = BoxesToKeepClear(surface, game, orders);
   const std::vector<OrderRoute> routes = RoutesOf(surface, game, orders, labels);
   // From the ground up: the lines of orders, the labels they would hide, units in place, dislodged
-  // units over their attackers, and what is marked on units.
+  // units over their attackers, the labels that those
+  // hide, and what is marked on units.
   DrawOrdersBelowUnits(surface, game, routes, options.Mode);
   for (const int row : LabelsUnder(routes, labels))
     DrawLabelAgain(surface, game, options, row);
+  const std::vector<ShownUnit> units = UnitsShown(game);
+  HideLabelsUnder(surface, *game.Map, units);
   DrawUnits(surface, game, options.Mode, false);
   DrawUnits(surface, game, options.Mode, true);
+  DrawLabelsBeside(surface, *game.Map, units);
   DrawOrdersAboveUnits(surface, game, routes, options.Mode);
   DrawAboveUnits(game, options, surface);
 }

@@ -29,6 +29,14 @@ struct Clip {
 
 }  // namespace
 
+double CommonArea(const Rectangle& a, const Rectangle& b) {
+  const double width =
+      std::min(a.BottomRight.X, b.BottomRight.X) - std::max(a.TopLeft.X, b.TopLeft.X);
+  const double height =
+      std::min(a.BottomRight.Y, b.BottomRight.Y) - std::max(a.TopLeft.Y, b.TopLeft.Y);
+  return std::max(width, 0.0) * std::max(height, 0.0);
+}
+
 Point Moved(Point from, Point direction, double distance) {
   return {from.X + direction.X * distance, from.Y + direction.Y * distance};
 }

@@ -23,6 +23,9 @@ struct Rectangle {
   Point BottomRight = {0, 0};
 };
 
+/// How much of two rectangles is common to both; 0 where one is empty.
+double CommonArea(const Rectangle& a, const Rectangle& b);
+
 /// The point that lies at a distance in a direction, or at several times a shift.
 Point Moved(Point from, Point direction, double distance);
 

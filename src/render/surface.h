@@ -17,6 +17,10 @@ struct Point {
 
 enum class Fill { Solid, Transparent };
 
+/// The seam about texts, which does not quite hide what lies below it.
+constexpr model::Colour HaloColour = model::Rgb(255, 255, 255);
+constexpr double HaloOpacity = 0.8;
+
 /// A picture to draw on: a window's map, a bitmap, a page, a panel. Lengths are twips (1/1440 inch)
 /// from the top left corner, y downwards; texts are 8-bit (Windows-1252). What is drawn follows the
 /// public fields as they stand at the call.
@@ -29,6 +33,7 @@ class Surface {
   double FontSize = 8;   ///< in points
   bool FontBold = false;
   bool FontUnderline = false;
+  double HaloWidth = 0;  ///< of the light seam about the letters of texts, in screen pixels
   double CurrentX = 0, CurrentY = 0;  ///< the text cursor: top left corner of the next text
 
   Surface() = default;

@@ -57,6 +57,10 @@ std::string FactorText(double factor) {
 
 }  // namespace
 
+double SvgDefinitions::OutlinePen(double twips) const {
+  return twips * OutlineUnitsPerTwip;
+}
+
 std::string SvgDefinitions::GlyphId(int glyph) {
   const std::string id = std::string("g").append(std::to_string(glyph));
   if (!glyphs_.insert(glyph).second) return id;

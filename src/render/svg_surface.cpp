@@ -210,18 +210,28 @@ void SvgSurface::PaintWhite() {
           .append(" fill=\"#fff\"/>"));
 }
 
+void SvgSurface::AddText(Point corner, const std::string& id, std::string_view paint) {
+  const Spot at = SpotOf(corner);
+  Add(std::string("<use xlink:href=\"#")
+          .append(id)
+          .append("\"")
+          .append(Attribute("x", TenthsText(at.X)))
+          .append(Attribute("y", TenthsText(at.Y)))
+          .append(paint)
+          .append("/>"));
+}
+
 void SvgSurface::DrawText(Point corner, std::string_view text) {
   const std::string id = definitions_.TextId(Font(), text);
-  if (!id.empty()) {
-    const Spot at = SpotOf(corner);
-    Add(std::string("<use xlink:href=\"#")
-            .append(id)
-            .append("\"")
-            .append(Attribute("x", TenthsText(at.X)))
-            .append(Attribute("y", TenthsText(at.Y)))
-            .append(Attribute("fill", ColourText(ForeColour)))
-            .append("/>"));
+  if (!id.empty() && HaloWidth > 0) {
+    const double pen = definitions_.OutlinePen(2 * HaloWidth * TwipsPerPixel);
+    AddText(corner, id,
+            Attribute("stroke", ColourText(HaloColour))
+                .append(Attribute("stroke-opacity", TenthsText(Tenths(HaloOpacity))))
+                .append(Attribute("stroke-width", TenthsText(Tenths(pen))))
+                .append(Attribute("stroke-linejoin", "round")));
   }
+  if (!id.empty()) AddText(corner, id, Attribute("fill", ColourText(ForeColour)));
   if (!FontUnderline) return;
   const double down = 0.85 * TextHeight(text);
   Line({corner.X, corner.Y + down}, {corner.X + TextWidth(text), corner.Y + down});

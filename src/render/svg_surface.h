@@ -25,6 +25,9 @@ class SvgDefinitions {
   /// The id of a text's shape, which stands at its top left corner; empty where there is no ink.
   std::string TextId(const TextFont& font, std::string_view text);
 
+  /// The width of a pen about outlines, of which the document's own differs.
+  double OutlinePen(double twips) const;
+
   /// The id of a piece of markup that is used more than once.
   std::string PieceId(const std::string& markup);
 
@@ -96,6 +99,7 @@ class SvgSurface : public Surface {
   std::string PaintAttributes() const;
   TextFont Font() const { return {FontSize, FontBold}; }
   void Add(std::string_view markup);
+  void AddText(Point corner, const std::string& id, std::string_view paint);
   void FlushLines();
 
   SvgDefinitions& definitions_;

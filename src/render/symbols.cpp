@@ -117,6 +117,7 @@ std::vector<Point> Inset(std::span<const Point> figure, double distance) {
 void DrawLetter(Surface& surface, Point centre, double size, char letter, Colour colour) {
   const std::string_view text(&letter, 1);
   const double oldSize = std::exchange(surface.FontSize, size);
+  const double oldHalo = std::exchange(surface.HaloWidth, 0);
   surface.ForeColour = colour;
   surface.FontBold = true;
   // Capitals stand a little below the middle of their line.
@@ -125,6 +126,7 @@ void DrawLetter(Surface& surface, Point centre, double size, char letter, Colour
           text);
   surface.FontBold = false;
   surface.FontSize = oldSize;
+  surface.HaloWidth = oldHalo;
 }
 
 /// Light falls from the upper left, so that each quarter of the edge has its own shade.
@@ -200,6 +202,16 @@ void DrawUnit(Surface& surface, const SymbolStyle& style, std::string_view unitT
               int power, double scale) {
   const auto draw = unitType == "A" ? DrawArmy : DrawFleet;
   draw(surface, style, at, power, scale);
+}
+
+Rectangle UnitBox(std::string_view unitType, Point centre, double scale) {
+  if (unitType == "A") {
+    const double reach = ArmyRadius * scale;
+    return {Offset(centre, {-1, -1}, reach), Offset(centre, {1, 1}, reach)};
+  }
+  const auto [left, right] = std::ranges::minmax(Ship, {}, &Point::X);
+  const auto [top, bottom] = std::ranges::minmax(Ship, {}, &Point::Y);
+  return {Offset(centre, {left.X, top.Y}, scale), Offset(centre, {right.X, bottom.Y}, scale)};
 }
 
 void DrawMoveLine(Surface& surface, Point from, Point to, Colour colour) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/game_state.h"
+#include "render/paths.h"
 #include "render/surface.h"
 #include "settings/map_options.h"
 
@@ -29,6 +30,9 @@ void DrawFleet(Surface& surface, const SymbolStyle& style, Point at, int power, 
 /// An army for the unit type "A", for anything else a fleet.
 void DrawUnit(Surface& surface, const SymbolStyle& style, std::string_view unitType, Point at,
               int power, double scale);
+
+/// What a unit drawn at a point covers, both in twips.
+Rectangle UnitBox(std::string_view unitType, Point centre, double scale);
 
 /// The way of an attack.
 void DrawMoveLine(Surface& surface, Point from, Point to, model::Colour colour);

@@ -2,7 +2,9 @@
 
 #include "model/errors.h"
 #include "model/lookups.h"
+#include "render/labels.h"
 #include "render/recorder.h"
+#include "render/symbols.h"
 #include "settings/map_options.h"
 #include "support/boards.h"
 #include "support/drawn_cases.h"
@@ -67,8 +69,8 @@ TEST(MapView, StepsPaintOverEarlierOnes) {
   const Drawn surface(game, {MapMode::Colour, true, false, true});
   const std::string steps = Order(surface);
   const std::string end =
-      "text line attack unit small polygon box text box text box text box "
-      "text box text box text box text";
+      "text line attack text unit small text polygon box text box text box text box text box text "
+      "box text box text";
   ASSERT_GT(steps.size(), end.size());
   EXPECT_EQ(steps.substr(0, 12), "picture text");
   EXPECT_EQ(steps.substr(steps.size() - end.size()), end);
@@ -100,16 +102,20 @@ TEST(MapView, OnlyOwnedCentresHaveABoxOrAShield) {
   GameState game = Board("Spring", "moves", {});
   Own(game, "FRA Par Bur Spa.n");
   Own(game, "fra Tun");
-  for (const MapMode mode : {MapMode::Colour, MapMode::BlackWhite}) {
+  for (const MapMode mode : AllModes) {
     const auto boxes = Drawn(game, {mode, false, true, false}).All("box");
-    ASSERT_EQ(boxes.size(), 1U);
-    const Stroke& box = boxes.front();
+    ASSERT_EQ(boxes.size(), 2U) << "the box and its edge";
+    const bool inColour = settings::InColour(mode);
+    const Stroke& box = boxes[inColour ? 1 : 0];
     // "Par": 300 by 200 about the label point; the box begins half a blank further left.
     const render::Point corner = box.Points.front();
     EXPECT_EQ(At({corner.X + 50 + 150, corner.Y - 20 + 100}), At(LabelAt("Par")));
     EXPECT_EQ(At({box.Width, box.Height}), "400,160");
     EXPECT_EQ(box.Fore, game.Countries[2].Colour);
     EXPECT_TRUE(!box.Filled && box.Pen == 2);
+    const Stroke& edge = boxes[inColour ? 0 : 1];
+    EXPECT_EQ(edge.Fore, render::Black);
+    EXPECT_GT(edge.Pen, box.Pen) << "seen beside the box, or all over it";
   }
   const auto shields = Drawn(game, {MapMode::Colour, false, false, true}).All("polygon");
   ASSERT_EQ(shields.size(), 1U);
@@ -183,6 +189,32 @@ TEST(MapView, DislodgedUnitsAreSmallAndOnTop) {
   EXPECT_THAT(units, ElementsAre("FRA " + At(UnitAt("Bur")) + " 115.0",
                                  "ENG " + At(UnitAt("Lon")) + " 115.0",
                                  "GER " + At(LabelAt("Bur")) + " 86.25"));
+}
+
+TEST(MapView, ALabelUnderADislodgedUnitIsWrittenAgainClearOfEveryUnit) {
+  for (const std::string place : {"Bur", "Bel", "NTH", "Nap", "Spa.n", "Tun", "BAR"}) {
+    SCOPED_TRACE(place);
+    const GameState game = Board("Spring", "retreats",
+                                 {"GER F(" + place + ") <Mun", "FRA A(" + place.substr(0, 3) + ")",
+                                  "ITA A(Ruh)", "ENG F(ECH)", "AUS A(Rom)"});
+    auto texts = Drawn(game, {MapMode::Colour}).All("text");
+    std::erase_if(texts, [&](const Stroke& text) {
+      return text.Text != place.substr(place.size() == 3 ? 0 : 4);
+    });
+    const auto again = std::ranges::find(texts, render::White, &Stroke::Fore);
+    ASSERT_TRUE(again != texts.end() && again + 1 != texts.end()) << "blotted out, then written";
+    const Stroke& text = *(again + 1);
+    EXPECT_EQ(text.Fore, render::Black);
+    EXPECT_GT(text.Halo, 1);
+    const render::Point corner = text.Points[0];
+    const double width = 100.0 * static_cast<double>(text.Text.size());
+    const render::Rectangle ink = {{corner.X, corner.Y + 40}, {corner.X + width, corner.Y + 170}};
+    EXPECT_GT(render::CommonArea(ink, {{0, 0}, {10000, 8000}}), 0.99 * width * 130);
+    for (const render::ShownUnit& unit : render::UnitsShown(game)) {
+      const render::Point at = render::OnSurface(Recorder(), unit.At);
+      EXPECT_EQ(render::CommonArea(ink, render::UnitBox(unit.UnitType, at, unit.Scale)), 0);
+    }
+  }
 }
 
 /// Centres and units of France, Turkey, Austria and England; of a coast and of a place that is no

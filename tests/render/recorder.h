@@ -29,6 +29,7 @@ struct Stroke {
   model::Colour Fore = 0, Fill = 0;
   bool Filled = false, Bold = false, Underlined = false;
   double Pen = 0;
+  double Halo = 0;  ///< of a text
 };
 
 /// A surface of 10000 by 8000 twips that remembers what is drawn. Every character is 100 twips
@@ -85,6 +86,7 @@ class Recorder : public render::Surface {
     stroke.Pen = DrawWidth;
     stroke.Bold = FontBold;
     stroke.Underlined = FontUnderline;
+    if (stroke.Kind == "text") stroke.Halo = HaloWidth;
     Strokes.push_back(std::move(stroke));
   }
 };

@@ -49,12 +49,17 @@ void PainterSurface::SetFontFamily(const QString& family) {
   metrics_ = QFontMetricsF(font_);
 }
 
+/// Whether the painter fills an upright raster, from which pictures can be copied pixel by pixel.
+bool PainterSurface::PaintsPixels(const QTransform& toDevice) const {
+  return painter_.paintEngine()->type() == QPaintEngine::Raster &&
+         toDevice.type() <= QTransform::TxScale;
+}
+
 void PainterSurface::LoadPicture(const std::filesystem::path& file) {
   // Printers and vector files take the picture as it is. On a screen or image it is drawn pixel by
   // pixel from a copy scaled once and kept, since scaling takes longer than all the rest.
   const QTransform toDevice = painter_.deviceTransform();
-  const bool raster = painter_.paintEngine()->type() == QPaintEngine::Raster;
-  if (!raster || toDevice.type() > QTransform::TxScale) {
+  if (!PaintsPixels(toDevice)) {
     painter_.drawImage(QRectF(QPointF(0, 0), twips_), pictures_.Picture(file));
     return;
   }
@@ -94,11 +99,33 @@ double PainterSurface::TextHeight(std::string_view /*text*/) const {
 }
 
 void PainterSurface::DrawText(Point corner, std::string_view text) {
-  const double ascent = UseFont().ascent();
-  painter_.setFont(font_);
-  painter_.setPen(colour::ToQColor(ForeColour));
   // The painter places texts by their base line, the surface by their upper edge.
-  painter_.drawText(QPointF(corner.X, corner.Y + ascent), text::ToQString(text));
+  const QPointF base(corner.X, corner.Y + UseFont().ascent());
+  const HaloText shown = {text::ToQString(text), font_, colour::ToQColor(ForeColour),
+                          HaloWidth * TwipsPerPixel};
+  HaloWidth > 0 ? DrawHaloText(shown, base) : DrawPlainText(shown, base);
+}
+
+void PainterSurface::DrawPlainText(const HaloText& text, QPointF base) {
+  painter_.setFont(text.Font);
+  painter_.setPen(text.Colour);
+  painter_.drawText(base, text.Text);
+}
+
+void PainterSurface::DrawHaloText(const HaloText& text, QPointF base) {
+  const QTransform toDevice = painter_.deviceTransform();
+  if (!PaintsPixels(toDevice)) {
+    painter_.strokePath(OutlineOf(text).translated(base), HaloPen(text));
+    return DrawPlainText(text, base);
+  }
+  const HaloTexts::Picture& picture = pictures_.Texts().PictureOf(text, base, toDevice);
+  const QTransform inner = painter_.worldTransform();
+  painter_.setWorldTransform({});
+  const QTransform pixels = painter_.deviceTransform();
+  QImage image = picture.Image;
+  image.setDevicePixelRatio(pixels.m11());
+  painter_.drawImage(pixels.inverted().map(QPointF(picture.Corner)), image);
+  painter_.setWorldTransform(inner);
 }
 
 void PainterSurface::SetPenAndBrush() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "render/qt/halo_texts.h"
 #include "render/qt/picture_cache.h"
 #include "render/surface.h"
 
@@ -45,6 +46,9 @@ class PainterSurface : public Surface {
   void DrawText(Point corner, std::string_view text) override;
 
  private:
+  bool PaintsPixels(const QTransform& toDevice) const;
+  void DrawPlainText(const HaloText& text, QPointF base);
+  void DrawHaloText(const HaloText& text, QPointF base);
   void SetPenAndBrush();
   const QFontMetricsF& UseFont() const;
 

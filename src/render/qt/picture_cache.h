@@ -1,5 +1,7 @@
 #pragma once
 
+#include "render/qt/halo_texts.h"
+
 #include <QImage>
 #include <QSize>
 #include <QSizeF>
@@ -24,6 +26,9 @@ class PictureCache {
   /// The same scaled to a size in pixels.
   const QImage& Scaled(const std::filesystem::path& file, QSize size);
 
+  /// The texts that were painted over them.
+  HaloTexts& Texts() { return texts_; }
+
  private:
   /// Tells a file from one that took its place.
   struct Stamp {
@@ -46,6 +51,7 @@ class PictureCache {
   Entry& Current(const std::filesystem::path& file);
 
   std::map<std::filesystem::path, Entry> entries_;
+  HaloTexts texts_;
 };
 
 /// A picture's own resolution in whole pixels an inch.
