@@ -10,18 +10,21 @@ namespace orb::cli {
 namespace {
 
 constexpr std::array Options{OptionId::Orders,         OptionId::Loose, OptionId::Power,
-                             OptionId::AcceptDoubtful, OptionId::Rules, OptionId::FilesFrom};
+                             OptionId::AcceptDoubtful, OptionId::Rules, OptionId::Json,
+                             OptionId::FilesFrom};
 
 constexpr Example Examples[] = {
     {"what is wrong with the orders of a file", "check --orders s01.txt league.orb"},
     {"with orders as they came from one power",
      "check --loose --power FRA --orders from_france.txt league.orb"},
+    {"for another program", "check --json --orders mail games/*.orb"},
     {"with orders that another program writes", "check --orders - league.orb"},
 };
 
 /// One line for each problem: of lines that were left out, of the orders as listed, of units
 /// without orders, of powers.
 std::vector<std::string> ProblemLines(const session::Situation& situation,
+                                      const adjudication::ListCheck& check,
                                       const std::vector<exchange::ReadLine>& leftOut) {
   std::vector<std::string> lines;
   const auto add = [&](std::string_view subject, std::string_view problem) {
@@ -29,7 +32,6 @@ std::vector<std::string> ProblemLines(const session::Situation& situation,
   };
   for (const exchange::ReadLine& line : leftOut)
     add(line.Written, session::LeftOutReason(line));
-  const adjudication::ListCheck check = session::CheckOrders(situation);
   const std::vector<std::string>& list = orders::StageList(situation.Game);
   for (std::size_t i = 0; i < check.Lines.size(); ++i) {
     for (const std::string& problem : check.Lines[i])
@@ -45,8 +47,7 @@ std::vector<std::string> ProblemLines(const session::Situation& situation,
 /// How the other rules read single lines, where that is otherwise: no problem, but worth knowing
 /// before it is too late to mend.
 void SayOtherReadings(const session::Situation& situation, const std::string& path,
-                      Console& console) {
-  const std::vector<std::string> readings = session::OtherReadings(situation);
+                      const std::vector<std::string>& readings, Console& console) {
   const std::vector<std::string>& list = orders::StageList(situation.Game);
   for (std::size_t i = 0; i < readings.size(); ++i) {
     if (!readings[i].empty())
@@ -64,12 +65,19 @@ int Execute(const CommandLine& line, Console& console) {
     const std::vector<exchange::ReadLine> leftOut =
         source.Take(at.Situation, at.Paths, at.Messages);
     at.Situation.Rules = rules;
-    const std::vector<std::string> problems = ProblemLines(at.Situation, leftOut);
+    const adjudication::ListCheck check = session::CheckOrders(at.Situation);
+    const std::vector<std::string> readings = session::OtherReadings(at.Situation);
+    const std::vector<std::string> problems = ProblemLines(at.Situation, check, leftOut);
     for (const std::string& problem : problems) {
       console.PrintPath(at.Paths.Game);
       console.Print(std::string(": ").append(problem).append("\n"));
     }
-    SayOtherReadings(at.Situation, at.Paths.Game, console);
+    SayOtherReadings(at.Situation, at.Paths.Game, readings, console);
+    if (console.IsForObjects()) {
+      Tell(console, at,
+           json::CheckedText(HeadingOf(line, at), {at.Messages, leftOut},
+                             {at.Situation, check, readings}));
+    }
     // A game with problems counts as refused, which makes the exit status 1.
     return problems.empty();
   });

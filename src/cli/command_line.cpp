@@ -44,7 +44,7 @@ const Command& FindCommand(const std::string& name) {
 }
 
 /// A path as the programs that are called by it have it; "-" stands for a stream.
-std::string WrittenOut(ValueKind kind, std::string value) {
+std::string WrittenOut(ValueKind kind, const std::string& value) {
   if (value != "-") return value;
   if (kind == ValueKind::FileToRead) return std::string(model::StandardInput);
   if (kind == ValueKind::FileToWrite) return std::string(StandardOutput);
@@ -106,8 +106,8 @@ class Reader {
     }
   }
 
-  void Set(const Option& option, std::string value) {
-    line_.Set(option, WrittenOut(option.Kind, std::move(value)));
+  void Set(const Option& option, const std::string& value) {
+    line_.Set(option, WrittenOut(option.Kind, value));
   }
 
   std::span<const std::string> arguments_;
@@ -125,6 +125,10 @@ void CheckOutput(const CommandLine& line) {
   }
   if (line.Has(OptionId::NoClobber) && line.Has(OptionId::InPlace)) {
     throw UsageError(name + ": --no-clobber and --in-place cannot go together.");
+  }
+  if (line.Has(OptionId::Json) && line.Has(OptionId::Output) &&
+      *line.Value(OptionId::Output) == StandardOutput) {
+    throw UsageError(name + ": With --json the standard output is no place for the game.");
   }
   if (line.Has(OptionId::Try)) {
     for (const OptionId id : {OptionId::Output, OptionId::InPlace, OptionId::Report}) {

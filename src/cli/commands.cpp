@@ -6,8 +6,9 @@
 namespace orb::cli {
 namespace {
 
-constexpr std::array Commands{&NewCommand,   &ResolveCommand, &NextCommand, &UndoCommand,
-                              &CheckCommand, &WhatIfCommand,  &ShowCommand, &MapCommand};
+constexpr std::array Commands{&NewCommand,  &ResolveCommand, &NextCommand,
+                              &UndoCommand, &CheckCommand,   &WhatIfCommand,
+                              &ShowCommand, &MapCommand,     &ServeCommand};
 
 }  // namespace
 

@@ -14,5 +14,6 @@ extern const Command CheckCommand;
 extern const Command WhatIfCommand;
 extern const Command ShowCommand;
 extern const Command MapCommand;
+extern const Command ServeCommand;
 
 }  // namespace orb::cli

@@ -68,7 +68,13 @@ std::string Console::ForFile(std::string_view text) const {
   return Encoded(text, fileEncoding_);
 }
 
+void Console::PrintObject(std::string_view json) {
+  PrintBytes(json);
+  PrintBytes("\n");
+}
+
 void Console::Print(std::string_view text) {
+  if (isForObjects_) return PrintToErr(text);
   // Nearly always: thousands of reports go to a file byte for byte.
   if (!terminals_.Out && outEncoding_ == Encoding::Windows1252) return PrintBytes(text);
   PrintBytes(Encoded(terminals_.Out ? Shown(text) : std::string(text), outEncoding_));
@@ -82,6 +88,7 @@ void Console::PrintFailure(std::string_view line) {
 }
 
 void Console::PrintPath(std::string_view path) {
+  if (isForObjects_) return Write(err_, Shown(path));
   PrintBytes(terminals_.Out ? Shown(path) : std::string(path));
 }
 
@@ -131,19 +138,22 @@ void Console::ClearProgress() {
 
 bool ConsoleMessages::Warn(const std::string& text) {
   console_.Say(subject_, text);
-  hasDeclined_ |= !yes_;
-  return yes_;
+  return NotedMessages::Warn(text);
 }
 
 model::Answer ConsoleMessages::Ask(const std::string& text) {
   console_.Say(subject_, text);
-  hasDeclined_ |= !yes_;
-  // A plain Yes would only bring the same question for the next unit; the answer would be the same.
-  return yes_ ? model::Answer::YesToAll : model::Answer::No;
+  return NotedMessages::Ask(text);
 }
 
-void ConsoleMessages::Show(const std::string& text, model::Icon /*icon*/) {
+void ConsoleMessages::Show(const std::string& text, model::Icon icon) {
   console_.Say(subject_, text);
+  NotedMessages::Show(text, icon);
+}
+
+bool ConsoleMessages::HasDeclined() const {
+  return std::ranges::any_of(
+      All(), [](const json::Message& message) { return !message.Answer.value_or(true); });
 }
 
 }  // namespace orb::cli

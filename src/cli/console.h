@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/messages.h"
+#include "json/messages.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -31,6 +31,13 @@ class Console {
   Console(const Console&) = delete;
   Console& operator=(const Console&) = delete;
   ~Console() { ClearProgress(); }
+
+  /// Has the standard output to objects alone: texts for people go to standard error.
+  void UseObjects() { isForObjects_ = true; }
+  bool IsForObjects() const { return isForObjects_; }
+
+  /// Writes an object in JSON, as a line of its own.
+  void PrintObject(std::string_view json);
 
   /// Has all texts written in one encoding, wherever they go.
   void UseEncoding(Encoding encoding);
@@ -64,7 +71,7 @@ class Console {
   void ShowProgress(std::size_t done, std::size_t total);
 
   /// Whether failures are shown in colour.
-  bool HasColours() const { return terminals_.Out && terminals_.Colours; }
+  bool HasColours() const { return terminals_.Out && terminals_.Colours && !isForObjects_; }
 
   /// Whether somebody would see the bytes of a file as they are.
   bool IsTerminal() const { return terminals_.Out; }
@@ -79,26 +86,25 @@ class Console {
   Encoding errEncoding_;
   Encoding fileEncoding_ = Encoding::Windows1252;
   std::size_t progressWidth_ = 0;
+  bool isForObjects_ = false;
 };
 
 /// Prints each message box as a line on standard error. Questions are answered No, or all Yes.
-class ConsoleMessages : public model::Messages {
+class ConsoleMessages : public json::NotedMessages {
  public:
   ConsoleMessages(Console& console, std::string subject, bool yes)
-      : console_(console), subject_(std::move(subject)), yes_(yes) {}
+      : NotedMessages(yes), console_(console), subject_(std::move(subject)) {}
 
   bool Warn(const std::string& text) override;
   model::Answer Ask(const std::string& text) override;
   void Show(const std::string& text, model::Icon icon) override;
 
   /// Whether a question was answered No, so that --yes would have gone on.
-  bool HasDeclined() const { return hasDeclined_; }
+  bool HasDeclined() const;
 
  private:
   Console& console_;
   std::string subject_;
-  bool yes_;
-  bool hasDeclined_ = false;
 };
 
 }  // namespace orb::cli

@@ -52,9 +52,9 @@ void ExpectNothingToKeep(const GamePaths& paths) {
 
 void PrintHeading(Console& console, const GamePaths& paths) {
   if (!paths.HasHeading) return;
-  console.PrintBytes("== ");
+  console.Print("== ");
   console.PrintPath(paths.Game);
-  console.PrintBytes("\n");
+  console.Print("\n");
 }
 
 void PrintUnderHeading(Console& console, const GamePaths& paths, std::string_view text) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "json/answers.h"
+
 #include "cli/console.h"
 #include "cli/options.h"
 #include "cli/paths.h"
@@ -19,13 +21,21 @@ struct GameAtWork {
   session::Situation& Situation;
   const GamePaths& Paths;
   ConsoleMessages Messages;
+  bool IsTold = false;  ///< with --json: its object was printed
 };
 
 /// Does the work on one game that was read; false when it was abandoned, nothing written.
 using GameWork = std::function<bool(GameAtWork& at)>;
 
+/// What the object begins with that --json prints for a game.
+json::Heading HeadingOf(const CommandLine& line, const GameAtWork& at);
+
+/// Prints the object of a game.
+void Tell(Console& console, GameAtWork& at, std::string_view json);
+
 /// Reads every game of the plan and does the work on it. A game that cannot be read, or whose work
-/// throws, is refused with a line on standard error; the others are still done. The exit status.
+/// throws, is refused with a line on standard error; the others are still done. With --json a game
+/// that nothing was told of gets an object, too. The exit status.
 int ForEachGame(const CommandLine& line, Console& console, const std::vector<GamePaths>& plan,
                 const GameWork& work);
 

@@ -30,6 +30,8 @@ constexpr std::array<Option, OptionCount> Table{{
     {Try, "--try", "", ValueKind::None, "", "",
      "only try it out: no question is asked, nothing is written"},
     {Pairs, "--pairs", "", ValueKind::None, "", "", "also changes of two orders of one power"},
+    {Json, "--json", "", ValueKind::None, "", "",
+     "print an object in JSON for each game; texts go to standard error"},
     {Yes, "--yes", "", ValueKind::None, "", "",
      "answer Yes to every question (else No, abandoning the game)"},
     {Mode, "--mode", "", ValueKind::Choice, "MODE", "colour3d colour grey bw",

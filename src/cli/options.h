@@ -37,6 +37,7 @@ enum class OptionId : std::uint8_t {
   Compare,
   Try,
   Pairs,
+  Json,
   Yes,
   Mode,
   CentreCount,

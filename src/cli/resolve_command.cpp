@@ -4,6 +4,7 @@
 #include "cli/orders_source.h"
 #include "model/game_file.h"
 #include "model/replacement.h"
+#include "orders/order_list.h"
 #include "session/commands.h"
 #include "session/trial.h"
 
@@ -16,11 +17,11 @@
 namespace orb::cli {
 namespace {
 
-constexpr std::array Options{
-    OptionId::Orders,    OptionId::Loose,    OptionId::Power,  OptionId::AcceptDoubtful,
-    OptionId::Report,    OptionId::Reasons,  OptionId::Rules,  OptionId::Compare,
-    OptionId::Try,       OptionId::Yes,      OptionId::Output, OptionId::InPlace,
-    OptionId::NoClobber, OptionId::FilesFrom};
+constexpr std::array Options{OptionId::Orders,         OptionId::Loose,     OptionId::Power,
+                             OptionId::AcceptDoubtful, OptionId::Report,    OptionId::Reasons,
+                             OptionId::Rules,          OptionId::Compare,   OptionId::Try,
+                             OptionId::Json,           OptionId::Yes,       OptionId::Output,
+                             OptionId::InPlace,        OptionId::NoClobber, OptionId::FilesFrom};
 
 constexpr Example Examples[] = {
     {"resolve the stage, with the report on the terminal and the reasons in a file",
@@ -29,6 +30,8 @@ constexpr Example Examples[] = {
      "resolve --try --loose --orders mail.txt --reasons - league.orb"},
     {"ten games at once, each with its own file of orders in the directory mail",
      "resolve --orders mail --report reports --yes --in-place games/*.orb"},
+    {"what became of each game, for another program",
+     "resolve --json --yes --orders mail --in-place games/*.orb"},
     {"keep the game as it was and write the resolved one beside it",
      "resolve --yes --no-clobber --orders s01.txt -o after.orb league.orb"},
 };
@@ -93,37 +96,79 @@ class Report {
   std::string reasons_;
 };
 
-/// Resolves the stage and writes the game, or only tries it out. False when it was abandoned.
-bool Resolve(const CommandLine& line, Console& console, GameAtWork& at) {
-  // Notes cost time, so they are only made when somebody will see them.
-  const bool isNoted = !at.Paths.Reasons.empty() || console.HasColours();
-  const auto noting = isNoted ? session::Noting::Full : session::Noting::None;
-  const auto comparing =
-      line.Has(OptionId::Compare) ? session::Comparing::Yes : session::Comparing::No;
-  at.Situation.Rules = RulesOf(line);
-  if (line.Has(OptionId::Try)) {
-    const session::Situation tried = session::TryOut(at.Situation, noting, comparing);
-    Report(at.Paths, tried).Deliver(console);
-    if (comparing == session::Comparing::Yes) SayDifferences(console, at.Paths.Game, tried);
-    return true;
+/// One resolution, from its options to its object.
+class Work {
+ public:
+  Work(const CommandLine& line, Console& console, GameAtWork& at,
+       const std::vector<exchange::ReadLine>& leftOut)
+      : line_(line),
+        console_(console),
+        at_(at),
+        leftOut_(leftOut),
+        stage_(at.Situation.Game.Stage),
+        orders_(orders::StageList(at.Situation.Game)) {
+    // Notes cost time, so they are only made when somebody will see them.
+    const bool isNoted =
+        !at.Paths.Reasons.empty() || console.HasColours() || console.IsForObjects();
+    if (isNoted) noting_ = session::Noting::Full;
+    if (line.Has(OptionId::Compare)) comparing_ = session::Comparing::Yes;
+    at.Situation.Rules = RulesOf(line);
   }
-  if (!session::Resolve(at.Situation, at.Messages, noting, comparing)) return false;
-  const std::string bytes = model::FormatGameFile(at.Situation.Game);
-  const bool isPrinted = at.Paths.Output == StandardOutput;
-  std::optional<model::Replacement> game;
-  if (!isPrinted) game.emplace(at.Paths.Output, bytes);
-  // The game takes its place last, when all else has arrived: a resolved game without its report
-  // could not be resolved again.
-  Report(at.Paths, at.Situation).Deliver(console);
-  if (comparing == session::Comparing::Yes) SayDifferences(console, at.Paths.Game, at.Situation);
-  if (isPrinted) {
-    DeliverBytes(console, at.Paths.Output, bytes, at.Paths.Existing);
-  } else {
-    session::ExpectUnchanged(at.Situation, at.Paths.Output);
-    game->Commit(at.Paths.Existing);
+
+  /// Resolves the stage and writes the game, or only tries it out. False when it was abandoned.
+  bool Do() {
+    if (line_.Has(OptionId::Try)) {
+      Deliver(session::TryOut(at_.Situation, noting_, comparing_));
+      return true;
+    }
+    if (session::Resolve(at_.Situation, at_.Messages, noting_, comparing_)) {
+      Write();
+      return true;
+    }
+    if (console_.IsForObjects()) Tell(console_, at_, Object(false, at_.Situation));
+    return false;
   }
-  return true;
-}
+
+ private:
+  void Deliver(const session::Situation& after) {
+    Report(at_.Paths, after).Deliver(console_);
+    if (comparing_ == session::Comparing::Yes) SayDifferences(console_, at_.Paths.Game, after);
+    if (!console_.IsForObjects()) return;
+    Tell(console_, at_, Object(true, after));
+    console_.Deliver();
+  }
+
+  void Write() {
+    const std::string bytes = model::FormatGameFile(at_.Situation.Game);
+    const bool isPrinted = at_.Paths.Output == StandardOutput;
+    std::optional<model::Replacement> game;
+    if (!isPrinted) game.emplace(at_.Paths.Output, bytes);
+    // The game takes its place last, when all else has arrived: a resolved game without its report
+    // could not be resolved again.
+    Deliver(at_.Situation);
+    if (isPrinted) {
+      DeliverBytes(console_, at_.Paths.Output, bytes, at_.Paths.Existing);
+    } else {
+      session::ExpectUnchanged(at_.Situation, at_.Paths.Output);
+      game->Commit(at_.Paths.Existing);
+    }
+  }
+
+  std::string Object(bool isDone, const session::Situation& after) const {
+    return json::ResolvedText(
+        HeadingOf(line_, at_), {at_.Messages, leftOut_},
+        {isDone, stage_, orders_, after, comparing_ == session::Comparing::Yes});
+  }
+
+  const CommandLine& line_;
+  Console& console_;
+  GameAtWork& at_;
+  const std::vector<exchange::ReadLine>& leftOut_;
+  model::Stage stage_;
+  std::vector<std::string> orders_;
+  session::Noting noting_ = session::Noting::None;
+  session::Comparing comparing_ = session::Comparing::No;
+};
 
 int Execute(const CommandLine& line, Console& console) {
   RulesOf(line);  // refused before the first game, if at all
@@ -133,7 +178,7 @@ int Execute(const CommandLine& line, Console& console) {
     // Unclear lines are asked about first: --yes leaves them out, otherwise the game is abandoned.
     const std::vector<exchange::ReadLine> leftOut =
         orders.Take(at.Situation, at.Paths, at.Messages);
-    if (!session::GoOnWithout(leftOut, at.Messages) || !Resolve(line, console, at)) {
+    if (!session::GoOnWithout(leftOut, at.Messages) || !Work(line, console, at, leftOut).Do()) {
       SayAbandoned(console, at, "resolved");
       return false;
     }

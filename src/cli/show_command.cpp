@@ -6,7 +6,7 @@
 namespace orb::cli {
 namespace {
 
-constexpr std::array Options{OptionId::FilesFrom};
+constexpr std::array Options{OptionId::Json, OptionId::FilesFrom};
 
 constexpr Example Examples[] = {
     {"the situation as text, for the next mail", "show league.orb"},
@@ -15,8 +15,10 @@ constexpr Example Examples[] = {
 
 int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);
-  return ForEachGame(line, console, plan, [&](const GameAtWork& at) {
+  return ForEachGame(line, console, plan, [&](GameAtWork& at) {
     PrintUnderHeading(console, at.Paths, report::TextReport(at.Situation.Game));
+    if (console.IsForObjects())
+      Tell(console, at, json::ShownText(HeadingOf(line, at), at.Messages, at.Situation.Game));
     return true;
   });
 }

@@ -7,10 +7,11 @@ namespace {
 
 /// -o and its alternatives; one of them has to be given.
 std::string OutputUsage(const Command& command) {
-  std::string text("-o ");
+  const bool mayReplace = Knows(command, OptionId::InPlace);
+  std::string text(mayReplace ? "(-o " : "-o ");
   text.append(command.OutputName);
-  if (!Knows(command, OptionId::InPlace)) return text;
-  text.insert(0, "(").append(" | --in-place");
+  if (!mayReplace) return text;
+  text.append(" | --in-place");
   return text.append(Knows(command, OptionId::Try) ? " | --try)" : ")");
 }
 

@@ -4,11 +4,14 @@
 #include "session/commands.h"
 #include "session/what_if.h"
 
+#include <optional>
+
 namespace orb::cli {
 namespace {
 
-constexpr std::array Options{OptionId::Orders,         OptionId::Loose, OptionId::Power,
-                             OptionId::AcceptDoubtful, OptionId::Rules, OptionId::Pairs};
+constexpr std::array Options{
+    OptionId::Orders, OptionId::Loose, OptionId::Power, OptionId::AcceptDoubtful,
+    OptionId::Rules,  OptionId::Pairs, OptionId::Json};
 
 constexpr Example Examples[] = {
     {"what would have let the army through",
@@ -64,12 +67,19 @@ int Execute(const CommandLine& line, Console& console) {
       console.Say(at.Paths.Game, left.Written + ": " + session::LeftOutReason(left));
     at.Situation.Rules = rules;
     const session::Question question = session::Ask(at.Situation, order);
+    const std::vector<session::Alternative> singles = session::SingleChanges(question);
+    std::optional<std::vector<session::Alternative>> pairs;
+    if (line.Has(OptionId::Pairs)) pairs = AllPairs(question);
     console.Print(question.Order + ": " + question.Sentence + "\n");
-    Print(console, session::SingleChanges(question),
-          "No change of a single order would have changed this.\n");
-    if (line.Has(OptionId::Pairs)) {
+    Print(console, singles, "No change of a single order would have changed this.\n");
+    if (pairs) {
       console.Print("Two orders of one power:\n");
-      Print(console, AllPairs(question), "No two changed orders of one power would either.\n");
+      Print(console, *pairs, "No two changed orders of one power would either.\n");
+    }
+    if (console.IsForObjects()) {
+      Tell(console, at,
+           json::SearchedText(HeadingOf(line, at), {at.Messages, leftOut},
+                              {question, singles, pairs ? &*pairs : nullptr}));
     }
     return true;
   });

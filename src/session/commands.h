@@ -85,8 +85,9 @@ bool GoOnWithout(const std::vector<exchange::ReadLine>& leftOut, model::Messages
 
 // The course of the game.
 
-/// Whether a resolution notes why each line of the report came out so, and each order's outcome.
-enum class Noting : std::uint8_t { Full, None };
+/// Whether a resolution notes why each line of the report came out so, and each order's outcome, or
+/// the outcomes alone: reasons take as long as all the rest.
+enum class Noting : std::uint8_t { Full, Outcomes, None };
 
 /// Whether a resolution is held against what the other rules make of the same orders.
 enum class Comparing : std::uint8_t { No, Yes };

@@ -1,6 +1,9 @@
 #include "session/queries.h"
 
+#include "adjudication/possible_orders.h"
+#include "model/counts.h"
 #include "model/errors.h"
+#include "model/lookups.h"
 #include "orders/entered_orders.h"
 #include "orders/order_list.h"
 
@@ -41,6 +44,25 @@ void ExpectFinished(const Situation& situation) {
   if (IsFinished(situation)) return;
   throw model::FatalError("The season is not finished: the game is in the stage \"" +
                           std::string(StageText(situation.Game)) + "\".");
+}
+
+std::vector<Choices> PossibleOrders(const Situation& situation) {
+  const model::GameState& game = situation.Game;
+  const adjudication::PossibleOrders possible(game);
+  std::vector<Choices> all;
+  for (int u = 1; u <= game.Units.Count(); ++u) {
+    const model::Unit& unit = game.Units[u];
+    std::vector<std::string> lines = possible.OfUnit(u);
+    if (!lines.empty()) all.push_back({unit.Power, model::UnitText(unit), std::move(lines)});
+  }
+  for (int power = 1; power <= model::CountryCount; ++power) {
+    std::vector<std::string> lines = possible.OfPower(power);
+    if (lines.empty()) continue;
+    const std::string name(model::PowerName(power));
+    const model::PowerCount count = model::CountPower(game, name);
+    all.push_back({name, {}, std::move(lines), count.Centres - count.Units});
+  }
+  return all;
 }
 
 void ExpectOrdersToDraw(const Situation& situation) {

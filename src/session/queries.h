@@ -3,6 +3,7 @@
 #include "adjudication/list_check.h"
 #include "session/situation.h"
 
+#include <string>
 #include <vector>
 
 // What a front end asks about a situation without changing it.
@@ -38,6 +39,19 @@ void ExpectFinished(const Situation& situation);
 /// Every problem of the stage's list by the rules in force: the marks of its lines, units without
 /// orders, powers whose numbers do not fit. Throws FatalError in a stage without orders.
 adjudication::ListCheck CheckOrders(const Situation& situation);
+
+/// What a unit could be ordered, or a power in the adjustments.
+struct Choices {
+  std::string Power;
+  std::string Unit;  ///< "ENG A(Lon)"; empty for a power
+  std::vector<std::string> Orders;
+  int Due = 0;  ///< in the adjustments: how many units to build, or below 0 to disband
+};
+
+/// Every order that is possible in the stage, as lines of its list
+/// (adjudication/possible_orders.h): of the units that can be ordered, in the order of their table,
+/// or of the powers. None in a stage without orders.
+std::vector<Choices> PossibleOrders(const Situation& situation);
 
 /// For each line of the stage's list how the other rules read it, where that is otherwise: "By the
 /// usual rules: it is for F(Stp.s)". Empty where they read it the same, and for all lines where

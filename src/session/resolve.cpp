@@ -73,10 +73,8 @@ bool Resolve(Situation& situation, model::Messages& messages, Noting noting, Com
   if (resolution.Stage == model::Stage::Moves) ForgetReport(situation);
   situation.ResolvedBy = situation.Rules;
   if (situation.Rules == Rules::Usual) situation.ByUsualRules = true;
-  if (noting == Noting::Full) {
-    AddNotes(resolution, situation);
-    AddOutcomes(resolution, situation);
-  }
+  if (noting == Noting::Full) AddNotes(resolution, situation);
+  if (noting != Noting::None) AddOutcomes(resolution, situation);
   if (before) AddDifferences(*before, resolution, situation);
   return true;
 }

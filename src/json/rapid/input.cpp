@@ -1,5 +1,7 @@
 #include "json/rapid/input.h"
 
+#include "json/rapid/output.h"
+
 #include "model/record_file.h"
 #include "text/encoding.h"
 
@@ -10,8 +12,10 @@ namespace orb::json {
 namespace {
 
 /// Nothing deeper is of any use; the reader goes down by no recursion, so that depth is no danger.
-constexpr unsigned Flags = rapidjson::kParseInsituFlag | rapidjson::kParseIterativeFlag |
-                           rapidjson::kParseValidateEncodingFlag;
+constexpr unsigned Flags = rapidjson::kParseInsituFlag | rapidjson::kParseIterativeFlag;
+
+/// Bytes that the reader may look at behind a text.
+constexpr std::size_t Behind = 16;
 
 /// "line 1, column 57"; columns are counted in bytes.
 std::string LineAndColumn(std::string_view text, std::size_t offset) {
@@ -24,8 +28,12 @@ std::string LineAndColumn(std::string_view text, std::size_t offset) {
       .append(std::to_string(offset - start + 1));
 }
 
+/// All bytes are looked at, which takes less time than to stop at the first.
 bool IsAscii(std::string_view text) {
-  return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  unsigned char all = 0;
+  for (const char c : text)
+    all |= static_cast<unsigned char>(c);
+  return all < 0x80;
 }
 
 /// Of a name or text that is shown; what has no 8-bit form is "?".
@@ -35,9 +43,16 @@ std::string Shown(std::string_view utf8) {
 
 }  // namespace
 
-Document::Document(std::string_view text) : text_(text) {
+Document::Document(std::string_view text) {
+  text_.reserve(text.size() + Behind);
+  text_.append(text).append(Behind, '\0');
   rapidjson::InsituStringStream stream(text_.data());
-  document_.ParseStream<Flags>(stream);
+  // All of ASCII is well encoded.
+  if (IsAscii(text)) {
+    document_.ParseStream<Flags>(stream);
+  } else {
+    document_.ParseStream<Flags | rapidjson::kParseValidateEncodingFlag>(stream);
+  }
   const std::size_t end = document_.HasParseError() ? document_.GetErrorOffset() : stream.Tell();
   if (document_.HasParseError() || end != text.size()) {
     // A NUL ends the text for the reader.
@@ -91,6 +106,18 @@ int Node::Count(int bound) const {
   if (value_.Size() > static_cast<unsigned>(bound))
     Fail(std::string("has more than ").append(std::to_string(bound)).append(" items"));
   return static_cast<int>(value_.Size());
+}
+
+std::string Node::Json() const {
+  Output out;
+  if (value_.IsUint64()) {
+    out.Raw(std::to_string(value_.GetUint64()));
+  } else if (value_.IsInt64()) {
+    out.Number(value_.GetInt64());
+  } else {
+    out.Utf8(Utf8());
+  }
+  return out.Take();
 }
 
 void Node::Fail(std::string_view what) const {

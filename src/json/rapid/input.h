@@ -4,6 +4,10 @@
 
 #include <bitset>
 #include <cstdint>
+// Compares 16 bytes at once where the processor can. Up to 15 bytes behind a text are looked at.
+#if defined(__SSE2__) && !defined(RAPIDJSON_SSE2)
+#define RAPIDJSON_SSE2
+#endif
 #include <rapidjson/document.h>
 #include <string>
 #include <string_view>
@@ -33,7 +37,6 @@ class Node {
   /// Whether it is a whole number of 64 bits.
   bool IsWhole() const { return value_.IsInt64() || value_.IsUint64(); }
   bool IsText() const { return value_.IsString(); }
-  bool IsObject() const { return value_.IsObject(); }
 
   /// The number of items of an array, at most `bound`.
   int Count(int bound) const;
@@ -76,6 +79,18 @@ class Node {
     };
     Members(rowOf, take);
   }
+
+  /// Calls `take(value)` for the first member of that name, if it is an object that has one.
+  template <class Take>
+  void WithMember(std::string_view name, const Take& take) const {
+    if (!value_.IsObject()) return;
+    for (const auto& member : value_.GetObject()) {
+      if (TextOf(member.name) == name) return take(Node(member.value, this, name));
+    }
+  }
+
+  /// A text or a whole number as JSON.
+  std::string Json() const;
 
   /// The name of a member, in UTF-8.
   std::string_view Name() const { return name_; }

@@ -1,15 +1,39 @@
 #pragma once
 
 #include <cstdint>
-#include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace orb::json {
 
+/// Where the writer puts its characters.
+struct TextSink {
+  using Ch = char;
+
+  void Put(char c) { Text.push_back(c); }
+  void Flush() {}
+
+  std::string Text;
+};
+
+/// The writer, with a shorter way for texts that stand in JSON as they are: nearly all do.
+class TextWriter : public rapidjson::Writer<TextSink> {
+ public:
+  using Writer::Writer;
+
+  /// A text without characters that JSON escapes.
+  void Plain(std::string_view text) {
+    Prefix(rapidjson::kStringType);
+    os_->Put('"');
+    os_->Text.append(text);
+    os_->Put('"');
+  }
+};
+
 /// Writes one JSON value, on one line. Texts are given as the core has them, in Windows-1252;
-/// names of members are plain ASCII.
+/// names of members need no escapes.
 class Output {
  public:
   /// An object of the members that `fill` writes.
@@ -29,9 +53,9 @@ class Output {
     writer_.EndArray();
   }
 
-  void Key(std::string_view name) { writer_.Key(name.data(), Size(name)); }
+  void Key(std::string_view name) { writer_.Plain(name); }
   void Text(std::string_view text);
-  void Utf8(std::string_view text) { writer_.String(text.data(), Size(text)); }
+  void Utf8(std::string_view text);
   void Number(std::int64_t number) { writer_.Int64(number); }
   void Flag(bool flag) { writer_.Bool(flag); }
 
@@ -72,17 +96,12 @@ class Output {
     Array(texts, [&](const auto& text) { Text(text); });
   }
 
-  /// What was written. The output may be used for the next value after Clear.
-  std::string_view Written() const { return {buffer_.GetString(), buffer_.GetSize()}; }
-  void Clear();
+  /// What was written; the output must not be used after that.
+  std::string Take() { return std::move(sink_.Text); }
 
  private:
-  static rapidjson::SizeType Size(std::string_view text) {
-    return static_cast<rapidjson::SizeType>(text.size());
-  }
-
-  rapidjson::StringBuffer buffer_;
-  rapidjson::Writer<rapidjson::StringBuffer> writer_{buffer_};
+  TextSink sink_;
+  TextWriter writer_{sink_};
 };
 
 }  // namespace orb::json

@@ -79,13 +79,6 @@ void WriteProvinces(Output& out, const GameState& game) {
   }
 }
 
-/// Takes a text that a game file can hold.
-void TakeStorable(const Node& node, std::string& text) {
-  node.TakeText(text);
-  if (!std::ranges::all_of(text, model::IsStorable))
-    node.Fail("has a double quote or a line end, which game files cannot hold");
-}
-
 int CheckedLocation(const Node& node, const model::Map& map, std::string_view name) {
   const int row = model::FindProvince(map, name);
   if (row == 0) node.Refuse("a location of the map");
@@ -216,6 +209,12 @@ void Clear(GameState& game) {
 void WriteForm(Output& out) {
   out.Member(FormatName, Form);
   out.Member(VersionName, FormVersion);
+}
+
+void TakeStorable(const Node& node, std::string& text) {
+  node.TakeText(text);
+  if (!std::ranges::all_of(text, model::IsStorable))
+    node.Fail("has a double quote or a line end, which game files cannot hold");
 }
 
 void ExpectFormat(const Node& format) {

@@ -23,6 +23,9 @@ void WriteForm(Output& out);
 void ExpectFormat(const Node& format);
 void ExpectVersion(const Node& version);
 
+/// Takes a text that game files can hold.
+void TakeStorable(const Node& node, std::string& text);
+
 /// Writes what a game file holds, as an object.
 void WriteSituation(Output& out, const model::GameState& game);
 
