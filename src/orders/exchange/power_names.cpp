@@ -1,7 +1,9 @@
 #include "orders/exchange/power_names.h"
 
 #include "model/country.h"
+#include "text/strings.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
@@ -71,9 +73,10 @@ PowerNames AllPowerNames() {
   PowerNames names;
   const auto add = [&](int power, std::string_view name) {
     SpelledPower spelled{power, {}};
-    for (const Token& token : CutTokens(name)) {
-      if (token.Kind == TokenKind::Word) spelled.Words.push_back(token.Text);
-    }
+    std::string words = text::LowerCase(name);
+    std::ranges::replace(words, '-', ' ');
+    for (const std::string_view word : Parts(words, ' '))
+      spelled.Words.emplace_back(word);
     const std::string first = spelled.Words[0];
     names.emplace(first, std::move(spelled));
   };
@@ -104,14 +107,22 @@ std::size_t Spelled(Tokens tokens, std::size_t at, const std::vector<std::string
   return next - at;
 }
 
+const PowerNames& Names() {
+  static const PowerNames names = AllPowerNames();
+  return names;
+}
+
 }  // namespace
 
+bool MayBeginPower(std::string_view word) {
+  return Names().contains(std::string(word));
+}
+
 PowerName PowerAt(Tokens tokens, std::size_t at) {
-  static const PowerNames names = AllPowerNames();
   if (at < tokens.size() && IsWord(tokens[at], "the")) ++at;
   PowerName best;
-  if (at >= tokens.size()) return best;
-  const auto [first, last] = names.equal_range(tokens[at].Text);
+  if (at >= tokens.size() || !tokens[at].Means.BeginsPower) return best;
+  const auto [first, last] = Names().equal_range(tokens[at].Text);
   for (auto name = first; name != last; ++name) {
     const std::size_t length = Spelled(tokens, at, name->second.Words);
     // The longest name counts: "Austro-Hungarian", not "Austro".

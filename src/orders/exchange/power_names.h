@@ -3,6 +3,7 @@
 #include "orders/exchange/words.h"
 
 #include <cstddef>
+#include <string_view>
 
 namespace orb::exchange {
 
@@ -14,6 +15,9 @@ struct PowerName {
 
 /// The power named at this token: by name, abbreviation, people, with or without "the".
 PowerName PowerAt(Tokens tokens, std::size_t at);
+
+/// Whether the name of a power may begin with a word.
+bool MayBeginPower(std::string_view word);
 
 /// The first power that is named anywhere, or 0.
 int PowerIn(Tokens tokens);

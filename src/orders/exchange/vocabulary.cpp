@@ -1,9 +1,11 @@
 #include "orders/exchange/vocabulary.h"
 
+#include "orders/exchange/power_names.h"
 #include "orders/exchange/saying_kinds.h"
 
 #include <algorithm>
 #include <array>
+#include <string>
 #include <unordered_map>
 #include <utility>
 
@@ -297,15 +299,26 @@ Meanings AllMeanings() {
   return meanings;
 }
 
-}  // namespace
-
-WordMeaning MeaningOf(std::string_view word) {
+WordMeaning FindMeaning(std::string_view word) {
   static const Meanings meanings = AllMeanings();
   const auto found = meanings.find(word);
   WordMeaning meaning = found == meanings.end() ? WordMeaning() : found->second;
   meaning.Sayings = SayingsBeginningWith(word);
+  meaning.BeginsPower = MayBeginPower(word);
   if (IsSeasonCode(word)) meaning.Uses |= static_cast<unsigned>(WordUse::Heading);
   return meaning;
+}
+
+}  // namespace
+
+WordMeaning MeaningOf(std::string_view word) {
+  // Texts repeat their words.
+  constexpr std::size_t bound = 50'000;
+  thread_local std::unordered_map<std::string, WordMeaning> known;
+  if (known.size() > bound) known.clear();
+  const auto [found, isNew] = known.try_emplace(std::string(word));
+  if (isNew) found->second = FindMeaning(word);
+  return found->second;
 }
 
 std::vector<std::string_view> Parts(std::string_view text, char separator) {

@@ -46,9 +46,10 @@ enum class WordUse : std::uint32_t {
 /// What a word can mean wherever it stands.
 struct WordMeaning {
   Verb Does = Verb::None;
-  char UnitType = 0;     ///< 'A' or 'F', 0: none
-  unsigned Uses = 0;     ///< bits of WordUse
-  unsigned Sayings = 0;  ///< which phrases it may begin: SayingsBeginningWith
+  char UnitType = 0;         ///< 'A' or 'F', 0: none
+  unsigned Uses = 0;         ///< bits of WordUse
+  bool BeginsPower = false;  ///< whether it may begin the name of a power
+  unsigned Sayings = 0;      ///< which phrases it may begin: SayingsBeginningWith
 
   bool Has(WordUse use) const { return (Uses & static_cast<unsigned>(use)) != 0; }
 };

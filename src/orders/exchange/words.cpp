@@ -68,6 +68,8 @@ std::size_t RunEnd(std::string_view text, std::size_t at, std::string_view signs
 
 /// Behind a face, ":-)", ";)", "8-)", ":twisted:", that stands between blanks; else the same.
 std::size_t PastFace(std::string_view text, std::size_t at) {
+  constexpr std::string_view firstSigns = ":;8=^<xX\\";
+  if (firstSigns.find(text[at]) == std::string_view::npos) return at;
   if (at > 0 && text[at - 1] != ' ') return at;
   const std::size_t blank = std::min(text.find(' ', at), text.size());
   const std::string_view word = text.substr(at, blank - at);
