@@ -70,7 +70,9 @@ std::optional<Aside> ReadTitle(Tokens line) {
   constexpr std::size_t few = 5;
   const bool isShort = std::ranges::count(last, TokenKind::Word, &Token::Kind) <= 6;
   for (std::size_t at = 0; at < std::min(few, last.size()); ++at) {
-    const bool isForPublic = at + 1 < last.size() && IsWord(last[at + 1], "for");
+    // "Not for publication:", "orders, not press:".
+    const bool isForPublic =
+        at + 1 < last.size() && (IsWord(last[at + 1], "for") || IsWord(last[at + 1], "press"));
     const bool sets =
         HasUse(last[at], WordUse::Condition) && (at == 0 || isShort || !IsPolite(last[at]));
     if (sets && !isForPublic && !IsWord(last[at], "instead")) return below(at, at + 1);
@@ -93,8 +95,11 @@ bool IsTitleOfCorrection(Tokens line) {
     // "Correction - A Par - Pic" does without a colon.
     const bool isOf = at + 1 < title.size() && IsWord(title[at + 1], "of");
     if (HasUse(title[at], WordUse::Correction) && !isOf && (hasColon || at == 0)) return true;
-    const bool isOrders = at + 1 < title.size() && HasUse(title[at], WordUse::Definite) &&
-                          HasUse(title[at + 1], WordUse::Orders);
+    const auto isPair = [&](WordUse first, WordUse second) {
+      return at + 1 < title.size() && HasUse(title[at], first) && HasUse(title[at + 1], second);
+    };
+    const bool isOrders = isPair(WordUse::Definite, WordUse::Orders) ||
+                          (hasColon && isPair(WordUse::Orders, WordUse::Definite));
     const bool isOwn = at > 0 && (IsWord(title[at - 1], "my") || IsWord(title[at - 1], "our") ||
                                   IsWord(title[at - 1], "the"));
     if (isOrders && (hasColon || isOwn || title.size() == 2)) return true;

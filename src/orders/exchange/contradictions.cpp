@@ -129,6 +129,21 @@ void WeighSecondThoughts(std::vector<ReadLine>& lines, const std::vector<Surroun
   }
 }
 
+/// "Cancel Tri - Alb" takes back the same order wherever it stands.
+void WeighRevoked(std::vector<ReadLine>& lines, const std::vector<Surroundings>& around) {
+  std::map<std::string, std::size_t> revoked;
+  for (std::size_t row = 0; row < lines.size(); ++row) {
+    if (around[row].IsRevoked && IsUnderstood(lines[row])) revoked.emplace(lines[row].Order, row);
+  }
+  if (revoked.empty()) return;
+  for (ReadLine& line : lines) {
+    const auto by = revoked.find(line.Order);
+    if (by == revoked.end()) continue;
+    MakeDoubtful(line, "line " + std::to_string(lines[by->second].Number) + " may take it back",
+                 line.Place);
+  }
+}
+
 /// Several orders for one unit: the rows of its orders, in the text's order.
 using OrdersOfSubject = std::map<std::string, std::vector<std::size_t>>;
 
@@ -232,6 +247,7 @@ void WeighOrders(std::vector<ReadLine>& lines, const std::vector<Surroundings>& 
   WeighOlder(lines, around, stage);
   WeighSecondThoughts(lines, around, stage);
   Contradictions(lines, around, stage).Weigh();
+  WeighRevoked(lines, around);
   WeighUnclear(lines, around);
   for (ReadLine& line : lines) {
     if (power.empty() || line.Power == power) continue;

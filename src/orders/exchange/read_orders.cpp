@@ -262,6 +262,11 @@ class TextReader {
 
   /// "My orders for England:" ends what another title set aside.
   void TakeOwnTitle(Tokens title) {
+    const bool isOfOrders = std::ranges::any_of(
+        title, [](const Token& token) { return HasUse(token, WordUse::Orders); });
+    const bool isOwn =
+        std::ranges::any_of(title, [](const Token& token) { return HasUse(token, WordUse::Own); });
+    if (!Corrects(title) && !(isOfOrders && isOwn)) return;
     rows_.Around.TakeHeading(PowerIn(title), Corrects(title), true, rows_.Lines);
   }
 

@@ -167,6 +167,8 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
     if ((isOfAbove || Reconsiders(remark)) && next != understood_.end()) {
       Around.SetReconsiders(next->Row, Quoted(remark) + " may change it", line.Span(said.At));
     }
+    const bool revokes = FindSaying(remark, Saying::Revokes).has_value();
+    if (revokes && next != understood_.end()) Around.SetRevoked(next->Row);
     if (!isDoubted) continue;
     Concern about = ConcernOf(remark, known_.Names, *known_.Game.Map);
     about.MayBeAll = false;
@@ -195,6 +197,7 @@ void Rows::Exclude(const SourceLine& line, const Said& said) {
     if (order.Sentence != said.Sentence || !isBehind) continue;
     Around.SetDoubt(order.Row, Quoted(line.Part(said.At)) + " excludes it", line.Span(said.At),
                     true);
+    Around.SetRevoked(order.Row);
   }
 }
 

@@ -166,7 +166,10 @@ constexpr std::array Rows{
         "how about these|how about that|a better idea|is that a good idea|should i rather|"
         "should i instead"},
     Row{Saying::Titles,
-        "draft|drafts|example|examples|sample|samples|proposal|proposals|suggestion|"
+        "plan a|plan b|plan c|plan 1|plan 2|option a|option b|option 1|option 2|option one|"
+        "option two|set a|set b|set 1|set 2|variant*|moglichkeit*|opcion*|opzion*|opcao|opcoes|"
+        "optie|opties|wariant*|vaihtoehto*|draft|drafts|example|examples|sample|samples|proposal|"
+        "proposals|suggestion|"
         "suggestions|results|last turn|last season|last year|previous turn|"
         "previous season|previous orders|old version|old orders|last moves|plan b|"
         "backup|backup orders|fallback|contingency|original plan|next turn|next season|"
@@ -183,7 +186,8 @@ constexpr std::array Rows{
         "szkic|przyklad|wyniki|poprzednia tura|nastepna tura|stare rozkazy|luonnos|"
         "ehdotus|esimerkki|javaslat|tervezet|pelda|navrh|priklad|chernovik|primer"},
     Row{Saying::Corrects,
-        "changed my mind|change my mind|change of mind|change of plan|change of plans|"
+        "the truth|in truth|what i really do|what i really|i lied|changed my mind|change my "
+        "mind|change of mind|change of plan|change of plans|"
         "change of heart|scrap that|scratch that|forget that|strike that|final version|"
         "these are final|these are my final|i mean|i meant|make that|should be|"
         "should read|should have been|use these|use this instead|these instead|"

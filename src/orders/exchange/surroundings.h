@@ -23,6 +23,7 @@ struct Misgiving {
 struct Surroundings {
   bool IsOlder = false;     ///< in a part of the text that is quoted from an earlier one
   bool Corrects = false;    ///< its words say that it holds rather than what stands above
+  bool IsRevoked = false;   ///< words before the order take it back, wherever it stands
   bool IsSetAside = false;  ///< a heading or line says that it is not for now
   std::shared_ptr<const Misgiving> Doubt;           ///< about the orders here, or none
   std::shared_ptr<const Misgiving> SecondThoughts;  ///< right before the order, about those above
@@ -39,7 +40,7 @@ class SurroundingsOfLines {
 
   /// One more line was read.
   void Add(bool isOlder) {
-    rows_.push_back({isOlder, false, setAside_ != nullptr, setAside_, {}, {}});
+    rows_.push_back({isOlder, false, false, setAside_ != nullptr, setAside_, {}, {}});
   }
 
   /// The last row is not understood and may be about these orders.
@@ -72,6 +73,9 @@ class SurroundingsOfLines {
 
   /// Before the order of a row the writer thinks better of what is above.
   void SetReconsiders(std::size_t row, const std::string& reason, Span at);
+
+  /// The order of a row is taken back.
+  void SetRevoked(std::size_t row) { rows_[row].IsRevoked = true; }
 
   /// Something speaks against the orders from a row on; what was found first counts.
   void SetDoubtFrom(std::size_t first, const std::string& reason, Span at);

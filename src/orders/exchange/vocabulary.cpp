@@ -44,7 +44,7 @@ constexpr std::array Verbs{
         "maszeruje plyna wplywa atak wchodzi przemieszcza siirtyy siirto menee hyokkaa "
         "liikkuu etenee siirra lep megy vonul tamad halad hajozik jde tahne utoci pluje "
         "presun presouva gider ilerler saldirir yuru idet idyot atakuet plyvet dvizhetsya "
-        "pigainei paei kinitai"},
+        "pigainei paei kinitai take"},
     VerbWords{
         Verb::Hold,
         "h hold holds holding hld stand stands stay stays remain remains halt haelt halte "
@@ -87,7 +87,7 @@ constexpr std::array Verbs{
               "trekker vetaytyy peraantyy visszavonul hatral ustupuje stahuje cekilir otstupaet "
               "ypochorei replego retrocede retroceden indietreggia recua recuam wijkt vetarse "
               "retraites reculent flieht fluchtet fuit huye fugge foge vlucht flygter flykter flyr "
-              "ucieka flees"},
+              "ucieka flees falls fall escapes escape flee runs"},
     VerbWords{
         Verb::Disband,
         "d dis disb disband disbands disbanded disbanding remove removes removed removing "
@@ -135,10 +135,11 @@ struct UseWords {
 // order that nobody meant.
 constexpr std::array Uses{
     UseWords{WordUse::Filler,
-             "die das der la le il lo el los las les meine meiner mein mijn mon mes mio mia "
-             "mi min mina moja nos onze notre our both the my our an please pls plz will "
-             "shall is are his her their unit units dislodged gives lends provides os as um "
-             "een ein eine einen une una uno wird werden soll sollen"},
+             "die das der la le il lo el los las les meine meiner mein mijn mon mes mio mia mi min "
+             "mina moja nos onze notre our both the my an please pls plz will shall is are his her "
+             "their unit units dislodged gives lends provides os as um een ein eine einen une una "
+             "uno wird werden soll sollen therefore simply merely accordingly duly hereby einfach "
+             "simplement simplemente semplicemente simplesmente gewoon bare"},
     UseWords{WordUse::Condition,
              "if unless otherwise else or either maybe perhaps instead not dont never cancel "
              "except depending should could might may cancelled canceled provided when until "
@@ -210,25 +211,27 @@ constexpr std::array Uses{
              "printemps hiver ete autunno primavera estate inverno otono verano invierno "
              "outono verao herfst lente zomer najaar voorjaar host hosten var varen forar "
              "efterar jesien wiosna zima now jetzt maintenant ahora adesso nu"},
-    UseWords{
-        WordUse::Own,
-        "my mine our ours final real actual true these those here hereby herewith now today "
-        "following follows below submit submitted submitting sending proper official current "
-        "meine mein unsere anbei hier folgende folgt gelten gilt nun jetzt heute "
-        "mes mon nos voici voila cijoint maintenant aujourdhui suivants "
-        "mis mi estas estos aqui ahora hoy siguientes adjunto miei mie nostri ecco oggi adesso "
-        "seguenti qui meus minhas nossas seguem agora hoje segue mijn onze hierbij nu vandaag "
-        "mine vores vare mina har her nu riktig riktige rett rigtige moje oto teraz tutaj "
-        "omat tassa nyt itt most zde nyni moje copied deadline writing repeat again "
-        "wie besprochen discussed agreed promised kopiert copie copiato copiado zo so asi cosi "
-        "ainsi sadan slik takto igy nain suit publication standard usual description"},
+    UseWords{WordUse::Own,
+             "my mine our ours final real actual true these those here hereby herewith now today "
+             "following follows below submit submitted submitting sending proper official current "
+             "meine mein unsere anbei hier folgende folgt gelten gilt nun jetzt heute mes mon nos "
+             "voici voila cijoint maintenant aujourdhui suivants mis mi estas estos aqui ahora hoy "
+             "siguientes adjunto miei mie nostri ecco oggi adesso seguenti qui meus minhas nossas "
+             "seguem agora hoje segue mijn onze hierbij nu vandaag vores vare mina har her riktig "
+             "riktige rett rigtige moje oto teraz tutaj omat tassa nyt itt most zde nyni copied "
+             "deadline writing repeat again wie besprochen discussed agreed promised kopiert copie "
+             "copiato copiado zo so asi cosi ainsi sadan slik takto igy nain suit publication "
+             "standard usual description truth honestly seriously serious aside wirklich ernsthaft "
+             "vraiment verite verdad davvero verdade echt sandheden sanning"},
     UseWords{WordUse::Report,
              "told tells proposed proposes suggests asked asks wants wanted said says claims "
              "claimed thinks expects believes promised promises offered offers lied pretended "
              "sagte meinte dit disait dice zei"},
     UseWords{WordUse::Definite,
-             "final new revised updated corrected changed amended actual real definitive "
-             "latest"},
+             "final new revised updated corrected changed amended actual real definitive latest "
+             "definitif definitifs definitives definitivos definitivas definitivi definitivo "
+             "endgultige endgultigen definitieve endelige slutgiltiga slutliga ostateczne "
+             "ostateczny lopulliset vegleges konecne finale finaux"},
     UseWords{
         WordUse::Orders,
         "order orders move moves version set list plan befehl befehle zuge zug ordre ordres coups "
@@ -261,15 +264,15 @@ constexpr std::array Uses{
              "protect protects block blocks blocking defend defends defence defense defensive "
              "guarding defending protecting supported selfstandoff against"},
     UseWords{WordUse::Plain,
-             "better fine ok okay yes yep yeah you we us i am all hope hopefully it works "
-             "fingers crossed of course obviously naturally fyi btw sure surely definitely "
-             "certainly confirmed confirm confirming final agreed as discussed promised "
-             "usual again still unchanged same corrected correction revised updated changed "
-             "new safe safety self order orders and this that here in at from for with by "
-             "really always now too also then well indeed just simply first second third 1st "
-             "2nd 3rd 4th 5th unit number dvs ie namely sprich cioe soit time so certain "
-             "thus round please the anyway perfect voila ordres ordini ordenes befehle zuge "
-             "end ende fin follows following below hes shes theyre"},
+             "better fine ok okay yes yep yeah you we us i am all hope hopefully it works fingers "
+             "crossed of course obviously naturally fyi btw sure surely definitely certainly "
+             "confirmed confirm confirming final agreed as discussed promised usual again still "
+             "unchanged same corrected correction revised updated changed new safe safety self "
+             "order orders and this that here in at from for with by really always now too also "
+             "then well indeed just simply first second third 1st 2nd 3rd 4th 5th unit number dvs "
+             "ie namely sprich cioe soit time so certain thus round please the anyway perfect "
+             "voila ordres ordini ordenes befehle zuge end ende fin follows following below hes "
+             "shes theyre while whilst period comma finally meanwhile likewise moreover"},
 };
 
 /// "s01", "f1901m", "1901", "1901s", "1st": letters about a number.
