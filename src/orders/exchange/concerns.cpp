@@ -94,6 +94,7 @@ Concern ConcernOf(Tokens tokens, const PlaceNames& names, const model::Map& map)
       const auto matches = names.At(tokens, at);
       if (!matches.empty() && matches[0].Rows.size() == 1) add(matches[0].Rows[0]);
     }
+    concern.IsOwn = isTyped && !concern.Provinces.empty();
     return concern;
   }
   // "Rather not the one to Armenia."

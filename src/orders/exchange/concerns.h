@@ -12,6 +12,7 @@ namespace orb::exchange {
 struct Concern {
   std::vector<std::string> Provinces;  ///< of their units, in capitals: "PAR"
   bool OfTargets = false;              ///< and of those that are to go or to help there
+  bool IsOwn = false;     ///< the line begins as an order of its unit, and is about no other
   bool MayBeAll = false;  ///< all, if none of them is for a unit in one of the provinces
 };
 

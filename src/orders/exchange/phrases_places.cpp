@@ -46,12 +46,12 @@ void Phrases::AddCoasts(const PlaceMatch& match, std::size_t at, Read<WrittenPla
   places.push_back({{std::move(rows), {at, next}}, next});
 }
 
-/// "spasc": an abbreviation with its coast in one word.
+/// "spasc", "StpS": an abbreviation with its coast in one word.
 void Phrases::AddGluedCoast(std::size_t at, Read<WrittenPlace>& places) const {
   constexpr std::size_t nameLength = 3;
-  constexpr std::size_t coastLength = 2;
+  constexpr std::size_t longest = nameLength + 2;
   Token province = tokens_[at];
-  if (province.Text.size() != nameLength + coastLength) return;
+  if (province.Text.size() <= nameLength || province.Text.size() > longest) return;
   const char letter = CoastLetter(std::string_view(province.Text).substr(nameLength));
   province.SetWord(province.Text.substr(0, nameLength));
   for (const PlaceMatch& match : names_.At({&province, 1}, 0)) {

@@ -153,10 +153,7 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
     const Tokens remark = line.Part(said.At);
     const bool isGreeting = remark.size() <= LongestGreeting &&
                             HasUse(remark[0], WordUse::Greeting) && !ReadAside(remark).has_value();
-    if (FindSaying(remark, Saying::Excludes)) {
-      Exclude(line, said);
-      continue;
-    }
+    if (FindSaying(remark, Saying::Excludes) && Exclude(line, said)) continue;
     const bool isOwn =
         std::ranges::find(understood_, said.Sentence, &Understood::Sentence) != understood_.end();
     const bool isDoubted = !isGreeting && IsDoubted(line, said, isOwn);
@@ -176,16 +173,42 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
     const std::string reason = Quoted(line.Part(said.At)) + " may change it";
     const bool isReported = IsReport(remark);
     for (const Understood& order : understood_) {
-      if (isOwn && order.Sentence != said.Sentence) continue;
+      if (isOwn && !SpeaksOf(line, said, order)) continue;
       Around.SetDoubt(order.Row, reason, line.Span(said.At), isReported);
     }
     if (!isOwn) Around.SetDoubtFrom(first, reason, line.Span(said.At));
   }
 }
 
+/// Whether words are about an order of their sentence. Between two orders without a comma they are
+/// about these two, in brackets about the one before; behind the last and before the first about
+/// all.
+bool Rows::SpeaksOf(const SourceLine& line, const Said& said, const Understood& order) const {
+  if (order.Sentence != said.Sentence) return false;
+  const auto isBefore = [&](const Understood& other) { return other.At.End <= said.At.Begin; };
+  const auto isBehind = [&](const Understood& other) { return other.At.Begin >= said.At.End; };
+  const Understood* before = nullptr;
+  const Understood* behind = nullptr;
+  for (const Understood& other : understood_) {
+    if (other.Sentence != said.Sentence) continue;
+    if (isBefore(other)) before = &other;
+    if (isBehind(other) && behind == nullptr) behind = &other;
+  }
+  const bool isAttached = before != nullptr && behind != nullptr &&
+                          before->At.End == said.At.Begin &&
+                          !IsA(line.All[said.At.Begin], TokenKind::Comma);
+  if (!isAttached) return true;
+  const bool isBracket = IsA(line.All[said.At.Begin], TokenKind::Open) &&
+                         IsA(line.All[said.At.End - 1], TokenKind::Close);
+  const bool isParted = IsA(line.All[said.At.End], TokenKind::Comma);
+  return order.Row == before->Row || (order.Row == behind->Row && !isBracket && !isParted);
+}
+
 /// The orders behind the words, up to other words, are those that are not meant: "(not F Kie -
 /// Hol)".
-void Rows::Exclude(const SourceLine& line, const Said& said) {
+/// False where there are none.
+bool Rows::Exclude(const SourceLine& line, const Said& said) {
+  bool excludes = false;
   std::size_t end = line.All.size();
   for (const Said& other : remarks_) {
     // An "and" alone goes on.
@@ -198,7 +221,9 @@ void Rows::Exclude(const SourceLine& line, const Said& said) {
     Around.SetDoubt(order.Row, Quoted(line.Part(said.At)) + " excludes it", line.Span(said.At),
                     true);
     Around.SetRevoked(order.Row);
+    excludes = true;
   }
+  return excludes;
 }
 
 /// Whether words at the beginning of a line greet and head it: "alright mate england orders for

@@ -72,7 +72,8 @@ class Rows {
   ReadLine& Add(const SourceLine& line, Span place, LineKind kind, int power);
   void AddProblem(const SourceLine& line, TokenRange range, const Fault& problem, ReadLine& read);
   bool IsOfOther(const SourceLine& line, const PartRead& part) const;
-  void Exclude(const SourceLine& line, const Said& said);
+  bool SpeaksOf(const SourceLine& line, const Said& said, const Understood& order) const;
+  bool Exclude(const SourceLine& line, const Said& said);
   bool IsAddress(Tokens words, bool isFirst, int power) const;
   bool IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const;
 

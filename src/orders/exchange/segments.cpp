@@ -5,13 +5,16 @@
 #include "orders/exchange/doubts.h"
 #include "orders/exchange/embedded.h"
 #include "orders/exchange/line_kinds.h"
+#include "orders/exchange/power_names.h"
 #include "orders/exchange/shared_words.h"
 #include "orders/exchange/slips.h"
 #include "orders/exchange/source_line.h"
 #include "orders/exchange/vocabulary.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -61,6 +64,20 @@ std::vector<TokenRange> Sentences(Tokens tokens, TokenRange range, const PlaceNa
   return sentences;
 }
 
+/// Whether a sentence tells what another power will not like or do: "Russia won't see it coming".
+bool IsOfOthers(Tokens sentence) {
+  constexpr std::array<std::string_view, 12> soft{"not",    "wont",  "dont",  "doesnt",
+                                                  "isnt",   "arent", "never", "no",
+                                                  "should", "could", "might", "may"};
+  const bool isHard = std::ranges::any_of(sentence, [&](const Token& token) {
+    return IsDoubtfulSign(token) || HasUse(token, WordUse::Aside, WordUse::SetsAside) ||
+           (HasUse(token, WordUse::Condition) && std::ranges::find(soft, token.Text) == soft.end());
+  });
+  constexpr std::size_t few = 4;
+  return sentence.size() > few && PowerAt(sentence, 0).Power != 0 && !isHard &&
+         !ReadAside(sentence);
+}
+
 /// Whether a sentence without orders says something that may concern others: what is passed over
 /// silently does not.
 bool Speaks(Tokens sentence, const PlaceNames& names) {
@@ -68,6 +85,7 @@ bool Speaks(Tokens sentence, const PlaceNames& names) {
   constexpr std::size_t few = 4;
   const bool reconsiders =
       sentence.size() <= few && Reconsiders(sentence) && !HoldsOrderWords(sentence, names);
+  if (IsOfOthers(sentence)) return false;
   return ReadAside(sentence) || reconsiders ||
          std::ranges::any_of(sentence, [](const Token& token) {
            return IsDoubtfulSign(token) ||

@@ -43,7 +43,10 @@ void ShareVerbs(Tokens line, const KnownGame& known, const Context& context, Par
     // "Berlin and Munich both hold" needs its "both".
     const bool isBoth = std::ranges::any_of(
         PartOf(line, parts[i].first), [](const Token& token) { return IsWord(token, "both"); });
-    const bool isUnit = UnitTypeOf(unit[0]) != 0 || isBoth;
+    // "Germany: A Ber, A Mun hold".
+    const auto colon = std::ranges::find(unit, TokenKind::Colon, &Token::Kind);
+    const auto first = colon == unit.end() || colon + 1 == unit.end() ? unit.begin() : colon + 1;
+    const bool isUnit = UnitTypeOf(*first) != 0 || isBoth;
     const bool lacksVerb =
         !IsUnderstood(part) && !part.IsRemark && isUnit && std::ranges::none_of(unit, IsVerb);
     if (!lacksVerb || !IsUnderstood(parts[i].second)) continue;

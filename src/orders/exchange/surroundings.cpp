@@ -56,6 +56,7 @@ bool SurroundingsOfLines::SetAsideAbove(const std::shared_ptr<const Misgiving>& 
     any = any || isOrder(row);
     isOfSome = isOfSome || (isOrder(row) && Concerns(about, lines[row].Order));
   }
+  if (about.IsOwn && !isOfSome) return any;
   for (std::size_t row = begin; row < end; ++row) {
     if (!isOrder(row) || (isOfSome && !Concerns(about, lines[row].Order))) continue;
     rows_[row].Doubt = misgiving;
