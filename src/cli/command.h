@@ -2,6 +2,7 @@
 
 #include "cli/options.h"
 #include "session/rules.h"
+#include "settings/map_options.h"
 
 #include <cstdint>
 #include <span>
@@ -40,6 +41,9 @@ bool Knows(const Command& command, OptionId id);
 
 /// All commands, in the order of the help.
 std::span<const Command* const> AllCommands();
+
+/// The mode of the map that the command line chooses, or else the usual one. Throws UsageError.
+settings::MapMode ModeOf(const CommandLine& line, std::string_view usual);
 
 /// The rules that the command line chooses; ORB's own without the option. Throws UsageError.
 session::Rules RulesOf(const CommandLine& line);

@@ -14,6 +14,7 @@ extern const Command CheckCommand;
 extern const Command WhatIfCommand;
 extern const Command ShowCommand;
 extern const Command MapCommand;
+extern const Command PublishCommand;
 extern const Command ServeCommand;
 
 }  // namespace orb::cli

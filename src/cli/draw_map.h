@@ -3,9 +3,11 @@
 #include "model/game_state.h"
 #include "orders/order_outcome.h"
 #include "render/map_format.h"
+#include "render/svg_material.h"
 #include "settings/map_options.h"
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -23,17 +25,28 @@ struct MapRequest {
   std::vector<orders::OrderOutcome> Orders;  ///< drawn on the map
 };
 
+/// Work that needs what a vector drawing takes from the drawing toolkit; its result is a file's
+/// bytes.
+using SvgWork = std::function<std::string(render::SvgMaterial& material)>;
+
 /// The name of the module's file, in the directory of the program.
 constexpr const char* DrawModule = "orbdraw.so";
 
-/// The name of its only function. `result` is the picture's bytes, or a sentence for the user
-/// where that is false.
+/// The names of its functions. `result` is the file's bytes, or a sentence for the user where that
+/// is false.
 constexpr const char* DrawFunctionName = "OrbDrawMap";
 using DrawFunction = bool(const MapRequest& request, std::string& result);
+constexpr const char* SvgFunctionName = "OrbWithSvgMaterial";
+using SvgFunction = bool(const SvgWork& work, std::string& result);
 
 /// Loads the module and lets it draw: the bytes of the picture. Throws FatalError.
 std::string DrawMap(const MapRequest& request);
 
+/// Loads the module and does the work with what it gives: its result. Throws FatalError, also for
+/// what the work throws.
+std::string WithSvgMaterial(const SvgWork& work);
+
 }  // namespace orb::cli
 
 extern "C" orb::cli::DrawFunction OrbDrawMap;
+extern "C" orb::cli::SvgFunction OrbWithSvgMaterial;

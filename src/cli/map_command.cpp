@@ -36,15 +36,6 @@ render::MapFormat Format(const CommandLine& line, const std::filesystem::path& p
   return *format;
 }
 
-settings::MapMode Mode(const CommandLine& line) {
-  const std::string mode = line.Value(OptionId::Mode).value_or("colour3d");
-  if (mode == "colour3d") return settings::MapMode::Colour3D;
-  if (mode == "colour") return settings::MapMode::Colour;
-  if (mode == "grey") return settings::MapMode::Grey;
-  if (mode == "bw") return settings::MapMode::BlackWhite;
-  throw UsageError("map: The mode is one of colour3d, colour, grey and bw, not \"" + mode + "\".");
-}
-
 int PixelWidth(const CommandLine& line) {
   if (!line.Has(OptionId::Width)) return 0;
   const std::string& text = *line.Value(OptionId::Width);
@@ -75,7 +66,7 @@ int Execute(const CommandLine& line, Console& console) {
     throw UsageError("map: A picture would only garble the terminal: -o names a file.");
   }
   const int width = PixelWidth(line);
-  const settings::MapOptions options{Mode(line), line.Has(OptionId::CentreCount),
+  const settings::MapOptions options{ModeOf(line, "colour3d"), line.Has(OptionId::CentreCount),
                                      line.Has(OptionId::Borders), line.Has(OptionId::CentreOwners)};
   const std::filesystem::path data = DataDirectory(line);
   OrdersSource source(line);
@@ -91,6 +82,16 @@ int Execute(const CommandLine& line, Console& console) {
 }
 
 }  // namespace
+
+settings::MapMode ModeOf(const CommandLine& line, std::string_view usual) {
+  const std::string mode = line.Value(OptionId::Mode).value_or(std::string(usual));
+  if (mode == "colour3d") return settings::MapMode::Colour3D;
+  if (mode == "colour") return settings::MapMode::Colour;
+  if (mode == "grey") return settings::MapMode::Grey;
+  if (mode == "bw") return settings::MapMode::BlackWhite;
+  throw UsageError(std::string(line.Verb->Name) +
+                   ": The mode is one of colour3d, colour, grey and bw, not \"" + mode + "\".");
+}
 
 const Command MapCommand{
     .Name = "map",

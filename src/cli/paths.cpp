@@ -210,6 +210,29 @@ std::vector<GamePaths> PlanPaths(const CommandLine& line) {
   return plan;
 }
 
+std::vector<GamePaths> PlanOneOutput(const CommandLine& line) {
+  const PathOption orders(line, OptionId::Orders, ".txt");
+  const fs::path output = *line.Value(OptionId::Output);
+  if (output.empty()) throw UsageError("A path cannot be empty.");
+  FileNames names;
+  std::vector<GamePaths> plan;
+  for (const std::string& game : line.Games) {
+    GamePaths& paths = plan.emplace_back();
+    paths.Game = game;
+    if (line.Has(OptionId::NoClobber)) paths.Existing = model::Existing::Kept;
+    paths.Output = output;
+    paths.Orders = orders.For(game);
+    paths.OrdersMayLack = orders.InDirectory();
+    if (IsStream(output)) continue;
+    const std::string written = names.Of(output.string());
+    if (names.Of(game) == written || (!paths.Orders.empty() && names.Of(paths.Orders) == written)) {
+      throw UsageError(output.string() + " would be both read and written.");
+    }
+  }
+  CheckNoDataFile(output, DataDirectory(line));
+  return plan;
+}
+
 void CheckNoDataFile(const fs::path& output, const fs::path& data) {
   FileNames names;
   const std::string written = names.Of(output.string());

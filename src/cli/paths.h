@@ -40,6 +40,10 @@ void AddListedGames(CommandLine& line);
 /// may be.
 std::vector<GamePaths> PlanPaths(const CommandLine& line);
 
+/// The same for a command that makes one file of all games; that file is no game's own and may lie
+/// in no directory of theirs. Throws UsageError also where it is one of the games.
+std::vector<GamePaths> PlanOneOutput(const CommandLine& line);
+
 /// Refuses by a UsageError to write over a data file in the directory.
 void CheckNoDataFile(const std::filesystem::path& output, const std::filesystem::path& data);
 

@@ -3,6 +3,7 @@
 #include "model/game_state.h"
 #include "render/surface.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -21,6 +22,18 @@ class HitMap {
   /// From an uncompressed bitmap of 8 bits a pixel. Throws FileError, naming the file, for
   /// anything else and for a value past provinceCount.
   HitMap(std::string_view bytes, const std::string& fileName, int provinceCount);
+
+  /// The size of the picture in pixels; 0 by 0 without one.
+  int Width() const { return width_; }
+  int Height() const { return height_; }
+
+  /// The row of the location that a pixel of the picture shows; 0 for none and beside the picture.
+  int RowAt(int x, int y) const {
+    const bool inside = x >= 0 && y >= 0 && x < width_ && y < height_;
+    return inside ? pixels_[static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
+                            static_cast<std::size_t>(x)]
+                  : 0;
+  }
 
   /// The row of the location under the point (fractions of the map's width and height), or 0
   /// for none. In a province with coasts a fleet ("F") gets the coast whose unit point is nearest,

@@ -28,6 +28,7 @@ std::string_view StageCaption(model::Stage stage) {
 }
 
 void DrawCaptions(Surface& surface, const GameState& game) {
+  const DrawnPart part(surface, game);
   const double left = surface.TextWidth("O");
   const double height = surface.TextHeight("O");
   const auto caption = [&](double lines, std::string_view text) {

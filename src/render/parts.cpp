@@ -69,4 +69,9 @@ DrawnPart::DrawnPart(Surface& surface, const orders::OrderOutcome& order) : surf
   surface.BeginPart(Surface::Part::Order, order.Power + "-" + order.Location, OrderTitle(order));
 }
 
+DrawnPart::DrawnPart(Surface& surface, const model::GameState& game) : surface_(surface) {
+  surface.BeginPart(Surface::Part::Caption, "game",
+                    game.Title + ", " + game.Season + " " + std::to_string(game.Year));
+}
+
 }  // namespace orb::render

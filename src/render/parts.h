@@ -4,7 +4,7 @@
 #include "orders/order_outcome.h"
 #include "render/surface.h"
 
-// The provinces, units and orders of a drawing, told to surfaces that keep them apart.
+// The provinces, units, orders and captions of a drawing, told to surfaces that keep them apart.
 
 namespace orb::render {
 
@@ -15,6 +15,8 @@ class DrawnPart {
   DrawnPart(Surface& surface, const model::GameState& game, int province);
   DrawnPart(Surface& surface, const model::Unit& unit);
   DrawnPart(Surface& surface, const orders::OrderOutcome& order);
+  /// Title, season and stage of the game.
+  DrawnPart(Surface& surface, const model::GameState& game);
   DrawnPart(const DrawnPart&) = delete;
   DrawnPart& operator=(const DrawnPart&) = delete;
   ~DrawnPart() { surface_.EndPart(); }

@@ -48,7 +48,7 @@ class Surface {
   virtual void LoadPicture(const std::filesystem::path& file) = 0;
 
   /// What a part of the picture shows.
-  enum class Part { Province, Unit, Order };
+  enum class Part { Province, Unit, Order, Caption };
 
   /// Everything until EndPart shows this one, whose title is for whoever reads or points at it.
   /// Means nothing to surfaces that only paint. Parts lie in no other.

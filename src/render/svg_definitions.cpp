@@ -80,7 +80,7 @@ std::string SvgDefinitions::TextId(const TextFont& font, std::string_view text) 
   if (glyphs.empty()) return {};
   std::string uses;
   for (const PlacedGlyph& glyph : glyphs) {
-    uses.append("<use xlink:href=\"#").append(GlyphId(glyph.Glyph)).append("\" x=\"");
+    uses.append(Use(GlyphId(glyph.Glyph))).append(" x=\"");
     uses.append(TenthsText(Tenths(glyph.At.X / twipsPerPixel_))).append("\" y=\"");
     uses.append(TenthsText(Tenths(glyph.At.Y / twipsPerPixel_))).append("\"/>");
   }
@@ -89,13 +89,19 @@ std::string SvgDefinitions::TextId(const TextFont& font, std::string_view text) 
   return entry->second;
 }
 
-std::string SvgDefinitions::PieceId(const std::string& markup) {
+std::string SvgDefinitions::Use(std::string_view id) const {
+  return std::string(links_ == SvgLinks::Old ? "<use xlink:href=\"#" : "<use href=\"#")
+      .append(id)
+      .append("\"");
+}
+
+std::string SvgDefinitions::UseOf(const std::string& markup, std::string_view attributes) {
   const auto [entry, isNew] = pieces_.try_emplace(markup);
   if (isNew) {
     entry->second = std::string("p").append(std::to_string(pieces_.size()));
     markup_.append("<g id=\"").append(entry->second).append("\">").append(markup).append("</g>\n");
   }
-  return entry->second;
+  return Use(entry->second).append(attributes).append("/>");
 }
 
 }  // namespace orb::render

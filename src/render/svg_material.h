@@ -2,6 +2,7 @@
 
 #include "render/surface.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -55,8 +56,12 @@ class SvgMaterial {
   /// The outline of a glyph that Shape gave.
   virtual std::vector<OutlineStep> Outline(int glyph) = 0;
 
-  /// A picture's file as PNG with a palette of at most 256 colours. Throws FileError.
-  virtual std::string Png(const std::filesystem::path& file) = 0;
+  /// The size in twips at which a picture's file is meant to be seen. Throws FileError.
+  virtual Point Size(const std::filesystem::path& file) = 0;
+
+  /// A picture's file as PNG with a palette of at most so many colours, up to 256. Throws
+  /// FileError.
+  virtual std::string Png(const std::filesystem::path& file, std::size_t colours) = 0;
 };
 
 }  // namespace orb::render

@@ -12,7 +12,7 @@ namespace orb::render {
 namespace {
 
 std::string_view ClassOf(Surface::Part part) {
-  constexpr std::array<std::string_view, 3> names = {"province", "unit", "order"};
+  constexpr std::array<std::string_view, 4> names = {"province", "unit", "order", "caption"};
   return names[static_cast<std::size_t>(part)];
 }
 
@@ -21,12 +21,16 @@ std::string Attribute(std::string_view name, std::string_view value) {
 }
 
 /// Pieces shorter than this take more room as a definition than where they stand.
-constexpr std::size_t LeastPiece = 60;
+constexpr std::size_t LeastPiece = 50;
 
 }  // namespace
 
-SvgSurface::SvgSurface(SvgDefinitions& definitions, Point size, SvgForm form)
-    : definitions_(definitions), size_(size), form_(std::move(form)), open_(1) {}
+SvgSurface::SvgSurface(SvgDefinitions& definitions, Point size, SvgForm form, std::string idPrefix)
+    : definitions_(definitions),
+      size_(size),
+      form_(form),
+      idPrefix_(std::move(idPrefix)),
+      open_(1) {}
 
 SvgSurface::Spot SvgSurface::SpotOf(Point point) const {
   return {Tenths(point.X / definitions_.TwipsPerPixel()),
@@ -58,23 +62,34 @@ void SvgSurface::Add(std::string_view markup) {
 
 void SvgSurface::FlushLines() {
   if (lines_.empty()) return;
-  open_.back()
-      .Content.append("<path d=\"")
-      .append(lines_)
-      .append("\"")
-      .append(linesPen_)
-      .append("/>");
+  std::string& content = open_.back().Content;
+  const std::string start = "<path d=\"" + lines_ + "\"";
+  // Orders draw each line twice, the edge below the core.
+  const bool isShared = form_ == SvgForm::Layer && lines_.size() >= LeastPiece;
+  content.append(isShared ? definitions_.UseOf(start + "/>", linesPen_) : start + linesPen_ + "/>");
   lines_.clear();
+}
+
+/// What lies between units and orders, labels above all, is the same on many maps.
+void SvgSurface::ShareRun() {
+  std::string& content = open_.front().Content;
+  const std::string run = content.substr(runStart_);
+  if (form_ == SvgForm::Layer && run.size() >= LeastPiece) {
+    content.resize(runStart_);
+    content.append(definitions_.UseOf(run));
+  }
+  runStart_ = content.size();
 }
 
 std::string SvgSurface::Markup() {
   FlushLines();
+  ShareRun();
   return open_.front().Content;
 }
 
 void SvgSurface::LoadPicture(const std::filesystem::path& file) {
-  const std::string png = definitions_.Material().Png(file);
-  if (!form_.EmbedsPictures) return;
+  if (form_ == SvgForm::Layer) return;
+  const std::string png = definitions_.Material().Png(file, 256);
   Add(std::string("<image")
           .append(Attribute("width", LengthText(size_.X)))
           .append(Attribute("height", LengthText(size_.Y)))
@@ -178,9 +193,10 @@ void SvgSurface::Polygon(std::span<const Point> corners) {
 void SvgSurface::BeginPart(Part part, std::string_view name, std::string_view title) {
   FlushLines();
   const std::string_view kind = ClassOf(part);
-  std::string id = form_.IdPrefix + std::string(kind).append("-").append(IdText(name));
+  std::string id = idPrefix_ + std::string(kind).append("-").append(IdText(name));
   if (const int count = ++names_[id]; count > 1) id.append("-").append(std::to_string(count));
-  open_.push_back({std::string("<g")
+  open_.push_back({part,
+                   std::string("<g")
                        .append(Attribute("id", id))
                        .append(Attribute("class", kind))
                        .append("><title>")
@@ -192,15 +208,21 @@ void SvgSurface::BeginPart(Part part, std::string_view name, std::string_view ti
 void SvgSurface::EndPart() {
   FlushLines();
   if (open_.size() < 2) return;
-  const OpenPart part = std::move(open_.back());
+  OpenPart part = std::move(open_.back());
   open_.pop_back();
   if (part.Content.empty()) return;
-  std::string content = part.Content;
-  if (form_.SharesPieces && content.size() >= LeastPiece) {
-    content =
-        std::string("<use xlink:href=\"#").append(definitions_.PieceId(content)).append("\"/>");
+  std::string& content = open_.back().Content;
+  const bool isLayer = form_ == SvgForm::Layer;
+  if (isLayer && part.Kind == Part::Caption) return;
+  if (isLayer && part.Kind == Part::Province) {
+    content.append(part.Content.size() < LeastPiece ? part.Content
+                                                    : definitions_.UseOf(part.Content));
+    return;
   }
-  open_.back().Content.append(part.Head).append(content).append("</g>\n");
+  if (isLayer && open_.size() == 1) ShareRun();
+  if (isLayer && part.Kind == Part::Unit) part.Content = definitions_.UseOf(part.Content);
+  content.append(part.Head).append(part.Content).append("</g>\n");
+  if (open_.size() == 1) runStart_ = content.size();
 }
 
 void SvgSurface::PaintWhite() {
@@ -212,9 +234,7 @@ void SvgSurface::PaintWhite() {
 
 void SvgSurface::AddText(Point corner, const std::string& id, std::string_view paint) {
   const Spot at = SpotOf(corner);
-  Add(std::string("<use xlink:href=\"#")
-          .append(id)
-          .append("\"")
+  Add(definitions_.Use(id)
           .append(Attribute("x", TenthsText(at.X)))
           .append(Attribute("y", TenthsText(at.Y)))
           .append(paint)

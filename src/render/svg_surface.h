@@ -11,13 +11,17 @@
 
 namespace orb::render {
 
+/// The name of the attribute that refers to other elements: "xlink:href", which every program
+/// knows, or "href", which browsers know as well.
+enum class SvgLinks { Old, Short };
+
 /// What the drawings of one document share: each text is defined once, of outlines that are defined
 /// once, and looks the same wherever it is opened.
 class SvgDefinitions {
  public:
   /// The document's unit is this many twips. The material must outlive the definitions.
-  SvgDefinitions(SvgMaterial& material, double twipsPerPixel)
-      : material_(material), twipsPerPixel_(twipsPerPixel) {}
+  SvgDefinitions(SvgMaterial& material, double twipsPerPixel, SvgLinks links = SvgLinks::Old)
+      : material_(material), twipsPerPixel_(twipsPerPixel), links_(links) {}
 
   SvgMaterial& Material() const { return material_; }
   double TwipsPerPixel() const { return twipsPerPixel_; }
@@ -28,8 +32,11 @@ class SvgDefinitions {
   /// The width of a pen about outlines, of which the document's own differs.
   double OutlinePen(double twips) const;
 
-  /// The id of a piece of markup that is used more than once.
-  std::string PieceId(const std::string& markup);
+  /// The beginning of an element that uses what has the id.
+  std::string Use(std::string_view id) const;
+
+  /// The use of a piece of markup, which is defined once; attributes go before those of the use.
+  std::string UseOf(const std::string& markup, std::string_view attributes = {});
 
   /// Everything that was asked for, to stand within <defs>.
   const std::string& Markup() const { return markup_; }
@@ -39,6 +46,7 @@ class SvgDefinitions {
 
   SvgMaterial& material_;
   double twipsPerPixel_;
+  SvgLinks links_;
   std::string markup_;
   std::set<int> glyphs_;
   std::map<std::pair<TextFont, std::string>, std::string> texts_;
@@ -46,10 +54,10 @@ class SvgDefinitions {
 };
 
 /// How a drawing stands in its document.
-struct SvgForm {
-  std::string IdPrefix = {};   ///< before all ids, which must differ within a document
-  bool EmbedsPictures = true;  ///< else the document shows them itself
-  bool SharesPieces = false;   ///< whether what several drawings have in common is defined once
+enum class SvgForm {
+  Whole,  ///< by itself
+  Layer,  ///< one of many in a page, which shows the background and tells the captions and
+          ///< provinces itself; what several of them have in common is defined once
 };
 
 /// A drawing as SVG text. Numbers are rounded to a tenth of a pixel. Parts become groups with an
@@ -58,7 +66,9 @@ struct SvgForm {
 class SvgSurface : public Surface {
  public:
   /// The size is in twips; the definitions must outlive the surface.
-  SvgSurface(SvgDefinitions& definitions, Point size, SvgForm form = {});
+  /// All ids begin with the prefix, since they must differ within a document.
+  SvgSurface(SvgDefinitions& definitions, Point size, SvgForm form = SvgForm::Whole,
+             std::string idPrefix = {});
 
   /// What was drawn.
   std::string Markup();
@@ -83,6 +93,7 @@ class SvgSurface : public Surface {
  private:
   /// A group that is not ended yet.
   struct OpenPart {
+    Part Kind = Part::Province;
     std::string Head, Content;
   };
 
@@ -101,10 +112,13 @@ class SvgSurface : public Surface {
   void Add(std::string_view markup);
   void AddText(Point corner, const std::string& id, std::string_view paint);
   void FlushLines();
+  void ShareRun();
 
   SvgDefinitions& definitions_;
   Point size_;
   SvgForm form_;
+  std::string idPrefix_;
+  std::size_t runStart_ = 0;          ///< of what belongs to no unit or order, in the drawing
   std::vector<OpenPart> open_;        ///< the first is the drawing itself
   std::map<std::string, int> names_;  ///< how often a name was used
   std::string lines_;                 ///< of one pen, not added yet

@@ -33,8 +33,8 @@ QString KeyOf(const QRawFont& font) {
   return QStringLiteral("%1/%2/%3").arg(font.familyName(), font.styleName()).arg(font.pixelSize());
 }
 
-QImage WithPalette(const QImage& picture) {
-  Palette palette(ChooseColours({picture}, 256));
+QImage WithPalette(const QImage& picture, std::size_t colours) {
+  Palette palette(ChooseColours({picture}, colours));
   QImage indexed(picture.size(), QImage::Format_Indexed8);
   indexed.setColorTable({palette.Colours().begin(), palette.Colours().end()});
   for (int y = 0; y < picture.height(); ++y) {
@@ -103,13 +103,18 @@ std::vector<OutlineStep> QtSvgMaterial::Outline(int glyph) {
   return steps;
 }
 
-std::string QtSvgMaterial::Png(const std::filesystem::path& file) {
-  const auto [entry, isNew] = pngs_.try_emplace(file);
+Point QtSvgMaterial::Size(const std::filesystem::path& file) {
+  const QSizeF size = NaturalSize(pictures_.Picture(file));
+  return {size.width(), size.height()};
+}
+
+std::string QtSvgMaterial::Png(const std::filesystem::path& file, std::size_t colours) {
+  const auto [entry, isNew] = pngs_.try_emplace({file, colours});
   if (isNew) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     // Quality 0 is the smallest file; nothing of the picture is lost.
-    if (!WithPalette(pictures_.Picture(file)).save(&buffer, "PNG", 0)) {
+    if (!WithPalette(pictures_.Picture(file), colours).save(&buffer, "PNG", 0)) {
       throw model::FileError("The map cannot be written in this format.");
     }
     entry->second = buffer.data().toStdString();

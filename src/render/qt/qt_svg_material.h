@@ -7,7 +7,8 @@
 #include <QString>
 
 #include <map>
-#include <tuple>
+#include <utility>
+#include <vector>
 
 namespace orb::render {
 
@@ -21,7 +22,8 @@ class QtSvgMaterial : public SvgMaterial {
   double Height(const TextFont& font) override;
   std::vector<PlacedGlyph> Shape(const TextFont& font, std::string_view text) override;
   std::vector<OutlineStep> Outline(int glyph) override;
-  std::string Png(const std::filesystem::path& file) override;
+  Point Size(const std::filesystem::path& file) override;
+  std::string Png(const std::filesystem::path& file, std::size_t colours) override;
 
  private:
   /// A glyph of one of the fonts that a text falls back to.
@@ -33,7 +35,7 @@ class QtSvgMaterial : public SvgMaterial {
   PictureCache& pictures_;
   std::map<std::pair<QString, quint32>, int> numbers_;  ///< by font and index
   std::vector<Known> glyphs_;
-  std::map<std::filesystem::path, std::string> pngs_;
+  std::map<std::pair<std::filesystem::path, std::size_t>, std::string> pngs_;
 };
 
 }  // namespace orb::render

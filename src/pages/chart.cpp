@@ -1,0 +1,141 @@
+#include "pages/chart.h"
+
+#include "pages/markup.h"
+#include "pages/report_section.h"
+
+#include "model/counts.h"
+#include "render/svg_text.h"
+
+#include <algorithm>
+#include <functional>
+#include <utility>
+
+namespace orb::pages {
+namespace {
+
+constexpr long Width = 640, Height = 260, Left = 34, Right = 52, Top = 12, Bottom = 30;
+
+/// How many centres a power owns, season by season.
+std::vector<int> CountsOf(const std::vector<Season>& seasons, const std::string& power) {
+  std::vector<int> counts;
+  for (const Season& season : seasons)
+    counts.push_back(model::CountPower(season.End, power).Centres);
+  return counts;
+}
+
+class Chart {
+ public:
+  Chart(std::size_t seasons, int most) : steps_(static_cast<long>(seasons) - 1), most_(most) {}
+
+  long X(std::size_t season) const {
+    return Left + static_cast<long>(season) * (Width - Left - Right) / steps_;
+  }
+  long Y(int centres) const { return Height - Bottom - centres * (Height - Top - Bottom) / most_; }
+
+ private:
+  long steps_;
+  long most_;
+};
+
+std::string Number(long value) {
+  return std::to_string(value);
+}
+
+std::string Line(const Chart& chart, const model::Country& country, const std::vector<int>& counts,
+                 long nameY) {
+  std::string path;
+  for (std::size_t i = 0; i < counts.size(); ++i) {
+    path.append(i == 0 ? "M" : "L").append(Number(chart.X(i))).append(" ");
+    path.append(Number(chart.Y(counts[i])));
+  }
+  const auto line = [&](std::string_view kind, model::Colour colour) {
+    return std::string("<path class=\"")
+               .append(kind)
+               .append("\" d=\"")
+               .append(path)
+               .append("\" stroke=\"") +
+           render::ColourText(colour) + "\"/>";
+  };
+  // Light colours are told from light ground by their dark edge.
+  return "<g>" + line("edge", country.TextColour) + line("core", country.Colour) + "<text x=\"" +
+         Number(Width - Right + 8) + "\" y=\"" + Number(nameY) + "\">" +
+         Text(country.Abbreviation) + "</text></g>\n";
+}
+
+std::string Axes(const Chart& chart, const std::vector<Season>& seasons, int most) {
+  std::string axes;
+  for (int centres = 0; centres <= most; centres += most > 12 ? 4 : 2) {
+    const std::string y = Number(chart.Y(centres));
+    axes.append("<path class=\"grid\" d=\"M").append(Number(Left)).append(" ").append(y);
+    axes.append("H").append(Number(Width - Right)).append("\"/><text class=\"end\" x=\"");
+    axes.append(Number(Left - 7)).append("\" y=\"").append(Number(chart.Y(centres) + 4));
+    axes.append("\">").append(Number(centres)).append("</text>");
+  }
+  int last = -1;
+  const std::size_t every = 1 + seasons.size() / 24;
+  std::size_t years = 0;
+  for (std::size_t i = 0; i < seasons.size(); ++i) {
+    const int year = seasons[i].End.Year;
+    if (year == last) continue;
+    last = year;
+    if (years++ % every != 0) continue;
+    axes.append("<text class=\"middle\" x=\"").append(Number(chart.X(i))).append("\" y=\"");
+    axes.append(Number(Height - 8)).append("\">").append(std::to_string(year)).append("</text>");
+  }
+  return axes + "\n";
+}
+
+std::string Table(const std::vector<Season>& seasons) {
+  const model::CountryTable& countries = seasons.front().End.Countries;
+  std::string head = Element("th", {{"scope", "col"}}, "Season");
+  for (const model::Country& country : countries)
+    head.append(Element("th", {{"scope", "col"}}, Text(country.Abbreviation)));
+  std::string rows;
+  for (const Season& season : seasons) {
+    rows.append("<tr>").append(Element("th", {{"scope", "row"}}, Text(season.Name)));
+    for (const model::Country& country : countries) {
+      rows.append(
+          Element("td", {{"class", "number"}},
+                  std::to_string(model::CountPower(season.End, country.Abbreviation).Centres)));
+    }
+    rows.append("</tr>\n");
+  }
+  return "<details><summary>The same in figures</summary><div class=\"scrolls\" tabindex=\"0\" "
+         "role=\"region\" aria-label=\"Centres in figures\"><table class=\"counts\"><thead><tr>" +
+         head + "</tr></thead><tbody>\n" + rows + "</tbody></table></div></details>\n";
+}
+
+}  // namespace
+
+std::string CentresChart(const std::vector<Season>& seasons) {
+  if (seasons.size() < 2) return {};
+  const model::CountryTable& countries = seasons.front().End.Countries;
+  int most = 4;
+  for (const model::Country& country : countries) {
+    const std::vector<int> counts = CountsOf(seasons, country.Abbreviation);
+    most = std::max(most, *std::ranges::max_element(counts) + 1);
+  }
+  const Chart chart(seasons.size(), most);
+  // Names at the ends of the lines keep a distance from each other.
+  std::vector<std::pair<long, int>> ends;
+  for (int power = 1; power <= model::CountryCount; ++power) {
+    const std::string& name = countries[power].Abbreviation;
+    ends.emplace_back(chart.Y(CountsOf(seasons, name).back()) + 4, power);
+  }
+  std::ranges::sort(ends, std::greater<>());
+  long next = Height;
+  std::string lines;
+  for (const auto& [y, power] : ends) {
+    next = std::min(y, next - 15);
+    lines.append(
+        Line(chart, countries[power], CountsOf(seasons, countries[power].Abbreviation), next));
+  }
+  return "<section class=\"chart\" aria-labelledby=\"centres\"><h2 id=\"centres\">Centres over the "
+         "years</h2>\n<svg class=\"lines\" viewBox=\"0 0 " +
+         Number(Width) + " " + Number(Height) +
+         "\" role=\"img\" aria-label=\"Centres of each power over the years; the same in figures "
+         "below\">\n" +
+         Axes(chart, seasons, most) + lines + "</svg>\n" + Table(seasons) + "</section>\n";
+}
+
+}  // namespace orb::pages

@@ -1,0 +1,125 @@
+#include "pages/season.h"
+
+#include "history/replay.h"
+#include "model/errors.h"
+#include "orders/order_list.h"
+#include "session/queries.h"
+#include "session/trial.h"
+
+#include <algorithm>
+#include <optional>
+#include <tuple>
+#include <utility>
+
+namespace orb::pages {
+namespace {
+
+using model::GameState;
+using session::Situation;
+
+auto PlaceInTime(const Source& source) {
+  const GameState& game = source.Situation.Game;
+  // What follows Spring is the year's other half, whatever it is called.
+  return std::tuple(game.Year, game.Season == "Spring" ? 0 : 1, game.Season, game.Stage);
+}
+
+bool IsSameSeason(const Source& a, const Source& b) {
+  return a.Situation.Game.Year == b.Situation.Game.Year &&
+         a.Situation.Game.Season == b.Situation.Game.Season;
+}
+
+/// The units, told apart by what a map shows of them.
+auto UnitsOf(const GameState& game) {
+  std::vector<std::tuple<std::string, std::string, std::string, std::string>> units;
+  for (const model::Unit& unit : game.Units)
+    units.emplace_back(unit.Power, unit.UnitType, unit.Location, unit.Status);
+  std::ranges::sort(units);
+  return units;
+}
+
+/// What the situation's orders lead to, if by either rules that is where the units stand later.
+std::optional<Situation> LedTo(const Situation& before, const GameState& later) {
+  if (!session::HasOrderLines(before.Game)) return std::nullopt;
+  for (const session::Rules rules : {before.Rules, session::TheOther(before.Rules)}) {
+    Situation start = before;
+    start.Rules = rules;
+    try {
+      Situation tried = session::TryOut(start);
+      if (UnitsOf(tried.Game) == UnitsOf(later)) return tried;
+    } catch (const model::FatalError&) {
+      continue;  // these orders did not lead anywhere
+    }
+  }
+  return std::nullopt;
+}
+
+/// The later situation with what is known of the season until then.
+Situation WithStory(Situation later, const Situation& story) {
+  if (!later.Notes.empty() || story.Notes.empty()) return later;
+  later.Game.ReportLines = story.Game.ReportLines;
+  later.Notes = story.Notes;
+  later.Outcomes = story.Outcomes;
+  later.ByUsualRules = story.ByUsualRules;
+  return later;
+}
+
+/// Follows the situations of one season to its last one. The report of moves that were resolved
+/// before stays where a later situation has none.
+Situation Follow(const std::vector<Source>& sources) {
+  Situation now = sources.front().Situation;
+  bool resolves = sources.front().Resolves;
+  for (std::size_t i = 1; i < sources.size(); ++i) {
+    const Situation& next = sources[i].Situation;
+    const auto led = LedTo(now, next.Game);
+    now = WithStory(next, led ? *led : now);
+    resolves = sources[i].Resolves;
+  }
+  return resolves && session::HasOrderLines(now.Game) ? session::TryOut(now) : now;
+}
+
+Season SeasonFrom(Situation now) {
+  history::Replay replay = history::SeasonReplay(now.Game, now.Outcomes);
+  Season season;
+  season.Name = now.Game.Season + " " + std::to_string(now.Game.Year);
+  season.Remark = std::string(session::RulesRemark(now));
+  season.Start = std::move(replay.Start);
+  season.End = std::move(replay.End);
+  season.Journeys = std::move(replay.Journeys);
+  season.Orders = std::move(now.Outcomes);
+  season.Notes = std::move(now.Notes);
+  return season;
+}
+
+/// A season of which only its beginning is there: what became of it, its successor's units tell.
+Season SeasonUntil(const Situation& now, const GameState& next) {
+  if (const auto led = LedTo(now, next)) return SeasonFrom(*led);
+  history::Replay replay = history::ReplayBetween(now.Game, next);
+  Season season = SeasonFrom(now);
+  season.End.Units = replay.End.Units;
+  season.End.Provinces = replay.End.Provinces;
+  season.End.Stage = model::Stage::Finished;
+  season.Journeys = std::move(replay.Journeys);
+  return season;
+}
+
+}  // namespace
+
+std::vector<Season> SeasonsOf(std::vector<Source> sources) {
+  std::ranges::stable_sort(sources, {}, PlaceInTime);
+  std::vector<std::vector<Source>> groups;
+  for (Source& source : sources) {
+    if (groups.empty() || !IsSameSeason(groups.back().front(), source)) groups.emplace_back();
+    groups.back().push_back(std::move(source));
+  }
+  std::vector<Season> seasons;
+  for (std::size_t i = 0; i < groups.size(); ++i) {
+    Situation now = Follow(groups[i]);
+    const bool isLast = i + 1 == groups.size();
+    seasons.push_back(!isLast && now.Game.Stage == model::Stage::Moves
+                          ? SeasonUntil(now, groups[i + 1].front().Situation.Game)
+                          : SeasonFrom(std::move(now)));
+  }
+  return seasons;
+}
+
+}  // namespace orb::pages
