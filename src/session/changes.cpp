@@ -28,11 +28,6 @@ bool SameReport(const Situation& a, const Situation& b) {
              std::tie(b.Notes, b.Outcomes, b.Differences, b.ByUsualRules);
 }
 
-bool SameEditing(const Situation& a, const Situation& b) {
-  return a.Editing == b.Editing && a.Edits.CanUndo() == b.Edits.CanUndo() &&
-         a.Edits.CanRedo() == b.Edits.CanRedo();
-}
-
 }  // namespace
 
 bool SameLists(const GameState& a, const GameState& b) {
@@ -56,8 +51,9 @@ Changes ChangesBetween(const Situation& before, const Situation& after) {
   if (!SameLists(a, b) || before.Stopped != after.Stopped) changes |= Changes::Orders;
   if (!SameReport(before, after)) changes |= Changes::Report;
   if (a.FileName != b.FileName || before.ReadOnly != after.ReadOnly) changes |= Changes::File;
-  if (!SameEditing(before, after)) changes |= Changes::Editing;
+  if (before.Editing != after.Editing) changes |= Changes::Editing;
   if (before.Rules != after.Rules) changes |= Changes::Rules;
+  if (before.GameNumber != after.GameNumber) changes |= Changes::Game;
   return changes;
 }
 

@@ -7,7 +7,7 @@
 namespace orb::session {
 
 /// Parts of a situation, as a set: what a command changed, or what a view of it depends on.
-enum class Changes : std::uint8_t {
+enum class Changes : std::uint16_t {
   None = 0,
   Season = 1,    ///< title, season, year, stage, free text
   Position = 2,  ///< units and centres
@@ -17,7 +17,8 @@ enum class Changes : std::uint8_t {
   File = 32,     ///< the game's file and whether it is only read
   Editing = 64,  ///< what is edited, and which steps can be taken
   Rules = 128,   ///< by which rules stages are resolved
-  All = 255,
+  Game = 256,    ///< it is another game, or another season of it
+  All = 511,
 };
 
 constexpr Changes operator|(Changes a, Changes b) {

@@ -125,14 +125,7 @@ void SetEditing(Situation& situation, Editing editing);
 /// A change of the position as in model/position_edit.h: why it is refused, or an empty text.
 using PositionChange = std::function<std::string(model::GameState&)>;
 
-/// Makes a change, which can be taken back until the editing ends or another command changes what
-/// is edited. Returns what the change returns.
+/// Makes a change. Returns what the change returns.
 std::string Edit(Situation& situation, const PositionChange& change);
-
-void UndoEdit(Situation& situation);
-void RedoEdit(Situation& situation);
-
-/// Undoes the last step as if it had never been.
-void WithdrawEdit(Situation& situation);
 
 }  // namespace orb::session

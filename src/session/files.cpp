@@ -6,20 +6,35 @@
 #include "session/queries.h"
 #include "text/encoding.h"
 
+#include <memory>
 #include <system_error>
 
 namespace orb::session {
+namespace {
 
-void NewGame(Situation& situation, const std::filesystem::path& dataDirectory) {
+/// The file, or the starting position, holds the game as it is now.
+void MarkSaved(Situation& situation) {
+  situation.Saved = std::make_shared<const model::GameState>(situation.Game);
+}
+
+void BeginGame(Situation& situation) {
+  ++situation.GameNumber;
   situation.Editing = Editing::None;
   situation.Rules = Rules::Orb;
+}
+
+}  // namespace
+
+void NewGame(Situation& situation, const std::filesystem::path& dataDirectory) {
+  BeginGame(situation);
   model::NewGame(situation.Game, dataDirectory);
+  MarkSaved(situation);
 }
 
 void BlankGame(Situation& situation, const std::filesystem::path& dataDirectory) {
-  situation.Editing = Editing::None;
-  situation.Rules = Rules::Orb;
+  BeginGame(situation);
   model::BlankGame(situation.Game, dataDirectory);
+  MarkSaved(situation);
 }
 
 bool ReadGame(Situation& situation, const std::filesystem::path& file, model::Messages& messages,
@@ -30,18 +45,22 @@ bool ReadGame(Situation& situation, const std::filesystem::path& file, model::Me
 
 void OpenGame(Situation& situation, const std::filesystem::path& file, bool readOnly,
               const std::filesystem::path& dataDirectory, model::Messages& messages) {
+  BeginGame(situation);
   situation.ReadOnly = readOnly;
-  situation.Editing = Editing::None;
-  situation.Rules = Rules::Orb;
   situation.Stopped.reset();
   if (!ReadGame(situation, file, messages)) model::NewGame(situation.Game, dataDirectory);
+  MarkSaved(situation);
+}
+
+bool IsSameFile(const std::filesystem::path& a, const std::filesystem::path& b) {
+  std::error_code ignored;
+  return a == b || std::filesystem::equivalent(a, b, ignored);
 }
 
 void ExpectUnchanged(const Situation& situation, const std::filesystem::path& file) {
   const auto& mark = situation.OwnFile;
   if (!mark) return;
-  std::error_code ignored;
-  if (file != mark->Path && !std::filesystem::equivalent(file, mark->Path, ignored)) return;
+  if (!IsSameFile(file, mark->Path)) return;
   // A file that is gone holds nothing that could be lost.
   if (model::ChangeSince(*mark) != model::FileChange::Changed) return;
   throw model::FileChangedError(text::NameInText(file.string()) +
@@ -60,6 +79,7 @@ void SaveGame(Situation& situation, Overwrite overwrite) {
   if (overwrite == Overwrite::Unchanged) ExpectUnchanged(situation, name);
   file.Commit();
   situation.OwnFile = file.Mark();
+  MarkSaved(situation);
 }
 
 void SaveGameAs(Situation& situation, const std::filesystem::path& file, Overwrite overwrite) {

@@ -6,6 +6,7 @@
 #include "model/lookups.h"
 #include "orders/entered_orders.h"
 #include "orders/order_list.h"
+#include "session/changes.h"
 
 namespace orb::session {
 
@@ -19,6 +20,18 @@ bool HasOrderLines(const model::GameState& game) {
 
 bool CanSave(const Situation& situation) {
   return !situation.ReadOnly || situation.Game.FileName.empty();
+}
+
+bool IsModified(const Situation& situation) {
+  return situation.Saved == nullptr || !SameWork(*situation.Saved, situation.Game);
+}
+
+bool HasOrdersNoFileKeeps(const Situation& situation) {
+  return situation.Game.Stage != model::Stage::Moves && HasOrderLines(situation.Game);
+}
+
+bool HasUnsavedWork(const Situation& situation) {
+  return IsModified(situation) || HasOrdersNoFileKeeps(situation);
 }
 
 model::FileChange OwnFileChange(const Situation& situation) {

@@ -3,6 +3,7 @@
 #include "adjudication/list_check.h"
 #include "session/situation.h"
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,18 @@ bool HasOrderLines(const model::GameState& game);
 
 /// Whether the game may be written to its own file: one that was opened for reading only may not.
 bool CanSave(const Situation& situation);
+
+/// Whether the game differs from what its file holds, or from the new game that it began as.
+bool IsModified(const Situation& situation);
+
+/// Whether it holds orders that no game file has a place for: those of retreats and adjustments.
+bool HasOrdersNoFileKeeps(const Situation& situation);
+
+/// Whether there is anything in it that is in no file.
+bool HasUnsavedWork(const Situation& situation);
+
+/// Whether both names lead to the same file.
+bool IsSameFile(const std::filesystem::path& a, const std::filesystem::path& b);
 
 /// What became of the game's own file since the game was read from it or written to it; None where
 /// it has no file.

@@ -11,6 +11,7 @@ namespace orb::session {
 void NextSeason(Situation& situation) {
   ExpectFinished(situation);
   model::NextSeason(situation.Game);
+  ++situation.GameNumber;
 }
 
 bool UndoSeason(Situation& situation, model::Messages& messages) {

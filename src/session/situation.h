@@ -1,6 +1,5 @@
 #pragma once
 
-#include "model/edit_history.h"
 #include "model/file_mark.h"
 #include "model/game_state.h"
 #include "orders/order_outcome.h"
@@ -8,6 +7,7 @@
 #include "session/comparison.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -47,9 +47,12 @@ struct Situation {
   session::Rules ResolvedBy = Rules::Orb;           ///< the last of them
   bool ByUsualRules = false;                        ///< some stage of the season was resolved so
   session::Editing Editing = session::Editing::None;
-  model::EditHistory Edits = {};                ///< the steps since the editing began
+  /// Another number: another game, or another season of it, with a file of its own.
+  int GameNumber = 0;
   bool ReadOnly = false;                        ///< the game's file was opened for reading only
   std::optional<model::FileMark> OwnFile = {};  ///< what was read of it, or written to it last
+  /// What the file holds, or the new game that this one began as; null: no file holds any of it.
+  std::shared_ptr<const model::GameState> Saved = {};
 };
 
 }  // namespace orb::session

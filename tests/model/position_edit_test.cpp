@@ -1,6 +1,5 @@
 #include "model/position_edit.h"
 
-#include "model/edit_history.h"
 #include "support/boards.h"
 
 #include <gmock/gmock.h>
@@ -117,38 +116,6 @@ TEST(Editing, AProvinceIsContestedWithItsCoasts) {
   EXPECT_EQ(Live(game, "Spa").Owner, "");
   EXPECT_EQ(model::ChangeProvince(game, model::FindProvince(*game.Map, "Spa.n"), "", false), "");
   EXPECT_EQ(ContestedPlaces(game), "");
-}
-
-TEST(EditHistory, GoesBackAndForthAndForgetsWhatWasUndone) {
-  GameState game = Occupied();
-  model::EditHistory history;
-  std::vector<std::string> states = {Describe(game)};
-  const auto step = [&](const char* to) {
-    history.Begin(game);
-    ASSERT_EQ(model::MoveUnit(game, 1, to), "");
-    history.Record(game);
-    states.push_back(Describe(game));
-  };
-  step("Bur");
-  step("Bur");
-  step("Gas");
-  history.Undo(game);
-  EXPECT_EQ(Describe(game), states[1]);
-  EXPECT_TRUE(history.LeadsTo(game));
-  history.Redo(game);
-  EXPECT_EQ(Describe(game), states[3]);
-  history.Undo(game);
-  history.Undo(game);
-  EXPECT_EQ(Describe(game), states[0]) << "a step that changed nothing is none";
-  EXPECT_FALSE(history.CanUndo());
-  step("Pic");
-  EXPECT_FALSE(history.CanRedo());
-  step("Bre");
-  history.Withdraw(game);
-  EXPECT_EQ(Describe(game), states[4]);
-  EXPECT_FALSE(history.CanRedo());
-  model::RemoveUnit(game, 1);
-  EXPECT_FALSE(history.LeadsTo(game)) << "another hand changed it";
 }
 
 }  // namespace

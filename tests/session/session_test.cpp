@@ -62,16 +62,17 @@ class Session : public testing::Test {
     return session_.Run([&](Situation& next) { return session::Resolve(next, *messages_); });
   }
   bool FileAll(const std::vector<std::string>& orders) {
-    return std::ranges::all_of(orders,
-                               [&](const auto& order) { return session_.Run(File(order)).Done; });
+    return std::ranges::all_of(
+        orders, [&](const auto& order) { return session_.Run(File(order), {order}).Done; });
   }
   std::string Move(int unit, const char* to) {
     std::string refusal;
-    session_.Run([&](Situation& next) {
+    const auto move = [&](Situation& next) {
       refusal = session::Edit(
           next, [&](model::GameState& game) { return model::MoveUnit(game, unit, to); });
       return refusal.empty();
-    });
+    };
+    session_.Run(move, {"move", session::StepKind::Edit});
     return refusal;
   }
   session::Effect Open(const std::filesystem::path& file, bool readOnly = true) {
@@ -172,25 +173,163 @@ TEST_F(Session, NotesTellOfEveryLineOfTheReportThroughTheYear) {
 }
 
 TEST_F(Session, StepsOfEditingGoBackAndForth) {
+  FileAll({"GER A(Mun) hold"});
   Edit(Editing::Units);
+  EXPECT_FALSE(session_.CanUndoEdit()) << "the order is none of the editing's steps";
   const std::string start = DrawUnits(Game());
   EXPECT_EQ(Move(FrenchArmy, "Bur"), "");
   const std::string moved = DrawUnits(Game());
   EXPECT_THAT(Move(GermanArmy, "Bur"), Not(IsEmpty()));
   EXPECT_EQ(DrawUnits(Game()), moved);
-  EXPECT_EQ(session_.Run(session::UndoEdit).Changed, Changes::Position | Changes::Editing);
+  EXPECT_EQ(session_.TakeBack().Changed, Changes::Position | Changes::Editing);
   EXPECT_EQ(DrawUnits(Game()), start);
-  session_.Run(session::RedoEdit);
+  EXPECT_EQ(Now().Editing, Editing::Units);
+  EXPECT_TRUE(session_.CanRedoEdit());
+  session_.DoAgain();
   EXPECT_EQ(DrawUnits(Game()), moved);
-  session_.Run(session::WithdrawEdit);
+  session_.WithdrawEdit();
   EXPECT_EQ(DrawUnits(Game()), start);
-  EXPECT_FALSE(Now().Edits.CanRedo());
+  EXPECT_FALSE(session_.CanRedoEdit());
+  EXPECT_FALSE(session_.WithdrawEdit().Done) << "no edit is left";
 
   EXPECT_EQ(Move(FrenchArmy, "Bur"), "");
-  FileAll({"FRA A(Bur) hold"});
-  EXPECT_TRUE(Now().Edits.CanUndo());
-  Resolve();
-  EXPECT_FALSE(Now().Edits.CanUndo()) << "another command changed what was edited";
+  Edit(Editing::None);
+  Edit(Editing::Provinces);
+  EXPECT_FALSE(session_.CanUndoEdit()) << "the editing had ended";
+  session_.TakeBack();
+  EXPECT_EQ(DrawUnits(Game()), start) << "but not the game";
+}
+
+TEST_F(Session, EveryCommandIsTakenBackAndDoneAgain) {
+  const auto file = directory_.Path() / "other.orb";
+  SaveAs(file);
+  const std::vector<std::pair<const char*, Command>> commands{
+      {"file", File("FRA A(Mar) - Spa")},
+      {"refile", File("FRA A(Mar) hold")},
+      {"delete", [](Situation& next) { return session::DeleteOrder(next, 0); }},
+      {"import",
+       [](Situation& next) {
+         session::ReplaceOrders(next, {"AUS A(Vie) - Tyr", "ENG F(Lon) - ECH", "FRA F(Bre) - ECH"});
+       }},
+      {"rules", [](Situation& next) { session::SetRules(next, session::Rules::Usual); }},
+      {"resolve",
+       [](Situation& next) {
+         model::Consent yes;
+         return session::Resolve(next, yes, session::Noting::Full, session::Comparing::Yes);
+       }},
+      {"undo season", [&](Situation& next) { return session::UndoSeason(next, *messages_); }},
+      {"resolve",
+       [](Situation& next) {
+         model::Consent yes;
+         return session::Resolve(next, yes);
+       }},
+      {"next", session::NextSeason},
+      {"title", [](Situation& next) { session::SetTitle(next, "X"); }},
+      {"edit",
+       [](Situation& next) {
+         session::Edit(next,
+                       [](model::GameState& game) { return model::MoveUnit(game, 1, "NTH"); });
+       }},
+      {"blank", [](Situation& next) { session::BlankGame(next, DataDirectory()); }},
+      {"new", [](Situation& next) { session::NewGame(next, DataDirectory()); }},
+      {"open",
+       [&](Situation& next) { session::OpenGame(next, file, true, DataDirectory(), *messages_); }},
+  };
+  // What a step brings back, the file and the mark of unsaved changes included.
+  const auto all = [this] {
+    return All(Now()) + "\n" + Game().FileName + (session::IsModified(Now()) ? " modified " : " ") +
+           std::to_string(static_cast<int>(Now().Rules)) + std::to_string(Now().Differences.size());
+  };
+  std::vector<std::string> states{all()};
+  for (const auto& [name, command] : commands) {
+    ASSERT_TRUE(session_.Run(command, {name}).Done) << name;
+    states.push_back(all());
+    EXPECT_NE(states.back(), states.rbegin()[1]) << name;
+  }
+  for (int round = 0; round < 2; ++round) {
+    for (std::size_t i = commands.size(); i-- > 0;) {
+      EXPECT_EQ(session_.Steps().Last()->Name.Text, commands[i].first);
+      session_.TakeBack();
+      EXPECT_EQ(all(), states[i]) << commands[i].first;
+    }
+    EXPECT_EQ(session_.TakeBack().Done, false) << "there is nothing before";
+    for (std::size_t i = 0; i < commands.size(); ++i) {
+      EXPECT_EQ(session_.Steps().Next()->Name.Text, commands[i].first);
+      session_.DoAgain();
+      EXPECT_EQ(all(), states[i + 1]) << commands[i].first;
+    }
+    EXPECT_EQ(session_.DoAgain().Done, false) << "nothing was done after that";
+  }
+  session_.TakeBack();
+  session_.Run(File("ENG A(Lvp) hold"), {"file"});
+  EXPECT_EQ(session_.Steps().Next(), nullptr) << "another way was taken";
+}
+
+TEST_F(Session, TakingBackKeepsWhatIsNoneOfTheGame) {
+  const auto file = directory_.Path() / "game.orb";
+  const auto run = [this](const Command& command) { session_.Run(command, {"step"}); };
+  run(File("ENG A(Lvp) hold"));
+  SaveAs(file);
+  model::CountryTable colours = Game().Countries;
+  colours[1].Colour = 77;
+  session_.Run([&](Situation& next) { session::SetColours(next, colours); });
+  session_.TakeBack();
+  EXPECT_EQ(Game().FileName, file.string()) << "it is saved there from now on";
+  EXPECT_TRUE(session::IsModified(Now())) << "the file has the order";
+  EXPECT_EQ(Game().Countries[1].Colour, 77U);
+  session_.DoAgain();
+  EXPECT_FALSE(session::IsModified(Now()));
+
+  // The same file, opened again and written over.
+  session_.Run(
+      [&](Situation& next) {
+        session::OpenGame(next, directory_.Path() / "./game.orb", false, DataDirectory(),
+                          *messages_);
+      },
+      {"open", session::StepKind::Another});
+  EXPECT_EQ(session_.Steps().LeftBehind(), nullptr) << "all of it is in the file";
+  run(File("FRA A(Mar) hold"));
+  session_.Run([](Situation& next) { session::SaveGame(next); });
+  run([](Situation& next) { session::NewGame(next, DataDirectory()); });
+  session_.TakeBack();
+  EXPECT_FALSE(session::IsModified(Now()));
+  session_.TakeBack();
+  session_.TakeBack();
+  EXPECT_THAT(Game().OrdersList, ElementsAre("ENG A(Lvp) hold"));
+  EXPECT_TRUE(session::IsModified(Now())) << "the file has another order by now";
+  session_.Run([](Situation& next) { session::SaveGame(next); });
+  EXPECT_FALSE(session::IsModified(Now())) << "nobody else has changed it";
+
+  run(File("RUS A(Mos) hold"));
+  session_.Run([](Situation& next) { session::BlankGame(next, DataDirectory()); },
+               {"blank", session::StepKind::Another});
+  ASSERT_NE(session_.Steps().LeftBehind(), nullptr);
+  EXPECT_EQ(session_.Steps().LeftBehind()->There.Game.OrdersList.back(), "RUS A(Mos) hold");
+  session_.SetReview([](const Situation& next) {
+    if (next.Game.Units.Count() > 0) throw model::FileError("It cannot be drawn.");
+  });
+  EXPECT_THROW(session_.TakeBack(), model::FileError);
+  EXPECT_EQ(Game().Units.Count(), 0);
+  session_.SetReview([](const Situation&) {});
+  session_.TakeBack();
+  EXPECT_EQ(session_.Steps().LeftBehind(), nullptr);
+}
+
+TEST(History, ForgetsTheOldestStepsWhereTheyTakeTooMuch) {
+  session::History history(1'000'000);
+  Situation large{EmptyBoard("Spring", "moves")};
+  large.Game.OrdersList.assign(1, std::string(300'000, 'x'));
+  for (int i = 0; i < 10; ++i)
+    history.Record({std::to_string(i)}, large);
+  int kept = 0;
+  history.ForEach([&](Situation& /*there*/) { ++kept; });
+  EXPECT_TRUE(kept == 2 || kept == 3) << kept;
+  EXPECT_EQ(history.Last()->Name.Text, "9");
+  large.Game.ReportLines.Append(std::string(2'000'000, 'x'));
+  history.Record({"too large"}, large);
+  ASSERT_NE(history.Last(), nullptr);
+  history.Back(large);
+  EXPECT_EQ(history.Last(), nullptr);
 }
 
 TEST_F(Session, WhatFailsOrIsDeclinedLeavesEverything) {

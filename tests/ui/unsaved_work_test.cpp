@@ -165,6 +165,27 @@ TEST_F(UnsavedWorkTest, AKilledWindowsGameIsOfferedUntilItIsTakenOrDiscarded) {
   EXPECT_EQ(Copies(), 0) << "it was not wanted";
 }
 
+TEST_F(UnsavedWorkTest, AGameThatAnotherTookThePlaceOfIsKeptUntilItIsBack) {
+  Enter("FRA A(Par) - Bur");
+  Trigger("mnuFileNew");
+  EXPECT_EQ(Copies(), 1) << "at once";
+  Trigger("mnuFileBlank");
+  Enter("ENG F(Lon) - NTH");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Copies() == 2; }, 5000));
+  for (const char* what : {"order", "Blank", "New"}) {
+    EXPECT_EQ(Copies(), *what == 'o' ? 2 : 1) << what;
+    Trigger("mnuEditTakeBack");
+  }
+  EXPECT_EQ(Copies(), 0);
+  EXPECT_TRUE(window_->isWindowModified());
+  Trigger("mnuFileNew");
+  DieAndOpen({Offered("CONCORDAT, Spring 1901", "&Recover")});
+  EXPECT_THAT(Lines("lstOrders"), ElementsAre("FRA A(Par) - Bur"));
+  Trigger("mnuFileNew");
+  EXPECT_TRUE(Closes({})) << "nobody is asked about it";
+  EXPECT_EQ(Copies(), 0);
+}
+
 TEST_F(UnsavedWorkTest, TheEndOfTheSessionAsksOrKeepsACopy) {
   auto& work = *window_->findChild<ui::UnsavedWork*>();
   const auto ends = [&](bool mayAsk, std::deque<ModalScript::Step> steps) {

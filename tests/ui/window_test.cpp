@@ -344,14 +344,57 @@ TEST_F(WindowTest, ASelectedReportLineSaysWhyAndUndoTakesAllBack) {
   EXPECT_EQ(Map(), before);
 }
 
-TEST_F(WindowTest, TheKeyOfUndoTakesBackWhatWasTypedBeforeTheSeason) {
-  Open(examples_ / "1902-1-spring-1-moves.orb");
+TEST_F(WindowTest, CommandsAreTakenBackByNameButNotFromATextBox) {
+  const auto file = examples_ / "1902-1-spring-1-moves.orb";
+  const auto& back = Find<QAction>("mnuEditTakeBack");
+  const auto& again = Find<QAction>("mnuEditDoAgain");
+  EXPECT_EQ(back.text().toStdString(), "Take &back");
+  EXPECT_FALSE(back.isEnabled() || again.isEnabled());
+  Enter("FRA A(Par) - Bur");
+  const QImage map = Map();
+  {
+    const ModalScript answers({FileChosen(QString::fromStdString(file.string()))});
+    Trigger("mnuFileOpen");
+  }
+  EXPECT_THAT(Find<QLabel>("lblStatus").text().toStdString(), HasSubstr("was not saved"));
+  Enter("GER A(Bur) disband");
+  Resolve();
+  Press(Qt::Key_N, Qt::AltModifier);
+  Trigger("mnuGameEditUnits");
+  Find<QListWidget>("lstUnits").setCurrentRow(0);
+  Press(Qt::Key_Delete);
+  Trigger("mnuGameEditUnits");
+  Enter("FRA A(Bur) & (Par)");
+  Press(Qt::Key_D, Qt::AltModifier);
+  Trigger("mnuFileBlank");
   Type("AUS");
   Press(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(Find<QLineEdit>("txtRetreat").text(), "");
-  EXPECT_EQ(StagePanel(), "fraRetreats");
+  EXPECT_EQ(Find<QLineEdit>("txtOrder").text(), "");
   Press(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(StagePanel(), "fraOrders");
+  Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  const std::vector<std::string> names{"Blank",
+                                       "Delete FRA A(Bur) && (Par)",
+                                       "Order FRA A(Bur) && (Par)",
+                                       "Edit units",
+                                       "Next season",
+                                       "Resolve retreats",
+                                       "Order GER A(Bur) disband",
+                                       "Open " + file.filename().string()};
+  Find<QListWidget>("lstOrders").setFocus();
+  for (const std::string& name : names) {
+    EXPECT_EQ(back.text().toStdString(), "Take &back: " + name);
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(again.text().toStdString(), "&Do again: " + name);
+  }
+  EXPECT_EQ(Map(), map);
+  EXPECT_EQ(Find<QLabel>("lblFileName").text(), "");
+  EXPECT_THAT(Lines("lstOrders"), ElementsAre("FRA A(Par) - Bur"));
+  EXPECT_TRUE(window_->isWindowModified());
+  Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(Find<QLabel>("lblFileName").text().toStdString(), file.string());
+  EXPECT_EQ(StagePanel(), "fraRetreats");
+  EXPECT_FALSE(window_->isWindowModified());
+  EXPECT_EQ(Find<QLabel>("lblStatus").text().toStdString(), "Done again: " + names.back());
 }
 
 TEST_F(WindowTest, AMapModeWithoutItsBitmapIsNotTaken) {

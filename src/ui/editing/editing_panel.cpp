@@ -36,8 +36,8 @@ EditingPanel::EditingPanel(Desk& desk, MapPicture& map, const EditingTexts& text
     selectionChanged();
     m_map.update();
   });
-  connect(m_undo, &QPushButton::clicked, &m_desk, &Desk::undoEdit);
-  connect(m_redo, &QPushButton::clicked, &m_desk, &Desk::redoEdit);
+  connect(m_undo, &QPushButton::clicked, &m_desk, &Desk::takeBack);
+  connect(m_redo, &QPushButton::clicked, &m_desk, &Desk::doAgain);
   connect(m_done, &QPushButton::clicked, &m_desk,
           [this] { m_desk.setEditing(session::Editing::None); });
   connect(m_help, &QPushButton::clicked, this,
@@ -117,8 +117,8 @@ void EditingPanel::hideEvent(QHideEvent* event) {
 void EditingPanel::showGame() {
   // The map's overlay and the list cost time, and nobody would see them.
   if (!isVisible()) return;
-  m_undo->setEnabled(m_desk.now().Edits.CanUndo());
-  m_redo->setEnabled(m_desk.now().Edits.CanRedo());
+  m_undo->setEnabled(m_desk.canUndoEdit());
+  m_redo->setEnabled(m_desk.canRedoEdit());
   showEntries();
   selectionChanged();
 }

@@ -6,7 +6,6 @@
 #include "ui/widgets/text_validator.h"
 
 #include <QEvent>
-#include <QKeyEvent>
 #include <QShortcut>
 
 #include <algorithm>
@@ -47,7 +46,6 @@ OrderEntryPanel::OrderEntryPanel(Desk& desk, model::Stage stage, OrderList list,
   m_text->setPlaceholderText(texts.example);
   // Only what a game file can hold gets into the box.
   m_text->setValidator(new TextValidator(m_text));
-  m_text->installEventFilter(this);
   layOut(texts);
   connectControls(texts.helpTopic);
   connectKeys();
@@ -232,15 +230,6 @@ void OrderEntryPanel::hideEvent(QHideEvent* event) {
   // Keeps the text, but not the steps that led to it.
   m_text->setText(m_text->text());
   emit statusText({});
-}
-
-/// A text box that has nothing to take back leaves the key for it to the game.
-bool OrderEntryPanel::eventFilter(QObject* watched, QEvent* event) {
-  const bool undoes = event->type() == QEvent::ShortcutOverride &&
-                      static_cast<QKeyEvent*>(event)->matches(QKeySequence::Undo);
-  if (!undoes || m_text->isUndoAvailable()) return QWidget::eventFilter(watched, event);
-  event->ignore();
-  return true;
 }
 
 void OrderEntryPanel::fileOrder() {

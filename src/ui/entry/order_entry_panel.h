@@ -93,7 +93,6 @@ class OrderEntryPanel : public QWidget, public MapTool {
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   void changeEvent(QEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   QPushButton* addButton(const QString& name, const QString& caption, const QString& tip, int row,

@@ -79,7 +79,8 @@ void ExchangeCommands::preview(ExchangeKind kind, session::IncomingText text) {
   connect(&dialog, &ExchangeDialog::helpWanted, this,
           [&](const QString& topic) { emit helpWanted(topic, &dialog); });
   if (dialog.exec() != QDialog::Accepted) return;
-  const int filed = m_desk.fileOrders(dialog.orders());
+  const int filed = m_desk.fileOrders(
+      dialog.orders(), kind == ExchangeKind::Paste ? tr("Paste orders") : tr("Import orders"));
   if (filed > 0) emit noted(tr("%1 filed.").arg(countedOrders(filed)));
 }
 

@@ -16,6 +16,7 @@ RecoveryKeeper::RecoveryKeeper(const Desk& desk, const std::filesystem::path& fo
     : QObject(parent), m_desk(desk) {
   if (folder.empty()) return;
   m_copy = RecoveryFolder(folder).newCopy();
+  m_left = RecoveryFolder(folder).newCopy();
   // At most 5 seconds of work may be lost, on a slow disk too.
   m_timer.setInterval(2s);
   m_timer.setSingleShot(true);
@@ -24,8 +25,14 @@ RecoveryKeeper::RecoveryKeeper(const Desk& desk, const std::filesystem::path& fo
 }
 
 void RecoveryKeeper::plan() {
+  // Before the copy of the game that it was goes.
+  keepLeft();
   // What is saved needs no copy, from this moment on.
-  if (!m_desk.hasUnsavedWork()) return drop();
+  if (!m_desk.hasUnsavedWork()) {
+    m_timer.stop();
+    m_copy->remove();
+    return;
+  }
   // Not begun anew with each change, or steady work would put it off for ever.
   if (!m_timer.isActive()) m_timer.start();
 }
@@ -33,14 +40,27 @@ void RecoveryKeeper::plan() {
 bool RecoveryKeeper::keepNow() {
   if (!m_copy) return false;
   m_timer.stop();
-  if (!m_desk.hasUnsavedWork()) {
-    m_copy->remove();
+  const bool left = keepLeft();
+  return keep(*m_copy, m_desk.hasUnsavedWork() ? &m_desk.now() : nullptr) && left;
+}
+
+/// A game that was left does not change any more.
+bool RecoveryKeeper::keepLeft() {
+  const session::History::Step* step = m_desk.leftBehind();
+  const auto number = step == nullptr ? std::nullopt : std::optional(step->Number);
+  if (m_leftStep == number) return true;
+  m_leftStep = number;
+  return keep(*m_left, step == nullptr ? nullptr : &step->There);
+}
+
+bool RecoveryKeeper::keep(LockedCopy& copy, const session::Situation* situation) {
+  if (situation == nullptr) {
+    copy.remove();
     return true;
   }
   try {
-    if (!m_copy->lock()) throw model::FileError("its folder cannot be written");
-    model::ReplaceFile(m_copy->file(),
-                       formatRecoveryCopy(m_desk.now(), QDateTime::currentDateTime()));
+    if (!copy.lock()) throw model::FileError("its folder cannot be written");
+    model::ReplaceFile(copy.file(), formatRecoveryCopy(*situation, QDateTime::currentDateTime()));
     return true;
   } catch (const std::exception& fault) {
     // Nothing can be done about it here, and the next copy may succeed.
@@ -51,7 +71,9 @@ bool RecoveryKeeper::keepNow() {
 
 void RecoveryKeeper::drop() {
   m_timer.stop();
-  if (m_copy) m_copy->remove();
+  if (!m_copy) return;
+  m_copy->remove();
+  m_left->remove();
 }
 
 }  // namespace orb::ui

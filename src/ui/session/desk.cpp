@@ -1,6 +1,10 @@
 #include "ui/session/desk.h"
 
+#include "orders/order_list.h"
+#include "text/qt/text_codec.h"
 #include "ui/session/attempt.h"
+
+#include <QFile>
 
 #include <utility>
 
@@ -8,32 +12,47 @@ namespace orb::ui {
 
 using session::Changes;
 using session::Situation;
+using session::StepKind;
+
+namespace {
+
+/// An order as the name of a step has it: a menu's entry has not room for every line.
+QString shortened(const std::string& order) {
+  constexpr qsizetype longest = 40;
+  const QString text = text::ToQString(order).trimmed();
+  return text.size() <= longest ? text : text.left(longest) + QChar(0x2026);
+}
+
+QString nameOf(const session::History::Step* step) {
+  return step == nullptr ? QString() : QString::fromStdString(step->Name.Text);
+}
+
+}  // namespace
 
 Desk::Desk(Start start, std::filesystem::path dataDirectory, model::Messages& messages,
            QObject* parent)
     : QObject(parent),
       m_session(std::move(start.situation)),
-      m_saved(game()),
       m_view(start.view),
       m_dataDirectory(std::move(dataDirectory)),
       m_messages(messages) {
   m_session.SetReview([this](const Situation& next) { m_draw(next, m_view); });
 }
 
-bool Desk::isModified() const {
-  return !m_saved || !session::SameWork(*m_saved, game());
-}
-
-bool Desk::hasOrdersNoFileKeeps() const {
-  return game().Stage != model::Stage::Moves && session::HasOrderLines(game());
+void Desk::setRulesMemory(std::function<session::Rules(const std::string&)> rulesOf) {
+  m_rulesOf = std::move(rulesOf);
+  // No step: nobody has chosen anything.
+  run([this](Situation& next) { session::SetRules(next, m_rulesOf(next.Game.FileName)); });
 }
 
 void Desk::newGame() {
-  run([this](Situation& next) { session::NewGame(next, m_dataDirectory); }, FileHolds::Game);
+  run([this](Situation& next) { session::NewGame(next, m_dataDirectory); }, tr("New"),
+      StepKind::Another);
 }
 
 void Desk::blankGame() {
-  run([this](Situation& next) { session::BlankGame(next, m_dataDirectory); }, FileHolds::Game);
+  run([this](Situation& next) { session::BlankGame(next, m_dataDirectory); }, tr("Blank"),
+      StepKind::Another);
 }
 
 void Desk::openGame(const std::filesystem::path& file, bool readOnly) {
@@ -41,62 +60,85 @@ void Desk::openGame(const std::filesystem::path& file, bool readOnly) {
     session::OpenGame(next, file, readOnly, m_dataDirectory, m_messages);
     session::SetRules(next, m_rulesOf(next.Game.FileName));
   };
-  run(open, FileHolds::Game);
+  run(open, tr("Open %1").arg(QFile::decodeName(file.filename().c_str())), StepKind::Another);
 }
 
 bool Desk::recoverGame(const Situation& recovered) {
   const auto recover = [&](Situation& next) {
+    const int number = next.GameNumber + 1;
     next = recovered;
+    next.GameNumber = number;
     session::SetRules(next, m_rulesOf(next.Game.FileName));
   };
-  return run(recover, FileHolds::Other);
+  return run(recover, tr("Recover"), StepKind::Another);
 }
 
 bool Desk::saveGameAs(const std::filesystem::path& file, session::Overwrite overwrite) {
-  const auto save = [&](Situation& next) { session::SaveGameAs(next, file, overwrite); };
-  return run(save, FileHolds::Game);
+  return run([&](Situation& next) { session::SaveGameAs(next, file, overwrite); });
 }
 
 bool Desk::fileOrder(const std::string& text) {
-  return run([&](Situation& next) { return session::FileOrder(next, text); });
+  return run([&](Situation& next) { return session::FileOrder(next, text); },
+             tr("Order %1").arg(shortened(text)));
 }
 
 void Desk::deleteOrder(int row) {
-  run([&](Situation& next) { return session::DeleteOrder(next, row); });
+  const std::vector<std::string>& list = orders::StageList(game());
+  const bool there = row >= 0 && row < static_cast<int>(list.size());
+  const std::string line = there ? list[static_cast<std::size_t>(row)] : std::string();
+  run([&](Situation& next) { return session::DeleteOrder(next, row); },
+      tr("Delete %1").arg(shortened(line)));
 }
 
-int Desk::fileOrders(const std::vector<exchange::ReadLine>& lines) {
+int Desk::fileOrders(const std::vector<exchange::ReadLine>& lines, const QString& how) {
   int filed = 0;
   const auto file = [&](Situation& next) { filed = session::FileOrders(next, lines); };
-  return run(file) ? filed : 0;
+  return run(file, how) ? filed : 0;
 }
 
 void Desk::resolve() {
   const auto comparing = m_view.compare ? session::Comparing::Yes : session::Comparing::No;
-  run([&](Situation& next) {
+  const auto resolve = [&](Situation& next) {
     return session::Resolve(next, m_messages, session::Noting::Full, comparing);
-  });
+  };
+  run(resolve, tr("Resolve %1").arg(text::ToQString(StageText(game()))));
   if (now().Stopped) emit stopped();
 }
 
 void Desk::nextSeason() {
-  run(session::NextSeason);
+  run(session::NextSeason, tr("Next season"));
 }
 
 void Desk::undoSeason() {
-  run([this](Situation& next) { return session::UndoSeason(next, m_messages); });
+  run([this](Situation& next) { return session::UndoSeason(next, m_messages); }, tr("Undo season"));
 }
 
 void Desk::setRules(session::Rules rules) {
-  run([&](Situation& next) { session::SetRules(next, rules); });
+  run([&](Situation& next) { session::SetRules(next, rules); }, tr("Rules"));
 }
 
 void Desk::editSeason(const model::SeasonFacts& facts) {
-  run([&](Situation& next) { session::EditSeason(next, facts); });
+  run([&](Situation& next) { session::EditSeason(next, facts); }, tr("Edit season"));
 }
 
 void Desk::setColours(const model::CountryTable& colours) {
   run([&](Situation& next) { session::SetColours(next, colours); });
+}
+
+void Desk::takeBack() {
+  goTo(&session::Session::TakeBack, tr("Taken back: %1").arg(lastStep()));
+}
+
+void Desk::doAgain() {
+  goTo(&session::Session::DoAgain, tr("Done again: %1").arg(nextStep()));
+}
+
+QString Desk::lastStep() const {
+  return nameOf(m_session.Steps().Last());
+}
+
+QString Desk::nextStep() const {
+  return nameOf(m_session.Steps().Next());
 }
 
 void Desk::setEditing(session::Editing editing) {
@@ -105,23 +147,17 @@ void Desk::setEditing(session::Editing editing) {
 
 std::string Desk::edit(const session::PositionChange& change) {
   std::string refusal;
-  run([&](Situation& next) {
+  const auto edit = [&](Situation& next) {
     refusal = session::Edit(next, change);
     return refusal.empty();
-  });
+  };
+  const bool units = now().Editing == session::Editing::Units;
+  run(edit, units ? tr("Edit units") : tr("Edit provinces"), session::StepKind::Edit);
   return refusal;
 }
 
-void Desk::undoEdit() {
-  run(session::UndoEdit);
-}
-
-void Desk::redoEdit() {
-  run(session::RedoEdit);
-}
-
 void Desk::withdrawEdit() {
-  run(session::WithdrawEdit);
+  tell([this] { return m_session.WithdrawEdit(); });
 }
 
 void Desk::setMapOptions(const settings::MapOptions& options) {
@@ -148,14 +184,24 @@ void Desk::setCompare(bool compare) {
   show(next);
 }
 
-bool Desk::run(const session::Command& command, FileHolds holds) {
+bool Desk::run(const session::Command& command, const QString& name, StepKind kind) {
+  const bool unsaved = kind == StepKind::Another && hasUnsavedWork();
+  const bool done = tell([&] { return m_session.Run(command, {name.toStdString(), kind}); });
+  if (done && unsaved)
+    emit noted(tr("The game before was not saved: Edit > Take back brings it back."));
+  return done;
+}
+
+bool Desk::tell(const std::function<session::Effect()>& work) {
   session::Effect effect{false, Changes::All};
-  attempt(m_messages, [&] { effect = m_session.Run(command); });
-  if (effect.Done && holds == FileHolds::Game) m_saved = game();
-  if (effect.Done && holds == FileHolds::Other) m_saved.reset();
+  attempt(m_messages, [&] { effect = work(); });
   // Also when the command failed: a check mark may already show what has not happened.
   emit changed(effect.Changed);
   return effect.Done;
+}
+
+void Desk::goTo(session::Effect (session::Session::*way)(), const QString& told) {
+  if (tell([&] { return (m_session.*way)(); })) emit noted(told);
 }
 
 void Desk::show(const View& next) {

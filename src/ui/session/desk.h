@@ -5,10 +5,10 @@
 #include "ui/session/start.h"
 
 #include <QObject>
+#include <QString>
 
 #include <filesystem>
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,23 +34,26 @@ class Desk : public QObject {
 
   /// Whether the game differs from what its file holds, or from the new game that it began as. A
   /// recovered game does until it is saved.
-  bool isModified() const;
+  bool isModified() const { return session::IsModified(now()); }
 
   /// Whether it holds orders that no game file has a place for: those of retreats and adjustments.
-  bool hasOrdersNoFileKeeps() const;
+  bool hasOrdersNoFileKeeps() const { return session::HasOrdersNoFileKeeps(now()); }
 
   /// Whether anything would be lost with the window.
-  bool hasUnsavedWork() const { return isModified() || hasOrdersNoFileKeeps(); }
+  bool hasUnsavedWork() const { return session::HasUnsavedWork(now()); }
+
+  /// The step at which another game took the place of one with unsaved work, which it keeps; null
+  /// for none.
+  const session::History::Step* leftBehind() const { return m_session.Steps().LeftBehind(); }
 
   const std::filesystem::path& dataDirectory() const { return m_dataDirectory; }
 
   /// Called before anything new is taken over: what cannot be drawn is not.
   void setDrawing(Drawing draw) { m_draw = std::move(draw); }
 
-  /// Tells by which rules the game of a file was resolved before; asked when a file is opened.
-  void setRulesMemory(std::function<session::Rules(const std::string& file)> rulesOf) {
-    m_rulesOf = std::move(rulesOf);
-  }
+  /// Tells by which rules the game of a file was resolved before; asked for the present one, and
+  /// whenever a file is opened.
+  void setRulesMemory(std::function<session::Rules(const std::string& file)> rulesOf);
 
   /// Calls the receiver's slot after every command that changed any of these parts.
   template <class Receiver>
@@ -74,8 +77,8 @@ class Desk : public QObject {
   bool fileOrder(const std::string& text);
   void deleteOrder(int row);
 
-  /// How many were filed.
-  int fileOrders(const std::vector<exchange::ReadLine>& lines);
+  /// How many were filed; `how` names the step: "Import orders".
+  int fileOrders(const std::vector<exchange::ReadLine>& lines, const QString& how);
 
   void resolve();
   void nextSeason();
@@ -84,14 +87,21 @@ class Desk : public QObject {
   void editSeason(const model::SeasonFacts& facts);
   void setColours(const model::CountryTable& colours);
 
-  // Editing by hand. Each change is a step; withdrawing one leaves nothing to be redone.
+  // Every command above and every edit is a step, but for saving and the colours. What would be
+  // taken back, or done again, is named for the user; without a name there is nothing.
+  void takeBack();
+  void doAgain();
+  QString lastStep() const;
+  QString nextStep() const;
+
+  // Editing by hand. Withdrawing the last change leaves nothing to be done again.
   void setEditing(session::Editing editing);
 
   /// The change's own text: empty, or why it is refused.
   std::string edit(const session::PositionChange& change);
-  void undoEdit();
-  void redoEdit();
   void withdrawEdit();
+  bool canUndoEdit() const { return m_session.CanUndoEdit(); }
+  bool canRedoEdit() const { return m_session.CanRedoEdit(); }
 
   // How the game is shown. What cannot be drawn that way is not taken over.
   void setMapOptions(const settings::MapOptions& options);
@@ -110,17 +120,20 @@ class Desk : public QObject {
   /// A resolution was abandoned at a line; follows changed.
   void stopped();
 
- private:
-  /// What the game's file holds after a command: what it held before, the game, or another game.
-  enum class FileHolds { Same, Game, Other };
+  /// Something for the status bar: what became of the last command.
+  void noted(const QString& text);
 
-  /// False when the command was declined or abandoned.
-  bool run(const session::Command& command, FileHolds holds = FileHolds::Same);
+ private:
+  /// False when the command was declined or abandoned. One with a name can be taken back.
+  bool run(const session::Command& command, const QString& name = {},
+           session::StepKind kind = session::StepKind::Plain);
+  /// False when it was not done; whatever happened is told by changed.
+  bool tell(const std::function<session::Effect()>& work);
+  void goTo(session::Effect (session::Session::*way)(), const QString& told);
   /// Draws the game with another view and keeps that view, or reports why not.
   void show(const View& view);
 
   session::Session m_session;
-  std::optional<model::GameState> m_saved;  ///< nothing: no file holds the game
   View m_view;
   std::filesystem::path m_dataDirectory;
   model::Messages& m_messages;

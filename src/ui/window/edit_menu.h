@@ -9,8 +9,9 @@ namespace orb::ui {
 class ExchangeCommands;
 class ExportCommands;
 
-/// What goes to the clipboard and comes from it: map, report and orders. The entries for orders are
-/// enabled only where the stage has orders or takes some.
+/// Taking back the last command and doing it again, by their names; and what goes to the clipboard
+/// and comes from it: map, report and orders. The entries for orders are enabled only where the
+/// stage has orders or takes some.
 class EditMenu : public QMenu {
   Q_OBJECT
 
@@ -24,9 +25,12 @@ class EditMenu : public QMenu {
   QAction* pasteOrdersEntry() const { return m_pasteOrders; }
 
  private:
+  void go(void (Desk::*step)(), QWidget& map);
   void showState();
 
   Desk& m_desk;
+  QAction* m_takeBack;
+  QAction* m_doAgain;
   QAction* m_copyMap;
   QAction* m_copyOrders;
   QAction* m_pasteOrders;

@@ -28,7 +28,7 @@ GameMenu::GameMenu(Desk& desk, QWidget* parent) : QMenu(tr("&Game"), parent), m_
   addSeparator();
   addRules();
   addSeparator();
-  m_undo = newEntry(*this, QStringLiteral("mnuGameUndo"), tr("U&ndo season"), QKeySequence::Undo);
+  m_undo = newEntry(*this, QStringLiteral("mnuGameUndo"), tr("U&ndo season"));
   connect(m_undo, &QAction::triggered, &desk, &Desk::undoSeason);
   m_desk.whenChanged(session::Changes::Season | session::Changes::Editing | session::Changes::Rules,
                      this, &GameMenu::showState);
@@ -57,12 +57,10 @@ void GameMenu::addEditing(const QString& name, const QString& caption, Editing e
 }
 
 void GameMenu::addEditSteps() {
-  m_undoEdit =
-      newEntry(*this, QStringLiteral("mnuGameUndoEdit"), tr("Undo e&dit"), QKeySequence::Undo);
-  m_redoEdit = newEntry(*this, QStringLiteral("mnuGameRedoEdit"), tr("Redo ed&it"),
-                        Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
-  connect(m_undoEdit, &QAction::triggered, &m_desk, &Desk::undoEdit);
-  connect(m_redoEdit, &QAction::triggered, &m_desk, &Desk::redoEdit);
+  m_undoEdit = newEntry(*this, QStringLiteral("mnuGameUndoEdit"), tr("Undo e&dit"));
+  m_redoEdit = newEntry(*this, QStringLiteral("mnuGameRedoEdit"), tr("Redo ed&it"));
+  connect(m_undoEdit, &QAction::triggered, &m_desk, &Desk::takeBack);
+  connect(m_redoEdit, &QAction::triggered, &m_desk, &Desk::doAgain);
 }
 
 void GameMenu::addRules() {
@@ -100,14 +98,11 @@ void GameMenu::showState() {
   m_compare->setText(m_desk.now().Rules == session::Rules::Orb
                          ? tr("&Compare with the usual rules")
                          : tr("&Compare with ORB's own rules"));
-  // The keys of a hidden entry do nothing.
   for (QAction* entry : {m_undoEdit, m_redoEdit})
     entry->setVisible(edited != Editing::None);
-  m_undoEdit->setEnabled(m_desk.now().Edits.CanUndo());
-  m_redoEdit->setEnabled(m_desk.now().Edits.CanRedo());
+  m_undoEdit->setEnabled(m_desk.canUndoEdit());
+  m_redoEdit->setEnabled(m_desk.canRedoEdit());
   m_undo->setEnabled(session::CanUndoSeason(m_desk.now()));
-  // While something is edited the keys take back a step of the editing.
-  m_undo->setShortcut(edited == Editing::None ? QKeySequence::Undo : QKeySequence());
 }
 
 }  // namespace orb::ui

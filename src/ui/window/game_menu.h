@@ -29,7 +29,6 @@ class GameMenu : public QMenu {
   Desk& m_desk;
   std::vector<std::pair<QAction*, model::Stage>> m_stages;
   std::vector<std::pair<QAction*, session::Editing>> m_editings;
-  // Two pairs of commands share the keys of undo, and never at the same time.
   QAction* m_undoEdit = nullptr;
   QAction* m_redoEdit = nullptr;
   QAction* m_undo = nullptr;

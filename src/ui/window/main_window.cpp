@@ -81,7 +81,6 @@ MainWindow::MainWindow(Start start, const Places& places)
   m_desk.setShowOrders(m_memory.flag(ShowOrders));
   m_desk.setCompare(m_memory.flag(Compare, true));
   m_desk.setRulesMemory([this](const std::string& file) { return m_memory.rules(fullPath(file)); });
-  m_desk.setRules(m_memory.rules(fullPath(m_desk.game().FileName)));
   // Measured and, below, drawn directly this once: when the map cannot be drawn at the start, the
   // exception must reach the caller instead of becoming a box over a window that is not there yet.
   m_map->measure(m_desk.view());
@@ -93,6 +92,7 @@ MainWindow::MainWindow(Start start, const Places& places)
                      &MainWindow::showGame);
   m_desk.whenChanged(Changes::Rules | Changes::File, this, &MainWindow::rememberRules);
   connect(&m_desk, &Desk::viewChanged, this, &MainWindow::showViewOnly);
+  connect(&m_desk, &Desk::noted, this, &MainWindow::showStatus);
   connect(&m_desk, &Desk::changed, this, [this] { setWindowModified(m_desk.isModified()); });
   showGame();
   // The map is drawn once all has its place: at any other size it would be drawn again.
