@@ -34,6 +34,11 @@ constexpr bool Meet(Changes a, Changes b) {
   return (static_cast<unsigned>(a) & static_cast<unsigned>(b)) != 0;
 }
 
+/// Whether the first set has no part that the second lacks.
+constexpr bool Within(Changes parts, Changes all) {
+  return (parts | all) == all;
+}
+
 /// Whether the lists of all stages are the same.
 bool SameLists(const model::GameState& a, const model::GameState& b);
 

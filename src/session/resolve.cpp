@@ -25,9 +25,12 @@ void AddNotes(const adjudication::Resolution& resolution, Situation& situation) 
     AddMissing(participants[i], notes[i].Locations);
   }
   for (const adjudication::ReportEntry& entry : resolution.Entries) {
-    if (entry.Order != 0 && resolution.Orders[entry.Order].Failed) {
-      notes.at(static_cast<std::size_t>(entry.Line - 1)).Failed = true;
-    }
+    if (entry.Order == 0) continue;
+    const orders::OrderLine& order = resolution.Orders[entry.Order];
+    ReportNote& note = notes.at(static_cast<std::size_t>(entry.Line - 1));
+    note.Failed = note.Failed || order.Failed;
+    const bool moves = resolution.Stage == model::Stage::Moves;
+    if (moves && order.UnitIndex != 0) note.Order = order.Text;
   }
 }
 
@@ -50,19 +53,28 @@ void AddDifferences(const model::GameState& before, const adjudication::Resoluti
   }
 }
 
+/// The situation without what it knows of an earlier one.
+std::shared_ptr<const Situation> Kept(const Situation& situation) {
+  auto kept = std::make_shared<Situation>(situation);
+  kept->BeforeMoves.reset();
+  kept->Edits.Clear();
+  return kept;
+}
+
 /// A season's report begins with its moves, and so does what is known of it.
 void ForgetReport(Situation& situation) {
   situation.Notes.clear();
   situation.Outcomes.clear();
   situation.Differences.clear();
+  situation.BeforeMoves.reset();
   situation.ByUsualRules = false;
 }
 
 }  // namespace
 
 bool Resolve(Situation& situation, model::Messages& messages, Noting noting, Comparing comparing) {
-  std::optional<model::GameState> before;
-  if (comparing == Comparing::Yes) before = situation.Game;
+  std::shared_ptr<const Situation> before;
+  if (noting == Noting::Full || comparing == Comparing::Yes) before = Kept(situation);
   const adjudication::Resolution resolution =
       ResolveStage(situation.Rules, situation.Game, messages);
   situation.Stopped.reset();
@@ -73,9 +85,12 @@ bool Resolve(Situation& situation, model::Messages& messages, Noting noting, Com
   if (resolution.Stage == model::Stage::Moves) ForgetReport(situation);
   situation.ResolvedBy = situation.Rules;
   if (situation.Rules == Rules::Usual) situation.ByUsualRules = true;
-  if (noting == Noting::Full) AddNotes(resolution, situation);
+  if (noting == Noting::Full) {
+    AddNotes(resolution, situation);
+    if (resolution.Stage == model::Stage::Moves) situation.BeforeMoves = before;
+  }
   if (noting != Noting::None) AddOutcomes(resolution, situation);
-  if (before) AddDifferences(*before, resolution, situation);
+  if (comparing == Comparing::Yes) AddDifferences(before->Game, resolution, situation);
   return true;
 }
 

@@ -9,13 +9,14 @@
 namespace orb::session {
 namespace {
 
-/// Notes and outcomes belong to the report, the stopped line to the lists.
+/// What is known of the moves belongs to the report, the stopped line to the lists.
 void KeepInStep(const Situation& before, Situation& next) {
   const int reportCount = next.Game.ReportLines.Count();
   next.Notes.resize(static_cast<std::size_t>(reportCount));
   if (reportCount == 0) {
     next.Outcomes.clear();
     next.Differences.clear();
+    next.BeforeMoves.reset();
     next.ByUsualRules = false;
   }
   if (!SameLists(before.Game, next.Game)) next.Stopped.reset();

@@ -20,6 +20,7 @@ struct ReportNote {
   std::string Reason;                  ///< why it came out so, in sentences
   std::vector<std::string> Locations;  ///< of the units that had a part in it; its own one first
   std::string Otherwise = {};          ///< what the other rules would have brought; empty: the same
+  std::string Order = {};              ///< of the moves that it tells of; empty: of none
 
   bool operator==(const ReportNote&) const = default;
 };
@@ -39,13 +40,14 @@ enum class Editing : std::uint8_t { None, Units, Provinces };
 /// shown. A value: whoever wants to try something out works on a copy.
 struct Situation {
   model::GameState Game;
-  std::vector<ReportNote> Notes = {};               ///< one for each line of the report
-  std::vector<orders::OrderOutcome> Outcomes = {};  ///< of the season's orders resolved so far
-  std::vector<Difference> Differences = {};         ///< of those from the other rules' outcomes
-  std::optional<StoppedLine> Stopped = {};          ///< until the lists change
-  session::Rules Rules = Rules::Orb;                ///< in force for what is resolved next
-  session::Rules ResolvedBy = Rules::Orb;           ///< the last of them
-  bool ByUsualRules = false;                        ///< some stage of the season was resolved so
+  std::vector<ReportNote> Notes = {};                 ///< one for each line of the report
+  std::vector<orders::OrderOutcome> Outcomes = {};    ///< of the season's orders resolved so far
+  std::vector<Difference> Differences = {};           ///< of those from the other rules' outcomes
+  std::shared_ptr<const Situation> BeforeMoves = {};  ///< of the report; nothing: it is unknown
+  std::optional<StoppedLine> Stopped = {};            ///< until the lists change
+  session::Rules Rules = Rules::Orb;                  ///< in force for what is resolved next
+  session::Rules ResolvedBy = Rules::Orb;             ///< the last of them
+  bool ByUsualRules = false;                          ///< some stage of the season was resolved so
   session::Editing Editing = session::Editing::None;
   /// Another number: another game, or another season of it, with a file of its own.
   int GameNumber = 0;

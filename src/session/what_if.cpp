@@ -46,15 +46,6 @@ std::optional<Course> Run(const Situation& before, const std::vector<std::string
   return course;
 }
 
-/// The list with this line in place of all of its unit's.
-std::vector<std::string> WithLine(std::vector<std::string> list, const std::string& line) {
-  const std::string_view unit = orders::UnitPart(line);
-  std::erase_if(list,
-                [&](const std::string& other) { return text::Trim(other).starts_with(unit); });
-  list.push_back(line);
-  return list;
-}
-
 /// An order to try in place of a unit's own.
 struct Candidate {
   int Unit = 0;
@@ -72,10 +63,7 @@ class Search {
         list_(question.Before.Game.OrdersList),
         possible_(question.Before.Game),
         base_(*Run(question.Before, list_)),
-        unit_(base_.Result.Orders[question.Row].UnitIndex),
-        ownPower_(PowerOf(unit_)) {}
-
-  std::string_view OwnPower() const { return ownPower_; }
+        unit_(base_.Result.Orders[question.Row].UnitIndex) {}
 
   std::string_view PowerOf(int unit) const { return question_.Before.Game.Units[unit].Power; }
 
@@ -101,14 +89,13 @@ class Search {
   /// Adds the alternative that these orders make, if they change the order in question.
   void AddIfItDoes(const Candidates& changes, std::vector<Alternative>& found) const {
     if (!AllFit(changes)) return;
-    std::vector<std::string> list = list_;
-    for (const Candidate& change : changes)
-      list = WithLine(std::move(list), change.Line);
+    std::vector<std::string> list = ListWith(changes);
     const std::optional<Course> course = Run(question_.Before, list);
     if (!course || !ChangesTheOrder(*course, changes)) return;
     Alternative& alternative = found.emplace_back();
     for (const Candidate& change : changes)
       alternative.Orders.push_back(change.Line);
+    alternative.List = std::move(list);
     alternative.Power = PowerOf(changes.front().Unit);
     alternative.Sentence = Reason(question_.Before.Rules, course->After, course->Result,
                                   course->Result.OrdersOfUnits[unit_]);
@@ -118,13 +105,31 @@ class Search {
   /// One's own power first, then by their table; those that change least else first.
   void Sort(std::vector<Alternative>& alternatives) const {
     const auto rank = [&](const Alternative& alternative) {
-      return std::tuple(alternative.Power != ownPower_, model::FindCountry(alternative.Power),
+      return std::tuple(alternative.Power != question_.Power, model::FindCountry(alternative.Power),
                         alternative.OtherChanges);
     };
     std::ranges::stable_sort(alternatives, {}, rank);
   }
 
  private:
+  /// The list with the changes in place of all lines for their units, however these name them.
+  std::vector<std::string> ListWith(const Candidates& changes) const {
+    const auto replaces = [&](std::size_t row) {
+      const int unit = base_.Result.Orders[static_cast<int>(row) + 1].UnitIndex;
+      const std::string_view line = text::Trim(list_[row]);
+      return std::ranges::any_of(changes, [&](const Candidate& change) {
+        return change.Unit == unit || line.starts_with(orders::UnitPart(change.Line));
+      });
+    };
+    std::vector<std::string> list;
+    for (std::size_t row = 0; row < list_.size(); ++row) {
+      if (!replaces(row)) list.push_back(list_[row]);
+    }
+    for (const Candidate& change : changes)
+      list.push_back(change.Line);
+    return list;
+  }
+
   std::string_view OrderText(int unit) const {
     return base_.Result.Orders[base_.Result.OrdersOfUnits[unit]].Text;
   }
@@ -177,7 +182,6 @@ class Search {
   adjudication::PossibleOrders possible_;
   Course base_;
   int unit_;
-  std::string_view ownPower_;
 };
 
 /// The row of the order in the resolution; 0: it is not there.
@@ -204,7 +208,8 @@ Question Ask(const Situation& before, std::string_view order) {
     throw model::FatalError("There is no order \"" + std::string(order) + "\" of any unit.");
   }
   return {before, course->Result.Orders[row].Text,
-          Reason(before.Rules, course->After, course->Result, row), row};
+          Reason(before.Rules, course->After, course->Result, row), row,
+          before.Game.Units[course->Result.Orders[row].UnitIndex].Power};
 }
 
 std::vector<Alternative> SingleChanges(const Question& question) {

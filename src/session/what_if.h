@@ -12,6 +12,7 @@ namespace orb::session {
 /// Orders in place of others, after which an order of the moves would have come out otherwise.
 struct Alternative {
   std::vector<std::string> Orders;  ///< one line for each unit whose order changes
+  std::vector<std::string> List;    ///< that of the moves with these lines
   std::string Power;                ///< which gives them
   std::string Sentence;             ///< what comes of the order in question then, and why
   int OtherChanges = 0;             ///< how many other orders come out otherwise, too
@@ -24,6 +25,7 @@ struct Question {
   std::string Order;     ///< a line of the list, or the unit of one: "ENG A(Lon)"
   std::string Sentence;  ///< what comes of it as things stand, and why
   int Row = 0;           ///< of its order in the resolution
+  std::string Power;     ///< of its unit
 };
 
 /// Resolves the moves as they stand and finds the order in them, also one that nobody wrote. Throws

@@ -19,6 +19,7 @@ using session::Comparing;
 using session::Noting;
 using session::Rules;
 using session::Situation;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
@@ -179,7 +180,7 @@ TEST(WhatIf, FindsTheChangesThatMatterAndNoOthers) {
       At("Spring", "moves",
          {"FRA A(Bur) hold", "GER A(Mun) - Bur", "GER A(Ruh) S A(Mun) - Bur", "FRA A(Gas) - Mar"});
   EXPECT_THAT(Drawn(session::SingleChanges(session::Ask(lost, "FRA A(Bur)"))),
-              testing::Contains("FRA A(Gas) S A(Bur) hold; 1"));
+              Contains("FRA A(Gas) S A(Bur) hold; 1"));
   const Situation far = At("Spring", "moves",
                            {"FRA A(Par) hold", "FRA A(Mar) hold", "GER A(Bur) hold",
                             "GER A(Mun) S A(Bur) hold", "FRA A(Gas) hold"});
@@ -187,6 +188,28 @@ TEST(WhatIf, FindsTheChangesThatMatterAndNoOthers) {
   EXPECT_THAT(session::SingleChanges(pair), IsEmpty());
   EXPECT_THAT(session::PairsOfChanges(pair, "FRA", [](int, int) { return true; }), IsEmpty());
   EXPECT_THROW(session::Ask(far, "GER A(Ber)"), model::FatalError);
+}
+
+TEST(WhatIf, TellsOfEveryLineOfTheReportWhatResolvingWould) {
+  const Situation start = At("Spring", "moves",
+                             {"RUS F(Stp.s)", "> RUS F(Stp) - Fin", "ENG A(Nwy) - Fin",
+                              "ENG F(BOT) S A(Nwy) - Fin", "GER F(Swe) - BOT"});
+  const Situation resolved = Resolved(start, Rules::Usual);
+  ASSERT_TRUE(resolved.BeforeMoves);
+  int alternatives = 0;
+  for (const session::ReportNote& note : resolved.Notes) {
+    const session::Question question = session::Ask(*resolved.BeforeMoves, note.Order);
+    EXPECT_EQ(question.Sentence, note.Reason);
+    for (const session::Alternative& alternative : session::SingleChanges(question)) {
+      Situation otherwise = *resolved.BeforeMoves;
+      otherwise.Game.OrdersList = alternative.List;
+      EXPECT_THAT(session::TryOut(otherwise).Notes,
+                  Contains(testing::Field(&session::ReportNote::Reason, alternative.Sentence)));
+      EXPECT_EQ(alternative.List.size(), 4U) << "the line for F(Stp) is that of F(Stp.s)";
+      ++alternatives;
+    }
+  }
+  EXPECT_GT(alternatives, 10);
 }
 
 TEST(WhatIf, FindsPairsOfWhichNeitherAloneWouldDo) {

@@ -127,6 +127,7 @@ TEST_F(Session, AGameIsPlayed) {
   EXPECT_THAT(DrawUnits(Game()), HasSubstr("FRA A(Bur)\n"));
   EXPECT_THAT(Now().Notes, IsEmpty());
   EXPECT_THAT(Now().Outcomes, IsEmpty());
+  EXPECT_FALSE(Now().BeforeMoves);
   Open(file);
   EXPECT_THROW(session_.Run([](Situation& next) { session::SaveGame(next); }), model::FatalError)
       << "only read";
