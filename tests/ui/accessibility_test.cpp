@@ -9,6 +9,7 @@
 #include <QClipboard>
 #include <QKeySequence>
 #include <QLabel>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QTabBar>
@@ -121,6 +122,13 @@ TEST_F(AccessibilityTest, EveryControlHasANameAndALetterOfItsOwn) {
     Open(examples_ / (std::string(game) + ".orb"));
     Check(*window_, game);
   }
+  Trigger("mnuGameTryOut");
+  Check(*window_, "trial");
+  Trigger("mnuGameUndo");
+  Resolve(QStringLiteral("ENG F(NTH)"));
+  Find<QListWidget>("lstReport").setCurrentRow(0);
+  Find<QAbstractButton>("butWhatIf").click();
+  Check(*window_, "what if");
   Trigger("mnuFileAnimateMove");
   Check(*window_, "animation");
   Find<QAbstractButton>("butAnimateClose").click();

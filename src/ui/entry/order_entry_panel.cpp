@@ -49,6 +49,7 @@ OrderEntryPanel::OrderEntryPanel(Desk& desk, model::Stage stage, OrderList list,
   layOut(texts);
   connectControls(texts.helpTopic);
   connectKeys();
+  if (m_stage == model::Stage::Moves) addListMenu();
   showLines();
 }
 
@@ -142,10 +143,22 @@ void OrderEntryPanel::connectKeys() {
     auto* shortcut = new QShortcut(key, control, nullptr, nullptr, Qt::WidgetShortcut);
     connect(shortcut, &QShortcut::activated, this, command);
   };
-  connectKey(m_text, Qt::Key_Escape, &OrderEntryPanel::cancelOrder);
+  connectKey(m_text, Qt::Key_Escape, &OrderEntryPanel::goBack);
   connectKey(m_text, Qt::Key_Up, &OrderEntryPanel::focusList);
   connectKey(m_list, Qt::Key_Escape, &OrderEntryPanel::focusText);
   connectKey(m_list, Qt::Key_Delete, &OrderEntryPanel::deleteOrder);
+}
+
+void OrderEntryPanel::addListMenu() {
+  auto* whatIf = new QAction(tr("&What would have changed this?"), m_list);
+  whatIf->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_T);
+  whatIf->setShortcutContext(Qt::WidgetShortcut);
+  m_list->addAction(whatIf);
+  m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
+  connect(whatIf, &QAction::triggered, this, [this] {
+    if (m_list->selectedItems().isEmpty()) return;
+    emit whatIfWanted((m_desk.game().*m_orders).at(static_cast<std::size_t>(m_list->currentRow())));
+  });
 }
 
 void OrderEntryPanel::startEntry() {
@@ -244,6 +257,12 @@ void OrderEntryPanel::fileOrder() {
 void OrderEntryPanel::cancelOrder() {
   m_text->clear();
   startEntry();
+}
+
+void OrderEntryPanel::goBack() {
+  const bool leavesTrial = m_text->text().isEmpty() && m_desk.trial();
+  cancelOrder();
+  if (leavesTrial) m_desk.endTrial();
 }
 
 void OrderEntryPanel::deleteOrder() {

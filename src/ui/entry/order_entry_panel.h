@@ -60,6 +60,9 @@ class OrderEntryPanel : public QWidget, public MapTool {
   /// What is to be said about the selected line; empty for nothing.
   void statusText(const QString& text);
 
+  /// What would have changed what comes of this order of the moves?
+  void whatIfWanted(const std::string& order);
+
  protected:
   /// One of the lists of order lines in the game.
   using OrderList = std::vector<std::string> model::GameState::*;
@@ -101,6 +104,9 @@ class OrderEntryPanel : public QWidget, public MapTool {
   void alignColumns();
   void connectControls(const QString& helpTopic);
   void connectKeys();
+  void addListMenu();
+  /// Leaves the box, or what is tried out.
+  void goBack();
   void focusText();
   void focusList();
   void append(const QString& words);

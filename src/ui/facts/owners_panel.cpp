@@ -19,14 +19,14 @@ using session::Changes;
 OwnersPicture::OwnersPicture(const Desk& desk, QWidget* parent) : QWidget(parent), m_desk(desk) {
   setObjectName(QStringLiteral("picOwners"));
   setAccessibleName(tr("Ownership of supply centres"));
-  m_desk.whenChanged(Changes::Position | Changes::Powers, this, &OwnersPicture::showOwners);
+  m_desk.whenShownChanged(Changes::Position | Changes::Powers, this, &OwnersPicture::showOwners);
   showOwners();
 }
 
 /// A picture says nothing to a screen reader: its description does.
 void OwnersPicture::showOwners() {
   QStringList groups;
-  for (const model::CentreGroup& group : model::CentreGroups(m_desk.game())) {
+  for (const model::CentreGroup& group : model::CentreGroups(m_desk.shown().Game)) {
     QStringList centres;
     for (const std::string& centre : group.Centres)
       centres << text::ToQString(centre);
@@ -47,7 +47,7 @@ void OwnersPicture::paintEvent(QPaintEvent* /*event*/) {
   surface.SetFontFamily(font().family());
   surface.FontSize = QFontInfo(font()).pixelSize() * TwipsPerPixel / render::TwipsPerPoint;
   surface.ForeColour = colour::ToColour(palette().color(QPalette::Text));
-  const double height = render::ShowCentreOwnership(m_desk.game(), surface) / TwipsPerPixel;
+  const double height = render::ShowCentreOwnership(m_desk.shown().Game, surface) / TwipsPerPixel;
   // What does not fit is scrolled to; the width alone decides how high the list is.
   setMinimumHeight(static_cast<int>(std::ceil(height)));
 }

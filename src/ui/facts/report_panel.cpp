@@ -12,12 +12,17 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace orb::ui {
 namespace {
 
 // How many lines of text the reason takes at the least and at the most.
 constexpr int FewestReasonLines = 2;
 constexpr int ReasonLines = 4;
+
+/// Where a line keeps the order that it tells of, as bytes.
+constexpr int OrderRole = OrderMarkRole + 1;
 
 }  // namespace
 
@@ -26,7 +31,8 @@ ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
       m_desk(desk),
       m_differences(new QLabel),
       m_lines(new QListWidget),
-      m_reason(new QLabel) {
+      m_reason(new QLabel),
+      m_whatIf(new QAction(tr("&What would have changed this?"), this)) {
   setObjectName(QStringLiteral("fraReport"));
   m_lines->setObjectName(QStringLiteral("lstReport"));
   m_lines->setAccessibleName(tr("Report"));
@@ -52,7 +58,7 @@ ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
   layOut();
   addListActions();
   connect(m_lines, &QListWidget::itemSelectionChanged, this, &ReportPanel::showReason);
-  m_desk.whenChanged(session::Changes::Report, this, &ReportPanel::showReport);
+  m_desk.whenShownChanged(session::Changes::Report, this, &ReportPanel::showReport);
   showReport();
 }
 
@@ -66,11 +72,18 @@ void ReportPanel::layOut() {
   reason->setWidget(m_reason);
   reason->setMinimumHeight(FewestReasonLines * fontMetrics().lineSpacing());
   reason->setMaximumHeight(ReasonLines * fontMetrics().lineSpacing());
+  auto* whatIf = newButton(QStringLiteral("butWhatIf"), m_whatIf->text());
+  connect(whatIf, &QPushButton::clicked, m_whatIf, &QAction::trigger);
+  connect(m_whatIf, &QAction::changed, whatIf, [this, whatIf] {
+    whatIf->setEnabled(m_whatIf->isEnabled());
+    whatIf->setToolTip(m_whatIf->toolTip());
+  });
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});
   column->addWidget(m_differences);
   column->addWidget(m_lines, 1);
   column->addWidget(reason);
+  column->addWidget(whatIf, 0, Qt::AlignRight);
 }
 
 void ReportPanel::addListActions() {
@@ -78,13 +91,15 @@ void ReportPanel::addListActions() {
   copy->setShortcut(QKeySequence::Copy);
   auto* selectAll = new QAction(tr("Select &all"), m_lines);
   selectAll->setShortcut(QKeySequence::SelectAll);
-  for (QAction* action : {copy, selectAll}) {
+  m_whatIf->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_T);
+  for (QAction* action : {m_whatIf, copy, selectAll}) {
     // Elsewhere in the window the same keys copy the map.
     action->setShortcutContext(Qt::WidgetShortcut);
     m_lines->addAction(action);
   }
   m_lines->setContextMenuPolicy(Qt::ActionsContextMenu);
   connect(copy, &QAction::triggered, this, &ReportPanel::copySelectedLines);
+  connect(m_whatIf, &QAction::triggered, this, [this] { emit whatIfWanted(currentOrder()); });
   connect(selectAll, &QAction::triggered, m_lines, &QListWidget::selectAll);
 }
 
@@ -100,34 +115,49 @@ void ReportPanel::changeEvent(QEvent* event) {
 
 void ReportPanel::showReport() {
   // A report that is the same stays as it is, with what is selected in it.
-  const auto& report = m_desk.game().ReportLines;
-  if (showTexts(*m_lines, {report.begin(), report.end()})) {
-    colourLines();
-    showReason();
-  }
+  const auto& report = m_desk.shown().Game.ReportLines;
+  const std::string order = currentOrder();
+  const bool isOther = showTexts(*m_lines, {report.begin(), report.end()});
   showDifferences();
+  if (isOther) select(order);
+  colourLines();
+  showReason();
   setVisible(report.Count() > 0);
 }
 
+std::string ReportPanel::currentOrder() const {
+  const QListWidgetItem* current = m_lines->currentItem();
+  const bool chosen = current != nullptr && current->isSelected();
+  return chosen ? current->data(OrderRole).toByteArray().toStdString() : std::string();
+}
+
+void ReportPanel::select(const std::string& order) {
+  const std::vector<session::ReportNote>& notes = m_desk.shown().Notes;
+  const auto line = std::ranges::find(notes, order, &session::ReportNote::Order);
+  if (!order.empty() && line != notes.end())
+    m_lines->setCurrentRow(static_cast<int>(line - notes.begin()));
+}
+
 void ReportPanel::showDifferences() {
-  const session::Situation& now = m_desk.now();
+  const session::Situation& shown = m_desk.shown();
   // The number is all that is not fixed: nothing from outside becomes part of the markup.
   const std::string text =
-      session::DifferencesText(static_cast<int>(now.Differences.size()), now.ResolvedBy);
+      session::DifferencesText(static_cast<int>(shown.Differences.size()), shown.ResolvedBy);
   m_differences->setText(
       QStringLiteral("<a href=\"differences\">%1</a>").arg(text::ToQString(text)));
-  m_differences->setVisible(!now.Differences.empty());
+  m_differences->setVisible(!shown.Differences.empty());
   for (int row = 0; row < m_lines->count(); ++row) {
-    const std::string& otherwise = now.Notes.at(static_cast<std::size_t>(row)).Otherwise;
-    const auto mark = otherwise.empty() ? OrderMark::None : OrderMark::Otherwise;
+    const session::ReportNote& note = shown.Notes.at(static_cast<std::size_t>(row));
+    const auto mark = note.Otherwise.empty() ? OrderMark::None : OrderMark::Otherwise;
     QListWidgetItem& item = *m_lines->item(row);
     item.setData(OrderMarkRole, static_cast<int>(mark));
-    item.setData(Qt::AccessibleDescriptionRole, text::ToQString(otherwise));
+    item.setData(Qt::AccessibleDescriptionRole, text::ToQString(note.Otherwise));
+    item.setData(OrderRole, QByteArray::fromStdString(note.Order));
   }
 }
 
 void ReportPanel::colourLines() {
-  const std::vector<session::ReportNote>& notes = m_desk.now().Notes;
+  const std::vector<session::ReportNote>& notes = m_desk.shown().Notes;
   for (int row = 0; row < m_lines->count(); ++row) {
     const bool failed = notes.at(static_cast<std::size_t>(row)).Failed;
     const QColor background = palette().color(QPalette::Base);
@@ -141,14 +171,25 @@ void ReportPanel::showReason() {
   const bool chosen = current != nullptr && current->isSelected();
   m_reason->setForegroundRole(chosen ? QPalette::WindowText : QPalette::PlaceholderText);
   m_reason->setText(tr("Select a line to read why it came out so."));
+  showWhatIf();
   if (!chosen) return emit unitsPicked({});
   const session::ReportNote& note =
-      m_desk.now().Notes.at(static_cast<std::size_t>(m_lines->currentRow()));
+      m_desk.shown().Notes.at(static_cast<std::size_t>(m_lines->currentRow()));
   const QString reason = text::ToQString(note.Reason);
   m_reason->setText(note.Otherwise.empty()
                         ? reason
                         : reason + QLatin1Char('\n') + text::ToQString(note.Otherwise));
   emit unitsPicked(note.Locations);
+}
+
+void ReportPanel::showWhatIf() {
+  const bool isKnown = m_desk.shown().BeforeMoves != nullptr;
+  m_whatIf->setEnabled(isKnown && !currentOrder().empty());
+  m_whatIf->setToolTip(
+      m_whatIf->isEnabled() ? tr("The other orders that would have made a difference to it")
+      : isKnown             ? tr("Select a line that tells of an order of the moves.")
+                            : tr("The moves were resolved before the game was opened: what led to "
+                                             "them is not known."));
 }
 
 void ReportPanel::copySelectedLines() {

@@ -2,6 +2,7 @@
 
 #include "ui/session/desk.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QListWidget>
 #include <QWidget>
@@ -29,6 +30,9 @@ class ReportPanel : public QWidget {
 
   void helpWanted(const QString& topic);
 
+  /// What would have changed this order of the moves?
+  void whatIfWanted(const std::string& order);
+
  protected:
   void changeEvent(QEvent* event) override;
 
@@ -37,6 +41,11 @@ class ReportPanel : public QWidget {
   /// Copying and selecting everything, by key and in the list's own menu.
   void addListActions();
   void showReport();
+  /// The order that the selected line tells of; empty for none.
+  std::string currentOrder() const;
+  void select(const std::string& order);
+  /// Whether it can be told what would have changed the selected line, or why not.
+  void showWhatIf();
   /// Says above the lines how many orders came out otherwise than by the other rules.
   void showDifferences();
   /// Needed again when the theme changes from light to dark.
@@ -50,6 +59,7 @@ class ReportPanel : public QWidget {
   QLabel* m_differences;
   QListWidget* m_lines;
   QLabel* m_reason;
+  QAction* m_whatIf;
 };
 
 }  // namespace orb::ui

@@ -13,8 +13,10 @@
 namespace orb::ui {
 namespace {
 
-/// The caption of the topic that helps in a stage.
-QString topicOf(const session::Situation& situation) {
+/// The caption of the topic that helps with what is on the desk.
+QString topicOf(const Desk& desk) {
+  const session::Situation& situation = desk.now();
+  if (desk.trial()) return QObject::tr("Trying out");
   if (situation.Editing != session::Editing::None) return QObject::tr("Editing");
   if (situation.Game.Stage == model::Stage::Retreats) return QObject::tr("Retreats");
   if (situation.Game.Stage == model::Stage::Adjustments) return QObject::tr("Adjustments");
@@ -46,6 +48,7 @@ HelpMenu::HelpMenu(const Desk& desk, model::Messages& messages, QWidget* window)
   connect(about, &QAction::triggered, this, &HelpMenu::about);
   m_desk.whenChanged(session::Changes::Season | session::Changes::Editing, this,
                      &HelpMenu::showStage);
+  connect(&m_desk, &Desk::trialChanged, this, &HelpMenu::showStage);
   showStage();
 }
 
@@ -87,7 +90,7 @@ void HelpMenu::showTopicOver(const QString& caption, QWidget* dialog) {
 
 /// F1 opens the topic of the current stage.
 void HelpMenu::showStage() {
-  const QString wanted = topicOf(m_desk.now());
+  const QString wanted = topicOf(m_desk);
   for (std::size_t i = 0; i < m_entries.size(); ++i) {
     // The captions are data; when none fits, F1 does nothing.
     const bool here = text::ToQString(m_topics[i].Caption) == wanted;

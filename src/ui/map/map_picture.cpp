@@ -79,7 +79,7 @@ void MapPicture::paintEvent(QPaintEvent* /*event*/) {
 
 void MapPicture::drawAgain() {
   try {
-    draw(m_desk.now(), m_desk.view());
+    draw(m_desk.shown(), m_desk.shownView());
   } catch (const model::FatalError&) {
     // A bitmap that vanished meanwhile is reported by the next command; till then the old picture
     // stays.

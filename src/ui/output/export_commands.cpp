@@ -91,7 +91,7 @@ void printToFile(const QPrinter& printer, const PrintedGame& game) {
 
 }  // namespace
 
-ExportCommands::ExportCommands(const Desk& desk, model::Messages& messages, QWidget* window)
+ExportCommands::ExportCommands(Desk& desk, model::Messages& messages, QWidget* window)
     : QObject(window),
       m_desk(desk),
       m_messages(messages),
@@ -106,6 +106,7 @@ QImage ExportCommands::mapPicture() {
 }
 
 void ExportCommands::copyMap() {
+  m_desk.endTrial();
   attempt(m_messages, [this] {
     const QImage picture = mapPicture();
     // As a picture, and as the PNG file that browsers and mail programs ask for.
@@ -118,6 +119,7 @@ void ExportCommands::copyMap() {
 }
 
 void ExportCommands::copyText() {
+  m_desk.endTrial();
   attempt(m_messages, [this] {
     const std::string written = scratchedReport(m_desk.now());
     std::string_view rest = written;
@@ -131,6 +133,7 @@ void ExportCommands::copyText() {
 }
 
 void ExportCommands::exportBitmap() {
+  m_desk.endTrial();
   const auto file = askWhereToExport(m_window, ExportKind::Bitmap, m_desk.game(), m_messages);
   if (!file) return;
   attempt(m_messages, [&] {
@@ -140,6 +143,7 @@ void ExportCommands::exportBitmap() {
 }
 
 void ExportCommands::exportText() {
+  m_desk.endTrial();
   const auto file = askWhereToExport(m_window, ExportKind::Text, m_desk.game(), m_messages);
   if (!file) return;
   attempt(m_messages, [&] {
@@ -152,6 +156,7 @@ void ExportCommands::exportText() {
 }
 
 void ExportCommands::print() {
+  m_desk.endTrial();
   QPrinter printer(QPrinter::HighResolution);
   const QMarginsF margins(MarginMillimetres, MarginMillimetres, MarginMillimetres,
                           MarginMillimetres);

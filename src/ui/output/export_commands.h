@@ -22,7 +22,7 @@ class ExportCommands : public QObject {
 
  public:
   /// Dialogs come up over the window.
-  ExportCommands(const Desk& desk, model::Messages& messages, QWidget* window);
+  ExportCommands(Desk& desk, model::Messages& messages, QWidget* window);
 
   /// What opens a written text, the system's text editor unless set; false when it cannot.
   void setOpener(std::function<bool(const QUrl&)> open) { m_open = std::move(open); }
@@ -42,7 +42,7 @@ class ExportCommands : public QObject {
   /// One copy, to the printer or, whole or not at all, to its PDF file.
   void printOnce(QPrinter& printer);
 
-  const Desk& m_desk;
+  Desk& m_desk;
   model::Messages& m_messages;
   QWidget* m_window;
   std::function<bool(const QUrl&)> m_open;

@@ -27,6 +27,9 @@ QString nameOf(const session::History::Step* step) {
   return step == nullptr ? QString() : QString::fromStdString(step->Name.Text);
 }
 
+/// What a trial of the stage follows.
+constexpr Changes Followed = Changes::Orders | Changes::Rules | Changes::Powers;
+
 }  // namespace
 
 Desk::Desk(Start start, std::filesystem::path dataDirectory, model::Messages& messages,
@@ -36,7 +39,7 @@ Desk::Desk(Start start, std::filesystem::path dataDirectory, model::Messages& me
       m_view(start.view),
       m_dataDirectory(std::move(dataDirectory)),
       m_messages(messages) {
-  m_session.SetReview([this](const Situation& next) { m_draw(next, m_view); });
+  m_session.SetReview([this](const Situation& next) { review(next); });
 }
 
 void Desk::setRulesMemory(std::function<session::Rules(const std::string&)> rulesOf) {
@@ -97,12 +100,53 @@ int Desk::fileOrders(const std::vector<exchange::ReadLine>& lines, const QString
 }
 
 void Desk::resolve() {
+  // Its questions are about the game as it is.
+  endTrial();
   const auto comparing = m_view.compare ? session::Comparing::Yes : session::Comparing::No;
   const auto resolve = [&](Situation& next) {
     return session::Resolve(next, m_messages, session::Noting::Full, comparing);
   };
   run(resolve, tr("Resolve %1").arg(text::ToQString(StageText(game()))));
   if (now().Stopped) emit stopped();
+}
+
+void Desk::tryOut() {
+  if (session::TakesOrders(game())) begin(tryOutStage(now(), m_view.compare));
+}
+
+void Desk::tryOut(const Situation& otherwise, std::string change) {
+  Trial trial = tryOutStage(otherwise, m_view.compare);
+  trial.change = std::move(change);
+  begin(std::move(trial));
+}
+
+void Desk::begin(Trial trial) {
+  const bool drawn = attempt(m_messages, [&] {
+    m_draw(trial.outcome, viewOf(m_view, trial));
+    m_trial = std::move(trial);
+  });
+  if (drawn) emit trialChanged();
+}
+
+void Desk::endTrial() {
+  if (!m_trial) return;
+  m_trial.reset();
+  attempt(m_messages, [this] { m_draw(now(), m_view); });
+  emit trialChanged();
+}
+
+View Desk::viewOf(View view, const std::optional<Trial>& trial) {
+  if (trial) view.showOrders = true;
+  return view;
+}
+
+void Desk::review(const Situation& next) {
+  std::optional<Trial> trial;
+  const bool goesOn = m_trial && m_trial->change.empty() &&
+                      session::Within(session::ChangesBetween(now(), next), Followed);
+  if (goesOn) trial = tryOutStage(next, m_view.compare);
+  m_draw(trial ? trial->outcome : next, viewOf(m_view, trial));
+  m_trial = std::move(trial);
 }
 
 void Desk::nextSeason() {
@@ -193,10 +237,12 @@ bool Desk::run(const session::Command& command, const QString& name, StepKind ki
 }
 
 bool Desk::tell(const std::function<session::Effect()>& work) {
+  const bool tried = m_trial.has_value();
   session::Effect effect{false, Changes::All};
   attempt(m_messages, [&] { effect = work(); });
   // Also when the command failed: a check mark may already show what has not happened.
   emit changed(effect.Changed);
+  if (tried) emit trialChanged();
   return effect.Done;
 }
 
@@ -206,10 +252,14 @@ void Desk::goTo(session::Effect (session::Session::*way)(), const QString& told)
 
 void Desk::show(const View& next) {
   attempt(m_messages, [&] {
-    m_draw(now(), next);
+    std::optional<Trial> trial = m_trial;
+    if (trial && trial->change.empty()) trial = tryOutStage(now(), next.compare);
+    m_draw(trial ? trial->outcome : now(), viewOf(next, trial));
     m_view = next;
+    m_trial = std::move(trial);
   });
   emit viewChanged();
+  if (m_trial) emit trialChanged();
 }
 
 }  // namespace orb::ui

@@ -3,6 +3,7 @@
 #include "model/messages.h"
 #include "session/session.h"
 #include "ui/session/start.h"
+#include "ui/session/trial.h"
 
 #include <QObject>
 #include <QString>
@@ -31,6 +32,16 @@ class Desk : public QObject {
   const session::Situation& now() const { return m_session.Now(); }
   const model::GameState& game() const { return now().Game; }
   const View& view() const { return m_view; }
+
+  /// What is tried out; nothing: the game is shown as it is. A trial of the stage follows the
+  /// orders and the rules; any other change of the game ends it.
+  const std::optional<Trial>& trial() const { return m_trial; }
+
+  /// What map, report and supply centres show: the outcome that is tried out, else the game.
+  const session::Situation& shown() const { return m_trial ? m_trial->outcome : now(); }
+
+  /// How it is shown: what is tried out with its orders.
+  View shownView() const { return viewOf(m_view, m_trial); }
 
   /// Whether the game differs from what its file holds, or from the new game that it began as. A
   /// recovered game does until it is saved.
@@ -63,6 +74,14 @@ class Desk : public QObject {
     });
   }
 
+  /// The same for what shown() tells of.
+  template <class Receiver>
+  void whenShownChanged(session::Changes parts, Receiver* receiver,
+                        void (Receiver::*slot)()) const {
+    whenChanged(parts, receiver, slot);
+    connect(this, &Desk::trialChanged, receiver, slot);
+  }
+
   // The commands on game files. A file that cannot be read or written leaves the game as it was;
   // saving is then false.
   void newGame();
@@ -81,6 +100,14 @@ class Desk : public QObject {
   int fileOrders(const std::vector<exchange::ReadLine>& lines, const QString& how);
 
   void resolve();
+
+  /// Tries out the stage with its orders as they are.
+  void tryOut();
+  /// Tries out another situation than the game's, until the game changes; `change` says what is
+  /// other.
+  void tryOut(const session::Situation& otherwise, std::string change);
+  void endTrial();
+
   void nextSeason();
   void undoSeason();
   void setRules(session::Rules rules);
@@ -110,6 +137,9 @@ class Desk : public QObject {
   void setCompare(bool compare);
 
  signals:
+  /// Something is tried out, or comes out otherwise now, or nothing is tried out any more.
+  void trialChanged();
+
   /// A command changed these parts of the situation. After one that was abandoned, all of them:
   /// what a control shows already goes back.
   void changed(session::Changes changes);
@@ -124,6 +154,10 @@ class Desk : public QObject {
   void noted(const QString& text);
 
  private:
+  static View viewOf(View view, const std::optional<Trial>& trial);
+  /// Draws a situation that is about to be taken over, or what becomes of the trial in it.
+  void review(const session::Situation& next);
+  void begin(Trial trial);
   /// False when the command was declined or abandoned. One with a name can be taken back.
   bool run(const session::Command& command, const QString& name = {},
            session::StepKind kind = session::StepKind::Plain);
@@ -134,6 +168,7 @@ class Desk : public QObject {
   void show(const View& view);
 
   session::Session m_session;
+  std::optional<Trial> m_trial;
   View m_view;
   std::filesystem::path m_dataDirectory;
   model::Messages& m_messages;

@@ -58,6 +58,10 @@ QColor doubtColour(const QColor& background) {
   return isDark(background) ? QColor(0xf0, 0xb4, 0x3c) : QColor(0x9c, 0x62, 0x00);
 }
 
+QColor noticeColour(const QColor& background) {
+  return isDark(background) ? QColor(0x54, 0x40, 0x10) : QColor(0xff, 0xe9, 0xa8);
+}
+
 bool showTexts(QListWidget& box, const std::vector<std::string>& texts) {
   QStringList wanted;
   for (const std::string& text : texts)

@@ -34,6 +34,9 @@ QAction* newEntry(QMenu& menu, const QString& name, const QString& caption,
 QColor failureColour(const QColor& background);
 QColor doubtColour(const QColor& background);
 
+/// A yellow to fill a notice with, on which the text of this background can be read.
+QColor noticeColour(const QColor& background);
+
 /// Fills a list box with 8-bit texts; false, nothing touched, when it shows them already.
 bool showTexts(QListWidget& box, const std::vector<std::string>& texts);
 

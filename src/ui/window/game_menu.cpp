@@ -26,6 +26,12 @@ GameMenu::GameMenu(Desk& desk, QWidget* parent) : QMenu(tr("&Game"), parent), m_
           &QAction::triggered, this, [this] { editColours(m_desk, parentWidget()); });
   addEditSteps();
   addSeparator();
+  m_tryOut = newEntry(*this, QStringLiteral("mnuGameTryOut"), tr("&Try out"), Qt::CTRL | Qt::Key_T);
+  m_tryOut->setCheckable(true);
+  connect(m_tryOut, &QAction::triggered, this, [this](bool on) {
+    on ? m_desk.tryOut() : m_desk.endTrial();
+    showState();
+  });
   addRules();
   addSeparator();
   m_undo = newEntry(*this, QStringLiteral("mnuGameUndo"), tr("U&ndo season"));
@@ -33,6 +39,7 @@ GameMenu::GameMenu(Desk& desk, QWidget* parent) : QMenu(tr("&Game"), parent), m_
   m_desk.whenChanged(session::Changes::Season | session::Changes::Editing | session::Changes::Rules,
                      this, &GameMenu::showState);
   connect(&m_desk, &Desk::viewChanged, this, &GameMenu::showState);
+  connect(&m_desk, &Desk::trialChanged, this, &GameMenu::showState);
   showState();
 }
 
@@ -92,6 +99,9 @@ void GameMenu::showState() {
   }
   for (const auto& [entry, editing] : m_editings)
     entry->setChecked(editing == edited);
+  m_tryOut->setChecked(m_desk.trial().has_value());
+  m_tryOut->setEnabled(m_desk.trial() ||
+                       (session::TakesOrders(m_desk.game()) && edited == Editing::None));
   for (const auto& [entry, rules] : m_rules)
     entry->setChecked(rules == m_desk.now().Rules);
   m_compare->setChecked(m_desk.view().compare);

@@ -32,6 +32,7 @@ class GameMenu : public QMenu {
   QAction* m_undoEdit = nullptr;
   QAction* m_redoEdit = nullptr;
   QAction* m_undo = nullptr;
+  QAction* m_tryOut = nullptr;
   std::vector<std::pair<QAction*, session::Rules>> m_rules;
   QAction* m_compare = nullptr;
 };

@@ -18,6 +18,8 @@
 #include "ui/output/file_dialogs.h"
 #include "ui/replay/animation_player.h"
 #include "ui/session/attempt.h"
+#include "ui/trial/trial_banner.h"
+#include "ui/trial/what_if_panel.h"
 #include "ui/widgets/controls.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/place_text.h"
@@ -50,7 +52,6 @@ namespace {
 using session::Editing;
 
 // Pixels.
-constexpr int Margin = 10;
 constexpr int Gap = 12;
 constexpr int ColumnWidth = 345;
 /// The name under which it is remembered whether orders are drawn; the settings file has a fixed
@@ -58,7 +59,6 @@ constexpr int ColumnWidth = 345;
 const QString ShowOrders = QStringLiteral("map/showOrders");
 /// Whether the outcomes are held against the other rules.
 const QString Compare = QStringLiteral("game/compare");
-constexpr QSize PreferredSize(1280, 800);
 
 }  // namespace
 
@@ -91,6 +91,7 @@ MainWindow::MainWindow(Start start, const Places& places)
   m_desk.whenChanged(Changes::Season | Changes::File | Changes::Editing, this,
                      &MainWindow::showGame);
   m_desk.whenChanged(Changes::Rules | Changes::File, this, &MainWindow::rememberRules);
+  connect(&m_desk, &Desk::trialChanged, this, &MainWindow::showTrial);
   connect(&m_desk, &Desk::viewChanged, this, &MainWindow::showViewOnly);
   connect(&m_desk, &Desk::noted, this, &MainWindow::showStatus);
   connect(&m_desk, &Desk::changed, this, [this] { setWindowModified(m_desk.isModified()); });
@@ -136,6 +137,12 @@ void MainWindow::createPanels() {
   connect(m_report, &ReportPanel::unitsPicked, m_map, &MapPicture::setMarks);
   connect(m_report, &ReportPanel::helpWanted, this,
           [this](const QString& topic) { m_helpMenu->showTopic(topic); });
+  m_whatIf = new WhatIfPanel(m_desk, m_messages);
+  connect(m_whatIf, &WhatIfPanel::openChanged, this, &MainWindow::showStagePanel);
+  connect(m_whatIf, &WhatIfPanel::helpWanted, this,
+          [this](const QString& topic) { m_helpMenu->showTopic(topic); });
+  connect(m_report, &ReportPanel::whatIfWanted, m_whatIf, &WhatIfPanel::askAboutReport);
+  connect(m_orders, &OrderEntryPanel::whatIfWanted, m_whatIf, &WhatIfPanel::askAboutList);
   m_player = new AnimationPlayer(m_desk, m_messages, *m_map, this);
   connect(m_player, &AnimationPlayer::changed, this, &MainWindow::showAnimation);
   connect(m_player, &AnimationPlayer::noted, this, &MainWindow::showStatus);
@@ -156,7 +163,7 @@ void MainWindow::layOutPanels() {
   // The panels share one place, above the tabs. The finished season has little to say and leaves
   // the room to the report.
   for (QWidget* panel : stagePanels())
-    panels->addWidget(panel, panel == m_seasonFinished ? 0 : 3);
+    panels->addWidget(panel, panel == m_seasonFinished ? 0 : panel == m_whatIf ? 6 : 3);
   panels->addWidget(m_tabs, 2);
   // As wide as it likes to be; on a small screen it gives way.
   panels->addItem(new QSpacerItem(ColumnWidth, 0, QSizePolicy::Preferred));
@@ -166,6 +173,7 @@ void MainWindow::layOutPanels() {
   rows->setContentsMargins(Margin, Margin, Margin, Margin);
   rows->setSpacing(Gap);
   auto* sides = new QHBoxLayout;
+  rows->addWidget(new TrialBanner(m_desk, this));
   rows->addLayout(sides, 1);
   rows->addWidget(m_player->bar());
   sides->setSpacing(Gap);
@@ -197,24 +205,6 @@ void MainWindow::createMenus() {
   m_helpMenu = new HelpMenu(m_desk, m_messages, this);
   menuBar()->addMenu(m_helpMenu);
   connect(m_exchange, &ExchangeCommands::helpWanted, m_helpMenu, &HelpMenu::showTopicOver);
-}
-
-void MainWindow::restoreSize() {
-  // Qt itself moves a window back that would open on a screen that is gone.
-  if (restoreGeometry(m_memory.geometry())) return;
-  const QSize available = screen()->availableSize();
-  resize(PreferredSize.boundedTo(available));
-  // The window's frame needs room too.
-  const bool roomy = available.width() > width() && available.height() > height();
-  if (!roomy) setWindowState(Qt::WindowMaximized);
-}
-
-/// What is remembered is the window with its panels.
-void MainWindow::rememberSize() {
-  const bool narrowed = m_column->isHidden() && !isMaximized() && !isFullScreen();
-  if (narrowed) resize(m_normalWidth, height());
-  // Its state, maximized or not, is part of it.
-  m_memory.setGeometry(saveGeometry());
 }
 
 void MainWindow::rememberSettings() {
@@ -258,11 +248,6 @@ void MainWindow::dropEvent(QDropEvent* event) {
   m_desk.openGame(QFile::encodeName(file).toStdString(), false);
 }
 
-void MainWindow::resizeEvent(QResizeEvent* event) {
-  QMainWindow::resizeEvent(event);
-  leaveSpareWidth();
-}
-
 void MainWindow::showGame() {
   const model::GameState& game = m_desk.game();
   setWindowTitle(titleText(text::ToQString(model::Caption(game))));
@@ -283,32 +268,6 @@ void MainWindow::rememberRules() {
   if (!file.empty()) m_memory.setRules(fullPath(file), m_desk.now().Rules);
 }
 
-/// Only the map shows in view-only mode, and nothing that belongs to playing.
-void MainWindow::showViewOnly() {
-  const bool viewOnly = m_desk.view().viewOnly;
-  m_gameMenu->setEnabled(!viewOnly && !m_player->isOn());
-  if (m_column->isHidden() == viewOnly) return;
-  const bool sizeIsFree = !isMaximized() && !isFullScreen();
-  // A maximized window keeps its size, and the width that it goes back to is the one before it was
-  // maximized.
-  if (viewOnly) m_normalWidth = sizeIsFree ? width() : normalGeometry().width();
-  m_column->setVisible(!viewOnly);
-  chooseTool();
-  if (sizeIsFree) resize(viewOnly ? mapOnlyWidth() : m_normalWidth, height());
-  leaveSpareWidth();
-}
-
-int MainWindow::mapOnlyWidth() {
-  // At the start nothing has its size yet.
-  layout()->activate();
-  const int wanted = m_view->fittingWidth(mapHeight()) + 2 * Margin;
-  return std::min(wanted, screen()->availableSize().width());
-}
-
-int MainWindow::mapHeight() const {
-  return centralWidget()->height() - 2 * Margin;
-}
-
 void MainWindow::showStagePanel() {
   m_shownPanel = {m_desk.game().Stage, m_desk.now().Editing};
   const auto& [shownStage, editing] = *m_shownPanel;
@@ -323,12 +282,15 @@ void MainWindow::showStagePanel() {
   // Editing takes the place of the stage, whichever that is.
   if (editing == Editing::Units) shown = m_editUnits;
   if (editing == Editing::Provinces) shown = m_editProvinces;
+  if (m_whatIf->isOpen()) shown = m_whatIf;
   showInstead(shown);
   // The report is in front as soon as there is one; owners are edited with the list of owners in
   // view.
-  const bool report = m_desk.game().ReportLines.Count() > 0 && editing != Editing::Provinces;
+  m_showsReport = m_desk.shown().Game.ReportLines.Count() > 0;
+  const bool report = m_showsReport && editing != Editing::Provinces;
   m_tabs->setCurrentIndex(report ? 1 : 0);
   chooseTool();
+  if (m_whatIf->isOpen()) return m_whatIf->startReading();
   if (editing == Editing::Units) return m_editUnits->startEditing();
   if (editing == Editing::Provinces) return m_editProvinces->startEditing();
   for (const auto& [stage, panel] : entryPanels) {
@@ -338,8 +300,9 @@ void MainWindow::showStagePanel() {
   m_report->startReading();
 }
 
-std::array<QWidget*, 6> MainWindow::stagePanels() const {
-  return {m_orders, m_retreats, m_adjustments, m_editUnits, m_editProvinces, m_seasonFinished};
+std::array<QWidget*, 7> MainWindow::stagePanels() const {
+  return {m_orders,        m_retreats,       m_adjustments, m_editUnits,
+          m_editProvinces, m_seasonFinished, m_whatIf};
 }
 
 /// Never two panels at once: the window would grow to hold them.
@@ -370,13 +333,14 @@ void MainWindow::chooseTool() {
 }
 
 void MainWindow::showPlace(int location) {
-  showStatus(placeText(m_desk.game(), location));
+  showStatus(placeText(m_desk.shown().Game, location));
 }
 
 /// While an animation has the map's place nothing may change the game.
 void MainWindow::showAnimation() {
   // The Map and Help menus stay: they change no game.
   const bool playing = m_player->isOn();
+  if (playing) m_desk.endTrial();
   for (QWidget* control :
        {static_cast<QWidget*>(m_fileMenu), static_cast<QWidget*>(m_editMenu),
         static_cast<QWidget*>(m_gameMenu), static_cast<QWidget*>(m_tools), m_column}) {
@@ -386,13 +350,9 @@ void MainWindow::showAnimation() {
   showViewOnly();
 }
 
-/// What the fitted map cannot use goes to the column.
-void MainWindow::leaveSpareWidth() {
-  const bool fitted = !m_view->zoom() && !m_column->isHidden();
-  // An enlarged map takes all there is, and so does one alone in the window.
-  m_view->setMaximumWidth(
-      fitted ? std::max(m_view->minimumSizeHint().width(), m_view->fittingWidth(mapHeight()))
-             : QWIDGETSIZE_MAX);
+void MainWindow::showTrial() {
+  const bool report = m_desk.shown().Game.ReportLines.Count() > 0;
+  if (std::exchange(m_showsReport, report) != report) m_tabs->setCurrentIndex(report ? 1 : 0);
 }
 
 }  // namespace orb::ui

@@ -34,6 +34,7 @@ class ReportPanel;
 class SeasonFinishedPanel;
 class StatusLine;
 class UnsavedWork;
+class WhatIfPanel;
 
 /// The map at the left, the panels at the right, menus and tools above, the status below.
 ///
@@ -83,15 +84,20 @@ class MainWindow : public QMainWindow {
   /// What the window has for the map from top to bottom, in pixels.
   int mapHeight() const;
   void showStagePanel();
-  std::array<QWidget*, 6> stagePanels() const;
+  std::array<QWidget*, 7> stagePanels() const;
   void showInstead(QWidget* shown);
   void showStatus(const QString& text);
   /// Hands the mouse on the map to the panel that is in front.
   void chooseTool();
   void showPlace(int location);
   void showAnimation();
+  /// The report of what is tried out comes to the front where there was none.
+  void showTrial();
   /// Keeps the map's side no wider than the fitted map needs.
   void leaveSpareWidth();
+
+  /// Around the map and the panels, in pixels.
+  static constexpr int Margin = 10;
 
   // The desk keeps a reference to the messages, and every widget one to the desk.
   MessageBoxes m_messages;
@@ -111,6 +117,9 @@ class MainWindow : public QMainWindow {
   SeasonFinishedPanel* m_seasonFinished = nullptr;
   EditUnitsPanel* m_editUnits = nullptr;
   EditProvincesPanel* m_editProvinces = nullptr;
+  /// In the place of any of them while a question about an order is answered.
+  WhatIfPanel* m_whatIf = nullptr;
+  bool m_showsReport = false;  ///< whether there was a report when a tab was last put in front
   QTabWidget* m_tabs = nullptr;
   ReportPanel* m_report = nullptr;
   ExportCommands* m_exports = nullptr;

@@ -36,6 +36,7 @@ MapMenu::MapMenu(Desk& desk, MapView& view, QWidget* parent)
   m_showOrders->setCheckable(true);
   connect(m_showOrders, &QAction::triggered, &m_desk, &Desk::setShowOrders);
   connect(&m_desk, &Desk::viewChanged, this, &MapMenu::showState);
+  connect(&m_desk, &Desk::trialChanged, this, &MapMenu::showState);
   showState();
 }
 
@@ -89,7 +90,9 @@ void MapMenu::showState() {
   for (const auto& [entry, toggle] : m_toggles)
     entry->setChecked(options.*toggle);
   m_viewOnly->setChecked(m_desk.view().viewOnly);
-  m_showOrders->setChecked(m_desk.view().showOrders);
+  // What is tried out is always shown with its orders.
+  m_showOrders->setChecked(m_desk.shownView().showOrders);
+  m_showOrders->setEnabled(!m_desk.trial());
 }
 
 }  // namespace orb::ui
