@@ -336,7 +336,7 @@ TEST_F(WindowTest, ASelectedReportLineSaysWhyAndUndoTakesAllBack) {
   const QBrush light = report.item(0)->foreground();
   QPalette dark = report.palette();
   dark.setColor(QPalette::Base, Qt::black);
-  report.parentWidget()->setPalette(dark);
+  Find<QWidget>("fraReport").setPalette(dark);
   EXPECT_NE(report.item(0)->foreground(), light) << "it can be read on a dark ground as well";
   EXPECT_NE(Map(), before);
   Trigger("mnuGameUndo");

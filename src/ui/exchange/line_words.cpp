@@ -43,6 +43,7 @@ QString markText(OrderMark mark) {
     case OrderMark::Stopped:
       return QObject::tr("unclear");
     case OrderMark::Otherwise:
+    case OrderMark::Missing:
     case OrderMark::None:
       break;
   }

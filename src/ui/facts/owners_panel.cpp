@@ -6,7 +6,7 @@
 #include "render/qt/painter_surface.h"
 #include "text/qt/text_codec.h"
 
-#include <QPainter>
+#include <QImage>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -19,6 +19,10 @@ using session::Changes;
 OwnersPicture::OwnersPicture(const Desk& desk, QWidget* parent) : QWidget(parent), m_desk(desk) {
   setObjectName(QStringLiteral("picOwners"));
   setAccessibleName(tr("Ownership of supply centres"));
+  // The width alone decides how high the list is; what does not fit is scrolled to.
+  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+  policy.setHeightForWidth(true);
+  setSizePolicy(policy);
   m_desk.whenShownChanged(Changes::Position | Changes::Powers, this, &OwnersPicture::showOwners);
   showOwners();
 }
@@ -36,20 +40,31 @@ void OwnersPicture::showOwners() {
                   .arg(centres.join(QLatin1Char(' ')));
   }
   setAccessibleDescription(groups.join(QLatin1Char('\n')));
+  updateGeometry();
   update();
 }
 
 void OwnersPicture::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
+  paintOwners(painter, size());
+}
+
+int OwnersPicture::heightForWidth(int width) const {
+  QImage scratch(1, 1, QImage::Format_RGB32);
+  QPainter painter(&scratch);
+  return paintOwners(painter, {width, 1});
+}
+
+int OwnersPicture::paintOwners(QPainter& painter, QSize size) const {
   // The drawing knows no themes: it is given the font and the colours of the one in use.
-  render::PainterSurface surface(painter, rect(), QSizeF(size()) * TwipsPerPixel, m_noPictures);
+  render::PainterSurface surface(painter, QRect({}, size), QSizeF(size) * TwipsPerPixel,
+                                 m_noPictures);
   surface.SetPaper(palette().color(QPalette::Base));
   surface.SetFontFamily(font().family());
   surface.FontSize = QFontInfo(font()).pixelSize() * TwipsPerPixel / render::TwipsPerPoint;
   surface.ForeColour = colour::ToColour(palette().color(QPalette::Text));
   const double height = render::ShowCentreOwnership(m_desk.shown().Game, surface) / TwipsPerPixel;
-  // What does not fit is scrolled to; the width alone decides how high the list is.
-  setMinimumHeight(static_cast<int>(std::ceil(height)));
+  return static_cast<int>(std::ceil(height));
 }
 
 OwnersPanel::OwnersPanel(const Desk& desk, QWidget* parent) : QScrollArea(parent) {

@@ -3,6 +3,7 @@
 #include "render/qt/picture_cache.h"
 #include "ui/session/desk.h"
 
+#include <QPainter>
 #include <QScrollArea>
 
 namespace orb::ui {
@@ -15,15 +16,19 @@ class OwnersPicture : public QWidget {
  public:
   explicit OwnersPicture(const Desk& desk, QWidget* parent = nullptr);
 
+  int heightForWidth(int width) const override;
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   void showOwners();
+  /// Lists the owners on a painter of that size; how high the list is, in pixels.
+  int paintOwners(QPainter& painter, QSize size) const;
 
   const Desk& m_desk;
   /// The surface asks for one; nothing here draws a picture of a file.
-  render::PictureCache m_noPictures;
+  mutable render::PictureCache m_noPictures;
 };
 
 /// The supply-centre ownership panel: the picture, scrolled where it is higher than the panel.

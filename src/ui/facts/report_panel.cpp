@@ -2,7 +2,7 @@
 
 #include "text/qt/text_codec.h"
 #include "ui/widgets/controls.h"
-#include "ui/widgets/order_marks.h"
+#include "ui/widgets/hanging_delegate.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -10,6 +10,7 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QScrollArea>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -24,11 +25,23 @@ constexpr int ReasonLines = 4;
 /// Where a line keeps the order that it tells of, as bytes.
 constexpr int OrderRole = OrderMarkRole + 1;
 
+/// The row of the first line that the list shows otherwise or not at all.
+template <class Report>
+int firstOther(const QListWidget& list, const Report& report) {
+  int row = 0;
+  while (row < std::min(list.count(), report.Count()) &&
+         list.item(row)->text() == text::ToQString(report[row + 1])) {
+    ++row;
+  }
+  return row;
+}
+
 }  // namespace
 
 ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
     : QWidget(parent),
       m_desk(desk),
+      m_pages(new QStackedWidget),
       m_differences(new QLabel),
       m_lines(new QListWidget),
       m_reason(new QLabel),
@@ -54,7 +67,7 @@ ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
                                          Qt::LinksAccessibleByKeyboard);
   connect(m_differences, &QLabel::linkActivated, this,
           [this] { emit helpWanted(tr("Differences from the usual rules")); });
-  m_lines->setItemDelegate(new OrderMarkDelegate(m_lines));
+  m_lines->setItemDelegate(new HangingDelegate(m_lines));
   layOut();
   addListActions();
   connect(m_lines, &QListWidget::itemSelectionChanged, this, &ReportPanel::showReason);
@@ -78,7 +91,16 @@ void ReportPanel::layOut() {
     whatIf->setEnabled(m_whatIf->isEnabled());
     whatIf->setToolTip(m_whatIf->toolTip());
   });
-  auto* column = new QVBoxLayout(this);
+  auto* none = new QLabel(tr("No report yet."));
+  none->setForegroundRole(QPalette::PlaceholderText);
+  none->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  none->setMargin(fontMetrics().averageCharWidth());
+  auto* report = new QWidget;
+  m_pages->addWidget(none);
+  m_pages->addWidget(report);
+  (new QVBoxLayout(this))->addWidget(m_pages);
+  layout()->setContentsMargins({});
+  auto* column = new QVBoxLayout(report);
   column->setContentsMargins({});
   column->addWidget(m_differences);
   column->addWidget(m_lines, 1);
@@ -105,7 +127,8 @@ void ReportPanel::addListActions() {
 
 void ReportPanel::startReading() {
   m_lines->setFocus();
-  m_lines->setCurrentRow(0);
+  m_lines->setCurrentRow(m_firstNew);
+  scrollToNew();
 }
 
 void ReportPanel::changeEvent(QEvent* event) {
@@ -117,12 +140,23 @@ void ReportPanel::showReport() {
   // A report that is the same stays as it is, with what is selected in it.
   const auto& report = m_desk.shown().Game.ReportLines;
   const std::string order = currentOrder();
+  const int firstNew = firstOther(*m_lines, report);
   const bool isOther = showTexts(*m_lines, {report.begin(), report.end()});
   showDifferences();
-  if (isOther) select(order);
+  if (isOther) {
+    m_firstNew = firstNew;
+    select(order);
+    // When the panel is in front and has its size.
+    if (currentOrder().empty()) QTimer::singleShot(0, this, &ReportPanel::scrollToNew);
+  }
   colourLines();
   showReason();
-  setVisible(report.Count() > 0);
+  m_pages->setCurrentIndex(report.Count() > 0 ? 1 : 0);
+}
+
+void ReportPanel::scrollToNew() {
+  if (const QListWidgetItem* line = m_lines->item(m_firstNew))
+    m_lines->scrollToItem(line, QAbstractItemView::PositionAtTop);
 }
 
 std::string ReportPanel::currentOrder() const {

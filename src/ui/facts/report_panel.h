@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QListWidget>
+#include <QStackedWidget>
 #include <QWidget>
 
 #include <string>
@@ -14,14 +15,15 @@ namespace orb::ui {
 
 /// The report of the season resolved last, line by line; failed orders are red, those that came out
 /// otherwise than by the other rules are marked. Below it stands why the selected line came out as
-/// it did, and what the other rules would have brought. Hidden as long as there is no report.
+/// it did, and what the other rules would have brought. As long as there is no report it says so.
 class ReportPanel : public QWidget {
   Q_OBJECT
 
  public:
   explicit ReportPanel(const Desk& desk, QWidget* parent = nullptr);
 
-  /// The keyboard goes to the first line, so that the arrow keys lead through the reasons.
+  /// The keyboard goes to the first line that is new, so that the arrow keys lead through the
+  /// reasons.
   void startReading();
 
  signals:
@@ -46,6 +48,8 @@ class ReportPanel : public QWidget {
   void select(const std::string& order);
   /// Whether it can be told what would have changed the selected line, or why not.
   void showWhatIf();
+  /// The first of the lines that were not there before comes to the top.
+  void scrollToNew();
   /// Says above the lines how many orders came out otherwise than by the other rules.
   void showDifferences();
   /// Needed again when the theme changes from light to dark.
@@ -56,10 +60,12 @@ class ReportPanel : public QWidget {
   void copySelectedLines();
 
   const Desk& m_desk;
+  QStackedWidget* m_pages;  ///< without a report, and with one
   QLabel* m_differences;
   QListWidget* m_lines;
   QLabel* m_reason;
   QAction* m_whatIf;
+  int m_firstNew = 0;  ///< row of the first line that the last change brought
 };
 
 }  // namespace orb::ui

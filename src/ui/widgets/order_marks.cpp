@@ -14,30 +14,9 @@ namespace {
 /// The marks are drawn on a field of this many units.
 constexpr double Field = 16;
 
-struct MarkColours {
-  QColor shape;
-  QColor sign;  ///< on the shape
-};
-
-/// Colours that can be made out on the item's background, light, dark or selected.
-MarkColours coloursOf(OrderMark mark, const QStyleOptionViewItem& item) {
-  const QPalette::ColorGroup group =
-      item.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
-  // Neither red nor amber is sure to be visible on the highlight.
-  if (item.state.testFlag(QStyle::State_Selected)) {
-    return {item.palette.color(group, QPalette::HighlightedText),
-            item.palette.color(group, QPalette::Highlight)};
-  }
-  const QColor background = item.palette.color(group, QPalette::Base);
-  switch (mark) {
-    case OrderMark::Doubtful:
-    case OrderMark::Otherwise:
-      return {doubtColour(background), background};
-    case OrderMark::Stopped:
-      return {failureColour(background), background};
-    default:
-      return {item.palette.color(group, QPalette::PlaceholderText), background};
-  }
+void paintRing(QPainter& painter, const MarkColours& colours) {
+  painter.setPen(QPen(colours.shape, 1.4));
+  painter.drawEllipse(QPointF(8, 8), 4.5, 4.5);
 }
 
 void paintTick(QPainter& painter, const MarkColours& colours) {
@@ -71,8 +50,10 @@ void paintStop(QPainter& painter, const MarkColours& colours) {
   painter.drawLine(QPointF(5, 8), QPointF(11, 8));
 }
 
-void paintMark(OrderMark mark, QPainter& painter, const MarkColours& colours) {
+void paintShape(QPainter& painter, OrderMark mark, const MarkColours& colours) {
   switch (mark) {
+    case OrderMark::Missing:
+      return paintRing(painter, colours);
     case OrderMark::Passes:
       return paintTick(painter, colours);
     case OrderMark::Doubtful:
@@ -86,7 +67,56 @@ void paintMark(OrderMark mark, QPainter& painter, const MarkColours& colours) {
   }
 }
 
+/// On an item that may be selected.
+MarkColours coloursOf(OrderMark mark, const QStyleOptionViewItem& item) {
+  const QPalette::ColorGroup group =
+      item.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+  // Neither red nor amber is sure to be visible on the highlight.
+  if (item.state.testFlag(QStyle::State_Selected)) {
+    return {item.palette.color(group, QPalette::HighlightedText),
+            item.palette.color(group, QPalette::Highlight)};
+  }
+  return markColours(mark, item.palette, group);
+}
+
+OrderMark markOf(const QModelIndex& index) {
+  return static_cast<OrderMark>(index.data(OrderMarkRole).toInt());
+}
+
 }  // namespace
+
+MarkColours markColours(OrderMark mark, const QPalette& palette, QPalette::ColorGroup group) {
+  const QColor background = palette.color(group, QPalette::Base);
+  switch (mark) {
+    case OrderMark::Doubtful:
+    case OrderMark::Otherwise:
+      return {doubtColour(background), background};
+    case OrderMark::Stopped:
+      return {failureColour(background), background};
+    default:
+      return {faintColour(palette, group), background};
+  }
+}
+
+void paintMark(QPainter& painter, OrderMark mark, const QRectF& place, const MarkColours& colours) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(Qt::NoBrush);
+  painter.translate(place.topLeft());
+  painter.scale(place.width() / Field, place.height() / Field);
+  paintShape(painter, mark, colours);
+  painter.restore();
+}
+
+QColor faintColour(const QPalette& palette, QPalette::ColorGroup group) {
+  // Of the text's own strength; less could not be read by everybody.
+  constexpr float Strength = 0.65F;
+  const QColor text = palette.color(group, QPalette::Text);
+  const QColor base = palette.color(group, QPalette::Base);
+  const auto mixed = [](float a, float b) { return Strength * a + (1 - Strength) * b; };
+  return QColor::fromRgbF(mixed(text.redF(), base.redF()), mixed(text.greenF(), base.greenF()),
+                          mixed(text.blueF(), base.blueF()));
+}
 
 void OrderMarkDelegate::initStyleOption(QStyleOptionViewItem* option,
                                         const QModelIndex& index) const {
@@ -95,6 +125,10 @@ void OrderMarkDelegate::initStyleOption(QStyleOptionViewItem* option,
   // Makes Qt leave room for an icon; the mark is painted there instead.
   option->features |= QStyleOptionViewItem::HasDecoration;
   option->decorationSize = QSize(side, side);
+  if (markOf(index) == OrderMark::Missing) {
+    for (const auto group : {QPalette::Active, QPalette::Inactive})
+      option->palette.setColor(group, QPalette::Text, faintColour(option->palette, group));
+  }
 }
 
 QSize OrderMarkDelegate::sizeHint(const QStyleOptionViewItem& option,
@@ -111,13 +145,8 @@ void OrderMarkDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
   initStyleOption(&item, index);
   const QStyle* style = item.widget != nullptr ? item.widget->style() : QApplication::style();
   const QRectF place = style->subElementRect(QStyle::SE_ItemViewItemDecoration, &item, item.widget);
-  const auto mark = static_cast<OrderMark>(index.data(OrderMarkRole).toInt());
-  painter->save();
-  painter->setRenderHint(QPainter::Antialiasing);
-  painter->translate(place.topLeft());
-  painter->scale(place.width() / Field, place.height() / Field);
-  paintMark(mark, *painter, coloursOf(mark, item));
-  painter->restore();
+  const OrderMark mark = markOf(index);
+  paintMark(*painter, mark, place, coloursOf(mark, item));
 }
 
 }  // namespace orb::ui
