@@ -52,6 +52,9 @@ struct Entry {
     panel.mapClicked({desk.game(), hitMap, {at.UnitX, at.UnitY}, modifiers});
   }
   std::string Text() const { return text.text().toStdString(); }
+  QListWidget& Open() const {
+    return *panel.template findChild<QListWidget*>(list.objectName() + QStringLiteral("Open"));
+  }
   std::string Missing() const {
     return panel.template findChild<ui::ElidedLabel*>()->text().toStdString();
   }
@@ -170,11 +173,46 @@ TEST(OrderEntry, LinesAreMarkedAndMissingOrdersCounted) {
   EXPECT_EQ(entry.Missing(), "1 unit without an order");
 
   AdjustmentsEntry adjusting(Board("Autumn", "adjustments", {"ENG A(Lvp)", "FRA A(Par)"}));
-  EXPECT_EQ(adjusting.Missing(), "2 powers whose numbers do not fit");
+  EXPECT_EQ(adjusting.Missing(), "Numbers that do not fit: ENG, FRA");
   adjusting.File("ENG disband A(Lvp)");
-  EXPECT_EQ(adjusting.Missing(), "1 power whose numbers do not fit");
+  EXPECT_EQ(adjusting.Missing(), "Numbers that do not fit: FRA");
   adjusting.File("FRA disband A(Par)");
   EXPECT_EQ(adjusting.Missing(), "The numbers of all powers fit");
+}
+
+TEST(OrderEntry, WhatIsOpenStandsBelowTheLinesAndBeginsAnOrder) {
+  OrdersEntry entry(Board("Spring", "moves", {"ENG A(Lvp) hold", "ENG F(Lon)", "FRA A(Par)"}));
+  EXPECT_EQ(entry.list.count(), 1) << "orders alone";
+  entry.list.setFocus();
+  entry.list.setCurrentRow(0);
+  QTest::keyClick(&entry.list, Qt::Key_Down);
+  EXPECT_TRUE(entry.Open().hasFocus());
+  EXPECT_TRUE(entry.list.selectedItems().isEmpty());
+  QTest::keyClick(&entry.Open(), Qt::Key_Return);
+  EXPECT_EQ(entry.Text(), "ENG F(Lon) ");
+  entry.Click("NTH");
+  EXPECT_EQ(entry.Text(), "ENG F(Lon) - NTH ") << "as after a click on the unit";
+  QTest::keyClick(&entry.text, Qt::Key_Return);
+  EXPECT_EQ(entry.Open().count(), 1);
+  entry.panel.showOnly(2);
+  EXPECT_TRUE(entry.list.isRowHidden(0) && entry.list.isRowHidden(1));
+  EXPECT_FALSE(entry.Open().isRowHidden(0));
+  entry.File("par - bur");
+  EXPECT_EQ(entry.list.item(2)->text(), "FRA A(Par) - Bur") << "of the power that is shown";
+  const QSignalSpy other(&entry.panel, &ui::OrderEntryPanel::otherPowerSelected);
+  entry.File("ENG A(Lvp) - Yor");
+  EXPECT_EQ(other.count(), 1) << "what was filed must be seen";
+
+  RetreatsEntry retreating(Board("Spring", "retreats", {"ENG A(Lvp) <Wal", "GER A(Wal)"}));
+  EXPECT_EQ(retreating.Open().item(0)->text(), "ENG A(Lvp) retreat Cly, Edi, Yor or disband");
+  QTest::mouseClick(retreating.Open().viewport(), Qt::LeftButton, {},
+                    retreating.Open().visualItemRect(retreating.Open().item(0)).center());
+  retreating.Click("Yor");
+  EXPECT_EQ(retreating.Text(), "ENG A(Lvp) retreat Yor");
+
+  AdjustmentsEntry adjusting(Board("Autumn", "adjustments", {"ENG A(Lvp)"}));
+  emit adjusting.Open().itemActivated(adjusting.Open().item(0));
+  EXPECT_EQ(adjusting.Text(), "ENG disband ");
 }
 
 TEST(OrderEntry, TheLineAtWhichResolvingStoppedIsShown) {

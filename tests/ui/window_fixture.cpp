@@ -3,6 +3,7 @@
 #include "support/scripted_messages.h"
 #include "ui/modal_script.h"
 
+#include <QCoreApplication>
 #include <QListWidget>
 #include <QTest>
 
@@ -28,6 +29,11 @@ std::vector<std::string> WindowTest::Lines(const char* list) const {
   std::transform(items.begin(), items.end(), std::back_inserter(lines),
                  [](const QListWidgetItem* item) { return item->text().toStdString(); });
   return lines;
+}
+
+QImage WindowTest::Map() const {
+  QCoreApplication::processEvents();
+  return Find<QWidget>("picMap").grab().toImage();
 }
 
 std::string WindowTest::StagePanel() const {

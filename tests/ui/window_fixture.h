@@ -36,7 +36,8 @@ class WindowTest : public testing::Test {
   /// The panels that are shown of those of the four stages.
   std::string StagePanel() const;
 
-  QImage Map() const { return Find<QWidget>("picMap").grab().toImage(); }
+  /// The map as it is drawn once every panel has its place.
+  QImage Map() const;
 
   void Trigger(const char* action) const { Find<QAction>(action).trigger(); }
 

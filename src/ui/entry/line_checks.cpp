@@ -33,10 +33,12 @@ QString missingUnits(std::size_t count, bool dislodged) {
   return count == 0 ? QObject::tr("Every %1 has an order").arg(kind) : countedUnits(count, kind);
 }
 
-QString unfitPowers(std::size_t count) {
-  if (count == 0) return QObject::tr("The numbers of all powers fit");
-  return count == 1 ? QObject::tr("1 power whose numbers do not fit")
-                    : QObject::tr("%1 powers whose numbers do not fit").arg(count);
+QString unfitPowers(const std::vector<adjudication::PowerProblem>& problems) {
+  if (problems.empty()) return QObject::tr("The numbers of all powers fit");
+  QStringList powers;
+  for (const adjudication::PowerProblem& problem : problems)
+    powers << text::ToQString(problem.Power);
+  return QObject::tr("Numbers that do not fit: %1").arg(powers.join(QStringLiteral(", ")));
 }
 
 }  // namespace
@@ -67,7 +69,7 @@ void showMissing(QLabel& label, const ListCheck& check, model::Stage stage) {
     std::vector<std::string> powers;
     for (const adjudication::PowerProblem& problem : check.Powers)
       powers.push_back(problem.Power + ": " + problem.Text);
-    label.setText(unfitPowers(powers.size()));
+    label.setText(unfitPowers(check.Powers));
     label.setToolTip(lines(powers));
   } else {
     label.setText(missingUnits(check.Unordered.size(), stage == model::Stage::Retreats));

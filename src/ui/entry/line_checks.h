@@ -17,8 +17,8 @@ void showMarks(QListWidget& list, const adjudication::ListCheck& check,
                const std::vector<std::string>& otherReadings,
                const std::optional<session::StoppedLine>& stopped);
 
-/// Says how many units, or in the adjustments how many powers, still need orders; the tooltip names
-/// them.
+/// Says how many units still need orders, or in the adjustments which powers; the tooltip names the
+/// units, and says what does not fit.
 void showMissing(QLabel& label, const adjudication::ListCheck& check, model::Stage stage);
 
 }  // namespace orb::ui

@@ -2,7 +2,7 @@
 
 #include "text/qt/text_codec.h"
 #include "ui/entry/line_checks.h"
-#include "ui/widgets/order_marks.h"
+#include "ui/entry/natural_line.h"
 #include "ui/widgets/text_validator.h"
 
 #include <QEvent>
@@ -33,13 +33,11 @@ OrderEntryPanel::OrderEntryPanel(Desk& desk, model::Stage stage, OrderList list,
       m_orders(list),
       m_column(new QVBoxLayout(this)),
       m_grid(new QGridLayout),
-      m_list(new QListWidget),
+      m_whole(new WholeList(texts.list, texts.heading)),
+      m_list(&m_whole->lines()),
       m_missing(new ElidedLabel),
       m_text(new QLineEdit) {
   setObjectName(texts.panel);
-  m_list->setObjectName(texts.list);
-  m_list->setAccessibleName(texts.heading);
-  m_list->setItemDelegate(new OrderMarkDelegate(m_list));
   m_missing->setObjectName(texts.missing);
   m_text->setObjectName(texts.text);
   m_text->setAccessibleName(tr("Order"));
@@ -56,7 +54,7 @@ OrderEntryPanel::OrderEntryPanel(Desk& desk, model::Stage stage, OrderList list,
 void OrderEntryPanel::layOut(const OrderEntryTexts& texts) {
   m_column->setContentsMargins({});
   m_column->addWidget(newHeading(texts.heading));
-  m_column->addWidget(m_list, 1);
+  m_column->addWidget(m_whole, 1);
   m_column->addWidget(m_missing);
   m_column->addLayout(m_grid);
   m_grid->addWidget(m_text, TextRow, 0, 1, GridColumns - 1);
@@ -131,6 +129,11 @@ void OrderEntryPanel::connectControls(const QString& helpTopic) {
   connect(m_list, &QListWidget::itemClicked, this, &OrderEntryPanel::editSelectedOrder);
   connect(m_list, &QListWidget::itemActivated, this, &OrderEntryPanel::editSelectedOrder);
   connect(m_list, &QListWidget::itemSelectionChanged, this, &OrderEntryPanel::tellStatus);
+  connect(m_whole, &WholeList::openChosen, this, [this](const session::OpenOrder& open) {
+    m_text->clear();
+    beginOrder(open);
+  });
+  connect(m_whole, &WholeList::hiddenLineSelected, this, &OrderEntryPanel::otherPowerSelected);
   m_desk.whenChanged(Changes::Season | Changes::Position | Changes::Orders | Changes::Rules, this,
                      &OrderEntryPanel::showLines);
   connect(&m_desk, &Desk::viewChanged, this, &OrderEntryPanel::showLines);
@@ -166,16 +169,19 @@ void OrderEntryPanel::startEntry() {
   focusText();
 }
 
+void OrderEntryPanel::showOnly(int power) {
+  m_power = power;
+  m_whole->showOnly(power);
+}
+
 void OrderEntryPanel::focusText() {
   m_text->setFocus();
   m_text->end(false);
 }
 
 void OrderEntryPanel::focusList() {
-  if (m_list->count() == 0) return;
-  // Upwards from the box, the line that was filed last is next.
-  if (m_list->selectedItems().isEmpty()) m_list->setCurrentRow(m_list->count() - 1);
-  m_list->setFocus();
+  // Upwards from the box, the line that was filed last is next, or else the last one open.
+  m_whole->enter();
 }
 
 std::string OrderEntryPanel::line() const {
@@ -209,6 +215,7 @@ void OrderEntryPanel::markLines() {
   if (m_desk.view().compare) otherReadings = session::OtherReadings(m_desk.now());
   showMarks(*m_list, check, otherReadings, m_desk.now().Stopped);
   showMissing(*m_missing, check, m_stage);
+  m_whole->showStandings(session::StandingsOf(m_desk.now()), m_stage);
   tellStatus();
 }
 
@@ -247,7 +254,7 @@ void OrderEntryPanel::hideEvent(QHideEvent* event) {
 
 void OrderEntryPanel::fileOrder() {
   // A line in which no unit can be recognized is not filed, and stays in the box to be corrected.
-  if (m_desk.fileOrder(line())) {
+  if (m_desk.fileOrder(naturalLine(game(), line(), m_power))) {
     m_list->setCurrentRow(m_list->count() - 1);
     m_text->clear();
   }

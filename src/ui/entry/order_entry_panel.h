@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/entry/whole_list.h"
 #include "ui/map/map_tool.h"
 #include "ui/session/desk.h"
 #include "ui/widgets/controls.h"
@@ -53,6 +54,10 @@ class OrderEntryPanel : public QWidget, public MapTool {
   /// Called when the panel has come up: the keyboard goes to the box, and a new line begins.
   void startEntry();
 
+  /// Only the lines of the power in this row are shown, and lines that name no power are for it; 0:
+  /// all are shown.
+  void showOnly(int power);
+
  signals:
   /// The caption of the help topic that is wanted.
   void helpWanted(const QString& topic);
@@ -62,6 +67,8 @@ class OrderEntryPanel : public QWidget, public MapTool {
 
   /// What would have changed what comes of this order of the moves?
   void whatIfWanted(const std::string& order);
+  /// A line was selected that is of another power than the one shown.
+  void otherPowerSelected();
 
  protected:
   /// One of the lists of order lines in the game.
@@ -92,6 +99,9 @@ class OrderEntryPanel : public QWidget, public MapTool {
 
   /// The next click on the map begins a line.
   virtual void beginLine() {}
+
+  /// Writes the beginning of an order, as a click on its unit would.
+  virtual void beginOrder(const session::OpenOrder& open) { write(open.Begin()); }
 
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
@@ -126,7 +136,8 @@ class OrderEntryPanel : public QWidget, public MapTool {
   OrderList m_orders;
   QVBoxLayout* m_column;
   QGridLayout* m_grid;
-  QListWidget* m_list;
+  WholeList* m_whole;
+  QListWidget* m_list;  ///< of orders alone, in the whole one
   ElidedLabel* m_missing;
   QLineEdit* m_text;
   QPushButton* m_ok;
@@ -137,6 +148,7 @@ class OrderEntryPanel : public QWidget, public MapTool {
   /// The last control of the row of commands, after which the Tab key goes to a further one.
   QWidget* m_lastCommand;
   int m_commandCount = 0;
+  int m_power = 0;  ///< row of the one that is shown alone
 };
 
 }  // namespace orb::ui

@@ -58,4 +58,10 @@ void OrdersPanel::beginLine() {
   m_entry = {};
 }
 
+void OrdersPanel::beginOrder(const session::OpenOrder& open) {
+  // A click that follows tells where the unit goes.
+  m_entry = orders::ClickOrder(game(), {}, open.Location, {});
+  write(m_entry.Text);
+}
+
 }  // namespace orb::ui

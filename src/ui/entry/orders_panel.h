@@ -19,6 +19,7 @@ class OrdersPanel : public OrderEntryPanel {
  protected:
   /// The next click picks a unit, whatever was clicked before.
   void beginLine() override;
+  void beginOrder(const session::OpenOrder& open) override;
 
  private:
   void addCommands();

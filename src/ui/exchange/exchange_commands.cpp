@@ -76,6 +76,7 @@ void ExchangeCommands::pasteOrders() {
 void ExchangeCommands::preview(ExchangeKind kind, session::IncomingText text) {
   ExchangeDialog dialog(m_desk.game(), kind, std::move(text),
                         exchange::ReadTextRepairs(m_desk.dataDirectory()), m_window);
+  dialog.proposePower(m_power);
   connect(&dialog, &ExchangeDialog::helpWanted, this,
           [&](const QString& topic) { emit helpWanted(topic, &dialog); });
   if (dialog.exec() != QDialog::Accepted) return;

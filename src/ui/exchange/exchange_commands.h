@@ -26,6 +26,9 @@ class ExchangeCommands : public QObject {
   void exportOrders();
   void copyOrders();
 
+  /// A pasted text that does not say so has the orders of the power in this row; 0: of none.
+  void expectPower(int power) { m_power = power; }
+
  signals:
   /// Something for the status bar: what was done.
   void noted(const QString& text);
@@ -40,6 +43,7 @@ class ExchangeCommands : public QObject {
   Desk& m_desk;
   model::Messages& m_messages;
   QWidget* m_window;
+  int m_power = 0;
 };
 
 }  // namespace orb::ui

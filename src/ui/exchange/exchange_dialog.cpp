@@ -103,6 +103,12 @@ ExchangeDialog::ExchangeDialog(const model::GameState& game, ExchangeKind kind,
       ->setFocus();
 }
 
+void ExchangeDialog::proposePower(int power) {
+  if (power == 0 || m_power == nullptr || m_power->currentIndex() >= 0) return;
+  m_power->setCurrentIndex(power - 1);
+  m_table->setFocus();
+}
+
 QLayout* ExchangeDialog::newPowerRow(const model::GameState& game) {
   m_power = new QComboBox;
   m_power->setObjectName(QStringLiteral("cboExchangePower"));

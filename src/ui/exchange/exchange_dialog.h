@@ -34,6 +34,9 @@ class ExchangeDialog : public QDialog {
   /// The orders to file.
   std::vector<exchange::ReadLine> orders() const { return m_model.takenLines(); }
 
+  /// The power in this row is chosen where the text does not say whose orders it has; 0: none.
+  void proposePower(int power);
+
   /// Closes the dialog only when there is something to file.
   void accept() override;
 

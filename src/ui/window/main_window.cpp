@@ -7,6 +7,7 @@
 #include "ui/editing/edit_units_panel.h"
 #include "ui/entry/adjustments_panel.h"
 #include "ui/entry/orders_panel.h"
+#include "ui/entry/power_strip.h"
 #include "ui/entry/retreats_panel.h"
 #include "ui/entry/season_finished_panel.h"
 #include "ui/exchange/exchange_commands.h"
@@ -28,6 +29,8 @@
 #include "ui/window/file_menu.h"
 #include "ui/window/game_menu.h"
 #include "ui/window/map_menu.h"
+#include "ui/window/shared_room.h"
+#include "ui/window/side_column.h"
 #include "ui/window/status_line.h"
 #include "ui/window/toolbar.h"
 #include "ui/window/unsaved_work.h"
@@ -35,7 +38,6 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QFile>
-#include <QHBoxLayout>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
@@ -156,29 +158,24 @@ void MainWindow::layOutPanels() {
   m_tabs->addTab(new OwnersPanel(m_desk), tr("Supply &centres"));
   m_tabs->addTab(m_report, tr("Repor&t"));
 
-  m_column = new QWidget;
-  auto* panels = new QVBoxLayout(m_column);
-  panels->setContentsMargins({});
-  panels->setSpacing(Gap);
-  // The panels share one place, above the tabs. The finished season has little to say and leaves
-  // the room to the report.
-  for (QWidget* panel : stagePanels())
-    panels->addWidget(panel, panel == m_seasonFinished ? 0 : panel == m_whatIf ? 6 : 3);
-  panels->addWidget(m_tabs, 2);
-  // As wide as it likes to be; on a small screen it gives way.
-  panels->addItem(new QSpacerItem(ColumnWidth, 0, QSizePolicy::Preferred));
+  m_powers = new PowerStrip(m_desk);
+  for (OrderEntryPanel* panel : {m_orders, m_retreats, m_adjustments})
+    m_powers->lead(*panel);
+  m_column = new SideColumn(m_powers, m_seasonFinished, m_tabs);
+  for (QWidget* panel : stagePanels()) {
+    if (panel != m_seasonFinished) m_column->addPanel(panel);
+  }
 
   auto* desk = new QWidget;
   auto* rows = new QVBoxLayout(desk);
   rows->setContentsMargins(Margin, Margin, Margin, Margin);
   rows->setSpacing(Gap);
-  auto* sides = new QHBoxLayout;
   rows->addWidget(new TrialBanner(m_desk, this));
-  rows->addLayout(sides, 1);
+  m_sides = new SharedRoom(Qt::Horizontal, SharedRoom::Unit::Pixels, ColumnWidth);
+  m_sides->addWidget(m_view);
+  m_sides->addWidget(m_column);
+  rows->addWidget(m_sides, 1);
   rows->addWidget(m_player->bar());
-  sides->setSpacing(Gap);
-  sides->addWidget(m_view, 1);
-  sides->addWidget(m_column);
   setCentralWidget(desk);
 }
 
@@ -187,6 +184,7 @@ void MainWindow::createMenus() {
   connect(m_exports, &ExportCommands::noted, this, &MainWindow::showStatus);
   m_exchange = new ExchangeCommands(m_desk, m_messages, this);
   connect(m_exchange, &ExchangeCommands::noted, this, &MainWindow::showStatus);
+  connect(m_powers, &PowerStrip::powerChosen, m_exchange, &ExchangeCommands::expectPower);
   m_fileMenu = new FileMenu(m_desk, m_messages, m_memory, *m_exports, *m_exchange, this);
   connect(m_fileMenu->animateEntry(), &QAction::triggered, m_player,
           &AnimationPlayer::askAndPlayFiles);
@@ -283,7 +281,7 @@ void MainWindow::showStagePanel() {
   if (editing == Editing::Units) shown = m_editUnits;
   if (editing == Editing::Provinces) shown = m_editProvinces;
   if (m_whatIf->isOpen()) shown = m_whatIf;
-  showInstead(shown);
+  m_column->showInstead(shown);
   // The report is in front as soon as there is one; owners are edited with the list of owners in
   // view.
   m_showsReport = m_desk.shown().Game.ReportLines.Count() > 0;
@@ -303,14 +301,6 @@ void MainWindow::showStagePanel() {
 std::array<QWidget*, 7> MainWindow::stagePanels() const {
   return {m_orders,        m_retreats,       m_adjustments, m_editUnits,
           m_editProvinces, m_seasonFinished, m_whatIf};
-}
-
-/// Never two panels at once: the window would grow to hold them.
-void MainWindow::showInstead(QWidget* shown) {
-  for (QWidget* panel : stagePanels()) {
-    if (panel != shown) panel->hide();
-  }
-  if (shown != nullptr) shown->show();
 }
 
 void MainWindow::showStatus(const QString& text) {
@@ -341,9 +331,9 @@ void MainWindow::showAnimation() {
   // The Map and Help menus stay: they change no game.
   const bool playing = m_player->isOn();
   if (playing) m_desk.endTrial();
-  for (QWidget* control :
-       {static_cast<QWidget*>(m_fileMenu), static_cast<QWidget*>(m_editMenu),
-        static_cast<QWidget*>(m_gameMenu), static_cast<QWidget*>(m_tools), m_column}) {
+  for (QWidget* control : {static_cast<QWidget*>(m_fileMenu), static_cast<QWidget*>(m_editMenu),
+                           static_cast<QWidget*>(m_gameMenu), static_cast<QWidget*>(m_tools),
+                           static_cast<QWidget*>(m_column)}) {
     control->setEnabled(!playing);
   }
   setAcceptDrops(!playing);

@@ -30,8 +30,11 @@ class MapMenu;
 class MapPicture;
 class MapView;
 class OrderEntryPanel;
+class PowerStrip;
 class ReportPanel;
 class SeasonFinishedPanel;
+class SharedRoom;
+class SideColumn;
 class StatusLine;
 class UnsavedWork;
 class WhatIfPanel;
@@ -85,7 +88,6 @@ class MainWindow : public QMainWindow {
   int mapHeight() const;
   void showStagePanel();
   std::array<QWidget*, 7> stagePanels() const;
-  void showInstead(QWidget* shown);
   void showStatus(const QString& text);
   /// Hands the mouse on the map to the panel that is in front.
   void chooseTool();
@@ -107,7 +109,9 @@ class MainWindow : public QMainWindow {
   MapPicture* m_map = nullptr;
   MapView* m_view = nullptr;
   /// The panels at the right, hidden while only the map shows.
-  QWidget* m_column = nullptr;
+  SideColumn* m_column = nullptr;
+  SharedRoom* m_sides = nullptr;
+  PowerStrip* m_powers = nullptr;
   QToolBar* m_tools = nullptr;
   AnimationPlayer* m_player = nullptr;
   // One panel for each stage and for each kind of editing; at most one of them is visible.

@@ -2,6 +2,8 @@
 #include "ui/replay/animation_player.h"
 #include "ui/window/game_menu.h"
 #include "ui/window/main_window.h"
+#include "ui/window/shared_room.h"
+#include "ui/window/side_column.h"
 
 #include <QLayout>
 #include <QScreen>
@@ -18,6 +20,9 @@ constexpr QSize PreferredSize(1280, 800);
 }  // namespace
 
 void MainWindow::restoreSize() {
+  m_sides->setWish(m_memory.wish(WindowMemory::ColumnWidth, m_sides->wish()));
+  SharedRoom& shares = m_column->shares();
+  shares.setWish(m_memory.wish(WindowMemory::FactsShare, shares.wish()));
   // Qt itself moves a window back that would open on a screen that is gone.
   if (restoreGeometry(m_memory.geometry())) return;
   const QSize available = screen()->availableSize();
@@ -33,6 +38,8 @@ void MainWindow::rememberSize() {
   if (narrowed) resize(m_normalWidth, height());
   // Its state, maximized or not, is part of it.
   m_memory.setGeometry(saveGeometry());
+  m_memory.setWish(WindowMemory::ColumnWidth, m_sides->wish());
+  m_memory.setWish(WindowMemory::FactsShare, m_column->shares().wish());
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event) {

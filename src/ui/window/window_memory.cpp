@@ -37,6 +37,15 @@ void WindowMemory::setZoom(std::optional<double> zoom) {
   zoom ? m_store.setValue(Zoom, *zoom) : m_store.remove(Zoom);
 }
 
+int WindowMemory::wish(const char* name, int otherwise) const {
+  const int wish = m_store.value(QLatin1String(name)).toInt();
+  return wish > 0 ? wish : otherwise;
+}
+
+void WindowMemory::setWish(const char* name, int wish) {
+  m_store.setValue(QLatin1String(name), wish);
+}
+
 bool WindowMemory::flag(const QString& name, bool otherwise) const {
   return m_store.value(name, otherwise).toBool();
 }

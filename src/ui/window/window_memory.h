@@ -29,6 +29,15 @@ class WindowMemory {
   std::optional<double> zoom() const;
   void setZoom(std::optional<double> zoom);
 
+  /// Names of wishes: how wide the panels beside the map are, and which part of their height the
+  /// lower ones have.
+  static constexpr const char* ColumnWidth = "window/columnWidth";
+  static constexpr const char* FactsShare = "window/factsShare";
+
+  /// Where the user has put a border, above 0 as SharedRoom counts; as given until it is set.
+  int wish(const char* name, int otherwise) const;
+  void setWish(const char* name, int wish);
+
   /// A choice that is on or off; as given until it is set.
   bool flag(const QString& name, bool otherwise = false) const;
   void setFlag(const QString& name, bool on);

@@ -1,0 +1,52 @@
+#include "ui/window/shared_room.h"
+
+#include <QEvent>
+
+#include <algorithm>
+
+namespace orb::ui {
+namespace {
+
+constexpr int Whole = 1000;
+constexpr int Gap = 12;
+
+}  // namespace
+
+SharedRoom::SharedRoom(Qt::Orientation orientation, Unit unit, int wish)
+    : QSplitter(orientation), m_unit(unit), m_wish(wish) {
+  setChildrenCollapsible(false);
+  setHandleWidth(Gap);
+  connect(this, &QSplitter::splitterMoved, this, &SharedRoom::takeWish);
+}
+
+void SharedRoom::setWish(int wish) {
+  m_wish = wish;
+  share();
+}
+
+bool SharedRoom::event(QEvent* event) {
+  const bool handled = QSplitter::event(event);
+  if (event->type() == QEvent::LayoutRequest) share();
+  return handled;
+}
+
+void SharedRoom::resizeEvent(QResizeEvent* event) {
+  QSplitter::resizeEvent(event);
+  share();
+}
+
+void SharedRoom::takeWish() {
+  const int second = sizes().at(1);
+  m_wish = m_unit == Unit::Pixels ? second : qRound(1.0 * second * Whole / std::max(1, room()));
+}
+
+void SharedRoom::share() {
+  const int second = m_unit == Unit::Pixels ? m_wish : qRound(1.0 * room() * m_wish / Whole);
+  setSizes({std::max(0, room() - second), second});
+}
+
+int SharedRoom::room() const {
+  return (orientation() == Qt::Horizontal ? width() : height()) - handleWidth();
+}
+
+}  // namespace orb::ui

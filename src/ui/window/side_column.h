@@ -1,0 +1,35 @@
+#pragma once
+
+#include "ui/window/shared_room.h"
+
+#include <QVBoxLayout>
+#include <QWidget>
+
+namespace orb::ui {
+
+/// The panels at the right of the map: where the powers stand, the panel of the stage, and below it
+/// what is known of the game. The stage's share of the height is the user's choice.
+class SideColumn : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// `brief` is a panel with so little to say that it leaves the room to the facts.
+  SideColumn(QWidget* powers, QWidget* brief, QWidget* facts);
+
+  /// Adds a panel that is shown in the same place as the other ones.
+  void addPanel(QWidget* panel);
+
+  /// Shows this panel and none of the others; null for none at all.
+  void showInstead(QWidget* shown);
+
+  /// Between the panel and the facts.
+  SharedRoom& shares() { return *m_shares; }
+
+ private:
+  QWidget* m_brief;
+  SharedRoom* m_shares;
+  QWidget* m_place;
+  QVBoxLayout* m_panels;
+};
+
+}  // namespace orb::ui
