@@ -20,7 +20,7 @@ void ReadSituation(std::string_view text) {
 }
 
 void Ask(std::string_view request) {
-  static serve::Server server(ORB_DATA_DIRECTORY);
+  static serve::Server server(ORB_DATA_DIRECTORY, "/nonexistent");
   const std::string answer = server.Answer(request);
   Require(answer.starts_with(R"({"format":"orb","version":1,)") && answer.ends_with("}"),
           "no answer", answer);

@@ -1,8 +1,9 @@
 #include "cli/commands.h"
 #include "cli/delivery.h"
-#include "cli/draw_map.h"
 #include "cli/games.h"
 #include "cli/orders_source.h"
+#include "model/files.h"
+#include "render/map_module.h"
 #include "session/queries.h"
 #include "settings/map_options.h"
 
@@ -75,7 +76,8 @@ int Execute(const CommandLine& line, Console& console) {
                            ? OrdersToDraw(at.Situation, source, at.Paths, at.Messages)
                            : std::vector<orders::OrderOutcome>{};
     DeliverBytes(console, at.Paths.Output,
-                 DrawMap({at.Situation.Game, options, data, width, format, drawn}),
+                 render::DrawMap({at.Situation.Game, options, data, width, format, drawn},
+                                 model::ProgramDirectory()),
                  at.Paths.Existing);
     return true;
   });
@@ -85,10 +87,7 @@ int Execute(const CommandLine& line, Console& console) {
 
 settings::MapMode ModeOf(const CommandLine& line, std::string_view usual) {
   const std::string mode = line.Value(OptionId::Mode).value_or(std::string(usual));
-  if (mode == "colour3d") return settings::MapMode::Colour3D;
-  if (mode == "colour") return settings::MapMode::Colour;
-  if (mode == "grey") return settings::MapMode::Grey;
-  if (mode == "bw") return settings::MapMode::BlackWhite;
+  if (const auto known = settings::MapModeOf(mode)) return *known;
   throw UsageError(std::string(line.Verb->Name) +
                    ": The mode is one of colour3d, colour, grey and bw, not \"" + mode + "\".");
 }

@@ -2,9 +2,10 @@
 
 #include "cli/commands.h"
 #include "cli/delivery.h"
-#include "cli/draw_map.h"
 #include "cli/games.h"
 #include "cli/orders_source.h"
+#include "model/files.h"
+#include "render/map_module.h"
 
 #include <utility>
 
@@ -53,10 +54,12 @@ int Execute(const CommandLine& line, Console& console) {
   const bool done = Attempt(console, output.string(), [&] {
     ExpectNothingToKeep(plan.front());
     const std::vector<pages::Season> seasons = pages::SeasonsOf(std::move(sources));
-    const std::string page = WithSvgMaterial([&](render::SvgMaterial& material) {
-      pages::Maps maps(material, options, data);
-      return pages::SeasonPage(seasons, maps);
-    });
+    const std::string page = render::WithSvgMaterial(
+        [&](render::SvgMaterial& material) {
+          pages::Maps maps(material, options, data);
+          return pages::SeasonPage(seasons, maps);
+        },
+        model::ProgramDirectory());
     DeliverBytes(console, output, page, plan.front().Existing);
     return true;
   });

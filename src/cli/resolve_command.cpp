@@ -192,8 +192,7 @@ int Execute(const CommandLine& line, Console& console) {
 
 session::Rules RulesOf(const CommandLine& line) {
   const std::string rules = line.Value(OptionId::Rules).value_or("orb");
-  if (rules == "orb") return session::Rules::Orb;
-  if (rules == "usual") return session::Rules::Usual;
+  if (const auto known = session::RulesNamed(rules)) return *known;
   throw UsageError("There are no rules \"" + rules + "\": --rules is orb or usual.");
 }
 

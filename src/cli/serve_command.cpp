@@ -3,6 +3,7 @@
 #include "cli/commands.h"
 #include "cli/console.h"
 #include "cli/paths.h"
+#include "model/files.h"
 
 #include <algorithm>
 #include <iostream>
@@ -66,7 +67,7 @@ class LineReader {
 };
 
 int Execute(const CommandLine& line, Console& console) {
-  serve::Server server(DataDirectory(line));
+  serve::Server server(DataDirectory(line), model::ProgramDirectory());
   LineReader lines(std::cin, console);
   while (const auto request = lines.Next()) {
     const std::string answer = request->size() > LongestLine ? serve::Server::TooLong(LongestLine)

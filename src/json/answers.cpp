@@ -1,5 +1,6 @@
 #include "json/answers.h"
 
+#include "json/names.h"
 #include "json/rapid/output.h"
 #include "json/rapid/situation_form.h"
 
@@ -10,28 +11,12 @@
 #include "text/encoding.h"
 
 #include <algorithm>
-#include <array>
 
 namespace orb::json {
 namespace {
 
 using exchange::ReadLine;
 using orders::OrderOutcome;
-
-constexpr std::string_view NameOf(session::Rules rules) {
-  return rules == session::Rules::Orb ? "orb" : "usual";
-}
-
-constexpr std::string_view NameOf(orders::OrderKind kind) {
-  constexpr std::array<std::string_view, 8> names{"none",   "move",    "hold",    "support",
-                                                  "convoy", "retreat", "disband", "build"};
-  return names[static_cast<std::size_t>(kind)];
-}
-
-constexpr std::string_view NameOf(orders::Outcome outcome) {
-  constexpr std::array<std::string_view, 5> names{"entered", "succeeded", "failed", "cut", "void"};
-  return names[static_cast<std::size_t>(outcome)];
-}
 
 /// A text that came from outside, in either encoding.
 void WriteGiven(Output& out, std::string_view name, std::string_view text) {
@@ -165,7 +150,7 @@ std::string Answer(const Heading& heading, bool isDone, const Fill& fill) {
 std::string ResolvedText(const Heading& heading, const Remarks& remarks, const Resolved& resolved) {
   return Answer(heading, resolved.IsDone, [&](Output& out) {
     const session::Situation& after = resolved.After;
-    out.Member("rules", NameOf(after.Rules));
+    out.Member("rules", session::NameOf(after.Rules));
     out.Member("stage", model::StageName(resolved.Stage));
     out.Texts("orders", resolved.Orders);
     WriteRemarks(out, remarks);
@@ -181,7 +166,7 @@ std::string ResolvedText(const Heading& heading, const Remarks& remarks, const R
 
 std::string CheckedText(const Heading& heading, const Remarks& remarks, const Checked& checked) {
   return Answer(heading, true, [&](Output& out) {
-    out.Member("rules", NameOf(checked.Situation.Rules));
+    out.Member("rules", session::NameOf(checked.Situation.Rules));
     out.Member("stage", StageText(checked.Situation.Game));
     WriteRemarks(out, remarks);
     WriteLines(out, checked);
@@ -210,7 +195,7 @@ std::string ListedText(const Heading& heading, const Listed& listed) {
 
 std::string SearchedText(const Heading& heading, const Remarks& remarks, const Searched& searched) {
   return Answer(heading, true, [&](Output& out) {
-    out.Member("rules", NameOf(searched.Question.Before.Rules));
+    out.Member("rules", session::NameOf(searched.Question.Before.Rules));
     WriteRemarks(out, remarks);
     out.Member("order", searched.Question.Order);
     out.Member("reason", searched.Question.Sentence);
@@ -232,6 +217,13 @@ std::string ShownText(const Heading& heading, const NotedMessages& messages,
     });
     out.Key(SituationName);
     WriteSituation(out, game);
+  });
+}
+
+std::string DrawnText(const Heading& heading, std::string_view svg) {
+  return Answer(heading, true, [&](Output& out) {
+    out.Key("svg");
+    out.Utf8(svg);
   });
 }
 

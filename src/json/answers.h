@@ -68,6 +68,9 @@ std::string ListedText(const Heading& heading, const Listed& listed);
 std::string ShownText(const Heading& heading, const NotedMessages& messages,
                       const model::GameState& game);
 
+/// A map, as SVG in UTF-8.
+std::string DrawnText(const Heading& heading, std::string_view svg);
+
 /// Why nothing came of it.
 std::string RefusedText(const Heading& heading, const NotedMessages& messages,
                         std::string_view sentence);

@@ -2,6 +2,8 @@
 
 #include "json/rapid/situation_form.h"
 
+#include "render/map_format.h"
+
 #include <algorithm>
 #include <array>
 
@@ -23,11 +25,29 @@ enum class Member : std::uint8_t {
   Compare,
   Blank,
   Title,
+  Mode,
+  CentreCount,
+  Borders,
+  CentreOwners,
+  Width,
 };
-constexpr std::array<std::string_view, 12> MemberNames{
-    json::FormatName,    json::VersionName, "id",    "command",
-    json::SituationName, "orders",          "rules", "yes",
-    "reasons",           "compare",         "blank", "title"};
+constexpr std::array<std::string_view, 17> MemberNames{json::FormatName,
+                                                       json::VersionName,
+                                                       "id",
+                                                       "command",
+                                                       json::SituationName,
+                                                       "orders",
+                                                       "rules",
+                                                       "yes",
+                                                       "reasons",
+                                                       "compare",
+                                                       "blank",
+                                                       "title",
+                                                       "mode",
+                                                       "centreCount",
+                                                       "borders",
+                                                       "centreOwners",
+                                                       "width"};
 
 using Members = std::uint32_t;
 
@@ -56,6 +76,8 @@ constexpr std::array Commands{
     CommandRow{"next", SetOf(Member::Situation)},
     CommandRow{"possible", SetOf(Member::Situation)},
     CommandRow{"check", SetOf(Member::Situation, Member::Orders, Member::Rules)},
+    CommandRow{"map", SetOf(Member::Situation, Member::Orders, Member::Mode, Member::CentreCount,
+                            Member::Borders, Member::CentreOwners, Member::Width)},
 };
 
 const CommandRow& RowOf(Command command) {
@@ -65,15 +87,18 @@ const CommandRow& RowOf(Command command) {
 Command CommandOf(const Node& node) {
   const auto* const found = std::ranges::find(Commands, node.Utf8(), &CommandRow::Name);
   if (found == Commands.end())
-    node.Refuse("\"new\", \"resolve\", \"next\", \"possible\" or \"check\"");
+    node.Refuse("\"new\", \"resolve\", \"next\", \"possible\", \"check\" or \"map\"");
   return static_cast<Command>(found - Commands.begin());
 }
 
 session::Rules RulesOf(const Node& node) {
-  const std::string_view name = node.Utf8();
-  if (name == "orb") return session::Rules::Orb;
-  if (name == "usual") return session::Rules::Usual;
+  if (const auto rules = session::RulesNamed(node.Utf8())) return *rules;
   node.Refuse("\"orb\" or \"usual\"");
+}
+
+settings::MapMode ModeOf(const Node& node) {
+  if (const auto mode = settings::MapModeOf(node.Utf8())) return *mode;
+  node.Refuse("\"colour3d\", \"colour\", \"grey\" or \"bw\"");
 }
 
 /// Order lines, any text: the checks of the stage say what is wrong with them.
@@ -116,6 +141,21 @@ void TakeMember(Member which, const Node& node, Request& request) {
       return;
     case Member::Title:
       json::TakeStorable(node, request.Title.emplace());
+      return;
+    case Member::Mode:
+      request.Map.Mode = ModeOf(node);
+      return;
+    case Member::CentreCount:
+      request.Map.ShowCentreCount = node.Flag();
+      return;
+    case Member::Borders:
+      request.Map.ColourBordersByOwner = node.Flag();
+      return;
+    case Member::CentreOwners:
+      request.Map.ShowCentreOwners = node.Flag();
+      return;
+    case Member::Width:
+      request.Width = static_cast<int>(node.Whole(1, render::MaxPixelWidth));
       return;
   }
 }

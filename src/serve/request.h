@@ -3,6 +3,7 @@
 #include "json/rapid/input.h"
 
 #include "session/situation.h"
+#include "settings/map_options.h"
 
 #include <cstdint>
 #include <optional>
@@ -11,7 +12,7 @@
 
 namespace orb::serve {
 
-enum class Command : std::uint8_t { New, Resolve, Next, Possible, Check };
+enum class Command : std::uint8_t { New, Resolve, Next, Possible, Check, Map };
 
 /// What is asked for.
 struct Request {
@@ -23,6 +24,8 @@ struct Request {
   bool Yes = false;      ///< the answer to every question
   bool Reasons = false;  ///< why each order came out as it did
   bool Compare = false;  ///< with the other rules
+  settings::MapOptions Map;
+  int Width = 0;  ///< of a map, in pixels; 0: the background's own
 };
 
 /// The id of a request, as JSON: a text or a whole number; empty where there is none.

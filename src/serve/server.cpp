@@ -7,6 +7,7 @@
 #include "model/errors.h"
 #include "model/map_files.h"
 #include "orders/order_list.h"
+#include "render/map_module.h"
 #include "session/commands.h"
 #include "session/queries.h"
 
@@ -58,9 +59,21 @@ std::string Check(const Heading& heading, const Request& request) {
                             session::OtherReadings(request.Situation)});
 }
 
+/// Orders are drawn where they are given: those of a game may be secret.
+std::string Map(const Heading& heading, const Request& request, const std::filesystem::path& data,
+                const std::filesystem::path& modules) {
+  std::vector<orders::OrderOutcome> drawn;
+  if (request.Orders) drawn = session::EnteredOrders(request.Situation);
+  return json::DrawnText(heading,
+                         render::DrawMap({request.Situation.Game, request.Map, data, request.Width,
+                                          render::MapFormat::Svg, std::move(drawn)},
+                                         modules));
+}
+
 }  // namespace
 
-Server::Server(std::filesystem::path dataDirectory) : data_(std::move(dataDirectory)) {}
+Server::Server(std::filesystem::path dataDirectory, std::filesystem::path moduleDirectory)
+    : data_(std::move(dataDirectory)), modules_(std::move(moduleDirectory)) {}
 
 std::string Server::Answer(std::string_view line) {
   std::string id;
@@ -73,7 +86,7 @@ std::string Server::Answer(std::string_view line) {
     request.Situation.Game = model::EmptyGame(map_);
     TakeRequest(document.Root(), request);
     heading.Command = NameOf(request.Command);
-    if (request.Orders) session::ReplaceOrders(request.Situation, std::move(*request.Orders));
+    if (request.Orders) session::ReplaceOrders(request.Situation, *request.Orders);
     switch (request.Command) {
       case Command::New:
         return New(heading, request, data_);
@@ -85,6 +98,8 @@ std::string Server::Answer(std::string_view line) {
         return Possible(heading, request);
       case Command::Check:
         return Check(heading, request);
+      case Command::Map:
+        return Map(heading, request, data_, modules_);
     }
     return {};
   } catch (const std::exception& error) {

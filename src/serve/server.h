@@ -14,8 +14,8 @@ namespace orb::serve {
 /// be asked for.
 class Server {
  public:
-  /// Loads the map and the starting position when they are first needed.
-  explicit Server(std::filesystem::path dataDirectory);
+  /// Loads the map when it is first needed, and the module that draws maps from its directory.
+  Server(std::filesystem::path dataDirectory, std::filesystem::path moduleDirectory);
 
   /// The answer to a request; each is one line without its end. What cannot be done is told in the
   /// answer: nothing is thrown.
@@ -26,6 +26,7 @@ class Server {
 
  private:
   std::filesystem::path data_;
+  std::filesystem::path modules_;
   std::shared_ptr<const model::Map> map_;
 };
 

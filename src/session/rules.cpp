@@ -14,6 +14,17 @@ adjudication::Explain ExplainBy(Rules rules) {
 
 }  // namespace
 
+std::string_view NameOf(Rules rules) {
+  return rules == Rules::Orb ? "orb" : "usual";
+}
+
+std::optional<Rules> RulesNamed(std::string_view name) {
+  for (const Rules rules : {Rules::Orb, Rules::Usual}) {
+    if (name == NameOf(rules)) return rules;
+  }
+  return std::nullopt;
+}
+
 std::string_view RulesName(Rules rules) {
   return rules == Rules::Orb ? "ORB's own rules" : "the usual rules";
 }

@@ -5,6 +5,7 @@
 #include "model/game_state.h"
 #include "model/messages.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,10 @@ enum class Rules : std::uint8_t { Orb, Usual };
 constexpr Rules TheOther(Rules rules) {
   return rules == Rules::Orb ? Rules::Usual : Rules::Orb;
 }
+
+/// As command lines and other programs have them: "orb" or "usual".
+std::string_view NameOf(Rules rules);
+std::optional<Rules> RulesNamed(std::string_view name);
 
 /// "ORB's own rules" or "the usual rules".
 std::string_view RulesName(Rules rules);

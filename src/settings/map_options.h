@@ -1,8 +1,14 @@
 #pragma once
 
+#include <optional>
+#include <string_view>
+
 namespace orb::settings {
 
 enum class MapMode { Colour3D, Colour, Grey, BlackWhite };
+
+/// The mode with this name in command lines and requests: "colour3d", "colour", "grey" or "bw".
+std::optional<MapMode> MapModeOf(std::string_view name);
 
 /// How the map is shown.
 struct MapOptions {

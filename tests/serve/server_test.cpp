@@ -77,7 +77,7 @@ TEST(Server, GivesTheReportReasonsAndGameOfEveryStageOfTheExamples) {
     if (entry.path().extension() == ".orb") games.push_back(entry.path());
   }
   std::ranges::sort(games);
-  serve::Server server(DataDirectory());
+  serve::Server server(DataDirectory(), "/nonexistent");
   int stages = 0;
   for (std::size_t i = 1; i < games.size(); ++i) {
     const auto file = [&](const char* extension) {
@@ -117,6 +117,9 @@ TEST(Server, AnswersEachRequestByItself) {
       {Request("resolve", start, R"~(,"yes":true,"rules":"usual","orders":["FRA A(Par) - Bur"])~"),
        R"~({"power":"FRA","type":"A","location":"Par","order":"move","destination":"Bur","outcome":"succeeded"})~"},
       {Request("resolve", start, R"~(,"yes":true,"compare":true)~"), R"~("differences":[],)~"},
+      {Request("map", start, R"~(,"mode":"grey","width":300)~"),
+       R"~("error":"Maps are drawn by /nonexistent/orbdraw.so, which is missing.")~"},
+      {Request("map", start, R"~(,"width":0)~"), R"~("error":"width: expected a whole number)~"},
       // What is wrong is told under the request's own id, and harms no other.
       {"", R"~("error":"This is no JSON: line 1, column 1:)~"},
       {"[1]", R"~("error":"The whole: expected an object, found an array.")~"},
@@ -132,7 +135,7 @@ TEST(Server, AnswersEachRequestByItself) {
       {Request("resolve", start, R"~(,"orders":["a",1])~"),
        R"~("error":"orders[1]: expected a text, found 1.")~"},
   };
-  serve::Server server(DataDirectory());
+  serve::Server server(DataDirectory(), "/nonexistent");
   for (const auto& [request, part] : cases) {
     const std::string answer = server.Answer(request);
     EXPECT_THAT(answer, HasSubstr(part)) << request.substr(0, 200);

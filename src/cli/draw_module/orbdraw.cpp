@@ -1,5 +1,5 @@
-#include "cli/draw_map.h"
 #include "model/errors.h"
+#include "render/map_module.h"
 #include "render/qt/map_file.h"
 #include "render/qt/qt_svg_material.h"
 
@@ -9,20 +9,28 @@
 
 namespace {
 
+/// Drawing text needs an application object, of which there can be only one: that of the program,
+/// where it has one, else one that stays, since whoever draws a map may draw another. It must not
+/// ask for a display.
+void ExpectApplication() {
+  if (QCoreApplication::instance() != nullptr) return;
+  // What the toolkit has to say about its surroundings is no message of this program.
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  static int argc = 1;
+  static char name[] = "orbdraw";
+  static char* argv[] = {name, nullptr};
+  static const auto* const application = new QGuiApplication(argc, argv);
+  static_cast<void>(application);
+}
+
 /// Makes a file's bytes with the toolkit at hand: false with a sentence for the user where it
 /// throws.
 template <class Work>
 bool WithToolkit(std::string& result, Work work) {
   try {
-    // What the toolkit has to say about its surroundings is no message of this program.
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    // Drawing text needs an application object, and that one must not ask for a display.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    int argc = 1;
-    char name[] = "orbctl";
-    char* argv[] = {name, nullptr};
-    const QGuiApplication application(argc, argv);
-    orb::render::PictureCache pictures;
+    ExpectApplication();
+    static auto& pictures = *new orb::render::PictureCache;
     result = work(pictures);
     return true;
   } catch (const std::exception& failure) {
@@ -34,14 +42,14 @@ bool WithToolkit(std::string& result, Work work) {
 
 }  // namespace
 
-extern "C" bool OrbDrawMap(const orb::cli::MapRequest& request, std::string& result) {
+extern "C" bool OrbDrawMap(const orb::render::MapRequest& request, std::string& result) {
   return WithToolkit(result, [&request](orb::render::PictureCache& pictures) {
     return orb::render::MapBytes(request.Game, request.Options, request.DataDirectory,
                                  request.PixelWidth, pictures, request.Format, request.Orders);
   });
 }
 
-extern "C" bool OrbWithSvgMaterial(const orb::cli::SvgWork& work, std::string& result) {
+extern "C" bool OrbWithSvgMaterial(const orb::render::SvgWork& work, std::string& result) {
   return WithToolkit(result, [&work](orb::render::PictureCache& pictures) {
     orb::render::QtSvgMaterial material(pictures);
     return work(material);

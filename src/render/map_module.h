@@ -11,25 +11,25 @@
 #include <string>
 #include <vector>
 
-namespace orb::cli {
+namespace orb::render {
 
 /// A map to be drawn as a picture. Asking for one needs nothing of the drawing toolkit: a module
-/// beside the program does the drawing and is loaded only then, so the other commands start without
+/// of its own does the drawing and is loaded only then, so the other commands start without
 /// it and run where the toolkit is not installed.
 struct MapRequest {
   const model::GameState& Game;
   settings::MapOptions Options;
   std::filesystem::path DataDirectory;
   int PixelWidth = 0;  ///< 0: the background picture's own
-  render::MapFormat Format;
+  MapFormat Format = MapFormat::Png;
   std::vector<orders::OrderOutcome> Orders;  ///< drawn on the map
 };
 
 /// Work that needs what a vector drawing takes from the drawing toolkit; its result is a file's
 /// bytes.
-using SvgWork = std::function<std::string(render::SvgMaterial& material)>;
+using SvgWork = std::function<std::string(SvgMaterial& material)>;
 
-/// The name of the module's file, in the directory of the program.
+/// The name of the module's file, which lies with the programs.
 constexpr const char* DrawModule = "orbdraw.so";
 
 /// The names of its functions. `result` is the file's bytes, or a sentence for the user where that
@@ -39,14 +39,15 @@ using DrawFunction = bool(const MapRequest& request, std::string& result);
 constexpr const char* SvgFunctionName = "OrbWithSvgMaterial";
 using SvgFunction = bool(const SvgWork& work, std::string& result);
 
-/// Loads the module and lets it draw: the bytes of the picture. Throws FatalError.
-std::string DrawMap(const MapRequest& request);
+/// Loads the module from its directory and lets it draw: the bytes of the picture. Throws
+/// FatalError.
+std::string DrawMap(const MapRequest& request, const std::filesystem::path& moduleDirectory);
 
-/// Loads the module and does the work with what it gives: its result. Throws FatalError, also for
-/// what the work throws.
-std::string WithSvgMaterial(const SvgWork& work);
+/// The same for work that is done with what the module gives: its result. Throws FatalError, also
+/// for what the work throws.
+std::string WithSvgMaterial(const SvgWork& work, const std::filesystem::path& moduleDirectory);
 
-}  // namespace orb::cli
+}  // namespace orb::render
 
-extern "C" orb::cli::DrawFunction OrbDrawMap;
-extern "C" orb::cli::SvgFunction OrbWithSvgMaterial;
+extern "C" orb::render::DrawFunction OrbDrawMap;
+extern "C" orb::render::SvgFunction OrbWithSvgMaterial;
