@@ -86,8 +86,9 @@ std::string Maps::Definitions() const {
 std::string Maps::Json(Point fraction) const {
   // Whole pixels, since JSON knows no numbers that begin with a dot.
   const auto pixels = [](double length) { return std::to_string(std::lround(length)); };
-  return "[" + pixels(fraction.X * MapWidth) + "," +
-         pixels(fraction.Y * MapWidth * size_.Y / size_.X) + "]";
+  std::string point("[");
+  point.append(pixels(fraction.X * MapWidth)).append(",");
+  return point.append(pixels(fraction.Y * MapWidth * size_.Y / size_.X)).append("]");
 }
 
 std::string Maps::UnitPoint(const model::Map& map, std::string_view location) const {
@@ -113,7 +114,7 @@ std::string Maps::Places(const model::Map& map) const {
     }
     places.push_back(JsonText(place.Name).append(":{").append(Joined(members)).append("}"));
   }
-  return "{" + Joined(places) + "}";
+  return std::string("{").append(Joined(places)).append("}");
 }
 
 }  // namespace orb::pages
