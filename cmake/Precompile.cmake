@@ -44,8 +44,10 @@ set(widgetHeaders ${drawingHeaders} <QAction> <QApplication> <QCheckBox> <QClipb
 set(testHeaders ${standardHeaders} <map> <random> <set> <sstream> <gmock/gmock.h> <gtest/gtest.h>)
 
 orb_precompiled(orb_standard_headers HEADERS ${standardHeaders})
-orb_precompiled(orb_drawing_headers LINK Qt6::Gui HEADERS ${standardHeaders} ${drawingHeaders})
-orb_precompiled(orb_widgets_headers LINK Qt6::Widgets HEADERS ${standardHeaders} ${widgetHeaders})
+if(ORB_WINDOW)
+  orb_precompiled(orb_drawing_headers LINK Qt6::Gui HEADERS ${standardHeaders} ${drawingHeaders})
+  orb_precompiled(orb_widgets_headers LINK Qt6::Widgets HEADERS ${standardHeaders} ${widgetHeaders})
+endif()
 if(ORB_BUILD_TESTS)
   orb_precompiled(orb_test_headers LINK GTest::gmock OPTIONS ${ORB_TEST_OPTIONS} HEADERS ${testHeaders})
 endif()

@@ -80,15 +80,16 @@ class ExampleGame : public testing::Test {
 
 TEST_F(ExampleGame, GivesTheFilesThatLieBesideTheOrders) {
   ASSERT_NO_FATAL_FAILURE(Play());
-  std::set<std::string> expected = FileNames(directory_.Path());
+  const std::set<std::string> expected = FileNames(directory_.Path());
   for (const std::string& name : expected) {
     EXPECT_EQ(model::ReadFile(directory_.Path() / name), model::ReadFile(Examples() / name))
         << "examples/" << name;
   }
   EXPECT_EQ(orders_.size(), 13U);
-  expected.merge(orders_);
-  expected.insert({"README.md", "replay"});
-  EXPECT_EQ(FileNames(Examples()), expected);
+  // What somebody who tries the program out leaves in the folder is none of the game's files.
+  const std::set<std::string> there = FileNames(Examples());
+  for (const std::string& name : orders_)
+    EXPECT_TRUE(there.contains(name)) << name;
 }
 
 /// What no report of the example can or does show is left to the drawn cases.

@@ -42,6 +42,7 @@ constexpr Command Commands[] = {
     {"new --blank --title T -o @moves.orb", "", ""},
     {"resolve --yes --in-place @moves.orb", "moves.orb", "stdout"},
     {"resolve --yes -o @out.orb --report @r.txt --reasons @w.txt @moves.orb", "out.orb", "r.txt"},
+    {"next --no-clobber -o @fresh.orb @done.orb", "", ""},
     {"next --in-place @done.orb", "", ""},
     {"undo --yes -o @back.orb @done.orb", "", ""},
     {"map -o @map.bmp @done.orb", "", ""},
@@ -49,7 +50,7 @@ constexpr Command Commands[] = {
     {"map -o @map.png --width 300 @done.orb", "", ""},
     {"map -o @map.pdf @done.orb", "", ""},
 };
-constexpr std::size_t QuickCommands = 6;
+constexpr std::size_t QuickCommands = 7;
 
 /// Each starts a window, which takes its time.
 constexpr Command WindowCommands[] = {

@@ -1,0 +1,31 @@
+# Decides what is built besides the programs. What was asked for by ON must be there; AUTO says what
+# is missing and goes on without.
+function(orb_decide variable what packages)
+  set(wanted "${${variable}}")
+  set(there ON)
+  foreach(package ${ARGN})
+    if("${wanted}" STREQUAL "AUTO")
+      find_package(${package} QUIET)
+    elseif(wanted)
+      find_package(${package} REQUIRED)
+    endif()
+    if(NOT ${package}_FOUND)
+      set(there OFF)
+    endif()
+  endforeach()
+  if("${wanted}" STREQUAL "AUTO" AND NOT there)
+    message(STATUS "${what} are left out: their packages (Debian: ${packages}) are missing")
+    set(wanted OFF)
+  endif()
+  # Beside the entry of the cache, which keeps what the user asked for.
+  set(${variable} "${wanted}" PARENT_SCOPE)
+endfunction()
+
+if(ORB_WINDOW)
+  orb_decide(ORB_BUILD_TESTS "The tests" "libgtest-dev, libgmock-dev" GTest Qt6Test)
+  orb_decide(ORB_BUILD_BENCH "The benchmarks" "libbenchmark-dev" benchmark)
+else()
+  # They use the window and what draws maps.
+  set(ORB_BUILD_TESTS OFF)
+  set(ORB_BUILD_BENCH OFF)
+endif()
