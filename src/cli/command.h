@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace orb::cli {
@@ -41,6 +42,10 @@ bool Knows(const Command& command, OptionId id);
 
 /// All commands, in the order of the help.
 std::span<const Command* const> AllCommands();
+
+/// The abbreviation of the power that the command line names; empty without the option. Throws
+/// UsageError.
+std::string PowerOf(const CommandLine& line);
 
 /// The mode of the map that the command line chooses, or else the usual one. Throws UsageError.
 settings::MapMode ModeOf(const CommandLine& line, std::string_view usual);

@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::array Commands{&NewCommand,     &ResolveCommand, &NextCommand, &UndoCommand,
                               &CheckCommand,   &WhatIfCommand,  &ShowCommand, &MapCommand,
-                              &PublishCommand, &ServeCommand};
+                              &PublishCommand, &SheetCommand,   &ServeCommand};
 
 }  // namespace
 

@@ -15,6 +15,7 @@ extern const Command WhatIfCommand;
 extern const Command ShowCommand;
 extern const Command MapCommand;
 extern const Command PublishCommand;
+extern const Command SheetCommand;
 extern const Command ServeCommand;
 
 }  // namespace orb::cli

@@ -49,6 +49,7 @@ enum class OptionId : std::uint8_t {
   FilesFrom,
   Output,
   InPlace,
+  Mail,
   Data,
   Encoding,
   Help,

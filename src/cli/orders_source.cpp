@@ -1,5 +1,6 @@
 #include "cli/orders_source.h"
 
+#include "cli/command.h"
 #include "model/country.h"
 #include "model/files.h"
 #include "session/commands.h"
@@ -23,6 +24,16 @@ std::vector<std::string> OrderLines(std::string_view text) {
   return lines;
 }
 
+std::string PowerOf(const CommandLine& line) {
+  if (!line.Has(OptionId::Power)) return {};
+  std::string power = text::UpperCase(*line.Value(OptionId::Power));
+  if (model::FindCountry(power) == 0) {
+    throw UsageError("\"" + *line.Value(OptionId::Power) +
+                     "\" is not a power: --power takes ENG, FRA, GER, RUS, TUR, AUS or ITA.");
+  }
+  return power;
+}
+
 OrdersSource::OrdersSource(const CommandLine& line) : isLoose_(line.Has(OptionId::Loose)) {
   if (isLoose_ && !line.Has(OptionId::Orders)) {
     throw UsageError("--loose reads orders files: --orders PATH is missing.");
@@ -35,11 +46,7 @@ OrdersSource::OrdersSource(const CommandLine& line) : isLoose_(line.Has(OptionId
   }
   if (!line.Has(OptionId::Power)) return;
   if (!isLoose_) throw UsageError("--power goes with --loose.");
-  power_ = text::UpperCase(*line.Value(OptionId::Power));
-  if (model::FindCountry(power_) == 0) {
-    throw UsageError("\"" + *line.Value(OptionId::Power) +
-                     "\" is not a power: --power takes ENG, FRA, GER, RUS, TUR, AUS or ITA.");
-  }
+  power_ = PowerOf(line);
 }
 
 std::vector<exchange::ReadLine> OrdersSource::Take(session::Situation& situation,

@@ -72,7 +72,8 @@ enum class Doubtful : std::uint8_t { LeftOut, Accepted };
 
 /// The orders in a text as people write it take the place of the stage's list. Returns the lines
 /// that were left out: those that are unclear, and those that are doubtful unless they are
-/// accepted. How slips of the pen in the others were read is shown.
+/// accepted. How slips of the pen in the others were read is shown, and where it is of an order
+/// sheet for another game, season or power.
 std::vector<exchange::ReadLine> ReplaceOrdersByText(Situation& situation, std::string_view text,
                                                     const exchange::ReadingOptions& options,
                                                     Doubtful doubtful, model::Messages& messages);

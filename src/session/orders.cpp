@@ -1,3 +1,4 @@
+#include "orders/exchange/check_line.h"
 #include "orders/exchange/order_files.h"
 #include "orders/order_list.h"
 #include "session/commands.h"
@@ -26,6 +27,9 @@ void ReplaceOrders(Situation& situation, std::vector<std::string> lines) {
 std::vector<exchange::ReadLine> ReplaceOrdersByText(Situation& situation, std::string_view text,
                                                     const exchange::ReadingOptions& options,
                                                     Doubtful doubtful, model::Messages& messages) {
+  for (const std::string& warning : exchange::SheetWarnings(situation.Game, text, options.Power)) {
+    messages.Show(warning, model::Icon::Exclamation);
+  }
   std::vector<exchange::ReadLine> lines = exchange::ReadOrders(situation.Game, text, options);
   if (doubtful == Doubtful::Accepted) exchange::AcceptDoubtful(lines);
   ReplaceOrders(situation, {});

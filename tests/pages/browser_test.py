@@ -95,6 +95,92 @@ def check_printed_page(browser, page):
     check(count == 4, f"{count} sheets for three seasons and the chart")
 
 
+# A stage that is ordered by tapping: the game, the power, what is tapped, and the lines that must come of it. A word in
+# capitals after ":" is a button.
+STAGES = (
+    ("1901-1-spring-0-start.orb", "FRA",
+     ("Par", "Bur", "Mar", ":Support", "Par", "Bur", "Bre", ":Move", "MAO"),
+     ("FRA A(Par) - Bur", "FRA A(Mar) S A(Par) - Bur", "FRA F(Bre) - MAO")),
+    ("1902-2-autumn-1-moves.orb", "FRA", ("Bel", "Ruh"), ("FRA A(Bel) retreat Ruh",)),
+    ("1902-2-autumn-2-retreats.orb", "GER", ("Kie", ":F(Kie)", "Ber", ":A(Ber)"), ("GER build F(Kie)", "GER build A(Ber)")),
+    ("1902-2-autumn-2-retreats.orb", "FRA", ("Mar",), ("FRA disband A(Mar)",)),
+)
+
+
+def tried(game, *orders):
+    """What the program makes of orders: its report, and what it has to say about them."""
+    done = subprocess.run([ORBCTL, "--data", DATA, "resolve", "--try", *map(str, orders), str(game)], capture_output=True)
+    return done.stdout, done.stderr.decode("latin-1")
+
+
+def check_sheet(browser, folder, width, stage):
+    game, power, taps, lines = stage
+    sheet = folder / "sheet.html"
+    # A sheet for all has a chooser; one for a single power has none.
+    own = () if width < 600 else ("--power", power)
+    orbctl("sheet", *own, "--mail", "gm@example.org", "-o", sheet, EXAMPLES / game)
+    browser.open(sheet, width)
+    browser.script("localStorage.clear(); location.reload()")
+    time.sleep(0.5)
+    if not own:
+        browser.script("const p = document.getElementById('power'); p.value = arguments[0]; p.dispatchEvent(new Event('change'))", power)
+    check(browser.script("return document.documentElement.scrollWidth <= innerWidth"), f"the sheet scrolls sideways at {width}")
+    for tap in taps:
+        if tap.startswith(":"):
+            found = browser.script(
+                "const b = Array.from(document.querySelectorAll('#actions button')).find(b => b.textContent === arguments[0]); if (b) b.click(); return !!b", tap[1:])
+            check(found, f"no button {tap[1:]} in {game}: " + browser.script("return document.getElementById('steps').innerText"))
+        else:
+            browser.tap_place(tap)
+    text = browser.script("return document.getElementById('result').value")
+    for line in lines:
+        check(line in text.split("\n"), f"{line} is not in: {text}")
+    check(browser.script("return document.querySelectorAll('.drawn path').length") > 0, "nothing is drawn")
+    check_tree(browser.tree())
+    mail = browser.script("return decodeURIComponent(document.getElementById('mail').href)")
+    check(mail.startswith("mailto:gm@example.org?subject=") and lines[0] in mail, f"the mail is {mail}")
+
+    # What was entered is still there when the page is opened again.
+    browser.script("location.reload()")
+    time.sleep(0.5)
+    if not own:
+        browser.script("const p = document.getElementById('power'); p.value = arguments[0]; p.dispatchEvent(new Event('change'))", power)
+    check(browser.script("return document.getElementById('result').value") == text, "the sheet forgets")
+    check(browser.complaints() == [], f"the browser complains: {browser.complaints()}")
+
+    # The program reads just these orders, without a word.
+    (folder / "pasted.txt").write_text(text)
+    (folder / "exact.txt").write_text("\n".join(lines) + "\n")
+    pasted = tried(EXAMPLES / game, "--loose", "--orders", folder / "pasted.txt")
+    exact = tried(EXAMPLES / game, "--orders", folder / "exact.txt")
+    check(pasted == exact, f"read as {pasted}, not {exact}")
+
+
+def check_sheet_by_lists(browser, folder):
+    """Without the map: a list for each unit; what does not fit is said at once."""
+    sheet = folder / "sheet.html"
+    orbctl("sheet", "--power", "FRA", "-o", sheet, EXAMPLES / "1901-1-spring-0-start.orb")
+    browser.open(sheet, 1280)
+    said = browser.script("""
+        localStorage.clear();
+        const choose = (unit, order) => {
+          const select = document.querySelector(`select[data-key=${unit}]`);
+          select.value = order;
+          select.dispatchEvent(new Event("change"));
+        };
+        choose("Mar", "S A(Par) - Bur");
+        choose("Par", "hold");
+        return document.getElementById("doubts").innerText;""")
+    check("No order yet: F(Bre)." in said and "A(Mar) matches nothing" in said, f"the doubts are: {said}")
+
+    # Read for another season or power, the sheet itself is doubted.
+    text = browser.script("return document.getElementById('result').value")
+    (folder / "pasted.txt").write_text(text)
+    _, said = tried(EXAMPLES / "1902-1-spring-0-start.orb", "--loose", "--power", "GER", "--orders", folder / "pasted.txt")
+    check("The order sheet of FRA is of Spring 1901; the game is in Spring 1902." in said, f"said: {said}")
+    check("The order sheet is of FRA, not of GER." in said, f"said: {said}")
+
+
 def main():
     browser = Browser()
     try:
@@ -105,6 +191,10 @@ def main():
                 check_season_page_at(browser, page, width)
             check_season_page_without_scripts(browser, page)
             check_printed_page(browser, page)
+            for width in (360, 1280):
+                for stage in STAGES:
+                    check_sheet(browser, folder, width, stage)
+            check_sheet_by_lists(browser, folder)
     finally:
         browser.close()
 

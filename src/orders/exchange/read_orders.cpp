@@ -3,6 +3,7 @@
 #include "model/errors.h"
 #include "orders/exchange/asides.h"
 #include "orders/exchange/cells.h"
+#include "orders/exchange/check_line.h"
 #include "orders/exchange/contradictions.h"
 #include "orders/exchange/exact_line.h"
 #include "orders/exchange/line_kinds.h"
@@ -363,7 +364,8 @@ std::vector<ReadLine> ReadOrders(const model::GameState& game, std::string_view 
                             " characters; this one has " + std::to_string(text.size()) + ".");
   }
   const PlaceNames& names = PlaceNamesOf(game.Map);
-  std::deque<SourceLine> cut = CutText(text, options.Repairs, names);
+  const std::string orders = WithoutCheckLines(text);
+  std::deque<SourceLine> cut = CutText(orders, options.Repairs, names);
   KnownGame known(game, names, game.Stage);
   std::vector<ReadLine> lines = TextReader(known, options).Read(cut);
   LearnMoves(lines, known);

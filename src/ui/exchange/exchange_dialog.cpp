@@ -1,6 +1,7 @@
 #include "ui/exchange/exchange_dialog.h"
 
 #include "model/messages.h"
+#include "orders/exchange/check_line.h"
 #include "text/qt/text_codec.h"
 #include "ui/exchange/exchange_summary.h"
 #include "ui/exchange/exchange_table.h"
@@ -54,9 +55,11 @@ ExchangeDialog::ExchangeDialog(const model::GameState& game, ExchangeKind kind,
                                std::vector<exchange::TextRepair> repairs, QWidget* parent)
     : QDialog(parent),
       m_game(game),
+      m_text(text.Text),
       m_model(game, std::move(text.Text), std::move(repairs), nullptr),
       m_table(new ExchangeTable(m_model, this)),
       m_summary(new ExchangeSummary(this)),
+      m_sheet(newLabel(QStringLiteral("lblExchangeSheet"))),
       m_noOrders(new QCheckBox(tr("&Show lines that are no orders"))),
       m_reason(newLabel(QStringLiteral("lblExchangeReason"))),
       m_result(newLabel(QStringLiteral("lblExchangeResult"))) {
@@ -67,6 +70,7 @@ ExchangeDialog::ExchangeDialog(const model::GameState& game, ExchangeKind kind,
   m_table->setObjectName(QStringLiteral("tblExchange"));
   m_table->setAccessibleName(tr("Lines of the text"));
   m_noOrders->setObjectName(QStringLiteral("chkExchangeNoOrders"));
+  m_sheet->setWordWrap(true);
   m_reason->setWordWrap(true);
   // Room for the longest reason: the table must not jump while the user goes through it. Where
   // there is little room at all, the table needs it more.
@@ -78,6 +82,7 @@ ExchangeDialog::ExchangeDialog(const model::GameState& game, ExchangeKind kind,
   auto* column = new QVBoxLayout(this);
   if (!text.Mails.empty()) column->addWidget(newMailsLabel(text.Mails));
   if (pasting) column->addLayout(newPowerRow(game));
+  column->addWidget(m_sheet);
   column->addWidget(m_summary);
   column->addWidget(m_table, 1);
   column->addWidget(m_reason);
@@ -159,8 +164,21 @@ void ExchangeDialog::choosePower() {
   m_table->finishEditing();
   if (m_power != nullptr) m_model.setPower(m_power->currentData().toByteArray().toStdString());
   m_table->selectFirst();
+  showSheet();
   showNumbers();
   showReason();
+}
+
+/// What speaks against the text as a whole, in bold: everything else in it may look right.
+void ExchangeDialog::showSheet() {
+  QStringList warnings;
+  for (const std::string& warning : exchange::SheetWarnings(m_game, m_text, m_model.power()))
+    warnings << text::ToQString(warning);
+  QFont bold = font();
+  bold.setBold(true);
+  m_sheet->setFont(bold);
+  m_sheet->setText(warnings.join(QLatin1Char('\n')));
+  m_sheet->setVisible(!warnings.isEmpty());
 }
 
 void ExchangeDialog::showNumbers() {

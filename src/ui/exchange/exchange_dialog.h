@@ -50,16 +50,19 @@ class ExchangeDialog : public QDialog {
   void wantHelp();
   void choosePower();
   // What the labels say follows every change of the model and of the current line.
+  void showSheet();
   void showNumbers();
   bool isPowerChosen() const;
   QString resultText() const;
   void showReason();
 
   const model::GameState& m_game;
+  std::string m_text;
   ExchangeModel m_model;
   ExchangeTable* m_table;
   QComboBox* m_power = nullptr;  ///< only when pasting
   ExchangeSummary* m_summary;
+  QLabel* m_sheet;  ///< shown where the text is of another game's or season's order sheet
   QCheckBox* m_noOrders;
   QLabel* m_reason;
   QLabel* m_result;
