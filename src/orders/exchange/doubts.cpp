@@ -129,7 +129,9 @@ std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceName
   for (std::size_t at = 0; at < remark.size();) {
     const Token& token = remark[at];
     const bool isWord = token.Kind == TokenKind::Word;
-    if (IsDoubtfulSign(token)) return TokenRange{at, at + 1};
+    // Behind an order this is an outcome.
+    const bool isOutcome = IsWord(token, "dislodged");
+    if (IsDoubtfulSign(token) || isOutcome) return TokenRange{at, at + 1};
     if (!isWord || IsNumber(token) || HasUse(token, WordUse::Filler)) {
       ++at;
       continue;

@@ -17,8 +17,8 @@ constexpr std::array<std::string_view, 19> BlockTags{
 constexpr std::array<std::string_view, 12> InlineTags{"b",    "i", "em", "strong", "u",    "span",
                                                       "font", "a", "td", "th",     "code", "o:p"};
 
-constexpr std::array<std::string_view, 7> ForumTags{"b",    "i",    "u",    "color",
-                                                    "size", "font", "quote"};
+constexpr std::array<std::string_view, 12> ForumTags{
+    "b", "i", "u", "color", "size", "font", "quote", "code", "list", "center", "spoiler", "pre"};
 
 template <std::size_t Count>
 bool IsOneOf(std::string_view name, const std::array<std::string_view, Count>& names) {
@@ -120,6 +120,10 @@ void DropTags(PlainText& line) {
       const std::size_t end = line.Text.find_first_of(" /=>]", start);
       name = text::LowerCase(std::string_view(line.Text).substr(start, end - start));
     }
+    // "[I mean Pic]" is no tag, though it begins as one.
+    const std::size_t behind = at + 1 + name.size() + (line.Text[at + 1] == '/' ? 1 : 0);
+    if (isForum && !name.empty() && line.Text[behind] != ']' && line.Text[behind] != '=')
+      name.clear();
     const bool isBlock = !isForum && IsOneOf(name, BlockTags);
     if (!isBlock && !(isForum ? IsOneOf(name, ForumTags) : IsOneOf(name, InlineTags))) {
       text += line.Text[at];

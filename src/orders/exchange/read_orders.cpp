@@ -12,6 +12,7 @@
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/quotations.h"
 #include "orders/exchange/rows.h"
+#include "orders/exchange/sayings.h"
 #include "orders/exchange/segments.h"
 #include "orders/exchange/shared_words.h"
 #include "orders/exchange/slips.h"
@@ -232,7 +233,12 @@ class TextReader {
     }
     const bool isBehindOrders = rows_.Around.IsInBlock();
     rows_.Around.EndLine(first, holdsOrders, line.Bytes.empty(), rows_.Lines);
-    if (holdsOrders) return rows_.DoubtRemarks(line, first);
+    if (holdsOrders) {
+      if (const auto at = FindSaying(line.All, Saying::Gives)) {
+        rows_.Around.SetDoubtFrom(first, Quoted(line.Part(*at)) + " sets it aside", line.Span(*at));
+      }
+      return rows_.DoubtRemarks(line, first);
+    }
     const bool isHeading = rows_.Lines.back().Kind == LineKind::Heading;
     if (line.IsTooLong || line.All.empty() || isHeading) return;
     if (isMailHead_) return LookAtSubject(line, first);

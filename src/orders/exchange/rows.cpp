@@ -13,6 +13,26 @@ namespace {
 /// How many words and signs a greeting before an order has at most: "Hi Tom, A Par - Bur".
 constexpr std::size_t LongestGreeting = 4;
 
+bool NamesPlace(Tokens words, const PlaceNames& names) {
+  for (std::size_t at = 0; at < words.size(); ++at) {
+    if (!names.At(words, at).empty()) return true;
+  }
+  return false;
+}
+
+/// Whether what is not understood in the line of an order may put that order right, "correction:
+/// Pic", "to Pic", as it begins none of its own.
+bool IsLoose(Tokens words, const PlaceNames& names) {
+  constexpr std::ptrdiff_t few = 5;
+  const auto isVerb = [](const Token& token) { return VerbOf(token) != Verb::None; };
+  const auto verb = std::ranges::find_if(words, isVerb);
+  return std::ranges::count(words, TokenKind::Word, &Token::Kind) <= few &&
+         (verb == words.end() || verb == words.begin() || !NamesPlace(words, names)) &&
+         std::ranges::none_of(words, [](const Token& token) {
+           return UnitTypeOf(token) != 0 && (token.Capital || token.Text.size() > 1);
+         });
+}
+
 /// Whether words before an order are a title of it: "Orders of Turkey, with love: the".
 bool IsTitle(Tokens words, int power) {
   const auto last = std::find_if_not(words.rbegin(), words.rend(), [](const Token& token) {
@@ -70,6 +90,11 @@ void Rows::AddPart(const SourceLine& line, TokenRange range, const PartRead& par
   if (part.IsRemark) return AddRemark(range, part.Sentence);
   const bool isNone = part.Kind == LineKind::NotUnderstood &&
                       IsNoOrder(line.Part(range), known_.Names, inSignature_);
+  const bool isLoose =
+      part.Kind == LineKind::NotUnderstood && IsLoose(line.Part(range), known_.Names);
+  if (isLoose && !understood_.empty()) {
+    remarks_.push_back({range, understood_.back().Sentence, understood_.back().Row});
+  }
   if (!isNone) return AddOnly(line, range, part, context);
   Add(line, line.Span(range), LineKind::PassedOver, context.Power);
   AddRemark(range, part.Sentence);
@@ -185,6 +210,7 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
 /// all.
 bool Rows::SpeaksOf(const SourceLine& line, const Said& said, const Understood& order) const {
   if (order.Sentence != said.Sentence) return false;
+  if (said.Row) return order.Row == *said.Row;
   const auto isBefore = [&](const Understood& other) { return other.At.End <= said.At.Begin; };
   const auto isBehind = [&](const Understood& other) { return other.At.Begin >= said.At.End; };
   const Understood* before = nullptr;
@@ -209,6 +235,9 @@ bool Rows::SpeaksOf(const SourceLine& line, const Said& said, const Understood& 
 /// False where there are none.
 bool Rows::Exclude(const SourceLine& line, const Said& said) {
   bool excludes = false;
+  const auto next = std::ranges::find(understood_, said.At.End,
+                                      [](const Understood& order) { return order.At.Begin; });
+  if (next == understood_.end()) return false;
   std::size_t end = line.All.size();
   for (const Said& other : remarks_) {
     // An "and" alone goes on.

@@ -5,6 +5,7 @@
 #include "orders/exchange/surroundings.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -41,7 +42,9 @@ class Rows {
                const Context& context);
 
   /// Words of the line beside its orders, in the sentence that begins at a token.
-  void AddRemark(TokenRange range, std::size_t sentence) { remarks_.push_back({range, sentence}); }
+  void AddRemark(TokenRange range, std::size_t sentence) {
+    remarks_.push_back({range, sentence, {}});
+  }
 
   /// What the line says next to its orders may change each order of the same sentence; where that
   /// has none, each of the line, whose rows begin at `first`.
@@ -67,6 +70,7 @@ class Rows {
   struct Said {
     TokenRange At;
     std::size_t Sentence;
+    std::optional<std::size_t> Row;  ///< of the only order that it may be about
   };
 
   ReadLine& Add(const SourceLine& line, Span place, LineKind kind, int power);

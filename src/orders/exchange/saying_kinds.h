@@ -9,6 +9,7 @@ namespace orb::exchange {
 enum class Saying : std::uint8_t {
   Revokes,     ///< takes back those above
   Postpones,   ///< puts them off, or leaves them open
+  Gives,       ///< gives an example
   Asks,        ///< asks whether they are right, or what somebody thinks of them
   Titles,      ///< sets aside those below, even without a colon
   Corrects,    ///< says that those below hold rather than those above

@@ -71,7 +71,9 @@ constexpr std::array Rows{
         "felejtsd*|ervenytelen|zertoval*|zapomen*|zrus*|neplati|shutka|shutil*|zabud*|"
         "otmen*|xechna|ksechna|plaka kano|astei*"},
     Row{Saying::Postpones,
-        "=let me know|not process|dont process|not use|dont use|not enter|dont enter|not file|"
+        "=let me know|=ask first|=check|=verify|1st choice|2nd choice|first choice|second choice|"
+        "he wants|she wants|they want|promised by|suggested by|proposed by|not process|dont "
+        "process|not use|dont use|not enter|dont enter|not file|"
         "dont file|not submit|dont submit|not final|arent final|isnt final|not yet|"
         "not my final|not the final|wait for my|wait for the final|wait for final|"
         "wait until|hold off|will follow|orders to follow|tentative|tentatively|"
@@ -150,6 +152,10 @@ constexpr std::array Rows{
         "nem biztos|meg gondol*|navrh|potvrdim|jeste ne|jeste to|rozmyslim|premyslim|"
         "jen pokud|pouze pokud|nejsem si jist*|chernovik|esche ne|podtverzh*|tolko esli|"
         "prosxedio|protasi"},
+    Row{Saying::Gives,
+        "z . b|p . ex|e . g|t . ex|f . eks|eg|zb|bv|np|zum beispiel|par exemple|por ejemplo|"
+        "por exemplo|per esempio|bijvoorbeeld|for eksempel|till exempel|na przyklad|"
+        "esimerkiksi|peldaul|napriklad|for example|for instance"},
     Row{Saying::Asks,
         "=thoughts|=opinions|what do you think|what do you reckon|what you "
         "reckon|would that work|"
@@ -227,6 +233,7 @@ bool IsStem(std::string_view word) {
 }
 
 bool Matches(const Token& token, std::string_view word) {
+  if (word == ".") return IsA(token, TokenKind::Dot);
   if (!IsStem(word)) return IsWord(token, word);
   word.remove_suffix(1);
   return IsA(token, TokenKind::Word) && std::string_view(token.Text).starts_with(word);

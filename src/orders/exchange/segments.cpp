@@ -86,10 +86,13 @@ bool Speaks(Tokens sentence, const PlaceNames& names) {
   const bool reconsiders =
       sentence.size() <= few && Reconsiders(sentence) && !HoldsOrderWords(sentence, names);
   if (IsOfOthers(sentence)) return false;
+  // "Yesterday." alone speaks of the order, among others of something else.
+  const bool isBrief = sentence.size() <= few;
   return ReadAside(sentence) || reconsiders ||
-         std::ranges::any_of(sentence, [](const Token& token) {
+         std::ranges::any_of(sentence, [&](const Token& token) {
            return IsDoubtfulSign(token) ||
-                  HasUse(token, WordUse::Condition, WordUse::Aside, WordUse::SetsAside);
+                  HasUse(token, WordUse::Condition, WordUse::Aside, WordUse::SetsAside) ||
+                  (isBrief && HasUse(token, WordUse::Elsewhere));
          });
 }
 

@@ -160,20 +160,23 @@ constexpr std::array Uses{
              "szkic rascunho vorlaufig provisoire provvisorio provisorio voorlopig "
              "preliminar forelopig ergebnisse ergebnis resultats risultati resultados uitslag "
              "resultat resultater wyniki"},
-    UseWords{
-        WordUse::Elsewhere,
-        "original originally intended wanted planned fallback backup "
-        "contingency plans trial practice theoretical hypothetically joke dream other was were had "
-        "before formerly comparison record vorschlag alternativ alternative alternativplan "
-        "alte alten bisherige bisherigen ungultig vergleich plane vorhatte wollte gestern "
-        "letzter letzten letztes proposition anciens ancien precedent precedents precedente "
-        "confirmer voulais propuesta anterior anteriores confirmar ejemplo ayer proposta "
-        "precedenti vecchi vecchio confermare esempio ieri volevo quero antigas antigo passado "
-        "exemplo ontem voorstel oude gisteren bevestigen forslag udkast sidste gamle eksempel "
-        "forrige igar gamla exempel forra bekraftat propozycja poprzednia poprzednie stare "
-        "przyklad wczoraj potwierdzenia ehdotus luonnos vanhat esimerkki javaslat tervezet "
-        "regi navrh stare predchozi chernovik primer staryi nachster nachste prochain proximo "
-        "prossimo volgende naste neste nasta nastepna"},
+    UseWords{WordUse::Elsewhere,
+             "original originally intended wanted planned fallback backup contingency plans trial "
+             "practice theoretical hypothetically joke dream other was were had before formerly "
+             "comparison record vorschlag alternativ alternative alternativplan alte alten "
+             "bisherige bisherigen ungultig vergleich plane vorhatte wollte gestern letzter "
+             "letzten letztes proposition anciens ancien precedent precedents precedente confirmer "
+             "voulais propuesta anterior anteriores confirmar ejemplo ayer proposta precedenti "
+             "vecchi vecchio confermare esempio ieri volevo quero antigas antigo passado exemplo "
+             "ontem voorstel oude gisteren bevestigen forslag udkast sidste gamle eksempel forrige "
+             "igar gamla exempel forra bekraftat propozycja poprzednia poprzednie stare przyklad "
+             "wczoraj potwierdzenia ehdotus luonnos vanhat esimerkki javaslat tervezet regi navrh "
+             "predchozi chernovik primer staryi nachster nachste prochain proximo prossimo "
+             "volgende naste neste nasta nastepna yesterday bounced failed fails illegal "
+             "impossible unmoglich impossibile imposible jokes blague broma scherzo grapje spog "
+             "skamt zart vitsi vicc vtip scherz alt edit edited morgen demain manana domani amanha "
+             "imorgon jutro huomenna holnap zitra spater tard later dopo luego depois senere "
+             "senare pozniej succeeds succeeded dislodged cut wants"},
     UseWords{WordUse::Heading,
              "orders order for from of the my our your here are is follow follows following "
              "these as below in and spring autumn fall winter summer season year turn phase "
