@@ -7,6 +7,7 @@
 #include "ui/window_fixture.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
@@ -306,6 +307,37 @@ TEST_F(WindowTest, AMailIsNamedAboveItsOrders) {
   const ModalScript answers({FileChosen(Shown(file)), accept});
   Trigger("mnuFileImportOrders");
   EXPECT_THAT(Lines("lstOrders"), ElementsAre("FRA A(Par) - Bur"));
+}
+
+TEST_F(WindowTest, ThePowerOfASenderIsRememberedUntilItIsUnticked) {
+  if (!std::filesystem::exists(model::ProgramDirectory() / "orbmail.so")) {
+    GTEST_SKIP() << "built without GMime";
+  }
+  // Orders of two powers, so that the text names none.
+  const auto copyMail = [](const QString& sender) {
+    QApplication::clipboard()->setText(QStringLiteral("From: ") + sender +
+                                       QStringLiteral("\nSubject: Spring\nMessage-ID: <1@x>\n\n"
+                                                      "FRA A(Par) - Bur\nGER A(Mun) - Ruh\n"));
+  };
+  const auto paste = [&](const QString& sender, const QString& offered, bool tick) {
+    copyMail(sender);
+    const auto see = [&](QDialog& dialog) {
+      const Preview preview(dialog);
+      auto* power = dialog.findChild<QComboBox*>(QStringLiteral("cboExchangePower"));
+      auto* remember = dialog.findChild<QCheckBox*>(QStringLiteral("chkExchangeRemember"));
+      ASSERT_NE(remember, nullptr);
+      EXPECT_EQ(power->currentText(), offered) << sender.toStdString();
+      EXPECT_EQ(remember->isChecked(), !offered.isEmpty());
+      preview.Choose("Germany");
+      remember->setChecked(tick);
+      preview.ok.click();
+    };
+    const ModalScript answers({see});
+    Trigger("mnuEditPasteOrders");
+  };
+  paste("Tom <tom@example.org>", "", true);
+  paste("T. Baker <TOM@example.org>", "Germany", false);
+  paste("tom@example.org", "", false);
 }
 
 TEST_F(WindowTest, TextsThatCannotBeReadAreRefused) {

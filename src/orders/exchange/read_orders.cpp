@@ -9,6 +9,7 @@
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/markup.h"
 #include "orders/exchange/order_part.h"
+#include "orders/exchange/paragraphs.h"
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/quotations.h"
 #include "orders/exchange/rows.h"
@@ -45,7 +46,7 @@ class TextReader {
     for (std::size_t at = 0; at < text.size();) {
       if (text[at].Bytes == TextSeparator) StartAnew();
       SourceLine joined;
-      const std::size_t count = JoinParagraph(text, at, joined);
+      const std::size_t count = JoinParagraph(text, at, known_, context_, joined);
       Take(count > 1 ? joined : text[at]);
       for (std::size_t i = 1; i < count; ++i)
         rows_.AddLine(text[at + i], context_.Power, LineKind::PassedOver);
@@ -83,38 +84,6 @@ class TextReader {
     ReadLineOf(line);
     LookAround(line, before);
     if (before > 0 && before + 1 == rows_.Lines.size()) CheckGoesOn(rows_.Lines[before - 1], line);
-  }
-
-  /// How many lines from one on are a paragraph that gives more orders as a whole than line by
-  /// line; 1, and nothing is joined, where it does not.
-  std::size_t JoinParagraph(const std::deque<SourceLine>& text, std::size_t first,
-                            SourceLine& joined) const {
-    constexpr std::size_t longest = 8;
-    std::size_t count = 1;
-    std::size_t size = text[first].Bytes.size();
-    while (count < longest && first + count < text.size() &&
-           MayGoOn(text[first + count - 1], text[first + count])) {
-      size += 1 + text[first + count++].Bytes.size();
-    }
-    if (count == 1 || size > LineBound) return 1;
-    JoinLines(joined, text, first, count, known_.Names);
-    const std::size_t whole = CountOrders(joined);
-    std::size_t single = 0;
-    for (std::size_t i = 0; i < count && single < whole; ++i)
-      single += CountOrders(text[first + i]);
-    return single < whole ? count : 1;
-  }
-
-  std::size_t CountOrders(const SourceLine& line) const {
-    std::size_t orders = 0;
-    Context context = context_;
-    const TokenRange all{PastLineStart(line.All), line.All.size()};
-    for (const TokenRange segment : Split(line.All, all, Seam::Semicolon)) {
-      const PartsRead parts = ReadSegment(line.All, segment, known_, context, inSignature_);
-      orders += static_cast<std::size_t>(
-          std::ranges::count_if(parts, [](const auto& part) { return IsUnderstood(part.second); }));
-    }
-    return orders;
   }
 
   void StartAnew() {

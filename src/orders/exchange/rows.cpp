@@ -33,6 +33,29 @@ bool IsLoose(Tokens words, const PlaceNames& names) {
          });
 }
 
+/// Whether words right before an order only wish for it, or name whose it is: "For the opening
+/// season I should like the", "okay so this is Italy um orders for spring the".
+bool IsOpening(Tokens words, const PlaceNames& names, int power) {
+  const auto last = std::find_if_not(words.rbegin(), words.rend(), [](const Token& token) {
+    return HasUse(token, WordUse::Filler) && !HasUse(token, WordUse::Wish);
+  });
+  if (last == words.rend()) return false;
+  const bool leads =
+      HasUse(*last, WordUse::Wish, WordUse::Season, WordUse::Orders) || IsWord(*last, "that");
+  const int named = PowerIn(words);
+  const bool wishes = std::ranges::any_of(words, [](const Token& token) {
+    return HasUse(token, WordUse::Wish) && token.Text.size() > 2 && !IsWord(token, "have");
+  });
+  const bool isOpen = std::ranges::any_of(words, [](const Token& token) {
+    const bool isPolite = IsWord(token, "should") || IsWord(token, "could");
+    return (HasUse(token, WordUse::Condition) && !isPolite) || IsDoubtfulSign(token) ||
+           HasUse(token, WordUse::Aside, WordUse::SetsAside, WordUse::Elsewhere) ||
+           HasUse(token, WordUse::Report, WordUse::Reservation);
+  });
+  const bool isOwn = named == power || (named == 0 && wishes);
+  return leads && isOwn && !isOpen && !ReadAside(words) && !NamesPlace(words, names);
+}
+
 /// Whether words before an order are a title of it: "Orders of Turkey, with love: the".
 bool IsTitle(Tokens words, int power) {
   const auto last = std::find_if_not(words.rbegin(), words.rend(), [](const Token& token) {
@@ -279,6 +302,9 @@ bool Rows::IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const
   }
   const Tokens remark = line.Part(said.At);
   if (IsAddress(remark, said.At.Begin == 0, power) || IsTitle(remark, power)) return false;
+  const bool isFirst = std::ranges::all_of(
+      understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
+  if (isFirst && IsOpening(remark, known_.Names, power)) return false;
   // Before an order such words put it in the place of another one, behind it another in its place.
   const bool isBefore = std::ranges::any_of(
       understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });

@@ -71,7 +71,9 @@ constexpr std::array Rows{
         "felejtsd*|ervenytelen|zertoval*|zapomen*|zrus*|neplati|shutka|shutil*|zabud*|"
         "otmen*|xechna|ksechna|plaka kano|astei*"},
     Row{Saying::Postpones,
-        "=let me know|=ask first|=check|=verify|1st choice|2nd choice|first choice|second choice|"
+        "ideal world|perfect world|in theory|ideally|one day|some day|eventually|"
+        "in the long run|in my dreams|=let me know|=ask first|=check|=verify|1st choice|2nd "
+        "choice|first choice|second choice|"
         "he wants|she wants|they want|promised by|suggested by|proposed by|not process|dont "
         "process|not use|dont use|not enter|dont enter|not file|"
         "dont file|not submit|dont submit|not final|arent final|isnt final|not yet|"

@@ -55,55 +55,6 @@ void CutLine(SourceLine& line, std::string_view bytes, std::size_t offset,
   PartGluedTypes(line.All, names);
 }
 
-bool MayGoOn(const SourceLine& line, const SourceLine& next) {
-  // Shorter lines are broken on purpose.
-  constexpr std::size_t shortest = 24;
-  if (line.IsTooLong || next.IsTooLong || line.All.empty() || next.All.empty()) return false;
-  if (line.Plain.Text.size() < shortest) return false;
-  const Token& last = line.All.back();
-  const Token& first = next.All.front();
-  const bool isOpen = IsA(last, TokenKind::Word) || IsA(last, TokenKind::Dash) ||
-                      IsA(last, TokenKind::Comma) || IsA(last, TokenKind::Close);
-  const bool isClosed =
-      IsA(first, TokenKind::Open) && ClosingBracket(next.All, 0) < next.All.size();
-  const bool begins = isClosed || (IsA(first, TokenKind::Word) && !IsNumber(first));
-  if (!isOpen || !begins || next.Plain.Text.find_first_of(">|") == 0) return false;
-  const bool isSmall = IsA(first, TokenKind::Word) && !first.Capital;
-  return isSmall || HasUse(last, WordUse::Filler) || VerbOf(last) != Verb::None ||
-         IsWord(last, "of") || IsWord(last, "in") || IsWord(last, "from") || IsWord(last, "at") ||
-         IsWord(last, "and") || IsA(first, TokenKind::Open);
-}
-
-void JoinLines(SourceLine& joined, const std::deque<SourceLine>& text, std::size_t first,
-               std::size_t count, const PlaceNames& names) {
-  const SourceLine& begin = text[first];
-  const SourceLine& end = text[first + count - 1];
-  joined.Number = begin.Number;
-  joined.Offset = begin.Offset;
-  joined.Bytes = {
-      begin.Bytes.data(),
-      static_cast<std::size_t>(end.Bytes.data() - begin.Bytes.data()) + end.Bytes.size()};
-  PlainText& plain = joined.Plain;
-  for (std::size_t i = first; i < first + count; ++i) {
-    const PlainText& next = text[i].Plain;
-    const std::size_t size = plain.Text.size();
-    const auto isLetter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
-    const bool isParted = size > 1 && plain.Text.back() == '-' && isLetter(plain.Text[size - 2]) &&
-                          next.Text[0] >= 'a' && next.Text[0] <= 'z';
-    if (isParted) {
-      plain.Text.pop_back();
-      plain.Origins.pop_back();
-    } else if (size > 0) {
-      plain.Text += ' ';
-      plain.Origins.push_back({text[i].Offset, 0});
-    }
-    plain.Text += next.Text;
-    plain.Origins.insert(plain.Origins.end(), next.Origins.begin(), next.Origins.end());
-  }
-  joined.All = CutTokens(plain.Text);
-  PartGluedTypes(joined.All, names);
-}
-
 std::deque<SourceLine> CutText(std::string_view text, std::span<const TextRepair> repairs,
                                const PlaceNames& names) {
   std::deque<SourceLine> lines;

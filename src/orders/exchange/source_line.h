@@ -42,15 +42,6 @@ struct SourceLine {
 void CutLine(SourceLine& line, std::string_view bytes, std::size_t offset,
              std::span<const TextRepair> repairs, const PlaceNames& names);
 
-/// Whether the second of two lines that follow each other may go on with the sentence of the first:
-/// mail programs and editors break long ones.
-bool MayGoOn(const SourceLine& line, const SourceLine& next);
-
-/// Some lines that follow each other as one, with the number of the first. A word that was parted
-/// at the end of a line is whole again.
-void JoinLines(SourceLine& joined, const std::deque<SourceLine>& text, std::size_t first,
-               std::size_t count, const PlaceNames& names);
-
 /// The lines of a text.
 std::deque<SourceLine> CutText(std::string_view text, std::span<const TextRepair> repairs,
                                const PlaceNames& names);

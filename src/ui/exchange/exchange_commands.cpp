@@ -53,8 +53,13 @@ QString countedOrders(int count) {
 
 }  // namespace
 
-ExchangeCommands::ExchangeCommands(Desk& desk, model::Messages& messages, QWidget* window)
-    : QObject(window), m_desk(desk), m_messages(messages), m_window(window) {}
+ExchangeCommands::ExchangeCommands(Desk& desk, model::Messages& messages,
+                                   const fs::path& configDirectory, QWidget* window)
+    : QObject(window),
+      m_desk(desk),
+      m_messages(messages),
+      m_senders(configDirectory),
+      m_window(window) {}
 
 void ExchangeCommands::importOrders() {
   const auto file = askOrdersToImport(m_window, m_desk.game());
@@ -75,7 +80,7 @@ void ExchangeCommands::pasteOrders() {
 
 void ExchangeCommands::preview(ExchangeKind kind, session::IncomingText text) {
   ExchangeDialog dialog(m_desk.game(), kind, std::move(text),
-                        exchange::ReadTextRepairs(m_desk.dataDirectory()), m_window);
+                        exchange::ReadTextRepairs(m_desk.dataDirectory()), m_senders, m_window);
   dialog.proposePower(m_power);
   connect(&dialog, &ExchangeDialog::helpWanted, this,
           [&](const QString& topic) { emit helpWanted(topic, &dialog); });

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "ui/exchange/exchange_dialog.h"
+#include "ui/exchange/sender_powers.h"
 #include "ui/session/desk.h"
 
 #include <QObject>
 
+#include <filesystem>
 #include <string>
 
 namespace orb::ui {
@@ -18,8 +20,9 @@ class ExchangeCommands : public QObject {
   Q_OBJECT
 
  public:
-  /// Dialogs come up over the window.
-  ExchangeCommands(Desk& desk, model::Messages& messages, QWidget* window);
+  /// Dialogs come up over the window. What the user has remembered lies in the directory.
+  ExchangeCommands(Desk& desk, model::Messages& messages,
+                   const std::filesystem::path& configDirectory, QWidget* window);
 
   void importOrders();
   void pasteOrders();
@@ -42,6 +45,7 @@ class ExchangeCommands : public QObject {
 
   Desk& m_desk;
   model::Messages& m_messages;
+  SenderPowers m_senders;
   QWidget* m_window;
   int m_power = 0;
 };

@@ -52,12 +52,14 @@ QLabel* newMailsLabel(const std::vector<session::MailHead>& mails) {
 
 ExchangeDialog::ExchangeDialog(const model::GameState& game, ExchangeKind kind,
                                session::IncomingText text,
-                               std::vector<exchange::TextRepair> repairs, QWidget* parent)
+                               std::vector<exchange::TextRepair> repairs, SenderPowers& senders,
+                               QWidget* parent)
     : QDialog(parent),
       m_game(game),
       m_text(text.Text),
       m_model(game, std::move(text.Text), std::move(repairs), nullptr),
       m_table(new ExchangeTable(m_model, this)),
+      m_senders(senders),
       m_summary(new ExchangeSummary(this)),
       m_sheet(newLabel(QStringLiteral("lblExchangeSheet"))),
       m_noOrders(new QCheckBox(tr("&Show lines that are no orders"))),
@@ -81,7 +83,7 @@ ExchangeDialog::ExchangeDialog(const model::GameState& game, ExchangeKind kind,
 
   auto* column = new QVBoxLayout(this);
   if (!text.Mails.empty()) column->addWidget(newMailsLabel(text.Mails));
-  if (pasting) column->addLayout(newPowerRow(game));
+  if (pasting) column->addLayout(newPowerRow(game, text.Mails));
   column->addWidget(m_sheet);
   column->addWidget(m_summary);
   column->addWidget(m_table, 1);
@@ -114,7 +116,8 @@ void ExchangeDialog::proposePower(int power) {
   m_table->setFocus();
 }
 
-QLayout* ExchangeDialog::newPowerRow(const model::GameState& game) {
+QLayout* ExchangeDialog::newPowerRow(const model::GameState& game,
+                                     const std::vector<session::MailHead>& mails) {
   m_power = new QComboBox;
   m_power->setObjectName(QStringLiteral("cboExchangePower"));
   m_power->setPlaceholderText(tr("Choose a power"));
@@ -125,6 +128,7 @@ QLayout* ExchangeDialog::newPowerRow(const model::GameState& game) {
   // The mail itself mostly says whose orders it has.
   const QByteArray named = QByteArray::fromStdString(m_model.powerOfText());
   m_power->setCurrentIndex(named.isEmpty() ? -1 : m_power->findData(named));
+  offerSender(mails);
   connect(m_power, &QComboBox::currentIndexChanged, this, &ExchangeDialog::choosePower);
 
   auto* label = new QLabel(tr("&Power whose orders these are:"));
@@ -132,8 +136,29 @@ QLayout* ExchangeDialog::newPowerRow(const model::GameState& game) {
   auto* row = new QHBoxLayout;
   row->addWidget(label);
   row->addWidget(m_power);
+  if (m_remember != nullptr) row->addWidget(m_remember);
   row->addStretch(1);
   return row;
+}
+
+/// What is remembered of the sender stands in for a power that the text does not name. Who takes
+/// the tick away has it forgotten.
+void ExchangeDialog::offerSender(const std::vector<session::MailHead>& mails) {
+  for (const session::MailHead& mail : mails) {
+    const QString address = SenderPowers::addressOf(mail.Sender);
+    if (&mail != mails.data() && address != m_sender) return m_sender.clear();
+    m_sender = address;
+  }
+  if (m_sender.isEmpty()) return;
+  const int remembered = m_power->findData(m_senders.power(m_sender));
+  // An ampersand would mark a key.
+  QString shown = m_sender;
+  shown.replace(QLatin1Char('&'), QStringLiteral("&&"));
+  m_remember = new QCheckBox(tr("&Remember it for %1").arg(shown));
+  m_remember->setObjectName(QStringLiteral("chkExchangeRemember"));
+  m_remember->setToolTip(tr("Offers this power for the next mail from there, until you untick it"));
+  m_remember->setChecked(remembered >= 0);
+  if (m_power->currentIndex() < 0) m_power->setCurrentIndex(remembered);
 }
 
 QLayout* ExchangeDialog::newButtonRow() {
@@ -242,7 +267,12 @@ void ExchangeDialog::showReason() {
 
 void ExchangeDialog::accept() {
   m_table->finishEditing();
-  if (m_ok->isEnabled()) QDialog::accept();
+  if (!m_ok->isEnabled()) return;
+  if (m_remember != nullptr) {
+    const QByteArray power = m_power->currentData().toByteArray();
+    m_senders.setPower(m_sender, m_remember->isChecked() ? power : QByteArray());
+  }
+  QDialog::accept();
 }
 
 }  // namespace orb::ui

@@ -2,6 +2,7 @@
 
 #include "session/incoming_text.h"
 #include "ui/exchange/exchange_model.h"
+#include "ui/exchange/sender_powers.h"
 #include "ui/widgets/controls.h"
 
 #include <QCheckBox>
@@ -28,8 +29,9 @@ class ExchangeDialog : public QDialog {
 
  public:
   /// The game must outlive the dialog.
+  /// `senders`: whose powers are offered and remembered.
   ExchangeDialog(const model::GameState& game, ExchangeKind kind, session::IncomingText text,
-                 std::vector<exchange::TextRepair> repairs, QWidget* parent);
+                 std::vector<exchange::TextRepair> repairs, SenderPowers& senders, QWidget* parent);
 
   /// The orders to file.
   std::vector<exchange::ReadLine> orders() const { return m_model.takenLines(); }
@@ -45,7 +47,8 @@ class ExchangeDialog : public QDialog {
   void helpWanted(const QString& topic);
 
  private:
-  QLayout* newPowerRow(const model::GameState& game);
+  QLayout* newPowerRow(const model::GameState& game, const std::vector<session::MailHead>& mails);
+  void offerSender(const std::vector<session::MailHead>& mails);
   QLayout* newButtonRow();
   void wantHelp();
   void choosePower();
@@ -61,6 +64,9 @@ class ExchangeDialog : public QDialog {
   ExchangeModel m_model;
   ExchangeTable* m_table;
   QComboBox* m_power = nullptr;  ///< only when pasting
+  SenderPowers& m_senders;
+  QString m_sender;                 ///< the address that all the mails come from, or empty
+  QCheckBox* m_remember = nullptr;  ///< only where there is one
   ExchangeSummary* m_summary;
   QLabel* m_sheet;  ///< shown where the text is of another game's or season's order sheet
   QCheckBox* m_noOrders;

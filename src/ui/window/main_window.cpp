@@ -182,7 +182,7 @@ void MainWindow::layOutPanels() {
 void MainWindow::createMenus() {
   m_exports = new ExportCommands(m_desk, m_messages, this);
   connect(m_exports, &ExportCommands::noted, this, &MainWindow::showStatus);
-  m_exchange = new ExchangeCommands(m_desk, m_messages, this);
+  m_exchange = new ExchangeCommands(m_desk, m_messages, m_places.config, this);
   connect(m_exchange, &ExchangeCommands::noted, this, &MainWindow::showStatus);
   connect(m_powers, &PowerStrip::powerChosen, m_exchange, &ExchangeCommands::expectPower);
   m_fileMenu = new FileMenu(m_desk, m_messages, m_memory, *m_exports, *m_exchange, this);
