@@ -18,14 +18,16 @@ bool MayGoOn(const SourceLine& line, const SourceLine& next) {
   const Token& first = next.All.front();
   const bool isOpen = IsA(last, TokenKind::Word) || IsA(last, TokenKind::Dash) ||
                       IsA(last, TokenKind::Comma) || IsA(last, TokenKind::Close);
+  // "[20:02] Ines:" and "[x]" begin lines of their own.
   const bool isClosed =
-      IsA(first, TokenKind::Open) && ClosingBracket(next.All, 0) < next.All.size();
+      next.Plain.Text.starts_with('(') && ClosingBracket(next.All, 0) < next.All.size();
+  if (PastLineStart(next.All) != 0) return false;
   const bool begins = isClosed || (IsA(first, TokenKind::Word) && !IsNumber(first));
   if (!isOpen || !begins || next.Plain.Text.find_first_of(">|") == 0) return false;
   const bool isSmall = IsA(first, TokenKind::Word) && !first.Capital;
   return isSmall || HasUse(last, WordUse::Filler) || VerbOf(last) != Verb::None ||
          IsWord(last, "of") || IsWord(last, "in") || IsWord(last, "from") || IsWord(last, "at") ||
-         IsWord(last, "and") || IsA(first, TokenKind::Open);
+         IsWord(last, "and") || isClosed;
 }
 
 /// Lines that follow each other as one. A word that was parted at the end of a line is whole again.
