@@ -2,6 +2,7 @@
 
 #include "model/lookups.h"
 #include "model/place.h"
+#include "orders/parser.h"
 #include "text/strings.h"
 
 namespace orb::orders {
@@ -63,6 +64,8 @@ OrderEntry ClickOrder(const GameState& game, OrderEntry entry, std::string_view 
   if (!entry.UnitExpected) {
     AppendAction(entry, location);
   } else if (const int unit = FindUnitAt(game, location); unit != 0) {
+    // A line that was typed, or came out of the list, has room for no further unit.
+    if (IsWholeOrder(*game.Map, model::Stage::Moves, entry.Text)) entry.Text.clear();
     AppendUnit(entry, game.Units[unit], keys);
   }
   return entry;

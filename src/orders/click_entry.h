@@ -22,8 +22,9 @@ struct ClickKeys {
   bool Ctrl = false;   ///< the picked unit convoys: the next click picks whom
 };
 
-/// The line after a click. It picks the unit that stands there; once a unit is picked, it appends
-/// where that unit moves to, or "hold " when it is the unit's own location.
+/// The line after a click. It picks the unit that stands there, for a new line where this one is a
+/// whole order; once a unit is picked, it appends where that unit moves to, or "hold " when it is
+/// the unit's own location.
 OrderEntry ClickOrder(const model::GameState& game, OrderEntry entry, std::string_view location,
                       ClickKeys keys);
 

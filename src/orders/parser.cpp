@@ -42,6 +42,10 @@ OrderLine ParseLine(const model::Map& map, model::Stage stage, std::string_view 
   return order;
 }
 
+bool IsWholeOrder(const model::Map& map, model::Stage stage, std::string_view line) {
+  return ParseLine(map, stage, line).Fault == SyntaxFault::None;
+}
+
 std::string FaultText(const OrderLine& order, model::Stage stage) {
   std::string work;
   return FaultText(CutOrder(order.Text, stage, work), order.Fault);

@@ -21,6 +21,9 @@ void ParseOrders(const model::Map& map, model::Stage stage, OrderTable& orders);
 /// The same for a single line.
 OrderLine ParseLine(const model::Map& map, model::Stage stage, std::string_view line);
 
+/// Whether the line has one of the forms of the stage's orders.
+bool IsWholeOrder(const model::Map& map, model::Stage stage, std::string_view line);
+
 /// The rule of the text form that a read order breaks, as words for the user that quote the
 /// writer's own; empty for none.
 std::string FaultText(const OrderLine& order, model::Stage stage);

@@ -32,6 +32,8 @@ TEST(ClickEntry, ClicksWriteAnOrder) {
     EXPECT_EQ(ClickAll(game, {}, clicks).Text, order + " ") << clicks;
   EXPECT_EQ(ClickAll(game, {"ENG A(Lvp) - ", false, "Lvp"}, "Yor").Text, "ENG A(Lvp) - Yor ");
   EXPECT_EQ(ClickAll(game, {"ENG F(NTH) S ", true, {}}, "Lvp").Text, "ENG F(NTH) S A(Lvp) ");
+  EXPECT_EQ(ClickAll(game, {"ENG F(NTH) S A(Lvp) - Yor", true, {}}, "Yor Bre MAO").Text,
+            "FRA F(Bre) - MAO ");
 }
 
 TEST(ClickEntry, ClicksWriteARetreat) {

@@ -4,6 +4,7 @@
 #include "ui/entry/adjustments_panel.h"
 #include "ui/entry/orders_panel.h"
 #include "ui/entry/retreats_panel.h"
+#include "ui/modal_script.h"
 #include "ui/widgets/order_marks.h"
 
 #include <QAbstractButton>
@@ -13,6 +14,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -157,6 +159,73 @@ TEST(OrderEntry, ClicksOnTheMapWriteOrders) {
   EXPECT_EQ(adjusting.Text(), "RUS build A(Stp)");
   adjusting.Click("Lvp");
   EXPECT_EQ(adjusting.Text(), "ENG disband A(Lvp)");
+}
+
+TEST(OrderEntry, TheBoxEmptiesWithTheStageOrTheGame) {
+  OrdersEntry entry(Board("Spring", "moves", {"ENG A(Lvp) hold"}), {model::Answer::Yes});
+  ui::Desk& desk = entry.desk;
+  const TemporaryDirectory directory;
+  struct Case {
+    const char* What;
+    std::function<void()> Command;
+    bool Stays;
+  };
+  for (const Case& c : std::vector<Case>{
+           {"save", [&] { desk.saveGameAs(directory.Path() / "game.orb"); }, true},
+           {"edit", [&] { desk.setEditing(session::Editing::Units); }, true},
+           {"import", [&] { desk.fileOrder("ENG A(Lvp) - Wal"); }, true},
+           {"missing", [&] { desk.openGame(directory.Path() / "none.orb", true); }, true},
+           {"resolve", [&] { desk.resolve(); }, false},
+           {"take back", [&] { desk.takeBack(); }, false},
+           {"open", [&] { desk.openGame(directory.Path() / "game.orb", true); }, false},
+           {"open again", [&] { desk.openGame(directory.Path() / "game.orb", true); }, false},
+           {"new", [&] { desk.newGame(); }, false},
+           {"blank", [&] { desk.blankGame(); }, false},
+           {"take back", [&] { desk.takeBack(); }, false}}) {
+    entry.text.setText(QStringLiteral("ENG F(Lon) - N"));
+    c.Command();
+    EXPECT_EQ(entry.Text(), c.Stays ? "ENG F(Lon) - N" : "") << c.What;
+  }
+}
+
+TEST(OrderEntry, ResolveFilesAWholeOrderAndStopsAtAnyOtherLine) {
+  struct Case {
+    const char* Line;
+    bool Whole;
+  };
+  for (const Case& c :
+       {Case{"ENG A(Lvp) - Yor ", true}, Case{" ", true}, Case{"ENG A(Lvp) - ", false},
+        Case{"ENG A(Lvp) - Nowhere", false}, Case{"Yor", false}}) {
+    OrdersEntry entry(Board("Spring", "moves", {"ENG A(Lvp) hold"}));
+    entry.text.setText(QLatin1String(c.Line));
+    {
+      const ModalScript answers(
+          c.Whole ? std::deque<ModalScript::Step>{}
+                  : std::deque<ModalScript::Step>{[&](QDialog& box) {
+                      EXPECT_THAT(dynamic_cast<QMessageBox&>(box).text().toStdString(),
+                                  HasSubstr(QString(c.Line).trimmed().toStdString()));
+                      box.reject();
+                    }});
+      entry.Press("butOrdersResolve");
+    }
+    EXPECT_EQ(entry.desk.game().Stage, c.Whole ? model::Stage::Finished : model::Stage::Moves)
+        << c.Line;
+    EXPECT_EQ(entry.Text(), c.Whole ? "" : c.Line);
+    EXPECT_EQ(entry.desk.game().Units[1].Location, *c.Line == 'E' && c.Whole ? "Yor" : "Lvp")
+        << c.Line;
+  }
+}
+
+TEST(OrderEntry, EnterThatFilesNothingSaysWhy) {
+  RetreatsEntry entry(EmptyBoard("Spring", "retreats"));
+  const QSignalSpy status(&entry.panel, &ui::OrderEntryPanel::statusText);
+  const auto said = [&](const char* line) {
+    entry.File(line);
+    return status.isEmpty() ? "" : status.last().at(0).toString().toStdString();
+  };
+  EXPECT_THAT(said(""), HasSubstr("empty"));
+  EXPECT_THAT(said("ENG F Lon"), HasSubstr("ENG A(Lvp) retreat Yor"));
+  EXPECT_EQ(entry.Text(), "ENG F Lon");
 }
 
 TEST(OrderEntry, LinesAreMarkedAndMissingOrdersCounted) {

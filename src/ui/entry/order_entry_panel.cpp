@@ -1,14 +1,17 @@
 #include "ui/entry/order_entry_panel.h"
 
+#include "orders/parser.h"
 #include "text/qt/text_codec.h"
 #include "ui/entry/line_checks.h"
 #include "ui/entry/natural_line.h"
+#include "ui/widgets/message_boxes.h"
 #include "ui/widgets/text_validator.h"
 
 #include <QEvent>
 #include <QShortcut>
 
 #include <algorithm>
+#include <utility>
 
 namespace orb::ui {
 namespace {
@@ -31,6 +34,8 @@ OrderEntryPanel::OrderEntryPanel(Desk& desk, model::Stage stage, OrderList list,
       m_desk(desk),
       m_stage(stage),
       m_orders(list),
+      m_example(texts.example),
+      m_writtenFor(game().Stage, desk.now().GameNumber),
       m_column(new QVBoxLayout(this)),
       m_grid(new QGridLayout),
       m_whole(new WholeList(texts.list, texts.heading)),
@@ -124,7 +129,7 @@ void OrderEntryPanel::connectControls(const QString& helpTopic) {
     focusText();
     emit helpWanted(helpTopic);
   });
-  connect(m_resolve, &QPushButton::clicked, &m_desk, &Desk::resolve);
+  connect(m_resolve, &QPushButton::clicked, this, &OrderEntryPanel::resolve);
   // Clicked or chosen with the Enter key, a line comes into the box to be changed.
   connect(m_list, &QListWidget::itemClicked, this, &OrderEntryPanel::editSelectedOrder);
   connect(m_list, &QListWidget::itemActivated, this, &OrderEntryPanel::editSelectedOrder);
@@ -136,6 +141,7 @@ void OrderEntryPanel::connectControls(const QString& helpTopic) {
   connect(m_whole, &WholeList::hiddenLineSelected, this, &OrderEntryPanel::otherPowerSelected);
   m_desk.whenChanged(Changes::Season | Changes::Position | Changes::Orders | Changes::Rules, this,
                      &OrderEntryPanel::showLines);
+  m_desk.whenChanged(Changes::Season | Changes::Game, this, &OrderEntryPanel::forgetLine);
   connect(&m_desk, &Desk::viewChanged, this, &OrderEntryPanel::showLines);
   connect(&m_desk, &Desk::stopped, this, &OrderEntryPanel::showStoppedLine);
 }
@@ -209,6 +215,11 @@ void OrderEntryPanel::showLines() {
   if (m_desk.game().Stage == m_stage) markLines();
 }
 
+void OrderEntryPanel::forgetLine() {
+  const std::pair now(game().Stage, m_desk.now().GameNumber);
+  if (std::exchange(m_writtenFor, now) != now) m_text->clear();
+}
+
 void OrderEntryPanel::markLines() {
   const adjudication::ListCheck check = session::CheckOrders(m_desk.now());
   std::vector<std::string> otherReadings(check.Lines.size());
@@ -252,13 +263,36 @@ void OrderEntryPanel::hideEvent(QHideEvent* event) {
   emit statusText({});
 }
 
-void OrderEntryPanel::fileOrder() {
+bool OrderEntryPanel::fileOrder() {
   // A line in which no unit can be recognized is not filed, and stays in the box to be corrected.
-  if (m_desk.fileOrder(naturalLine(game(), line(), m_power))) {
+  const bool filed = m_desk.fileOrder(naturalLine(game(), line(), m_power));
+  const QString why =
+      m_text->text().trimmed().isEmpty()
+          ? tr("Nothing to file: the box is empty.")
+          : tr("Not filed: no unit with its place in brackets, as in %1.").arg(m_example);
+  if (filed) {
     m_list->setCurrentRow(m_list->count() - 1);
     m_text->clear();
   }
   startEntry();
+  if (!filed) emit statusText(why);
+  return filed;
+}
+
+void OrderEntryPanel::resolve() {
+  const QString text = m_text->text().trimmed();
+  if (text.isEmpty()) return m_desk.resolve();
+  if (orders::IsWholeOrder(*game().Map, m_stage, naturalLine(game(), line(), m_power))) {
+    if (fileOrder()) m_desk.resolve();
+    return;
+  }
+  MessageBox box(tr("The line in the box is no whole order:\n%1\nIt is not filed, and nothing is "
+                    "resolved. Complete it, or empty the box.")
+                     .arg(text),
+                 QMessageBox::Warning, window());
+  box.setStandardButtons(QMessageBox::Ok);
+  box.exec();
+  focusText();
 }
 
 void OrderEntryPanel::cancelOrder() {

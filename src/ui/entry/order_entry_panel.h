@@ -12,6 +12,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace orb::ui {
@@ -123,10 +124,15 @@ class OrderEntryPanel : public QWidget, public MapTool {
   // What the list shows: its lines, their marks, and the row at which resolving stopped.
   void showLines();
   void markLines();
+  /// Another stage or game has no use for the line in the box.
+  void forgetLine();
   void showStoppedLine();
   void tellStatus();
   // What the buttons and keys do.
-  void fileOrder();
+  /// False when nothing was filed; the status bar says why.
+  bool fileOrder();
+  /// Files a whole order that is still in the box first, and stops where it is none.
+  void resolve();
   void cancelOrder();
   void deleteOrder();
   void editSelectedOrder();
@@ -134,6 +140,9 @@ class OrderEntryPanel : public QWidget, public MapTool {
   Desk& m_desk;
   model::Stage m_stage;
   OrderList m_orders;
+  QString m_example;
+  /// What the line in the box is written for: the stage, and the number of the game.
+  std::pair<model::Stage, int> m_writtenFor;
   QVBoxLayout* m_column;
   QGridLayout* m_grid;
   WholeList* m_whole;
