@@ -2,8 +2,9 @@
 
 #include "cli/commands.h"
 #include "cli/delivery.h"
-#include "cli/draw_map.h"
 #include "cli/games.h"
+#include "model/files.h"
+#include "render/map_module.h"
 #include "text/encoding.h"
 
 namespace orb::cli {
@@ -32,10 +33,12 @@ int Execute(const CommandLine& line, Console& console) {
   const std::string address = AddressOf(line);
   return ForEachGame(line, console, PlanOneOutput(line), [&](GameAtWork& at) {
     ExpectNothingToKeep(at.Paths);
-    const std::string page = WithSvgMaterial([&](render::SvgMaterial& material) {
-      pages::Maps maps(material, options, data);
-      return pages::OrderSheet({at.Situation.Game, power, address}, maps);
-    });
+    const std::string page = render::WithSvgMaterial(
+        [&](render::SvgMaterial& material) {
+          pages::Maps maps(material, options, data);
+          return pages::OrderSheet({at.Situation.Game, power, address}, maps);
+        },
+        model::ProgramDirectory());
     DeliverBytes(console, at.Paths.Output, page, at.Paths.Existing);
     return true;
   });

@@ -57,7 +57,6 @@ void AddDifferences(const model::GameState& before, const adjudication::Resoluti
 std::shared_ptr<const Situation> Kept(const Situation& situation) {
   auto kept = std::make_shared<Situation>(situation);
   kept->BeforeMoves.reset();
-  kept->Edits.Clear();
   return kept;
 }
 
