@@ -70,7 +70,9 @@ Situation Follow(const std::vector<Source>& sources) {
   bool resolves = sources.front().Resolves;
   for (std::size_t i = 1; i < sources.size(); ++i) {
     const Situation& next = sources[i].Situation;
-    const auto led = LedTo(now, next.Game);
+    // Two files of one stage show nothing of what became of its orders.
+    const bool isLater = next.Game.Stage != now.Game.Stage;
+    const auto led = isLater ? LedTo(now, next.Game) : std::nullopt;
     now = WithStory(next, led ? *led : now);
     resolves = sources[i].Resolves;
   }

@@ -118,6 +118,10 @@ TEST(SeasonPage, OrdersThatNobodyKnowsToBeCarriedOutAreNotTold) {
   EXPECT_EQ(names(pages::SeasonsOf({{start}})), 0U);
   EXPECT_THAT(PageOf(pages::SeasonsOf({{start}})), Not(HasSubstr("Par) - Bur")));
   EXPECT_THAT(PageOf(pages::SeasonsOf({{start, true}})), HasSubstr("FRA A(Par) - Bur"));
+  // A file of the same stage shows nothing, even if the orders would leave it as it is.
+  Situation holding = NewGame();
+  session::ReplaceOrders(holding, {"FRA A(Par) hold"});
+  EXPECT_TRUE(pages::SeasonsOf({{holding}, {NewGame()}}).back().Orders.empty());
   // Another game's end does not make them orders that were carried out.
   Situation other = start;
   session::ReplaceOrders(other, {"FRA A(Mar) - Spa"});

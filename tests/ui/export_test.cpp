@@ -19,6 +19,7 @@
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QProcess>
+#include <QRadioButton>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -117,6 +118,30 @@ TEST_F(ExportTest, TheMapIsTakenAsShownAndReplacesNothingUnasked) {
   const QMimeData& content = *QGuiApplication::clipboard()->mimeData();
   EXPECT_EQ(content.imageData().value<QImage>(), Picture());
   EXPECT_EQ(QImage::fromData(content.data("image/png")), Picture());
+}
+
+TEST_F(ExportTest, PagesAreMadeOfTheGameAndForItsPlayers) {
+  const fs::path page = folder_.Path() / "page.html";
+  const fs::path sheet = folder_.Path() / "sheet.html";
+  const auto forAll = [](QDialog& dialog) {
+    dialog.findChild<QRadioButton*>("optSheetAll")->click();
+    dialog.findChild<QLineEdit*>("txtSheetAddress")->setText(" gm@example.org ");
+    dialog.accept();
+  };
+  const ModalScript answers({FileChosen(Shown(page)), forAll, FileChosen(Shown(sheet)),
+                             [](QDialog& dialog) { dialog.accept(); },
+                             FileChosen(Shown(folder_.Path()))});
+  commands_.publish();
+  EXPECT_THAT(model::ReadFile(page), testing::HasSubstr("Autumn 1910"));
+  commands_.makeOrderSheets();
+  EXPECT_THAT(model::ReadFile(sheet), testing::AllOf(testing::HasSubstr("\"gm@example.org\""),
+                                                     testing::HasSubstr("[ORB sheet: ITA")));
+  commands_.makeOrderSheets();
+  EXPECT_EQ(folder_.EntryCount(), 2 + model::CountryCount);
+  const std::string french = model::ReadFile(folder_.Path() / "a10_orders_FRA.html");
+  EXPECT_THAT(french, testing::AllOf(testing::HasSubstr("[ORB sheet: FRA"),
+                                     testing::Not(testing::HasSubstr("[ORB sheet: ITA"))));
+  EXPECT_TRUE(messages_.Shown.empty());
 }
 
 TEST_F(ExportTest, TheCopiedTextIsThatOfTheScratchFileInTheUsersOwnFolder) {

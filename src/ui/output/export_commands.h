@@ -9,8 +9,11 @@
 #include <QPrinter>
 #include <QUrl>
 
+#include <filesystem>
 #include <functional>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace orb::ui {
 
@@ -32,6 +35,10 @@ class ExportCommands : public QObject {
   void exportBitmap();
   void exportText();
   void print();
+  /// A web page of the season, or of the whole game where its other files lie beside its own.
+  void publish();
+  /// Web pages for the players' orders: one for each power, or one for all.
+  void makeOrderSheets();
 
  signals:
   /// Something for the status bar: what was done.
@@ -39,6 +46,8 @@ class ExportCommands : public QObject {
 
  private:
   QImage mapPicture();
+  void makeSheets(const std::vector<std::string>& powers, const std::string& address,
+                  const std::filesystem::path& path);
   /// One copy, to the printer or, whole or not at all, to its PDF file.
   void printOnce(QPrinter& printer);
 

@@ -44,6 +44,10 @@ QString textFiles() {
   return QObject::tr("Text files: *.txt (*.txt)");
 }
 
+QString webPages() {
+  return QObject::tr("Web pages: *.html (*.html)");
+}
+
 QString mailFiles() {
   return QObject::tr("Mails: *.eml, *.mbox (*.eml *.mbox)");
 }
@@ -107,6 +111,11 @@ ExportTexts textsOf(ExportKind kind, const model::GameState& game) {
     case ExportKind::Animation:
       return {QObject::tr(" Export Animation"), QObject::tr("GIF pictures: *.gif (*.gif)"),
               proposedExportFile(game, ".gif")};
+    case ExportKind::Page:
+      return {QObject::tr(" Publish"), webPages(), proposedExportFile(game, ".html")};
+    case ExportKind::Sheet:
+      return {QObject::tr(" Order Sheets"), webPages(),
+              proposedExportFile(game, "_order_sheet.html")};
     case ExportKind::Orders:
       return {QObject::tr(" Export Orders"), textFiles(), exchange::ProposedOrdersFile(game)};
     default:
@@ -181,6 +190,16 @@ std::optional<std::filesystem::path> askWhereToExport(QWidget* parent, ExportKin
   setUp(dialog, texts.title, {texts.filter, allFiles()}, game);
   return askForNewFile(dialog, texts.proposal, messages,
                        [](const std::filesystem::path& typed) { return typed; });
+}
+
+std::optional<std::filesystem::path> askFolder(QWidget* parent, const QString& title,
+                                               const model::GameState& game) {
+  QFileDialog dialog(parent);
+  setUp(dialog, title, {allFiles()}, game);
+  dialog.setFileMode(QFileDialog::Directory);
+  dialog.setOption(QFileDialog::ShowDirsOnly);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return chosenFile(dialog);
 }
 
 QString displayPath(const std::string& file) {

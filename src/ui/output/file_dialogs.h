@@ -39,13 +39,17 @@ enum class ChangedFileChoice { Replace, SaveAs, Cancel };
 /// Asks what becomes of a game whose file somebody else has changed since it was opened.
 ChangedFileChoice askAboutChangedFile(QWidget* parent, const std::filesystem::path& file);
 
-enum class ExportKind { Bitmap, Text, Orders, Animation };
+enum class ExportKind { Bitmap, Text, Orders, Animation, Page, Sheet };
 
 /// Asks for the file to export to, whose name is taken as it stands, and whether one there may be
 /// replaced; nothing when cancelled.
 std::optional<std::filesystem::path> askWhereToExport(QWidget* parent, ExportKind kind,
                                                       const model::GameState& game,
                                                       model::Messages& messages);
+
+/// Asks for a folder; nothing when cancelled.
+std::optional<std::filesystem::path> askFolder(QWidget* parent, const QString& title,
+                                               const model::GameState& game);
 
 /// A file name of the system for display.
 QString displayPath(const std::string& file);

@@ -48,6 +48,8 @@ void FileMenu::addExchange(ExchangeCommands& exchange) {
 void FileMenu::addExports(ExportCommands& exports) {
   QAction* bitmap = newEntry(*this, QStringLiteral("mnuFileExportBMP"), tr("Export B&itmap..."));
   m_exportText = newEntry(*this, QStringLiteral("mnuFileExportText"), tr("Export &Text..."));
+  QAction* publish = newEntry(*this, QStringLiteral("mnuFilePublish"), tr("P&ublish..."));
+  m_orderSheets = newEntry(*this, QStringLiteral("mnuFileOrderSheets"), tr("Order s&heets..."));
   m_print = newEntry(*this, QStringLiteral("mnuFilePrint"), tr("&Print..."), QKeySequence::Print);
   addSeparator();
   // The window connects these two: the player that they start needs the map, which is not the
@@ -56,6 +58,8 @@ void FileMenu::addExports(ExportCommands& exports) {
   m_animateMove = newEntry(*this, QStringLiteral("mnuFileAnimateMove"), tr("Animate mo&ve"));
   connect(bitmap, &QAction::triggered, &exports, &ExportCommands::exportBitmap);
   connect(m_exportText, &QAction::triggered, &exports, &ExportCommands::exportText);
+  connect(publish, &QAction::triggered, &exports, &ExportCommands::publish);
+  connect(m_orderSheets, &QAction::triggered, &exports, &ExportCommands::makeOrderSheets);
   connect(m_print, &QAction::triggered, &exports, &ExportCommands::print);
 }
 
@@ -93,6 +97,7 @@ bool FileMenu::saveTo(const std::filesystem::path& file) {
 void FileMenu::showState() {
   m_save->setEnabled(session::CanSave(m_desk.now()));
   m_importOrders->setEnabled(session::TakesOrders(m_desk.game()));
+  m_orderSheets->setEnabled(session::TakesOrders(m_desk.game()));
   m_exportOrders->setEnabled(session::HasOrderLines(m_desk.game()));
   m_animateMove->setEnabled(session::IsFinished(m_desk.now()));
 }

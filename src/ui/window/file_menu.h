@@ -51,6 +51,7 @@ class FileMenu : public QMenu {
   QAction* m_importOrders;
   QAction* m_exportOrders;
   QAction* m_exportText;
+  QAction* m_orderSheets;
   QAction* m_print;
   QAction* m_animate;
   QAction* m_animateMove;
