@@ -3,7 +3,6 @@
 #include "support/scripted_messages.h"
 #include "ui/modal_script.h"
 
-#include <QCoreApplication>
 #include <QListWidget>
 #include <QTest>
 
@@ -32,7 +31,8 @@ std::vector<std::string> WindowTest::Lines(const char* list) const {
 }
 
 QImage WindowTest::Map() const {
-  QCoreApplication::processEvents();
+  // Lists lay out their lines, and splitters their parts, one after the other.
+  QTest::qWait(20);
   return Find<QWidget>("picMap").grab().toImage();
 }
 

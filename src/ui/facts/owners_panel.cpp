@@ -79,7 +79,12 @@ OwnersPanel::OwnersPanel(const Desk& desk, QWidget* parent) : QScrollArea(parent
   page->setAutoFillBackground(true);
   auto* margins = new QVBoxLayout(page);
   margins->addWidget(new OwnersPicture(desk));
+  desk.whenShownChanged(Changes::Position, this, &OwnersPanel::fitList);
   setWidget(page);
+}
+
+QSize OwnersPanel::sizeHint() const {
+  return {QScrollArea::sizeHint().width(), widget()->heightForWidth(maximumViewportSize().width())};
 }
 
 }  // namespace orb::ui

@@ -37,6 +37,13 @@ class OwnersPanel : public QScrollArea {
 
  public:
   explicit OwnersPanel(const Desk& desk, QWidget* parent = nullptr);
+
+  /// As high as the whole list at its present width.
+  QSize sizeHint() const override;
+
+ private:
+  /// More owners make the list longer.
+  void fitList() { updateGeometry(); }
 };
 
 }  // namespace orb::ui

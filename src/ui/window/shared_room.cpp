@@ -10,6 +10,10 @@ namespace {
 constexpr int Whole = 1000;
 constexpr int Gap = 12;
 
+// Of a second part that nobody has given a share to.
+constexpr int LeastShare = 360;
+constexpr int LinesLeft = 5;
+
 }  // namespace
 
 SharedRoom::SharedRoom(Qt::Orientation orientation, Unit unit, int wish)
@@ -41,8 +45,16 @@ void SharedRoom::takeWish() {
 }
 
 void SharedRoom::share() {
-  const int second = m_unit == Unit::Pixels ? m_wish : qRound(1.0 * room() * m_wish / Whole);
-  setSizes({std::max(0, room() - second), second});
+  const int wanted = second();
+  setSizes({std::max(0, room() - wanted), wanted});
+}
+
+int SharedRoom::second() const {
+  if (m_unit == Unit::Pixels) return m_wish;
+  if (m_wish > 0) return qRound(1.0 * room() * m_wish / Whole);
+  const int most =
+      room() - widget(0)->minimumSizeHint().height() - LinesLeft * fontMetrics().lineSpacing();
+  return std::max(std::min(widget(1)->sizeHint().height(), most), room() * LeastShare / Whole);
 }
 
 int SharedRoom::room() const {

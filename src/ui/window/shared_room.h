@@ -13,6 +13,7 @@ class SharedRoom : public QSplitter {
   /// What a wish counts of the second part: its pixels, or parts per thousand of the whole.
   enum class Unit : std::uint8_t { Pixels, PerMille };
 
+  /// A wish of 0 leaves it to the second part, as long as the first one has room for some lines.
   SharedRoom(Qt::Orientation orientation, Unit unit, int wish);
 
   int wish() const { return m_wish; }
@@ -25,6 +26,8 @@ class SharedRoom : public QSplitter {
  private:
   void takeWish();
   void share();
+  /// What the second part shall have, in pixels.
+  int second() const;
   /// Of both parts together.
   int room() const;
 

@@ -6,14 +6,11 @@ namespace {
 // Pixels.
 constexpr int Gap = 6;
 
-/// Of the height, in parts per thousand.
-constexpr int FactsShare = 380;
-
 }  // namespace
 
 SideColumn::SideColumn(QWidget* powers, QWidget* brief, QWidget* facts)
     : m_brief(brief),
-      m_shares(new SharedRoom(Qt::Vertical, SharedRoom::Unit::PerMille, FactsShare)),
+      m_shares(new SharedRoom(Qt::Vertical, SharedRoom::Unit::PerMille, 0)),
       m_place(new QWidget),
       m_panels(new QVBoxLayout(m_place)) {
   m_panels->setContentsMargins({});
