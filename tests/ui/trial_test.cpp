@@ -51,7 +51,8 @@ class TrialTest : public testing::Test {
   void Open(const Stage& stage) {
     desk_.openGame(examples_ / stage.Game, false);
     desk_.fileOrders(
-        exchange::ReadOrders(desk_.game(), model::ReadFile(examples_ / stage.Orders), {}));
+        exchange::ReadOrders(desk_.game(), model::ReadFile(examples_ / stage.Orders), {}),
+        QStringLiteral("Paste orders"));
   }
 
   /// All that the game is, in the window and in its file.
