@@ -1,8 +1,8 @@
 #pragma once
 
 #include "json/messages.h"
-#include "model/errors.h"
 
+#include "model/errors.h"
 #include "session/commands.h"
 #include "session/situation.h"
 #include "session/what_if.h"
