@@ -74,7 +74,7 @@ class ExportTest : public testing::Test {
 
   const fs::path before_ = fs::current_path();
   TemporaryDirectory folder_;
-  ScriptedMessages messages_{{model::Answer::No, model::Answer::Yes}};
+  ScriptedMessages messages_;
   ui::Desk desk_{GameInGrey(), DataDirectory(), messages_, nullptr};
   QWidget window_;
   render::PictureCache pictures_;
@@ -106,12 +106,11 @@ TEST_F(ExportTest, TheMapIsTakenAsShownAndReplacesNothingUnasked) {
     EXPECT_EQ(model::ReadFile(taken), "precious");
     FileChosen(Shown(taken))(dialog);
   };
-  const ModalScript answers(
-      {FileChosen(Shown(folder_.Path() / "none" / "a.bmp")), chooseTaken, chooseTaken});
+  const ModalScript answers({FileChosen(Shown(folder_.Path() / "none" / "a.bmp")), chooseTaken,
+                             Pressed("frmReplaceFile", QMessageBox::No), chooseTaken,
+                             Pressed("frmReplaceFile", QMessageBox::Yes)});
   commands_.exportBitmap();
   EXPECT_EQ(messages_.Shown.size(), 1U) << "there is no such folder";
-  const std::string question = taken.string() + " already exists.\rReplace it?";
-  EXPECT_THAT(messages_.Questions, ElementsAre(question, question));
   EXPECT_EQ(QImage(Shown(taken), "BMP"), Picture());
 
   commands_.copyMap();

@@ -16,7 +16,9 @@ TEST(FileProposals, NameOfASavedGame) {
       {"CONCORDAT", "Spring", 1901, "con_s01.orb"},
       {"  My Game ", "Autumn", 1910, "my _a10.orb"},
       {"Q", "Spring", 7, "q_s7.orb"},
-      {"", "", 1901, "_01.orb"}};
+      {"", "", 1901, "_01.orb"},
+      {"A/B", "/x", 1901, "a-b_-01.orb"},
+      {"\tI\x01\x7f!", "Spring", 1901, "-i-_s01.orb"}};
   for (const auto& [title, season, year, proposed] : cases) {
     model::GameState game = EmptyBoard(season, "moves");
     game.Title = title;

@@ -14,6 +14,7 @@
 namespace orb::tests {
 namespace {
 
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -102,10 +103,29 @@ TEST_F(SettingsTest, SizeZoomAndFilesAreRemembered) {
 
   Trigger("mnuFileNew");
   EXPECT_EQ(Find<QLabel>("lblFileName").text(), "");
-  emit Find<QMenu>("mnuFileRecent").aboutToShow();
+  const auto recent = [this](const char* entry) {
+    emit Find<QMenu>("mnuFileRecent").aboutToShow();
+    return Find<QAction>(entry).text().toStdString();
+  };
+  EXPECT_EQ(recent("mnuFileRecent1"), "&1  1901-2-autumn-0-start.orb");
   Trigger("mnuFileRecent1");
   EXPECT_THAT(Find<QLabel>("lblFileName").text().toStdString(),
               HasSubstr("1901-2-autumn-0-start.orb"));
+
+  const auto copy = directory_.Path() / "1901-2-autumn-0-start.orb";
+  std::filesystem::copy_file(examples_ / copy.filename(), copy);
+  Open(copy);
+  EXPECT_THAT(recent("mnuFileRecent1"), EndsWith("start.orb  in " + directory_.Path().string()));
+  EXPECT_THAT(recent("mnuFileRecent2"), EndsWith("start.orb  in " + examples_.string()));
+  std::filesystem::remove(copy);
+  Trigger("mnuFileNew");
+  for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+    recent("mnuFileRecent1");
+    const ModalScript answers({Pressed("frmRecentFile", answer)});
+    Trigger("mnuFileRecent1");
+  }
+  EXPECT_EQ(Find<QLabel>("lblFileName").text(), "");
+  EXPECT_EQ(recent("mnuFileRecent1"), "&1  1901-2-autumn-0-start.orb") << "the other one";
 }
 
 TEST_F(SettingsTest, AGameDroppedOnTheWindowIsOpened) {

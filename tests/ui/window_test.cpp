@@ -214,6 +214,7 @@ TEST_F(WindowTest, OpenBeginsWithTheFilterOfTheLastFileAndMayBeForReadingOnly) {
     Trigger("mnuFileOpen");
     EXPECT_EQ(Find<QLabel>("lblFileName").text().toStdString(), file.string());
     EXPECT_EQ(Find<QAction>("mnuFileSave").isEnabled(), !readOnly);
+    EXPECT_EQ(Find<QLabel>("lblReadOnly").isVisible(), readOnly);
   };
   open("Concordat files: *.orb", "Old.DAT", true);
   open("Data files: *.dat", "game.txt", false);
@@ -263,10 +264,12 @@ TEST_F(WindowTest, SaveAsksProposesAndLowersTheName) {
     Trigger("mnuFileSave");
   }
   {
-    const ModalScript answers({FileChosen(path), Answered(question, Qt::Key_N, Qt::AltModifier),
+    const ModalScript answers({FileChosen(path), Answered(question, Qt::Key_Return),
                                FileChosen(path), Answered(question, Qt::Key_Y, Qt::AltModifier)});
     Trigger("mnuFileSaveAs");
   }
+  EXPECT_EQ(Find<QLabel>("lblStatus").text().toStdString(),
+            "The game is in " + taken.string() + ".");
   EXPECT_EQ(Find<QLabel>("lblFileName").text().toStdString(), taken.string());
   EXPECT_TRUE(Find<QLabel>("lblFileName").isVisible());
   EXPECT_GT(std::filesystem::file_size(taken), 100U);
@@ -275,15 +278,25 @@ TEST_F(WindowTest, SaveAsksProposesAndLowersTheName) {
   const std::filesystem::path before = std::filesystem::current_path();
   std::filesystem::current_path(directory_.Path());
   Open("game.orb");
-  {
-    const ModalScript answers({[this](QDialog& dialog) {
+  const auto beginThere = [&](const char* command) {
+    const ModalScript answers({[&](QDialog& dialog) {
       const QDir shown = dynamic_cast<QFileDialog&>(dialog).directory();
-      EXPECT_EQ(shown, QDir(QString::fromStdString(directory_.Path().string())));
+      EXPECT_EQ(shown, QDir(QString::fromStdString(directory_.Path().string()))) << command;
       dialog.reject();
     }});
-    Trigger("mnuFileSaveAs");
-  }
+    Trigger(command);
+  };
+  beginThere("mnuFileSaveAs");
+  Resolve("ENG F(Lon)");
+  Press(Qt::Key_N, Qt::AltModifier);
+  EXPECT_EQ(Find<QLabel>("lblFileName").text(), "");
+  for (const char* command : {"mnuFileSave", "mnuFileExportBMP", "mnuFileExportText"})
+    beginThere(command);
   std::filesystem::current_path(before);
+  Open();
+  for (const char* command :
+       {"mnuFileOpen", "mnuFileSaveAs", "mnuFileImportOrders", "mnuFileAnimate"})
+    beginThere(command);
 }
 
 TEST_F(WindowTest, SaveAsksBeforeItReplacesWhatSomebodyElseHasWritten) {

@@ -62,7 +62,7 @@ ExchangeCommands::ExchangeCommands(Desk& desk, model::Messages& messages,
       m_window(window) {}
 
 void ExchangeCommands::importOrders() {
-  const auto file = askOrdersToImport(m_window, m_desk.game());
+  const auto file = askOrdersToImport(m_window, m_desk);
   if (!file) return;
   attempt(m_messages, [&] { preview(ExchangeKind::Import, readOrdersFile(*file)); });
 }
@@ -91,7 +91,8 @@ void ExchangeCommands::preview(ExchangeKind kind, session::IncomingText text) {
 }
 
 void ExchangeCommands::exportOrders() {
-  const auto file = askWhereToExport(m_window, ExportKind::Orders, m_desk.game(), m_messages);
+  const auto file =
+      askWhereToExport(m_window, ExportKind::Orders, m_desk, m_desk.game(), m_messages);
   if (!file) return;
   attempt(m_messages, [&] {
     model::ReplaceFile(*file, exchange::OrdersText(m_desk.game()));

@@ -66,12 +66,10 @@ std::string scratchedReport(const session::Situation& situation) {
   }
 }
 
-/// A file's path for the print dialog: in the folder of the game, or else in the user's home.
-QString proposedPdf(const model::GameState& game) {
-  const QDir folder(game.FileName.empty()
-                        ? QDir::homePath()
-                        : displayPath(fs::path(game.FileName).parent_path().string()));
-  return folder.absoluteFilePath(text::ToQString(proposedExportFile(game, ".pdf")));
+/// A file's path for the print dialog: in the desk's folder, or else in the user's home.
+QString proposedPdf(const Desk& desk) {
+  const QDir folder(desk.folder().empty() ? QDir::homePath() : displayPath(desk.folder().string()));
+  return folder.absoluteFilePath(text::ToQString(proposedExportFile(desk.game(), ".pdf")));
 }
 
 /// A PDF file is replaced whole or not at all.
@@ -134,7 +132,8 @@ void ExportCommands::copyText() {
 
 void ExportCommands::exportBitmap() {
   m_desk.endTrial();
-  const auto file = askWhereToExport(m_window, ExportKind::Bitmap, m_desk.game(), m_messages);
+  const auto file =
+      askWhereToExport(m_window, ExportKind::Bitmap, m_desk, m_desk.game(), m_messages);
   if (!file) return;
   attempt(m_messages, [&] {
     model::ReplaceFile(*file, bytesOf(encoded(mapPicture(), "BMP")));
@@ -144,7 +143,7 @@ void ExportCommands::exportBitmap() {
 
 void ExportCommands::exportText() {
   m_desk.endTrial();
-  const auto file = askWhereToExport(m_window, ExportKind::Text, m_desk.game(), m_messages);
+  const auto file = askWhereToExport(m_window, ExportKind::Text, m_desk, m_desk.game(), m_messages);
   if (!file) return;
   attempt(m_messages, [&] {
     report::WriteTextReport(m_desk.game(), *file, session::RulesRemark(m_desk.now()));
@@ -162,7 +161,7 @@ void ExportCommands::print() {
                           MarginMillimetres);
   printer.setPageMargins(margins, QPageLayout::Millimeter);
   if (m_pageLayout) printer.setPageLayout(*m_pageLayout);
-  if (!askHowToPrint(m_window, proposedPdf(m_desk.game()), printer)) return;
+  if (!askHowToPrint(m_window, proposedPdf(m_desk), printer)) return;
   m_pageLayout = printer.pageLayout();
   const PrintChoice choice = choiceOf(printer);
   // The copies are printed one by one, each as a job of its own.

@@ -25,15 +25,12 @@ namespace {
 /// Qt's own dialog: those of the desktops take neither the texts of the filters as they stand nor
 /// a further box.
 void setUp(QFileDialog& dialog, const QString& title, const QStringList& filters,
-           const model::GameState& game) {
+           const Desk& desk) {
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setWindowTitle(text::ToQString(model::ProgramName) + title);
   dialog.setNameFilters(filters);
-  if (!game.FileName.empty()) {
-    // A name given on the command line may have no directory.
-    dialog.setDirectory(QFileInfo(displayPath(game.FileName)).absolutePath());
-  }
+  if (!desk.folder().empty()) dialog.setDirectory(displayPath(desk.folder().string()));
 }
 
 QString allFiles() {
@@ -52,11 +49,11 @@ QString mailFiles() {
   return QObject::tr("Mails: *.eml, *.mbox (*.eml *.mbox)");
 }
 
-void setUpForGames(QFileDialog& dialog, const QString& title, const model::GameState& game) {
+void setUpForGames(QFileDialog& dialog, const QString& title, const Desk& desk) {
   const QStringList filters{QObject::tr("Concordat files: *.orb (*.orb)"),
                             QObject::tr("Data files: *.dat (*.dat)"), allFiles()};
-  setUp(dialog, title, filters, game);
-  dialog.selectNameFilter(filters[static_cast<qsizetype>(gameFilterFor(game.FileName))]);
+  setUp(dialog, title, filters, desk);
+  dialog.selectNameFilter(filters[static_cast<qsizetype>(gameFilterFor(desk.game().FileName))]);
 }
 
 std::filesystem::path pathOf(const QString& file) {
@@ -67,16 +64,26 @@ std::filesystem::path chosenFile(const QFileDialog& dialog) {
   return pathOf(dialog.selectedFiles().constFirst());
 }
 
+bool mayReplace(const std::filesystem::path& file, QWidget* parent) {
+  MessageBox box(QObject::tr("%1 already exists.\nReplace it?").arg(displayPath(file.string())),
+                 QMessageBox::Warning, parent);
+  box.setObjectName(QStringLiteral("frmReplaceFile"));
+  box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+  // An Enter too many must not cost a file.
+  box.setDefaultButton(QMessageBox::No);
+  box.setEscapeButton(QMessageBox::No);
+  return box.exec() == QMessageBox::Yes;
+}
+
 /// Whether the file may be written as far as the user is concerned.
-bool mayWrite(const std::filesystem::path& file, model::Messages& messages) {
+bool mayWrite(const std::filesystem::path& file, QWidget* parent, model::Messages& messages) {
   std::error_code ignored;
   if (!std::filesystem::is_directory(file.parent_path(), ignored)) {
     messages.Show("There is no folder " + file.parent_path().string() + ".",
                   model::Icon::Exclamation);
     return false;
   }
-  return !std::filesystem::exists(file, ignored) ||
-         messages.Warn(file.string() + " already exists.\rReplace it?");
+  return !std::filesystem::exists(file, ignored) || mayReplace(file, parent);
 }
 
 /// Asks until a file may be written or the dialog is cancelled. `written` turns the name as it was
@@ -88,10 +95,12 @@ std::optional<std::filesystem::path> askForNewFile(
   dialog.setFileMode(QFileDialog::AnyFile);
   // The dialog would ask about the name as typed, which is not always the one written.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
-  dialog.selectFile(text::ToQString(proposal));
+  // With its folder: alone, Qt would take some names for those of other places.
+  dialog.selectFile(dialog.directory().absolutePath() + QLatin1Char('/') +
+                    text::ToQString(proposal));
   while (dialog.exec() == QDialog::Accepted) {
     std::filesystem::path file = written(chosenFile(dialog));
-    if (mayWrite(file, messages)) return file;
+    if (mayWrite(file, dialog.parentWidget(), messages)) return file;
   }
   return std::nullopt;
 }
@@ -125,9 +134,9 @@ ExportTexts textsOf(ExportKind kind, const model::GameState& game) {
 
 }  // namespace
 
-std::optional<OpenChoice> askGameToOpen(QWidget* parent, const model::GameState& game) {
+std::optional<OpenChoice> askGameToOpen(QWidget* parent, const Desk& desk) {
   QFileDialog dialog(parent);
-  setUpForGames(dialog, QObject::tr(" Open"), game);
+  setUpForGames(dialog, QObject::tr(" Open"), desk);
   dialog.setFileMode(QFileDialog::ExistingFile);
   auto* readOnly = new QCheckBox(QObject::tr("Open as &read-only"), &dialog);
   readOnly->setObjectName(QStringLiteral("chkReadOnly"));
@@ -140,19 +149,17 @@ std::optional<OpenChoice> askGameToOpen(QWidget* parent, const model::GameState&
   return OpenChoice{chosenFile(dialog), readOnly->isChecked()};
 }
 
-std::optional<std::filesystem::path> askOrdersToImport(QWidget* parent,
-                                                       const model::GameState& game) {
+std::optional<std::filesystem::path> askOrdersToImport(QWidget* parent, const Desk& desk) {
   QFileDialog dialog(parent);
-  setUp(dialog, QObject::tr(" Import Orders"), {textFiles(), mailFiles(), allFiles()}, game);
+  setUp(dialog, QObject::tr(" Import Orders"), {textFiles(), mailFiles(), allFiles()}, desk);
   dialog.setFileMode(QFileDialog::ExistingFile);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return chosenFile(dialog);
 }
 
-std::vector<std::filesystem::path> askGamesToAnimate(QWidget* parent,
-                                                     const model::GameState& game) {
+std::vector<std::filesystem::path> askGamesToAnimate(QWidget* parent, const Desk& desk) {
   QFileDialog dialog(parent);
-  setUpForGames(dialog, QObject::tr(" Animate"), game);
+  setUpForGames(dialog, QObject::tr(" Animate"), desk);
   dialog.setFileMode(QFileDialog::ExistingFiles);
   std::vector<std::filesystem::path> files;
   if (dialog.exec() != QDialog::Accepted) return files;
@@ -161,11 +168,11 @@ std::vector<std::filesystem::path> askGamesToAnimate(QWidget* parent,
   return files;
 }
 
-std::optional<std::filesystem::path> askWhereToSave(QWidget* parent, const model::GameState& game,
+std::optional<std::filesystem::path> askWhereToSave(QWidget* parent, const Desk& desk,
                                                     model::Messages& messages) {
   QFileDialog dialog(parent);
-  setUpForGames(dialog, QObject::tr(" Save As"), game);
-  return askForNewFile(dialog, proposedGameFile(game), messages, model::LowerCaseName);
+  setUpForGames(dialog, QObject::tr(" Save As"), desk);
+  return askForNewFile(dialog, proposedGameFile(desk.game()), messages, model::LowerCaseName);
 }
 
 ChangedFileChoice askAboutChangedFile(QWidget* parent, const std::filesystem::path& file) {
@@ -183,19 +190,20 @@ ChangedFileChoice askAboutChangedFile(QWidget* parent, const std::filesystem::pa
 }
 
 std::optional<std::filesystem::path> askWhereToExport(QWidget* parent, ExportKind kind,
+                                                      const Desk& desk,
                                                       const model::GameState& game,
                                                       model::Messages& messages) {
   const ExportTexts texts = textsOf(kind, game);
   QFileDialog dialog(parent);
-  setUp(dialog, texts.title, {texts.filter, allFiles()}, game);
+  setUp(dialog, texts.title, {texts.filter, allFiles()}, desk);
   return askForNewFile(dialog, texts.proposal, messages,
                        [](const std::filesystem::path& typed) { return typed; });
 }
 
 std::optional<std::filesystem::path> askFolder(QWidget* parent, const QString& title,
-                                               const model::GameState& game) {
+                                               const Desk& desk) {
   QFileDialog dialog(parent);
-  setUp(dialog, title, {allFiles()}, game);
+  setUp(dialog, title, {allFiles()}, desk);
   dialog.setFileMode(QFileDialog::Directory);
   dialog.setOption(QFileDialog::ShowDirsOnly);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;

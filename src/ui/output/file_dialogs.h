@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/game_state.h"
 #include "model/messages.h"
+#include "ui/session/desk.h"
 
 #include <QString>
 #include <QWidget>
@@ -19,19 +19,17 @@ struct OpenChoice {
   bool readOnly = false;
 };
 
-/// Asks for a game file to open; nothing when cancelled. Every dialog begins in the folder of the
-/// current game.
-std::optional<OpenChoice> askGameToOpen(QWidget* parent, const model::GameState& game);
+/// Asks for a game file to open; nothing when cancelled. Every dialog begins in the desk's folder.
+std::optional<OpenChoice> askGameToOpen(QWidget* parent, const Desk& desk);
 
 /// Asks for a text file of orders; nothing when cancelled.
-std::optional<std::filesystem::path> askOrdersToImport(QWidget* parent,
-                                                       const model::GameState& game);
+std::optional<std::filesystem::path> askOrdersToImport(QWidget* parent, const Desk& desk);
 
 /// Asks for game files to animate; none when cancelled.
-std::vector<std::filesystem::path> askGamesToAnimate(QWidget* parent, const model::GameState& game);
+std::vector<std::filesystem::path> askGamesToAnimate(QWidget* parent, const Desk& desk);
 
 /// Asks where to save the game and whether a file there may be replaced; nothing when cancelled.
-std::optional<std::filesystem::path> askWhereToSave(QWidget* parent, const model::GameState& game,
+std::optional<std::filesystem::path> askWhereToSave(QWidget* parent, const Desk& desk,
                                                     model::Messages& messages);
 
 enum class ChangedFileChoice { Replace, SaveAs, Cancel };
@@ -42,14 +40,15 @@ ChangedFileChoice askAboutChangedFile(QWidget* parent, const std::filesystem::pa
 enum class ExportKind { Bitmap, Text, Orders, Animation, Page, Sheet };
 
 /// Asks for the file to export to, whose name is taken as it stands, and whether one there may be
-/// replaced; nothing when cancelled.
+/// replaced; nothing when cancelled. The name that is proposed is that of a situation of the game.
 std::optional<std::filesystem::path> askWhereToExport(QWidget* parent, ExportKind kind,
+                                                      const Desk& desk,
                                                       const model::GameState& game,
                                                       model::Messages& messages);
 
 /// Asks for a folder; nothing when cancelled.
 std::optional<std::filesystem::path> askFolder(QWidget* parent, const QString& title,
-                                               const model::GameState& game);
+                                               const Desk& desk);
 
 /// A file name of the system for display.
 QString displayPath(const std::string& file);

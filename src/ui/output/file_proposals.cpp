@@ -3,15 +3,30 @@
 #include "model/seasons.h"
 #include "text/strings.h"
 
+#include <algorithm>
+
 namespace orb::ui {
+namespace {
+
+/// What a file's name cannot hold becomes a hyphen: a title and a season are any texts.
+std::string asFileName(std::string text) {
+  const auto cannot = [](char c) {
+    const auto code = static_cast<unsigned char>(c);
+    return c == '/' || code < ' ' || code == 0x7F;
+  };
+  std::replace_if(text.begin(), text.end(), cannot, '-');
+  return text;
+}
+
+}  // namespace
 
 std::string proposedGameFile(const model::GameState& game) {
   const std::string title = text::LowerCase(text::Trim(game.Title).substr(0, 3));
-  return title + "_" + model::SeasonCode(game) + ".orb";
+  return asFileName(title + "_" + model::SeasonCode(game) + ".orb");
 }
 
 std::string proposedExportFile(const model::GameState& game, std::string_view extension) {
-  return model::SeasonCode(game).append(extension);
+  return asFileName(model::SeasonCode(game).append(extension));
 }
 
 GameFilter gameFilterFor(std::string_view fileName) {

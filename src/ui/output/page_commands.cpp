@@ -27,7 +27,7 @@ settings::MapOptions pageOptions(const View& view) {
 }  // namespace
 
 void ExportCommands::publish() {
-  const auto file = askWhereToExport(m_window, ExportKind::Page, m_desk.game(), m_messages);
+  const auto file = askWhereToExport(m_window, ExportKind::Page, m_desk, m_desk.game(), m_messages);
   if (!file) return;
   attempt(m_messages, [&] {
     std::vector<pages::Source> sources = pages::FilesBeside(m_desk.now());
@@ -48,11 +48,12 @@ void ExportCommands::makeOrderSheets() {
   SheetDialog dialog(m_window);
   if (dialog.exec() != QDialog::Accepted) return;
   if (!dialog.isForEach()) {
-    const auto file = askWhereToExport(m_window, ExportKind::Sheet, m_desk.game(), m_messages);
+    const auto file =
+        askWhereToExport(m_window, ExportKind::Sheet, m_desk, m_desk.game(), m_messages);
     if (file) attempt(m_messages, [&] { makeSheets({""}, dialog.address(), *file); });
     return;
   }
-  const auto folder = askFolder(m_window, tr(" Order Sheets"), m_desk.game());
+  const auto folder = askFolder(m_window, tr(" Order Sheets"), m_desk);
   if (!folder) return;
   std::vector<std::string> powers;
   for (const model::Country& country : m_desk.game().Countries)

@@ -1,7 +1,6 @@
 #include "ui/replay/animation_export.h"
 
 #include "render/qt/animated_picture.h"
-#include "settings/map_options.h"
 #include "text/qt/text_codec.h"
 #include "ui/output/file_dialogs.h"
 #include "ui/session/attempt.h"
@@ -37,11 +36,10 @@ void setUp(QProgressDialog& dialog) {
 }  // namespace
 
 std::optional<std::filesystem::path> exportAnimation(const std::vector<history::ReplayPart>& parts,
-                                                     const settings::MapOptions& options,
-                                                     const std::filesystem::path& dataDirectory,
-                                                     model::Messages& messages, QWidget* window) {
+                                                     const Desk& desk, model::Messages& messages,
+                                                     QWidget* window) {
   const auto file =
-      askWhereToExport(window, ExportKind::Animation, parts.back().Replay.End, messages);
+      askWhereToExport(window, ExportKind::Animation, desk, parts.back().Replay.End, messages);
   if (!file) return std::nullopt;
   QProgressDialog dialog(window);
   setUp(dialog);
@@ -53,8 +51,8 @@ std::optional<std::filesystem::path> exportAnimation(const std::vector<history::
   bool saved = false;
   const auto save = [&] {
     render::PictureCache pictures;
-    saved = render::SaveAnimation(replaysOf(parts), options, dataDirectory, render::AnimationWidth,
-                                  pictures, *file, goesOn);
+    saved = render::SaveAnimation(replaysOf(parts), desk.view().mapOptions, desk.dataDirectory(),
+                                  render::AnimationWidth, pictures, *file, goesOn);
   };
   attempt(messages, save, [&] { dialog.reset(); });
   return saved ? file : std::nullopt;

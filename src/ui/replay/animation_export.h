@@ -2,7 +2,7 @@
 
 #include "history/replay_sequence.h"
 #include "model/messages.h"
-#include "settings/map_options.h"
+#include "ui/session/desk.h"
 
 #include <QWidget>
 
@@ -16,8 +16,7 @@ namespace orb::ui {
 /// Returns the file written; nothing after a cancellation or an error, which is shown in a message
 /// box and leaves no file behind.
 std::optional<std::filesystem::path> exportAnimation(const std::vector<history::ReplayPart>& parts,
-                                                     const settings::MapOptions& options,
-                                                     const std::filesystem::path& dataDirectory,
-                                                     model::Messages& messages, QWidget* window);
+                                                     const Desk& desk, model::Messages& messages,
+                                                     QWidget* window);
 
 }  // namespace orb::ui

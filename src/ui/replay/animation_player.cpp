@@ -72,7 +72,7 @@ void AnimationPlayer::playSeason() {
 }
 
 void AnimationPlayer::askAndPlayFiles() {
-  const auto files = askGamesToAnimate(m_window, m_desk.game());
+  const auto files = askGamesToAnimate(m_window, m_desk);
   if (!files.empty()) playFiles(files);
 }
 
@@ -179,8 +179,7 @@ void AnimationPlayer::showOptions() {
 void AnimationPlayer::exportParts() {
   // It would run on unseen behind the dialog.
   setPlaying(false);
-  const auto file = exportAnimation(m_parts, m_desk.view().mapOptions, m_desk.dataDirectory(),
-                                    m_messages, m_window);
+  const auto file = exportAnimation(m_parts, m_desk, m_messages, m_window);
   if (file) emit noted(tr("The animation is in %1.").arg(displayPath(file->string())));
 }
 

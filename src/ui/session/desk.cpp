@@ -6,6 +6,7 @@
 
 #include <QFile>
 
+#include <system_error>
 #include <utility>
 
 namespace orb::ui {
@@ -48,6 +49,17 @@ void Desk::setRulesMemory(std::function<session::Rules(const std::string&)> rule
   run([this](Situation& next) { session::SetRules(next, m_rulesOf(next.Game.FileName)); });
 }
 
+void Desk::recallFolder(const std::filesystem::path& folder) {
+  m_folder = folder;
+  noteFolder();
+}
+
+void Desk::noteFolder() {
+  std::error_code error;
+  const std::filesystem::path file = std::filesystem::absolute(game().FileName, error);
+  if (!game().FileName.empty() && !error) m_folder = file.parent_path();
+}
+
 void Desk::newGame() {
   run([this](Situation& next) { session::NewGame(next, m_dataDirectory); }, tr("New"),
       StepKind::Another);
@@ -77,7 +89,9 @@ bool Desk::recoverGame(const Situation& recovered) {
 }
 
 bool Desk::saveGameAs(const std::filesystem::path& file, session::Overwrite overwrite) {
-  return run([&](Situation& next) { session::SaveGameAs(next, file, overwrite); });
+  const bool saved = run([&](Situation& next) { session::SaveGameAs(next, file, overwrite); });
+  if (saved) emit noted(tr("The game is in %1.").arg(QFile::decodeName(file.c_str())));
+  return saved;
 }
 
 bool Desk::fileOrder(const std::string& text) {
@@ -240,6 +254,7 @@ bool Desk::tell(const std::function<session::Effect()>& work) {
   const bool tried = m_trial.has_value();
   session::Effect effect{false, Changes::All};
   attempt(m_messages, [&] { effect = work(); });
+  noteFolder();
   // Also when the command failed: a check mark may already show what has not happened.
   emit changed(effect.Changed);
   if (tried) emit trialChanged();

@@ -59,6 +59,13 @@ class Desk : public QObject {
 
   const std::filesystem::path& dataDirectory() const { return m_dataDirectory; }
 
+  /// The folder of the game's file or, where the game has none, of the file that was one last;
+  /// empty for none.
+  const std::filesystem::path& folder() const { return m_folder; }
+
+  /// The folder of the last file at an earlier start.
+  void recallFolder(const std::filesystem::path& folder);
+
   /// Called before anything new is taken over: what cannot be drawn is not.
   void setDrawing(Drawing draw) { m_draw = std::move(draw); }
 
@@ -163,6 +170,7 @@ class Desk : public QObject {
            session::StepKind kind = session::StepKind::Plain);
   /// False when it was not done; whatever happened is told by changed.
   bool tell(const std::function<session::Effect()>& work);
+  void noteFolder();
   void goTo(session::Effect (session::Session::*way)(), const QString& told);
   /// Draws the game with another view and keeps that view, or reports why not.
   void show(const View& view);
@@ -171,6 +179,7 @@ class Desk : public QObject {
   std::optional<Trial> m_trial;
   View m_view;
   std::filesystem::path m_dataDirectory;
+  std::filesystem::path m_folder;
   model::Messages& m_messages;
   Drawing m_draw = [](const session::Situation&, const View&) {};
   std::function<session::Rules(const std::string&)> m_rulesOf = [](const std::string&) {

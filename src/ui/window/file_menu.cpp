@@ -16,7 +16,7 @@ FileMenu::FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory,
   QAction* create = newEntry(*this, QStringLiteral("mnuFileNew"), tr("&New"), QKeySequence::New);
   QAction* blank = newEntry(*this, QStringLiteral("mnuFileBlank"), tr("&Blank"));
   m_open = newEntry(*this, QStringLiteral("mnuFileOpen"), tr("&Open..."), QKeySequence::Open);
-  addMenu(new RecentFilesMenu(desk, memory, this));
+  addMenu(new RecentFilesMenu(desk, memory, m_window, this));
   m_save = newEntry(*this, QStringLiteral("mnuFileSave"), tr("&Save"), QKeySequence::Save);
   QAction* saveAs = newEntry(*this, QStringLiteral("mnuFileSaveAs"), tr("Save &As..."),
                              Qt::CTRL | Qt::SHIFT | Qt::Key_S);
@@ -64,7 +64,7 @@ void FileMenu::addExports(ExportCommands& exports) {
 }
 
 void FileMenu::open() {
-  const auto choice = askGameToOpen(m_window, m_desk.game());
+  const auto choice = askGameToOpen(m_window, m_desk);
   if (choice) m_desk.openGame(choice->file, choice->readOnly);
 }
 
@@ -74,7 +74,7 @@ bool FileMenu::save() {
 }
 
 bool FileMenu::saveAs() {
-  const auto file = askWhereToSave(m_window, m_desk.game(), m_messages);
+  const auto file = askWhereToSave(m_window, m_desk, m_messages);
   return file && saveTo(*file);
 }
 

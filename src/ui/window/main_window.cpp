@@ -82,6 +82,7 @@ MainWindow::MainWindow(Start start, const Places& places)
   restoreSize();
   m_desk.setShowOrders(m_memory.flag(ShowOrders));
   m_desk.setCompare(m_memory.flag(Compare, true));
+  m_desk.recallFolder(QFile::encodeName(m_memory.folder()).toStdString());
   m_desk.setRulesMemory([this](const std::string& file) { return m_memory.rules(fullPath(file)); });
   // Measured and, below, drawn directly this once: when the map cannot be drawn at the start, the
   // exception must reach the caller instead of becoming a box over a window that is not there yet.
@@ -253,7 +254,10 @@ void MainWindow::showGame() {
   // line.
   if (game.FileName != m_shownFile) {
     m_shownFile = game.FileName;
-    if (!m_shownFile.empty()) m_memory.addRecentFile(fullPath(m_shownFile));
+    if (!m_shownFile.empty()) {
+      m_memory.addRecentFile(fullPath(m_shownFile));
+      m_memory.setFolder(displayPath(m_desk.folder().string()));
+    }
   }
   // Only a real change brings the panel to the front again: it takes the keyboard and begins its
   // line anew.

@@ -10,13 +10,17 @@ StatusLine::StatusLine(const Desk& desk, QWidget* parent)
       m_desk(desk),
       m_text(new ElidedLabel),
       m_rules(new QLabel),
+      m_readOnly(new QLabel(tr("Read-only"))),
       m_file(new ElidedLabel) {
   constexpr int margin = 10;  // pixels
   m_text->setObjectName(QStringLiteral("lblStatus"));
   m_rules->setObjectName(QStringLiteral("lblRules"));
+  m_readOnly->setObjectName(QStringLiteral("lblReadOnly"));
+  m_readOnly->setToolTip(tr("The game was opened for reading only: Save as keeps it elsewhere."));
   m_file->setObjectName(QStringLiteral("lblFileName"));
   m_file->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  for (QLabel* label : {static_cast<QLabel*>(m_text), m_rules, static_cast<QLabel*>(m_file)}) {
+  for (QLabel* label :
+       {static_cast<QLabel*>(m_text), m_rules, m_readOnly, static_cast<QLabel*>(m_file)}) {
     label->setTextFormat(Qt::PlainText);
     label->setContentsMargins(margin, 0, margin, 0);
     addWidget(label, label == m_text ? 1 : 0);
@@ -37,6 +41,7 @@ void StatusLine::showGame() {
   const bool usual = m_desk.now().Rules == session::Rules::Usual;
   m_rules->setText(usual ? tr("By the usual rules") : QString());
   m_rules->setVisible(usual);
+  m_readOnly->setVisible(!session::CanSave(m_desk.now()));
 }
 
 }  // namespace orb::ui

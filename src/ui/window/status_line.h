@@ -10,7 +10,7 @@ namespace orb::ui {
 class ElidedLabel;
 
 /// Below the window: the place under the pointer or a short message, the rules in force where they
-/// are not ORB's own, and the game's file.
+/// are not ORB's own, whether the game is only read, and its file.
 class StatusLine : public QStatusBar {
   Q_OBJECT
 
@@ -25,6 +25,7 @@ class StatusLine : public QStatusBar {
   const Desk& m_desk;
   ElidedLabel* m_text;
   QLabel* m_rules;
+  QLabel* m_readOnly;
   ElidedLabel* m_file;
 };
 

@@ -8,6 +8,7 @@ namespace {
 // The names in the file; what is there under another name is left alone.
 const QString Geometry = QStringLiteral("window/geometry");
 const QString Zoom = QStringLiteral("map/zoom");
+const QString Folder = QStringLiteral("files/folder");
 const QString RecentFiles = QStringLiteral("files/recent");
 const QString UsualRules = QStringLiteral("files/usualRules");
 
@@ -67,6 +68,14 @@ void WindowMemory::setRules(const QString& file, session::Rules rules) {
   m_store.setValue(UsualRules, files.mid(0, UsualRulesBound));
 }
 
+QString WindowMemory::folder() const {
+  return m_store.value(Folder).toString();
+}
+
+void WindowMemory::setFolder(const QString& folder) {
+  m_store.setValue(Folder, folder);
+}
+
 QStringList WindowMemory::recentFiles() const {
   return m_store.value(RecentFiles).toStringList().mid(0, RecentFileBound);
 }
@@ -76,6 +85,12 @@ void WindowMemory::addRecentFile(const QString& file) {
   files.removeAll(file);
   files.prepend(file);
   m_store.setValue(RecentFiles, QStringList(files.mid(0, RecentFileBound)));
+}
+
+void WindowMemory::removeRecentFile(const QString& file) {
+  QStringList files = recentFiles();
+  files.removeAll(file);
+  m_store.setValue(RecentFiles, files);
 }
 
 void WindowMemory::clearRecentFiles() {

@@ -47,10 +47,15 @@ class WindowMemory {
   session::Rules rules(const QString& file) const;
   void setRules(const QString& file, session::Rules rules);
 
+  /// The folder of the game file used last; empty for none.
+  QString folder() const;
+  void setFolder(const QString& folder);
+
   /// Game files opened or saved, the last one first.
   QStringList recentFiles() const;
   /// Puts a file in front, under its full path; beyond the bound the oldest is forgotten.
   void addRecentFile(const QString& file);
+  void removeRecentFile(const QString& file);
   void clearRecentFiles();
 
  private:
