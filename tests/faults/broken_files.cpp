@@ -103,6 +103,7 @@ std::vector<std::string> Samples(const fs::path& directory) {
   std::vector<std::string> samples;
   std::vector<fs::path> files;
   for (const auto& entry : fs::directory_iterator(directory)) {
+    if (!entry.is_regular_file()) continue;
     if (entry.path().extension() != ".txt" || directory.filename() != "examples") {
       files.push_back(entry.path());
     }
