@@ -31,6 +31,8 @@ TemporaryDirectory::~TemporaryDirectory() {
 
 fs::path TemporaryDirectory::Write(std::string_view name, std::string_view bytes) const {
   fs::path file = path_ / name;
+  // In place of a link, never through it: it may lead to the data of the source tree.
+  if (fs::is_symlink(file)) fs::remove(file);
   std::ofstream(file, std::ios::binary) << bytes;
   return file;
 }

@@ -8,7 +8,12 @@
 #include "ui/widgets/order_marks.h"
 
 #include <QAbstractButton>
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QKeySequence>
+#include <QMimeData>
 #include <QSignalSpy>
 #include <QTest>
 #include <gmock/gmock.h>
@@ -214,6 +219,38 @@ TEST(OrderEntry, ResolveFilesAWholeOrderAndStopsAtAnyOtherLine) {
     EXPECT_EQ(entry.desk.game().Units[1].Location, *c.Line == 'E' && c.Whole ? "Yor" : "Lvp")
         << c.Line;
   }
+}
+
+TEST(OrderEntry, SeveralLinesAreHandedOn) {
+  OrdersEntry entry(EmptyBoard("Spring", "moves"));
+  const QSignalSpy pasted(&entry.panel, &ui::OrderEntryPanel::ordersPasted);
+  const auto paste = [&](const char* text) {
+    QApplication::clipboard()->setText(QLatin1String(text));
+    QTest::keyClick(&entry.text, Qt::Key_V, Qt::ControlModifier);
+  };
+  paste("ENG A(Lvp) - Yor\n");
+  EXPECT_EQ(QString::fromStdString(entry.Text()).trimmed(), "ENG A(Lvp) - Yor");
+  EXPECT_EQ(pasted.size(), 0);
+  paste("ENG A(Lvp) - Yor\r\nENG F(Lon) - NTH");
+  EXPECT_EQ(pasted.size(), 1);
+  QMimeData data;
+  data.setText(QStringLiteral("F Lon - NTH\nF Edi - NWG"));
+  QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&entry.text, &enter);
+  QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&entry.text, &drop);
+  ASSERT_EQ(pasted.size(), 2);
+  EXPECT_EQ(pasted.last().at(0), data.text());
+  QContextMenuEvent menu(QContextMenuEvent::Keyboard, {5, 5}, {5, 5});
+  QApplication::sendEvent(&entry.text, &menu);
+  auto* popup = QApplication::activePopupWidget();
+  ASSERT_NE(popup, nullptr);
+  for (QAction* action : popup->actions()) {
+    if (action->text().startsWith("&Paste")) action->trigger();
+  }
+  popup->close();
+  EXPECT_EQ(pasted.size(), 3);
+  EXPECT_EQ(QString::fromStdString(entry.Text()).trimmed(), "ENG A(Lvp) - Yor") << "as it was";
 }
 
 TEST(OrderEntry, EnterThatFilesNothingSaysWhy) {

@@ -14,6 +14,7 @@
 namespace orb::tests {
 namespace {
 
+using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
@@ -128,21 +129,41 @@ TEST_F(SettingsTest, SizeZoomAndFilesAreRemembered) {
   EXPECT_EQ(recent("mnuFileRecent1"), "&1  1901-2-autumn-0-start.orb") << "the other one";
 }
 
-TEST_F(SettingsTest, AGameDroppedOnTheWindowIsOpened) {
-  const auto drop = [this](const std::filesystem::path& file) {
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(file.string()))});
+TEST_F(SettingsTest, WhatIsDroppedOnTheWindowIsOpenedOrRead) {
+  const auto dropData = [this](const QMimeData& data) {
     QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(window_.get(), &enter);
     QDropEvent event({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(window_.get(), &event);
+    QTest::qWait(1);
+    return enter.isAccepted();
   };
+  const auto drop = [&](const std::filesystem::path& file) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(file.string()))});
+    return dropData(data);
+  };
+  QMimeData text;
+  text.setText(QStringLiteral("ENG\nF Lon - NTH\n"));
+  const auto expect = [](const char* title) {
+    return ModalScript::Step([title](QDialog& dialog) {
+      EXPECT_EQ(dialog.windowTitle(), Titled(title));
+      dialog.accept();
+    });
+  };
+  {
+    const ModalScript answers({expect(" Paste Orders"), expect(" Import Orders")});
+    dropData(text);
+    drop(directory_.Write("Orders.TXT", "FRA\nA Par - Bur\n"));
+  }
+  EXPECT_THAT(Lines("lstOrders"), ElementsAre("ENG F(Lon) - NTH", "FRA A(Par) - Bur"));
   drop(examples_ / "1902-1-spring-2-retreats.orb");
   EXPECT_NE(StagePanel(), "fraOrders");
   const std::string panel = StagePanel();
   const ModalScript answers({[](QDialog& box) { box.reject(); }});
   drop(program_.Path() / "map.bmp");
   EXPECT_EQ(StagePanel(), panel) << "no game: all stays";
+  EXPECT_FALSE(dropData(text)) << "a finished season takes no orders";
 }
 
 }  // namespace

@@ -20,6 +20,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
@@ -408,6 +409,21 @@ TEST_F(WindowTest, CommandsAreTakenBackByNameButNotFromATextBox) {
   EXPECT_EQ(StagePanel(), "fraRetreats");
   EXPECT_FALSE(window_->isWindowModified());
   EXPECT_EQ(Find<QLabel>("lblStatus").text().toStdString(), "Done again: " + names.back());
+}
+
+TEST_F(WindowTest, AHelpThatIsMissingOrHasNoTopicsSaysSo) {
+  std::filesystem::remove(program_.Path() / "orbhelp.txt");
+  for (const char* why : {"Cannot read", "has no topics"}) {
+    if (*why == 'h') program_.Write("orbhelp.txt", "A text that\nbegins no topic\n");
+    Open();
+    const auto told = [&](QDialog& box) {
+      EXPECT_THAT(dynamic_cast<QMessageBox&>(box).text().toStdString(), HasSubstr(why));
+      box.reject();
+    };
+    const ModalScript answers({told, told});
+    Press(Qt::Key_F1);
+    Find<QPushButton>("butOrdersHelp").click();
+  }
 }
 
 TEST_F(WindowTest, AMapModeWithoutItsBitmapIsNotTaken) {

@@ -41,7 +41,7 @@ OrderEntryPanel::OrderEntryPanel(Desk& desk, model::Stage stage, OrderList list,
       m_whole(new WholeList(texts.list, texts.heading)),
       m_list(&m_whole->lines()),
       m_missing(new ElidedLabel),
-      m_text(new QLineEdit) {
+      m_text(new OrderBox) {
   setObjectName(texts.panel);
   m_missing->setObjectName(texts.missing);
   m_text->setObjectName(texts.text);
@@ -122,6 +122,7 @@ void OrderEntryPanel::connectControls(const QString& helpTopic) {
     // However it was emptied, a half clicked order is forgotten with its text.
     if (text.isEmpty()) beginLine();
   });
+  connect(m_text, &OrderBox::severalLines, this, &OrderEntryPanel::ordersPasted);
   connect(m_cancel, &QPushButton::clicked, this, &OrderEntryPanel::cancelOrder);
   connect(m_delete, &QPushButton::clicked, this, &OrderEntryPanel::deleteOrder);
   connect(m_help, &QPushButton::clicked, this, [this, helpTopic] {

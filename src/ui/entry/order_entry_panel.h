@@ -1,12 +1,12 @@
 #pragma once
 
+#include "ui/entry/order_box.h"
 #include "ui/entry/whole_list.h"
 #include "ui/map/map_tool.h"
 #include "ui/session/desk.h"
 #include "ui/widgets/controls.h"
 
 #include <QGridLayout>
-#include <QLineEdit>
 #include <QVBoxLayout>
 #include <QWidget>
 
@@ -62,6 +62,9 @@ class OrderEntryPanel : public QWidget, public MapTool {
  signals:
   /// The caption of the help topic that is wanted.
   void helpWanted(const QString& topic);
+
+  /// Several lines came into the box for one order.
+  void ordersPasted(const QString& text);
 
   /// What is to be said about the selected line; empty for nothing.
   void statusText(const QString& text);
@@ -148,7 +151,7 @@ class OrderEntryPanel : public QWidget, public MapTool {
   WholeList* m_whole;
   QListWidget* m_list;  ///< of orders alone, in the whole one
   ElidedLabel* m_missing;
-  QLineEdit* m_text;
+  OrderBox* m_text;
   QPushButton* m_ok;
   QPushButton* m_cancel;
   QPushButton* m_delete;

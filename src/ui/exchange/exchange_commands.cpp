@@ -26,7 +26,7 @@ void checkLength(std::uintmax_t bytes, std::size_t bound, const std::string& whe
 }
 
 /// The text in some bytes. They may be longer than it, if they are a mail.
-session::IncomingText readText(std::string bytes, const std::string& where) {
+session::IncomingText incomingText(std::string bytes, const std::string& where) {
   checkLength(bytes.size(), session::IncomingBound, where);
   session::IncomingText incoming = session::ReadIncomingText(std::move(bytes), where);
   checkLength(incoming.Text.size(), OrdersTextBound, where);
@@ -44,7 +44,7 @@ session::IncomingText readOrdersFile(const fs::path& file) {
   const std::uintmax_t size = fs::file_size(file, error);
   if (!error) checkLength(size, session::IncomingBound, file.string());
   // Its length is looked at once more: it may have grown, or may not have been known.
-  return readText(model::ReadFile(file), file.string());
+  return incomingText(model::ReadFile(file), file.string());
 }
 
 QString countedOrders(int count) {
@@ -63,8 +63,11 @@ ExchangeCommands::ExchangeCommands(Desk& desk, model::Messages& messages,
 
 void ExchangeCommands::importOrders() {
   const auto file = askOrdersToImport(m_window, m_desk);
-  if (!file) return;
-  attempt(m_messages, [&] { preview(ExchangeKind::Import, readOrdersFile(*file)); });
+  if (file) importFile(*file);
+}
+
+void ExchangeCommands::importFile(const fs::path& file) {
+  attempt(m_messages, [&] { preview(ExchangeKind::Import, readOrdersFile(file)); });
 }
 
 void ExchangeCommands::pasteOrders() {
@@ -74,8 +77,13 @@ void ExchangeCommands::pasteOrders() {
     if (text.find_first_not_of(" \t\r\n") == std::string::npos) {
       throw model::FatalError("There is no text on the clipboard.");
     }
-    preview(ExchangeKind::Paste, readText(std::move(text), "The text on the clipboard"));
+    preview(ExchangeKind::Paste, incomingText(std::move(text), "The text on the clipboard"));
   });
+}
+
+void ExchangeCommands::readText(const QString& text) {
+  attempt(m_messages,
+          [&] { preview(ExchangeKind::Paste, incomingText(text.toStdString(), "The text")); });
 }
 
 void ExchangeCommands::preview(ExchangeKind kind, session::IncomingText text) {

@@ -26,6 +26,10 @@ class ExchangeCommands : public QObject {
 
   void importOrders();
   void pasteOrders();
+  /// The same for a text that came otherwise: dropped, or pasted where one order is expected.
+  void readText(const QString& text);
+  /// The same as importOrders for this file.
+  void importFile(const std::filesystem::path& file);
   void exportOrders();
   void copyOrders();
 

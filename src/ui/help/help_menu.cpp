@@ -59,6 +59,15 @@ void HelpMenu::addTopics(QString& takenKeys) {
     // A window without help is better than none. Whoever asks for a topic learns the reason.
     m_fault = fault.what();
   }
+  if (m_topics.empty()) {
+    if (m_fault.empty()) {
+      m_fault = (m_desk.dataDirectory() / help::HelpFileName).string() +
+                " has no topics: lines that begin with \"%\".";
+    }
+    QAction* missing = newEntry(*this, QStringLiteral("mnuHelpMissing"),
+                                withKey(tr("Help"), takenKeys), Qt::Key_F1);
+    connect(missing, &QAction::triggered, this, [this] { showTopic({}); });
+  }
   for (const help::HelpTopic& topic : m_topics) {
     const QString caption = text::ToQString(topic.Caption);
     QAction* entry = newEntry(*this, QStringLiteral("mnuHelpTopic%1").arg(m_entries.size() + 1),

@@ -23,6 +23,32 @@ bool typesText(const QKeyEvent& event) {
          event.text().at(0) != QChar(0x7F);
 }
 
+/// The beginning of a text that has no more line breaks than these; of a break behind its last line
+/// nobody knows that it was copied along.
+QString fittingPart(const QString& text, qsizetype breaks) {
+  qsizetype end = -1;
+  for (qsizetype i = 0; i <= breaks; ++i) {
+    end = text.indexOf(QLatin1Char('\n'), end + 1);
+    if (end < 0) return text;
+  }
+  return text.left(end);
+}
+
+/// What is said where the end of a text, of that length, did not fit; empty for a mere line break
+/// behind the last line.
+QString lineFault(const QString& text, qsizetype length) {
+  const QString bound =
+      FreeTextBox::tr("A game keeps at most %1 lines of text.").arg(model::TextLineBound);
+  const QString leftOut = text.right(length);
+  if (leftOut == text && !text.isEmpty()) return bound;
+  const auto lines = leftOut.mid(1).split(QLatin1Char('\n')).size() -
+                     (leftOut.endsWith(QLatin1Char('\n')) ? 1 : 0);
+  if (lines <= 0 || length == 0) return {};
+  return bound + QLatin1Char(' ') +
+         (lines == 1 ? FreeTextBox::tr("1 line was left out.")
+                     : FreeTextBox::tr("%1 lines were left out.").arg(lines));
+}
+
 }  // namespace
 
 FreeTextBox::FreeTextBox(QWidget* parent) : QPlainTextEdit(parent) {
@@ -78,23 +104,25 @@ void FreeTextBox::insert(QString text) {
   for (const QChar lineEnd :
        {QChar(QLatin1Char('\r')), QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator)})
     text.replace(lineEnd, QLatin1Char('\n'));
-  const QString part = storablePart(text);
+  const QString storable = storablePart(text);
   QTextCursor cursor = textCursor();
-  // The number of lines afterwards: what is inserted replaces what is selected.
-  const qsizetype count = blockCount() + part.count(QLatin1Char('\n')) -
-                          cursor.selectedText().count(QChar(QChar::ParagraphSeparator));
-  if (count > model::TextLineBound) {
-    emit refused(tr("A game keeps at most %1 lines of text.").arg(model::TextLineBound));
-    return;
-  }
-  cursor.insertText(part);
+  // What is inserted replaces what is selected.
+  const qsizetype taken =
+      blockCount() - cursor.selectedText().count(QChar(QChar::ParagraphSeparator));
+  const QString part = fittingPart(storable, model::TextLineBound - taken);
+  if (!part.isEmpty()) cursor.insertText(part);
   setTextCursor(cursor);
   ensureCursorVisible();
-  const qsizetype leftOut = text.size() - part.size();
-  if (leftOut == 0) return;
-  const QString told = leftOut == 1 ? tr("1 character was left out.")
-                                    : tr("%1 characters were left out.").arg(leftOut);
-  emit refused(told + QLatin1Char(' ') + storageFault(text));
+  QStringList told;
+  const qsizetype characters = text.size() - storable.size();
+  if (characters > 0) {
+    told << (characters == 1 ? tr("1 character was left out.")
+                             : tr("%1 characters were left out.").arg(characters))
+         << storageFault(text);
+  }
+  const QString lines = lineFault(storable, storable.size() - part.size());
+  if (!lines.isEmpty()) told << lines;
+  if (!told.isEmpty()) emit refused(told.join(QLatin1Char(' ')));
 }
 
 }  // namespace orb::ui

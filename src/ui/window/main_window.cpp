@@ -34,12 +34,11 @@
 #include "ui/window/status_line.h"
 #include "ui/window/toolbar.h"
 #include "ui/window/unsaved_work.h"
+#include "ui/window/window_drops.h"
 
 #include <QCloseEvent>
-#include <QDragEnterEvent>
 #include <QFile>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -69,8 +68,6 @@ MainWindow::MainWindow(Start start, const Places& places)
       m_desk(std::move(start), places.program, m_messages, nullptr),
       m_places(places),
       m_memory(places.config) {
-  // A game file can be dropped anywhere on the window.
-  setAcceptDrops(true);
   setWindowIcon(programIcon());
   createPanels();
   m_status = new StatusLine(m_desk, this);
@@ -186,6 +183,12 @@ void MainWindow::createMenus() {
   m_exchange = new ExchangeCommands(m_desk, m_messages, m_places.config, this);
   connect(m_exchange, &ExchangeCommands::noted, this, &MainWindow::showStatus);
   connect(m_powers, &PowerStrip::powerChosen, m_exchange, &ExchangeCommands::expectPower);
+  new WindowDrops(m_desk, *m_exchange, this);
+  for (const OrderEntryPanel* panel : {m_orders, m_retreats, m_adjustments}) {
+    // Not from within the event that pasted them.
+    connect(panel, &OrderEntryPanel::ordersPasted, m_exchange, &ExchangeCommands::readText,
+            Qt::QueuedConnection);
+  }
   m_fileMenu = new FileMenu(m_desk, m_messages, m_memory, *m_exports, *m_exchange, this);
   connect(m_fileMenu->animateEntry(), &QAction::triggered, m_player,
           &AnimationPlayer::askAndPlayFiles);
@@ -234,17 +237,6 @@ void MainWindow::keepAll() {
   } catch (const model::FatalError&) {
     // Nobody is there to be told.
   }
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-  if (!draggedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
-}
-
-void MainWindow::dropEvent(QDropEvent* event) {
-  const QString file = draggedFile(*event->mimeData());
-  if (file.isEmpty()) return;
-  event->acceptProposedAction();
-  m_desk.openGame(QFile::encodeName(file).toStdString(), false);
 }
 
 void MainWindow::showGame() {
