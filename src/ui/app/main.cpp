@@ -93,6 +93,8 @@ int runProgram(const std::filesystem::path& gameFile, bool display) {
 
 int main(int argc, char* argv[]) {
   QApplication::setApplicationName(QStringLiteral("orb"));
+  // By this name a desktop finds the window's icon and menu entry.
+  QApplication::setDesktopFileName(QStringLiteral("org.orb_desk.Orb"));
   const bool tried = choosePlatform();
   // Tests ask for the hidden platform by name; one that Qt merely fell back on is no display.
   const bool hiddenAskedFor = qgetenv("QT_QPA_PLATFORM") == "offscreen";

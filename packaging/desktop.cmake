@@ -1,0 +1,21 @@
+# What makes the window a part of the desktop: menu entry, file type, icons, and what software centres show.
+set(ORB_HOMEPAGE "https://orb-desk.example" CACHE STRING
+  "Where README.md and docs are published: stands in the AppStream metadata")
+set(id org.orb_desk.Orb)
+set(ORB_EXAMPLES "${CMAKE_INSTALL_FULL_DOCDIR}/examples")
+file(STRINGS "${PROJECT_SOURCE_DIR}/CHANGELOG.md" release REGEX "^## ${PROJECT_VERSION} ")
+string(REGEX MATCH "[0-9]+-[0-9]+-[0-9]+" ORB_RELEASE_DATE "${release}")
+foreach(file "${id}.desktop" "${id}.metainfo.xml")
+  configure_file("${file}.in" "${file}" @ONLY)
+endforeach()
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${id}.desktop" DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${id}.metainfo.xml" DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
+install(FILES "${id}.xml" DESTINATION "${CMAKE_INSTALL_DATADIR}/mime/packages")
+
+set(icons "${CMAKE_INSTALL_DATADIR}/icons/hicolor")
+install(FILES "icons/${id}.svg" DESTINATION "${icons}/scalable/apps")
+install(FILES "icons/${id}.svg" DESTINATION "${icons}/scalable/mimetypes" RENAME application-x-orb-game.svg)
+foreach(size 16 22 24 32 48 64 128 256 512)
+  install(FILES "icons/${size}.png" DESTINATION "${icons}/${size}x${size}/apps" RENAME "${id}.png")
+  install(FILES "icons/${size}.png" DESTINATION "${icons}/${size}x${size}/mimetypes" RENAME application-x-orb-game.png)
+endforeach()
