@@ -57,6 +57,15 @@ std::string HomePowerOf(const model::Map& map, std::string_view location) {
   return map.Provinces[centre].HomeCountry;
 }
 
+/// The place of a unit, as the other type would be written there: "Stp" becomes "Stp." for a fleet.
+std::string PlaceFor(const model::Map& map, std::string_view place, std::string_view unitType) {
+  const std::string province(place.substr(0, place.find('.')));
+  if (unitType != "F") return province;
+  const bool lacksCoast = province == place && !CanStandIn(map, unitType, province) &&
+                          !CoastsToChoose(map, "(" + province + ".").empty();
+  return lacksCoast ? province + "." : std::string(place);
+}
+
 }  // namespace
 
 OrderEntry ClickOrder(const GameState& game, OrderEntry entry, std::string_view location,
@@ -104,16 +113,34 @@ std::string_view LastUnitType(std::string_view text) {
   return before.substr(before.find_last_of(" )") + 1);
 }
 
-std::string WithUnitType(const std::string& text, std::string_view unitType) {
+std::string WithUnitType(const model::Map& map, const std::string& text,
+                         std::string_view unitType) {
   std::string line = text;
   const std::size_t open = line.find('(');
   if (open != std::string::npos) {
+    const std::size_t close = line.find(')', open);
+    std::string end = close == std::string::npos ? "" : line.substr(close);
+    const std::string place =
+        PlaceFor(map, std::string_view(line).substr(open + 1, close - open - 1), unitType);
+    // Whatever stood behind the place, a coast comes first.
+    if (place.ends_with('.')) end.clear();
     const std::size_t start = line.substr(0, open).find_last_of(' ') + 1;
-    return line.replace(start, open - start, unitType);
+    return line.substr(0, start).append(unitType).append("(").append(place).append(end);
   }
   if (text::Trim(line).empty()) return line;
   if (!line.ends_with(' ')) line += ' ';
   return line.append(unitType).append("(");
+}
+
+std::string CoastsToChoose(const model::Map& map, std::string_view text) {
+  const std::string_view place = text.substr(text.rfind('(') + 1);
+  std::string coasts;
+  if (!place.ends_with('.')) return coasts;
+  for (const model::Province& location : map.Provinces) {
+    if (!location.Name.starts_with(place)) continue;
+    coasts.append(coasts.empty() ? "" : ", ").append(location.Name);
+  }
+  return coasts;
 }
 
 }  // namespace orb::orders

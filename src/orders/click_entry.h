@@ -42,7 +42,11 @@ std::string ClickAdjustment(const model::GameState& game, const std::string& tex
 std::string_view LastUnitType(std::string_view text);
 
 /// The line with this type ("A" or "F") as that of its first unit: it takes the place of the one
-/// that is written, or is appended with its "(". An empty line stays empty.
-std::string WithUnitType(const std::string& text, std::string_view unitType);
+/// that is written, or is appended with its "(". An army loses its coast; a fleet where it needs
+/// one ends the line at its point: "RUS build F(Stp.". An empty line stays empty.
+std::string WithUnitType(const model::Map& map, const std::string& text, std::string_view unitType);
+
+/// The coasts of the province at which such a line ends, "Stp.n, Stp.s"; empty for other lines.
+std::string CoastsToChoose(const model::Map& map, std::string_view text);
 
 }  // namespace orb::orders

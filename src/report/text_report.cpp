@@ -200,7 +200,7 @@ std::string TextReport(const GameState& game, std::string_view remark) {
              report);
   if (!remark.empty()) AddWrapped(remark, 0, report);
   for (const Section& section :
-       {Report(game), Units(game), DislodgedUnits(game), SupplyCentres(game), AdjustmentsDue(game),
+       {Report(game), SupplyCentres(game), AdjustmentsDue(game), Units(game), DislodgedUnits(game),
         Players(game), FreeText(game)}) {
     section.AddTo(report);
   }

@@ -11,8 +11,8 @@ namespace orb::report {
 /// The length, in bytes, of the longest line of a text report: the limit recommended for mails.
 constexpr std::size_t TextReportWidth = 78;
 
-/// The situation as plain text for a mail or a printer: title, season and stage, the report, units,
-/// supply centres, adjustments due, players and free text. Orders not yet resolved are left out:
+/// The situation as plain text for a mail or a printer: title, season and stage, the report, supply
+/// centres, adjustments due, units, players and free text. Orders not yet resolved are left out:
 /// they are secret. Lines end in LF and are at most TextReportWidth bytes long. A remark stands
 /// below the season.
 std::string TextReport(const model::GameState& game, std::string_view remark = {});

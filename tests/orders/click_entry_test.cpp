@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -59,10 +60,22 @@ TEST(ClickEntry, TheTypeOfAUnitIsReadAndReplaced) {
   EXPECT_EQ(LastUnitType("ENG F(NTH) C A(Yor) - Nwy "), "A");
   EXPECT_EQ(LastUnitType("ENG F(NTH)"), "F");
   EXPECT_EQ(LastUnitType("ENG"), "");
-  EXPECT_EQ(WithUnitType("ENG build A(Lon)", "F"), "ENG build F(Lon)");
-  EXPECT_EQ(WithUnitType("ENG build F(", "A"), "ENG build A(");
-  EXPECT_EQ(WithUnitType("ENG build", "A"), "ENG build A(");
-  EXPECT_EQ(WithUnitType(" ", "A"), " ");
+  const model::Map& map = *tests::RealMap();
+  const std::vector<std::array<const char*, 3>> cases{
+      {"ENG build A(Lon)", "F", "ENG build F(Lon)"},
+      {"ENG build F(", "A", "ENG build A("},
+      {"ENG build", "A", "ENG build A("},
+      {" ", "A", " "},
+      {"RUS build F(Stp.n)", "A", "RUS build A(Stp)"},
+      {"RUS build A(Stp)", "F", "RUS build F(Stp."},
+      {"RUS build F(Stp.", "A", "RUS build A(Stp"},
+      {"RUS build F(Stp.n)", "F", "RUS build F(Stp.n)"},
+      {"RUS build A(Mos)", "F", "RUS build F(Mos)"}};
+  for (const auto& [line, type, expected] : cases)
+    EXPECT_EQ(WithUnitType(map, line, type), expected) << line;
+  EXPECT_EQ(CoastsToChoose(map, "RUS build F(Stp."), "Stp.n, Stp.s");
+  EXPECT_EQ(CoastsToChoose(map, "RUS build F(Stp.n)") + CoastsToChoose(map, "RUS build F(Mos."),
+            "");
 }
 
 }  // namespace

@@ -351,7 +351,11 @@ TEST_F(WindowTest, TextsThatCannotBeReadAreRefused) {
       dialog.accept();
     };
   };
+  const auto& paste = Find<QAction>("mnuEditPasteOrders");
   QApplication::clipboard()->clear();
+  EXPECT_FALSE(paste.isEnabled());
+  QApplication::clipboard()->setText(QStringLiteral(" \n"));
+  EXPECT_TRUE(paste.isEnabled());
   std::filesystem::remove(program_.Path() / "fixpaste.dat");
   program_.Write("fixpaste.dat", "\"no pair");
   const ModalScript answers(

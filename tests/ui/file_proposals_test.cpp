@@ -18,6 +18,7 @@ TEST(FileProposals, NameOfASavedGame) {
       {"Q", "Spring", 7, "q_s7.orb"},
       {"", "", 1901, "_01.orb"},
       {"A/B", "/x", 1901, "a-b_-01.orb"},
+      {".:?", "Spring", 1901, "---_s01.orb"},
       {"\tI\x01\x7f!", "Spring", 1901, "-i-_s01.orb"}};
   for (const auto& [title, season, year, proposed] : cases) {
     model::GameState game = EmptyBoard(season, "moves");

@@ -3,6 +3,7 @@
 #include "ui/window_fixture.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMenu>
@@ -72,14 +73,22 @@ TEST_F(SettingsTest, ViewOnlyLeavesTheMapAlone) {
   const int normal = window_->width();
   const auto& column = Find<QWidget>("tabFacts");
   const auto& map = Find<QWidget>("picMap");
+  QApplication::clipboard()->setText(QStringLiteral("FRA A Par - Bur"));
+  const auto takesOrders = [this] {
+    return Find<QAction>("mnuFileImportOrders").isEnabled() &&
+           Find<QAction>("mnuEditPasteOrders").isEnabled();
+  };
+  EXPECT_TRUE(takesOrders());
   Trigger("mnuMapViewOnly");
+  EXPECT_FALSE(Find<QAction>("mnuFileImportOrders").isEnabled() ||
+               Find<QAction>("mnuEditPasteOrders").isEnabled());
   EXPECT_FALSE(column.isVisible());
   EXPECT_FALSE(Find<QMenu>("mnuGame").isEnabled());
   EXPECT_LT(window_->width(), normal);
   EXPECT_NEAR(window_->width(), map.width(), 40);
   Trigger("mnuMapViewOnly");
   EXPECT_TRUE(column.isVisible());
-  EXPECT_TRUE(Find<QMenu>("mnuGame").isEnabled());
+  EXPECT_TRUE(Find<QMenu>("mnuGame").isEnabled() && takesOrders());
   EXPECT_EQ(window_->width(), normal);
 
   Trigger("mnuMapViewOnly");

@@ -2,8 +2,8 @@
 
 #include "text/qt/text_codec.h"
 #include "ui/widgets/controls.h"
+#include "ui/widgets/fixed_font.h"
 
-#include <QFontDatabase>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -140,7 +140,7 @@ QLayout* SeasonDialog::newTextColumn() {
   QLabel* heading = newHeading(tr("Free te&xt"));
   heading->setBuddy(m_text);
   // In a font of equal widths, as the report shows it, so that tables line up.
-  m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  m_text->setFont(fixedFont());
   m_text->setMinimumWidth(TextColumns * QFontMetrics(m_text->font()).averageCharWidth());
   auto* head = new QHBoxLayout;
   head->addWidget(heading);

@@ -1,6 +1,7 @@
 #include "ui/entry/adjustments_panel.h"
 
 #include "orders/click_entry.h"
+#include "text/qt/text_codec.h"
 #include "ui/entry/adjustment_counts.h"
 
 namespace orb::ui {
@@ -39,9 +40,19 @@ QRadioButton* AdjustmentsPanel::addTypeOption(const QString& name, const QString
       tr("What the order builds; writes %1( into it")
           .arg(QLatin1String(unitType.data(), static_cast<qsizetype>(unitType.size()))));
   addToCommands(option);
-  connect(option, &QRadioButton::clicked, this,
-          [this, unitType] { write(orders::WithUnitType(line(), unitType)); });
+  connect(option, &QRadioButton::clicked, this, [this, unitType] { chooseType(unitType); });
   return option;
+}
+
+void AdjustmentsPanel::chooseType(std::string_view unitType) {
+  const model::Map& map = *game().Map;
+  const std::string typed = orders::WithUnitType(map, line(), unitType);
+  write(typed);
+  const std::string coasts = orders::CoastsToChoose(map, typed);
+  if (!coasts.empty()) {
+    emit statusText(
+        tr("Which coast: %1? Type it, or click it on the map.").arg(text::ToQString(coasts)));
+  }
 }
 
 void AdjustmentsPanel::mapClicked(const MapSpot& at) {

@@ -24,6 +24,8 @@ class AdjustmentsPanel : public OrderEntryPanel {
   QRadioButton* addTypeOption(const QString& name, const QString& caption,
                               std::string_view unitType);
 
+  void chooseType(std::string_view unitType);
+
   QRadioButton* m_fleet;
 };
 

@@ -2,12 +2,12 @@
 
 #include "text/qt/text_codec.h"
 #include "ui/widgets/controls.h"
+#include "ui/widgets/fixed_font.h"
 #include "ui/widgets/hanging_delegate.h"
 
 #include <QAction>
 #include <QClipboard>
 #include <QEvent>
-#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QScrollArea>
 #include <QTimer>
@@ -50,7 +50,7 @@ ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
   m_lines->setObjectName(QStringLiteral("lstReport"));
   m_lines->setAccessibleName(tr("Report"));
   // The report marks failed orders with brackets in columns, which need letters of equal widths.
-  m_lines->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  m_lines->setFont(fixedFont());
   m_lines->setSelectionMode(QAbstractItemView::ExtendedSelection);
   // Long lines are wrapped rather than scrolled to.
   m_lines->setWordWrap(true);

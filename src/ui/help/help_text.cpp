@@ -1,8 +1,9 @@
 #include "ui/help/help_text.h"
 
 #include "text/qt/text_codec.h"
+#include "ui/widgets/fixed_font.h"
 
-#include <QFontDatabase>
+#include <QFontInfo>
 #include <QFontMetrics>
 
 #include <algorithm>
@@ -100,7 +101,7 @@ HelpLook helpLook(const QPalette& palette, const QFont& font) {
   // The link colour of a palette is often the same blue on any ground.
   look.link = dark ? QColor(0x8a, 0xbf, 0xff) : QColor(0x0b, 0x57, 0xb0);
   look.box = blend(ground, palette.color(QPalette::Text), dark ? 0.09 : 0.06);
-  look.typedFamily = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+  look.typedFamily = QFontInfo(fixedFont()).family();
   // The two fonts have different heights at the same size.
   QFont typedFont(font);
   typedFont.setFamily(look.typedFamily);

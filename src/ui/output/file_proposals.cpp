@@ -4,17 +4,21 @@
 #include "text/strings.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace orb::ui {
 namespace {
 
-/// What a file's name cannot hold becomes a hyphen: a title and a season are any texts.
+/// What a file's name cannot hold, on this or on another system, becomes a hyphen: a title and a
+/// season are any texts. A point in front would hide the file.
 std::string asFileName(std::string text) {
   const auto cannot = [](char c) {
     const auto code = static_cast<unsigned char>(c);
-    return c == '/' || code < ' ' || code == 0x7F;
+    return code < ' ' || code == 0x7F ||
+           std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos;
   };
   std::replace_if(text.begin(), text.end(), cannot, '-');
+  if (text.starts_with('.')) text.front() = '-';
   return text;
 }
 

@@ -8,7 +8,7 @@
 namespace orb::ui {
 
 /// The free text of a game: holds what a game file can hold, and no more lines. Of a text that is
-/// pasted, characters that cannot be stored are left out; one with too many lines is refused whole.
+/// pasted, characters that cannot be stored and lines for which there is no room are left out.
 class FreeTextBox : public QPlainTextEdit {
   Q_OBJECT
 

@@ -6,7 +6,9 @@
 #include "ui/widgets/plain_text.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPointer>
 
 namespace orb::ui {
@@ -42,6 +44,8 @@ EditMenu::EditMenu(Desk& desk, ExportCommands& commands, ExchangeCommands& excha
   connect(m_pasteOrders, &QAction::triggered, &exchange, &ExchangeCommands::pasteOrders);
   // Every command is a step, whatever it changed.
   connect(&m_desk, &Desk::changed, this, &EditMenu::showState);
+  connect(&m_desk, &Desk::viewChanged, this, &EditMenu::showState);
+  connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &EditMenu::showState);
   showState();
 }
 
@@ -64,7 +68,10 @@ void EditMenu::showState() {
   name(*m_doAgain, tr("&Do again"), m_desk.nextStep());
   // The map and the report can be copied at any time.
   m_copyOrders->setEnabled(session::HasOrderLines(m_desk.game()));
-  m_pasteOrders->setEnabled(session::TakesOrders(m_desk.game()));
+  const QMimeData* clipboard = QGuiApplication::clipboard()->mimeData();
+  const bool hasText = clipboard != nullptr && clipboard->hasText();
+  m_pasteOrders->setEnabled(session::TakesOrders(m_desk.game()) && !m_desk.view().viewOnly &&
+                            hasText);
 }
 
 }  // namespace orb::ui

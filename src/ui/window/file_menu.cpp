@@ -34,6 +34,7 @@ FileMenu::FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory,
   connect(exit, &QAction::triggered, m_window, &QWidget::close);
   using session::Changes;
   m_desk.whenChanged(Changes::Season | Changes::Orders | Changes::File, this, &FileMenu::showState);
+  connect(&m_desk, &Desk::viewChanged, this, &FileMenu::showState);
   showState();
 }
 
@@ -96,7 +97,7 @@ bool FileMenu::saveTo(const std::filesystem::path& file) {
 
 void FileMenu::showState() {
   m_save->setEnabled(session::CanSave(m_desk.now()));
-  m_importOrders->setEnabled(session::TakesOrders(m_desk.game()));
+  m_importOrders->setEnabled(session::TakesOrders(m_desk.game()) && !m_desk.view().viewOnly);
   m_orderSheets->setEnabled(session::TakesOrders(m_desk.game()));
   m_exportOrders->setEnabled(session::HasOrderLines(m_desk.game()));
   m_animateMove->setEnabled(session::IsFinished(m_desk.now()));
