@@ -334,11 +334,14 @@ void MainWindow::showAnimation() {
   }
   setAcceptDrops(!playing);
   showViewOnly();
+  leaveSpareWidth();
 }
 
 void MainWindow::showTrial() {
   const bool report = m_desk.shown().Game.ReportLines.Count() > 0;
   if (std::exchange(m_showsReport, report) != report) m_tabs->setCurrentIndex(report ? 1 : 0);
+  // The banner has come or gone.
+  leaveSpareWidth();
 }
 
 }  // namespace orb::ui

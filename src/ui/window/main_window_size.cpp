@@ -70,7 +70,14 @@ int MainWindow::mapOnlyWidth() {
 }
 
 int MainWindow::mapHeight() const {
-  return centralWidget()->height() - 2 * Margin;
+  const QLayout& rows = *centralWidget()->layout();
+  int height = centralWidget()->height() - 2 * Margin;
+  // What stands above and below the map comes and goes.
+  for (int i = 0; i < rows.count(); ++i) {
+    const QWidget* row = rows.itemAt(i)->widget();
+    if (row != m_sides && !row->isHidden()) height -= row->sizeHint().height() + rows.spacing();
+  }
+  return height;
 }
 
 /// What the fitted map cannot use goes to the column.
