@@ -1,13 +1,14 @@
+#include "difference_kinds.h"
+
 #include "adjudication/possible_orders.h"
 #include "model/counts.h"
 #include "model/files.h"
 #include "model/game_file.h"
-#include "model/lookups.h"
 #include "model/map_files.h"
 #include "model/new_game.h"
 #include "model/seasons.h"
-#include "orders/binding.h"
 #include "orders/order_list.h"
+#include "session/commands.h"
 #include "session/comparison.h"
 
 #include <algorithm>
@@ -15,14 +16,17 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <iterator>
 #include <map>
+#include <memory>
 #include <random>
+#include <set>
 #include <string>
 #include <vector>
 
 // How often do ORB's own rules and the usual ones differ, and in what? Plays seeded random seasons,
-// resolves each stage by both, and tells of those that differ by the kinds that the help topic on
-// the differences has. docs/rules.md has the results.
+// or a game that was kept with its orders, resolves each stage by both, and tells of those that
+// differ by the kinds that the help topic on the differences has. docs/rules.md has the results.
 
 namespace {
 
@@ -33,193 +37,8 @@ namespace session = orb::session;
 
 using adjudication::Resolution;
 using model::GameState;
-using orders::OrderLine;
-using orders::OrderResult;
-
-/// One stage resolved by both rules.
-struct Pair {
-  const GameState& Before;
-  const GameState& After;  ///< by ORB's own rules
-  const Resolution& Orb;
-  const Resolution& Usual;
-  adjudication::OrderSet Different;  ///< the orders that are looked at: those that differ, or all
-
-  int Lines() const { return std::min(Orb.Orders.Count(), Usual.Orders.Count()); }
-};
-
-template <class Fits>
-bool AnyLine(const Pair& pair, Fits fits) {
-  for (int k = 1; k <= pair.Lines(); ++k) {
-    const bool looked = pair.Different.test(static_cast<std::size_t>(k));
-    if (looked && !pair.Orb.Orders[k].Supplied && fits(pair.Orb.Orders[k], pair.Usual.Orders[k], k))
-      return true;
-  }
-  return false;
-}
-
-bool IsMoves(const Pair& pair) {
-  return pair.Orb.Stage == model::Stage::Moves;
-}
-
-bool HasPathByUsualRules(const Pair& pair, int k) {
-  const adjudication::Ruling ruling = pair.Usual.Reasons[k].Ruling;
-  return pair.Usual.Orders[k].Active && ruling != adjudication::Ruling::NoPath &&
-         ruling != adjudication::Ruling::Paradox;
-}
-
-bool ChainNotWhole(const Pair& pair) {
-  return IsMoves(pair) && AnyLine(pair, [&](const OrderLine& orb, const OrderLine& usual, int k) {
-           const bool swims = orb.ViaConvoy && orb.Active;
-           return swims && (!usual.Active || (usual.ViaConvoy && !HasPathByUsualRules(pair, k) &&
-                                              pair.Usual.Reasons[k].LostFleet == 0));
-         });
-}
-
-bool EveryFleetCounts(const Pair& pair) {
-  return IsMoves(pair) && AnyLine(pair, [&](const OrderLine&, const OrderLine& usual, int k) {
-           return pair.Orb.Reasons[k].LostFleet != 0 && usual.ViaConvoy &&
-                  HasPathByUsualRules(pair, k);
-         });
-}
-
-bool OthersShips(const Pair& pair) {
-  return IsMoves(pair) && AnyLine(pair, [](const OrderLine& orb, const OrderLine& usual, int) {
-           return orb.ViaConvoy && usual.Active && !usual.ViaConvoy;
-         });
-}
-
-/// An attack on a convoying fleet whose outcome the order of the phases may have changed.
-bool ConvoyAttacksFirst(const Pair& pair) {
-  if (!IsMoves(pair)) return false;
-  return AnyLine(pair, [&](const OrderLine& orb, const OrderLine&, int) {
-    if (!orders::IsMove(orb) || !orb.Active) return false;
-    const int unit = model::FindUnitAt(pair.Before, orb.Target);
-    if (unit == 0) return false;
-    const OrderLine& attacked = pair.Orb.Orders[pair.Orb.OrdersOfUnits[unit]];
-    return orders::IsConvoy(attacked);
-  });
-}
-
-bool OwnUnitsCut(const Pair& pair) {
-  return IsMoves(pair) && AnyLine(pair, [&](const OrderLine& orb, const OrderLine&, int k) {
-           const int cutter = pair.Orb.Reasons[k].Cutter;
-           return cutter != 0 && pair.Orb.Orders[cutter].Power == orb.Power;
-         });
-}
-
-bool OwnUnitDislodged(const Pair& pair) {
-  return IsMoves(pair) && AnyLine(pair, [&](const OrderLine& orb, const OrderLine&, int k) {
-           const int dislodger = pair.Orb.Reasons[k].Dislodger;
-           return dislodger != 0 && pair.Orb.Orders[dislodger].Power == orb.Power;
-         });
-}
-
-bool IsImpossibleMove(const OrderLine& order) {
-  return orders::IsMove(order) && order.Rejection == OrderResult::ImpossibleMove;
-}
-
-bool SupportOfImpossibleMove(const Pair& pair) {
-  return IsMoves(pair) && AnyLine(pair, [&](const OrderLine& orb, const OrderLine&, int) {
-           return orders::IsSupport(orb) && orb.LinkedOrder != 0 &&
-                  IsImpossibleMove(pair.Orb.Orders[orb.LinkedOrder]);
-         });
-}
-
-bool HoldSupportOfImpossibleMove(const Pair& pair) {
-  return IsMoves(pair) && AnyLine(pair, [](const OrderLine& orb, const OrderLine& usual, int) {
-           return orders::IsSupport(orb) && orb.Rejection == OrderResult::NotUsed &&
-                  orb.Kind2 == orders::OrderKind::Hold && usual.Rejection != OrderResult::NotUsed;
-         });
-}
-
-bool SupportNamesCoast(const Pair& pair) {
-  return IsMoves(pair) && AnyLine(pair, [](const OrderLine& orb, const OrderLine& usual, int) {
-           return orders::IsSupport(orb) && orb.Rejection == OrderResult::NotUsed &&
-                  orb.Kind2 == orders::OrderKind::Move && usual.Rejection != OrderResult::NotUsed;
-         });
-}
-
-bool CoastLeftOut(const Pair& pair) {
-  return AnyLine(pair, [](const OrderLine& orb, const OrderLine& usual, int) {
-    const bool refused =
-        orb.Rejection == OrderResult::NoSuchUnit || orb.Rejection == OrderResult::ImpossibleMove;
-    return refused && usual.Rejection != orb.Rejection;
-  });
-}
-
-bool TwoOrders(const Pair& pair) {
-  return AnyLine(pair, [](const OrderLine&, const OrderLine& usual, int) {
-    return usual.Rejection == OrderResult::Contradicted || usual.Rejection == OrderResult::Repeated;
-  });
-}
-
-/// A unit that ORB dislodged by an army from the sea, or whose retreat leads there.
-bool RetreatToConvoy(const Pair& pair) {
-  return IsMoves(pair) && AnyLine(pair, [&](const OrderLine&, const OrderLine&, int k) {
-           const int dislodger = pair.Usual.Reasons[k].Dislodger;
-           return dislodger != 0 && pair.Usual.Orders[dislodger].ViaConvoy;
-         });
-}
-
-bool BuildsClash(const Pair& pair) {
-  return AnyLine(pair, [](const OrderLine& orb, const OrderLine&, int) {
-    return orb.Rejection == OrderResult::Clash;
-  });
-}
-
-bool NeverChooses(const Pair& pair) {
-  if (pair.Orb.Stage != model::Stage::Adjustments) return false;
-  return !pair.Orb.Completed || pair.Usual.Orders.Count() > pair.Orb.Orders.Count() ||
-         AnyLine(pair, [](const OrderLine&, const OrderLine& usual, int) {
-           return usual.Rejection == OrderResult::TooMany;
-         });
-}
-
-/// A unit that bounced was dislodged: by the usual rules it keeps the others out all the same.
-bool DislodgedInTheWay(const Pair& pair) {
-  return IsMoves(pair) && AnyLine(pair, [&](const OrderLine& orb, const OrderLine& usual, int k) {
-           return orders::IsMove(orb) && orb.Failed && usual.Active &&
-                  (pair.Orb.Reasons[k].Dislodger != 0 || pair.Usual.Reasons[k].Dislodger != 0);
-         });
-}
-
-/// A support was cut, and taken off its move's strength once more.
-bool SupportTakenOffTwice(const Pair& pair) {
-  if (!IsMoves(pair)) return false;
-  for (int k = 1; k <= pair.Lines(); ++k) {
-    const adjudication::Reason& reason = pair.Orb.Reasons[k];
-    const int supported = pair.Orb.Orders[k].LinkedOrder;
-    if (reason.SupportWithdrawn && reason.Cutter != 0 && supported != 0 &&
-        pair.Different.test(static_cast<std::size_t>(supported))) {
-      return true;
-    }
-  }
-  return false;
-}
-
-struct Kind {
-  const char* Name;
-  bool (*Fits)(const Pair&);
-};
-
-constexpr std::array Kinds{
-    Kind{"Of two orders for one unit, both act", TwoOrders},
-    Kind{"Coasts are written exactly", CoastLeftOut},
-    Kind{"A support names the coast", SupportNamesCoast},
-    Kind{"Convoys are not fully checked", ChainNotWhole},
-    Kind{"Every fleet counts", EveryFleetCounts},
-    Kind{"Others may put your army on a ship", OthersShips},
-    Kind{"An impossible move keeps its support", SupportOfImpossibleMove},
-    Kind{"A support to hold does not help an impossible move", HoldSupportOfImpossibleMove},
-    Kind{"Your own units cut your supports", OwnUnitsCut},
-    Kind{"A unit that bounced can be dislodged by its own power", OwnUnitDislodged},
-    Kind{"Nobody retreats to where a convoyed attack came from", RetreatToConvoy},
-    Kind{"Attacks on convoying fleets come first", ConvoyAttacksFirst},
-    Kind{"A dislodged unit no longer stands in the way", DislodgedInTheWay},
-    Kind{"A support that was cut can count against its move", SupportTakenOffTwice},
-    Kind{"Builds that clash all fail", BuildsClash},
-    Kind{"ORB never chooses a removal", NeverChooses},
-};
+using orb::survey::DifferenceKinds;
+using orb::survey::StagePair;
 
 /// A stage that ORB's own rules refuse to resolve differs as a whole.
 session::Differences FindDifferences(const GameState& before, const GameState& after,
@@ -239,7 +58,7 @@ class Survey {
     GameState otherwise = before;
     model::Consent messages;
     const Resolution usual = session::ResolveStage(session::Rules::Usual, otherwise, messages);
-    Pair pair{before, after, orb, usual, {}};
+    StagePair pair{before, after, orb, usual, {}};
     for (const session::Difference& difference : differences)
       pair.Different.set(static_cast<std::size_t>(difference.Order));
     if (Count(pair)) return;
@@ -254,10 +73,10 @@ class Survey {
   }
 
   /// Counts the kinds that are found in the orders looked at; false: there are none.
-  bool Count(const Pair& pair) {
+  bool Count(const StagePair& pair) {
     bool known = false;
-    for (std::size_t i = 0; i < Kinds.size(); ++i) {
-      if (!Kinds[i].Fits(pair)) continue;
+    for (std::size_t i = 0; i < DifferenceKinds.size(); ++i) {
+      if (!DifferenceKinds[i].Fits(pair)) continue;
       known = true;
       if (counts_[i]++ == 0) examples_[i] = pair.Before;
     }
@@ -267,14 +86,14 @@ class Survey {
   void Print() const {
     std::printf("%d stages, %d (%.1f %%) differ\n", stages_, different_,
                 100.0 * different_ / std::max(1, stages_));
-    for (std::size_t i = 0; i < Kinds.size(); ++i)
-      std::printf("| %s | %d |\n", Kinds[i].Name, counts_[i]);
+    for (std::size_t i = 0; i < DifferenceKinds.size(); ++i)
+      std::printf("| %s | %d |\n", DifferenceKinds[i].Name, counts_[i]);
     std::printf("| other | %d |\n", other_);
   }
 
   /// A game of each kind, as NN.orb, with its orders.
   void WriteExamples(const std::filesystem::path& directory) const {
-    for (std::size_t i = 0; i < Kinds.size(); ++i) {
+    for (std::size_t i = 0; i < DifferenceKinds.size(); ++i) {
       if (counts_[i] == 0) continue;
       std::string name(i < 9 ? "0" : "");
       name.append(std::to_string(i + 1));
@@ -290,8 +109,8 @@ class Survey {
   int stages_ = 0;
   int different_ = 0;
   int other_ = 0;
-  std::array<int, Kinds.size()> counts_{};
-  std::array<GameState, Kinds.size()> examples_;
+  std::array<int, DifferenceKinds.size()> counts_{};
+  std::array<GameState, DifferenceKinds.size()> examples_;
 };
 
 /// Plays one game at random, as people do with slips.
@@ -439,14 +258,49 @@ class Player {
   std::filesystem::path data_;
 };
 
+/// Resolves the stages of a game as the example is kept: beside each situation, in the order of
+/// their names, the orders of the stage that follows, STAGE.txt; STAGE.report.txt is none.
+void AddKeptGame(const std::filesystem::path& folder, std::shared_ptr<const model::Map> map,
+                 Survey& survey) {
+  std::set<std::filesystem::path> files;
+  for (const auto& entry : std::filesystem::directory_iterator(folder))
+    files.insert(entry.path());
+  std::map<std::string, std::filesystem::path> situations;
+  for (const std::filesystem::path& file : files) {
+    const std::string stage = file.stem().string();
+    if (file.extension() == ".orb") situations[stage] = file;
+  }
+  for (const std::filesystem::path& file : files) {
+    const std::string stage = file.stem().string();
+    const auto after = situations.lower_bound(stage);
+    const bool isOrders = file.extension() == ".txt" && stage.find('.') == std::string::npos;
+    if (!isOrders || after == situations.begin()) continue;
+    session::Situation situation{model::EmptyGame(map)};
+    model::Consent messages;
+    session::ReadGame(situation, std::prev(after)->second, messages);
+    session::ReplaceOrdersByText(situation, model::ReadFile(file), {}, session::Doubtful::Accepted,
+                                 messages);
+    const GameState before = situation.Game;
+    const Resolution resolution =
+        session::ResolveStage(session::Rules::Orb, situation.Game, messages);
+    survey.Add(before, situation.Game, resolution);
+  }
+}
+
 }  // namespace
 
+/// Usage: survey_rules [SEASONS [SEED [FOLDER FOR EXAMPLES]]], or survey_rules FOLDER of a game.
 int main(int argc, char** argv) {
   int seasons = argc > 1 ? std::atoi(argv[1]) : 100'000;
   const unsigned seed = argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 1;
   const std::filesystem::path data = std::filesystem::path(ORB_SOURCE_DIR) / "data";
   const auto map = model::LoadMap(data);
   Survey survey;
+  if (argc == 2 && std::filesystem::is_directory(argv[1])) {
+    AddKeptGame(argv[1], map, survey);
+    survey.Print();
+    return EXIT_SUCCESS;
+  }
   for (unsigned game = 0; seasons > 0; ++game)
     Player(seed + game, data).Play(map, seasons, survey);
   survey.Print();
