@@ -130,7 +130,7 @@ void CheckOutput(const CommandLine& line) {
       *line.Value(OptionId::Output) == StandardOutput) {
     throw UsageError(name + ": With --json the standard output is no place for the game.");
   }
-  if (line.Has(OptionId::Try)) {
+  if (line.Has(OptionId::Try) && mayReplace) {
     for (const OptionId id : {OptionId::Output, OptionId::InPlace, OptionId::Report}) {
       if (line.Has(id)) throw UsageError(name + ": --try writes no file.");
     }

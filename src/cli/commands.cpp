@@ -6,9 +6,9 @@
 namespace orb::cli {
 namespace {
 
-constexpr std::array Commands{&NewCommand,     &ResolveCommand, &NextCommand, &UndoCommand,
-                              &CheckCommand,   &WhatIfCommand,  &ShowCommand, &MapCommand,
-                              &PublishCommand, &SheetCommand,   &ServeCommand};
+constexpr std::array Commands{&NewCommand,     &ResolveCommand, &NextCommand,    &UndoCommand,
+                              &CheckCommand,   &WhatIfCommand,  &ShowCommand,    &MapCommand,
+                              &PublishCommand, &SheetCommand,   &LettersCommand, &ServeCommand};
 
 }  // namespace
 

@@ -16,6 +16,7 @@ extern const Command ShowCommand;
 extern const Command MapCommand;
 extern const Command PublishCommand;
 extern const Command SheetCommand;
+extern const Command LettersCommand;
 extern const Command ServeCommand;
 
 }  // namespace orb::cli

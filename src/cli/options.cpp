@@ -28,7 +28,7 @@ constexpr std::array<Option, OptionCount> Table{{
     {Compare, "--compare", "", ValueKind::None, "", "",
      "tell which orders come out otherwise by the other rules"},
     {Try, "--try", "", ValueKind::None, "", "",
-     "only try it out: no question is asked, nothing is written"},
+     "only try it out: no question is asked, no game is written"},
     {Pairs, "--pairs", "", ValueKind::None, "", "", "also changes of two orders of one power"},
     {Json, "--json", "", ValueKind::None, "", "",
      "print an object in JSON for each game; texts go to standard error"},

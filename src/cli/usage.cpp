@@ -25,8 +25,10 @@ std::string_view ValueName(const Command& command, const Option& option) {
 std::vector<std::string> UsageParts(const Command& command) {
   std::vector<std::string> parts;
   for (const Option* option : OptionsOf(command)) {
-    if (option->IsCommon || option->Id == OptionId::InPlace || option->Id == OptionId::Try)
-      continue;
+    const bool standsWithOutput =
+        option->Id == OptionId::InPlace ||
+        (option->Id == OptionId::Try && Knows(command, OptionId::InPlace));
+    if (option->IsCommon || standsWithOutput) continue;
     if (option->Id == OptionId::Output) {
       parts.push_back(OutputUsage(command));
       continue;
@@ -62,6 +64,7 @@ std::string Spelled(const Command& command, const Option& option) {
 }
 
 std::string_view MeaningOf(const Command& command, const Option& option) {
+  if (option.Id == OptionId::Output && command.OutputName == "DIR") return "where to write them";
   const bool isFileOnly = option.Id == OptionId::Output && command.Takes != Games::Several;
   return isFileOnly ? "the file to write" : option.Help;
 }

@@ -5,7 +5,7 @@
 #include "model/counts.h"
 #include "model/lookups.h"
 #include "render/svg_text.h"
-#include "text/strings.h"
+#include "report/report_lines.h"
 
 #include <array>
 #include <string_view>
@@ -14,22 +14,7 @@ namespace orb::pages {
 namespace {
 
 using model::GameState;
-
-/// A line of the report taken apart: "[ FRA A(Bel) hold ]  dislodged".
-struct ReportLine {
-  std::string Order, Result;
-};
-
-ReportLine TakeApart(std::string_view line) {
-  const bool isBracketed = line.starts_with("[ ");
-  const std::size_t end = isBracketed ? line.find(" ]") : line.find("  ", 2);
-  if (isBracketed && end != std::string_view::npos) {
-    return {std::string(text::Trim(line.substr(2, end - 2))),
-            std::string(text::Trim(line.substr(end + 2)))};
-  }
-  if (end == std::string_view::npos) return {std::string(text::Trim(line)), {}};
-  return {std::string(text::Trim(line.substr(0, end))), std::string(text::Trim(line.substr(end)))};
-}
+using report::ReportLine;
 
 std::string Chip(std::string_view kind, std::string_view text) {
   return Element("span", {{"class", std::string("chip ").append(kind)}}, Text(text));
@@ -167,24 +152,23 @@ std::string ReportSection(const Season& season) {
   Groups groups;
   int present = -1;
   for (int i = 1; i <= game.ReportLines.Count(); ++i) {
-    const ReportLine line = TakeApart(game.ReportLines[i]);
+    const ReportLine line = report::TakeApart(game.ReportLines[i]);
     if (line.Order.empty()) continue;
-    const int power = model::FindCountry(std::string_view(line.Order).substr(0, 3));
     const auto note = static_cast<std::size_t>(i - 1);
     const session::ReportNote nothing;
-    if (power == 0 && line.Order.find(' ') == std::string::npos) {
+    if (line.Power == 0 && line.Order.find(' ') == std::string::npos) {
       // A heading within the report: "ADJUSTMENTS".
       groups.Begin({});
       groups.Add(Element("li", {{"class", "part"}}, Text(line.Order)).append("\n"));
       present = -1;
       continue;
     }
-    if (power != present) {
-      groups.Begin(power == 0 ? std::string() : PowerHeading(game.Countries[power]));
+    if (line.Power != present) {
+      groups.Begin(line.Power == 0 ? std::string() : PowerHeading(game.Countries[line.Power]));
     }
-    present = power;
+    present = line.Power;
     groups.Add(Entry(season, line, note < season.Notes.size() ? season.Notes[note] : nothing,
-                     model::PowerName(power)));
+                     model::PowerName(line.Power)));
   }
   groups.End();
   std::string remark;

@@ -1,15 +1,13 @@
 #pragma once
 
 #include "model/game_state.h"
+#include "report/wrapped_text.h"
 
 #include <filesystem>
 #include <string>
 #include <string_view>
 
 namespace orb::report {
-
-/// The length, in bytes, of the longest line of a text report: the limit recommended for mails.
-constexpr std::size_t TextReportWidth = 78;
 
 /// The situation as plain text for a mail or a printer: title, season and stage, the report, supply
 /// centres, adjustments due, units, players and free text. Orders not yet resolved are left out:
