@@ -83,6 +83,12 @@ int FirstYear(const std::vector<NamedFile>& files) {
 
 }  // namespace
 
+std::optional<std::string> SeriesName(const std::filesystem::path& file) {
+  const std::string name = text::LowerCase(file.filename().string());
+  const auto season = FindSeason(name);
+  return season ? std::optional(name.substr(0, *season)) : std::nullopt;
+}
+
 FileSequence SortBySeason(const std::vector<std::filesystem::path>& files) {
   FileSequence sequence;
   std::vector<NamedFile> named;

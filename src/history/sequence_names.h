@@ -1,6 +1,8 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace orb::history {
@@ -17,5 +19,9 @@ struct FileSequence {
 /// others, then the last. Years count from 00 to 99; only where both 99 and 00 occur the century
 /// turns within the sequence, at its longest run of missing years.
 FileSequence SortBySeason(const std::vector<std::filesystem::path>& files);
+
+/// What stands before the season in a file's name, in small letters: what the files of a game have
+/// in common. Nothing where the name carries no season.
+std::optional<std::string> SeriesName(const std::filesystem::path& file);
 
 }  // namespace orb::history

@@ -3,7 +3,7 @@
 #include "pages/markup.h"
 #include "pages/report_section.h"
 
-#include "model/counts.h"
+#include "history/timeline.h"
 #include "render/svg_text.h"
 
 #include <algorithm>
@@ -15,11 +15,13 @@ namespace {
 
 constexpr long Width = 640, Height = 260, Left = 34, Right = 52, Top = 12, Bottom = 30;
 
+using Rows = std::vector<history::SeasonCentres>;
+
 /// How many centres a power owns, season by season.
-std::vector<int> CountsOf(const std::vector<Season>& seasons, const std::string& power) {
+std::vector<int> CountsOf(const Rows& rows, int power) {
   std::vector<int> counts;
-  for (const Season& season : seasons)
-    counts.push_back(model::CountPower(season.End, power).Centres);
+  for (const history::SeasonCentres& row : rows)
+    counts.push_back(row.Centres.at(static_cast<std::size_t>(power) - 1));
   return counts;
 }
 
@@ -62,7 +64,7 @@ std::string Line(const Chart& chart, const model::Country& country, const std::v
          Text(country.Abbreviation) + "</text></g>\n";
 }
 
-std::string Axes(const Chart& chart, const std::vector<Season>& seasons, int most) {
+std::string Axes(const Chart& chart, const Rows& rows, int most) {
   std::string axes;
   for (int centres = 0; centres <= most; centres += most > 12 ? 4 : 2) {
     const std::string y = Number(chart.Y(centres));
@@ -72,10 +74,10 @@ std::string Axes(const Chart& chart, const std::vector<Season>& seasons, int mos
     axes.append("\">").append(Number(centres)).append("</text>");
   }
   int last = -1;
-  const std::size_t every = 1 + seasons.size() / 24;
+  const std::size_t every = 1 + rows.size() / 24;
   std::size_t years = 0;
-  for (std::size_t i = 0; i < seasons.size(); ++i) {
-    const int year = seasons[i].End.Year;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const int year = rows[i].Year;
     if (year == last) continue;
     last = year;
     if (years++ % every != 0) continue;
@@ -85,19 +87,15 @@ std::string Axes(const Chart& chart, const std::vector<Season>& seasons, int mos
   return axes + "\n";
 }
 
-std::string Table(const std::vector<Season>& seasons) {
-  const model::CountryTable& countries = seasons.front().End.Countries;
+std::string Table(const Rows& seasons, const model::CountryTable& countries) {
   std::string head = Element("th", {{"scope", "col"}}, "Season");
   for (const model::Country& country : countries)
     head.append(Element("th", {{"scope", "col"}}, Text(country.Abbreviation)));
   std::string rows;
-  for (const Season& season : seasons) {
-    rows.append("<tr>").append(Element("th", {{"scope", "row"}}, Text(season.Name)));
-    for (const model::Country& country : countries) {
-      rows.append(
-          Element("td", {{"class", "number"}},
-                  std::to_string(model::CountPower(season.End, country.Abbreviation).Centres)));
-    }
+  for (const history::SeasonCentres& season : seasons) {
+    rows.append("<tr>").append(Element("th", {{"scope", "row"}}, Text(season.Season)));
+    for (const int centres : season.Centres)
+      rows.append(Element("td", {{"class", "number"}}, std::to_string(centres)));
     rows.append("</tr>\n");
   }
   return "<details><summary>The same in figures</summary><div class=\"scrolls\" tabindex=\"0\" "
@@ -110,32 +108,31 @@ std::string Table(const std::vector<Season>& seasons) {
 std::string CentresChart(const std::vector<Season>& seasons) {
   if (seasons.size() < 2) return {};
   const model::CountryTable& countries = seasons.front().End.Countries;
+  std::vector<history::Moment> ends;
+  for (const Season& season : seasons)
+    ends.push_back(history::MomentOf(season.End));
+  const Rows rows = history::CentresOverTime(ends);
   int most = 4;
-  for (const model::Country& country : countries) {
-    const std::vector<int> counts = CountsOf(seasons, country.Abbreviation);
-    most = std::max(most, *std::ranges::max_element(counts) + 1);
-  }
-  const Chart chart(seasons.size(), most);
+  for (const history::SeasonCentres& row : rows)
+    most = std::max(most, *std::ranges::max_element(row.Centres) + 1);
+  const Chart chart(rows.size(), most);
   // Names at the ends of the lines keep a distance from each other.
-  std::vector<std::pair<long, int>> ends;
-  for (int power = 1; power <= model::CountryCount; ++power) {
-    const std::string& name = countries[power].Abbreviation;
-    ends.emplace_back(chart.Y(CountsOf(seasons, name).back()) + 4, power);
-  }
-  std::ranges::sort(ends, std::greater<>());
+  std::vector<std::pair<long, int>> names;
+  for (int power = 1; power <= model::CountryCount; ++power)
+    names.emplace_back(chart.Y(CountsOf(rows, power).back()) + 4, power);
+  std::ranges::sort(names, std::greater<>());
   long next = Height;
   std::string lines;
-  for (const auto& [y, power] : ends) {
+  for (const auto& [y, power] : names) {
     next = std::min(y, next - 15);
-    lines.append(
-        Line(chart, countries[power], CountsOf(seasons, countries[power].Abbreviation), next));
+    lines.append(Line(chart, countries[power], CountsOf(rows, power), next));
   }
   return "<section class=\"chart\" aria-labelledby=\"centres\"><h2 id=\"centres\">Centres over the "
          "years</h2>\n<svg class=\"lines\" viewBox=\"0 0 " +
          Number(Width) + " " + Number(Height) +
          "\" role=\"img\" aria-label=\"Centres of each power over the years; the same in figures "
          "below\">\n" +
-         Axes(chart, seasons, most) + lines + "</svg>\n" + Table(seasons) + "</section>\n";
+         Axes(chart, rows, most) + lines + "</svg>\n" + Table(rows, countries) + "</section>\n";
 }
 
 }  // namespace orb::pages

@@ -1,13 +1,11 @@
 #include "pages/season.h"
 
 #include "history/replay.h"
-#include "model/errors.h"
-#include "orders/order_list.h"
 #include "session/queries.h"
+#include "session/story.h"
 #include "session/trial.h"
 
 #include <algorithm>
-#include <optional>
 #include <tuple>
 #include <utility>
 
@@ -28,52 +26,12 @@ bool IsSameSeason(const Source& a, const Source& b) {
          a.Situation.Game.Season == b.Situation.Game.Season;
 }
 
-/// The units, told apart by what a map shows of them.
-auto UnitsOf(const GameState& game) {
-  std::vector<std::tuple<std::string, std::string, std::string, std::string>> units;
-  for (const model::Unit& unit : game.Units)
-    units.emplace_back(unit.Power, unit.UnitType, unit.Location, unit.Status);
-  std::ranges::sort(units);
-  return units;
-}
-
-/// What the situation's orders lead to, if by either rules that is where the units stand later.
-std::optional<Situation> LedTo(const Situation& before, const GameState& later) {
-  if (!session::HasOrderLines(before.Game)) return std::nullopt;
-  for (const session::Rules rules : {before.Rules, session::TheOther(before.Rules)}) {
-    Situation start = before;
-    start.Rules = rules;
-    try {
-      Situation tried = session::TryOut(start);
-      if (UnitsOf(tried.Game) == UnitsOf(later)) return tried;
-    } catch (const model::FatalError&) {
-      continue;  // these orders did not lead anywhere
-    }
-  }
-  return std::nullopt;
-}
-
-/// The later situation with what is known of the season until then.
-Situation WithStory(Situation later, const Situation& story) {
-  if (!later.Notes.empty() || story.Notes.empty()) return later;
-  later.Game.ReportLines = story.Game.ReportLines;
-  later.Notes = story.Notes;
-  later.Outcomes = story.Outcomes;
-  later.ByUsualRules = story.ByUsualRules;
-  return later;
-}
-
-/// Follows the situations of one season to its last one. The report of moves that were resolved
-/// before stays where a later situation has none.
+/// Follows the situations of one season to its last one.
 Situation Follow(const std::vector<Source>& sources) {
   Situation now = sources.front().Situation;
   bool resolves = sources.front().Resolves;
   for (std::size_t i = 1; i < sources.size(); ++i) {
-    const Situation& next = sources[i].Situation;
-    // Two files of one stage show nothing of what became of its orders.
-    const bool isLater = next.Game.Stage != now.Game.Stage;
-    const auto led = isLater ? LedTo(now, next.Game) : std::nullopt;
-    now = WithStory(next, led ? *led : now);
+    now = session::WithStory(sources[i].Situation, now);
     resolves = sources[i].Resolves;
   }
   return resolves && session::HasOrderLines(now.Game) ? session::TryOut(now) : now;
@@ -94,7 +52,7 @@ Season SeasonFrom(Situation now) {
 
 /// A season of which only its beginning is there: what became of it, its successor's units tell.
 Season SeasonUntil(const Situation& now, const GameState& next) {
-  if (const auto led = LedTo(now, next)) return SeasonFrom(*led);
+  if (const auto led = session::LedTo(now, next)) return SeasonFrom(*led);
   history::Replay replay = history::ReplayBetween(now.Game, next);
   Season season = SeasonFrom(now);
   season.End.Units = replay.End.Units;

@@ -19,6 +19,7 @@ void MarkSaved(Situation& situation) {
 
 void BeginGame(Situation& situation) {
   ++situation.GameNumber;
+  situation.EarlierFile.clear();
   situation.Editing = Editing::None;
   situation.Rules = Rules::Orb;
 }

@@ -10,7 +10,9 @@ namespace orb::session {
 
 void NextSeason(Situation& situation) {
   ExpectFinished(situation);
+  const std::string file = situation.Game.FileName;
   model::NextSeason(situation.Game);
+  if (!file.empty()) situation.EarlierFile = file;
   ++situation.GameNumber;
 }
 

@@ -51,7 +51,8 @@ struct Situation {
   session::Editing Editing = session::Editing::None;
   /// Another number: another game, or another season of it, with a file of its own.
   int GameNumber = 0;
-  bool ReadOnly = false;                        ///< the game's file was opened for reading only
+  std::string EarlierFile = {};  ///< of the season before, as long as it has none of its own
+  bool ReadOnly = false;         ///< the game's file was opened for reading only
   std::optional<model::FileMark> OwnFile = {};  ///< what was read of it, or written to it last
   /// What the file holds, or the new game that this one began as; null: no file holds any of it.
   std::shared_ptr<const model::GameState> Saved = {};

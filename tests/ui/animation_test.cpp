@@ -77,7 +77,7 @@ TEST_F(AnimationTest, TheSeasonIsPlayedInTheMapsPlaceAndTheGameIsBackAfterIt) {
   Trigger("mnuFileAnimateMove");
   ASSERT_TRUE(IsOn());
   EXPECT_EQ(Find<QWidget>("picAnimate").size(), Find<QWidget>("picMap").size());
-  EXPECT_EQ(Season(), "Spring 1901");
+  EXPECT_EQ(Season(), "Spring 1901, before moves") << "as the map says";
   EXPECT_EQ(Find<QWidget>("butAnimatePlay").accessibleName(), "Stop");
   Press(Qt::Key_Space);
   EXPECT_EQ(Find<QWidget>("butAnimatePlay").accessibleName(), "Play");
@@ -144,10 +144,14 @@ TEST_F(AnimationTest, FilesArePlayedInOrderAndThoseThatDoNotFitAreNamed) {
   Press(Qt::Key_Home);
   const QImage beginning = Map();
   const std::vector<std::pair<Qt::Key, std::pair<int, std::string>>> steps{
-      {Qt::Key_Left, {0, "Spring 1901"}},     {Qt::Key_Right, {1000, "Autumn 1901"}},
-      {Qt::Key_Right, {2000, "Autumn 1901"}}, {Qt::Key_Right, {3000, "Autumn 1901"}},
-      {Qt::Key_Right, {3000, "Autumn 1901"}}, {Qt::Key_Left, {2000, "Autumn 1901"}},
-      {Qt::Key_Left, {1000, "Autumn 1901"}},  {Qt::Key_Left, {0, "Spring 1901"}}};
+      {Qt::Key_Left, {0, "Spring 1901, before moves"}},
+      {Qt::Key_Right, {1000, "Spring 1901, end"}},
+      {Qt::Key_Right, {2000, "Autumn 1901, before adjustments"}},
+      {Qt::Key_Right, {3000, "Autumn 1901, before adjustments"}},
+      {Qt::Key_Right, {3000, "Autumn 1901, before adjustments"}},
+      {Qt::Key_Left, {2000, "Autumn 1901, before adjustments"}},
+      {Qt::Key_Left, {1000, "Spring 1901, end"}},
+      {Qt::Key_Left, {0, "Spring 1901, before moves"}}};
   for (const auto& [key, expected] : steps) {
     Press(key);
     EXPECT_EQ(std::pair(Position(), Season()), expected);

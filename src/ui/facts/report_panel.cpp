@@ -42,6 +42,7 @@ ReportPanel::ReportPanel(const Desk& desk, QWidget* parent)
     : QWidget(parent),
       m_desk(desk),
       m_pages(new QStackedWidget),
+      m_none(new QLabel),
       m_differences(new QLabel),
       m_lines(new QListWidget),
       m_reason(new QLabel),
@@ -91,12 +92,12 @@ void ReportPanel::layOut() {
     whatIf->setEnabled(m_whatIf->isEnabled());
     whatIf->setToolTip(m_whatIf->toolTip());
   });
-  auto* none = new QLabel(tr("No report yet."));
-  none->setForegroundRole(QPalette::PlaceholderText);
-  none->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-  none->setMargin(fontMetrics().averageCharWidth());
+  m_none->setForegroundRole(QPalette::PlaceholderText);
+  m_none->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+  m_none->setMargin(fontMetrics().averageCharWidth());
+  m_none->setWordWrap(true);
   auto* report = new QWidget;
-  m_pages->addWidget(none);
+  m_pages->addWidget(m_none);
   m_pages->addWidget(report);
   (new QVBoxLayout(this))->addWidget(m_pages);
   layout()->setContentsMargins({});
@@ -151,6 +152,10 @@ void ReportPanel::showReport() {
   }
   colourLines();
   showReason();
+  const bool isLost = m_desk.past() && m_desk.shown().Game.Stage != model::Stage::Moves;
+  m_none->setText(isLost ? tr("The report of this stage is not among the game's files: no file "
+                              "holds the orders that led to it.")
+                         : tr("No report yet."));
   m_pages->setCurrentIndex(report.Count() > 0 ? 1 : 0);
 }
 

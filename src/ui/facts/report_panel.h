@@ -61,6 +61,7 @@ class ReportPanel : public QWidget {
 
   const Desk& m_desk;
   QStackedWidget* m_pages;  ///< without a report, and with one
+  QLabel* m_none;
   QLabel* m_differences;
   QListWidget* m_lines;
   QLabel* m_reason;

@@ -96,7 +96,8 @@ void AnimationBar::addSlider() {
   m_season = new ElidedLabel;
   m_season->setObjectName(QStringLiteral("lblAnimateSeason"));
   m_season->setTextFormat(Qt::PlainText);
-  m_season->setMinimumWidth(fontMetrics().horizontalAdvance(tr("Autumn 1901 ")));
+  m_season->setMinimumWidth(
+      fontMetrics().horizontalAdvance(tr("Autumn 1901, before adjustments ")));
   m_row->addSpacing(Gap);
   m_row->addWidget(m_slider, 3);
   m_row->addSpacing(Gap);

@@ -1,10 +1,10 @@
 #include "ui/replay/animation_player.h"
 
 #include "history/game_series.h"
-#include "text/qt/text_codec.h"
 #include "ui/output/file_dialogs.h"
 #include "ui/replay/animation_export.h"
 #include "ui/session/attempt.h"
+#include "ui/widgets/game_name.h"
 
 #include <algorithm>
 #include <iterator>
@@ -90,6 +90,14 @@ void AnimationPlayer::playFiles(const std::vector<std::filesystem::path>& files)
   });
 }
 
+void AnimationPlayer::playGames(const std::vector<model::GameState>& games) {
+  attempt(m_messages, [&] {
+    std::vector<history::ReplayPart> parts = history::ReplaySequence(games);
+    if (parts.empty()) return m_messages.Show(NothingToAnimate, model::Icon::Exclamation);
+    play(std::move(parts));
+  });
+}
+
 /// Throws FatalError when it cannot be drawn; nothing has begun then.
 void AnimationPlayer::play(std::vector<history::ReplayPart> parts) {
   end();
@@ -167,7 +175,9 @@ void AnimationPlayer::show() {
     m_shownSeason = season;
   }
   m_picture->setProgress(m_playhead.progress());
-  m_bar->showPosition(m_playhead.position(), text::ToQString(part.Name));
+  // In the words of the map above it.
+  const model::GameState& shown = part.Replay.Start;
+  m_bar->showPosition(m_playhead.position(), stageCaption(shown.Season, shown.Year, shown.Stage));
 }
 
 /// How the map is shown may change while it plays.

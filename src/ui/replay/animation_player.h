@@ -42,6 +42,9 @@ class AnimationPlayer : public QObject {
   /// Plays what fits of some game files, and names those that do not.
   void playFiles(const std::vector<std::filesystem::path>& files);
 
+  /// Plays what lies between situations that are in the order of their seasons.
+  void playGames(const std::vector<model::GameState>& games);
+
   void end();
 
  signals:

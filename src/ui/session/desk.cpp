@@ -138,13 +138,24 @@ void Desk::begin(Trial trial) {
   const bool drawn = attempt(m_messages, [&] {
     m_draw(trial.outcome, viewOf(m_view, trial));
     m_trial = std::move(trial);
+    m_past.reset();
+  });
+  if (drawn) emit trialChanged();
+}
+
+void Desk::showPast(Past past) {
+  const bool drawn = attempt(m_messages, [&] {
+    m_draw(past.situation, m_view);
+    m_past = std::move(past);
+    m_trial.reset();
   });
   if (drawn) emit trialChanged();
 }
 
 void Desk::endTrial() {
-  if (!m_trial) return;
+  if (!m_trial && !m_past) return;
   m_trial.reset();
+  m_past.reset();
   attempt(m_messages, [this] { m_draw(now(), m_view); });
   emit trialChanged();
 }
@@ -161,6 +172,7 @@ void Desk::review(const Situation& next) {
   if (goesOn) trial = tryOutStage(next, m_view.compare);
   m_draw(trial ? trial->outcome : next, viewOf(m_view, trial));
   m_trial = std::move(trial);
+  m_past.reset();
 }
 
 void Desk::nextSeason() {
@@ -251,13 +263,13 @@ bool Desk::run(const session::Command& command, const QString& name, StepKind ki
 }
 
 bool Desk::tell(const std::function<session::Effect()>& work) {
-  const bool tried = m_trial.has_value();
+  const bool other = m_trial || m_past;
   session::Effect effect{false, Changes::All};
   attempt(m_messages, [&] { effect = work(); });
   noteFolder();
   // Also when the command failed: a check mark may already show what has not happened.
   emit changed(effect.Changed);
-  if (tried) emit trialChanged();
+  if (other) emit trialChanged();
   return effect.Done;
 }
 
@@ -269,7 +281,8 @@ void Desk::show(const View& next) {
   attempt(m_messages, [&] {
     std::optional<Trial> trial = m_trial;
     if (trial && trial->change.empty()) trial = tryOutStage(now(), next.compare);
-    m_draw(trial ? trial->outcome : now(), viewOf(next, trial));
+    const Situation& game = m_past ? m_past->situation : now();
+    m_draw(trial ? trial->outcome : game, viewOf(next, trial));
     m_view = next;
     m_trial = std::move(trial);
   });

@@ -2,6 +2,7 @@
 
 #include "model/messages.h"
 #include "session/session.h"
+#include "ui/session/past.h"
 #include "ui/session/start.h"
 #include "ui/session/trial.h"
 
@@ -37,8 +38,16 @@ class Desk : public QObject {
   /// orders and the rules; any other change of the game ends it.
   const std::optional<Trial>& trial() const { return m_trial; }
 
-  /// What map, report and supply centres show: the outcome that is tried out, else the game.
-  const session::Situation& shown() const { return m_trial ? m_trial->outcome : now(); }
+  /// The stage of the history that is looked at; nothing: the game is shown as it is. Any change of
+  /// the game ends it, and there is never a trial at the same time.
+  const std::optional<Past>& past() const { return m_past; }
+
+  /// What map, report and supply centres show: another stage of the history, the outcome that is
+  /// tried out, else the game.
+  const session::Situation& shown() const {
+    if (m_past) return m_past->situation;
+    return m_trial ? m_trial->outcome : now();
+  }
 
   /// How it is shown: what is tried out with its orders.
   View shownView() const { return viewOf(m_view, m_trial); }
@@ -113,6 +122,9 @@ class Desk : public QObject {
   /// Tries out another situation than the game's, until the game changes; `change` says what is
   /// other.
   void tryOut(const session::Situation& otherwise, std::string change);
+  /// Shows another stage of the game's history.
+  void showPast(Past past);
+  /// Shows the game as it is, whatever was shown instead.
   void endTrial();
 
   void nextSeason();
@@ -144,7 +156,8 @@ class Desk : public QObject {
   void setCompare(bool compare);
 
  signals:
-  /// Something is tried out, or comes out otherwise now, or nothing is tried out any more.
+  /// Something else than the game is shown, or comes out otherwise now, or nothing is any more: a
+  /// trial, or another stage of the history.
   void trialChanged();
 
   /// A command changed these parts of the situation. After one that was abandoned, all of them:
@@ -177,6 +190,7 @@ class Desk : public QObject {
 
   session::Session m_session;
   std::optional<Trial> m_trial;
+  std::optional<Past> m_past;
   View m_view;
   std::filesystem::path m_dataDirectory;
   std::filesystem::path m_folder;

@@ -14,6 +14,9 @@
 #include "ui/facts/owners_panel.h"
 #include "ui/facts/report_panel.h"
 #include "ui/help/help_menu.h"
+#include "ui/history/history_bar.h"
+#include "ui/history/past_banner.h"
+#include "ui/history/past_orders.h"
 #include "ui/map/map_view.h"
 #include "ui/output/export_commands.h"
 #include "ui/output/file_dialogs.h"
@@ -22,6 +25,7 @@
 #include "ui/trial/trial_banner.h"
 #include "ui/trial/what_if_panel.h"
 #include "ui/widgets/controls.h"
+#include "ui/widgets/help_request.h"
 #include "ui/widgets/icons.h"
 #include "ui/widgets/place_text.h"
 #include "ui/widgets/plain_text.h"
@@ -60,6 +64,7 @@ constexpr int ColumnWidth = 345;
 const QString ShowOrders = QStringLiteral("map/showOrders");
 /// Whether the outcomes are held against the other rules.
 const QString Compare = QStringLiteral("game/compare");
+const QString ShowHistory = QStringLiteral("window/showHistory");
 
 }  // namespace
 
@@ -79,6 +84,7 @@ MainWindow::MainWindow(Start start, const Places& places)
   restoreSize();
   m_desk.setShowOrders(m_memory.flag(ShowOrders));
   m_desk.setCompare(m_memory.flag(Compare, true));
+  m_mapMenu->showHistory()->setChecked(m_memory.flag(ShowHistory, true));
   m_desk.recallFolder(QFile::encodeName(m_memory.folder()).toStdString());
   m_desk.setRulesMemory([this](const std::string& file) { return m_memory.rules(fullPath(file)); });
   // Measured and, below, drawn directly this once: when the map cannot be drawn at the start, the
@@ -143,6 +149,7 @@ void MainWindow::createPanels() {
           [this](const QString& topic) { m_helpMenu->showTopic(topic); });
   connect(m_report, &ReportPanel::whatIfWanted, m_whatIf, &WhatIfPanel::askAboutReport);
   connect(m_orders, &OrderEntryPanel::whatIfWanted, m_whatIf, &WhatIfPanel::askAboutList);
+  m_pastOrders = new PastOrders(m_desk);
   m_player = new AnimationPlayer(m_desk, m_messages, *m_map, this);
   connect(m_player, &AnimationPlayer::changed, this, &MainWindow::showAnimation);
   connect(m_player, &AnimationPlayer::noted, this, &MainWindow::showStatus);
@@ -169,10 +176,13 @@ void MainWindow::layOutPanels() {
   rows->setContentsMargins(Margin, Margin, Margin, Margin);
   rows->setSpacing(Gap);
   rows->addWidget(new TrialBanner(m_desk, this));
+  rows->addWidget(new PastBanner(m_desk, this));
+  m_history = new HistoryBar(m_desk, this);
   m_sides = new SharedRoom(Qt::Horizontal, SharedRoom::Unit::Pixels, ColumnWidth);
   m_sides->addWidget(m_view);
   m_sides->addWidget(m_column);
   rows->addWidget(m_sides, 1);
+  rows->addWidget(m_history);
   rows->addWidget(m_player->bar());
   setCentralWidget(desk);
 }
@@ -207,6 +217,7 @@ void MainWindow::createMenus() {
   m_helpMenu = new HelpMenu(m_desk, m_messages, this);
   menuBar()->addMenu(m_helpMenu);
   connect(m_exchange, &ExchangeCommands::helpWanted, m_helpMenu, &HelpMenu::showTopicOver);
+  connectHistory();
 }
 
 void MainWindow::rememberSettings() {
@@ -214,9 +225,18 @@ void MainWindow::rememberSettings() {
   m_memory.setZoom(m_view->zoom());
   m_memory.setFlag(ShowOrders, m_desk.view().showOrders);
   m_memory.setFlag(Compare, m_desk.view().compare);
+  m_memory.setFlag(ShowHistory, m_mapMenu->showHistory()->isChecked());
   const View& view = m_desk.view();
   settings::WriteSettingsFile(settings::SettingsFileForWriting(m_places.program, m_places.config),
                               {view.mapOptions, view.viewOnly}, m_desk.game().Countries);
+}
+
+bool MainWindow::event(QEvent* event) {
+  if (event->type() != HelpRequest::kind()) return QMainWindow::event(event);
+  const auto& request = static_cast<const HelpRequest&>(*event);
+  m_helpMenu->showTopicOver(request.topic, &request.dialog);
+  event->accept();
+  return true;
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -264,19 +284,8 @@ void MainWindow::rememberRules() {
 
 void MainWindow::showStagePanel() {
   m_shownPanel = {m_desk.game().Stage, m_desk.now().Editing};
-  const auto& [shownStage, editing] = *m_shownPanel;
-  const std::array<std::pair<model::Stage, OrderEntryPanel*>, 3> entryPanels{
-      {{model::Stage::Moves, m_orders},
-       {model::Stage::Retreats, m_retreats},
-       {model::Stage::Adjustments, m_adjustments}}};
-  QWidget* shown = shownStage == model::Stage::Finished ? m_seasonFinished : nullptr;
-  for (const auto& [stage, panel] : entryPanels) {
-    if (stage == shownStage) shown = panel;
-  }
-  // Editing takes the place of the stage, whichever that is.
-  if (editing == Editing::Units) shown = m_editUnits;
-  if (editing == Editing::Provinces) shown = m_editProvinces;
-  if (m_whatIf->isOpen()) shown = m_whatIf;
+  const auto& [stage, editing] = *m_shownPanel;
+  QWidget* shown = panelFor(stage, editing);
   m_column->showInstead(shown);
   // The report is in front as soon as there is one; owners are edited with the list of owners in
   // view.
@@ -284,19 +293,38 @@ void MainWindow::showStagePanel() {
   const bool report = m_showsReport && editing != Editing::Provinces;
   m_tabs->setCurrentIndex(report ? 1 : 0);
   chooseTool();
-  if (m_whatIf->isOpen()) return m_whatIf->startReading();
-  if (editing == Editing::Units) return m_editUnits->startEditing();
-  if (editing == Editing::Provinces) return m_editProvinces->startEditing();
-  for (const auto& [stage, panel] : entryPanels) {
-    if (stage == shownStage) return panel->startEntry();
-  }
+  if (m_desk.past()) return;
+  if (shown == m_whatIf) return m_whatIf->startReading();
+  if (shown == m_editUnits) return m_editUnits->startEditing();
+  if (shown == m_editProvinces) return m_editProvinces->startEditing();
+  if (auto* panel = qobject_cast<OrderEntryPanel*>(shown)) return panel->startEntry();
   // Not the button: an Enter too many would drop the report unread.
   m_report->startReading();
 }
 
-std::array<QWidget*, 7> MainWindow::stagePanels() const {
+QWidget* MainWindow::panelFor(model::Stage stage, Editing editing) const {
+  if (m_desk.past()) return m_pastOrders->hasLines() ? m_pastOrders : nullptr;
+  if (m_whatIf->isOpen()) return m_whatIf;
+  // Editing takes the place of the stage, whichever that is.
+  if (editing == Editing::Units) return m_editUnits;
+  if (editing == Editing::Provinces) return m_editProvinces;
+  switch (stage) {
+    case model::Stage::Moves:
+      return m_orders;
+    case model::Stage::Retreats:
+      return m_retreats;
+    case model::Stage::Adjustments:
+      return m_adjustments;
+    case model::Stage::Finished:
+      return m_seasonFinished;
+    default:
+      return nullptr;
+  }
+}
+
+std::array<QWidget*, 8> MainWindow::stagePanels() const {
   return {m_orders,        m_retreats,       m_adjustments, m_editUnits,
-          m_editProvinces, m_seasonFinished, m_whatIf};
+          m_editProvinces, m_seasonFinished, m_whatIf,      m_pastOrders};
 }
 
 void MainWindow::showStatus(const QString& text) {
@@ -334,13 +362,6 @@ void MainWindow::showAnimation() {
   }
   setAcceptDrops(!playing);
   showViewOnly();
-  leaveSpareWidth();
-}
-
-void MainWindow::showTrial() {
-  const bool report = m_desk.shown().Game.ReportLines.Count() > 0;
-  if (std::exchange(m_showsReport, report) != report) m_tabs->setCurrentIndex(report ? 1 : 0);
-  // The banner has come or gone.
   leaveSpareWidth();
 }
 

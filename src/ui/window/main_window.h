@@ -26,10 +26,12 @@ class ExportCommands;
 class FileMenu;
 class GameMenu;
 class HelpMenu;
+class HistoryBar;
 class MapMenu;
 class MapPicture;
 class MapView;
 class OrderEntryPanel;
+class PastOrders;
 class PowerStrip;
 class ReportPanel;
 class SeasonFinishedPanel;
@@ -60,6 +62,7 @@ class MainWindow : public QMainWindow {
   void keepAll();
 
  protected:
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
@@ -69,6 +72,7 @@ class MainWindow : public QMainWindow {
   void createPanels();
   void layOutPanels();
   void createMenus();
+  void connectHistory();
   // The size and place of the last start, or the preferred size on the first one.
   void restoreSize();
   void rememberSize();
@@ -85,13 +89,15 @@ class MainWindow : public QMainWindow {
   /// What the window has for the map from top to bottom, in pixels.
   int mapHeight() const;
   void showStagePanel();
-  std::array<QWidget*, 7> stagePanels() const;
+  QWidget* panelFor(model::Stage stage, session::Editing editing) const;
+  std::array<QWidget*, 8> stagePanels() const;
   void showStatus(const QString& text);
   /// Hands the mouse on the map to the panel that is in front.
   void chooseTool();
   void showPlace(int location);
   void showAnimation();
-  /// The report of what is tried out comes to the front where there was none.
+  /// The report of what is tried out comes to the front where there was none; while another stage
+  /// of the history is looked at, its orders are where the stage's panel was.
   void showTrial();
   /// Keeps the map's side no wider than the fitted map needs.
   void leaveSpareWidth();
@@ -121,6 +127,9 @@ class MainWindow : public QMainWindow {
   EditProvincesPanel* m_editProvinces = nullptr;
   /// In the place of any of them while a question about an order is answered.
   WhatIfPanel* m_whatIf = nullptr;
+  PastOrders* m_pastOrders = nullptr;
+  HistoryBar* m_history = nullptr;
+  bool m_looksBack = false;    ///< whether another stage of the history is shown
   bool m_showsReport = false;  ///< whether there was a report when a tab was last put in front
   QTabWidget* m_tabs = nullptr;
   ReportPanel* m_report = nullptr;

@@ -1,3 +1,4 @@
+#include "ui/history/history_bar.h"
 #include "ui/map/map_view.h"
 #include "ui/replay/animation_player.h"
 #include "ui/window/game_menu.h"
@@ -50,6 +51,7 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 /// Only the map shows in view-only mode, and nothing that belongs to playing.
 void MainWindow::showViewOnly() {
   const bool viewOnly = m_desk.view().viewOnly;
+  m_history->setRoom(!viewOnly && !m_player->isOn());
   m_gameMenu->setEnabled(!viewOnly && !m_player->isOn());
   if (m_column->isHidden() == viewOnly) return;
   const bool sizeIsFree = !isMaximized() && !isFullScreen();

@@ -26,6 +26,7 @@ class MapMenu : public QMenu {
   QAction* zoomOut() const { return m_zoomOut; }
   QAction* zoomToFit() const { return m_zoomToFit; }
   QAction* showOrders() const { return m_showOrders; }
+  QAction* showHistory() const { return m_showHistory; }
 
  private:
   /// One of the options that are on or off.
@@ -45,6 +46,7 @@ class MapMenu : public QMenu {
   QActionGroup* m_modeGroup;
   QAction* m_viewOnly = nullptr;
   QAction* m_showOrders = nullptr;
+  QAction* m_showHistory = nullptr;
   QAction* m_zoomIn = nullptr;
   QAction* m_zoomOut = nullptr;
   QAction* m_zoomToFit = nullptr;
