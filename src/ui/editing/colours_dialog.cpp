@@ -109,7 +109,7 @@ void ColoursDialog::layOut() {
   m_warning->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   m_warning->setFixedHeight((static_cast<int>(WarningLines) + 1) *
                             m_warning->fontMetrics().lineSpacing());
-  QDialogButtonBox* buttons = newOkCancel(*this);
+  QDialogButtonBox* buttons = newOkCancel(*this, tr("Colours and settings"));
   buttons->addButton(m_defaults, QDialogButtonBox::ResetRole);
   auto* rows = new QVBoxLayout(this);
   rows->setSpacing(Gap);

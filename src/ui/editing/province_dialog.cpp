@@ -23,7 +23,7 @@ ProvinceDialog::ProvinceDialog(const model::GameState& game, int province, QWidg
   name->setObjectName(QStringLiteral("lblFullName"));
   auto* home = new QLabel(homeText());
   home->setObjectName(QStringLiteral("lblPartOf"));
-  QDialogButtonBox* buttons = newOkCancel(*this);
+  QDialogButtonBox* buttons = newOkCancel(*this, tr("Editing"));
   auto* form = new QFormLayout(this);
   form->addRow(name);
   form->addRow(home);

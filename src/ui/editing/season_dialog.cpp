@@ -64,7 +64,7 @@ SeasonDialog::SeasonDialog(const model::GameState& game, QWidget* parent)
   setWindowTitle(tr("Edit season"));
   std::generate(m_players.begin(), m_players.end(), [] { return new QLineEdit; });
   nameControls();
-  QDialogButtonBox* buttons = newOkCancel(*this);
+  QDialogButtonBox* buttons = newOkCancel(*this, tr("Editing"));
 
   auto* columns = new QHBoxLayout;
   columns->setSpacing(ColumnGap);

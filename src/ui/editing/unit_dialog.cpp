@@ -67,7 +67,7 @@ void UnitDialog::layOut() {
   m_fault->setTextFormat(Qt::PlainText);
   m_fault->setAlignment(Qt::AlignTop | Qt::AlignLeft);
   m_fault->setMinimumHeight(FaultLines * fontMetrics().lineSpacing());
-  QDialogButtonBox* buttons = newOkCancel(*this);
+  QDialogButtonBox* buttons = newOkCancel(*this, tr("Editing"));
   m_ok = buttons->button(QDialogButtonBox::Ok);
   auto* form = new QFormLayout(this);
   form->addRow(tr("&Power:"), m_power);

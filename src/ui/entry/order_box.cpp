@@ -42,6 +42,14 @@ void OrderBox::dropEvent(QDropEvent* event) {
   event->accept();
 }
 
+/// Some styles write the example in a disabled box as if something stood in it.
+void OrderBox::changeEvent(QEvent* event) {
+  QLineEdit::changeEvent(event);
+  if (event->type() != QEvent::EnabledChange) return;
+  if (!isEnabled()) m_example = placeholderText();
+  setPlaceholderText(isEnabled() ? m_example : QString());
+}
+
 bool OrderBox::handOn(const QString& text) {
   QString lines = text.trimmed();
   lines.replace(QLatin1Char('\r'), QLatin1Char('\n'));

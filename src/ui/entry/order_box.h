@@ -20,11 +20,14 @@ class OrderBox : public QLineEdit {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void dropEvent(QDropEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   /// Whether it has several lines, and so was handed on.
   bool handOn(const QString& text);
   void pasteOrHandOn();
+
+  QString m_example;  ///< what stands in the empty box while it is enabled
 };
 
 }  // namespace orb::ui

@@ -91,6 +91,13 @@ void ListPart::wheelEvent(QWheelEvent* event) {
   event->ignore();
 }
 
+/// The colour of faint text has no disabled form.
+void WholeList::changeEvent(QEvent* event) {
+  QScrollArea::changeEvent(event);
+  if (event->type() == QEvent::EnabledChange)
+    m_caption->setForegroundRole(isEnabled() ? QPalette::PlaceholderText : QPalette::WindowText);
+}
+
 WholeList::WholeList(const QString& name, const QString& heading, QWidget* parent)
     : QScrollArea(parent),
       m_lines(new ListPart(*this)),

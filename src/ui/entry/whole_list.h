@@ -73,6 +73,9 @@ class WholeList : public QScrollArea {
   /// A line was selected that is hidden: it is of another power.
   void hiddenLineSelected();
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   void hideOthers();
 

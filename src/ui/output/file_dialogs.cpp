@@ -4,9 +4,11 @@
 #include "orders/exchange/order_files.h"
 #include "text/qt/text_codec.h"
 #include "ui/output/file_proposals.h"
+#include "ui/widgets/help_request.h"
 #include "ui/widgets/message_boxes.h"
 
 #include <QCheckBox>
+#include <QDialogButtonBox>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -31,6 +33,12 @@ void setUp(QFileDialog& dialog, const QString& title, const QStringList& filters
   dialog.setWindowTitle(text::ToQString(model::ProgramName) + title);
   dialog.setNameFilters(filters);
   if (!desk.folder().empty()) dialog.setDirectory(displayPath(desk.folder().string()));
+  // If Qt calls its buttons otherwise, the one is missing and all else works.
+  if (auto* buttons = dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))) {
+    buttons->addButton(QDialogButtonBox::Help);
+    QObject::connect(buttons, &QDialogButtonBox::helpRequested, &dialog,
+                     [&dialog] { askForHelp(dialog, QObject::tr("Files")); });
+  }
 }
 
 QString allFiles() {

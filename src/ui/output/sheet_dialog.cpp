@@ -31,7 +31,7 @@ SheetDialog::SheetDialog(QWidget* parent)
   column->addWidget(m_each);
   column->addWidget(m_all);
   column->addLayout(form);
-  column->addWidget(newOkCancel(*this));
+  column->addWidget(newOkCancel(*this, tr("Exchanging orders")));
 }
 
 std::string SheetDialog::address() const {

@@ -1,6 +1,7 @@
 #include "ui/widgets/controls.h"
 
 #include "text/qt/text_codec.h"
+#include "ui/widgets/help_request.h"
 
 #include <QAbstractButton>
 #include <QPainter>
@@ -24,11 +25,11 @@ QPushButton* newButton(const QString& name, const QString& caption) {
   return button;
 }
 
-QDialogButtonBox* newOkCancel(QDialog& dialog) {
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  for (QAbstractButton* button : buttons->buttons())
-    // Some themes put icons on these buttons, and on no other ones.
-    button->setIcon({});
+QDialogButtonBox* newOkCancel(QDialog& dialog, const QString& helpTopic) {
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel |
+                                       QDialogButtonBox::Help);
+  QObject::connect(buttons, &QDialogButtonBox::helpRequested, &dialog,
+                   [&dialog, helpTopic] { askForHelp(dialog, helpTopic); });
   QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
   QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
   return buttons;

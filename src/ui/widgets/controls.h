@@ -19,8 +19,8 @@ namespace orb::ui {
 /// A push button that the Enter key presses as the space key does.
 QPushButton* newButton(const QString& name, const QString& caption);
 
-/// OK and Cancel, which accept and reject the dialog; as plain as the panels' buttons.
-QDialogButtonBox* newOkCancel(QDialog& dialog);
+/// OK and Cancel, which accept and reject the dialog, and Help, which opens this topic over it.
+QDialogButtonBox* newOkCancel(QDialog& dialog, const QString& helpTopic);
 
 /// The heading of a panel.
 QLabel* newHeading(const QString& text);

@@ -24,17 +24,9 @@ QMessageBox::Icon boxIcon(model::Icon icon) {
 }  // namespace
 
 MessageBox::MessageBox(const QString& text, Icon icon, QWidget* parent) : QMessageBox(parent) {
-  setWindowTitle(text::ToQString(model::ProgramName));
   setTextFormat(Qt::PlainText);
   setText(text);
   setIcon(icon);
-}
-
-int MessageBox::exec() {
-  // Not every button has an icon of its own; either all or none.
-  for (QAbstractButton* button : buttons())
-    button->setIcon({});
-  return QMessageBox::exec();
 }
 
 QString displayText(const std::string& text) {
@@ -56,19 +48,16 @@ bool MessageBoxes::Warn(const std::string& text) {
 model::Answer MessageBoxes::Ask(const std::string& text) {
   MessageBox box(displayText(text), QMessageBox::Question, m_parent);
   box.setObjectName(QStringLiteral("frmDialog"));
-  box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::YesToAll);
-  box.button(QMessageBox::YesToAll)->setText(QObject::tr("Yes to &all"));
+  // Of one role, so that they stand in this order on every desktop.
+  auto* yes = box.addButton(QObject::tr("&Yes"), QMessageBox::ActionRole);
+  auto* no = box.addButton(QObject::tr("&No"), QMessageBox::ActionRole);
+  auto* yesToAll = box.addButton(QObject::tr("Yes to &all"), QMessageBox::ActionRole);
   // Every way of closing the box but the two kinds of Yes is a No.
-  box.setDefaultButton(QMessageBox::Yes);
-  box.setEscapeButton(QMessageBox::No);
-  switch (box.exec()) {
-    case QMessageBox::Yes:
-      return model::Answer::Yes;
-    case QMessageBox::YesToAll:
-      return model::Answer::YesToAll;
-    default:
-      return model::Answer::No;
-  }
+  box.setDefaultButton(yes);
+  box.setEscapeButton(no);
+  box.exec();
+  if (box.clickedButton() == yesToAll) return model::Answer::YesToAll;
+  return box.clickedButton() == yes ? model::Answer::Yes : model::Answer::No;
 }
 
 void MessageBoxes::Show(const std::string& text, model::Icon icon) {

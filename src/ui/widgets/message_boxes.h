@@ -19,9 +19,6 @@ class MessageBox : public QMessageBox {
 
  public:
   MessageBox(const QString& text, Icon icon, QWidget* parent);
-
-  /// Shows the box. All buttons must have been added.
-  int exec() override;
 };
 
 /// Real message boxes over a window. Enter agrees, Esc declines.

@@ -1,10 +1,14 @@
 #include "ui/window/application.h"
 
+#include "text/qt/text_codec.h"
 #include "ui/session/attempt.h"
 #include "ui/widgets/message_boxes.h"
 
+#include <QDialogButtonBox>
 #include <QEvent>
 #include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
 
 #include <exception>
@@ -18,6 +22,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     auto* label = qobject_cast<QLabel*>(receiver);
     if (label != nullptr && label->textFormat() == Qt::AutoText)
       label->setTextFormat(Qt::PlainText);
+    dress(*receiver);
   }
   try {
     return QApplication::notify(receiver, event);
@@ -25,6 +30,16 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     report(displayText(sentenceOf(std::current_exception())));
   }
   return true;
+}
+
+/// What Qt and the themes do to their own dialogs otherwise than to the program's.
+void Application::dress(QObject& receiver) {
+  if (auto* box = qobject_cast<QMessageBox*>(&receiver))
+    box->setWindowTitle(text::ToQString(model::ProgramName));
+  // Not every button has an icon of its own; either all or none.
+  auto* button = qobject_cast<QPushButton*>(&receiver);
+  if (button != nullptr && qobject_cast<QDialogButtonBox*>(button->parent()) != nullptr)
+    button->setIcon({});
 }
 
 /// Not from within the event: it may be one of painting, or the one that is to show the box.

@@ -4,11 +4,12 @@
 
 namespace orb::ui {
 
-/// The program's application. Two things hold in it everywhere, whatever a single widget does:
+/// The program's application. Some things hold in it everywhere, whatever a single widget does:
 ///
 /// No label and no tooltip takes its text for markup, unless it was told to: most texts come from
 /// files, and markup can name files to be opened. And no exception ends the program: what comes out
-/// of the handling of an event becomes an error box.
+/// of the handling of an event becomes an error box. Every message box is called as the program is,
+/// and no button of a dialog has an icon.
 class Application : public QApplication {
   Q_OBJECT
 
@@ -18,6 +19,7 @@ class Application : public QApplication {
   bool notify(QObject* receiver, QEvent* event) override;
 
  private:
+  static void dress(QObject& receiver);
   void report(const QString& fault);
 
   bool m_reporting = false;
