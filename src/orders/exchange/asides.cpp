@@ -37,6 +37,16 @@ Tokens LastSentence(Tokens line) {
   return line;
 }
 
+/// Whether a word of time is not about the orders: "two hours before the bell", "next lot".
+bool IsOfSomethingElse(Tokens title, std::size_t at) {
+  const bool isLast = at + 1 == title.size() || !IsA(title[at + 1], TokenKind::Word);
+  if (isLast) return false;
+  const Token& noun = title[at + 1];
+  if (IsWord(title[at], "before")) return HasUse(noun, WordUse::Filler);
+  return IsWord(title[at], "next") && (IsWord(noun, "lot") || IsWord(noun, "set") ||
+                                       IsWord(noun, "batch") || HasUse(noun, WordUse::Orders));
+}
+
 /// Words that often only are polite: "this should be all:".
 bool IsPolite(const Token& token) {
   return IsWord(token, "should") || IsWord(token, "could") || IsWord(token, "no") ||
@@ -58,7 +68,7 @@ std::optional<Aside> ReadTitle(Tokens line) {
   };
   for (std::size_t at = 0; at < last.size(); ++at) {
     if (HasUse(last[at], WordUse::SetsAside, WordUse::Aside, WordUse::Elsewhere) &&
-        !IsOfAddress(last, at)) {
+        !IsOfAddress(last, at) && !IsOfSomethingElse(last, at)) {
       return below(at, at + 1);
     }
   }
@@ -205,6 +215,51 @@ bool Reconsiders(Tokens words) {
   constexpr std::size_t few = 5;
   const bool isRemark = !words.empty() && IsA(words[0], TokenKind::Open);
   return !isRemark && FindSaying(words.first(std::min(few, words.size())), Saying::Reconsiders);
+}
+
+int ExcludedPlace(Tokens words, const PlaceNames& names) {
+  constexpr std::size_t longestPhrase = 3;
+  while (!words.empty() && (IsA(words[0], TokenKind::Open) || IsA(words[0], TokenKind::Comma)))
+    words = words.subspan(1);
+  while (!words.empty() && !IsA(words.back(), TokenKind::Word))
+    words = words.first(words.size() - 1);
+  for (std::size_t length = 1; length <= std::min(longestPhrase, words.size()); ++length) {
+    const auto said = FindSaying(words.first(length), Saying::Excludes);
+    if (!said || said->Begin != 0 || said->End != length) continue;
+    std::size_t at = length;
+    while (at < words.size() && (HasUse(words[at], WordUse::Filler) || IsWord(words[at], "to") ||
+                                 IsWord(words[at], "in")))
+      ++at;
+    const auto places = names.At(words, at);
+    if (!places.empty() && places[0].Next == words.size()) return places[0].Rows[0];
+  }
+  return 0;
+}
+
+std::size_t PastThoughts(Tokens words) {
+  constexpr std::size_t longestPhrase = 4;
+  constexpr std::size_t longest = 12;
+  if (!words.empty() && IsA(words[0], TokenKind::Open)) return 0;
+  bool thinks = false;
+  std::size_t past = 0;
+  for (std::size_t at = 0; at < std::min(words.size(), longest);) {
+    const Tokens rest = words.subspan(at, std::min(longestPhrase, words.size() - at));
+    std::size_t length = 0;
+    for (const Saying saying : {Saying::Reconsiders, Saying::Corrects}) {
+      const auto said = FindSaying(rest, saying);
+      if (said && said->Begin == 0) length = std::max(length, said->End);
+    }
+    thinks = thinks || length > 0;
+    const bool isSign = !IsA(words[at], TokenKind::Word) && words[at].Text != "?" &&
+                        !IsA(words[at], TokenKind::Open) && !IsA(words[at], TokenKind::Close);
+    const bool isPlain = HasUse(words[at], WordUse::Mood, WordUse::Plain) ||
+                         IsWord(words[at], "ps") || IsWord(words[at], "on");
+    // "The" and a type may begin the order.
+    if (length == 0 && !isSign && !(isPlain && UnitTypeOf(words[at]) == 0)) break;
+    at += std::max<std::size_t>(length, 1);
+    past = at;
+  }
+  return thinks ? past : 0;
 }
 
 std::optional<TokenRange> FindCorrection(Tokens words, bool isBefore) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orders/exchange/words.h"
+#include "orders/exchange/place_names.h"
 #include "orders/exchange/written_order.h"
 
 #include <cstdint>
@@ -53,6 +53,19 @@ std::optional<TokenRange> ReadReservation(Tokens line, bool isBehindOrders);
 /// Whether words before an order are second thoughts about the one before it: "no wait", "oder
 /// doch".
 bool Reconsiders(Tokens words);
+
+/// The place that words exclude where they say no more, "not Pic", "instead of Spain": a row of the
+/// map, or 0.
+int ExcludedPlace(Tokens words, const PlaceNames& names);
+
+/// How many of the first words are second thoughts and nothing else: of "no wait, I mean A Par" all
+/// before the unit; 0: none.
+std::size_t PastThoughts(Tokens words);
+
+/// Whether words are second thoughts and nothing else.
+inline bool IsSecondThought(Tokens words) {
+  return !words.empty() && PastThoughts(words) == words.size();
+}
 
 /// Where words next to an order say that it holds rather than another one: "make that", "instead".
 /// `isBefore`: the order stands behind them.

@@ -1,7 +1,9 @@
 #include "orders/exchange/concerns.h"
 
+#include "model/place.h"
 #include "orders/exchange/asides.h"
 #include "orders/exchange/comments.h"
+#include "orders/exchange/line_kinds.h"
 #include "orders/exchange/power_names.h"
 #include "text/strings.h"
 
@@ -80,6 +82,7 @@ Concern ConcernOf(Tokens tokens, const PlaceNames& names, const model::Map& map)
   };
   std::size_t first = 0;
   if (const PowerName power = PowerAt(tokens, 0); power.Power != 0) first = power.Next;
+  first += PastThoughts(tokens.subspan(first));
   while (first < tokens.size() && !IsA(tokens[first], TokenKind::Word))
     ++first;
   if (first == tokens.size()) return concern;
@@ -109,6 +112,34 @@ Concern ConcernOf(Tokens tokens, const PlaceNames& names, const model::Map& map)
   const bool isOfAll = SpeaksOfOrders(tokens) || FindCondition(tokens) < few;
   concern.MayBeAll = isOfAll && MakesCondition(tokens) && !IsOffer(tokens);
   return concern;
+}
+
+bool BeginsWithUnit(Tokens words, std::string_view power, const KnownGame& known) {
+  constexpr std::size_t longest = 12;
+  constexpr std::array<std::string_view, 10> ofAll{"all",   "everything", "these", "those", "this",
+                                                   "above", "them",       "alles", "tout",  "todo"};
+  const bool mayBeAll = std::ranges::any_of(words, [&](const Token& token) {
+    return HasUse(token, WordUse::Orders) || std::ranges::find(ofAll, token.Text) != ofAll.end();
+  });
+  if (mayBeAll || words.size() > longest) return false;
+  const std::size_t at = !words.empty() && UnitTypeOf(words[0]) != 0 ? 1 : 0;
+  const auto places = known.Names.At(words, at);
+  if (power.empty() || places.empty() || places[0].Rows.size() != 1) return false;
+  const std::string& name = known.NameOf(places[0].Rows[0]);
+  return std::any_of(known.Game.Units.begin(), known.Game.Units.end(),
+                     [&](const model::Unit& unit) {
+                       return unit.Power == power && model::SamePlace(unit.Location, name);
+                     });
+}
+
+bool NamesOtherPlaces(Tokens line, const std::vector<ReadLine>& lines, const KnownGame& known) {
+  constexpr std::size_t few = 40;
+  if (!NamesPlace(line, known.Names)) return false;
+  const Concern concern = ConcernOf(line, known.Names, *known.Game.Map);
+  const auto begin = lines.end() - static_cast<std::ptrdiff_t>(std::min(few, lines.size()));
+  return std::none_of(begin, lines.end(), [&](const ReadLine& row) {
+    return IsUnderstood(row) && Concerns(concern, row.Order);
+  });
 }
 
 }  // namespace orb::exchange

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "orders/exchange/known_game.h"
 #include "orders/exchange/place_names.h"
+#include "orders/exchange/read_line.h"
 
 #include <string>
 #include <string_view>
@@ -28,5 +30,12 @@ bool Concerns(const Concern& concern, std::string_view order);
 /// What a line that is not understood may be about: one that begins as an order about its own unit,
 /// prose about every place that it names, and where it makes a condition about all.
 Concern ConcernOf(Tokens tokens, const PlaceNames& names, const model::Map& map);
+
+/// Whether words begin with a unit of the power: what they say is said of that one.
+bool BeginsWithUnit(Tokens words, std::string_view power, const KnownGame& known);
+
+/// Whether a line names places, and none where a unit is ordered something right above it: then it
+/// may be about any of those.
+bool NamesOtherPlaces(Tokens line, const std::vector<ReadLine>& lines, const KnownGame& known);
 
 }  // namespace orb::exchange

@@ -124,6 +124,10 @@ void WeighSecondThoughts(std::vector<ReadLine>& lines, const std::vector<Surroun
       }
       before.Doubted = before.Rows.size();
     }
+    const bool isOpen = around[row].Amends && misgiving != nullptr && !isAgain;
+    if (isOpen && before.Doubted > 0 && stage != model::Stage::Adjustments) {
+      MakeDoubtful(lines[row], misgiving->Reason, misgiving->At);
+    }
     before.Rows.push_back(row);
     others.insert(lines[row].Order);
   }
@@ -193,6 +197,9 @@ class Contradictions {
     const ReadLine& now = lines_[second];
     if (!IsUnderstood(old) || now.Kind != LineKind::Order || old.Order == now.Order) return false;
     if (IsSetAside(first)) return true;
+    if (around_[second].Amends) return true;
+    const std::string& instead = around_[second].Instead;
+    if (!instead.empty() && TargetOf(old.Order) == instead) return true;
     // Of two in one line, either may be the one that is put right: "A Par - Bur should be - Pic".
     if (old.Number == now.Number) return false;
     return around_[second].Corrects || corrections_[second] > corrections_[first + 1];

@@ -1,5 +1,6 @@
 #include "orders/exchange/doubts.h"
 
+#include "orders/exchange/asides.h"
 #include "orders/exchange/power_names.h"
 #include "text/utf8.h"
 
@@ -61,14 +62,11 @@ class OwnWords {
 
 /// Whether "(not Bur)" excludes a place that the order does not speak of.
 bool ExcludesOther(Tokens remark, const OwnWords& own, const PlaceNames& names) {
-  std::vector<Token> words;
-  std::ranges::copy_if(remark, std::back_inserter(words), [](const Token& token) {
-    return IsA(token, TokenKind::Word) && !HasUse(token, WordUse::Filler);
-  });
-  if (words.size() < 2 || !IsWord(words[0], "not")) return false;
-  const std::size_t place = IsWord(words[1], "to") ? 2 : 1;
-  return place + LengthOfPlace(words, place, names) == words.size() && place < words.size() &&
-         own.Repeated(words, place) == 0;
+  if (ExcludedPlace(remark, names) == 0) return false;
+  for (std::size_t at = 1; at < remark.size(); ++at) {
+    if (!names.At(remark, at).empty()) return own.Repeated(remark, at) == 0;
+  }
+  return false;
 }
 
 /// Whether words are set off as the outcome of an order: "*bounce*".

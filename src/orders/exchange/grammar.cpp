@@ -90,8 +90,11 @@ class Grammar {
       // Under "Builds:" or "Remove:" the heading gives the verb.
       if (verb == Verb::None) {
         if (!IsAllowed(verb_) || !phrases_.Ends(via)) {
+          // A slip of the pen in "kiel denmerk" is looked for first.
+          const bool isSlip = state.Order.Unit.Type == 0 && phrases_.IsNearPlace(state.Next);
+          if (isSlip) Append(all, VerblessMoves(state));
           phrases_.Expected("it is not said what the unit does", via);
-          Append(all, VerblessMoves(state));
+          if (!isSlip) Append(all, VerblessMoves(state));
           continue;
         }
         state.Order.What = verb_;
@@ -108,11 +111,19 @@ class Grammar {
   /// "A Par Bur" is a move of somebody in a hurry.
   States VerblessMoves(State state) {
     const WrittenUnit& unit = state.Order.Unit;
-    const bool isUnit = unit.Type != 0 || unit.Power != 0 || state.Order.Power != 0;
+    const bool isUnit = unit.Type != 0 || unit.Power != 0;
     state.Order.What = stage_ == model::Stage::Retreats ? Verb::Retreat : Verb::Move;
     state.Order.IsGuess = true;
-    if (!isUnit || !IsAllowed(state.Order.What) || !phrases_.IsWordAt(state.Next)) return {};
-    return Destinations(state);
+    state.Order.IsBare = !isUnit;
+    if (!IsAllowed(state.Order.What) || (!isUnit && !phrases_.IsPair(unit.Place))) return {};
+    if (isUnit && !phrases_.IsWordAt(state.Next)) return {};
+    States moves = Destinations(state);
+    for (State& move : moves) {
+      const std::size_t via = phrases_.PastVia(move.Next);
+      move.Order.ByConvoy = via != move.Next;
+      move.Next = via;
+    }
+    return moves;
   }
 
   /// What may stand behind a unit and its verb, which was written at the token.
@@ -259,6 +270,7 @@ class Grammar {
   /// Adds what the supported unit can do.
   void AddSupports(States& all, State state) {
     all.push_back(state);
+    Append(all, VerblessTails(state));
     const auto [verb, next] = phrases_.VerbAt(state.Next);
     if (verb != Verb::Move && verb != Verb::Hold) return;
     state.Next = next;
@@ -268,11 +280,21 @@ class Grammar {
     all.push_back(std::move(state));
   }
 
+  /// "Mar s par bur": the other unit's move without a dash.
+  States VerblessTails(State state) {
+    const WrittenPlace& place = state.Order.Other.Place;
+    if (state.Next != place.At.End || !phrases_.IsPair(place)) return {};
+    state.Order.OtherWhat = Verb::Move;
+    state.Order.IsGuess = state.Order.IsBare = true;
+    return Destinations(state);
+  }
+
   States Convoys(State state) {
     States all = ConvoyedMoves(state, state.Next);
     state.Next = phrases_.PastNoun(state.Next);
     for (State& read : Units(state, &WrittenOrder::Other)) {
       all.push_back(read);
+      Append(all, VerblessTails(read));
       const auto [verb, next] = phrases_.VerbAt(read.Next);
       if (verb != Verb::Move) continue;
       read.Next = next;

@@ -129,6 +129,23 @@ void KnownGame::Learn(const PlainOrder& order) {
            earlier.Location == order.Location;
   });
   if (order.Kind == orders::OrderKind::Move) Moves.push_back(order);
+  if (order.Kind == orders::OrderKind::Convoy) Convoys.emplace(order.Target, order.Target2);
+}
+
+bool KnownGame::IsConvoyed(const PlainOrder& move) const {
+  return move.UnitType == "A" && Convoys.contains({move.Location, move.Target});
+}
+
+std::string KnownGame::OnlyPower() const {
+  constexpr std::size_t nameLength = 3;
+  if (Ordered.empty()) return {};
+  const std::string power = Ordered.begin()->substr(0, nameLength);
+  return Ordered.rbegin()->substr(0, nameLength) == power ? power : std::string();
+}
+
+bool KnownGame::TakeRest() const {
+  constexpr int most = 50;
+  return ++RestReads < most && IsLearnt;
 }
 
 const std::string* KnownGame::OrderedMove(const Unit& unit) const {

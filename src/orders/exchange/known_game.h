@@ -5,7 +5,9 @@
 #include "orders/exchange/plain_order.h"
 #include "orders/exchange/written_order.h"
 
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace orb::exchange {
@@ -39,6 +41,9 @@ class KnownGame {
   /// Takes note of a move; an earlier one of the unit is forgotten, whatever it does now.
   void Learn(const PlainOrder& order);
 
+  /// Whether the text has a fleet convoy an army so.
+  bool IsConvoyed(const PlainOrder& move) const;
+
   /// Where the unit is ordered to move to, or nothing.
   const std::string* OrderedMove(const model::Unit& unit) const;
 
@@ -47,7 +52,18 @@ class KnownGame {
   const model::GameState& Game;
   const PlaceNames& Names;
   const model::Stage Stage;
+  /// The power of all units that the text orders, or nothing where they are of several.
+  std::string OnlyPower() const;
+
+  /// Whether orders for the rest of the units can be told: only when the text was read once, and
+  /// not again and again.
+  bool TakeRest() const;
+
   std::vector<PlainOrder> Moves;  ///< those learnt
+  std::set<std::string> Ordered;  ///< the subjects of all orders, where they were learnt
+  bool IsLearnt = false;          ///< whether the text was read once
+  mutable int RestReads = 0;      ///< how often the rest of the units was ordered something
+  std::set<std::pair<std::string, std::string>> Convoys;  ///< from where to where, learnt
 };
 
 /// The abbreviation of a power 1..7; empty for 0.

@@ -186,6 +186,13 @@ Evidence Weigh(Tokens tokens, const PlaceNames& names) {
 
 }  // namespace
 
+bool NamesPlace(Tokens tokens, const PlaceNames& names) {
+  for (std::size_t at = 0; at < tokens.size(); ++at) {
+    if (!names.At(tokens, at).empty()) return true;
+  }
+  return false;
+}
+
 bool HoldsOrderWords(Tokens tokens, const PlaceNames& names) {
   for (std::size_t at = 0; at < tokens.size(); ++at) {
     if (VerbOf(tokens[at]) != Verb::None || UnitTypeOf(tokens[at]) != 0) return true;

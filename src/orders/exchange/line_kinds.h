@@ -30,6 +30,9 @@ bool IsPressTitle(Tokens tokens);
 /// "<name>"; what comes before belongs to none of its orders.
 std::size_t PastLineStart(Tokens tokens);
 
+/// Whether there is any place.
+bool NamesPlace(Tokens tokens, const PlaceNames& names);
+
 /// Whether there is any verb, unit or place: what orders could be read from.
 bool HoldsOrderWords(Tokens tokens, const PlaceNames& names);
 

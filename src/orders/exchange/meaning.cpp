@@ -147,7 +147,8 @@ bool IsPossible(const Meaning& meaning, const KnownGame& known) {
   switch (order->Kind) {
     case orders::OrderKind::Move:
     case orders::OrderKind::Retreat:
-      return model::IsAdjacent(map, order->UnitType, order->Location, order->Target);
+      return model::IsAdjacent(map, order->UnitType, order->Location, order->Target) ||
+             known.IsConvoyed(*order);
     case orders::OrderKind::Support:
       return model::CanSupportInto(map, unit,
                                    order->Target2.empty() ? order->Target : order->Target2);

@@ -1,7 +1,9 @@
 #include "orders/exchange/order_part.h"
 
+#include "orders/exchange/concerns.h"
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/power_names.h"
+#include "text/strings.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -39,8 +41,11 @@ std::size_t PastWish(Tokens tokens) {
   // "I could" and "if you would" leave it open, unless they are polite.
   const bool isOpen =
       has({"if", "should", "could"}) && !has({"obliged", "grateful", "glad", "appreciate", "you"});
-  return isOpen || std::ranges::all_of(
-                       wish, [](const Token& token) { return !HasUse(token, WordUse::Wish); })
+  // "Sie will" tells what somebody else wants.
+  const bool isOfOther = has({"sie"}) && !has({"konnten", "bitte"});
+  return isOpen || isOfOther ||
+                 std::ranges::all_of(
+                     wish, [](const Token& token) { return !HasUse(token, WordUse::Wish); })
              ? 0
              : at;
 }
@@ -86,6 +91,29 @@ void LeaveInContext(const WrittenOrder& order, const Token& first, model::Stage 
   if (order.What == Verb::Build || order.What == Verb::Disband) context.Orders = order.What;
 }
 
+bool IsOnlyPossible(const Meanings& meanings, const KnownGame& known) {
+  return meanings.All.size() == 1 && IsPossible(meanings.All[0], known);
+}
+
+/// A type and a free home centre without a verb can only be built: "f ber + a mun".
+void FindBuild(Tokens tokens, const KnownGame& known, int power, PartRead& part) {
+  const Parse parse =
+      ParseWrittenOrder(tokens, known.Names, *known.Game.Map, known.Stage, Verb::Build);
+  if (parse.Orders.size() != 1 || parse.Orders[0].Unit.Type == 0) return;
+  Meanings meant = FindMeanings(parse.Orders, known, power);
+  if (!IsOnlyPossible(meant, known)) return;
+  const std::string province = ProvinceOf(meant.All[0].Line);
+  const bool isFree =
+      std::none_of(known.Game.Units.begin(), known.Game.Units.end(), [&](const model::Unit& unit) {
+        return text::UpperCase(unit.Location).starts_with(province);
+      });
+  if (!isFree) return;
+  part.Meant = std::move(meant);
+  part.End = parse.Orders[0].End;
+  part.IsInferred = true;
+  part.Kind = LineKind::Order;
+}
+
 }  // namespace
 
 PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context, Rest rest) {
@@ -108,18 +136,31 @@ PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context, Rest 
     return part;
   }
   part.Meant = FindMeanings(parse.Orders, known, context.Power);
+  const bool isBare =
+      !parse.Orders.empty() && std::ranges::all_of(parse.Orders, &WrittenOrder::IsBare);
+  const bool isSailed = std::ranges::any_of(parse.Orders, &WrittenOrder::ByConvoy);
+  if (isBare && (rest == Rest::Anything || (!isSailed && !IsOnlyPossible(part.Meant, known)))) {
+    part.Meant = {};
+    part.Meant.Problem = Fault{"it is not said what the unit does", parse.Orders[0].Destination.At};
+  }
   for (const WrittenOrder& order : parse.Orders)
     part.End = std::max(part.End, start + order.End);
   if (!part.Meant.All.empty()) {
     LeaveInContext(parse.Orders.back(), tokens[start], known.Stage, context);
     part.Kind = part.Meant.All.size() == 1 ? LineKind::Order : LineKind::Ambiguous;
     part.IsGuess = std::ranges::any_of(parse.Orders, &WrittenOrder::IsGuess);
+    part.IsBare = isBare;
     if (part.IsGuess && !IsPossible(part.Meant.All[0], known)) {
       part.Doubt = "it is not said what the unit does";
     }
     part.NamesPower = std::ranges::any_of(
         parse.Orders, [](const WrittenOrder& order) { return order.Power != 0; });
     return part;
+  }
+  if (known.Stage == model::Stage::Adjustments && verb == Verb::None && rest == Rest::Remarks) {
+    FindBuild(tokens.subspan(start), known, context.Power, part);
+    part.End += start;
+    if (part.Kind == LineKind::Order) return part;
   }
   // What is wrong in the situation is reported rather than what is wrong in the grammar: the order
   // was read to its end then.

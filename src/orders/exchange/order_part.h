@@ -23,6 +23,9 @@ struct PartRead {
   std::string Doubt;         ///< why it may mean something else than it was read as, or empty
   bool NamesPower = false;   ///< the order itself says whose it is
   bool IsGuess = false;      ///< it is not said what the unit does
+  bool IsBare = false;       ///< two places are all that is written
+  bool IsInferred = false;   ///< a build that no word says to be one
+  bool IsRest = false;       ///< "everything else holds"
   bool IsRemark = false;     ///< of PassedOver: it may change the orders next to it
   std::size_t Sentence = 0;  ///< the token at which its sentence begins
 };

@@ -23,7 +23,8 @@ bool MayGoOn(const SourceLine& line, const SourceLine& next) {
       next.Plain.Text.starts_with('(') && ClosingBracket(next.All, 0) < next.All.size();
   if (PastLineStart(next.All) != 0) return false;
   const bool begins = isClosed || (IsA(first, TokenKind::Word) && !IsNumber(first));
-  if (!isOpen || !begins || next.Plain.Text.find_first_of(">|") == 0) return false;
+  const bool isTitled = next.All.size() > 1 && IsA(next.All[1], TokenKind::Colon);
+  if (!isOpen || !begins || isTitled || next.Plain.Text.find_first_of(">|") == 0) return false;
   const bool isSmall = IsA(first, TokenKind::Word) && !first.Capital;
   return isSmall || HasUse(last, WordUse::Filler) || VerbOf(last) != Verb::None ||
          IsWord(last, "of") || IsWord(last, "in") || IsWord(last, "from") || IsWord(last, "at") ||

@@ -1,5 +1,6 @@
 #include "orders/exchange/phrases.h"
 
+#include "orders/exchange/asides.h"
 #include "orders/exchange/comments.h"
 #include "orders/exchange/doubts.h"
 #include "text/strings.h"
@@ -18,23 +19,28 @@ bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& word
 }
 
 // Words that may stand at certain places of an order and add nothing to it.
-constexpr std::array<std::string_view, 21> InWords{
-    "in",  "at", "from", "of", "the", "presently", "currently", "now", "stationed", "based", "von",
-    "aus", "di", "da",   "du", "del", "della",     "dello",     "de",  "i",         "en"};
-constexpr std::array ViaWords{"via"sv,   "by"sv,  "using"sv, "with"sv, "through"sv,
-                              "over"sv,  "mit"sv, "met"sv,   "med"sv,  "door"sv,
-                              "przez"sv, "per"sv, "com"sv};
+constexpr std::array<std::string_view, 26> InWords{
+    "z",   "ze",        "uit",       "desde", "depuis",    "in",    "at",  "from", "of",
+    "the", "presently", "currently", "now",   "stationed", "based", "von", "aus",  "di",
+    "da",  "du",        "del",       "della", "dello",     "de",    "i",   "en"};
+/// The same, right behind a type.
+constexpr std::array TypeInWords{"a"sv, "em"sv, "no"sv, "na"sv, "w"sv, "u"sv, "do"sv, "dans"sv};
+constexpr std::array ViaWords{"via"sv, "by"sv,  "using"sv, "with"sv, "through"sv, "par"sv, "over"sv,
+                              "mit"sv, "met"sv, "med"sv,   "door"sv, "przez"sv,   "per"sv, "com"sv};
 constexpr std::array SeaWords{"convoy"sv,    "convoys"sv, "sea"sv,     "c"sv,       "water"sv,
                               "cv"sv,        "konvoi"sv,  "konvoj"sv,  "convoi"sv,  "konwoj"sv,
                               "convoglio"sv, "comboio"sv, "konvooi"sv, "convooi"sv, "konvojen"sv,
                               "konvoien"sv,  "k"sv,       "konwoju"sv};
-constexpr std::array<std::string_view, 20> HoldTails{
-    "staan", "stehen", "dort",   "tight",  "put",   "position", "fast", "still", "in",    "place",
-    "firm",  "home",   "strong", "steady", "there", "where",    "it",   "they",  "ferma", "parada"};
-constexpr std::array<std::string_view, 26> MoveTails{
-    "sich",  "zich",    "sig",     "seg",     "ab",     "vor",     "back", "zuruck", "zurueck",
-    "terug", "tilbage", "tilbake", "against", "toward", "towards", "on",   "upon",   "for",
-    "in",    "ins",     "im",      "over",    "across", "out",     "up",   "en"};
+constexpr std::array<std::string_view, 28> HoldTails{
+    "kvar",   "gewoon", "natuurlijk", "naturlich", "der",   "den",   "er",
+    "is",     "staan",  "stehen",     "dort",      "tight", "put",   "position",
+    "fast",   "still",  "in",         "place",     "firm",  "home",  "strong",
+    "steady", "there",  "where",      "it",        "they",  "ferma", "parada"};
+constexpr std::array<std::string_view, 32> MoveTails{
+    "sich",    "zich",  "sig",     "seg",     "ab",      "vor",    "back",    "zuruck",
+    "zurueck", "terug", "tilbage", "tilbake", "against", "toward", "towards", "on",
+    "upon",    "for",   "in",      "ins",     "im",      "over",   "across",  "out",
+    "up",      "en",    "down",    "off",     "home",    "round",  "around",  "along"};
 constexpr std::array<std::string_view, 5> Nouns{"move", "attack", "advance", "of", "for"};
 constexpr std::array<std::string_view, 12> CountWords{
     "one", "two", "a", "all", "remaining", "rest", "any", "other", "of", "both", "last", "for"};
@@ -151,7 +157,9 @@ Phrases::Read<WrittenUnit> Phrases::Units(std::size_t at) {
     if (isBeforeType) ++next;
     if (next < tokens_.size()) head.Type = UnitTypeOf(tokens_[next]);
     if (head.Type != 0) next = Skip(PastMark(next));
-    while (next < tokens_.size() && IsOneOf(tokens_[next], InWords))
+    const bool isTypeWord = head.Type != 0 && next > 0 && tokens_[next - 1].Text.size() > 2;
+    while (next < tokens_.size() &&
+           (IsOneOf(tokens_[next], InWords) || (isTypeWord && IsOneOf(tokens_[next], TypeInWords))))
       next = Skip(next + 1);
     // Without a power or a type, a word that is no place may be anything: it is not said to be off
     // the map.
@@ -186,7 +194,8 @@ Phrases::Read<WrittenUnit> Phrases::Units(std::size_t at) {
 
 /// "To" in languages that have a short word for it, between two names.
 bool Phrases::IsPreposition(std::size_t at) const {
-  constexpr std::array<std::string_view, 4> words{"do", "a", "na", "em"};
+  constexpr std::array<std::string_view, 11> words{"do",  "a",  "na",   "em",  "in", "en",
+                                                   "ins", "im", "dans", "sur", "au"};
   return at > 0 && at + 1 < tokens_.size() && IsOneOf(tokens_[at], words) && !tokens_[at].Capital &&
          tokens_[at - 1].Capital && tokens_[at + 1].Capital && tokens_[at + 1].Text.size() > 2 &&
          UnitTypeOf(tokens_[at + 1]) == 0 && !names_.At(tokens_, at - 1).empty();
@@ -205,6 +214,12 @@ bool Phrases::IsReflexive(std::size_t at) const {
 std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
   Verb verb = Verb::None;
   if (const std::size_t next = ToVerb(at); IsReflexive(next)) at = next + 1;
+  // "Back to Warsaw".
+  const std::size_t tail = ToVerb(at);
+  const bool isBeforeTo = tail + 1 < tokens_.size() && IsOneOf(tokens_[tail], MoveTails) &&
+                          VerbOf(tokens_[tail]) == Verb::None &&
+                          VerbOf(tokens_[tail + 1]) == Verb::Move;
+  if (isBeforeTo) at = tail + 1;
   for (std::size_t next = ToVerb(at); next < tokens_.size(); next = ToVerb(next + 1)) {
     const bool isFirst = verb == Verb::None;
     const Verb word = isFirst && IsPreposition(next) ? Verb::Move : VerbOf(tokens_[next]);
@@ -227,13 +242,6 @@ bool Phrases::MayLead(std::size_t at) const {
   constexpr std::array<std::string_view, 8> leading{"move",  "moves", "send",  "mueve",
                                                     "muevo", "muove", "muovo", "walk"};
   return VerbOf(tokens_[at]) != Verb::Move || IsOneOf(tokens_[at], leading);
-}
-
-bool Phrases::IsWater(const WrittenPlace& place) const {
-  return std::ranges::all_of(place.Rows, [&](int row) {
-    // Waters are spelled in capitals on the map.
-    return text::UpperCase(map_.Provinces[row].Name) == map_.Provinces[row].Name;
-  });
 }
 
 std::size_t Phrases::PastVia(std::size_t at) const {
@@ -332,7 +340,8 @@ bool Phrases::Ends(std::size_t at) {
       // Bur", a second may belong to it as well.
     } else if ((IsLongDash(token) && std::ranges::none_of(part(0, at), IsLongDash) &&
                 IsProse(part(at + 1, tokens_.size()), names_)) ||
-               (token.Kind == TokenKind::Word && IsHarmlessTail(part(at, tokens_.size())))) {
+               (token.Kind == TokenKind::Word && IsHarmlessTail(part(at, tokens_.size()))) ||
+               (token.Means.Sayings != 0 && ExcludedPlace(part(at, tokens_.size()), names_) != 0)) {
       return true;
     } else if (const std::size_t next = PastDecoration(at); next != at) {
       at = next;

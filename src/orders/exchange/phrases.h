@@ -41,6 +41,12 @@ class Phrases {
 
   bool IsWordAt(std::size_t at) const { return Is(at, TokenKind::Word); }
 
+  /// Whether another name follows a place at once, and the two are no name together: "lon nth".
+  bool IsPair(const WrittenPlace& place) const;
+
+  /// Whether a word here names no place, but nearly does.
+  bool IsNearPlace(std::size_t at) const;
+
   bool IsWater(const WrittenPlace& place) const;
 
   /// The power alone in brackets here, "(GER)", and the token behind them.

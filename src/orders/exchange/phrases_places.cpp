@@ -1,5 +1,6 @@
 #include "orders/exchange/phrases.h"
 #include "orders/exchange/vocabulary.h"
+#include "text/strings.h"
 
 #include <algorithm>
 #include <array>
@@ -116,6 +117,24 @@ std::size_t Phrases::PastArticle(std::size_t at) const {
                          Is(at - 1, TokenKind::Word) && VerbOf(tokens_[at - 1]) == Verb::Move;
   return isArticle && names_.At(tokens_, at).empty() && !names_.At(tokens_, at + 1).empty() ? at + 1
                                                                                             : at;
+}
+
+bool Phrases::IsPair(const WrittenPlace& place) const {
+  const std::size_t next = Is(place.At.End, TokenKind::Dot) ? place.At.End + 1 : place.At.End;
+  const auto whole = names_.At(tokens_, place.At.Begin);
+  return IsWordAt(next) && (whole.empty() || whole[0].Next <= next);
+}
+
+bool Phrases::IsNearPlace(std::size_t at) const {
+  return IsWordAt(at) && tokens_[at].Text.size() > 3 && names_.At(tokens_, at).empty() &&
+         !names_.Near(tokens_[at].Text).empty();
+}
+
+bool Phrases::IsWater(const WrittenPlace& place) const {
+  return std::ranges::all_of(place.Rows, [&](int row) {
+    // Waters are spelled in capitals on the map.
+    return text::UpperCase(map_.Provinces[row].Name) == map_.Provinces[row].Name;
+  });
 }
 
 Phrases::Read<WrittenPlace> Phrases::Places(std::size_t at, std::string_view whenMissing,

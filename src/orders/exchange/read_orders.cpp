@@ -19,6 +19,7 @@
 #include "orders/exchange/slips.h"
 #include "orders/exchange/source_line.h"
 #include "orders/exchange/speakers.h"
+#include "orders/exchange/type_letters.h"
 #include "text/strings.h"
 
 #include <algorithm>
@@ -41,6 +42,7 @@ class TextReader {
 
   std::vector<ReadLine> Read(std::deque<SourceLine>& text) {
     rows_.Reserve(text.size());
+    LearnTypeLetters(text, known_);
     for (const SourceLine& line : text)
       speakers_.Take(line.All, PastLineStart(line.All), known_.Names);
     for (std::size_t at = 0; at < text.size();) {
@@ -52,6 +54,8 @@ class TextReader {
         rows_.AddLine(text[at + i], context_.Power, LineKind::PassedOver);
       at += count;
     }
+    TakeThoughts(rows_.Lines.size(), false);
+    rows_.DoubtLoneOnes();
     WeighOrders(rows_.Lines, rows_.Around.Rows(), known_.Stage,
                 PowerText(model::FindCountry(options_.Power)));
     return std::move(rows_.Lines);
@@ -117,7 +121,7 @@ class TextReader {
     rows_.BeginLine(quotations_.IsQuoted(), inSignature_);
     if (ReadExact(line)) return;
     if (line.IsTooLong) return rows_.AddTooLong(line, context_.Power);
-    TokenRange body{speakers_.Past(tokens, PastLineStart(tokens)), tokens.size()};
+    TokenRange body{speakers_.Past(tokens, PastLineStart(tokens), known_.Names), tokens.size()};
     const bool hasWord = std::ranges::any_of(
         tokens, [](const Token& token) { return token.Kind == TokenKind::Word; });
     if (!hasWord) {
@@ -200,6 +204,7 @@ class TextReader {
     if (struck_.Take(line.Plain.Text)) {
       rows_.Around.SetDoubtFrom(first, "it may be struck out", {line.Offset, line.Bytes.size()});
     }
+    if (!line.Bytes.empty()) TakeThoughts(first, holdsOrders);
     const bool isBehindOrders = rows_.Around.IsInBlock();
     rows_.Around.EndLine(first, holdsOrders, line.Bytes.empty(), rows_.Lines);
     if (holdsOrders) {
@@ -217,9 +222,13 @@ class TextReader {
     const bool isBuild = known_.Stage == model::Stage::Adjustments;
     const bool isBrief = line.All.size() <= few;
     const bool isOfAbove =
-        (isBuild && (isBrief || IsUnclear(rows_.Lines.back()))) || (isBehindOrders && isBrief);
-    const Tokens said = Tokens(line.All).subspan(speakers_.Past(line.All, PastLineStart(line.All)));
-    if (isOfAbove && Reconsiders(said)) {
+        (isBuild && (isBrief || IsUnclear(rows_.Lines.back()))) ||
+        (isBehindOrders && (isBrief || NamesOtherPlaces(line.All, rows_.Lines, known_)));
+    const Tokens said =
+        Tokens(line.All).subspan(speakers_.Past(line.All, PastLineStart(line.All), known_.Names));
+    if (isBehindOrders && IsSecondThought(said)) {
+      thoughts_ = Misgiving{Quoted(said) + " may change it", {line.Offset, line.Bytes.size()}};
+    } else if (isOfAbove && Reconsiders(said)) {
       rows_.Around.DoubtBlock(Quoted(said) + " may change it", {line.Offset, line.Bytes.size()});
     } else if (const auto at = ReadReservation(line.All, isBehindOrders)) {
       rows_.Around.DoubtBlock(Quoted(line.Part(*at)) + " may change it", line.Span(*at));
@@ -236,6 +245,22 @@ class TextReader {
     }
   }
 
+  /// Second thoughts that stood alone are about the order below them; where there is none, about
+  /// all those above them.
+  void TakeThoughts(std::size_t first, bool holdsOrders) {
+    if (!thoughts_) return;
+    const auto order =
+        std::find_if(rows_.Lines.begin() + static_cast<std::ptrdiff_t>(first), rows_.Lines.end(),
+                     [](const ReadLine& row) { return exchange::IsUnderstood(row); });
+    if (holdsOrders && order != rows_.Lines.end()) {
+      rows_.Around.SetAmends(static_cast<std::size_t>(order - rows_.Lines.begin()),
+                             thoughts_->Reason, thoughts_->At);
+    } else {
+      rows_.Around.DoubtBlock(thoughts_->Reason, thoughts_->At);
+    }
+    thoughts_.reset();
+  }
+
   /// "My orders for England:" ends what another title set aside.
   void TakeOwnTitle(Tokens title) {
     const bool isOfOrders = std::ranges::any_of(
@@ -249,7 +274,7 @@ class TextReader {
   /// "*nwg" below an order puts it right.
   bool IsPlaceAlone(const SourceLine& line) const {
     const Tokens tokens =
-        Tokens(line.All).subspan(speakers_.Past(line.All, PastLineStart(line.All)));
+        Tokens(line.All).subspan(speakers_.Past(line.All, PastLineStart(line.All), known_.Names));
     const auto places = known_.Names.At(tokens, 0);
     const bool goesOn = IsA(line.All[0], TokenKind::Dash);
     // Several places have the name that some people have as well: "Noa".
@@ -263,6 +288,12 @@ class TextReader {
   }
 
   void SetAside(const SourceLine& line, const Aside& aside, std::size_t first) {
+    const std::string power = context_.Power != 0 ? PowerText(context_.Power) : known_.OnlyPower();
+    const std::size_t start = speakers_.Past(line.All, PastLineStart(line.All), known_.Names);
+    if (IsUnclear(rows_.Lines.back()) &&
+        BeginsWithUnit(Tokens(line.All).subspan(start), power, known_)) {
+      return;
+    }
     // Its words alone are no reason to show it: the orders that it sets aside are shown.
     std::vector<Token> rest(line.All.begin(), line.All.end());
     rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(aside.At.Begin),
@@ -315,7 +346,8 @@ class TextReader {
   bool inPress_ = false;
   // Of the line that is being read.
   bool isMailHead_ = false;
-  bool isTitle_ = false;  ///< of words known to be those of headings
+  std::optional<Misgiving> thoughts_;  ///< second thoughts right above
+  bool isTitle_ = false;               ///< of words known to be those of headings
   Quotations quotations_;
   StruckLines struck_;
   Rows rows_;
@@ -325,6 +357,7 @@ void LearnMoves(const std::vector<ReadLine>& lines, KnownGame& known) {
   if (known.Stage != model::Stage::Moves) return;
   for (const ReadLine& line : lines) {
     if (!IsUnderstood(line)) continue;
+    known.Ordered.insert(SubjectOf(line.Order, known.Stage));
     const auto order = ReadExactLine(*known.Game.Map, known.Stage, line.Order);
     if (order) known.Learn(*order);
   }
@@ -345,7 +378,9 @@ std::vector<ReadLine> ReadOrders(const model::GameState& game, std::string_view 
   std::vector<ReadLine> lines = TextReader(known, options).Read(cut);
   LearnMoves(lines, known);
   // What a support means may depend on moves that are written below it.
-  if (!known.Moves.empty()) lines = TextReader(known, options).Read(cut);
+  known.IsLearnt = true;
+  if (!known.Moves.empty() || !known.Convoys.empty() || known.RestReads > 0)
+    lines = TextReader(known, options).Read(cut);
   return lines;
 }
 

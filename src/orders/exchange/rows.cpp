@@ -4,21 +4,16 @@
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/sayings.h"
+#include "text/strings.h"
 
 #include <algorithm>
+#include <set>
 
 namespace orb::exchange {
 namespace {
 
 /// How many words and signs a greeting before an order has at most: "Hi Tom, A Par - Bur".
 constexpr std::size_t LongestGreeting = 4;
-
-bool NamesPlace(Tokens words, const PlaceNames& names) {
-  for (std::size_t at = 0; at < words.size(); ++at) {
-    if (!names.At(words, at).empty()) return true;
-  }
-  return false;
-}
 
 /// Whether what is not understood in the line of an order may put that order right, "correction:
 /// Pic", "to Pic", as it begins none of its own.
@@ -46,8 +41,12 @@ bool IsOpening(Tokens words, const PlaceNames& names, int power) {
   const bool wishes = std::ranges::any_of(words, [](const Token& token) {
     return HasUse(token, WordUse::Wish) && token.Text.size() > 2 && !IsWord(token, "have");
   });
-  const bool isOpen = std::ranges::any_of(words, [](const Token& token) {
-    const bool isPolite = IsWord(token, "should") || IsWord(token, "could");
+  const bool isAsked = std::ranges::any_of(words, [](const Token& token) {
+    return IsWord(token, "you") || IsWord(token, "like") || IsWord(token, "please");
+  });
+  const bool isOpen = std::ranges::any_of(words, [&](const Token& token) {
+    // "I could move" is a thought, "could you" a wish.
+    const bool isPolite = isAsked && (IsWord(token, "should") || IsWord(token, "could"));
     return (HasUse(token, WordUse::Condition) && !isPolite) || IsDoubtfulSign(token) ||
            HasUse(token, WordUse::Aside, WordUse::SetsAside, WordUse::Elsewhere) ||
            HasUse(token, WordUse::Report, WordUse::Reservation);
@@ -135,6 +134,9 @@ void Rows::AddOnly(const SourceLine& line, TokenRange range, const PartRead& par
   read.ReadAs = part.ReadAs;
   const std::size_t row = Lines.size() - 1;
   if (!part.Doubt.empty()) Around.SetDoubtFrom(row, part.Doubt, read.Place);
+  if (part.IsInferred) inferred_.push_back(row);
+  if (part.IsRest) rest_.push_back(row);
+  if (part.IsBare && context.Power == 0) pairs_.push_back(row);
   if (part.NamesPower && IsOfOther(line, part)) {
     Around.SetDoubtFrom(row, "the line has orders of another power", read.Place);
   }
@@ -181,6 +183,31 @@ void Rows::AddProblem(const SourceLine& line, TokenRange range, const Fault& pro
       begin < end ? line.Span({begin, end}) : Span{read.Place.Offset + read.Place.Length, 0};
 }
 
+void Rows::DoubtLoneOnes() {
+  const auto& around = Around.Rows();
+  const bool changes = std::ranges::any_of(
+      around, [](const Surroundings& row) { return row.Corrects || row.Amends || row.IsOlder; });
+  for (const std::size_t row : rest_) {
+    if (!changes) break;
+    Around.SetDoubt(row, "it is not said what holds", Lines[row].Place, false);
+  }
+  std::set<std::string> removing;
+  std::set<int> unclear;
+  for (const ReadLine& line : Lines) {
+    if (line.Order.find(" disband ") != std::string::npos) removing.insert(line.Power);
+    if (line.Kind == LineKind::NotUnderstood) unclear.insert(line.Number);
+  }
+  for (const std::size_t row : inferred_) {
+    const ReadLine& line = Lines[row];
+    if (!removing.contains(line.Power) && !unclear.contains(line.Number)) continue;
+    Around.SetDoubt(row, "it is not said what is to be done", line.Place, false);
+  }
+  const auto orders = std::ranges::count_if(
+      Lines, [](const ReadLine& line) { return exchange::IsUnderstood(line); });
+  if (pairs_.size() != 1 || orders > 1 || known_.Stage == model::Stage::Retreats) return;
+  Around.SetDoubt(pairs_[0], "it is not said what the unit does", Lines[pairs_[0]].Place, false);
+}
+
 bool Rows::HoldsOrders(std::size_t first) const {
   return std::any_of(Lines.begin() + static_cast<std::ptrdiff_t>(first), Lines.end(),
                      [](const ReadLine& line) {
@@ -202,13 +229,18 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
     const bool isGreeting = remark.size() <= LongestGreeting &&
                             HasUse(remark[0], WordUse::Greeting) && !ReadAside(remark).has_value();
     if (FindSaying(remark, Saying::Excludes) && Exclude(line, said)) continue;
+    if (const int place = ExcludedPlace(remark, known_.Names); place != 0) AmendBefore(said, place);
+    const auto next = std::ranges::find_if(
+        understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
+    if (next != understood_.end() && IsSecondThought(remark)) {
+      Around.SetAmends(next->Row, Quoted(remark) + " may change it", line.Span(said.At));
+      continue;
+    }
     const bool isOwn =
         std::ranges::find(understood_, said.Sentence, &Understood::Sentence) != understood_.end();
     const bool isDoubted = !isGreeting && IsDoubted(line, said, isOwn);
     // Builds name no unit twice, so that any such words may take back those above.
     const bool isOfAbove = isDoubted && known_.Stage == model::Stage::Adjustments;
-    const auto next = std::ranges::find_if(
-        understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
     if ((isOfAbove || Reconsiders(remark)) && next != understood_.end()) {
       Around.SetReconsiders(next->Row, Quoted(remark) + " may change it", line.Span(said.At));
     }
@@ -228,6 +260,15 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
   }
 }
 
+/// "A Par - Bur, not Pic" holds rather than an order to Picardy above.
+void Rows::AmendBefore(const Said& said, int place) {
+  constexpr std::size_t nameLength = 3;
+  for (const Understood& order : understood_) {
+    if (order.At.End != said.At.Begin) continue;
+    Around.SetInstead(order.Row, text::UpperCase(known_.NameOf(place).substr(0, nameLength)));
+  }
+}
+
 /// Whether words are about an order of their sentence. Between two orders without a comma they are
 /// about these two, in brackets about the one before; behind the last and before the first about
 /// all.
@@ -243,6 +284,10 @@ bool Rows::SpeaksOf(const SourceLine& line, const Said& said, const Understood& 
     if (isBefore(other)) before = &other;
     if (isBehind(other) && behind == nullptr) behind = &other;
   }
+  // Of several sentences the one that asks has its sign behind the order that it asks about.
+  const bool isSign = IsDoubtfulSign(line.All[said.At.Begin]) && said.At.End <= said.At.Begin + 3 &&
+                      before != nullptr && behind == nullptr;
+  if (isSign && understood_.back().At.Begin >= said.At.End) return order.Row == before->Row;
   const bool isAttached = before != nullptr && behind != nullptr &&
                           before->At.End == said.At.Begin &&
                           !IsA(line.All[said.At.Begin], TokenKind::Comma);

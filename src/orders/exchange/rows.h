@@ -50,6 +50,11 @@ class Rows {
   /// has none, each of the line, whose rows begin at `first`.
   void DoubtRemarks(const SourceLine& line, std::size_t first);
 
+  /// Two places alone are hardly meant as an order where nothing else in the text is written so;
+  /// where a text changes others, "the rest holds" may say that those stay in force; and units of a
+  /// list are not built where the text removes some, or says something else of them.
+  void DoubtLoneOnes();
+
   /// Whether any row from one on holds an order.
   bool HoldsOrders(std::size_t first) const;
 
@@ -77,11 +82,15 @@ class Rows {
   void AddProblem(const SourceLine& line, TokenRange range, const Fault& problem, ReadLine& read);
   bool IsOfOther(const SourceLine& line, const PartRead& part) const;
   bool SpeaksOf(const SourceLine& line, const Said& said, const Understood& order) const;
+  void AmendBefore(const Said& said, int place);
   bool Exclude(const SourceLine& line, const Said& said);
   bool IsAddress(Tokens words, bool isFirst, int power) const;
   bool IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const;
 
   const KnownGame& known_;
+  std::vector<std::size_t> pairs_;     ///< rows of two places alone, of a power that nobody named
+  std::vector<std::size_t> inferred_;  ///< rows of builds that no word says to be some
+  std::vector<std::size_t> rest_;      ///< rows of "everything else holds"
   bool isOlder_ = false;
   bool inSignature_ = false;
   // Of the line that is being read.

@@ -1,6 +1,7 @@
 #include "orders/exchange/run_on.h"
 
 #include "orders/exchange/comments.h"
+#include "orders/exchange/doubts.h"
 #include "orders/exchange/power_names.h"
 #include "orders/order_list.h"
 
@@ -110,6 +111,26 @@ class Parting {
   std::map<std::tuple<std::size_t, int, Verb>, Ways> found_;
 };
 
+/// Pairs of places one after the other, "vie gal bud ser", each of which its unit can move along.
+PartsRead ReadPairs(Tokens tokens, const KnownGame& known, const Context& context) {
+  constexpr std::size_t longestPair = 6;
+  PartsRead parts;
+  std::size_t at = 0;
+  while (at < tokens.size() && !known.Names.At(tokens, at).empty()) {
+    PartRead found;
+    std::size_t end = std::min(at + longestPair, tokens.size());
+    for (; end > at + 1; --end) {
+      Context tried = context;
+      found = ReadPart(tokens.subspan(at, end - at), known, tried);
+      if (found.Kind == LineKind::Order && found.IsBare) break;
+    }
+    if (end == at + 1) break;
+    parts.emplace_back(TokenRange{at, end}, std::move(found));
+    at = end;
+  }
+  return parts.size() > 1 && IsHarmlessTail(tokens.subspan(at)) ? parts : PartsRead();
+}
+
 /// Whether two of the orders are for one unit: they may be meant as a choice.
 bool RepeatsUnit(const PartsRead& parts) {
   std::set<std::string> units;
@@ -124,6 +145,7 @@ bool RepeatsUnit(const PartsRead& parts) {
 }  // namespace
 
 PartsRead ReadRunOn(Tokens tokens, const KnownGame& known, Context& context) {
+  if (PartsRead pairs = ReadPairs(tokens, known, context); !pairs.empty()) return pairs;
   Parting parting(tokens, known);
   if (!parting.IsWorthwhile()) return {};
   Context behind = context;

@@ -72,7 +72,8 @@ constexpr std::array Rows{
         "otmen*|xechna|ksechna|plaka kano|astei*"},
     Row{Saying::Postpones,
         "ideal world|perfect world|in theory|ideally|one day|some day|eventually|"
-        "in the long run|in my dreams|=let me know|=ask first|=check|=verify|1st choice|2nd "
+        "in my dreams|in this order|in order of|as far as|preference|preferences|=let me know|=ask "
+        "first|=check|=verify|1st choice|2nd "
         "choice|first choice|second choice|"
         "he wants|she wants|they want|promised by|suggested by|proposed by|not process|dont "
         "process|not use|dont use|not enter|dont enter|not file|"
@@ -205,7 +206,9 @@ constexpr std::array Rows{
         "small change|slight change|with one change|habe mich vertan|meinung geandert|"
         "je me suis trompe|me equivoque|mi sono sbagliato|ho cambiato idea|change d avis|"
         "changement d avis|verbeterde versie|angrat mig|ombestemt|zmiana zdania|"
-        "scratch that last one|scrap that one"},
+        "scratch that last one|scrap that one|jokes aside|joking aside|kidding aside|skamt asido|"
+        "spas beiseite|scherz beiseite|blague a part|bromas aparte|scherzi a parte|"
+        "brincadeiras a parte|spog til side|zarty na bok|seriously now|no but seriously"},
     Row{Saying::Shrugs,
         "no hard feelings|lump it|tough luck|serves him right|nicht bose|selber schuld|"
         "pech gehabt|tant pis|peor para|peggio per|pior para"},

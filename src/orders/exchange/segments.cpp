@@ -6,6 +6,8 @@
 #include "orders/exchange/embedded.h"
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/power_names.h"
+#include "orders/exchange/prose.h"
+#include "orders/exchange/rest_holds.h"
 #include "orders/exchange/shared_words.h"
 #include "orders/exchange/slips.h"
 #include "orders/exchange/source_line.h"
@@ -35,6 +37,11 @@ PartsRead Moved(PartsRead parts, std::size_t begin) {
 
 /// Whether a full stop ends a sentence: none of "St. Petersburg", "N. Sea" or "A. Par".
 bool EndsSentence(Tokens tokens, std::size_t dot, std::size_t begin, const PlaceNames& names) {
+  const bool asks = tokens[dot].Text == "?" && tokens[dot].Kind == TokenKind::Mark;
+  if (asks && dot + 1 < tokens.size() && dot != begin) {
+    const Token& next = tokens[dot + 1];
+    return !next.Glued && next.Capital && next.Text.size() > 1;
+  }
   if (tokens[dot].Kind != TokenKind::Dot || dot + 1 == tokens.size() || dot == begin) return false;
   const Token& before = tokens[dot - 1];
   const Token& behind = tokens[dot + 1];
@@ -56,7 +63,8 @@ std::vector<TokenRange> Sentences(Tokens tokens, TokenRange range, const PlaceNa
       const std::size_t close = ClosingBracket(tokens.first(range.End), at);
       if (close < range.End) at = close;
     } else if (EndsSentence(tokens.first(range.End), at, begin, names)) {
-      sentences.push_back({begin, at});
+      // A question keeps its mark.
+      sentences.push_back({begin, IsA(tokens[at], TokenKind::Dot) ? at : at + 1});
       begin = at + 1;
     }
   }
@@ -65,7 +73,7 @@ std::vector<TokenRange> Sentences(Tokens tokens, TokenRange range, const PlaceNa
 }
 
 /// Whether a sentence tells what another power will not like or do: "Russia won't see it coming".
-bool IsOfOthers(Tokens sentence) {
+bool IsOfOthers(Tokens sentence, const PlaceNames& names, int power) {
   constexpr std::array<std::string_view, 12> soft{"not",    "wont",  "dont",  "doesnt",
                                                   "isnt",   "arent", "never", "no",
                                                   "should", "could", "might", "may"};
@@ -74,18 +82,23 @@ bool IsOfOthers(Tokens sentence) {
            (HasUse(token, WordUse::Condition) && std::ranges::find(soft, token.Text) == soft.end());
   });
   constexpr std::size_t few = 4;
-  return sentence.size() > few && PowerAt(sentence, 0).Power != 0 && !isHard &&
-         !ReadAside(sentence);
+  // "I told the Austrian that he could go there".
+  const bool isTold =
+      sentence.size() > few && NamesPlace(sentence, names) && HasUse(sentence[0], WordUse::Wish) &&
+      (HasUse(sentence[1], WordUse::Report) || HasUse(sentence[2], WordUse::Report));
+  const int named = isTold ? PowerIn(sentence) : PowerAt(sentence, 0).Power;
+  return sentence.size() > few && named != 0 && named != power && !isHard && !ReadAside(sentence);
 }
 
 /// Whether a sentence without orders says something that may concern others: what is passed over
 /// silently does not.
-bool Speaks(Tokens sentence, const PlaceNames& names) {
+bool Speaks(Tokens sentence, const PlaceNames& names, int power) {
   // More words than these are a thought of their own: "sorry, I was at football".
   constexpr std::size_t few = 4;
   const bool reconsiders =
       sentence.size() <= few && Reconsiders(sentence) && !HoldsOrderWords(sentence, names);
-  if (IsOfOthers(sentence)) return false;
+  if (IsOfOthers(sentence, names, power)) return false;
+  if (IsOffer(sentence) && !HoldsOrderWords(sentence, names) && !ReadAside(sentence)) return false;
   // "Yesterday." alone speaks of the order, among others of something else.
   const bool isBrief = sentence.size() <= few;
   return ReadAside(sentence) || reconsiders ||
@@ -130,7 +143,8 @@ class SegmentReader {
     const Tokens tokens = PartOf(range);
     Context whole = context_;
     PartRead read = ReadPart(tokens, known_, whole);
-    if (IsUnderstood(read)) return Take(range, std::move(read), whole);
+    const bool isWhole = IsUnderstood(read) && !TellsHelpers(tokens);
+    if (isWhole) return Take(range, std::move(read), whole);
     if (ReadClauses(range)) return;
     whole = context_;
     if (TakeAll(ReadRunOn(tokens, known_, whole), range.Begin, whole)) return;
@@ -141,7 +155,7 @@ class SegmentReader {
     if (TakeAll(ReadEmbedded(tokens, known_, whole), range.Begin, whole)) return;
     // What a heading before it says holds all the same.
     ReadPart(tokens, known_, context_);
-    if (Speaks(tokens, known_.Names) && !BeginsAsOrder(tokens, known_.Names)) {
+    if (Speaks(tokens, known_.Names, context_.Power) && !BeginsAsOrder(tokens, known_.Names)) {
       read = Remark();
     } else if (IsNoOrder(tokens, known_.Names, inSignature_)) {
       read.Kind = LineKind::PassedOver;
@@ -205,18 +219,70 @@ class SegmentReader {
   }
 
   void ReadClause(TokenRange range) {
+    const Tokens tokens = PartOf(range);
+    if (TellsOfRest(tokens)) return TakeRest(range);
+    // "FRA: +A Par +F Bre".
+    if (IsA(tokens.back(), TokenKind::Colon) && TakeHeading(range)) return TakeNone(range);
+    if (TellsHelpers(tokens) && TakeProse(range)) return;
     const Context before = context_;
     parts_.emplace_back(range, ReadTyped(range));
     PartRead& part = parts_.back().second;
-    if (IsUnderstood(part)) return;
-    for (const auto& share : {ReadSameUnit, ReadPronoun}) {
-      if (auto again = share(line_, parts_, range, known_, start_)) {
-        part = std::move(*again);
-        context_ = before;
-        return;
+    if (IsUnderstood(part)) return DoubtChoice(range, part);
+    if (auto again = ReadSameUnit(line_, parts_, range, known_, start_)) {
+      part = std::move(*again);
+      context_ = before;
+      return;
+    }
+    PartRead plain = std::move(part);
+    parts_.pop_back();
+    if (TakeProse(range)) return;
+    parts_.emplace_back(range, std::move(plain));
+    ReadOddClause(range, before);
+  }
+
+  /// "A Mun / F Kie" leaves the choice where it is not said what becomes of them.
+  void DoubtChoice(TokenRange range, PartRead& part) const {
+    const auto isSlash = [&](std::size_t at) {
+      return at < line_.size() && IsA(line_[at], TokenKind::Slash);
+    };
+    const bool saysVerb = std::ranges::any_of(
+        PartOf(range), [](const Token& token) { return VerbOf(token) != Verb::None; });
+    const bool isChoice = isSlash(range.End) || (range.Begin > 0 && isSlash(range.Begin - 1));
+    if (isChoice && !saysVerb) part.Doubt = "it is not said which is meant";
+  }
+
+  void TakeRest(TokenRange range) {
+    if (TakeAll(HoldsOfRest(range, PartOf(range), known_, context_), 0, context_)) return;
+    TakeNone(range);
+  }
+
+  /// What is no order, and says nothing of any.
+  void TakeNone(TokenRange range) {
+    PartRead none;
+    none.Kind = LineKind::PassedOver;
+    parts_.emplace_back(range, std::move(none));
+  }
+
+  /// A clause in the words of prose, all of which are understood.
+  bool TakeProse(TokenRange range) {
+    return TakeAll(ReadProse(line_, range, parts_, known_, context_), 0, context_);
+  }
+
+  /// A clause that is no order as it stands. `before`: the context where it begins.
+  void ReadOddClause(TokenRange range, const Context& before) {
+    const Tokens tokens = PartOf(range);
+    if (const std::size_t thoughts = PastThoughts(tokens); thoughts < tokens.size()) {
+      Context tried = before;
+      PartRead read;
+      if (thoughts > 0) read = ReadPart(tokens.subspan(thoughts), known_, tried);
+      if (IsUnderstood(read)) {
+        // "No A Mun" builds none.
+        if (read.IsInferred) read.Doubt = "it is not said what is to be done";
+        parts_.back() = {{range.Begin, range.Begin + thoughts}, Remark()};
+        return Take({range.Begin + thoughts, range.End}, std::move(read), tried);
       }
     }
-    const Tokens tokens = PartOf(range);
+    PartRead& part = parts_.back().second;
     const Context behind = std::exchange(context_, before);
     if (TakeInstead(ReadRunOn(tokens, known_, context_), range)) return;
     PartRead mended = ReadWithSlips(tokens, part, known_, context_);
@@ -228,7 +294,8 @@ class SegmentReader {
     // A heading before what was not understood holds all the same.
     context_ = behind;
     // What does not begin as an order of its own may concern the orders beside it.
-    if (Speaks(tokens, known_.Names) && !BeginsAsOrder(tokens, known_.Names)) part = Remark();
+    if (Speaks(tokens, known_.Names, context_.Power) && !BeginsAsOrder(tokens, known_.Names))
+      part = Remark();
   }
 
   /// Takes orders in place of the clause that they were read from; false for none.
@@ -265,8 +332,9 @@ PartsRead ReadSegment(Tokens line, TokenRange segment, const KnownGame& known, C
                       bool inSignature) {
   // As one order first: "A. Par. - Bur." has full stops and is one.
   Context whole = context;
-  PartRead read = ReadPart(line.subspan(segment.Begin, segment.End - segment.Begin), known, whole);
-  if (IsUnderstood(read)) {
+  const Tokens all = line.subspan(segment.Begin, segment.End - segment.Begin);
+  PartRead read = ReadPart(all, known, whole);
+  if (IsUnderstood(read) && !TellsHelpers(all)) {
     context = whole;
     read.Sentence = segment.Begin;
     return {{segment, std::move(read)}};

@@ -1,5 +1,6 @@
 #include "orders/exchange/shared_words.h"
 
+#include "orders/exchange/asides.h"
 #include "orders/exchange/doubts.h"
 #include "orders/exchange/line_kinds.h"
 
@@ -39,26 +40,27 @@ std::vector<Token> WithSharedType(Tokens part, std::optional<Token>& plural) {
 void ShareVerbs(Tokens line, const KnownGame& known, const Context& context, PartsRead& parts) {
   for (std::size_t i = parts.size(); i-- > 1;) {
     auto& [range, part] = parts[i - 1];
-    const Tokens unit = PartOf(line, range);
-    // "Berlin and Munich both hold" needs its "both".
-    const bool isBoth = std::ranges::any_of(
-        PartOf(line, parts[i].first), [](const Token& token) { return IsWord(token, "both"); });
-    // "Germany: A Ber, A Mun hold".
-    const auto colon = std::ranges::find(unit, TokenKind::Colon, &Token::Kind);
-    const auto first = colon == unit.end() || colon + 1 == unit.end() ? unit.begin() : colon + 1;
-    const bool isUnit = UnitTypeOf(*first) != 0 || isBoth;
-    const bool lacksVerb =
-        !IsUnderstood(part) && !part.IsRemark && isUnit && std::ranges::none_of(unit, IsVerb);
-    if (!lacksVerb || !IsUnderstood(parts[i].second)) continue;
-    const Tokens next = PartOf(line, parts[i].first);
-    const auto verb = std::ranges::find_if(next, IsVerb);
-    if (verb == next.end()) continue;
+    const PartRead& next = parts[i].second;
+    if (IsUnderstood(part) || part.IsRemark || next.Kind != LineKind::Order) continue;
+    const Tokens whole = PartOf(line, range);
+    // "Germany: A Ber, A Mun hold", "with Ruhr and Silesia supporting it".
+    const auto colon = std::ranges::find(whole, TokenKind::Colon, &Token::Kind);
+    const bool isWith = IsWord(whole[0], "with") || IsWord(whole[0], "and");
+    const Tokens unit = whole.subspan(isWith && whole.size() > 1 ? 1 : 0);
+    if (std::ranges::any_of(unit, IsVerb)) continue;
+    const std::string& order = next.Meant.All[0].Line;
+    std::string text;
+    const Token& last = unit.back();
+    text.assign(unit[0].Written.data(), last.Written.data() + last.Written.size());
+    const auto first = colon == whole.end() || colon + 1 == whole.end() ? whole.begin() : colon + 1;
+    text.append(order, std::min(order.find(')') + 1, order.size()));
+    const std::vector<Token> tokens = CutTokens(text);
     Context tried = context;
-    const Tokens does = next.subspan(static_cast<std::size_t>(verb - next.begin()));
-    PartRead read = ReadPart(Joined({unit.begin(), unit.end()}, does), known, tried);
-    if (read.Kind != LineKind::Order) continue;
+    PartRead read = ReadPart(tokens, known, tried);
+    const bool isSure = read.Kind == LineKind::Order && !read.IsGuess;
+    if (!isSure || (UnitTypeOf(*first) == 0 && !IsPossible(read.Meant.All[0], known))) continue;
     // The order is written in its own part, as far as it goes.
-    read.End = unit.size();
+    read.End = whole.size();
     part = std::move(read);
   }
 }
@@ -66,9 +68,12 @@ void ShareVerbs(Tokens line, const KnownGame& known, const Context& context, Par
 std::optional<PartRead> ReadSameUnit(Tokens line, const PartsRead& parts, TokenRange range,
                                      const KnownGame& known, const Context& context) {
   if (!IsVerb(line[range.Begin]) || parts.size() < 2) return std::nullopt;
-  const auto& [beforeAt, before] = parts[parts.size() - 2];
-  if (!IsUnderstood(before)) return std::nullopt;
-  const Tokens unit = PartOf(line, beforeAt);
+  auto last = parts.rbegin() + 1;
+  while (last != parts.rend() && last->second.IsRemark &&
+         IsSecondThought(PartOf(line, last->first)))
+    ++last;
+  if (last == parts.rend() || !IsUnderstood(last->second)) return std::nullopt;
+  const Tokens unit = PartOf(line, last->first);
   const Tokens rest = PartOf(line, range);
   const auto verb = std::ranges::find_if(unit, IsVerb);
   if (verb == unit.begin()) return std::nullopt;
@@ -76,34 +81,6 @@ std::optional<PartRead> ReadSameUnit(Tokens line, const PartsRead& parts, TokenR
   PartRead read = ReadPart(Joined({unit.begin(), verb}, rest), known, tried);
   if (!IsUnderstood(read)) return std::nullopt;
   read.End = rest.size();
-  return read;
-}
-
-std::optional<PartRead> ReadPronoun(Tokens line, const PartsRead& parts, TokenRange range,
-                                    const KnownGame& known, const Context& context) {
-  const Tokens clause = PartOf(line, range);
-  const auto verb = std::ranges::find_if(clause, [](const Token& token) {
-    return VerbOf(token) == Verb::Support || VerbOf(token) == Verb::Convoy;
-  });
-  if (verb == clause.end() || parts.size() < 2) return std::nullopt;
-  const auto isPronoun = [](const Token& token) {
-    return IsWord(token, "it") || IsWord(token, "that") || IsWord(token, "this") ||
-           IsWord(token, "him") || IsWord(token, "them");
-  };
-  const auto isTail = [](const Token& token) {
-    return IsWord(token, "up") || IsWord(token, "there") || IsWord(token, "over") ||
-           IsWord(token, "move") || IsA(token, TokenKind::Dot);
-  };
-  const auto pronoun = verb + 1;
-  if (pronoun == clause.end() || !isPronoun(*pronoun)) return std::nullopt;
-  if (!std::all_of(pronoun + 1, clause.end(), isTail)) return std::nullopt;
-  const auto& [beforeAt, before] = parts[parts.size() - 2];
-  if (before.Kind != LineKind::Order) return std::nullopt;
-  Context tried = context;
-  const Tokens order = PartOf(line, beforeAt).first(before.End);
-  PartRead read = ReadPart(Joined({clause.begin(), pronoun}, order), known, tried);
-  if (!IsUnderstood(read)) return std::nullopt;
-  read.End = clause.size();
   return read;
 }
 

@@ -22,11 +22,6 @@ void ShareVerbs(Tokens line, const KnownGame& known, const Context& context, Par
 std::optional<PartRead> ReadSameUnit(Tokens line, const PartsRead& parts, TokenRange range,
                                      const KnownGame& known, const Context& context);
 
-/// "... and Marseilles backs it up": reads the pronoun behind "supports" or "convoys" as the order
-/// before it, which is the last but one of the parts; nothing where there is none.
-std::optional<PartRead> ReadPronoun(Tokens line, const PartsRead& parts, TokenRange range,
-                                    const KnownGame& known, const Context& context);
-
 /// Joins an order that is broken off, "A Par -", with its rest in the line below; false, and
 /// nothing is changed, where the two make no order.
 bool JoinBroken(ReadLine& above, ReadLine& below, const SourceLine& line, const KnownGame& known,

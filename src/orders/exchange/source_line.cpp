@@ -18,11 +18,20 @@ bool IsAnd(Tokens tokens, std::size_t at) {
   if (!IsA(tokens[at], TokenKind::Word)) return false;
   const std::string& word = tokens[at].Text;
   if (std::ranges::find(words, word) != words.end()) return true;
-  const bool isBeforeUnit =
-      at > 0 && at + 1 < tokens.size() && tokens[at + 1].Text.size() > 1 &&
-      (UnitTypeOf(tokens[at + 1]) != 0 || HasUse(tokens[at + 1], WordUse::Filler));
-  return isBeforeUnit && !tokens[at].Capital &&
-         std::ranges::find(shortWords, word) != shortWords.end();
+  const bool isShort = std::ranges::find(shortWords, word) != shortWords.end();
+  if (!isShort || at == 0 || at + 1 == tokens.size()) return false;
+  if (tokens[at].Capital || tokens[at].Glued) return false;
+  const Token& next = tokens[at + 1];
+  const auto isTypeAt = [&](std::size_t place) {
+    return place < tokens.size() && UnitTypeOf(tokens[place]) != 0;
+  };
+  const auto isVerbAt = [&](std::size_t place) {
+    return place < tokens.size() && VerbOf(tokens[place]) != Verb::None;
+  };
+  // "En Berlijn naar Kiel"; but "en Bourgogne" is where somebody goes.
+  const bool isBeforePlace = next.Capital && (isVerbAt(at + 2) || isVerbAt(at + 3));
+  return next.Text.size() > 1 &&
+         (isTypeAt(at + 1) || isTypeAt(at + 2) || isBeforePlace || HasUse(next, WordUse::Filler));
 }
 
 bool IsSeam(Tokens tokens, std::size_t at, Seam seam) {

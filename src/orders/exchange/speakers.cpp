@@ -29,6 +29,25 @@ bool SaysSomething(Tokens line, std::size_t at, const PlaceNames& names) {
   return false;
 }
 
+/// Behind a name before a power in brackets and a colon, "Pia (Italy):"; else the same token.
+std::size_t PastPlayer(Tokens line, std::size_t at, const PlaceNames& names) {
+  constexpr std::size_t longest = 2;
+  for (std::size_t open = at + 1; open <= at + longest && open + 3 < line.size(); ++open) {
+    if (!IsA(line[open], TokenKind::Open)) continue;
+    const PowerName power = PowerAt(line, open + 1);
+    const bool isTitle = power.Power != 0 && power.Next + 1 < line.size() &&
+                         IsA(line[power.Next], TokenKind::Close) &&
+                         IsA(line[power.Next + 1], TokenKind::Colon);
+    for (std::size_t word = at; isTitle && word < open; ++word) {
+      const WordMeaning& means = line[word].Means;
+      if (means.Does != Verb::None || means.UnitType != 0 || means.Uses != 0) return at;
+      if (!names.At(line, word).empty()) return at;
+    }
+    return isTitle ? open : at;
+  }
+  return at;
+}
+
 }  // namespace
 
 void Speakers::Take(Tokens line, std::size_t at, const PlaceNames& names) {
@@ -36,7 +55,8 @@ void Speakers::Take(Tokens line, std::size_t at, const PlaceNames& names) {
   if (!name.empty() && !SaysSomething(line, at, names)) ++lines_[name];
 }
 
-std::size_t Speakers::Past(Tokens line, std::size_t at) const {
+std::size_t Speakers::Past(Tokens line, std::size_t at, const PlaceNames& names) const {
+  if (const std::size_t past = PastPlayer(line, at, names); past != at) return past;
   const auto found = lines_.find(NameAt(line, at));
   if (found == lines_.end() || found->second < 2) return at;
   while (!IsA(line[at], TokenKind::Colon))

@@ -15,7 +15,7 @@ class Speakers {
   void Take(Tokens line, std::size_t at, const PlaceNames& names);
 
   /// Behind the name of somebody who speaks in several lines; else the same token.
-  std::size_t Past(Tokens line, std::size_t at) const;
+  std::size_t Past(Tokens line, std::size_t at, const PlaceNames& names) const;
 
  private:
   std::map<std::string, int> lines_;  ///< by name

@@ -20,6 +20,11 @@ void SurroundingsOfLines::SetReconsiders(std::size_t row, const std::string& rea
   rows_[row].SecondThoughts = std::make_shared<Misgiving>(Misgiving{reason, at});
 }
 
+void SurroundingsOfLines::SetAmends(std::size_t row, const std::string& reason, Span at) {
+  SetReconsiders(row, reason, at);
+  rows_[row].Amends = true;
+}
+
 void SurroundingsOfLines::SetDoubtFrom(std::size_t first, const std::string& reason, Span at) {
   Doubt(first, rows_.size(), std::make_shared<Misgiving>(Misgiving{reason, at}));
 }

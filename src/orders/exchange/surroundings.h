@@ -23,6 +23,8 @@ struct Misgiving {
 struct Surroundings {
   bool IsOlder = false;     ///< in a part of the text that is quoted from an earlier one
   bool Corrects = false;    ///< its words say that it holds rather than what stands above
+  bool Amends = false;      ///< second thoughts before it put it in the place of another order
+  std::string Instead;      ///< the province that it says to be no longer the destination
   bool IsRevoked = false;   ///< words before the order take it back, wherever it stands
   bool IsSetAside = false;  ///< a heading or line says that it is not for now
   std::shared_ptr<const Misgiving> Doubt;           ///< about the orders here, or none
@@ -40,7 +42,10 @@ class SurroundingsOfLines {
 
   /// One more line was read.
   void Add(bool isOlder) {
-    rows_.push_back({isOlder, false, false, setAside_ != nullptr, setAside_, {}, {}});
+    Surroundings& row = rows_.emplace_back();
+    row.IsOlder = isOlder;
+    row.IsSetAside = setAside_ != nullptr;
+    row.Doubt = setAside_;
   }
 
   /// The last row is not understood and may be about these orders.
@@ -73,6 +78,15 @@ class SurroundingsOfLines {
 
   /// Before the order of a row the writer thinks better of what is above.
   void SetReconsiders(std::size_t row, const std::string& reason, Span at);
+
+  /// The order of a row is what such thoughts come to: it holds rather than an earlier one of its
+  /// unit.
+  void SetAmends(std::size_t row, const std::string& reason, Span at);
+
+  /// The order of a row takes the place of one to another province, "PIC".
+  void SetInstead(std::size_t row, std::string province) {
+    rows_[row].Instead = std::move(province);
+  }
 
   /// The order of a row is taken back.
   void SetRevoked(std::size_t row) { rows_[row].IsRevoked = true; }

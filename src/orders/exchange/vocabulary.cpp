@@ -44,7 +44,10 @@ constexpr std::array Verbs{
         "maszeruje plyna wplywa atak wchodzi przemieszcza siirtyy siirto menee hyokkaa "
         "liikkuu etenee siirra lep megy vonul tamad halad hajozik jde tahne utoci pluje "
         "presun presouva gider ilerler saldirir yuru idet idyot atakuet plyvet dvizhetsya "
-        "pigainei paei kinitai take"},
+        "pigainei paei kinitai take follow follows following folgt volgt sigue foljer folger come "
+        "comes coming aille aillent ira iront aller vada vadano andasse uscisse vaya vayan fuese "
+        "pasa pase pasara passe passa sende stuur stuurt sturen schicke schickt schicken verlege "
+        "verlegen land"},
     VerbWords{
         Verb::Hold,
         "h hold holds holding hld stand stands stay stays remain remains halt haelt halte "
@@ -57,7 +60,8 @@ constexpr std::array Verbs{
         "zustava brani bekler kalir durur stoit derzhit ostaetsya kratai menei bleib steh "
         "verteidigt verteidigen defend defiende defienden defiendo difende difendono defende "
         "defendem verdedigt verdedigen forsvarer forsvar forsvarar forsvara broni bronia "
-        "tenons tiennent garde gardent aguanta mantienen staat staan wacht stilla avvakter"},
+        "tenons tiennent restasse resti restera quede queden fique rest liggen ligger garde "
+        "gardent aguanta mantienen staat staan wacht stilla avvakter"},
     VerbWords{
         Verb::Support,
         "s sup supp supports support supporting spt sprt su backs backing unterstutzt "
@@ -103,7 +107,8 @@ constexpr std::array Verbs{
         "poistaa lakkauttaa feloszlik feloszlat eltavolit torol rozpusti rozpousti zrusi "
         "dagit dagilir kaldir raspustit rozpuska ubrat dialyetai dialysi auflose aufgeloest "
         "loest elimine eliminez pierde retira quita toglie opheffen opgeheven opheft "
-        "verwijderd slette sletter stryger opplos fjerna usun usunac"},
+        "kill kills scrap scraps otb quito enleve verwijderd slette sletter stryger opplos fjerna "
+        "usun usunac"},
     VerbWords{
         Verb::Build,
         "b bld build builds building raise raises baut bauen baue aufbau construit construire "
@@ -135,7 +140,8 @@ struct UseWords {
 // order that nobody meant.
 constexpr std::array Uses{
     UseWords{WordUse::Filler,
-             "die das der la le il lo el los las les meine meiner mein mijn mon mes mio mia mi min "
+             "die das der la le il lo el los las bitte les meine meiner mein mijn mon mes mio mia "
+             "mi min "
              "mina moja nos onze notre our both the my an please pls plz will shall is are his her "
              "their unit units dislodged gives lends provides os as um een ein eine einen une una "
              "uno wird werden soll sollen therefore simply merely accordingly duly hereby einfach "
@@ -201,14 +207,20 @@ constexpr std::array Uses{
         "but or unless if only except although though however otherwise else provided assuming "
         "depending aber oder falls wenn mais ou sauf ma pero maar tenzij men eller ale albo mas"},
     UseWords{WordUse::Offer,
-             "question questions unclear wrong illegal mistake mistakes typo typos problem "
+             "prob probs issue issues question questions unclear wrong illegal mistake mistakes "
+             "typo typos problem "
              "problems anything know missed error errors forgot missing understand help fragen "
              "unklar probleme domande preguntas vragen"},
-    UseWords{WordUse::Wish,
-             "i id ill im we wed well lets let would like love want wish to will shall going "
-             "please am be obliged grateful glad appreciate if you could should can kindly have "
-             "make ich mochte wurde gerne bitte je voudrais souhaite voglio vorrei quiero quisiera "
-             "ik wil graag jag vill jeg chce"},
+    UseWords{
+        WordUse::Wish,
+        "give me us i id ill im we wed well lets let would like love want wish to will shall going "
+        "please am be obliged grateful glad appreciate if you could should can kindly have "
+        "make gonna ich mochte wurde gerne gern bitte will hatte konnten sie "
+        "dass wir lasst lass je voudrais souhaite souhaiterais aimerais que nous merci "
+        "voglio vorrei desidero gradirei che favore quiero quisiera queria quero gostaria "
+        "gustaria me ik wil zou graag dat jag vill skulle vilja garna att jeg vil "
+        "onsker gerne gjerne at haluan haluaisin chce chcialbym chcialabym prosze zeby aby "
+        "szeretnem chci chtel"},
     UseWords{WordUse::Season,
              "spring summer autumn fall winter herbst fruhjahr fruhling sommer automne "
              "printemps hiver ete autunno primavera estate inverno otono verano invierno "

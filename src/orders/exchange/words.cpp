@@ -109,8 +109,8 @@ Token NextToken(std::string_view text, std::size_t at) {
              DashSigns.find(text[at + 1]) != std::string::npos) {
     token.Kind = TokenKind::Mark;
     token.End = RunEnd(text, at + 1, DashSigns);
-  } else if (c == '&' || (c == '+' && at > 1 && text[at - 1] == ' ' && at + 1 < text.size() &&
-                          text.find_first_not_of(' ') < at)) {
+  } else if (c == '&' ||
+             (c == '+' && at > 1 && text[at - 1] == ' ' && text.find_first_not_of(' ') < at)) {
     token.End = at + 1;
     token.SetWord("and");
     return token;

@@ -44,6 +44,7 @@ struct WrittenOrder {
   WrittenPlace Destination;     ///< of the move, also the supported or convoyed one
   bool ByConvoy = false;
   bool IsGuess = false;  ///< no verb is written: "A Par Bur"
+  bool IsBare = false;   ///< nor a type or power: "par bur"
   std::size_t End = 0;   ///< the token behind it; only remarks follow
 };
 

@@ -1,0 +1,374 @@
+#include "orders/exchange/prose.h"
+
+#include "orders/exchange/power_names.h"
+#include "orders/exchange/source_line.h"
+#include "orders/order_list.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orb::exchange {
+namespace {
+
+using Words = std::vector<Token>;
+using std::string_view_literals::operator""sv;
+
+/// Longer clauses hold more than one thought.
+constexpr std::size_t LengthBound = 40;
+/// The end of an order behind which nothing is left.
+constexpr std::size_t Whole = 10 * LengthBound;
+
+// Words of clauses, in the languages of the verbs where they differ from English.
+constexpr std::array Leads{"and"sv, "so"sv,      "then"sv,  "also"sv, "that"sv, "while"sv,
+                           "now"sv, "finally"sv, "first"sv, "ok"sv,   "okay"sv, "well"sv,
+                           "let"sv, "lets"sv,    "gonna"sv, "und"sv,  "och"sv,  "og"sv,
+                           "et"sv,  "dann"sv,    "puis"sv,  "que"sv,  "che"sv,  "whilst"sv,
+                           "but"sv, "so"sv,      "mais"sv,  "aber"sv, "ma"sv,   "pero"sv};
+constexpr std::array Adverbs{
+    "also"sv,      "too"sv,      "again"sv,     "just"sv,      "simply"sv,  "still"sv,
+    "then"sv,      "now"sv,      "directly"sv,  "straight"sv,  "quickly"sv, "quietly"sv,
+    "both"sv,      "together"sv, "likewise"sv,  "meanwhile"sv, "there"sv,   "forthwith"sv,
+    "auch"sv,      "aussi"sv,    "ook"sv,       "anche"sv,     "tambien"sv, "obviously"sv,
+    "naturally"sv, "however"sv,  "therefore"sv, "boldly"sv,    "gladly"sv,  "bravely"sv};
+/// Parted by blanks; none of their words alone says as little.
+constexpr std::array Idioms{
+    "for now"sv,      "at once"sv,     "as well"sv,        "this turn"sv,     "this season"sv,
+    "as usual"sv,     "of course"sv,   "for the moment"sv, "in good order"sv, "behind them"sv,
+    "behind it"sv,    "as before"sv,   "this time"sv,      "as agreed"sv,     "as planned"sv,
+    "as discussed"sv, "as promised"sv, "in support"sv,     "do nothing but"sv};
+constexpr std::array Pronouns{"it"sv,  "she"sv, "he"sv,  "they"sv, "that"sv, "which"sv, "this"sv,
+                              "who"sv, "er"sv,  "sie"sv, "es"sv,   "il"sv,   "elle"sv,  "ella"sv,
+                              "hij"sv, "ze"sv,  "hun"sv, "han"sv,  "den"sv,  "ella"sv,  "esso"sv};
+constexpr std::array Objects{"it"sv,   "that"sv, "this"sv, "him"sv, "them"sv, "her"sv, "ihn"sv,
+                             "dies"sv, "lo"sv,   "hem"sv,  "den"sv, "ham"sv,  "dem"sv};
+constexpr std::array Deeds{"move"sv,    "attack"sv,     "advance"sv,      "landing"sv, "assault"sv,
+                           "angriff"sv, "attaque"sv,    "attacco"sv,      "ataque"sv,  "aanval"sv,
+                           "sbarco"sv,  "desembarco"sv, "debarquement"sv, "landung"sv};
+constexpr std::array Troops{"soldiers"sv, "troops"sv,  "garrison"sv, "infantry"sv, "soldaten"sv,
+                            "truppen"sv,  "troupes"sv, "tropas"sv,   "regiments"sv};
+constexpr std::array Ships{"boats"sv,   "ships"sv,   "navy"sv,   "squadron"sv, "boat"sv, "marine"sv,
+                           "schiffe"sv, "navires"sv, "barcos"sv, "schepen"sv,  "navi"sv};
+constexpr std::array Copulas{"is"sv,     "are"sv, "be"sv,   "being"sv, "gets"sv, "wird"sv,
+                             "werden"sv, "est"sv, "sera"sv, "viene"sv, "es"sv,   "wordt"sv,
+                             "bliver"sv, "to"sv,  "must"sv, "shall"sv, "will"sv};
+constexpr std::array Helped{"supported"sv,   "backed"sv,    "helped"sv,     "assisted"sv,
+                            "unterstutzt"sv, "soutenu"sv,   "soutenue"sv,   "appuye"sv,
+                            "appuyee"sv,     "sostenuta"sv, "appoggiata"sv, "supportata"sv,
+                            "apoyado"sv,     "apoyada"sv,   "apoiado"sv,    "gesteund"sv,
+                            "ondersteund"sv, "stottet"sv,   "stodd"sv,      "aided"sv};
+constexpr std::array Carried{"convoyed"sv,    "ferried"sv,     "carried"sv, "transported"sv,
+                             "shipped"sv,     "konvoiert"sv,   "convoye"sv, "convoyee"sv,
+                             "trasportata"sv, "convogliata"sv, "taken"sv,   "escorted"sv,
+                             "geconvoyeerd"sv};
+constexpr std::array Agents{"by"sv,   "von"sv,  "par"sv,  "da"sv, "dal"sv, "dalla"sv, "por"sv,
+                            "pelo"sv, "pela"sv, "door"sv, "av"sv, "af"sv,  "via"sv,   "durch"sv};
+constexpr std::array With{"with"sv, "mit"sv, "avec"sv, "con"sv, "com"sv, "met"sv, "med"sv};
+constexpr std::array Of{"from"sv, "of"sv,  "by"sv,    "von"sv, "de"sv,  "du"sv,   "do"sv,
+                        "da"sv,   "dal"sv, "dalla"sv, "di"sv,  "van"sv, "fra"sv,  "fran"sv,
+                        "av"sv,   "af"sv,  "aus"sv,   "in"sv,  "up"sv,  "help"sv, "the"sv};
+
+template <std::size_t Count>
+bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& words) {
+  return token.Kind == TokenKind::Word && std::ranges::find(words, token.Text) != words.end();
+}
+
+bool IsHelp(const Token& token) {
+  const Verb verb = VerbOf(token);
+  return token.Text.size() > 2 && (verb == Verb::Support || verb == Verb::Convoy);
+}
+
+/// Who helps an order, at the end of a clause.
+struct Tail {
+  Verb Helps = Verb::None;
+  std::size_t Begin = 0;   ///< of all the words about it
+  TokenRange Destination;  ///< between them: "is convoyed TO NORWAY by"
+  TokenRange Helpers;
+};
+
+Tail FindTail(Tokens clause) {
+  for (std::size_t at = 0; at < clause.size(); ++at) {
+    const Token& token = clause[at];
+    if (IsOneOf(token, With)) {
+      const auto help =
+          std::find_if(clause.begin() + static_cast<std::ptrdiff_t>(at), clause.end(), IsHelp);
+      if (help != clause.end()) return {VerbOf(*help), at, {}, {at + 1, clause.size()}};
+    }
+    const bool isCarried = IsOneOf(token, Carried);
+    if (!isCarried && !IsOneOf(token, Helped)) continue;
+    std::size_t agent = at + 1;
+    while (agent < clause.size() && !IsOneOf(clause[agent], Agents))
+      ++agent;
+    if (agent + 1 >= clause.size()) continue;
+    std::size_t begin = at;
+    while (begin > 0 && IsOneOf(clause[begin - 1], Copulas))
+      --begin;
+    return {isCarried ? Verb::Convoy : Verb::Support,
+            begin,
+            {at + 1, agent},
+            {agent + 1, clause.size()}};
+  }
+  return {};
+}
+
+class ProseReader {
+ public:
+  ProseReader(const PartsRead& before, const KnownGame& known, Context& context)
+      : before_(before), known_(known), context_(context) {}
+
+  PartsRead Read(Tokens line, TokenRange range) {
+    const Tokens clause = line.subspan(range.Begin, range.End - range.Begin);
+    const Tail tail = FindTail(clause);
+    PartsRead parts;
+    if (tail.Helps == Verb::None) {
+      if (auto main = ReadMain({clause.begin(), clause.end()}))
+        parts.emplace_back(range, std::move(*main));
+      return parts;
+    }
+    Words words(clause.begin(), clause.begin() + static_cast<std::ptrdiff_t>(tail.Begin));
+    const Tokens to =
+        clause.subspan(tail.Destination.Begin, tail.Destination.End - tail.Destination.Begin);
+    words.insert(words.end(), to.begin(), to.end());
+    TrimLead(words);
+    std::string order = LastOrder(false);
+    if (!words.empty()) {
+      auto main = ReadMain(words);
+      if (!main) main = ReadWords(words, "hold");
+      if (!main) return {};
+      order = main->Meant.All[0].Line;
+      parts.emplace_back(TokenRange{range.Begin, range.Begin + tail.Begin}, std::move(*main));
+    }
+    if (order.empty()) return {};
+    const TokenRange helpers{range.Begin + tail.Helpers.Begin, range.Begin + tail.Helpers.End};
+    for (const TokenRange helper : Split(line, helpers, Seam::Comma)) {
+      auto help =
+          ReadHelper(line.subspan(helper.Begin, helper.End - helper.Begin), tail.Helps, order);
+      // What another power's unit is hoped to do is none of the writer's orders.
+      if (!help || help->Meant.All[0].Line.substr(0, 4) != order.substr(0, 4)) return {};
+      parts.emplace_back(
+          TokenRange{parts.empty() ? range.Begin : parts.back().first.End, helper.End},
+          std::move(*help));
+    }
+    return parts;
+  }
+
+ private:
+  /// The last order; one to help another is helped by none.
+  std::string LastOrder(bool mayHelp = true) const {
+    const auto last = std::find_if(before_.rbegin(), before_.rend(), [&](const auto& part) {
+      if (part.second.Kind != LineKind::Order) return false;
+      const std::string& line = part.second.Meant.All[0].Line;
+      return mayHelp ||
+             (line.find(" S ") == std::string::npos && line.find(" C ") == std::string::npos);
+    });
+    return last == before_.rend() ? std::string() : last->second.Meant.All[0].Line;
+  }
+
+  /// Reads words and what takes the place of others behind them.
+  std::optional<PartRead> ReadWords(const Words& words, std::string_view more = {}) {
+    if (words.empty() || words.size() > LengthBound) return std::nullopt;
+    std::string text;
+    for (const Token& token : words) {
+      const bool isApart = !token.Glued || IsA(token, TokenKind::Word);
+      text.append(isApart ? " " : "").append(token.Written);
+    }
+    text.append(" ").append(more);
+    const Words all = CutTokens(text);
+    Context tried = context_;
+    PartRead read = ReadPart(all, known_, tried);
+    const bool isOrder = read.Kind == LineKind::Order && read.Doubt.empty() && !read.IsGuess;
+    if (!isOrder) return std::nullopt;
+    read.End = Whole;
+    context_ = tried;
+    return read;
+  }
+
+  /// The unit of the last order does what the pronoun's clause says.
+  bool ReplaceSubject(Words& words) const {
+    if (words.size() < 2 || VerbOf(words[1]) == Verb::None || !IsOneOf(words[0], Pronouns)) {
+      return true;
+    }
+    const std::string order = LastOrder();
+    if (order.empty()) return false;
+    unit_ = std::string(orders::UnitPart(order));
+    Words unit = CutTokens(unit_);
+    words.erase(words.begin());
+    words.insert(words.begin(), unit.begin(), unit.end());
+    return true;
+  }
+
+  /// "Supports it", "covers that move": the order before.
+  bool ReplaceObject(Words& words) const {
+    const auto help = std::ranges::find_if(words, IsHelp);
+    if (help == words.end() || VerbOf(*help) != Verb::Support) return true;
+    auto end = help + 1;
+    while (end != words.end() && HasUse(*end, WordUse::Filler))
+      ++end;
+    // "Paris supports" leaves out what.
+    const bool isBare = end == words.end();
+    const bool isDeed = !isBare && IsOneOf(*end, Deeds) && end + 1 == words.end();
+    if (!isBare && !isDeed && !IsOneOf(help[1], Objects)) return true;
+    if (!isBare && !isDeed) end = help + 2;
+    while (end != words.end() && (IsOneOf(*end, Deeds) || IsWord(*end, "up") ||
+                                  IsWord(*end, "over") || IsA(*end, TokenKind::Dot))) {
+      ++end;
+    }
+    order_ = LastOrder(false);
+    if (end != words.end() || order_.empty()) return false;
+    words.erase(help + 1, words.end());
+    const Words order = CutTokens(order_);
+    words.insert(words.end(), order.begin(), order.end());
+    return true;
+  }
+
+  static void Replace(Token& token, std::string_view word) {
+    token.SetWord(std::string(word));
+    token.Written = word;
+  }
+
+  static void TrimLead(Words& words) {
+    const auto lead = std::ranges::find_if_not(words, [](const Token& token) {
+      return IsOneOf(token, Leads) || HasUse(token, WordUse::Filler) ||
+             IsA(token, TokenKind::Comma);
+    });
+    // "My army" and "that goes" need their first word no more than these do.
+    words.erase(words.begin(), lead);
+  }
+
+  static void DropIdioms(Words& words) {
+    for (const std::string_view idiom : Idioms) {
+      const auto parts = Parts(idiom, ' ');
+      const auto at = std::search(
+          words.begin(), words.end(), parts.begin(), parts.end(),
+          [](const Token& token, std::string_view word) { return IsWord(token, word); });
+      if (at != words.end()) words.erase(at, at + static_cast<std::ptrdiff_t>(parts.size()));
+    }
+    std::erase_if(words, [](const Token& token) { return IsOneOf(token, Adverbs); });
+  }
+
+  /// "The poor serbian army": what stands between an article and the unit adds nothing.
+  void NameUnits(Words& words) const {
+    for (std::size_t at = 0; at < words.size(); ++at) {
+      Token& token = words[at];
+      if (IsOneOf(token, Troops)) Replace(token, "army");
+      if (IsOneOf(token, Ships)) Replace(token, "fleet");
+    }
+    for (std::size_t at = 0; at + 1 < words.size(); ++at) {
+      const bool isArticle = IsWord(words[at], "the") || IsWord(words[at], "my") ||
+                             IsWord(words[at], "our") || IsWord(words[at], "a") ||
+                             IsWord(words[at], "another") || IsWord(words[at], "one");
+      const WordMeaning& next = words[at + 1].Means;
+      const bool isPlain = words[at + 1].Kind == TokenKind::Word && next.Does == Verb::None &&
+                           next.UnitType == 0 && (next.Uses & ~Harmless) == 0;
+      const bool isBeforeUnit =
+          at + 2 < words.size() &&
+          (UnitTypeOf(words[at + 2]) != 0 ||
+           (at + 3 < words.size() && UnitTypeOf(words[at + 3]) != 0 && IsPlaceAt(words, at + 2)));
+      if (isArticle && isPlain && isBeforeUnit && !IsPlaceAt(words, at + 1) &&
+          PowerAt(words, at + 1).Power == 0) {
+        words.erase(words.begin() + static_cast<std::ptrdiff_t>(at) + 1);
+      }
+    }
+  }
+
+  bool IsPlaceAt(const Words& words, std::size_t at) const {
+    return !known_.Names.At(words, at).empty();
+  }
+
+  /// "The fleet moves from Brest to MAO", "leaves Brest for MAO": the place goes before the verb.
+  void PutOrigin(Words& words) const {
+    const auto type =
+        std::ranges::find_if(words, [](const Token& token) { return UnitTypeOf(token) != 0; });
+    if (type == words.end() || words.end() - type < 4 || VerbOf(type[1]) != Verb::Move) return;
+    if (!IsWord(type[2], "from") && !IsWord(type[2], "aus")) return;
+    words.erase(type + 1, type + 3);
+  }
+
+  /// "Zieht nach Kiel nach", "naar Noordzee sturen": the rest of a verb that was begun before.
+  static void DropParticle(Words& words) {
+    constexpr std::array particles{"zuruck"sv,   "zurueck"sv,  "terug"sv, "aus"sv,    "ab"sv,
+                                   "vor"sv,      "nach"sv,     "los"sv,   "ein"sv,    "tilbage"sv,
+                                   "tilbake"sv,  "tillbaka"sv, "back"sv,  "sturen"sv, "schicken"sv,
+                                   "verlegen"sv, "gaan"sv,     "gehen"sv, "ziehen"sv, "over"sv};
+    while (!words.empty() && IsA(words.back(), TokenKind::Dot))
+      words.pop_back();
+    const bool isMoved =
+        words.size() > 2 && std::any_of(words.begin(), words.end() - 1, [](const Token& token) {
+          return VerbOf(token) == Verb::Move || VerbOf(token) == Verb::Retreat ||
+                 IsWord(token, "ins");
+        });
+    if (isMoved && IsOneOf(words.back(), particles)) words.pop_back();
+  }
+
+  /// "Is to be disbanded" says no more than its last word.
+  static void DropCopulas(Words& words) {
+    for (std::size_t at = 0; at < words.size(); ++at) {
+      if (VerbOf(words[at]) != Verb::Disband || words[at].Text.size() < 4) continue;
+      while (at > 0 && IsOneOf(words[at - 1], Copulas))
+        words.erase(words.begin() + static_cast<std::ptrdiff_t>(--at));
+    }
+  }
+
+  std::optional<PartRead> ReadMain(Words words) {
+    if (words.size() > LengthBound) return std::nullopt;
+    TrimLeadBeforePronoun(words);
+    if (!ReplaceSubject(words) || !ReplaceObject(words)) return std::nullopt;
+    DropIdioms(words);
+    NameUnits(words);
+    TrimLead(words);
+    PutOrigin(words);
+    DropCopulas(words);
+    DropParticle(words);
+    return ReadWords(words);
+  }
+
+  /// "And so it goes": the pronoun stays.
+  static void TrimLeadBeforePronoun(Words& words) {
+    while (words.size() > 2 && IsOneOf(words[0], Leads) && !IsOneOf(words[0], Pronouns))
+      words.erase(words.begin());
+  }
+
+  std::optional<PartRead> ReadHelper(Tokens helper, Verb helps, const std::string& order) {
+    Words words;
+    for (std::size_t at = 0; at < helper.size(); ++at) {
+      const Token& token = helper[at];
+      const bool isSaid = IsHelp(token) || IsOneOf(token, Objects) || IsOneOf(token, Deeds) ||
+                          (IsOneOf(token, Of) && words.empty()) ||
+                          (!IsA(token, TokenKind::Word) && !IsA(token, TokenKind::Dash));
+      if (!isSaid) words.push_back(token);
+    }
+    DropIdioms(words);
+    NameUnits(words);
+    return ReadWords(words, (helps == Verb::Convoy ? "c " : "s ") + order);
+  }
+
+  static constexpr unsigned Harmless =
+      static_cast<unsigned>(WordUse::Filler) | static_cast<unsigned>(WordUse::Mood) |
+      static_cast<unsigned>(WordUse::Plain) | static_cast<unsigned>(WordUse::Purpose) |
+      static_cast<unsigned>(WordUse::Greeting);
+
+  const PartsRead& before_;
+  const KnownGame& known_;
+  Context& context_;
+  // The texts that words were cut from outlive their being read.
+  mutable std::string unit_;
+  mutable std::string order_;
+};
+
+}  // namespace
+
+bool TellsHelpers(Tokens clause) {
+  return clause.size() <= 2 * LengthBound && FindTail(clause).Helps != Verb::None;
+}
+
+PartsRead ReadProse(Tokens line, TokenRange range, const PartsRead& before, const KnownGame& known,
+                    Context& context) {
+  Context tried = context;
+  PartsRead parts = ProseReader(before, known, tried).Read(line, range);
+  if (!parts.empty()) context = tried;
+  return parts;
+}
+
+}  // namespace orb::exchange

@@ -1,0 +1,86 @@
+#include "orders/exchange/type_letters.h"
+
+#include "model/place.h"
+#include "orders/exchange/line_kinds.h"
+#include "orders/exchange/power_names.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <string>
+
+namespace orb::exchange {
+namespace {
+
+/// How often a word stands before armies and before fleets.
+struct Count {
+  int Armies = 0;
+  int Fleets = 0;
+
+  bool IsOfOneType() const { return (Armies == 0) != (Fleets == 0); }
+  char Type() const { return Armies > 0 ? 'A' : 'F'; }
+};
+
+/// Whether a word at the beginning of a line may be a type that is not known.
+bool MayBeType(const Token& token) {
+  constexpr std::size_t longest = 5;
+  const Verb verb = VerbOf(token);
+  const bool isFree = (verb == Verb::None || verb == Verb::Hold) && UnitTypeOf(token) == 0 &&
+                      !HasUse(token, WordUse::Condition, WordUse::Reservation, WordUse::Greeting);
+  return isFree && token.Kind == TokenKind::Word && token.Capital && token.Text.size() <= longest &&
+         !IsNumber(token);
+}
+
+/// The type of the unit that stands in the place right behind a token, or 0.
+char TypeBehind(Tokens line, std::size_t at, const KnownGame& known) {
+  const auto places = known.Names.At(line, at + 1);
+  if (places.empty() || places[0].Rows.size() != 1) return 0;
+  const std::string& name = known.NameOf(places[0].Rows[0]);
+  char type = 0;
+  for (const model::Unit& unit : known.Game.Units) {
+    if (unit.UnitType.empty() || !model::SamePlace(unit.Location, name)) continue;
+    if (type != 0 && type != unit.UnitType[0]) return 0;
+    type = unit.UnitType[0];
+  }
+  return type;
+}
+
+}  // namespace
+
+void LearnTypeLetters(std::deque<SourceLine>& text, const KnownGame& known) {
+  std::map<std::string, Count> counts;
+  std::vector<Token*> found;
+  for (SourceLine& line : text) {
+    const std::size_t at = PastLineStart(line.All);
+    if (at >= line.All.size() || !MayBeType(line.All[at])) continue;
+    // "H Par" holds.
+    const bool isVerb = VerbOf(line.All[at]) != Verb::None;
+    if (isVerb &&
+        std::none_of(line.All.begin() + static_cast<std::ptrdiff_t>(at) + 1, line.All.end(),
+                     [](const Token& token) { return VerbOf(token) != Verb::None; })) {
+      continue;
+    }
+    if (line.All[at].Text.size() > 1 && line.All[at].Means.Sayings != 0) continue;
+    if (PowerAt(line.All, at).Power != 0 || !known.Names.At(line.All, at).empty()) continue;
+    const char type = TypeBehind(line.All, at, known);
+    if (type == 0) continue;
+    Count& count = counts[line.All[at].Text];
+    ++(type == 'A' ? count.Armies : count.Fleets);
+    found.push_back(&line.All[at]);
+  }
+  std::set<char> ofWords;
+  for (const auto& [word, count] : counts) {
+    if (word.size() > 1 && count.IsOfOneType()) ofWords.insert(count.Type());
+  }
+  for (Token* token : found) {
+    const Count& count = counts[token->Text];
+    // A word may be anything, unless another one stands before the units of the other type.
+    const bool isKnown = token->Text.size() == 1
+                             ? count.Armies + count.Fleets > 1 || counts.size() > 1
+                             : ofWords.size() > 1 && found.size() > 2;
+    if (!count.IsOfOneType() || !isKnown) continue;
+    token->Means = MeaningOf(count.Type() == 'A' ? "army" : "fleet");
+  }
+}
+
+}  // namespace orb::exchange
