@@ -39,8 +39,8 @@ std::size_t PastWish(Tokens tokens) {
     });
   };
   // "I could" and "if you would" leave it open, unless they are polite.
-  const bool isOpen =
-      has({"if", "should", "could"}) && !has({"obliged", "grateful", "glad", "appreciate", "you"});
+  const bool isOpen = (has({"if", "should", "could"}) || (has({"may"}) && !has({"have"}))) &&
+                      !has({"obliged", "grateful", "glad", "appreciate", "you"});
   // "Sie will" tells what somebody else wants.
   const bool isOfOther = has({"sie"}) && !has({"konnten", "bitte"});
   return isOpen || isOfOther ||

@@ -239,8 +239,9 @@ bool Phrases::MayLead(std::size_t at) const {
   at = Skip(at);
   if (at >= tokens_.size() || IsA(tokens_[at], TokenKind::Dash)) return false;
   // "To Par" or "attack Par" at the front would name a destination, not the unit that moves.
-  constexpr std::array<std::string_view, 8> leading{"move",  "moves", "send",  "mueve",
-                                                    "muevo", "muove", "muovo", "walk"};
+  constexpr std::array leading{"move"sv,    "moves"sv, "send"sv,   "mueve"sv,   "muevo"sv,
+                               "muove"sv,   "muovo"sv, "walk"sv,   "sende"sv,   "sending"sv,
+                               "schicke"sv, "stuur"sv, "moving"sv, "flytter"sv, "flyttar"sv};
   return VerbOf(tokens_[at]) != Verb::Move || IsOneOf(tokens_[at], leading);
 }
 

@@ -35,10 +35,12 @@ constexpr std::array Adverbs{
     "naturally"sv, "however"sv,  "therefore"sv, "boldly"sv,    "gladly"sv,  "bravely"sv};
 /// Parted by blanks; none of their words alone says as little.
 constexpr std::array Idioms{
-    "for now"sv,      "at once"sv,     "as well"sv,        "this turn"sv,     "this season"sv,
-    "as usual"sv,     "of course"sv,   "for the moment"sv, "in good order"sv, "behind them"sv,
-    "behind it"sv,    "as before"sv,   "this time"sv,      "as agreed"sv,     "as planned"sv,
-    "as discussed"sv, "as promised"sv, "in support"sv,     "do nothing but"sv};
+    "for now"sv,       "at once"sv,     "as well"sv,        "this turn"sv,     "this season"sv,
+    "as usual"sv,      "of course"sv,   "for the moment"sv, "in good order"sv, "behind them"sv,
+    "behind it"sv,     "as before"sv,   "this time"sv,      "as agreed"sv,     "as planned"sv,
+    "as discussed"sv,  "as promised"sv, "quella di"sv,      "quello di"sv,     "celle de"sv,
+    "celui de"sv,      "the one in"sv,  "the one from"sv,   "the one at"sv,    "in support"sv,
+    "do nothing but"sv};
 constexpr std::array Pronouns{"it"sv,  "she"sv, "he"sv,  "they"sv, "that"sv, "which"sv, "this"sv,
                               "who"sv, "er"sv,  "sie"sv, "es"sv,   "il"sv,   "elle"sv,  "ella"sv,
                               "hij"sv, "ze"sv,  "hun"sv, "han"sv,  "den"sv,  "ella"sv,  "esso"sv};
@@ -69,6 +71,8 @@ constexpr std::array With{"with"sv, "mit"sv, "avec"sv, "con"sv, "com"sv, "met"sv
 constexpr std::array Of{"from"sv, "of"sv,  "by"sv,    "von"sv, "de"sv,  "du"sv,   "do"sv,
                         "da"sv,   "dal"sv, "dalla"sv, "di"sv,  "van"sv, "fra"sv,  "fran"sv,
                         "av"sv,   "af"sv,  "aus"sv,   "in"sv,  "up"sv,  "help"sv, "the"sv};
+
+constexpr std::array Please{"please"sv, "bitte"sv, "pls"sv, "plz"sv, "kindly"sv};
 
 template <std::size_t Count>
 bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& words) {
@@ -261,7 +265,8 @@ class ProseReader {
                              IsWord(words[at], "another") || IsWord(words[at], "one");
       const WordMeaning& next = words[at + 1].Means;
       const bool isPlain = words[at + 1].Kind == TokenKind::Word && next.Does == Verb::None &&
-                           next.UnitType == 0 && (next.Uses & ~Harmless) == 0;
+                           next.UnitType == 0 &&
+                           ((next.Uses & ~Harmless) == 0 || IsWord(words[at + 1], "new"));
       const bool isBeforeUnit =
           at + 2 < words.size() &&
           (UnitTypeOf(words[at + 2]) != 0 ||
@@ -313,6 +318,11 @@ class ProseReader {
 
   std::optional<PartRead> ReadMain(Words words) {
     if (words.size() > LengthBound) return std::nullopt;
+    // "Could you please move A Par to Bur?" asks nothing.
+    const bool isPolite = std::ranges::any_of(words, [](const Token& token) {
+      return IsOneOf(token, Please) && HasUse(token, WordUse::Filler, WordUse::Wish);
+    });
+    if (isPolite && !words.empty() && words.back().Text == "?") words.pop_back();
     TrimLeadBeforePronoun(words);
     if (!ReplaceSubject(words) || !ReplaceObject(words)) return std::nullopt;
     DropIdioms(words);

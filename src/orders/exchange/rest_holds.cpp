@@ -62,6 +62,22 @@ bool TellsOfRest(Tokens clause) {
   return isAll && holds;
 }
 
+bool TellsOfNothing(Tokens clause) {
+  constexpr std::array nothing{"nothing"sv, "nobody"sv, "none"sv, "nichts"sv,
+                               "rien"sv,    "niente"sv, "nada"sv, "niets"sv};
+  constexpr std::array beside{"else"sv,    "other"sv, "more"sv,  "moves"sv,
+                              "changes"sv, "new"sv,   "sonst"sv, "weiter"sv,
+                              "dautre"sv,  "altro"sv, "mas"sv,   "anders"sv};
+  const auto isOneOf = [](const Token& token, const auto& words) {
+    return std::ranges::find(words, token.Text) != words.end();
+  };
+  const auto words = std::ranges::count(clause, TokenKind::Word, &Token::Kind);
+  return words > 1 && isOneOf(clause[0], nothing) &&
+         std::all_of(clause.begin() + 1, clause.end(), [&](const Token& token) {
+           return IsA(token, TokenKind::Dot) || isOneOf(token, beside);
+         });
+}
+
 PartsRead HoldsOfRest(TokenRange range, Tokens clause, const KnownGame& known,
                       const Context& context) {
   constexpr std::array holding{"hold"sv,  "holds"sv,    "halt"sv,  "halten"sv, "haelt"sv,

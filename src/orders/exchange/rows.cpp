@@ -13,7 +13,7 @@ namespace orb::exchange {
 namespace {
 
 /// How many words and signs a greeting before an order has at most: "Hi Tom, A Par - Bur".
-constexpr std::size_t LongestGreeting = 4;
+constexpr std::size_t LongestGreeting = 6;
 
 /// Whether what is not understood in the line of an order may put that order right, "correction:
 /// Pic", "to Pic", as it begins none of its own.

@@ -221,6 +221,7 @@ class SegmentReader {
   void ReadClause(TokenRange range) {
     const Tokens tokens = PartOf(range);
     if (TellsOfRest(tokens)) return TakeRest(range);
+    if (TellsOfNothing(tokens)) return TakeNone(range);
     // "FRA: +A Par +F Bre".
     if (IsA(tokens.back(), TokenKind::Colon) && TakeHeading(range)) return TakeNone(range);
     if (TellsHelpers(tokens) && TakeProse(range)) return;

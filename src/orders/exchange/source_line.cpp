@@ -29,7 +29,8 @@ bool IsAnd(Tokens tokens, std::size_t at) {
     return place < tokens.size() && VerbOf(tokens[place]) != Verb::None;
   };
   // "En Berlijn naar Kiel"; but "en Bourgogne" is where somebody goes.
-  const bool isBeforePlace = next.Capital && (isVerbAt(at + 2) || isVerbAt(at + 3));
+  const bool isBeforePlace =
+      next.Capital && tokens[at - 1].Capital && (isVerbAt(at + 2) || isVerbAt(at + 3));
   return next.Text.size() > 1 &&
          (isTypeAt(at + 1) || isTypeAt(at + 2) || isBeforePlace || HasUse(next, WordUse::Filler));
 }

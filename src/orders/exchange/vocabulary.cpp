@@ -139,13 +139,14 @@ struct UseWords {
 // each must be so next to all others: a word missing there costs somebody a glance, one too many an
 // order that nobody meant.
 constexpr std::array Uses{
-    UseWords{WordUse::Filler,
-             "die das der la le il lo el los las bitte les meine meiner mein mijn mon mes mio mia "
-             "mi min "
-             "mina moja nos onze notre our both the my an please pls plz will shall is are his her "
-             "their unit units dislodged gives lends provides os as um een ein eine einen une una "
-             "uno wird werden soll sollen therefore simply merely accordingly duly hereby einfach "
-             "simplement simplemente semplicemente simplesmente gewoon bare"},
+    UseWords{
+        WordUse::Filler,
+        "die das der la le il lo el los las bitte het les meine meiner mein mijn mon mes mio mia "
+        "mi min "
+        "mina moja nos onze notre our both the my an please pls plz will shall is are his her "
+        "their unit units dislodged gives lends provides os as um een ein eine einen une una "
+        "uno wird werden soll sollen therefore simply merely accordingly duly hereby einfach "
+        "simplement simplemente semplicemente simplesmente gewoon bare"},
     UseWords{WordUse::Condition,
              "if unless otherwise else or either maybe perhaps instead not dont never cancel "
              "except depending should could might may cancelled canceled provided when until "
@@ -215,7 +216,7 @@ constexpr std::array Uses{
         WordUse::Wish,
         "give me us i id ill im we wed well lets let would like love want wish to will shall going "
         "please am be obliged grateful glad appreciate if you could should can kindly have "
-        "make gonna ich mochte wurde gerne gern bitte will hatte konnten sie "
+        "make gonna may ich mochte wurde gerne gern bitte will hatte konnten sie "
         "dass wir lasst lass je voudrais souhaite souhaiterais aimerais que nous merci "
         "voglio vorrei desidero gradirei che favore quiero quisiera queria quero gostaria "
         "gustaria me ik wil zou graag dat jag vill skulle vilja garna att jeg vil "
@@ -260,7 +261,10 @@ constexpr std::array Uses{
              "cordially moin goodbye love gruss grus grusse gruse gruesse saludos saluti "
              "groeten groetjes hilsen halsningar pozdrawiam abracos abrazos bisous mfg lg "
              "mvh hej hola ola dag czesc salve buongiorno bonsoir servus hiya yo sent kia nga kh "
-             "alright szia shalom geia"},
+             "alright szia shalom geia cher chere lieber liebe estimado estimada caro cara gentile "
+             "beste "
+             "geachte kare kjaere kaere szanowny drogi querido querida prezado prezada guten bonne "
+             "buenas boa dzien god"},
     UseWords{WordUse::Mood,
              "thanks thank thx ty cheers regards greetings good luck gl hf glhf best danke "
              "bitte merci dank bedankt gracias grazie lol rofl haha hahaha hehe heh yay wow "
