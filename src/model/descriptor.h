@@ -33,4 +33,7 @@ class Descriptor {
 /// Throws FileError: "Cannot ACTION PATH: " and the system's reason.
 [[noreturn]] void FailWith(std::string_view action, const std::filesystem::path& path, int error);
 
+/// Writes all of the bytes; false, with the reason in errno.
+bool WriteAll(int descriptor, std::string_view bytes);
+
 }  // namespace orb::model

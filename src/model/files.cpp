@@ -58,6 +58,15 @@ std::string ReadAll(const Descriptor& file, const fs::path& path) {
 
 }  // namespace
 
+bool WriteAll(int descriptor, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
+    if (written < 0 && errno != EINTR) return false;
+    if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
 void FailWith(std::string_view action, const fs::path& path, int error) {
   std::string text("Cannot ");
   text.append(action).append(" ").append(text::NameInText(path.string())).append(": ");

@@ -21,15 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool WriteAll(int descriptor, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
-    if (written < 0 && errno != EINTR) return false;
-    if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return true;
-}
-
 /// Where a file is to be written, links followed, and what is known of the file that is there.
 struct Target {
   fs::path Path;
