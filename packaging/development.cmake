@@ -1,7 +1,7 @@
 # The core as a package for C++: whoever links a library sees its headers and those of what it links.
 include(CMakePackageConfigHelpers)
 set(config "${CMAKE_INSTALL_LIBDIR}/cmake/Orb")
-foreach(room text model orders exchange adjudication usual_rules mail session settings history render report json
+foreach(room text model orders exchange adjudication usual_rules mail session settings history render report letters json
     json_rapid serve)
   set_target_properties(orb_${room} PROPERTIES EXPORT_NAME ${room})
   install(TARGETS orb_${room} EXPORT OrbTargets COMPONENT development

@@ -9,9 +9,9 @@
 namespace orb::cli {
 namespace {
 
-constexpr std::array Options{OptionId::Orders,         OptionId::Loose, OptionId::Power,
-                             OptionId::AcceptDoubtful, OptionId::Rules, OptionId::Json,
-                             OptionId::FilesFrom};
+constexpr std::array Options{OptionId::Orders,         OptionId::Loose,    OptionId::Power,
+                             OptionId::AcceptDoubtful, OptionId::Register, OptionId::Rules,
+                             OptionId::Json,           OptionId::FilesFrom};
 
 constexpr Example Examples[] = {
     {"what is wrong with the orders of a file", "check --orders s01.txt league.orb"},
@@ -62,8 +62,7 @@ int Execute(const CommandLine& line, Console& console) {
   return ForEachGame(line, console, plan, [&](GameAtWork& at) {
     // Nothing is asked here, so --yes has no meaning: every problem is listed, and no game is
     // written.
-    const std::vector<exchange::ReadLine> leftOut =
-        source.Take(at.Situation, at.Paths, at.Messages);
+    const std::vector<exchange::ReadLine> leftOut = source.Take(at, console);
     at.Situation.Rules = rules;
     const adjudication::ListCheck check = session::CheckOrders(at.Situation);
     const std::vector<std::string> readings = session::OtherReadings(at.Situation);

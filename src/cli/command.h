@@ -14,7 +14,7 @@ namespace orb::cli {
 class Console;
 
 /// How many GAME arguments a command takes; OneAndOrder: a game, then the text of an order.
-enum class Games : std::uint8_t { None, One, Several, OneAndOrder };
+enum class Games : std::uint8_t { None, One, Two, Several, OneAndOrder };
 
 /// A command line to learn from.
 struct Example {

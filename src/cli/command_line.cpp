@@ -153,6 +153,8 @@ void CheckGames(const CommandLine& line) {
     throw UsageError(name + ": The game file is missing.");
   } else if (line.Verb->Takes == Games::OneAndOrder) {
     if (count != 2) throw UsageError(name + ": It takes a game file and the text of one order.");
+  } else if (line.Verb->Takes == Games::Two) {
+    if (count != 2) throw UsageError(name + ": It takes two game files.");
   } else if (line.Verb->Takes == Games::One && count > 1) {
     throw UsageError(name + ": One game file at a time.");
   }

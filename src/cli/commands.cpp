@@ -8,7 +8,8 @@ namespace {
 
 constexpr std::array Commands{&NewCommand,     &ResolveCommand, &NextCommand,    &UndoCommand,
                               &CheckCommand,   &WhatIfCommand,  &ShowCommand,    &MapCommand,
-                              &PublishCommand, &SheetCommand,   &LettersCommand, &ServeCommand};
+                              &PublishCommand, &SheetCommand,   &LettersCommand, &DiffCommand,
+                              &ServeCommand};
 
 }  // namespace
 

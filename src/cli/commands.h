@@ -17,6 +17,7 @@ extern const Command MapCommand;
 extern const Command PublishCommand;
 extern const Command SheetCommand;
 extern const Command LettersCommand;
+extern const Command DiffCommand;
 extern const Command ServeCommand;
 
 }  // namespace orb::cli

@@ -19,6 +19,8 @@ constexpr std::array<Option, OptionCount> Table{{
      "with --loose: the power of lines that name none; of sheet: its power"},
     {AcceptDoubtful, "--accept-doubtful", "", ValueKind::None, "", "",
      "with --loose: file also orders that something speaks against"},
+    {Register, "--register", "", ValueKind::None, "", "",
+     "add the text of the orders to the register beside the game"},
     {Report, "--report", "", ValueKind::FileToWrite, "PATH", "",
      "write the report to PATH (in a directory: NAME.txt)"},
     {Reasons, "--reasons", "", ValueKind::FileToWrite, "PATH", "",

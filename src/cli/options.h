@@ -31,6 +31,7 @@ enum class OptionId : std::uint8_t {
   Loose,
   Power,
   AcceptDoubtful,
+  Register,
   Report,
   Reasons,
   Rules,

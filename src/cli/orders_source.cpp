@@ -1,8 +1,11 @@
 #include "cli/orders_source.h"
 
+#include "letters/received.h"
+
 #include "cli/command.h"
 #include "model/country.h"
 #include "model/files.h"
+#include "orders/order_list.h"
 #include "session/commands.h"
 #include "session/incoming_text.h"
 #include "text/strings.h"
@@ -34,7 +37,11 @@ std::string PowerOf(const CommandLine& line) {
   return power;
 }
 
-OrdersSource::OrdersSource(const CommandLine& line) : isLoose_(line.Has(OptionId::Loose)) {
+OrdersSource::OrdersSource(const CommandLine& line)
+    : isLoose_(line.Has(OptionId::Loose)), isRegistered_(line.Has(OptionId::Register)) {
+  if (isRegistered_ && !line.Has(OptionId::Orders)) {
+    throw UsageError("--register is about orders files: --orders PATH is missing.");
+  }
   if (isLoose_ && !line.Has(OptionId::Orders)) {
     throw UsageError("--loose reads orders files: --orders PATH is missing.");
   }
@@ -54,22 +61,39 @@ std::vector<exchange::ReadLine> OrdersSource::Take(session::Situation& situation
                                                    model::Messages& messages) {
   // Without an orders file the moves stage keeps the orders that came with the game file.
   if (paths.Orders.empty()) return {};
+  text_ = TextOf(paths);
+  if (!isLoose_) {
+    session::ReplaceOrders(situation, OrderLines(text_));
+    return {};
+  }
+  if (!repairs_) repairs_ = exchange::ReadTextRepairs(data_);
+  session::IncomingText incoming = session::ReadIncomingText(text_, paths.Orders.string());
+  text_ = std::move(incoming.Text);
+  return session::ReplaceOrdersByText(situation, text_, {power_, *repairs_}, doubtful_, messages);
+}
+
+std::vector<exchange::ReadLine> OrdersSource::Take(GameAtWork& at, Console& console) {
+  std::vector<exchange::ReadLine> leftOut = Take(at.Situation, at.Paths, at.Messages);
+  if (!isRegistered_ || at.Paths.Orders.empty()) return leftOut;
+  letters::Receipt receipt = letters::ReceiptOf(at.Situation.Game, leftOut, {});
+  receipt.Filed = orders::StageList(at.Situation.Game);
+  receipt.Power = power_;
+  receipt.Source = at.Paths.Orders.string();
+  receipt.Text = text_;
+  Attempt(console, at.Paths.Game, [&] {
+    letters::Register(at.Paths.Game, receipt);
+    return true;
+  });
+  return leftOut;
+}
+
+std::string OrdersSource::TextOf(const GamePaths& paths) {
   // A file that cannot be looked at is not missing: reading it will say why.
   std::error_code ignored;
   const auto type = std::filesystem::symlink_status(paths.Orders, ignored).type();
   const bool isMissing = type == std::filesystem::file_type::not_found;
-  std::string text = isMissing && paths.OrdersMayLack
-                         ? std::string()
-                         : model::ReadFile(paths.Orders, model::Streams::Read);
-  if (!isLoose_) {
-    session::ReplaceOrders(situation, OrderLines(text));
-    return {};
-  }
-  if (!repairs_) repairs_ = exchange::ReadTextRepairs(data_);
-  const session::IncomingText incoming =
-      session::ReadIncomingText(std::move(text), paths.Orders.string());
-  return session::ReplaceOrdersByText(situation, incoming.Text, {power_, *repairs_}, doubtful_,
-                                      messages);
+  if (isMissing && paths.OrdersMayLack) return {};
+  return model::ReadFile(paths.Orders, model::Streams::Read);
 }
 
 }  // namespace orb::cli

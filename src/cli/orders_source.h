@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/games.h"
 #include "cli/options.h"
 #include "cli/paths.h"
 #include "orders/exchange/read_orders.h"
@@ -30,8 +31,16 @@ class OrdersSource {
   std::vector<exchange::ReadLine> Take(session::Situation& situation, const GamePaths& paths,
                                        model::Messages& messages);
 
+  /// The same for a game at work, whose register gets the text if that is wanted. Where it cannot
+  /// be written a line on standard error says so.
+  std::vector<exchange::ReadLine> Take(GameAtWork& at, Console& console);
+
  private:
+  std::string TextOf(const GamePaths& paths);
+
   bool isLoose_;
+  bool isRegistered_;
+  std::string text_;  ///< that was read last, as it came
   session::Doubtful doubtful_ = session::Doubtful::LeftOut;
   std::string power_;
   std::filesystem::path data_;

@@ -17,11 +17,11 @@
 namespace orb::cli {
 namespace {
 
-constexpr std::array Options{OptionId::Orders,         OptionId::Loose,     OptionId::Power,
-                             OptionId::AcceptDoubtful, OptionId::Report,    OptionId::Reasons,
-                             OptionId::Rules,          OptionId::Compare,   OptionId::Try,
-                             OptionId::Json,           OptionId::Yes,       OptionId::Output,
-                             OptionId::InPlace,        OptionId::NoClobber, OptionId::FilesFrom};
+constexpr std::array Options{
+    OptionId::Orders,   OptionId::Loose,   OptionId::Power,     OptionId::AcceptDoubtful,
+    OptionId::Register, OptionId::Report,  OptionId::Reasons,   OptionId::Rules,
+    OptionId::Compare,  OptionId::Try,     OptionId::Json,      OptionId::Yes,
+    OptionId::Output,   OptionId::InPlace, OptionId::NoClobber, OptionId::FilesFrom};
 
 constexpr Example Examples[] = {
     {"resolve the stage, with the report on the terminal and the reasons in a file",
@@ -176,8 +176,7 @@ int Execute(const CommandLine& line, Console& console) {
   OrdersSource orders(line);
   return ForEachGame(line, console, plan, [&](GameAtWork& at) {
     // Unclear lines are asked about first: --yes leaves them out, otherwise the game is abandoned.
-    const std::vector<exchange::ReadLine> leftOut =
-        orders.Take(at.Situation, at.Paths, at.Messages);
+    const std::vector<exchange::ReadLine> leftOut = orders.Take(at, console);
     if (!session::GoOnWithout(leftOut, at.Messages) || !Work(line, console, at, leftOut).Do()) {
       SayAbandoned(console, at, "resolved");
       return false;

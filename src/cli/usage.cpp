@@ -39,6 +39,7 @@ std::vector<std::string> UsageParts(const Command& command) {
     part.append("]");
   }
   if (command.Takes == Games::One) parts.emplace_back("GAME");
+  if (command.Takes == Games::Two) parts.emplace_back("GAME OTHER");
   if (command.Takes == Games::OneAndOrder) parts.emplace_back("GAME \"ORDER\"");
   if (command.Takes == Games::Several) parts.emplace_back("GAME...");
   return parts;

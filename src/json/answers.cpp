@@ -220,6 +220,22 @@ std::string ShownText(const Heading& heading, const NotedMessages& messages,
   });
 }
 
+std::string DifferenceText(const Heading& heading, const NotedMessages& messages,
+                           std::string_view other,
+                           const std::vector<letters::Correction>& corrections) {
+  return Answer(heading, true, [&](Output& out) {
+    WriteGiven(out, "other", other);
+    WriteMessages(out, messages);
+    WriteObjects(out, "corrections", corrections, [&](const letters::Correction& correction) {
+      out.Member("subject", letters::NameOf(correction.Subject));
+      out.MemberUnlessEmpty("about", correction.About);
+      out.MemberUnlessEmpty("before", correction.Before);
+      out.MemberUnlessEmpty("after", correction.After);
+      out.Member("sentence", correction.Sentence);
+    });
+  });
+}
+
 std::string DrawnText(const Heading& heading, std::string_view svg) {
   return Answer(heading, true, [&](Output& out) {
     out.Key("svg");

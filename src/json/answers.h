@@ -1,6 +1,7 @@
 #pragma once
 
 #include "json/messages.h"
+#include "letters/correction.h"
 
 #include "adjudication/list_check.h"
 #include "orders/exchange/read_orders.h"
@@ -67,6 +68,11 @@ std::string ListedText(const Heading& heading, const Listed& listed);
 /// The situation, with what each power has.
 std::string ShownText(const Heading& heading, const NotedMessages& messages,
                       const model::GameState& game);
+
+/// What a situation has otherwise than another one, whose game's path is given.
+std::string DifferenceText(const Heading& heading, const NotedMessages& messages,
+                           std::string_view other,
+                           const std::vector<letters::Correction>& corrections);
 
 /// A map, as SVG in UTF-8.
 std::string DrawnText(const Heading& heading, std::string_view svg);

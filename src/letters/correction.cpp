@@ -1,0 +1,211 @@
+#include "letters/correction.h"
+
+#include "adjudication/possible_orders.h"
+#include "model/counts.h"
+#include "model/lookups.h"
+#include "report/wrapped_text.h"
+
+#include <algorithm>
+#include <array>
+
+namespace orb::letters {
+namespace {
+
+using model::GameState;
+using model::Unit;
+
+std::string SeasonText(const GameState& game) {
+  return game.Season + " " + std::to_string(game.Year) + ", " + std::string(StageText(game));
+}
+
+std::string Or(const std::string& text, std::string_view nothing) {
+  return text.empty() ? std::string(nothing) : text;
+}
+
+class Comparison {
+ public:
+  Comparison(const GameState& before, const GameState& after) : before_(before), after_(after) {
+    Whole(Subject::Title, "The title", before.Title, after.Title);
+    Whole(Subject::Season, "The season", SeasonText(before), SeasonText(after));
+    Players();
+    Units();
+    Owners();
+    Retreats();
+    FreeText();
+  }
+
+  std::vector<Correction> Take() { return std::move(found_); }
+
+ private:
+  void Add(Subject subject, std::string about, std::string before, std::string after,
+           std::string sentence) {
+    found_.push_back(
+        {subject, std::move(about), std::move(before), std::move(after), std::move(sentence)});
+  }
+
+  void Whole(Subject subject, std::string_view what, const std::string& before,
+             const std::string& after) {
+    if (before == after) return;
+    Add(subject, {}, before, after,
+        std::string(what) + " is " + Or(after, "empty") + " instead of " + Or(before, "empty") +
+            ".");
+  }
+
+  void Players() {
+    for (int power = 1; power <= model::CountryCount; ++power) {
+      const std::string& before = before_.Countries[power].PlayerName;
+      const std::string& after = after_.Countries[power].PlayerName;
+      if (before == after) continue;
+      const std::string& name = after_.Countries[power].Name;
+      Add(Subject::Player, after_.Countries[power].Abbreviation, before, after,
+          name + " is played by " + Or(after, "nobody") + " instead of " + Or(before, "nobody") +
+              ".");
+    }
+  }
+
+  /// Units are the same that stand in the same place; then those of which one has come from where
+  /// the other stands; then those that have come from the same place.
+  void Units() {
+    std::vector<const Unit*> gone = UnitsOf(before_);
+    std::vector<const Unit*> come = UnitsOf(after_);
+    Pair(gone, come, [](const Unit& a, const Unit& b) { return a.Location == b.Location; });
+    Pair(gone, come, [](const Unit& a, const Unit& b) {
+      return a.Location == b.PreviousLocation || a.PreviousLocation == b.Location;
+    });
+    Pair(gone, come, [](const Unit& a, const Unit& b) {
+      return !a.PreviousLocation.empty() && a.PreviousLocation != model::Unknown &&
+             a.PreviousLocation == b.PreviousLocation;
+    });
+    for (const Unit* unit : gone) {
+      Add(Subject::Unit, model::UnitText(*unit), Where(*unit), {},
+          "There is no " + model::UnitText(*unit) + Dislodgement(*unit) + ".");
+    }
+    for (const Unit* unit : come) {
+      Add(Subject::Unit, model::UnitText(*unit), {}, Where(*unit),
+          "There is " + model::UnitText(*unit) + Dislodgement(*unit) + ", which was missing.");
+    }
+  }
+
+  static std::vector<const Unit*> UnitsOf(const GameState& game) {
+    std::vector<const Unit*> units;
+    for (const Unit& unit : game.Units)
+      units.push_back(&unit);
+    return units;
+  }
+
+  template <class Same>
+  void Pair(std::vector<const Unit*>& gone, std::vector<const Unit*>& come, Same same) {
+    std::erase_if(gone, [&](const Unit* unit) {
+      const auto other = std::ranges::find_if(come, [&](const Unit* candidate) {
+        return candidate->Power == unit->Power && candidate->UnitType == unit->UnitType &&
+               same(*unit, *candidate);
+      });
+      if (other == come.end()) return false;
+      Moved(*unit, **other);
+      come.erase(other);
+      return true;
+    });
+  }
+
+  static std::string Dislodgement(const Unit& unit) {
+    if (unit.Status != model::Dislodged) return {};
+    return unit.DislodgedFrom.empty() ? " dislodged"
+                                      : " dislodged (attacked from " + unit.DislodgedFrom + ")";
+  }
+
+  static std::string Where(const Unit& unit) { return unit.Location + Dislodgement(unit); }
+
+  void Moved(const Unit& before, const Unit& after) {
+    const std::string from = Where(before);
+    const std::string to = Where(after);
+    if (from == to) return;
+    if (before.Location != after.Location) {
+      Add(Subject::Unit, model::UnitText(before), from, to,
+          model::UnitText(before) + Dislodgement(before) + " is in " + to + ".");
+      return;
+    }
+    const std::string is = Dislodgement(after);
+    Add(Subject::Unit, model::UnitText(after), from, to,
+        model::UnitText(after) + " is" + (is.empty() ? " not dislodged" : is) + ".");
+  }
+
+  void Owners() {
+    for (int row = 1; row <= after_.Map->Provinces.Count(); ++row) {
+      const std::string& before = before_.Provinces[row].Owner;
+      const std::string& after = after_.Provinces[row].Owner;
+      if (!model::IsCentre(*after_.Map, row) || before == after) continue;
+      const std::string& name = after_.Map->Provinces[row].Name;
+      Add(Subject::Owner, name, before, after,
+          name + " belongs to " + Or(after, "nobody") + " instead of " + Or(before, "nobody") +
+              ".");
+    }
+  }
+
+  /// Where a unit may go that is dislodged in both.
+  void Retreats() {
+    for (const Unit& unit : after_.Units) {
+      const auto same = std::ranges::find_if(before_.Units, [&](const Unit& other) {
+        return model::UnitText(other) == model::UnitText(unit) && other.Status == model::Dislodged;
+      });
+      if (unit.Status != model::Dislodged || same == before_.Units.end()) continue;
+      const std::string before = RetreatsOf(before_, *same);
+      const std::string after = RetreatsOf(after_, unit);
+      if (before == after) continue;
+      Add(Subject::Retreat, model::UnitText(unit), before, after,
+          model::UnitText(unit) + " may retreat to " + Or(after, "no place") + " instead of " +
+              Or(before, "no place") + ".");
+    }
+  }
+
+  static std::string RetreatsOf(const GameState& game, const Unit& unit) {
+    std::string places;
+    for (int row = 1; row <= game.Map->Provinces.Count(); ++row) {
+      if (!adjudication::MayRetreatTo(game, unit, row)) continue;
+      places.append(places.empty() ? "" : ", ").append(game.Map->Provinces[row].Name);
+    }
+    return places;
+  }
+
+  static std::string TextOf(const GameState& game) {
+    std::string text;
+    for (const std::string& line : game.TextLines)
+      text.append(line).append("\n");
+    return text;
+  }
+
+  void FreeText() {
+    const std::string before = TextOf(before_);
+    const std::string after = TextOf(after_);
+    if (before != after) Add(Subject::Text, {}, before, after, "The free text is another one.");
+  }
+
+  const GameState& before_;
+  const GameState& after_;
+  std::vector<Correction> found_;
+};
+
+}  // namespace
+
+std::vector<Correction> Corrections(const GameState& before, const GameState& after) {
+  return Comparison(before, after).Take();
+}
+
+std::string CorrectionNotice(const GameState& before, const GameState& after) {
+  std::string notice;
+  report::AddWrapped(after.Title, 0, notice);
+  report::AddWrapped(SeasonText(after), 0, notice);
+  notice.append("\n");
+  const std::vector<Correction> corrections = Corrections(before, after);
+  for (const Correction& correction : corrections)
+    report::AddWrapped("- " + correction.Sentence, 2, notice);
+  if (corrections.empty()) notice.append("There is nothing to correct.\n");
+  return notice;
+}
+
+std::string_view NameOf(Subject subject) {
+  constexpr std::array<std::string_view, 7> names{"title", "season",  "player", "unit",
+                                                  "owner", "retreat", "text"};
+  return names[static_cast<std::size_t>(subject)];
+}
+
+}  // namespace orb::letters
