@@ -193,7 +193,7 @@ void DrawMoving(const history::Replay& replay, const settings::MapOptions& optio
   for (const history::Journey& journey : replay.Journeys)
     poses.push_back(PoseAt(*replay.Start.Map, journey, clock));
   const std::vector<ShownUnit> shown = UnitsShown(*replay.Start.Map, replay.Journeys, poses);
-  HideLabelsUnder(surface, *replay.Start.Map, shown);
+  HideLabelsUnder(surface, replay.Start, options, shown);
   const SymbolStyle style{replay.Start.Countries, options.Mode};
   for (const Layer layer : {Layer::Standing, Layer::Moving, Layer::Aside}) {
     for (std::size_t i = 0; i < poses.size(); ++i) {

@@ -19,17 +19,25 @@ using model::GameState;
 
 constexpr double HaloWidth = 1.3;
 constexpr double HaloOnBox = 0.7;  ///< there is little room between the letters and the box
-constexpr double BlotWidth = 2;    ///< of the halo that hides a label
+constexpr double BlotMargin = 10;  ///< beside a label that is hidden, in twips
 constexpr double BoxWidth = 2;
 constexpr double BoxEdge = 0.5;    ///< to either side of a box's outline
-constexpr double BoxFringe = 0.3;  ///< lest the colour shows along a black box
+constexpr double BoxFringe = 0.6;  ///< lest the colour shows along a black box
 constexpr double DotHalo = 12;     ///< in twips
 constexpr double Gap = 30;         ///< between a unit and the label beside it, in twips
 
+bool HasBox(const GameState& game, const settings::MapOptions& options, int row) {
+  return options.ColourBordersByOwner && game.Map->Provinces[row].IsSupplyCentre != 0 &&
+         model::FindCountry(game.Provinces[row].Owner) != 0;
+}
+
 /// The box in the owner's colour. A dark edge sets it off from the land, whose tint may be as
 /// light as the colour; where the map shows no colours, the box is black.
-void DrawOwnerBox(Surface& surface, Point corner, std::string_view label, model::Colour colour,
-                  settings::MapMode mode) {
+void DrawOwnerBox(Surface& surface, const GameState& game, const settings::MapOptions& options,
+                  int row) {
+  const model::Province& province = game.Map->Provinces[row];
+  const std::string_view label = LabelText(province);
+  const Point corner = LabelCorner(surface, province);
   const double height = surface.TextHeight(label);
   const auto outline = [&](double width, model::Colour pen) {
     surface.DrawWidth = width;
@@ -37,11 +45,17 @@ void DrawOwnerBox(Surface& surface, Point corner, std::string_view label, model:
     surface.Box({corner.X - surface.TextWidth(" ") / 2, corner.Y + 0.1 * height},
                 surface.TextWidth(std::string(" ").append(label)), 0.8 * height);
   };
+  const bool inColour = settings::InColour(options.Mode);
   surface.FillStyle = Fill::Transparent;
-  if (settings::InColour(mode)) outline(BoxWidth + 2 * BoxEdge, Black);
-  outline(BoxWidth, colour);
-  if (!settings::InColour(mode)) outline(BoxWidth + BoxFringe, Black);
+  if (inColour) outline(BoxWidth + 2 * BoxEdge, Black);
+  outline(BoxWidth, game.Countries[model::FindCountry(game.Provinces[row].Owner)].Colour);
+  if (!inColour) outline(BoxWidth + BoxFringe, Black);
   SetPens(surface);
+}
+
+void DrawDot(Surface& surface, const GameState& game, int row) {
+  const model::Province& province = game.Map->Provinces[row];
+  if (province.IsSupplyCentre != 0) surface.Circle(CentreDot(surface, province), DotRadius);
 }
 
 Rectangle BoxOf(const Surface& surface, const ShownUnit& unit) {
@@ -108,21 +122,18 @@ void SetLabelFont(Surface& surface) {
 
 void DrawLabel(Surface& surface, const GameState& game, const settings::MapOptions& options,
                int row) {
-  const model::Province& province = game.Map->Provinces[row];
   const DrawnPart part(surface, game, row);
-  const std::string_view label = LabelText(province);
-  const Point corner = LabelCorner(surface, province);
+  const std::string_view label = LabelText(game.Map->Provinces[row]);
+  const Point corner = LabelCorner(surface, game.Map->Provinces[row]);
   PrintAt(surface, corner, label);
-  if (province.IsSupplyCentre == 0) return;
-  const int owner = model::FindCountry(game.Provinces[row].Owner);
-  if (owner != 0 && options.ColourBordersByOwner) {
-    DrawOwnerBox(surface, corner, label, game.Countries[owner].Colour, options.Mode);
+  if (HasBox(game, options, row)) {
+    DrawOwnerBox(surface, game, options, row);
     // The box runs through the lower parts of letters such as y.
     surface.HaloWidth = HaloOnBox;
     PrintAt(surface, corner, label);
     surface.HaloWidth = HaloWidth;
   }
-  surface.Circle(CentreDot(surface, province), DotRadius);
+  DrawDot(surface, game, row);
 }
 
 void DrawLabelAgain(Surface& surface, const GameState& game, const settings::MapOptions& options,
@@ -149,17 +160,23 @@ std::vector<ShownUnit> UnitsShown(const GameState& game) {
   return shown;
 }
 
-void HideLabelsUnder(Surface& surface, const model::Map& map, std::span<const ShownUnit> units) {
+void HideLabelsUnder(Surface& surface, const GameState& game, const settings::MapOptions& options,
+                     std::span<const ShownUnit> units) {
   SetLabelFont(surface);
-  surface.HaloWidth = BlotWidth;
-  surface.ForeColour = White;
   for (const ShownUnit& unit : units) {
-    if (unit.LabelRow == 0) continue;
-    const model::Province& place = map.Provinces[unit.LabelRow];
-    PrintAt(surface, LabelCorner(surface, place), LabelText(place));
+    const int row = unit.LabelRow;
+    if (row == 0) continue;
+    const std::string_view label = LabelText(game.Map->Provinces[row]);
+    const Point corner = LabelCorner(surface, game.Map->Provinces[row]);
+    const double height = surface.TextHeight(label);
+    surface.FillColour = White;
+    surface.DrawWidth = 0;
+    surface.Box({corner.X - BlotMargin, corner.Y + 0.15 * height},
+                surface.TextWidth(label) + 2 * BlotMargin, 0.8 * height);
+    SetPens(surface);
+    if (HasBox(game, options, row)) DrawOwnerBox(surface, game, options, row);
+    DrawDot(surface, game, row);
   }
-  SetPens(surface);
-  SetLabelFont(surface);
 }
 
 void DrawLabelsBeside(Surface& surface, const model::Map& map, std::span<const ShownUnit> units) {

@@ -37,7 +37,8 @@ std::vector<ShownUnit> UnitsShown(const model::GameState& game);
 
 /// Blots out the labels that units are about to lie on, so that no ends of letters show beside
 /// them.
-void HideLabelsUnder(Surface& surface, const model::Map& map, std::span<const ShownUnit> units);
+void HideLabelsUnder(Surface& surface, const model::GameState& game,
+                     const settings::MapOptions& options, std::span<const ShownUnit> units);
 
 /// Writes those labels beside the units, where there is most room.
 void DrawLabelsBeside(Surface& surface, const model::Map& map, std::span<const ShownUnit> units);

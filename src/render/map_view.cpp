@@ -73,9 +73,10 @@ bool IsAmong(const Orders& orders, const Unit& dislodged) {
   });
 }
 
-/// Old game files do not tell where a unit was dislodged from: no line then.
-void DrawAttackLines(Surface& surface, const GameState& game, settings::MapMode mode,
-                     const Orders& orders) {
+/// Old game files do not tell where a unit was dislodged from: no line then. Gives the lines.
+std::vector<Path> DrawAttackLines(Surface& surface, const GameState& game, settings::MapMode mode,
+                                  const Orders& orders) {
+  std::vector<Path> lines;
   for (const Unit& unit : game.Units) {
     if (unit.Status != model::Dislodged || unit.DislodgedFrom.empty()) continue;
     // A line from a place where a unit stands now would look like an attack by that unit.
@@ -83,9 +84,26 @@ void DrawAttackLines(Surface& surface, const GameState& game, settings::MapMode 
     const Unit* attacker = FindAttacker(game, unit);
     if (attacker == nullptr) continue;
     const int power = model::FindCountry(attacker->Power);
-    DrawMoveLine(surface, UnitPoint(model::PlaceOf(*game.Map, unit.DislodgedFrom)),
-                 UnitPoint(model::PlaceOf(*game.Map, attacker->Location)),
+    const Point from = UnitPoint(model::PlaceOf(*game.Map, unit.DislodgedFrom));
+    const Point to = UnitPoint(model::PlaceOf(*game.Map, attacker->Location));
+    DrawMoveLine(surface, from, to,
                  settings::InColour(mode) ? game.Countries[power].Colour : Black);
+    lines.push_back({OnSurface(surface, from), OnSurface(surface, to)});
+  }
+  return lines;
+}
+
+/// Writes the labels again that the lines run over.
+void DrawLabelsOver(const std::vector<Path>& lines, Surface& surface, const GameState& game,
+                    const settings::MapOptions& options) {
+  if (lines.empty()) return;
+  const std::vector<LabelBoxes> labels = LabelBoxesOf(surface, *game.Map);
+  for (int row = 1; row <= game.Map->Provinces.Count(); ++row) {
+    const LabelBoxes& boxes = labels[static_cast<std::size_t>(row - 1)];
+    if (std::ranges::any_of(
+            lines, [&boxes](const Path& line) { return boxes.AreTouched(line, MoveLineReach); })) {
+      DrawLabelAgain(surface, game, options, row);
+    }
   }
 }
 
@@ -173,7 +191,7 @@ void DrawGround(const GameState& game, const settings::MapOptions& options,
   DrawCaptions(surface, game);
   if (game.Stage == model::Stage::Retreats) {
     DrawStandoffMarkers(surface, game);
-    DrawAttackLines(surface, game, options.Mode, orders);
+    DrawLabelsOver(DrawAttackLines(surface, game, options.Mode, orders), surface, game, options);
   }
 }
 
@@ -212,7 +230,7 @@ void RenderMap(const GameState& game, const settings::MapOptions& options,
   for (const int row : LabelsUnder(routes, labels))
     DrawLabelAgain(surface, game, options, row);
   const std::vector<ShownUnit> units = UnitsShown(game);
-  HideLabelsUnder(surface, *game.Map, units);
+  HideLabelsUnder(surface, game, options, units);
   DrawUnits(surface, game, options.Mode, false);
   DrawUnits(surface, game, options.Mode, true);
   DrawLabelsBeside(surface, *game.Map, units);

@@ -4,7 +4,9 @@
 #include "model/lookups.h"
 #include "model/place.h"
 #include "render/drawing.h"
+#include "render/labels.h"
 #include "render/order_strokes.h"
+#include "render/symbols.h"
 
 #include <algorithm>
 #include <array>
@@ -27,6 +29,7 @@ constexpr double SideStep = 4.5 * TwipsPerPixel;
 constexpr double UnitRadius = 8 * TwipsPerPixel;
 constexpr double UnitReach = 11 * TwipsPerPixel;    ///< where lines to a unit end
 constexpr double LabelReach = 2.5 * TwipsPerPixel;  ///< how near heads and marks come to labels
+constexpr double DotReach = EndDotRadius + TwipsPerPixel;  ///< of a support's dot with its edge
 constexpr double LongestBend = 45 * TwipsPerPixel;
 
 /// A way to come at a unit: turned from the straight one, at least this far from labels.
@@ -91,9 +94,12 @@ double SupportedPart(const Way& move) {
 /// moves, which end on lines of the first round.
 class Router {
  public:
-  Router(const Surface& surface, const model::Map& map, std::span<const OrderOutcome> orders,
+  Router(const Surface& surface, const model::GameState& game, std::span<const OrderOutcome> orders,
          const std::vector<LabelBoxes>& labels, std::vector<OrderRoute>& routes)
-      : surface_(surface), map_(map), orders_(orders), labels_(labels), routes_(routes) {}
+      : surface_(surface), map_(*game.Map), orders_(orders), labels_(labels), routes_(routes) {
+    for (const ShownUnit& unit : UnitsShown(game))
+      units_.push_back(UnitBox(unit.UnitType, OnSurface(surface, unit.At), unit.Scale));
+  }
 
   void FindWays() {
     for (OrderRoute& route : routes_) {
@@ -102,8 +108,10 @@ class Router {
       route.Unit = OnSurface(surface_, at(model::PlaceOf(map_, order.Location)));
       if (!GoesToUnit(order)) continue;
       const bool hasOpposite = HasOpposite(order);
-      const double endLength = order.Kind == OrderKind::Support ? EndDotRadius : HeadLength;
-      route.Way = WayThrough(StopsOf(route, hasOpposite), endLength, hasOpposite);
+      const bool supports = order.Kind == OrderKind::Support;
+      route.Way = WayThrough(StopsOf(route, hasOpposite), supports ? EndDotRadius : HeadLength,
+                             hasOpposite);
+      if (supports) KeepEndClear(route.Way.Line);
     }
     for (OrderRoute& route : routes_) {
       if (route.Order->Kind == OrderKind::Convoy) FindConvoy(route);
@@ -180,6 +188,16 @@ class Router {
     return CurvePath(from, Moved(end, side, std::min(0.4 * distance, LongestBend)), end);
   }
 
+  /// Draws the end of a line back until no unit hides the dot there, if it is long enough.
+  void KeepEndClear(Path& line) const {
+    const double length = LengthOf(line);
+    for (double end = length; end > 0.5 * length; end -= TwipsPerPixel) {
+      if (IsUnderUnit(SpotAt(line, end).At)) continue;
+      if (end < length) line = PartOf(line, 0, end);
+      return;
+    }
+  }
+
   /// Whether the end of a line keeps this far from all labels.
   bool IsFree(const Path& line, double endLength, double reach) const {
     const double length = LengthOf(line);
@@ -199,12 +217,27 @@ class Router {
     });
   }
 
-  /// This part of a way, or one of those beside it if a dot or mark would lie on a label there.
+  /// Whether a unit would hide what is drawn there: units are painted over the lines.
+  bool IsUnderUnit(Point at) const {
+    return std::ranges::any_of(units_, [at](const Rectangle& unit) {
+      return Touches({at, at}, unit, DotReach);
+    });
+  }
+
+  /// This part of a way, or one of those beside it if a dot or mark would lie on a label or under
+  /// a unit there. Where all do, any part of the way that no unit hides, the nearest first.
   double FreeAt(const Way& way, double part, std::initializer_list<double> shifts) const {
+    const auto at = [&](double shift) { return SpotAt(way.Line, way.At(part + shift)).At; };
     for (const double shift : shifts) {
-      const double distance = way.At(part + shift);
-      const Point at = SpotAt(way.Line, distance).At;
-      if (IsFree({at, at}, LabelReach)) return distance;
+      if (IsFree({at(shift), at(shift)}, LabelReach) && !IsUnderUnit(at(shift)))
+        return way.At(part + shift);
+    }
+    constexpr double step = 0.05;
+    for (double shift = 0; shift < 1; shift += step) {
+      for (const double either : {-shift, shift}) {
+        const bool onWay = part + either >= 0 && part + either <= 1;
+        if (onWay && !IsUnderUnit(at(either))) return way.At(part + either);
+      }
     }
     return way.At(part);
   }
@@ -247,6 +280,7 @@ class Router {
   std::span<const OrderOutcome> orders_;
   const std::vector<LabelBoxes>& labels_;
   std::vector<OrderRoute>& routes_;
+  std::vector<Rectangle> units_;
 };
 
 }  // namespace
@@ -265,7 +299,7 @@ std::vector<OrderRoute> RoutesOf(const Surface& surface, const model::GameState&
     if (!CanBeDrawn(*game.Map, order)) continue;
     routes.push_back({&order, model::FindCountry(order.Power), {}, {}, {}, 0});
   }
-  Router(surface, *game.Map, orders, labels, routes).FindWays();
+  Router(surface, game, orders, labels, routes).FindWays();
   return routes;
 }
 

@@ -41,9 +41,9 @@ constexpr std::array<Point, 13> Ship = {{{-160, -22},
 constexpr Point ShipLetter = {-10, 12};
 constexpr std::array<Point, 2> FunnelBand = {{{-30, -88}, {4, -88}}};
 
-/// A shield about a supply centre's dot, which it covers.
-constexpr std::array<Point, 5> Shield = {{{-64, -52}, {64, -52}, {64, 28}, {0, 96}, {-64, 28}}};
-constexpr Point ShieldLetter = {0, 8};
+/// A shield that hangs from a supply centre's dot, clear of the label and its box.
+constexpr std::array<Point, 5> Shield = {{{-62, -6}, {62, -6}, {62, 62}, {0, 120}, {-62, 62}}};
+constexpr Point ShieldLetter = {0, 42};
 
 /// How a power's symbols are filled: with its colour, or where there is none with a grey or a
 /// black-and-white device that its initial letter tells apart.
@@ -216,7 +216,7 @@ Rectangle UnitBox(std::string_view unitType, Point centre, double scale) {
 
 void DrawMoveLine(Surface& surface, Point from, Point to, Colour colour) {
   surface.ForeColour = colour;
-  surface.DrawWidth = 5;
+  surface.DrawWidth = 2 * MoveLineReach / TwipsPerPixel;
   surface.Line(OnSurface(surface, from), OnSurface(surface, to));
   SetPens(surface);
 }

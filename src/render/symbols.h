@@ -34,13 +34,16 @@ void DrawUnit(Surface& surface, const SymbolStyle& style, std::string_view unitT
 /// What a unit drawn at a point covers, both in twips.
 Rectangle UnitBox(std::string_view unitType, Point centre, double scale);
 
+/// Half the width of an attack's line, in twips.
+constexpr double MoveLineReach = 2.5 * TwipsPerPixel;
+
 /// The way of an attack.
 void DrawMoveLine(Surface& surface, Point from, Point to, model::Colour colour);
 
 /// A clash that left a province empty, reaching 90 twips to each side.
 void DrawStandoffMarker(Surface& surface, Point at);
 
-/// A shield in the owner's colour over the dot of a supply centre; nothing for a neutral one.
+/// A shield in the owner's colour below the dot of a supply centre; nothing for a neutral one.
 void DrawCentreOwnerMarker(Surface& surface, const model::GameState& game, settings::MapMode mode,
                            int province);
 

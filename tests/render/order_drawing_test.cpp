@@ -3,7 +3,9 @@
 #include "model/lookups.h"
 #include "orders/entered_orders.h"
 #include "render/drawing.h"
+#include "render/labels.h"
 #include "render/recorder.h"
+#include "render/symbols.h"
 #include "settings/map_options.h"
 #include "support/boards.h"
 
@@ -141,6 +143,56 @@ TEST(OrderDrawing, SupportsEndAtTheMoveOrUnitTheySupport) {
         lines, [&](const Stroke& line) { return LiesOn(dots[i].Points[0], line); }));
   }
   EXPECT_NEAR(render::Distance(dots[2].Points[0], UnitAt("Ukr")), 165, 1);
+}
+
+/// A surface of the map's own size, so that units are as near to each other as on paper.
+struct NaturalSize : Recorder {
+  double ScaleWidth() const override { return 15000; }
+  double ScaleHeight() const override { return 12500; }
+  double TextWidth(std::string_view text) const override {
+    return 120.0 * static_cast<double>(text.size());
+  }
+  double TextHeight(std::string_view /*text*/) const override { return 218; }
+};
+
+TEST(OrderDrawing, NoSupportEndsUnderAUnit) {
+  const std::shared_ptr<const model::Map> map = RealMap();
+  const auto neighbours = [&map](int row) {
+    std::vector<std::string> names;
+    for (const int other : map->FleetAdjacency.at(static_cast<std::size_t>(row - 1))) {
+      if (other != 0) names.push_back(map->Provinces[other].Name);
+    }
+    return names;
+  };
+  int seen = 0;
+  for (int row = 1; row <= map->Provinces.Count(); ++row) {
+    const std::string& target = map->Provinces[row].Name;
+    const std::vector<std::string> around = neighbours(row);
+    // Every neighbour moves there, the next one supports it, and one stands in the way of all.
+    for (std::size_t i = 0; i < around.size(); ++i) {
+      const std::string& supporter = around[(i + 1) % around.size()];
+      GameState game = EmptyBoard("Spring", "moves");
+      for (const std::string& place : around)
+        AddDrawnUnit(game, "ENG F(" + place + ")");
+      AddDrawnUnit(game, "FRA F(" + target + ")");
+      const Orders orders = {{"ENG", "F", around[i], OrderKind::Move, "", target},
+                             {"ENG", "F", supporter, OrderKind::Support, around[i], target},
+                             {"ENG", "F", around[i], OrderKind::Support, target, ""}};
+      NaturalSize surface;
+      RenderMap(game, {settings::MapMode::BlackWhite}, "dir", surface, orders);
+      for (const Stroke& dot : EndDots(surface)) {
+        ++seen;
+        const render::Point at = dot.Points[0];
+        const render::Rectangle box = {{at.X - 45, at.Y - 45}, {at.X + 45, at.Y + 45}};
+        for (const render::ShownUnit& unit : render::UnitsShown(game)) {
+          const render::Point middle = render::OnSurface(surface, unit.At);
+          EXPECT_EQ(render::CommonArea(box, render::UnitBox(unit.UnitType, middle, 1)), 0)
+              << around[i] << " - " << target << " supported by " << supporter;
+        }
+      }
+    }
+  }
+  EXPECT_GT(seen, 300);
 }
 
 TEST(OrderDrawing, ConvoyedMovesPassThroughTheirFleetsInTurn) {
