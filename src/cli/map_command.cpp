@@ -13,8 +13,9 @@ namespace orb::cli {
 namespace {
 
 constexpr std::array Options{OptionId::Orders,  OptionId::Mode,         OptionId::CentreCount,
-                             OptionId::Borders, OptionId::CentreOwners, OptionId::Width,
-                             OptionId::Format,  OptionId::Output,       OptionId::NoClobber};
+                             OptionId::Borders, OptionId::CentreOwners, OptionId::TintByOwner,
+                             OptionId::Letters, OptionId::Width,        OptionId::Format,
+                             OptionId::Output,  OptionId::NoClobber};
 
 constexpr Example Examples[] = {
     {"the map as a picture for the next mail", "map --width 1200 -o league.png league.orb"},
@@ -67,8 +68,10 @@ int Execute(const CommandLine& line, Console& console) {
     throw UsageError("map: A picture would only garble the terminal: -o names a file.");
   }
   const int width = PixelWidth(line);
-  const settings::MapOptions options{ModeOf(line, "colour3d"), line.Has(OptionId::CentreCount),
-                                     line.Has(OptionId::Borders), line.Has(OptionId::CentreOwners)};
+  const settings::MapOptions options{
+      ModeOf(line, "colour3d"),        line.Has(OptionId::CentreCount),
+      line.Has(OptionId::Borders),     line.Has(OptionId::CentreOwners),
+      line.Has(OptionId::TintByOwner), line.Has(OptionId::Letters)};
   const std::filesystem::path data = DataDirectory(line);
   OrdersSource source(line);
   return ForEachGame(line, console, PlanPaths(line), [&](GameAtWork& at) {

@@ -44,6 +44,8 @@ enum class OptionId : std::uint8_t {
   CentreCount,
   Borders,
   CentreOwners,
+  TintByOwner,
+  Letters,
   Width,
   Format,
   NoClobber,

@@ -194,7 +194,7 @@ void DrawMoving(const history::Replay& replay, const settings::MapOptions& optio
     poses.push_back(PoseAt(*replay.Start.Map, journey, clock));
   const std::vector<ShownUnit> shown = UnitsShown(*replay.Start.Map, replay.Journeys, poses);
   HideLabelsUnder(surface, replay.Start, options, shown);
-  const SymbolStyle style{replay.Start.Countries, options.Mode};
+  const SymbolStyle style = StyleOf(replay.Start.Countries, options);
   for (const Layer layer : {Layer::Standing, Layer::Moving, Layer::Aside}) {
     for (std::size_t i = 0; i < poses.size(); ++i) {
       const Pose& pose = poses[i];

@@ -4,6 +4,11 @@
 
 namespace orb::render {
 
+bool IsDark(model::Colour colour) {
+  const auto part = [colour](int shift) { return static_cast<double>(colour >> shift & 0xFF); };
+  return 0.299 * part(0) + 0.587 * part(8) + 0.114 * part(16) < 125;
+}
+
 void SetPens(Surface& surface) {
   surface.ForeColour = Black;
   surface.FillColour = Black;

@@ -13,6 +13,10 @@ namespace orb::render {
 constexpr model::Colour Black = model::Rgb(0, 0, 0);
 constexpr model::Colour White = model::Rgb(255, 255, 255);
 
+/// Whether light stands out from the colour better than dark, by the luma of ITU-R BT.601, which is
+/// close enough to what the eye sees.
+bool IsDark(model::Colour colour);
+
 /// Sets a black pen of width 1 and solid black filling.
 void SetPens(Surface& surface);
 

@@ -8,6 +8,7 @@
 #include "render/order_drawing.h"
 #include "render/parts.h"
 #include "render/symbols.h"
+#include "render/tinting.h"
 
 #include <algorithm>
 #include <string>
@@ -107,8 +108,9 @@ void DrawLabelsOver(const std::vector<Path>& lines, Surface& surface, const Game
   }
 }
 
-void DrawUnits(Surface& surface, const GameState& game, settings::MapMode mode, bool dislodged) {
-  const SymbolStyle style{game.Countries, mode};
+void DrawUnits(Surface& surface, const GameState& game, const settings::MapOptions& options,
+               bool dislodged) {
+  const SymbolStyle style = StyleOf(game.Countries, options);
   for (const Unit& unit : game.Units) {
     const int power = model::FindCountry(unit.Power);
     const model::Province& province = model::PlaceOf(*game.Map, unit.Location);
@@ -120,11 +122,12 @@ void DrawUnits(Surface& surface, const GameState& game, settings::MapMode mode, 
   }
 }
 
-void DrawCentreOwners(Surface& surface, const GameState& game, settings::MapMode mode) {
+void DrawCentreOwners(Surface& surface, const GameState& game,
+                      const settings::MapOptions& options) {
   for (int row = 1; row <= game.Map->Provinces.Count(); ++row) {
     if (game.Map->Provinces[row].IsSupplyCentre != 0) {
       const DrawnPart part(surface, game, row);
-      DrawCentreOwnerMarker(surface, game, mode, row);
+      DrawCentreOwnerMarker(surface, game, options, row);
     }
   }
 }
@@ -183,7 +186,12 @@ std::vector<LabelBoxes> BoxesToKeepClear(const Surface& surface, const GameState
 void DrawGround(const GameState& game, const settings::MapOptions& options,
                 const std::filesystem::path& dataDirectory, Surface& surface,
                 const Orders& orders) {
-  surface.LoadPicture(BackgroundFile(dataDirectory, options.Mode));
+  const std::filesystem::path background = BackgroundFile(dataDirectory, options.Mode);
+  if (options.TintByOwner) {
+    surface.LoadTintedPicture(background, TintByOwner(game, dataDirectory, options.Mode));
+  } else {
+    surface.LoadPicture(background);
+  }
   SetPens(surface);
   SetLabelFont(surface);
   for (int row = 1; row <= game.Map->Provinces.Count(); ++row)
@@ -210,7 +218,7 @@ void DrawBelowUnits(const GameState& game, const settings::MapOptions& options,
 
 void DrawAboveUnits(const GameState& game, const settings::MapOptions& options, Surface& surface) {
   SetLabelFont(surface);
-  if (options.ShowCentreOwners) DrawCentreOwners(surface, game, options.Mode);
+  if (options.ShowCentreOwners) DrawCentreOwners(surface, game, options);
   if (options.ShowCentreCount) {
     settings::InColour(options.Mode) ? DrawColourLegend(surface, game)
                                      : DrawPlainLegend(surface, game);
@@ -226,15 +234,15 @@ void RenderMap(const GameState& game, const settings::MapOptions& options,
   // From the ground up: the lines of orders, the labels they would hide, units in place, dislodged
   // units over their attackers, the labels that those
   // hide, and what is marked on units.
-  DrawOrdersBelowUnits(surface, game, routes, options.Mode);
+  DrawOrdersBelowUnits(surface, game, routes, options);
   for (const int row : LabelsUnder(routes, labels))
     DrawLabelAgain(surface, game, options, row);
   const std::vector<ShownUnit> units = UnitsShown(game);
   HideLabelsUnder(surface, game, options, units);
-  DrawUnits(surface, game, options.Mode, false);
-  DrawUnits(surface, game, options.Mode, true);
+  DrawUnits(surface, game, options, false);
+  DrawUnits(surface, game, options, true);
   DrawLabelsBeside(surface, *game.Map, units);
-  DrawOrdersAboveUnits(surface, game, routes, options.Mode);
+  DrawOrdersAboveUnits(surface, game, routes, options);
   DrawAboveUnits(game, options, surface);
 }
 

@@ -26,12 +26,6 @@ constexpr double DisbandReach = 9 * TwipsPerPixel;
 constexpr double WaveDepth = 10 * TwipsPerPixel;  ///< of the waves below a fleet's middle
 constexpr double LineReach = 2 * TwipsPerPixel;   ///< to either side of a line's middle
 
-/// By the luma of ITU-R BT.601, which is close enough to what the eye sees.
-bool IsDark(model::Colour colour) {
-  const auto part = [colour](int shift) { return static_cast<double>(colour >> shift & 0xFF); };
-  return 0.299 * part(0) + 0.587 * part(8) + 0.114 * part(16) < 125;
-}
-
 /// Dark colours have a light edge, light ones a dark one.
 OrderPen PenOf(const model::Country& country, settings::MapMode mode, double width) {
   if (!settings::InColour(mode)) return {Black, White, width, EdgeWidthWithoutColour};
@@ -52,8 +46,8 @@ bool GoesThrough(Outcome outcome) {
 /// Draws the orders one by one: lines and rings lie below the units, crosses and pluses on them.
 class Artist {
  public:
-  Artist(Surface& surface, const model::GameState& game, settings::MapMode mode)
-      : surface_(surface), game_(game), mode_(mode) {}
+  Artist(Surface& surface, const model::GameState& game, const settings::MapOptions& options)
+      : surface_(surface), game_(game), options_(options) {}
 
   /// Draws one of the following for an order, as a part of the picture.
   void Draw(void (Artist::*what)(const OrderRoute&) const, const OrderRoute& route) const {
@@ -133,13 +127,13 @@ class Artist {
       DrawPlus(surface_, Pen(route, MoveWidth), at, MarkReach);
     }
     if (order.Outcome != Outcome::Entered || model::FindUnitAt(game_, order.Location) != 0) return;
-    DrawUnit(surface_, {game_.Countries, mode_}, order.UnitType,
+    DrawUnit(surface_, StyleOf(game_.Countries, options_), order.UnitType,
              UnitPoint(model::PlaceOf(*game_.Map, order.Location)), route.Power, 1);
   }
 
  private:
   OrderPen Pen(const OrderRoute& route, double width) const {
-    return PenOf(game_.Countries[route.Power], mode_, width);
+    return PenOf(game_.Countries[route.Power], options_.Mode, width);
   }
 
   /// On a curve the head points along the chord of its own length.
@@ -176,7 +170,7 @@ class Artist {
 
   Surface& surface_;
   const model::GameState& game_;
-  settings::MapMode mode_;
+  const settings::MapOptions& options_;
 };
 
 /// Whether an order is drawn as a ring: the unit stays because it was told to, or because its move
@@ -196,8 +190,8 @@ bool IsSupportLine(const OrderRoute& route) {
 }  // namespace
 
 void DrawOrdersBelowUnits(Surface& surface, const model::GameState& game,
-                          std::span<const OrderRoute> routes, settings::MapMode mode) {
-  const Artist artist(surface, game, mode);
+                          std::span<const OrderRoute> routes, const settings::MapOptions& options) {
+  const Artist artist(surface, game, options);
   // What is void lies below what counts.
   std::vector<OrderRoute> sorted(routes.begin(), routes.end());
   std::stable_partition(sorted.begin(), sorted.end(), [](const OrderRoute& route) {
@@ -217,8 +211,8 @@ void DrawOrdersBelowUnits(Surface& surface, const model::GameState& game,
 }
 
 void DrawOrdersAboveUnits(Surface& surface, const model::GameState& game,
-                          std::span<const OrderRoute> routes, settings::MapMode mode) {
-  const Artist artist(surface, game, mode);
+                          std::span<const OrderRoute> routes, const settings::MapOptions& options) {
+  const Artist artist(surface, game, options);
   for (const OrderRoute& route : routes) {
     if (route.Order->Kind == orders::OrderKind::Disband) artist.Draw(&Artist::DrawDisband, route);
     if (route.Order->Kind == orders::OrderKind::Build) artist.Draw(&Artist::DrawBuild, route);

@@ -17,12 +17,12 @@ namespace orb::render {
 
 /// Draws what lies below the units.
 void DrawOrdersBelowUnits(Surface& surface, const model::GameState& game,
-                          std::span<const OrderRoute> routes, settings::MapMode mode);
+                          std::span<const OrderRoute> routes, const settings::MapOptions& options);
 
 /// Draws what lies on the units: an x over those that are disbanded, a ring with a plus about those
 /// that are built; where one does not stand yet, the unit itself.
 void DrawOrdersAboveUnits(Surface& surface, const model::GameState& game,
-                          std::span<const OrderRoute> routes, settings::MapMode mode);
+                          std::span<const OrderRoute> routes, const settings::MapOptions& options);
 
 /// Rows of the places whose labels or centre dots the orders' lines run over, in map order.
 std::vector<int> LabelsUnder(std::span<const OrderRoute> routes,

@@ -8,6 +8,8 @@
 
 namespace orb::render {
 
+struct Tinting;
+
 constexpr double TwipsPerPixel = 15;  ///< of a screen at 96 dpi
 constexpr double TwipsPerPoint = 20;  ///< of font sizes
 
@@ -46,6 +48,12 @@ class Surface {
 
   /// Paints the whole surface with the picture of a file. Throws FileError, nothing painted.
   virtual void LoadPicture(const std::filesystem::path& file) = 0;
+
+  /// The same, the lands in other tints where the surface can do that. Throws FileError, also for a
+  /// broken hit-test picture; without one the tints stay.
+  virtual void LoadTintedPicture(const std::filesystem::path& file, const Tinting& /*tinting*/) {
+    LoadPicture(file);
+  }
 
   /// What a part of the picture shows.
   enum class Part { Province, Unit, Order, Caption };

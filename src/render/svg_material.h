@@ -62,6 +62,12 @@ class SvgMaterial {
   /// A picture's file as PNG with a palette of at most so many colours, up to 256. Throws
   /// FileError.
   virtual std::string Png(const std::filesystem::path& file, std::size_t colours) = 0;
+
+  /// The same in other tints, where the material can do that. Throws FileError.
+  virtual std::string TintedPng(const std::filesystem::path& file, std::size_t colours,
+                                const Tinting& /*tinting*/) {
+    return Png(file, colours);
+  }
 };
 
 }  // namespace orb::render

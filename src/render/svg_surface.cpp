@@ -23,6 +23,9 @@ std::string Attribute(std::string_view name, std::string_view value) {
 /// Pieces shorter than this take more room as a definition than where they stand.
 constexpr std::size_t LeastPiece = 50;
 
+/// Of a picture's palette.
+constexpr std::size_t MostColours = 256;
+
 }  // namespace
 
 SvgSurface::SvgSurface(SvgDefinitions& definitions, Point size, SvgForm form, std::string idPrefix)
@@ -88,8 +91,15 @@ std::string SvgSurface::Markup() {
 }
 
 void SvgSurface::LoadPicture(const std::filesystem::path& file) {
+  if (form_ != SvgForm::Layer) AddPicture(definitions_.Material().Png(file, MostColours));
+}
+
+void SvgSurface::LoadTintedPicture(const std::filesystem::path& file, const Tinting& tinting) {
   if (form_ == SvgForm::Layer) return;
-  const std::string png = definitions_.Material().Png(file, 256);
+  AddPicture(definitions_.Material().TintedPng(file, MostColours, tinting));
+}
+
+void SvgSurface::AddPicture(const std::string& png) {
   Add(std::string("<image")
           .append(Attribute("width", LengthText(size_.X)))
           .append(Attribute("height", LengthText(size_.Y)))

@@ -76,6 +76,7 @@ class SvgSurface : public Surface {
   double ScaleWidth() const override { return size_.X; }
   double ScaleHeight() const override { return size_.Y; }
   void LoadPicture(const std::filesystem::path& file) override;
+  void LoadTintedPicture(const std::filesystem::path& file, const Tinting& tinting) override;
   double TextWidth(std::string_view text) const override;
   double TextHeight(std::string_view text) const override;
   void Line(Point from, Point to) override;
@@ -110,6 +111,7 @@ class SvgSurface : public Surface {
   std::string PaintAttributes() const;
   TextFont Font() const { return {FontSize, FontBold}; }
   void Add(std::string_view markup);
+  void AddPicture(const std::string& png);
   void AddText(Point corner, const std::string& id, std::string_view paint);
   void FlushLines();
   void ShareRun();

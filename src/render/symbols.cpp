@@ -70,8 +70,10 @@ constexpr std::array<Device, model::CountryCount> Devices = {{{185, false, true}
 
 Paint PaintOf(const SymbolStyle& style, int power) {
   const model::Country& country = style.Countries[power];
-  if (settings::InColour(style.Mode))
-    return {country.Colour, country.TextColour, Black, false, false};
+  if (settings::InColour(style.Mode)) {
+    const Colour letter = IsDark(country.Colour) ? White : Black;
+    return {country.Colour, country.TextColour, letter, style.Letters, false};
+  }
   const Device& device = Devices[static_cast<std::size_t>(power - 1)];
   if (style.Mode == settings::MapMode::Grey) {
     const Colour letter = device.Grey < 128 ? White : Black;
@@ -240,11 +242,11 @@ void DrawStandoffMarker(Surface& surface, Point at) {
   }
 }
 
-void DrawCentreOwnerMarker(Surface& surface, const model::GameState& game, settings::MapMode mode,
-                           int province) {
+void DrawCentreOwnerMarker(Surface& surface, const model::GameState& game,
+                           const settings::MapOptions& options, int province) {
   const int owner = model::FindCountry(game.Provinces[province].Owner);
   if (owner == 0) return;
-  const Paint paint = PaintOf({game.Countries, mode}, owner);
+  const Paint paint = PaintOf(StyleOf(game.Countries, options), owner);
   const Point centre = CentreDot(surface, game.Map->Provinces[province]);
   SetPaint(surface, paint);
   surface.Polygon(Placed(Shield, centre, 1));

@@ -19,7 +19,14 @@ constexpr double DislodgedScale = 0.75;
 struct SymbolStyle {
   const model::CountryTable& Countries;
   settings::MapMode Mode;
+  bool Letters = false;  ///< the power's initial in colour too
 };
+
+/// The style that a map's options ask for. The table must outlive it.
+inline SymbolStyle StyleOf(const model::CountryTable& countries,
+                           const settings::MapOptions& options) {
+  return {countries, options.Mode, options.UnitLetters};
+}
 
 /// An army: a disc of 115 twips radius times the scale.
 void DrawArmy(Surface& surface, const SymbolStyle& style, Point at, int power, double scale);
@@ -44,7 +51,7 @@ void DrawMoveLine(Surface& surface, Point from, Point to, model::Colour colour);
 void DrawStandoffMarker(Surface& surface, Point at);
 
 /// A shield in the owner's colour below the dot of a supply centre; nothing for a neutral one.
-void DrawCentreOwnerMarker(Surface& surface, const model::GameState& game, settings::MapMode mode,
-                           int province);
+void DrawCentreOwnerMarker(Surface& surface, const model::GameState& game,
+                           const settings::MapOptions& options, int province);
 
 }  // namespace orb::render

@@ -16,6 +16,8 @@ struct MapOptions {
   bool ShowCentreCount = false;
   bool ColourBordersByOwner = false;
   bool ShowCentreOwners = false;
+  bool TintByOwner = false;  ///< lands in the tints of their owners
+  bool UnitLetters = false;  ///< the powers' initials on their units, also in colour
 };
 
 constexpr bool InColour(MapMode mode) {

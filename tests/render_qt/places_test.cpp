@@ -48,7 +48,7 @@ class Places : public ::testing::Test {
     model::GameState game = EmptyBoard("Spring", "moves");
     game.Provinces[row].Owner = "FRA";
     Recorder drawn;
-    render::DrawCentreOwnerMarker(drawn, game, settings::MapMode::Colour, row);
+    render::DrawCentreOwnerMarker(drawn, game, {settings::MapMode::Colour}, row);
     const model::Province& place = map_->Provinces[row];
     const render::Point there = render::CentreDot(drawn, place);
     const render::Point here = render::CentreDot(surface_, place);

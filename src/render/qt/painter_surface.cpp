@@ -56,20 +56,32 @@ bool PainterSurface::PaintsPixels(const QTransform& toDevice) const {
 }
 
 void PainterSurface::LoadPicture(const std::filesystem::path& file) {
+  FillWith(file, nullptr);
+}
+
+void PainterSurface::LoadTintedPicture(const std::filesystem::path& file, const Tinting& tinting) {
+  FillWith(file, &tinting);
+}
+
+void PainterSurface::FillWith(const std::filesystem::path& file, const Tinting* tinting) {
+  const auto picture = [&](QSize size) {
+    return tinting == nullptr ? pictures_.Scaled(file, size)
+                              : pictures_.Tinted(file, size, *tinting);
+  };
   // Printers and vector files take the picture as it is. On a screen or image it is drawn pixel by
   // pixel from a copy scaled once and kept, since scaling takes longer than all the rest.
   const QTransform toDevice = painter_.deviceTransform();
   if (!PaintsPixels(toDevice)) {
-    painter_.drawImage(QRectF(QPointF(0, 0), twips_), pictures_.Picture(file));
+    painter_.drawImage(QRectF(QPointF(0, 0), twips_), picture(pictures_.Picture(file).size()));
     return;
   }
   const QSize pixels = toDevice.mapRect(QRectF(QPointF(0, 0), twips_)).size().toSize();
-  QImage picture = pictures_.Scaled(file, pixels);
+  QImage copy = picture(pixels);
   // With the ratio of a dense screen set, one pixel of the copy falls on one of the device.
-  picture.setDevicePixelRatio(pixels.width() / target_.width());
+  copy.setDevicePixelRatio(pixels.width() / target_.width());
   const QTransform inner = painter_.worldTransform();
   painter_.setWorldTransform(outer_);
-  painter_.drawImage(target_.topLeft(), picture);
+  painter_.drawImage(target_.topLeft(), copy);
   painter_.setWorldTransform(inner);
 }
 

@@ -33,6 +33,7 @@ class PainterSurface : public Surface {
   double ScaleWidth() const override { return twips_.width(); }
   double ScaleHeight() const override { return twips_.height(); }
   void LoadPicture(const std::filesystem::path& file) override;
+  void LoadTintedPicture(const std::filesystem::path& file, const Tinting& tinting) override;
   double TextWidth(std::string_view text) const override;
   double TextHeight(std::string_view text) const override;
   void Line(Point from, Point to) override;
@@ -47,6 +48,7 @@ class PainterSurface : public Surface {
 
  private:
   bool PaintsPixels(const QTransform& toDevice) const;
+  void FillWith(const std::filesystem::path& file, const Tinting* tinting);
   void DrawPlainText(const HaloText& text, QPointF base);
   void DrawHaloText(const HaloText& text, QPointF base);
   void SetPenAndBrush();

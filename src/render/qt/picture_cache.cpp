@@ -52,6 +52,14 @@ QImage Decode(const std::filesystem::path& file) {
   return picture.convertToFormat(QImage::Format_RGB32);
 }
 
+/// The pixels of a picture of 32 bits a pixel, whose rows leave no gaps.
+PixelPicture PixelsOf(QImage& picture) {
+  auto* pixels = reinterpret_cast<std::uint32_t*>(picture.bits());
+  return {{pixels, static_cast<std::size_t>(picture.width() * picture.height())},
+          picture.width(),
+          picture.height()};
+}
+
 }  // namespace
 
 std::optional<PictureCache::Stamp> PictureCache::StampOf(const std::filesystem::path& file) {
@@ -65,7 +73,9 @@ std::optional<PictureCache::Stamp> PictureCache::StampOf(const std::filesystem::
 
 void PictureCache::Fetch(const std::filesystem::path& file) {
   if (const auto stamp = StampOf(file)) {
-    entries_[file] = {*stamp, std::async(std::launch::async, Decode, file), {}, {}};
+    Entry& entry = entries_[file] = {};
+    entry.Read = *stamp;
+    entry.Fetched = std::async(std::launch::async, Decode, file);
   }
 }
 
@@ -81,7 +91,10 @@ PictureCache::Entry& PictureCache::Current(const std::filesystem::path& file) {
     entries_.erase(found);
   }
   QImage picture = fetched.valid() ? fetched.get() : Decode(file);
-  return entries_[file] = {stamp.value_or(Stamp{}), {}, std::move(picture), {}};
+  Entry& entry = entries_[file] = {};
+  entry.Read = stamp.value_or(Stamp{});
+  entry.Original = std::move(picture);
+  return entry;
 }
 
 const QImage& PictureCache::Picture(const std::filesystem::path& file) {
@@ -96,6 +109,30 @@ const QImage& PictureCache::Scaled(const std::filesystem::path& file, QSize size
                        .convertToFormat(QImage::Format_RGB32);
   }
   return entry.Scaled;
+}
+
+const HitMap* PictureCache::HitPicture(const Tinting& tinting) {
+  const std::filesystem::path& file = tinting.HitPicture;
+  const auto stamp = StampOf(file);
+  if (!stamp) return nullptr;
+  const auto found = hitPictures_.find(file);
+  if (found != hitPictures_.end() && found->second.Read == *stamp) return &found->second.Hits;
+  HitMap hits(model::ReadFile(file), file.string(), static_cast<int>(tinting.Shown.size()));
+  return &hitPictures_.insert_or_assign(file, HitEntry{*stamp, std::move(hits)}).first->second.Hits;
+}
+
+const QImage& PictureCache::Tinted(const std::filesystem::path& file, QSize size,
+                                   const Tinting& tinting) {
+  const QImage& plain = Scaled(file, size);
+  const HitMap* const hits = HitPicture(tinting);
+  if (hits == nullptr) return plain;
+  Entry& entry = entries_.at(file);
+  if (entry.Tinted.size() == size && entry.TintedAs == tinting) return entry.Tinted;
+  if (!entry.Tints) entry.Tints = TintColours(PixelsOf(entry.Original), *hits, tinting);
+  entry.Tinted = plain.copy();
+  entry.TintedAs = tinting;
+  ApplyTints(PixelsOf(entry.Tinted), *hits, tinting, *entry.Tints);
+  return entry.Tinted;
 }
 
 double Resolution(const QImage& picture) {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "render/hit_map.h"
 #include "render/qt/halo_texts.h"
+#include "render/tinting.h"
 
 #include <QImage>
 #include <QSize>
@@ -26,6 +28,10 @@ class PictureCache {
   /// The same scaled to a size in pixels.
   const QImage& Scaled(const std::filesystem::path& file, QSize size);
 
+  /// The same with lands in other tints, which the hit-test picture tells; where that is missing,
+  /// in its own. Throws FileError also for a broken hit-test picture.
+  const QImage& Tinted(const std::filesystem::path& file, QSize size, const Tinting& tinting);
+
   /// The texts that were painted over them.
   HaloTexts& Texts() { return texts_; }
 
@@ -43,14 +49,25 @@ class PictureCache {
     std::future<QImage> Fetched;  ///< valid until the picture is first wanted
     QImage Original;
     QImage Scaled;
+    std::optional<TintColourTable> Tints;  ///< of the original
+    QImage Tinted;
+    Tinting TintedAs;  ///< what Tinted shows
+  };
+
+  /// A hit-test picture.
+  struct HitEntry {
+    Stamp Read;
+    HitMap Hits;
   };
 
   /// Nothing where the file cannot be looked at.
   static std::optional<Stamp> StampOf(const std::filesystem::path& file);
 
   Entry& Current(const std::filesystem::path& file);
+  const HitMap* HitPicture(const Tinting& tinting);
 
   std::map<std::filesystem::path, Entry> entries_;
+  std::map<std::filesystem::path, HitEntry> hitPictures_;
   HaloTexts texts_;
 };
 

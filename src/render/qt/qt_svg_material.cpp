@@ -46,6 +46,16 @@ QImage WithPalette(const QImage& picture, std::size_t colours) {
   return indexed;
 }
 
+std::string PngOf(const QImage& picture, std::size_t colours) {
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  // Quality 0 is the smallest file; nothing of the picture is lost.
+  if (!WithPalette(picture, colours).save(&buffer, "PNG", 0)) {
+    throw model::FileError("The map cannot be written in this format.");
+  }
+  return buffer.data().toStdString();
+}
+
 }  // namespace
 
 double QtSvgMaterial::Width(const TextFont& font, std::string_view text) {
@@ -110,16 +120,13 @@ Point QtSvgMaterial::Size(const std::filesystem::path& file) {
 
 std::string QtSvgMaterial::Png(const std::filesystem::path& file, std::size_t colours) {
   const auto [entry, isNew] = pngs_.try_emplace({file, colours});
-  if (isNew) {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    // Quality 0 is the smallest file; nothing of the picture is lost.
-    if (!WithPalette(pictures_.Picture(file), colours).save(&buffer, "PNG", 0)) {
-      throw model::FileError("The map cannot be written in this format.");
-    }
-    entry->second = buffer.data().toStdString();
-  }
+  if (isNew) entry->second = PngOf(pictures_.Picture(file), colours);
   return entry->second;
+}
+
+std::string QtSvgMaterial::TintedPng(const std::filesystem::path& file, std::size_t colours,
+                                     const Tinting& tinting) {
+  return PngOf(pictures_.Tinted(file, pictures_.Picture(file).size(), tinting), colours);
 }
 
 }  // namespace orb::render

@@ -24,6 +24,8 @@ class QtSvgMaterial : public SvgMaterial {
   std::vector<OutlineStep> Outline(int glyph) override;
   Point Size(const std::filesystem::path& file) override;
   std::string Png(const std::filesystem::path& file, std::size_t colours) override;
+  std::string TintedPng(const std::filesystem::path& file, std::size_t colours,
+                        const Tinting& tinting) override;
 
  private:
   /// A glyph of one of the fonts that a text falls back to.

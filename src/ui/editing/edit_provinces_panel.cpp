@@ -163,7 +163,7 @@ void EditProvincesPanel::paintOver(QPainter& /*painter*/, render::Surface& surfa
   const settings::MapOptions& options = desk().view().mapOptions;
   for (int row = 1; !options.ShowCentreOwners && row <= game().Map->Provinces.Count(); ++row) {
     if (game().Map->Provinces[row].IsSupplyCentre != 0)
-      render::DrawCentreOwnerMarker(surface, game(), options.Mode, row);
+      render::DrawCentreOwnerMarker(surface, game(), options, row);
   }
   if (selected() == 0) return;
   const model::Province& province = game().Map->Provinces[selected()];

@@ -271,7 +271,8 @@ void EditUnitsPanel::paintOver(QPainter& painter, render::Surface& surface) {
     m_drag->possible ? drawRing(surface, unitPoint(places, ghost), ThinRing, unitScale(ghost))
                      : drawForbiddenRing(surface, unitPoint(places, ghost));
   }
-  drawGhost(painter, surface, {game().Countries, desk().view().mapOptions.Mode}, ghost, m_drag->at);
+  drawGhost(painter, surface, render::StyleOf(game().Countries, desk().view().mapOptions), ghost,
+            m_drag->at);
 }
 
 }  // namespace orb::ui
