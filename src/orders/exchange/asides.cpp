@@ -1,5 +1,7 @@
 #include "orders/exchange/asides.h"
 
+#include "orders/exchange/line_kinds.h"
+#include "orders/exchange/power_names.h"
 #include "orders/exchange/sayings.h"
 
 #include <algorithm>
@@ -128,6 +130,47 @@ bool IsShrug(Tokens line) {
   return !orders && FindSaying(line, Saying::Shrugs);
 }
 
+/// Whether words may be about orders: they speak of orders or units, or point at something.
+bool RefersToOrders(Tokens words) {
+  constexpr std::array<std::string_view, 32> pointing{
+      "it",       "this",       "that",    "these", "those",  "them",  "all",    "above",
+      "below",    "rest",       "one",     "ones",  "both",   "first", "second", "last",
+      "same",     "everything", "instead", "other", "others", "else",  "so",     "then",
+      "anything", "do",         "legal",   "valid", "right",  "ok",    "okay",   "correct"};
+  return std::ranges::any_of(words, [&](const Token& token) {
+    const Verb verb = VerbOf(token);
+    const bool isVerb = verb != Verb::None && verb != Verb::Move && token.Text.size() > 2;
+    const bool isUnit = UnitTypeOf(token) != 0 && token.Text.size() > 1;
+    return isVerb || isUnit || HasUse(token, WordUse::Orders) ||
+           std::ranges::find(pointing, token.Text) != pointing.end();
+  });
+}
+
+/// What happens if the condition that begins a sentence is met; empty where it is not told by what
+/// the writer, or who is written to, will do then.
+Tokens ConsequenceOf(Tokens line) {
+  constexpr std::array<std::string_view, 9> persons{"i",   "im",   "ill", "id",   "we",
+                                                    "you", "well", "ich", "youll"};
+  constexpr std::size_t shortest = 3;
+  for (std::size_t at = shortest; at < line.size(); ++at) {
+    if (std::ranges::find(persons, line[at].Text) != persons.end()) return line.subspan(at);
+  }
+  return {};
+}
+
+/// Whether words announce another message: "I will write again".
+bool TellsMaster(Tokens words) {
+  constexpr std::array<std::string_view, 20> telling{
+      "tell", "mail",   "send",   "call", "confirm", "say",  "ask", "message", "update", "inform",
+      "let",  "change", "decide", "wait", "check",   "come", "get", "give",    "resend", "use"};
+  const bool isPress = std::ranges::any_of(
+      words, [](const Token& token) { return IsWord(token, "press") || IsWord(token, "letter"); });
+  return std::ranges::any_of(words, [&](const Token& token) {
+    return std::ranges::find(telling, token.Text) != telling.end() ||
+           (IsWord(token, "write") && !isPress);
+  });
+}
+
 }  // namespace
 
 std::optional<Aside> ReadAside(Tokens line) {
@@ -142,6 +185,27 @@ std::optional<Aside> ReadAside(Tokens line) {
   constexpr std::ptrdiff_t longestTitle = 4;
   const auto title = words <= longestTitle ? FindSaying(line, Saying::Titles) : std::nullopt;
   return title ? std::optional(Aside{AsideScope::Below, *title}) : std::nullopt;
+}
+
+bool SpeaksOfElse(Tokens line, const PlaceNames& names) {
+  constexpr std::ptrdiff_t few = 5;
+  const auto words = std::ranges::count(line, TokenKind::Word, &Token::Kind);
+  if (words < 2 || IsColon(line.back()) || !HasUse(line[0], WordUse::Condition)) {
+    const bool asks = words >= few && line.back().Text == "?";
+    return asks && !RefersToOrders(line) && !NamesPlace(line, names);
+  }
+  constexpr std::array<std::string_view, 8> telling{"tell",  "trust", "believe", "mention",
+                                                    "blame", "worry", "listen",  "show"};
+  const bool isAdvice = std::ranges::find(telling, line[1].Text) != telling.end();
+  if (isAdvice) return PowerIn(line) != 0 && !RefersToOrders(line) && !NamesPlace(line, names);
+  const Tokens then = ConsequenceOf(line);
+  const bool isOpen = std::ranges::any_of(then, [](const Token& token) {
+    return HasUse(token, WordUse::Condition, WordUse::Elsewhere, WordUse::SetsAside,
+                  WordUse::Aside) ||
+           HasUse(token, WordUse::Reservation);
+  });
+  return then.size() > 3 && !isOpen && !RefersToOrders(then) && !NamesPlace(then, names) &&
+         !TellsMaster(then);
 }
 
 std::optional<TokenRange> ReadDraftSubject(Tokens line) {
@@ -166,6 +230,20 @@ bool IsReport(Tokens words) {
     tells = tells || HasUse(token, WordUse::Report);
   }
   return tells;
+}
+
+bool IsUnreal(Tokens words) {
+  constexpr std::array<std::string_view, 20> past{
+      "was",      "were",    "had",    "tempted", "wish",     "wished",    "wanted",
+      "intended", "planned", "would",  "wouldnt", "almost",   "nearly",    "wollte",
+      "voulais",  "volevo",  "queria", "wilde",   "chcialem", "originally"};
+  constexpr std::array<std::string_view, 4> polite{"like", "please", "you", "grateful"};
+  const auto has = [&](const auto& list) {
+    return std::ranges::any_of(words, [&](const Token& token) {
+      return std::ranges::find(list, token.Text) != list.end();
+    });
+  };
+  return has(past) && !has(polite) && !MakesCondition(words);
 }
 
 bool IsOwnTitle(Tokens line) {
@@ -253,7 +331,8 @@ std::size_t PastThoughts(Tokens words) {
     const bool isSign = !IsA(words[at], TokenKind::Word) && words[at].Text != "?" &&
                         !IsA(words[at], TokenKind::Open) && !IsA(words[at], TokenKind::Close);
     const bool isPlain = HasUse(words[at], WordUse::Mood, WordUse::Plain) ||
-                         IsWord(words[at], "ps") || IsWord(words[at], "on");
+                         IsWord(words[at], "ps") || IsWord(words[at], "on") ||
+                         IsWord(words[at], "but") || IsWord(words[at], "nonsense");
     // "The" and a type may begin the order.
     if (length == 0 && !isSign && !(isPlain && UnitTypeOf(words[at]) == 0)) break;
     at += std::max<std::size_t>(length, 1);

@@ -25,6 +25,10 @@ struct Aside {
 /// What a line without an order sets aside; nothing for most lines.
 std::optional<Aside> ReadAside(Tokens line);
 
+/// Whether a line of its own surely speaks of something else than the orders: asks for a map, tells
+/// what happens "if Germany bounces me again", or "don't tell Germany".
+bool SpeaksOfElse(Tokens line, const PlaceNames& names);
+
 /// Where the subject of a mail says that its orders are not for now: "Entwurf", "not final".
 std::optional<TokenRange> ReadDraftSubject(Tokens line);
 
@@ -34,6 +38,10 @@ bool MakesCondition(Tokens line);
 
 /// Whether words before an order tell that it is somebody else's: "Tom told me", "you could".
 bool IsReport(Tokens words);
+
+/// Whether words beside an order tell that it is one of the past or of a wish: "I was going to
+/// play", "I was so tempted to".
+bool IsUnreal(Tokens words);
 
 /// Whether a title tells that the orders below are the writer's own, and for now.
 bool IsOwnTitle(Tokens line);

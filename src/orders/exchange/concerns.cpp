@@ -30,9 +30,12 @@ bool MayOrder(Tokens tokens, std::size_t place, const PlaceNames& names) {
   constexpr std::size_t near = 3;
   if (std::ranges::count(tokens, TokenKind::Word, &Token::Kind) <= few) return true;
   const std::size_t next = names.At(tokens, place)[0].Next;
-  const Tokens behind = tokens.subspan(next, std::min(near, tokens.size() - next));
-  return std::ranges::any_of(
-      behind, [](const Token& token) { return VerbOf(token) != Verb::None && token.Text != "--"; });
+  for (std::size_t at = next; at < std::min(next + near, tokens.size()); ++at) {
+    // "PARIS - The President of the Republic".
+    const bool isDash = IsA(tokens[at], TokenKind::Dash);
+    if (isDash ? !names.At(tokens, at + 1).empty() : VerbOf(tokens[at]) != Verb::None) return true;
+  }
+  return false;
 }
 
 /// Whether a unit's type stands before a token: "F Nwy".

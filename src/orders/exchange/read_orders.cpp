@@ -216,6 +216,7 @@ class TextReader {
     const bool isHeading = rows_.Lines.back().Kind == LineKind::Heading;
     if (line.IsTooLong || line.All.empty() || isHeading) return;
     if (isMailHead_) return LookAtSubject(line, first);
+    if (SpeaksOfElse(line.All, known_.Names)) return rows_.Around.SetAbout({});
     if (const auto aside = ReadAside(line.All)) return SetAside(line, *aside, first);
     constexpr std::size_t few = 4;
     // Units name themselves in other stages.

@@ -247,6 +247,10 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
     const bool revokes = FindSaying(remark, Saying::Revokes).has_value();
     if (revokes && next != understood_.end()) Around.SetRevoked(next->Row);
     if (!isDoubted) continue;
+    // "(was Pic)" says what is no more, but not that this is.
+    const bool isUnreal = isOwn && !IsA(remark[0], TokenKind::Open) && IsUnreal(remark) &&
+                          !NamesPlace(remark, known_.Names);
+    if (isUnreal && DoubtUnreal(line, said)) continue;
     Concern about = ConcernOf(remark, known_.Names, *known_.Game.Map);
     about.MayBeAll = false;
     if (!understood_.empty()) Around.AddAbout(understood_.front().Row, about);
@@ -267,6 +271,31 @@ void Rows::AmendBefore(const Said& said, int place) {
     if (order.At.End != said.At.Begin) continue;
     Around.SetInstead(order.Row, text::UpperCase(known_.NameOf(place).substr(0, nameLength)));
   }
+}
+
+/// "I was going to play A Ven - Tri", "A Lvn - StP would block it": sets aside the orders right
+/// behind such words, up to others; where there are none, those right before. False for none.
+bool Rows::DoubtUnreal(const SourceLine& line, const Said& said) {
+  const std::string reason = Quoted(line.Part(said.At)) + " may change it";
+  const auto setAside = [&](std::size_t begin, std::size_t end) {
+    bool any = false;
+    for (const Understood& order : understood_) {
+      const bool isHere = order.At.Begin >= begin && order.At.End <= end;
+      if (order.Sentence != said.Sentence || !isHere) continue;
+      Around.SetDoubt(order.Row, reason, line.Span(said.At), true);
+      any = true;
+    }
+    return any;
+  };
+  std::size_t begin = 0;
+  std::size_t end = line.All.size();
+  for (const Said& other : remarks_) {
+    if (other.At.Begin > said.At.Begin) end = std::min(end, other.At.Begin);
+    if (other.At.End < said.At.End) begin = std::max(begin, other.At.End);
+  }
+  const bool isAttached = std::ranges::any_of(
+      understood_, [&](const Understood& order) { return order.At.End == said.At.Begin; });
+  return isAttached ? setAside(begin, said.At.Begin) : setAside(said.At.End, end);
 }
 
 /// Whether words are about an order of their sentence. Between two orders without a comma they are

@@ -206,7 +206,8 @@ constexpr std::array Rows{
         "small change|slight change|with one change|habe mich vertan|meinung geandert|"
         "je me suis trompe|me equivoque|mi sono sbagliato|ho cambiato idea|change d avis|"
         "changement d avis|verbeterde versie|angrat mig|ombestemt|zmiana zdania|"
-        "scratch that last one|scrap that one|jokes aside|joking aside|kidding aside|skamt asido|"
+        "scratch that last one|scrap that one|thought better of it|jokes aside|joking "
+        "aside|kidding aside|skamt asido|"
         "spas beiseite|scherz beiseite|blague a part|bromas aparte|scherzi a parte|"
         "brincadeiras a parte|spog til side|zarty na bok|seriously now|no but seriously"},
     Row{Saying::Shrugs,
