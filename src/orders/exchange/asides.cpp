@@ -132,11 +132,11 @@ bool IsShrug(Tokens line) {
 
 /// Whether words may be about orders: they speak of orders or units, or point at something.
 bool RefersToOrders(Tokens words) {
-  constexpr std::array<std::string_view, 32> pointing{
+  constexpr std::array<std::string_view, 31> pointing{
       "it",       "this",       "that",    "these", "those",  "them",  "all",    "above",
       "below",    "rest",       "one",     "ones",  "both",   "first", "second", "last",
       "same",     "everything", "instead", "other", "others", "else",  "so",     "then",
-      "anything", "do",         "legal",   "valid", "right",  "ok",    "okay",   "correct"};
+      "anything", "legal",      "valid",   "right", "ok",     "okay",  "correct"};
   return std::ranges::any_of(words, [&](const Token& token) {
     const Verb verb = VerbOf(token);
     const bool isVerb = verb != Verb::None && verb != Verb::Move && token.Text.size() > 2;
@@ -171,12 +171,10 @@ bool TellsMaster(Tokens words) {
   });
 }
 
-}  // namespace
-
-std::optional<Aside> ReadAside(Tokens line) {
+/// What one sentence sets aside.
+std::optional<Aside> ReadSentence(Tokens line) {
   const auto words = std::ranges::count(line, TokenKind::Word, &Token::Kind);
   if (words == 0) return std::nullopt;
-  if (IsColon(line.back())) return ReadTitle(line);
   if (const auto at = FindSaying(line, Saying::Revokes)) return Aside{AsideScope::Above, *at};
   if (const auto at = FindSaying(line, Saying::Postpones))
     return Aside{AsideScope::AboveElseBelow, *at};
@@ -185,6 +183,24 @@ std::optional<Aside> ReadAside(Tokens line) {
   constexpr std::ptrdiff_t longestTitle = 4;
   const auto title = words <= longestTitle ? FindSaying(line, Saying::Titles) : std::nullopt;
   return title ? std::optional(Aside{AsideScope::Below, *title}) : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<Aside> ReadAside(Tokens line, const PlaceNames& names) {
+  if (line.empty()) return std::nullopt;
+  if (IsColon(line.back())) return ReadTitle(line);
+  std::size_t begin = 0;
+  for (std::size_t at = 0; at < line.size(); ++at) {
+    const bool isStop = line[at].Text == "?" || IsA(line[at], TokenKind::Dot);
+    const bool isEnd = at + 1 == line.size() || (isStop && !line[at + 1].Glued);
+    if (!isEnd) continue;
+    const Tokens sentence = line.subspan(begin, at + 1 - begin);
+    const auto aside = SpeaksOfElse(sentence, names) ? std::nullopt : ReadSentence(sentence);
+    if (aside) return Aside{aside->Scope, {begin + aside->At.Begin, begin + aside->At.End}};
+    begin = at + 1;
+  }
+  return std::nullopt;
 }
 
 bool SpeaksOfElse(Tokens line, const PlaceNames& names) {
@@ -204,8 +220,8 @@ bool SpeaksOfElse(Tokens line, const PlaceNames& names) {
                   WordUse::Aside) ||
            HasUse(token, WordUse::Reservation);
   });
-  return then.size() > 3 && !isOpen && !RefersToOrders(then) && !NamesPlace(then, names) &&
-         !TellsMaster(then);
+  return then.size() > 3 && !isOpen && !RefersToOrders(then) && !TellsMaster(then) &&
+         !NamesPlace(then, names);
 }
 
 std::optional<TokenRange> ReadDraftSubject(Tokens line) {

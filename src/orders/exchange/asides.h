@@ -23,7 +23,7 @@ struct Aside {
 };
 
 /// What a line without an order sets aside; nothing for most lines.
-std::optional<Aside> ReadAside(Tokens line);
+std::optional<Aside> ReadAside(Tokens line, const PlaceNames& names);
 
 /// Whether a line of its own surely speaks of something else than the orders: asks for a map, tells
 /// what happens "if Germany bounces me again", or "don't tell Germany".

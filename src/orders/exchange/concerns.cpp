@@ -38,6 +38,22 @@ bool MayOrder(Tokens tokens, std::size_t place, const PlaceNames& names) {
   return false;
 }
 
+/// Whether a place heads a report of the press: "PARIS - The President", "VIENNA (AP) -- The
+/// Emperor".
+bool IsDateline(Tokens tokens, std::size_t place, const PlaceNames& names) {
+  constexpr std::ptrdiff_t few = 8;
+  const auto matches = names.At(tokens, place);
+  if (matches.empty() || std::ranges::count(tokens, TokenKind::Word, &Token::Kind) <= few) {
+    return false;
+  }
+  const std::string_view written = tokens[place].Written;
+  const bool isLoud = text::UpperCase(written) == written;
+  std::size_t at = matches[0].Next;
+  if (at < tokens.size() && IsA(tokens[at], TokenKind::Open)) at = ClosingBracket(tokens, at) + 1;
+  return isLoud && at + 1 < tokens.size() && IsA(tokens[at], TokenKind::Dash) &&
+         UnitTypeOf(tokens[at + 1]) == 0 && names.At(tokens, at + 1).empty();
+}
+
 /// Whether a unit's type stands before a token: "F Nwy".
 bool IsUnitAt(Tokens tokens, std::size_t at) {
   return at > 0 && UnitTypeOf(tokens[at - 1]) != 0;
@@ -90,6 +106,7 @@ Concern ConcernOf(Tokens tokens, const PlaceNames& names, const model::Map& map)
     ++first;
   if (first == tokens.size()) return concern;
   const bool isTyped = UnitTypeOf(tokens[first]) != 0;
+  if (IsDateline(tokens, first, names)) return concern;
   // Words behind the name of a place that order nothing are prose: "VIENNA (AP) -- The Emperor".
   const bool isOfPlace = !names.At(tokens, first).empty() && MayOrder(tokens, first, names);
   // A line that ends in a colon speaks of what is below it, and sets it aside or does not.

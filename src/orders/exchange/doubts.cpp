@@ -102,8 +102,8 @@ bool IsDecoration(std::string_view signs) {
     const auto character = text::NextCharacter(signs);
     if (!character) return false;
     const bool isPicture = *character >= 0x1F000 || (*character >= 0x2600 && *character < 0x2800) ||
-                           *character == 0x2B50 || *character == 0x200D || *character == 0xFE0F ||
-                           (*character >= 0x2300 && *character < 0x2400);
+                           *character == 0x2B50 || *character == 0x200D || *character == 0x20E3 ||
+                           *character == 0xFE0F || (*character >= 0x2300 && *character < 0x2400);
     if (!isPicture || meaning.find(*character) != std::u32string_view::npos) return false;
   }
   return true;

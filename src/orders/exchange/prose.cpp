@@ -286,7 +286,18 @@ class ProseReader {
   void PutOrigin(Words& words) const {
     const auto type =
         std::ranges::find_if(words, [](const Token& token) { return UnitTypeOf(token) != 0; });
-    if (type == words.end() || words.end() - type < 4 || VerbOf(type[1]) != Verb::Move) return;
+    if (type == words.end() || words.end() - type < 4) return;
+    // "The fleet stays put in Ankara".
+    if (VerbOf(type[1]) == Verb::Hold) {
+      const auto in = std::find_if(type + 2, words.end(), [](const Token& token) {
+        return IsWord(token, "in") || IsWord(token, "at");
+      });
+      if (in == words.end() || in + 1 == words.end()) return;
+      words.erase(type + 2, in + 1);
+      std::rotate(type + 1, type + 2, words.end());
+      return;
+    }
+    if (VerbOf(type[1]) != Verb::Move) return;
     if (!IsWord(type[2], "from") && !IsWord(type[2], "aus")) return;
     words.erase(type + 1, type + 3);
   }

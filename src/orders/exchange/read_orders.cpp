@@ -217,7 +217,7 @@ class TextReader {
     if (line.IsTooLong || line.All.empty() || isHeading) return;
     if (isMailHead_) return LookAtSubject(line, first);
     if (SpeaksOfElse(line.All, known_.Names)) return rows_.Around.SetAbout({});
-    if (const auto aside = ReadAside(line.All)) return SetAside(line, *aside, first);
+    if (const auto aside = ReadAside(line.All, known_.Names)) return SetAside(line, *aside, first);
     constexpr std::size_t few = 4;
     // Units name themselves in other stages.
     const bool isBuild = known_.Stage == model::Stage::Adjustments;

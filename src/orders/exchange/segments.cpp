@@ -87,7 +87,8 @@ bool IsOfOthers(Tokens sentence, const PlaceNames& names, int power) {
       sentence.size() > few && NamesPlace(sentence, names) && HasUse(sentence[0], WordUse::Wish) &&
       (HasUse(sentence[1], WordUse::Report) || HasUse(sentence[2], WordUse::Report));
   const int named = isTold ? PowerIn(sentence) : PowerAt(sentence, 0).Power;
-  return sentence.size() > few && named != 0 && named != power && !isHard && !ReadAside(sentence);
+  return sentence.size() > few && named != 0 && named != power && !isHard &&
+         !ReadAside(sentence, names);
 }
 
 /// Whether a sentence without orders says something that may concern others: what is passed over
@@ -98,10 +99,11 @@ bool Speaks(Tokens sentence, const PlaceNames& names, int power) {
   const bool reconsiders =
       sentence.size() <= few && Reconsiders(sentence) && !HoldsOrderWords(sentence, names);
   if (IsOfOthers(sentence, names, power)) return false;
-  if (IsOffer(sentence) && !HoldsOrderWords(sentence, names) && !ReadAside(sentence)) return false;
+  if (IsOffer(sentence) && !HoldsOrderWords(sentence, names) && !ReadAside(sentence, names))
+    return false;
   // "Yesterday." alone speaks of the order, among others of something else.
   const bool isBrief = sentence.size() <= few;
-  return ReadAside(sentence) || reconsiders ||
+  return ReadAside(sentence, names) || reconsiders ||
          std::ranges::any_of(sentence, [&](const Token& token) {
            return IsDoubtfulSign(token) ||
                   HasUse(token, WordUse::Condition, WordUse::Aside, WordUse::SetsAside) ||
@@ -283,6 +285,7 @@ class SegmentReader {
         return Take({range.Begin + thoughts, range.End}, std::move(read), tried);
       }
     }
+    if (ReadBehindThoughts(range, before)) return;
     PartRead& part = parts_.back().second;
     const Context behind = std::exchange(context_, before);
     if (TakeInstead(ReadRunOn(tokens, known_, context_), range)) return;
@@ -297,6 +300,30 @@ class SegmentReader {
     // What does not begin as an order of its own may concern the orders beside it.
     if (Speaks(tokens, known_.Names, context_.Power) && !BeginsAsOrder(tokens, known_.Names))
       part = Remark();
+  }
+
+  /// "Ion s ... no just ion hold": what was begun gives way to the order of the same unit.
+  bool ReadBehindThoughts(TokenRange range, const Context& before) {
+    const Tokens tokens = PartOf(range);
+    const auto places = known_.Names.At(tokens, UnitTypeOf(tokens[0]) != 0 ? 1 : 0);
+    if (places.empty()) return false;
+    for (std::size_t at = places[0].Next; at + 1 < tokens.size(); ++at) {
+      if (tokens[at].Means.Sayings == 0) continue;
+      const std::size_t past = at + PastThoughts(tokens.subspan(at));
+      if (past == at || past >= tokens.size()) continue;
+      const auto again = known_.Names.At(tokens, past + (UnitTypeOf(tokens[past]) != 0 ? 1 : 0));
+      if (again.empty() || again[0].Rows != places[0].Rows) return false;
+      Context tried = before;
+      Context begun = before;
+      PartRead read = ReadPart(tokens.subspan(past), known_, tried);
+      const bool isWhole = IsUnderstood(ReadPart(tokens.first(at), known_, begun, Rest::Anything));
+      if (read.Kind != LineKind::Order || isWhole) return false;
+      parts_.pop_back();
+      TakeNone({range.Begin, range.Begin + past});
+      Take({range.Begin + past, range.End}, std::move(read), tried);
+      return true;
+    }
+    return false;
   }
 
   /// Takes orders in place of the clause that they were read from; false for none.

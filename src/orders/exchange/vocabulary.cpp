@@ -283,7 +283,8 @@ constexpr std::array Uses{
              "protect protects block blocks blocking defend defends defence defense defensive "
              "guarding defending protecting supported selfstandoff against"},
     UseWords{WordUse::Plain,
-             "better fine ok okay yes yep yeah you we us i am all hope hopefully it works fingers "
+             "both want better fine ok okay yes yep yeah you we us i am all hope hopefully it "
+             "works fingers "
              "crossed of course obviously naturally fyi btw sure surely definitely certainly "
              "confirmed confirm confirming final agreed as discussed promised usual again still "
              "unchanged same corrected correction revised updated changed new safe safety self "

@@ -1,0 +1,241 @@
+#include "orders/exchange/doubts.h"
+#include "orders/exchange/line_kinds.h"
+#include "orders/exchange/power_names.h"
+#include "orders/exchange/rows.h"
+#include "orders/exchange/sayings.h"
+#include "text/strings.h"
+
+#include <algorithm>
+
+// What the words beside the orders of a line do to them.
+
+namespace orb::exchange {
+namespace {
+
+/// How many words and signs a greeting before an order has at most: "Hi Tom, A Par - Bur".
+constexpr std::size_t LongestGreeting = 6;
+
+/// Whether words right before an order only wish for it, or name whose it is: "For the opening
+/// season I should like the", "okay so this is Italy um orders for spring the".
+bool IsOpening(Tokens words, const PlaceNames& names, int power) {
+  const auto last = std::find_if_not(words.rbegin(), words.rend(), [](const Token& token) {
+    return HasUse(token, WordUse::Filler) && !HasUse(token, WordUse::Wish);
+  });
+  if (last == words.rend()) return false;
+  const bool leads =
+      HasUse(*last, WordUse::Wish, WordUse::Season, WordUse::Orders) || IsWord(*last, "that");
+  const int named = PowerIn(words);
+  const bool wishes = std::ranges::any_of(words, [](const Token& token) {
+    return HasUse(token, WordUse::Wish) && token.Text.size() > 2 && !IsWord(token, "have");
+  });
+  const bool isAsked = std::ranges::any_of(words, [](const Token& token) {
+    return IsWord(token, "you") || IsWord(token, "like") || IsWord(token, "please");
+  });
+  const bool isOpen = std::ranges::any_of(words, [&](const Token& token) {
+    // "I could move" is a thought, "could you" a wish.
+    const bool isPolite = isAsked && (IsWord(token, "should") || IsWord(token, "could"));
+    return (HasUse(token, WordUse::Condition) && !isPolite) || IsDoubtfulSign(token) ||
+           HasUse(token, WordUse::Aside, WordUse::SetsAside, WordUse::Elsewhere) ||
+           HasUse(token, WordUse::Report, WordUse::Reservation);
+  });
+  const bool isOwn = named == power || (named == 0 && wishes);
+  return leads && isOwn && !isOpen && !ReadAside(words, names) && !NamesPlace(words, names);
+}
+
+/// Whether words before an order are a title of it: "Orders of Turkey, with love: the".
+bool IsTitle(Tokens words, const PlaceNames& names, int power) {
+  const auto last = std::find_if_not(words.rbegin(), words.rend(), [](const Token& token) {
+    return HasUse(token, WordUse::Filler) || IsWord(token, "het") || IsWord(token, "o");
+  });
+  if (last == words.rend() || !IsA(*last, TokenKind::Colon)) return false;
+  const Tokens title = words.first(static_cast<std::size_t>(words.rend() - last));
+  const bool isOpen = std::ranges::any_of(title, [](const Token& token) {
+    return HasUse(token, WordUse::Condition) || IsDoubtfulSign(token);
+  });
+  const int named = PowerIn(title);
+  // "One change to what I sent:".
+  if (Corrects(title) && !NamesPlace(title, names)) return true;
+  if (isOpen || ReadAside(title, names) || IsReport(title) || Reconsiders(title)) return false;
+  return named == power || (named == 0 && IsOwnTitle(title));
+}
+
+}  // namespace
+
+void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
+  for (const Said& said : remarks_) {
+    const Tokens remark = line.Part(said.At);
+    const bool isGreeting = remark.size() <= LongestGreeting &&
+                            HasUse(remark[0], WordUse::Greeting) &&
+                            !ReadAside(remark, known_.Names).has_value();
+    if (FindSaying(remark, Saying::Excludes) && Exclude(line, said)) continue;
+    if (const int place = ExcludedPlace(remark, known_.Names); place != 0) AmendBefore(said, place);
+    const auto next = std::ranges::find_if(
+        understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
+    if (next != understood_.end() && IsSecondThought(remark)) {
+      Around.SetAmends(next->Row, Quoted(remark) + " may change it", line.Span(said.At));
+      continue;
+    }
+    const bool isOwn =
+        std::ranges::find(understood_, said.Sentence, &Understood::Sentence) != understood_.end();
+    const bool isDoubted = !isGreeting && IsDoubted(line, said, isOwn);
+    // Builds name no unit twice, so that any such words may take back those above.
+    const bool isOfAbove = isDoubted && known_.Stage == model::Stage::Adjustments;
+    if ((isOfAbove || Reconsiders(remark)) && next != understood_.end()) {
+      Around.SetReconsiders(next->Row, Quoted(remark) + " may change it", line.Span(said.At));
+    }
+    const bool revokes = FindSaying(remark, Saying::Revokes).has_value();
+    if (revokes && next != understood_.end()) Around.SetRevoked(next->Row);
+    if (!isDoubted) continue;
+    // "(was Pic)" says what is no more, but not that this is.
+    const bool isUnreal = isOwn && !IsA(remark[0], TokenKind::Open) && IsUnreal(remark) &&
+                          !NamesPlace(remark, known_.Names);
+    if (isUnreal && DoubtUnreal(line, said)) continue;
+    Concern about = ConcernOf(remark, known_.Names, *known_.Game.Map);
+    about.MayBeAll = false;
+    if (!understood_.empty()) Around.AddAbout(understood_.front().Row, about);
+    const std::string reason = Quoted(line.Part(said.At)) + " may change it";
+    const bool isReported = IsReport(remark);
+    for (const Understood& order : understood_) {
+      if (isOwn && !SpeaksOf(line, said, order)) continue;
+      Around.SetDoubt(order.Row, reason, line.Span(said.At), isReported);
+    }
+    if (!isOwn) Around.SetDoubtFrom(first, reason, line.Span(said.At));
+  }
+}
+
+/// "A Par - Bur, not Pic" holds rather than an order to Picardy above.
+void Rows::AmendBefore(const Said& said, int place) {
+  constexpr std::size_t nameLength = 3;
+  for (const Understood& order : understood_) {
+    if (order.At.End != said.At.Begin) continue;
+    Around.SetInstead(order.Row, text::UpperCase(known_.NameOf(place).substr(0, nameLength)));
+  }
+}
+
+/// "I was going to play A Ven - Tri", "A Lvn - StP would block it": sets aside the orders right
+/// behind such words, up to others; where there are none, those right before. False for none.
+bool Rows::DoubtUnreal(const SourceLine& line, const Said& said) {
+  const std::string reason = Quoted(line.Part(said.At)) + " may change it";
+  const auto setAside = [&](std::size_t begin, std::size_t end) {
+    bool any = false;
+    for (const Understood& order : understood_) {
+      const bool isHere = order.At.Begin >= begin && order.At.End <= end;
+      if (order.Sentence != said.Sentence || !isHere) continue;
+      Around.SetDoubt(order.Row, reason, line.Span(said.At), true);
+      any = true;
+    }
+    return any;
+  };
+  std::size_t begin = 0;
+  std::size_t end = line.All.size();
+  for (const Said& other : remarks_) {
+    if (other.At.Begin > said.At.Begin) end = std::min(end, other.At.Begin);
+    if (other.At.End < said.At.End) begin = std::max(begin, other.At.End);
+  }
+  const bool isAttached = std::ranges::any_of(
+      understood_, [&](const Understood& order) { return order.At.End == said.At.Begin; });
+  return isAttached ? setAside(begin, said.At.Begin) : setAside(said.At.End, end);
+}
+
+/// Whether words are about an order of their sentence. Between two orders without a comma they are
+/// about these two, in brackets about the one before; behind the last and before the first about
+/// all.
+bool Rows::SpeaksOf(const SourceLine& line, const Said& said, const Understood& order) const {
+  if (order.Sentence != said.Sentence) return false;
+  if (said.Row) return order.Row == *said.Row;
+  const auto isBefore = [&](const Understood& other) { return other.At.End <= said.At.Begin; };
+  const auto isBehind = [&](const Understood& other) { return other.At.Begin >= said.At.End; };
+  const Understood* before = nullptr;
+  const Understood* behind = nullptr;
+  for (const Understood& other : understood_) {
+    if (other.Sentence != said.Sentence) continue;
+    if (isBefore(other)) before = &other;
+    if (isBehind(other) && behind == nullptr) behind = &other;
+  }
+  // Of several sentences the one that asks has its sign behind the order that it asks about.
+  const bool isSign = IsDoubtfulSign(line.All[said.At.Begin]) && said.At.End <= said.At.Begin + 3 &&
+                      before != nullptr && behind == nullptr;
+  if (isSign && understood_.back().At.Begin >= said.At.End) return order.Row == before->Row;
+  const bool isAttached = before != nullptr && behind != nullptr &&
+                          before->At.End == said.At.Begin &&
+                          !IsA(line.All[said.At.Begin], TokenKind::Comma);
+  if (!isAttached) return true;
+  const bool isBracket = IsA(line.All[said.At.Begin], TokenKind::Open) &&
+                         IsA(line.All[said.At.End - 1], TokenKind::Close);
+  const bool isParted = IsA(line.All[said.At.End], TokenKind::Comma);
+  return order.Row == before->Row || (order.Row == behind->Row && !isBracket && !isParted);
+}
+
+/// The orders behind the words, up to other words, are those that are not meant: "(not F Kie -
+/// Hol)".
+/// False where there are none.
+bool Rows::Exclude(const SourceLine& line, const Said& said) {
+  bool excludes = false;
+  const auto next = std::ranges::find(understood_, said.At.End,
+                                      [](const Understood& order) { return order.At.Begin; });
+  if (next == understood_.end()) return false;
+  std::size_t end = line.All.size();
+  for (const Said& other : remarks_) {
+    // An "and" alone goes on.
+    const bool goesOn = other.At.End - other.At.Begin == 1;
+    if (other.At.Begin > said.At.End && !goesOn) end = std::min(end, other.At.Begin);
+  }
+  for (const Understood& order : understood_) {
+    const bool isBehind = order.At.Begin >= said.At.End && order.At.Begin < end;
+    if (order.Sentence != said.Sentence || !isBehind) continue;
+    Around.SetDoubt(order.Row, Quoted(line.Part(said.At)) + " excludes it", line.Span(said.At),
+                    true);
+    Around.SetRevoked(order.Row);
+    excludes = true;
+  }
+  return excludes;
+}
+
+/// Whether words at the beginning of a line greet and head it: "alright mate england orders for
+/// spring".
+bool Rows::IsAddress(Tokens words, bool isFirst, int power) const {
+  std::size_t at = 0;
+  while (at < words.size() && HasUse(words[at], WordUse::Mood, WordUse::Greeting))
+    ++at;
+  if (!isFirst || at == words.size()) return false;
+  const auto heading = ReadHeading(words.subspan(at), known_.Names);
+  return heading && heading->Orders == Verb::None &&
+         (heading->Power == power || heading->Power == 0);
+}
+
+/// Whether words are not known to leave the orders of their sentence as they are.
+bool Rows::IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const {
+  std::vector<Token> own;
+  int power = 0;
+  for (const Understood& order : understood_) {
+    power = model::FindCountry(Lines[order.Row].Power);
+    const Tokens words = line.Part(order.At);
+    if (!isOwn || order.Sentence == said.Sentence)
+      own.insert(own.end(), words.begin(), words.end());
+  }
+  const Tokens remark = line.Part(said.At);
+  if (IsAddress(remark, said.At.Begin == 0, power) || IsTitle(remark, known_.Names, power))
+    return false;
+  const bool isFirst = std::ranges::all_of(
+      understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
+  if (isFirst && IsOpening(remark, known_.Names, power)) return false;
+  // "Nothing surprising from Turkey: A Con - Bul".
+  if (isFirst && !understood_.empty() && understood_.front().At.Begin == said.At.End) {
+    const std::size_t begin = understood_.front().At.Begin;
+    const Tokens rest = Tokens(line.All).subspan(begin);
+    const PowerName heading = PowerAt(rest, 0);
+    const bool isHeading = heading.Power != 0 && heading.Power == power &&
+                           heading.Next < rest.size() && IsA(rest[heading.Next], TokenKind::Colon);
+    const std::size_t end = begin + heading.Next + 1;
+    if (isHeading && IsTitle(line.Part({said.At.Begin, end}), known_.Names, power)) return false;
+  }
+  // Before an order such words put it in the place of another one, behind it another in its place.
+  const bool isBefore = std::ranges::any_of(
+      understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
+  const auto correction = FindCorrection(remark, isBefore);
+  if (!correction) return FindDoubt(remark, own, known_.Names, power).has_value();
+  return FindDoubt(remark.first(correction->Begin), own, known_.Names, power) ||
+         FindDoubt(remark.subspan(correction->End), own, known_.Names, power);
+}
+
+}  // namespace orb::exchange
