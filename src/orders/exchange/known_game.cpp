@@ -133,10 +133,12 @@ void KnownGame::Learn(const PlainOrder& order) {
 }
 
 bool KnownGame::IsConvoyed(const PlainOrder& move) const {
+  IsAsked = true;
   return move.UnitType == "A" && Convoys.contains({move.Location, move.Target});
 }
 
 std::string KnownGame::OnlyPower() const {
+  IsAsked = true;
   constexpr std::size_t nameLength = 3;
   if (Ordered.empty()) return {};
   const std::string power = Ordered.begin()->substr(0, nameLength);
@@ -144,11 +146,13 @@ std::string KnownGame::OnlyPower() const {
 }
 
 bool KnownGame::TakeRest() const {
+  IsAsked = true;
   constexpr int most = 50;
   return ++RestReads < most && IsLearnt;
 }
 
 const std::string* KnownGame::OrderedMove(const Unit& unit) const {
+  IsAsked = true;
   const auto move = std::ranges::find_if(Moves, [&](const PlainOrder& order) {
     return order.Power == unit.Power && order.UnitType == unit.UnitType &&
            order.Location == unit.Location;

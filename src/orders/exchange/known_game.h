@@ -62,6 +62,7 @@ class KnownGame {
   std::vector<PlainOrder> Moves;  ///< those learnt
   std::set<std::string> Ordered;  ///< the subjects of all orders, where they were learnt
   bool IsLearnt = false;          ///< whether the text was read once
+  mutable bool IsAsked = false;   ///< whether what is learnt was asked for
   mutable int RestReads = 0;      ///< how often the rest of the units was ordered something
   std::set<std::pair<std::string, std::string>> Convoys;  ///< from where to where, learnt
 };

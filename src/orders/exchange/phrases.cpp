@@ -3,6 +3,7 @@
 #include "orders/exchange/asides.h"
 #include "orders/exchange/comments.h"
 #include "orders/exchange/doubts.h"
+#include "orders/exchange/sayings.h"
 #include "text/strings.h"
 
 #include <algorithm>
@@ -342,7 +343,8 @@ bool Phrases::Ends(std::size_t at) {
     } else if ((IsLongDash(token) && std::ranges::none_of(part(0, at), IsLongDash) &&
                 IsProse(part(at + 1, tokens_.size()), names_)) ||
                (token.Kind == TokenKind::Word && IsHarmlessTail(part(at, tokens_.size()))) ||
-               (token.Means.Sayings != 0 && ExcludedPlace(part(at, tokens_.size()), names_) != 0)) {
+               (MayBegin(token, Saying::Excludes) &&
+                ExcludedPlace(part(at, tokens_.size()), names_) != 0)) {
       return true;
     } else if (const std::size_t next = PastDecoration(at); next != at) {
       at = next;

@@ -1,5 +1,6 @@
 #include "orders/exchange/prose.h"
 
+#include "orders/exchange/exact_line.h"
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/source_line.h"
 #include "orders/order_list.h"
@@ -20,59 +21,6 @@ using std::string_view_literals::operator""sv;
 constexpr std::size_t LengthBound = 40;
 /// The end of an order behind which nothing is left.
 constexpr std::size_t Whole = 10 * LengthBound;
-
-// Words of clauses, in the languages of the verbs where they differ from English.
-constexpr std::array Leads{"and"sv, "so"sv,      "then"sv,  "also"sv, "that"sv, "while"sv,
-                           "now"sv, "finally"sv, "first"sv, "ok"sv,   "okay"sv, "well"sv,
-                           "let"sv, "lets"sv,    "gonna"sv, "und"sv,  "och"sv,  "og"sv,
-                           "et"sv,  "dann"sv,    "puis"sv,  "que"sv,  "che"sv,  "whilst"sv,
-                           "but"sv, "so"sv,      "mais"sv,  "aber"sv, "ma"sv,   "pero"sv};
-constexpr std::array Adverbs{
-    "also"sv,      "too"sv,      "again"sv,     "just"sv,      "simply"sv,  "still"sv,
-    "then"sv,      "now"sv,      "directly"sv,  "straight"sv,  "quickly"sv, "quietly"sv,
-    "both"sv,      "together"sv, "likewise"sv,  "meanwhile"sv, "there"sv,   "forthwith"sv,
-    "auch"sv,      "aussi"sv,    "ook"sv,       "anche"sv,     "tambien"sv, "obviously"sv,
-    "naturally"sv, "however"sv,  "therefore"sv, "boldly"sv,    "gladly"sv,  "bravely"sv};
-/// Parted by blanks; none of their words alone says as little.
-constexpr std::array Idioms{
-    "for now"sv,       "at once"sv,     "as well"sv,        "this turn"sv,     "this season"sv,
-    "as usual"sv,      "of course"sv,   "for the moment"sv, "in good order"sv, "behind them"sv,
-    "behind it"sv,     "as before"sv,   "this time"sv,      "as agreed"sv,     "as planned"sv,
-    "as discussed"sv,  "as promised"sv, "quella di"sv,      "quello di"sv,     "celle de"sv,
-    "celui de"sv,      "the one in"sv,  "the one from"sv,   "the one at"sv,    "in support"sv,
-    "do nothing but"sv};
-constexpr std::array Pronouns{"it"sv,  "she"sv, "he"sv,  "they"sv, "that"sv, "which"sv, "this"sv,
-                              "who"sv, "er"sv,  "sie"sv, "es"sv,   "il"sv,   "elle"sv,  "ella"sv,
-                              "hij"sv, "ze"sv,  "hun"sv, "han"sv,  "den"sv,  "ella"sv,  "esso"sv};
-constexpr std::array Objects{"it"sv,   "that"sv, "this"sv, "him"sv, "them"sv, "her"sv, "ihn"sv,
-                             "dies"sv, "lo"sv,   "hem"sv,  "den"sv, "ham"sv,  "dem"sv};
-constexpr std::array Deeds{"move"sv,    "attack"sv,     "advance"sv,      "landing"sv, "assault"sv,
-                           "angriff"sv, "attaque"sv,    "attacco"sv,      "ataque"sv,  "aanval"sv,
-                           "sbarco"sv,  "desembarco"sv, "debarquement"sv, "landung"sv};
-constexpr std::array Troops{"soldiers"sv, "troops"sv,  "garrison"sv, "infantry"sv, "soldaten"sv,
-                            "truppen"sv,  "troupes"sv, "tropas"sv,   "regiments"sv};
-constexpr std::array Ships{"boats"sv,   "ships"sv,   "navy"sv,   "squadron"sv, "boat"sv, "marine"sv,
-                           "schiffe"sv, "navires"sv, "barcos"sv, "schepen"sv,  "navi"sv};
-constexpr std::array Copulas{"is"sv,     "are"sv, "be"sv,   "being"sv, "gets"sv, "wird"sv,
-                             "werden"sv, "est"sv, "sera"sv, "viene"sv, "es"sv,   "wordt"sv,
-                             "bliver"sv, "to"sv,  "must"sv, "shall"sv, "will"sv};
-constexpr std::array Helped{"supported"sv,   "backed"sv,    "helped"sv,     "assisted"sv,
-                            "unterstutzt"sv, "soutenu"sv,   "soutenue"sv,   "appuye"sv,
-                            "appuyee"sv,     "sostenuta"sv, "appoggiata"sv, "supportata"sv,
-                            "apoyado"sv,     "apoyada"sv,   "apoiado"sv,    "gesteund"sv,
-                            "ondersteund"sv, "stottet"sv,   "stodd"sv,      "aided"sv};
-constexpr std::array Carried{"convoyed"sv,    "ferried"sv,     "carried"sv, "transported"sv,
-                             "shipped"sv,     "konvoiert"sv,   "convoye"sv, "convoyee"sv,
-                             "trasportata"sv, "convogliata"sv, "taken"sv,   "escorted"sv,
-                             "geconvoyeerd"sv};
-constexpr std::array Agents{"by"sv,   "von"sv,  "par"sv,  "da"sv, "dal"sv, "dalla"sv, "por"sv,
-                            "pelo"sv, "pela"sv, "door"sv, "av"sv, "af"sv,  "via"sv,   "durch"sv};
-constexpr std::array With{"with"sv, "mit"sv, "avec"sv, "con"sv, "com"sv, "met"sv, "med"sv};
-constexpr std::array Of{"from"sv, "of"sv,  "by"sv,    "von"sv, "de"sv,  "du"sv,   "do"sv,
-                        "da"sv,   "dal"sv, "dalla"sv, "di"sv,  "van"sv, "fra"sv,  "fran"sv,
-                        "av"sv,   "af"sv,  "aus"sv,   "in"sv,  "up"sv,  "help"sv, "the"sv};
-
-constexpr std::array Please{"please"sv, "bitte"sv, "pls"sv, "plz"sv, "kindly"sv};
 
 template <std::size_t Count>
 bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& words) {
@@ -95,19 +43,19 @@ struct Tail {
 Tail FindTail(Tokens clause) {
   for (std::size_t at = 0; at < clause.size(); ++at) {
     const Token& token = clause[at];
-    if (IsOneOf(token, With)) {
+    if (HasUse(token, ProseUse::With)) {
       const auto help =
           std::find_if(clause.begin() + static_cast<std::ptrdiff_t>(at), clause.end(), IsHelp);
       if (help != clause.end()) return {VerbOf(*help), at, {}, {at + 1, clause.size()}};
     }
-    const bool isCarried = IsOneOf(token, Carried);
-    if (!isCarried && !IsOneOf(token, Helped)) continue;
+    const bool isCarried = HasUse(token, ProseUse::Carried);
+    if (!isCarried && !HasUse(token, ProseUse::Helped)) continue;
     std::size_t agent = at + 1;
-    while (agent < clause.size() && !IsOneOf(clause[agent], Agents))
+    while (agent < clause.size() && !HasUse(clause[agent], ProseUse::Agent))
       ++agent;
     if (agent + 1 >= clause.size()) continue;
     std::size_t begin = at;
-    while (begin > 0 && IsOneOf(clause[begin - 1], Copulas))
+    while (begin > 0 && HasUse(clause[begin - 1], ProseUse::Copula))
       --begin;
     return {isCarried ? Verb::Convoy : Verb::Support,
             begin,
@@ -127,8 +75,7 @@ class ProseReader {
     const Tail tail = FindTail(clause);
     PartsRead parts;
     if (tail.Helps == Verb::None) {
-      if (auto main = ReadMain({clause.begin(), clause.end()}))
-        parts.emplace_back(range, std::move(*main));
+      if (auto main = ReadMain(clause, true)) parts.emplace_back(range, std::move(*main));
       return parts;
     }
     Words words(clause.begin(), clause.begin() + static_cast<std::ptrdiff_t>(tail.Begin));
@@ -138,11 +85,12 @@ class ProseReader {
     TrimLead(words);
     std::string order = LastOrder(false);
     if (!words.empty()) {
-      auto main = ReadMain(words);
-      if (!main) main = ReadWords(words, "hold");
-      if (!main) return {};
-      order = main->Meant.All[0].Line;
-      parts.emplace_back(TokenRange{range.Begin, range.Begin + tail.Begin}, std::move(*main));
+      auto main = ReadMain(words, false);
+      const auto unit = main ? std::nullopt : ReadWords(words, "hold");
+      if (!main && !unit) return {};
+      order = main ? main->Meant.All[0].Line : MoveOf(unit->Meant.All[0].Line);
+      const TokenRange before{range.Begin, range.Begin + tail.Begin};
+      if (main) parts.emplace_back(before, std::move(*main));
     }
     if (order.empty()) return {};
     const TokenRange helpers{range.Begin + tail.Helpers.Begin, range.Begin + tail.Helpers.End};
@@ -191,7 +139,8 @@ class ProseReader {
 
   /// The unit of the last order does what the pronoun's clause says.
   bool ReplaceSubject(Words& words) const {
-    if (words.size() < 2 || VerbOf(words[1]) == Verb::None || !IsOneOf(words[0], Pronouns)) {
+    if (words.size() < 2 || VerbOf(words[1]) == Verb::None ||
+        !HasUse(words[0], ProseUse::Pronoun)) {
       return true;
     }
     const std::string order = LastOrder();
@@ -212,10 +161,10 @@ class ProseReader {
       ++end;
     // "Paris supports" leaves out what.
     const bool isBare = end == words.end();
-    const bool isDeed = !isBare && IsOneOf(*end, Deeds) && end + 1 == words.end();
-    if (!isBare && !isDeed && !IsOneOf(help[1], Objects)) return true;
+    const bool isDeed = !isBare && HasUse(*end, ProseUse::Deed) && end + 1 == words.end();
+    if (!isBare && !isDeed && !HasUse(help[1], ProseUse::Object)) return true;
     if (!isBare && !isDeed) end = help + 2;
-    while (end != words.end() && (IsOneOf(*end, Deeds) || IsWord(*end, "up") ||
+    while (end != words.end() && (HasUse(*end, ProseUse::Deed) || IsWord(*end, "up") ||
                                   IsWord(*end, "over") || IsA(*end, TokenKind::Dot))) {
       ++end;
     }
@@ -234,7 +183,7 @@ class ProseReader {
 
   static void TrimLead(Words& words) {
     const auto lead = std::ranges::find_if_not(words, [](const Token& token) {
-      return IsOneOf(token, Leads) || HasUse(token, WordUse::Filler) ||
+      return HasUse(token, ProseUse::Lead) || HasUse(token, WordUse::Filler) ||
              IsA(token, TokenKind::Comma);
     });
     // "My army" and "that goes" need their first word no more than these do.
@@ -242,22 +191,30 @@ class ProseReader {
   }
 
   static void DropIdioms(Words& words) {
-    for (const std::string_view idiom : Idioms) {
-      const auto parts = Parts(idiom, ' ');
-      const auto at = std::search(
-          words.begin(), words.end(), parts.begin(), parts.end(),
-          [](const Token& token, std::string_view word) { return IsWord(token, word); });
-      if (at != words.end()) words.erase(at, at + static_cast<std::ptrdiff_t>(parts.size()));
+    for (std::size_t at = 0; at < words.size(); ++at) {
+      if (!HasUse(words[at], ProseUse::Idiom)) continue;
+      for (const auto& idiom : IdiomsBeginningWith(words[at].Text)) {
+        const auto begin = words.begin() + static_cast<std::ptrdiff_t>(at);
+        const bool isHere = idiom.size() <= words.size() - at &&
+                            std::equal(idiom.begin(), idiom.end(), begin,
+                                       [](std::string_view word, const Token& token) {
+                                         return IsWord(token, word);
+                                       });
+        if (!isHere) continue;
+        words.erase(begin, begin + static_cast<std::ptrdiff_t>(idiom.size()));
+        --at;
+        break;
+      }
     }
-    std::erase_if(words, [](const Token& token) { return IsOneOf(token, Adverbs); });
+    std::erase_if(words, [](const Token& token) { return HasUse(token, ProseUse::Adverb); });
   }
 
   /// "The poor serbian army": what stands between an article and the unit adds nothing.
   void NameUnits(Words& words) const {
     for (std::size_t at = 0; at < words.size(); ++at) {
       Token& token = words[at];
-      if (IsOneOf(token, Troops)) Replace(token, "army");
-      if (IsOneOf(token, Ships)) Replace(token, "fleet");
+      if (HasUse(token, ProseUse::Troop)) Replace(token, "army");
+      if (HasUse(token, ProseUse::Ship)) Replace(token, "fleet");
     }
     for (std::size_t at = 0; at + 1 < words.size(); ++at) {
       const bool isArticle = IsWord(words[at], "the") || IsWord(words[at], "my") ||
@@ -322,16 +279,28 @@ class ProseReader {
   static void DropCopulas(Words& words) {
     for (std::size_t at = 0; at < words.size(); ++at) {
       if (VerbOf(words[at]) != Verb::Disband || words[at].Text.size() < 4) continue;
-      while (at > 0 && IsOneOf(words[at - 1], Copulas))
+      while (at > 0 && HasUse(words[at - 1], ProseUse::Copula))
         words.erase(words.begin() + static_cast<std::ptrdiff_t>(--at));
     }
   }
 
-  std::optional<PartRead> ReadMain(Words words) {
-    if (words.size() > LengthBound) return std::nullopt;
+  /// What the text orders the unit of an order to hold, that one where it orders no move.
+  std::string MoveOf(const std::string& hold) const {
+    known_.IsAsked = true;
+    for (const PlainOrder& move : known_.Moves) {
+      const std::string line = FormatOrder(move, known_.Stage);
+      if (orders::UnitPart(line) == orders::UnitPart(hold)) return line;
+    }
+    return hold;
+  }
+
+  /// `mustChange`: as it stands it was read before.
+  std::optional<PartRead> ReadMain(Tokens clause, bool mustChange) {
+    if (clause.size() > LengthBound) return std::nullopt;
+    Words words(clause.begin(), clause.end());
     // "Could you please move A Par to Bur?" asks nothing.
     const bool isPolite = std::ranges::any_of(words, [](const Token& token) {
-      return IsOneOf(token, Please) && HasUse(token, WordUse::Filler, WordUse::Wish);
+      return HasUse(token, ProseUse::Please) && HasUse(token, WordUse::Filler, WordUse::Wish);
     });
     if (isPolite && !words.empty() && words.back().Text == "?") words.pop_back();
     TrimLeadBeforePronoun(words);
@@ -342,12 +311,14 @@ class ProseReader {
     PutOrigin(words);
     DropCopulas(words);
     DropParticle(words);
-    return ReadWords(words);
+    const bool isSame = std::ranges::equal(words, clause, {}, &Token::Written, &Token::Written);
+    return isSame && mustChange ? std::nullopt : ReadWords(words);
   }
 
   /// "And so it goes": the pronoun stays.
   static void TrimLeadBeforePronoun(Words& words) {
-    while (words.size() > 2 && IsOneOf(words[0], Leads) && !IsOneOf(words[0], Pronouns))
+    while (words.size() > 2 && HasUse(words[0], ProseUse::Lead) &&
+           !HasUse(words[0], ProseUse::Pronoun))
       words.erase(words.begin());
   }
 
@@ -355,8 +326,9 @@ class ProseReader {
     Words words;
     for (std::size_t at = 0; at < helper.size(); ++at) {
       const Token& token = helper[at];
-      const bool isSaid = IsHelp(token) || IsOneOf(token, Objects) || IsOneOf(token, Deeds) ||
-                          (IsOneOf(token, Of) && words.empty()) ||
+      const bool isSaid = IsHelp(token) || HasUse(token, ProseUse::Object) ||
+                          HasUse(token, ProseUse::Deed) ||
+                          (HasUse(token, ProseUse::Of) && words.empty()) ||
                           (!IsA(token, TokenKind::Word) && !IsA(token, TokenKind::Dash));
       if (!isSaid) words.push_back(token);
     }

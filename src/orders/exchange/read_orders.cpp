@@ -380,8 +380,7 @@ std::vector<ReadLine> ReadOrders(const model::GameState& game, std::string_view 
   LearnMoves(lines, known);
   // What a support means may depend on moves that are written below it.
   known.IsLearnt = true;
-  if (!known.Moves.empty() || !known.Convoys.empty() || known.RestReads > 0)
-    lines = TextReader(known, options).Read(cut);
+  if (known.IsAsked) lines = TextReader(known, options).Read(cut);
   return lines;
 }
 

@@ -319,8 +319,7 @@ unsigned SayingsBeginningWith(std::string_view word) {
 
 std::optional<TokenRange> FindSaying(Tokens tokens, Saying saying) {
   for (std::size_t at = 0; at < tokens.size(); ++at) {
-    const bool mayBegin = (tokens[at].Means.Sayings & Bit(saying)) != 0;
-    if (tokens[at].Kind != TokenKind::Word || !mayBegin) continue;
+    if (tokens[at].Kind != TokenKind::Word || !MayBegin(tokens[at], saying)) continue;
     if (const std::size_t length = LengthAt(tokens, at, saying); length > 0)
       return TokenRange{at, at + length};
   }

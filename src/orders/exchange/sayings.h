@@ -8,6 +8,11 @@
 
 namespace orb::exchange {
 
+/// Whether a phrase that says so may begin with a word.
+inline bool MayBegin(const Token& token, Saying saying) {
+  return (token.Means.Sayings & (1U << static_cast<unsigned>(saying))) != 0;
+}
+
 /// Where the first phrase that says so stands, word by word.
 std::optional<TokenRange> FindSaying(Tokens tokens, Saying saying);
 

@@ -8,6 +8,7 @@
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/prose.h"
 #include "orders/exchange/rest_holds.h"
+#include "orders/exchange/sayings.h"
 #include "orders/exchange/shared_words.h"
 #include "orders/exchange/slips.h"
 #include "orders/exchange/source_line.h"
@@ -308,7 +309,7 @@ class SegmentReader {
     const auto places = known_.Names.At(tokens, UnitTypeOf(tokens[0]) != 0 ? 1 : 0);
     if (places.empty()) return false;
     for (std::size_t at = places[0].Next; at + 1 < tokens.size(); ++at) {
-      if (tokens[at].Means.Sayings == 0) continue;
+      if (!MayBegin(tokens[at], Saying::Reconsiders)) continue;
       const std::size_t past = at + PastThoughts(tokens.subspan(at));
       if (past == at || past >= tokens.size()) continue;
       const auto again = known_.Names.At(tokens, past + (UnitTypeOf(tokens[past]) != 0 ? 1 : 0));

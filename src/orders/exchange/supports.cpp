@@ -104,6 +104,7 @@ class Helper {
   }
 
   void AddOrderedMovesInto(const WrittenPlace& place) {
+    known_.IsAsked = true;
     for (const PlainOrder& move : known_.Moves) {
       const Unit mover{move.Power, move.UnitType, move.Location, {}, {}, {}};
       if (IsAt(place, move.Target) && !IsSupporter(mover)) Add({mover, {}}, move.Target);

@@ -326,6 +326,7 @@ WordMeaning FindMeaning(std::string_view word) {
   static const Meanings meanings = AllMeanings();
   const auto found = meanings.find(word);
   WordMeaning meaning = found == meanings.end() ? WordMeaning() : found->second;
+  meaning.Prose = ProseUsesOf(word);
   meaning.Sayings = SayingsBeginningWith(word);
   meaning.BeginsPower = MayBeginPower(word);
   if (IsSeasonCode(word)) meaning.Uses |= static_cast<unsigned>(WordUse::Heading);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orders/exchange/prose_words.h"
+
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -49,9 +51,11 @@ struct WordMeaning {
   char UnitType = 0;         ///< 'A' or 'F', 0: none
   unsigned Uses = 0;         ///< bits of WordUse
   bool BeginsPower = false;  ///< whether it may begin the name of a power
+  unsigned Prose = 0;        ///< bits of ProseUse
   unsigned Sayings = 0;      ///< which phrases it may begin: SayingsBeginningWith
 
   bool Has(WordUse use) const { return (Uses & static_cast<unsigned>(use)) != 0; }
+  bool Has(ProseUse use) const { return (Prose & static_cast<unsigned>(use)) != 0; }
 };
 
 /// The meaning of a word in small letters.
