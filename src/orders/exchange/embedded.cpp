@@ -82,6 +82,9 @@ PartRead Remark() {
 
 PartsRead ReadEmbedded(Tokens tokens, const KnownGame& known, Context& context) {
   PartsRead parts;
+  // A unit alone does nothing, unless a heading says what.
+  constexpr std::size_t shortest = 3;
+  if (tokens.size() < shortest && context.Orders == Verb::None) return parts;
   std::size_t done = 0;
   int tries = 0;
   const auto goesOn = [&](std::size_t end) {

@@ -92,12 +92,18 @@ std::size_t JoinParagraph(const std::deque<SourceLine>& text, std::size_t first,
     size += 1 + text[first + count++].Bytes.size();
   }
   if (count == 1 || size > LineBound) return 1;
+  Gain single;
+  bool areWhole = true;
+  for (std::size_t i = 0; i < count; ++i) {
+    const int before = single.Orders;
+    AddGain(text[first + i], known, context, single);
+    areWhole = areWhole && single.Orders > before;
+  }
+  // Lines that all are orders are no paragraph.
+  if (areWhole && single.Unclear == 0) return 1;
   JoinLines(joined, text, first, count, known.Names);
   Gain whole;
   AddGain(joined, known, context, whole);
-  Gain single;
-  for (std::size_t i = 0; i < count && whole.Orders > 0; ++i)
-    AddGain(text[first + i], known, context, single);
   const bool isBetter = whole.Orders > single.Orders ||
                         (whole.Orders == single.Orders && whole.Unclear < single.Unclear);
   return isBetter ? count : 1;
