@@ -158,6 +158,17 @@ Tokens ConsequenceOf(Tokens line) {
   return {};
 }
 
+/// "I don't want to provoke anybody".
+bool IsOfFeeling(Tokens line) {
+  constexpr std::array<std::string_view, 4> denying{"dont", "never", "wont", "cant"};
+  constexpr std::array<std::string_view, 5> feeling{"want", "care", "trust", "believe", "mind"};
+  const auto isOneOf = [&](std::size_t at, const auto& words) {
+    return std::ranges::find(words, line[at].Text) != words.end();
+  };
+  return line.size() > 4 && (IsWord(line[0], "i") || IsWord(line[0], "we")) &&
+         isOneOf(1, denying) && isOneOf(2, feeling) && !IsColon(line.back());
+}
+
 /// Whether words announce another message: "I will write again".
 bool TellsMaster(Tokens words) {
   constexpr std::array<std::string_view, 20> telling{
@@ -206,6 +217,7 @@ std::optional<Aside> ReadAside(Tokens line, const PlaceNames& names) {
 bool SpeaksOfElse(Tokens line, const PlaceNames& names) {
   constexpr std::ptrdiff_t few = 5;
   const auto words = std::ranges::count(line, TokenKind::Word, &Token::Kind);
+  if (IsOfFeeling(line)) return !RefersToOrders(line) && !NamesPlace(line, names);
   if (words < 2 || IsColon(line.back()) || !HasUse(line[0], WordUse::Condition)) {
     const bool asks = words >= few && line.back().Text == "?";
     return asks && !RefersToOrders(line) && !NamesPlace(line, names);

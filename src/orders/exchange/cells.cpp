@@ -31,4 +31,19 @@ std::optional<PartRead> ReadCells(const SourceLine& line, TokenRange body, const
   return read;
 }
 
+void DropNamesOfUnits(Tokens line, PartsRead& parts, const PlaceNames& names) {
+  for (std::size_t i = 0; i + 1 < parts.size(); ++i) {
+    auto& [range, part] = parts[i];
+    const auto& [behind, order] = parts[i + 1];
+    if (part.Kind != LineKind::NotUnderstood || order.Kind != LineKind::Order) continue;
+    const std::size_t at = range.Begin + (UnitTypeOf(line[range.Begin]) != 0 ? 1 : 0);
+    const std::size_t again = behind.Begin + (at - range.Begin);
+    if (at >= range.End || again >= behind.End) continue;
+    const auto unit = names.At(line, at);
+    const auto same = names.At(line, again);
+    const bool isUnit = !unit.empty() && unit[0].Next == range.End;
+    if (isUnit && !same.empty() && same[0].Rows == unit[0].Rows) part.Kind = LineKind::PassedOver;
+  }
+}
+
 }  // namespace orb::exchange

@@ -13,4 +13,7 @@ namespace orb::exchange {
 std::optional<PartRead> ReadCells(const SourceLine& line, TokenRange body, const PartsRead& parts,
                                   const KnownGame& known, const Context& context);
 
+/// Passes over a unit alone where the part behind it is its order: "A Vie";"A Vie - Tri".
+void DropNamesOfUnits(Tokens line, PartsRead& parts, const PlaceNames& names);
+
 }  // namespace orb::exchange

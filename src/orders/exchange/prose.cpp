@@ -2,6 +2,7 @@
 
 #include "orders/exchange/exact_line.h"
 #include "orders/exchange/power_names.h"
+#include "orders/exchange/slips.h"
 #include "orders/exchange/source_line.h"
 #include "orders/order_list.h"
 
@@ -130,6 +131,11 @@ class ProseReader {
     const Words all = CutTokens(text);
     Context tried = context_;
     PartRead read = ReadPart(all, known_, tried);
+    if (!IsUnderstood(read)) {
+      tried = context_;
+      PartRead mended = ReadWithSlips(all, read, known_, tried);
+      if (IsUnderstood(mended)) read = std::move(mended);
+    }
     const bool isOrder = read.Kind == LineKind::Order && read.Doubt.empty() && !read.IsGuess;
     if (!isOrder) return std::nullopt;
     read.End = Whole;

@@ -16,6 +16,7 @@ struct Row {
 // In the languages of the verbs, where they differ from English.
 constexpr std::array Rows{
     Row{ProseUse::Lead,
+        "o os de den der das het la le el os att at dat dass "
         "and so then also that while now finally first ok okay well let lets gonna und "
         "och og et dann puis que che whilst but mais aber ma pero"},
     Row{ProseUse::Adverb,

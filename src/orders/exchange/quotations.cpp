@@ -63,6 +63,22 @@ bool IsLabelled(Tokens tokens) {
          IsA(tokens[at + 1], TokenKind::Colon);
 }
 
+/// What is behind the last full stop.
+Tokens LastSentence(Tokens line) {
+  for (std::size_t at = line.size(); at > 1; --at) {
+    if (at < line.size() && IsA(line[at - 1], TokenKind::Dot) && !line[at].Glued)
+      return line.subspan(at);
+  }
+  return line;
+}
+
+/// Whether words say that somebody wrote to the writer: "he wrote me yesterday:".
+bool IsToWriter(Tokens line) {
+  constexpr std::array<std::string_view, 9> writer{"me",  "mir", "moi",  "mig", "meg",
+                                                   "mij", "mi",  "mnie", "us"};
+  return std::ranges::any_of(line, [&](const Token& token) { return IsOneOf(token.Text, writer); });
+}
+
 /// How often a text stands in another one.
 int Count(std::string_view text, std::string_view part) {
   int count = 0;
@@ -95,9 +111,11 @@ bool IsSubject(Tokens tokens) {
 }
 
 bool IsQuotationHead(std::string_view line, Tokens tokens) {
+  // "Forget what I wrote. My orders:" quotes nothing.
+  const Tokens last = LastSentence(tokens);
   const bool isQuoting =
       !tokens.empty() && IsA(tokens.back(), TokenKind::Colon) &&
-      std::ranges::any_of(tokens, [](const Token& token) {
+      std::ranges::any_of(last, [](const Token& token) {
         return token.Kind == TokenKind::Word && IsOneOf(token.Text, QuotingWords);
       });
   if (isQuoting) return true;
@@ -134,6 +152,7 @@ void Quotations::FollowBlocks(std::string_view written) {
 /// own. Two labels make a head: one alone may be anything.
 void Quotations::FollowHeads(std::string_view line, Tokens tokens) {
   const bool isHead = !isMarked_ && IsQuotationHead(line, tokens);
+  if (isHead) isToWriter_ = IsToWriter(tokens);
   follows_ = isHead;
   if (isMarked_) return;
   labels_ = IsLabelled(tokens) ? labels_ + 1 : 0;

@@ -27,6 +27,9 @@ class Quotations {
   /// Takes the next line: as it was written, in its plain form and in words.
   void Take(std::string_view written, std::string_view plain, Tokens tokens);
 
+  /// The writer's own orders begin: what somebody wrote to the writer has ended.
+  void BeginOwn() { isInside_ = isInside_ && !isToWriter_; }
+
   /// Whether the line that was taken last is quoted.
   bool IsQuoted() const { return isMarked_ || isInside_ || depth_ > 0 || wasInBlock_; }
 
@@ -36,6 +39,7 @@ class Quotations {
 
   bool isMarked_ = false;
   bool isInside_ = false;
+  bool isToWriter_ = false;  ///< the last head says that it was written to the writer
   bool follows_ = false;     ///< the line before was a head
   bool wasInBlock_ = false;  ///< a block began or ended in this line
   bool hasText_ = false;     ///< something stood above other than the head of a mail

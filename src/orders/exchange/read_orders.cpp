@@ -118,7 +118,7 @@ class TextReader {
     const Tokens tokens = line.All;
     isMailHead_ = isTitle_ = false;
     quotations_.Take(line.Bytes, line.Plain.Text, tokens);
-    rows_.BeginLine(quotations_.IsQuoted(), inSignature_);
+    rows_.BeginLine(tokens, quotations_.IsQuoted(), inSignature_);
     if (ReadExact(line)) return;
     if (line.IsTooLong) return rows_.AddTooLong(line, context_.Power);
     TokenRange body{speakers_.Past(tokens, PastLineStart(tokens), known_.Names), tokens.size()};
@@ -181,6 +181,7 @@ class TextReader {
     if (auto row = ReadCells(line, body, parts, known_, start)) {
       rows_.AddPart(line, body, *row, start);
     } else {
+      DropNamesOfUnits(line.All, parts, known_.Names);
       for (const auto& [range, part] : parts)
         rows_.AddPart(line, range, part, context);
     }
@@ -240,7 +241,7 @@ class TextReader {
       const TokenRange all{0, line.All.size()};
       rows_.Around.LeadTo(Quoted(line.Part(all)) + " leads to it", line.Span(all));
     } else if (!said.empty() && IsA(said.back(), TokenKind::Colon) && !isTitle_) {
-      if (IsOwnTitle(said)) return TakeOwnTitle(said);
+      if (IsOwnTitle(said) || Corrects(said)) return TakeOwnTitle(said);
       rows_.Around.EntitleBlock(Quoted(said) + " is not understood",
                                 {line.Offset, line.Bytes.size()}, PowerIn(said));
     }
@@ -269,6 +270,7 @@ class TextReader {
     const bool isOwn =
         std::ranges::any_of(title, [](const Token& token) { return HasUse(token, WordUse::Own); });
     if (!Corrects(title) && !(isOfOrders && isOwn)) return;
+    quotations_.BeginOwn();
     rows_.Around.TakeHeading(PowerIn(title), Corrects(title), true, rows_.Lines);
   }
 

@@ -27,7 +27,10 @@ bool IsLoose(Tokens words, const PlaceNames& names) {
 
 }  // namespace
 
-void Rows::BeginLine(bool isOlder, bool inSignature) {
+void Rows::BeginLine(Tokens line, bool isOlder, bool inSignature) {
+  changes_ = changes_ || std::ranges::any_of(line, [](const Token& token) {
+               return HasUse(token, WordUse::Correction) || token.Text.starts_with("chang");
+             });
   isOlder_ = isOlder;
   inSignature_ = inSignature;
   understood_.clear();
@@ -140,8 +143,9 @@ void Rows::AddProblem(const SourceLine& line, TokenRange range, const Fault& pro
 
 void Rows::DoubtLoneOnes() {
   const auto& around = Around.Rows();
-  const bool changes = std::ranges::any_of(
-      around, [](const Surroundings& row) { return row.Corrects || row.Amends || row.IsOlder; });
+  const bool changes = changes_ || std::ranges::any_of(around, [](const Surroundings& row) {
+                         return row.Corrects || row.Amends || row.IsOlder;
+                       });
   for (const std::size_t row : rest_) {
     if (!changes) break;
     Around.SetDoubt(row, "it is not said what holds", Lines[row].Place, false);

@@ -24,7 +24,7 @@ class Rows {
 
   /// The rows that are added next are those of another line. `isOlder`: it is quoted from an
   /// earlier text; `inSignature`: places alone make no order there.
-  void BeginLine(bool isOlder, bool inSignature);
+  void BeginLine(Tokens line, bool isOlder, bool inSignature);
 
   /// A row of a whole line. `power`: of the lines here, 0: none is named.
   ReadLine& AddLine(const SourceLine& line, int power, LineKind kind);
@@ -83,6 +83,7 @@ class Rows {
   bool IsOfOther(const SourceLine& line, const PartRead& part) const;
   bool SpeaksOf(const SourceLine& line, const Said& said, const Understood& order) const;
   bool DoubtUnreal(const SourceLine& line, const Said& said);
+  void AddAlternative(const SourceLine& line, const Said& said);
   void AmendBefore(const Said& said, int place);
   bool Exclude(const SourceLine& line, const Said& said);
   bool IsAddress(Tokens words, bool isFirst, int power) const;
@@ -90,6 +91,7 @@ class Rows {
 
   const KnownGame& known_;
   std::vector<std::size_t> pairs_;     ///< rows of two places alone, of a power that nobody named
+  bool changes_ = false;               ///< whether any line speaks of a change or correction
   std::vector<std::size_t> inferred_;  ///< rows of builds that no word says to be some
   std::vector<std::size_t> rest_;      ///< rows of "everything else holds"
   bool isOlder_ = false;

@@ -3,9 +3,12 @@
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/rows.h"
 #include "orders/exchange/sayings.h"
+#include "orders/order_list.h"
 #include "text/strings.h"
 
 #include <algorithm>
+#include <array>
+#include <string_view>
 
 // What the words beside the orders of a line do to them.
 
@@ -90,6 +93,7 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
     const bool isUnreal = isOwn && !IsA(remark[0], TokenKind::Open) && IsUnreal(remark) &&
                           !NamesPlace(remark, known_.Names);
     if (isUnreal && DoubtUnreal(line, said)) continue;
+    AddAlternative(line, said);
     Concern about = ConcernOf(remark, known_.Names, *known_.Game.Map);
     about.MayBeAll = false;
     if (!understood_.empty()) Around.AddAbout(understood_.front().Row, about);
@@ -109,6 +113,42 @@ void Rows::AmendBefore(const Said& said, int place) {
   for (const Understood& order : understood_) {
     if (order.At.End != said.At.Begin) continue;
     Around.SetInstead(order.Row, text::UpperCase(known_.NameOf(place).substr(0, nameLength)));
+  }
+}
+
+/// "A Bur - Par or Gas", "otherwise to Gas": the order of the same unit that such words give.
+void Rows::AddAlternative(const SourceLine& line, const Said& said) {
+  constexpr std::array<std::string_view, 13> choosing{
+      "or", "oder", "ou",    "otherwise", "else",   "o",      "eller",
+      "of", "lub",  "sonst", "sinon",     "ellers", "instead"};
+  constexpr std::size_t longest = 5;
+  const auto before = std::find_if(understood_.rbegin(), understood_.rend(), [&](auto& order) {
+    return order.At.End <= said.At.Begin && Lines[order.Row].Kind == LineKind::Order;
+  });
+  if (before == understood_.rend() || known_.Stage == model::Stage::Adjustments) return;
+  const Tokens remark = line.Part(said.At);
+  const auto choice = std::find_if(remark.rbegin(), remark.rend(), [&](const Token& token) {
+    return std::ranges::find(choosing, token.Text) != choosing.end();
+  });
+  if (choice == remark.rend()) return;
+  const auto at = static_cast<std::size_t>(remark.rend() - choice);
+  const std::string order = Lines[before->Row].Order;
+  const Context context{model::FindCountry(Lines[before->Row].Power), Verb::None};
+  for (std::size_t length = std::min(longest, remark.size() - at); length > 0; --length) {
+    std::string text(orders::UnitPart(order));
+    text.append(VerbOf(remark[at]) == Verb::None ? " to " : " ");
+    for (const Token& token : remark.subspan(at, length))
+      text.append(token.Written).append(" ");
+    const std::vector<Token> tokens = CutTokens(text);
+    Context tried = context;
+    const PartRead read = ReadPart(tokens, known_, tried);
+    if (read.Kind != LineKind::Order || read.Meant.All[0].Line == order) continue;
+    const std::size_t begin = said.At.Begin + at;
+    AddOnly(line, {begin, begin + length}, read, context);
+    understood_.pop_back();
+    Around.SetDoubtFrom(Lines.size() - 1, Quoted(remark) + " leaves the choice",
+                        line.Span(said.At));
+    return;
   }
 }
 

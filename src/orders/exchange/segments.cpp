@@ -99,7 +99,7 @@ bool Speaks(Tokens sentence, const PlaceNames& names, int power) {
   constexpr std::size_t few = 4;
   const bool reconsiders =
       sentence.size() <= few && Reconsiders(sentence) && !HoldsOrderWords(sentence, names);
-  if (IsOfOthers(sentence, names, power)) return false;
+  if (IsOfOthers(sentence, names, power) || SpeaksOfElse(sentence, names)) return false;
   if (IsOffer(sentence) && !HoldsOrderWords(sentence, names) && !ReadAside(sentence, names))
     return false;
   // "Yesterday." alone speaks of the order, among others of something else.

@@ -31,8 +31,8 @@ bool IsAnd(Tokens tokens, std::size_t at) {
   // "En Berlijn naar Kiel"; but "en Bourgogne" is where somebody goes.
   const bool isBeforePlace =
       next.Capital && tokens[at - 1].Capital && (isVerbAt(at + 2) || isVerbAt(at + 3));
-  return next.Text.size() > 1 &&
-         (isTypeAt(at + 1) || isTypeAt(at + 2) || isBeforePlace || HasUse(next, WordUse::Filler));
+  return next.Text.size() > 1 && (isTypeAt(at + 1) || isTypeAt(at + 2) || isBeforePlace ||
+                                  HasUse(next, WordUse::Filler, WordUse::Wish));
 }
 
 bool IsSeam(Tokens tokens, std::size_t at, Seam seam) {

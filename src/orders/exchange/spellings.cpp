@@ -32,9 +32,10 @@ constexpr std::array Spellings{
     UsualSpellings{"War", "warszawa|warschau|varsovie|varsavia|varsovia"},
     UsualSpellings{"Ank", "angora|ancara"},
     UsualSpellings{"Arm", "armenien|armenie"},
-    UsualSpellings{"Con",
-                   "cst|istanbul|cple|konstantinopel|costantinopoli|constantinopla|konstantynopol|"
-                   "istambul|estambul|stambul"},
+    UsualSpellings{
+        "Con",
+        "kon|cst|istanbul|cple|konstantinopel|costantinopoli|constantinopla|konstantynopol|"
+        "istambul|estambul|stambul"},
     UsualSpellings{"Smy", "izmir|smirne|esmirna|smirna|smyrne"},
     UsualSpellings{"Syr", "syrien|syrie|siria"},
     UsualSpellings{"Boh", "bohmen|boehmen|boheme|boemia|bohemen|czechy"},

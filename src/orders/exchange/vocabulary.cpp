@@ -60,7 +60,7 @@ constexpr std::array Verbs{
         "zustava brani bekler kalir durur stoit derzhit ostaetsya kratai menei bleib steh "
         "verteidigt verteidigen defend defiende defienden defiendo difende difendono defende "
         "defendem verdedigt verdedigen forsvarer forsvar forsvarar forsvara broni bronia "
-        "tenons tiennent restasse resti restera quede queden fique rest liggen ligger garde "
+        "tenons tiennent restasse resti restera quede queden fique liggen ligger garde "
         "gardent aguanta mantienen staat staan wacht stilla avvakter"},
     VerbWords{
         Verb::Support,
