@@ -52,7 +52,7 @@ class TrialTest : public testing::Test {
     desk_.openGame(examples_ / stage.Game, false);
     desk_.fileOrders(
         exchange::ReadOrders(desk_.game(), model::ReadFile(examples_ / stage.Orders), {}),
-        QStringLiteral("Paste orders"));
+        QStringLiteral("Paste Orders"));
   }
 
   /// All that the game is, in the window and in its file.

@@ -28,7 +28,8 @@ QString countedUnits(std::size_t count, const QString& kind) {
       .arg(kind, QLatin1String(count == 1 ? "" : "s"));
 }
 
-QString missingUnits(std::size_t count, bool dislodged) {
+QString missingUnits(std::size_t count, bool dislodged, bool hasUnits) {
+  if (!hasUnits) return QObject::tr("No units");
   const QString kind = dislodged ? QObject::tr("dislodged unit") : QObject::tr("unit");
   return count == 0 ? QObject::tr("Every %1 has an order").arg(kind) : countedUnits(count, kind);
 }
@@ -64,7 +65,8 @@ void showMarks(QListWidget& list, const ListCheck& check,
   }
 }
 
-void showMissing(QLabel& label, const ListCheck& check, model::Stage stage) {
+void showMissing(QLabel& label, const ListCheck& check, const model::GameState& game) {
+  const model::Stage stage = game.Stage;
   if (stage == model::Stage::Adjustments) {
     std::vector<std::string> powers;
     for (const adjudication::PowerProblem& problem : check.Powers)
@@ -72,7 +74,8 @@ void showMissing(QLabel& label, const ListCheck& check, model::Stage stage) {
     label.setText(unfitPowers(check.Powers));
     label.setToolTip(lines(powers));
   } else {
-    label.setText(missingUnits(check.Unordered.size(), stage == model::Stage::Retreats));
+    label.setText(missingUnits(check.Unordered.size(), stage == model::Stage::Retreats,
+                               game.Units.Count() > 0));
     label.setToolTip(lines(check.Unordered));
   }
 }

@@ -19,6 +19,6 @@ void showMarks(QListWidget& list, const adjudication::ListCheck& check,
 
 /// Says how many units still need orders, or in the adjustments which powers; the tooltip names the
 /// units, and says what does not fit.
-void showMissing(QLabel& label, const adjudication::ListCheck& check, model::Stage stage);
+void showMissing(QLabel& label, const adjudication::ListCheck& check, const model::GameState& game);
 
 }  // namespace orb::ui

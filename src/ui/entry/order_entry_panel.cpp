@@ -226,7 +226,7 @@ void OrderEntryPanel::markLines() {
   std::vector<std::string> otherReadings(check.Lines.size());
   if (m_desk.view().compare) otherReadings = session::OtherReadings(m_desk.now());
   showMarks(*m_list, check, otherReadings, m_desk.now().Stopped);
-  showMissing(*m_missing, check, m_stage);
+  showMissing(*m_missing, check, game());
   m_whole->showStandings(session::StandingsOf(m_desk.now()), m_stage);
   tellStatus();
 }

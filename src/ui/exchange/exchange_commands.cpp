@@ -94,7 +94,7 @@ void ExchangeCommands::preview(ExchangeKind kind, session::IncomingText text) {
           [&](const QString& topic) { emit helpWanted(topic, &dialog); });
   if (dialog.exec() != QDialog::Accepted) return;
   const int filed = m_desk.fileOrders(
-      dialog.orders(), kind == ExchangeKind::Paste ? tr("Paste orders") : tr("Import orders"));
+      dialog.orders(), kind == ExchangeKind::Paste ? tr("Paste Orders") : tr("Import Orders"));
   if (filed > 0) emit noted(tr("%1 filed.").arg(countedOrders(filed)));
 }
 

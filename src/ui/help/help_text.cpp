@@ -1,6 +1,7 @@
 #include "ui/help/help_text.h"
 
 #include "text/qt/text_codec.h"
+#include "ui/widgets/controls.h"
 #include "ui/widgets/fixed_font.h"
 
 #include <QFontInfo>
@@ -99,7 +100,7 @@ HelpLook helpLook(const QPalette& palette, const QFont& font) {
   const bool dark = ground.lightness() < 128;
   HelpLook look;
   // The link colour of a palette is often the same blue on any ground.
-  look.link = dark ? QColor(0x8a, 0xbf, 0xff) : QColor(0x0b, 0x57, 0xb0);
+  look.link = accentColour(ground);
   look.box = blend(ground, palette.color(QPalette::Text), dark ? 0.09 : 0.06);
   look.typedFamily = QFontInfo(fixedFont()).family();
   // The two fonts have different heights at the same size.

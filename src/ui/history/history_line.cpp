@@ -1,5 +1,6 @@
 #include "ui/history/history_line.h"
 
+#include "ui/widgets/controls.h"
 #include "ui/widgets/game_name.h"
 #include "ui/widgets/order_marks.h"
 
@@ -112,15 +113,15 @@ void HistoryLine::paintMark(QPainter& painter, int index) const {
   };
   const bool isPresent = index == m_present;
   const QColor ink = palette().color(QPalette::WindowText);
+  const QColor accent = accentColour(palette().color(QPalette::Window));
   if (index == value()) {
-    painter.setPen(QPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::WindowText),
-                        hasFocus() ? 2.5 : 1.2));
+    painter.setPen(QPen(hasFocus() ? accent : ink, hasFocus() ? 2.5 : 1.2));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(box(ShownRing - 1.5));
   }
   const Stage stage = m_moments[static_cast<std::size_t>(index)].Stage;
   const double radius = isPresent ? PresentMark - 1 : Radius;
-  const QColor ground = isPresent ? palette().color(QPalette::Highlight) : ink;
+  const QColor ground = isPresent ? accent : ink;
   painter.setPen(QPen(ground, 1.3));
   painter.setBrush(stage == Stage::Moves ? palette().color(QPalette::Window) : ground);
   switch (stage) {

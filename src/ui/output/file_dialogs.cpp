@@ -24,6 +24,13 @@
 namespace orb::ui {
 namespace {
 
+/// If Qt calls its buttons otherwise, the one is missing and all else works: null.
+QDialogButtonBox* addHelpButton(const QFileDialog& dialog) {
+  auto* buttons = dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"));
+  if (buttons != nullptr) buttons->addButton(QDialogButtonBox::Help);
+  return buttons;
+}
+
 /// Qt's own dialog: those of the desktops take neither the texts of the filters as they stand nor
 /// a further box.
 void setUp(QFileDialog& dialog, const QString& title, const QStringList& filters,
@@ -33,9 +40,7 @@ void setUp(QFileDialog& dialog, const QString& title, const QStringList& filters
   dialog.setWindowTitle(text::ToQString(model::ProgramName) + title);
   dialog.setNameFilters(filters);
   if (!desk.folder().empty()) dialog.setDirectory(displayPath(desk.folder().string()));
-  // If Qt calls its buttons otherwise, the one is missing and all else works.
-  if (auto* buttons = dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))) {
-    buttons->addButton(QDialogButtonBox::Help);
+  if (const QDialogButtonBox* buttons = addHelpButton(dialog)) {
     QObject::connect(buttons, &QDialogButtonBox::helpRequested, &dialog,
                      [&dialog] { askForHelp(dialog, QObject::tr("Files")); });
   }
@@ -100,6 +105,8 @@ std::optional<std::filesystem::path> askForNewFile(
     QFileDialog& dialog, const std::string& proposal, model::Messages& messages,
     const std::function<std::filesystem::path(const std::filesystem::path&)>& written) {
   dialog.setAcceptMode(QFileDialog::AcceptSave);
+  // The mode brings buttons of its own in place of all others.
+  addHelpButton(dialog);
   dialog.setFileMode(QFileDialog::AnyFile);
   // The dialog would ask about the name as typed, which is not always the one written.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);

@@ -112,7 +112,7 @@ class Desk : public QObject {
   bool fileOrder(const std::string& text);
   void deleteOrder(int row);
 
-  /// How many were filed; `how` names the step: "Import orders".
+  /// How many were filed; `how` names the step: "Import Orders".
   int fileOrders(const std::vector<exchange::ReadLine>& lines, const QString& how);
 
   void resolve();

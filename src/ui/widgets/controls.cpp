@@ -59,6 +59,10 @@ QColor doubtColour(const QColor& background) {
   return isDark(background) ? QColor(0xf0, 0xb4, 0x3c) : QColor(0x9c, 0x62, 0x00);
 }
 
+QColor accentColour(const QColor& background) {
+  return isDark(background) ? QColor(0x8a, 0xbf, 0xff) : QColor(0x0b, 0x57, 0xb0);
+}
+
 QColor noticeColour(const QColor& background) {
   return isDark(background) ? QColor(0x54, 0x40, 0x10) : QColor(0xff, 0xe9, 0xa8);
 }

@@ -34,6 +34,9 @@ QAction* newEntry(QMenu& menu, const QString& name, const QString& caption,
 QColor failureColour(const QColor& background);
 QColor doubtColour(const QColor& background);
 
+/// A blue that stands out on this background, for what is meant to be found at a glance.
+QColor accentColour(const QColor& background);
+
 /// A yellow to fill a notice with, on which the text of this background can be read.
 QColor noticeColour(const QColor& background);
 

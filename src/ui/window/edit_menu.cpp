@@ -34,9 +34,9 @@ EditMenu::EditMenu(Desk& desk, ExportCommands& commands, ExchangeCommands& excha
   map->addAction(m_copyMap);
   QAction* copyText = newEntry(*this, QStringLiteral("mnuEditCopyText"), tr("Copy &Text"),
                                Qt::CTRL | Qt::SHIFT | Qt::Key_C);
-  m_copyOrders = newEntry(*this, QStringLiteral("mnuEditCopyOrders"), tr("Copy &orders"));
+  m_copyOrders = newEntry(*this, QStringLiteral("mnuEditCopyOrders"), tr("Copy &Orders"));
   addSeparator();
-  m_pasteOrders = newEntry(*this, QStringLiteral("mnuEditPasteOrders"), tr("&Paste orders..."),
+  m_pasteOrders = newEntry(*this, QStringLiteral("mnuEditPasteOrders"), tr("&Paste Orders..."),
                            Qt::CTRL | Qt::SHIFT | Qt::Key_V);
   connect(m_copyMap, &QAction::triggered, &commands, &ExportCommands::copyMap);
   connect(copyText, &QAction::triggered, &commands, &ExportCommands::copyText);

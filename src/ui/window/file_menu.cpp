@@ -39,9 +39,9 @@ FileMenu::FileMenu(Desk& desk, model::Messages& messages, WindowMemory& memory,
 }
 
 void FileMenu::addExchange(ExchangeCommands& exchange) {
-  m_importOrders = newEntry(*this, QStringLiteral("mnuFileImportOrders"), tr("I&mport orders..."),
+  m_importOrders = newEntry(*this, QStringLiteral("mnuFileImportOrders"), tr("I&mport Orders..."),
                             Qt::CTRL | Qt::Key_I);
-  m_exportOrders = newEntry(*this, QStringLiteral("mnuFileExportOrders"), tr("Export or&ders..."));
+  m_exportOrders = newEntry(*this, QStringLiteral("mnuFileExportOrders"), tr("Export Or&ders..."));
   connect(m_importOrders, &QAction::triggered, &exchange, &ExchangeCommands::importOrders);
   connect(m_exportOrders, &QAction::triggered, &exchange, &ExchangeCommands::exportOrders);
 }
@@ -50,13 +50,13 @@ void FileMenu::addExports(ExportCommands& exports) {
   QAction* bitmap = newEntry(*this, QStringLiteral("mnuFileExportBMP"), tr("Export B&itmap..."));
   m_exportText = newEntry(*this, QStringLiteral("mnuFileExportText"), tr("Export &Text..."));
   QAction* publish = newEntry(*this, QStringLiteral("mnuFilePublish"), tr("P&ublish..."));
-  m_orderSheets = newEntry(*this, QStringLiteral("mnuFileOrderSheets"), tr("Order s&heets..."));
+  m_orderSheets = newEntry(*this, QStringLiteral("mnuFileOrderSheets"), tr("Order S&heets..."));
   m_print = newEntry(*this, QStringLiteral("mnuFilePrint"), tr("&Print..."), QKeySequence::Print);
   addSeparator();
   // The window connects these two: the player that they start needs the map, which is not the
   // menu's business.
   m_animate = newEntry(*this, QStringLiteral("mnuFileAnimate"), tr("Animat&e..."));
-  m_animateMove = newEntry(*this, QStringLiteral("mnuFileAnimateMove"), tr("Animate mo&ve"));
+  m_animateMove = newEntry(*this, QStringLiteral("mnuFileAnimateMove"), tr("Animate Mo&ve"));
   connect(bitmap, &QAction::triggered, &exports, &ExportCommands::exportBitmap);
   connect(m_exportText, &QAction::triggered, &exports, &ExportCommands::exportText);
   connect(publish, &QAction::triggered, &exports, &ExportCommands::publish);

@@ -10,7 +10,7 @@
 namespace orb::ui {
 
 RecentFilesMenu::RecentFilesMenu(Desk& desk, WindowMemory& memory, QWidget* window, QWidget* parent)
-    : QMenu(tr("Open &recent"), parent), m_desk(desk), m_memory(memory), m_window(window) {
+    : QMenu(tr("Open &Recent"), parent), m_desk(desk), m_memory(memory), m_window(window) {
   setObjectName(QStringLiteral("mnuFileRecent"));
   setToolTipsVisible(true);
   connect(this, &QMenu::aboutToShow, this, &RecentFilesMenu::fill);
