@@ -48,6 +48,8 @@ class UnsavedWorkTest : public WindowTest {
   /// What a killed program leaves, and a new start of it.
   void DieAndOpen(std::deque<ModalScript::Step> steps) {
     window_->keepAll();
+    EXPECT_THAT(model::ReadFile(directory_.Path() / "config" / "window.ini"),
+                testing::HasSubstr("geometry"));
     Open();
     Offer(std::move(steps));
   }

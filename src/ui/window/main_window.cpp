@@ -257,6 +257,7 @@ void MainWindow::keepAll() {
   } catch (const model::FatalError&) {
     // Nobody is there to be told.
   }
+  m_memory.flush();
 }
 
 void MainWindow::showGame() {

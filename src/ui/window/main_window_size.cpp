@@ -27,10 +27,10 @@ void MainWindow::restoreSize() {
   // Qt itself moves a window back that would open on a screen that is gone.
   if (restoreGeometry(m_memory.geometry())) return;
   const QSize available = screen()->availableSize();
-  resize(PreferredSize.boundedTo(available));
-  // The window's frame needs room too.
-  const bool roomy = available.width() > width() && available.height() > height();
-  if (!roomy) setWindowState(Qt::WindowMaximized);
+  // The window's frame needs room too, also when it is no longer maximized.
+  const QSize roomy = available * 0.9;
+  resize(PreferredSize.boundedTo(roomy));
+  if (size() != PreferredSize) setWindowState(Qt::WindowMaximized);
 }
 
 /// What is remembered is the window with its panels.

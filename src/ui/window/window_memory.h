@@ -58,6 +58,9 @@ class WindowMemory {
   void removeRecentFile(const QString& file);
   void clearRecentFiles();
 
+  /// Writes all of it to the disk, which otherwise happens some time later.
+  void flush() { m_store.sync(); }
+
  private:
   QSettings m_store;
 };
