@@ -160,12 +160,21 @@ void ApplyPatterns(const PixelPicture& picture, const HitMap& hitMap, const Tint
   std::vector<Pattern> patterns;
   for (std::size_t tint = 0; tint < TintCount; ++tint)
     patterns.push_back(PatternFor(static_cast<Tint>(tint), picture.Width));
+  // All patterns repeat alike; a division for each pixel would take longer than all the rest.
+  const int side = patterns.front().Side;
+  std::vector<int> columns;
+  for (int x = 0; x < picture.Width; ++x)
+    columns.push_back(x % side);
+  std::array<const std::uint8_t*, MaxRow> inkOf{};
+  for (std::size_t i = 0; i < tinting.Shown.size(); ++i) {
+    const Tint tint = tinting.Shown[i];
+    if (tint > Paper) inkOf.at(i + 1) = patterns[static_cast<std::size_t>(tint)].Ink.data();
+  }
   ForPixels(picture, hitMap, 1, [&](std::uint32_t& colour, int row, int x, int y) {
-    const Tint tint = tinting.Shown[static_cast<std::size_t>(row - 1)];
-    if (tint <= Paper) return;
-    const Pattern& pattern = patterns[static_cast<std::size_t>(tint)];
-    const int at = y % pattern.Side * pattern.Side + x % pattern.Side;
-    colour = Inked(colour, pattern.Ink[static_cast<std::size_t>(at)]);
+    const std::uint8_t* const ink = inkOf[static_cast<std::size_t>(row)];
+    if (ink == nullptr) return;
+    const std::uint8_t here = ink[y % side * side + columns[static_cast<std::size_t>(x)]];
+    if (here != 0) colour = Inked(colour, here);
   });
 }
 

@@ -37,14 +37,16 @@ class SettingsTest : public WindowTest {
 
 TEST_F(SettingsTest, AreKeptFromOneStartToTheNext) {
   EXPECT_EQ(Checked(), "MapColour3D");
-  for (const char* entry : {"mnuMapGrey", "mnuShowCentreCount", "mnuShowCentreOwners"})
+  for (const char* entry :
+       {"mnuMapGrey", "mnuShowCentreCount", "mnuShowCentreOwners", "mnuMapTintByOwner"})
     Trigger(entry);
-  EXPECT_EQ(Checked(), "MapGrey ShowCentreCount ShowCentreOwners");
+  EXPECT_EQ(Checked(), "MapGrey ShowCentreCount ShowCentreOwners MapTintByOwner");
   window_->close();
   EXPECT_THAT(File(), StartsWith("\"Grey\"\r\n\"Show centre count\"\r\n\"Don't show centre "
                                  "owners\"\r\n\"Edit\"\r\n"));
   Open();
-  EXPECT_EQ(Checked(), "MapGrey ShowCentreCount");
+  EXPECT_EQ(Checked(), "MapGrey ShowCentreCount MapTintByOwner");
+  Trigger("mnuMapTintByOwner");
   Trigger("mnuMapColourBordersByOwner");
   Trigger("mnuMapViewOnly");
   window_->close();

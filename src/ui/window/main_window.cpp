@@ -59,9 +59,11 @@ using session::Editing;
 // Pixels.
 constexpr int Gap = 12;
 constexpr int ColumnWidth = 345;
-/// The name under which it is remembered whether orders are drawn; the settings file has a fixed
-/// form without a place for it.
+/// The names under which it is remembered what is drawn on the map; the settings file has a fixed
+/// form without a place for these.
 const QString ShowOrders = QStringLiteral("map/showOrders");
+const QString TintByOwner = QStringLiteral("map/tintByOwner");
+const QString UnitLetters = QStringLiteral("map/unitLetters");
 /// Whether the outcomes are held against the other rules.
 const QString Compare = QStringLiteral("game/compare");
 const QString ShowHistory = QStringLiteral("window/showHistory");
@@ -83,6 +85,10 @@ MainWindow::MainWindow(Start start, const Places& places)
   addToolBar(m_tools);
   restoreSize();
   m_desk.setShowOrders(m_memory.flag(ShowOrders));
+  settings::MapOptions options = m_desk.view().mapOptions;
+  options.TintByOwner = m_memory.flag(TintByOwner);
+  options.UnitLetters = m_memory.flag(UnitLetters);
+  m_desk.setMapOptions(options);
   m_desk.setCompare(m_memory.flag(Compare, true));
   m_mapMenu->showHistory()->setChecked(m_memory.flag(ShowHistory, true));
   m_desk.recallFolder(QFile::encodeName(m_memory.folder()).toStdString());
@@ -224,6 +230,8 @@ void MainWindow::rememberSettings() {
   rememberSize();
   m_memory.setZoom(m_view->zoom());
   m_memory.setFlag(ShowOrders, m_desk.view().showOrders);
+  m_memory.setFlag(TintByOwner, m_desk.view().mapOptions.TintByOwner);
+  m_memory.setFlag(UnitLetters, m_desk.view().mapOptions.UnitLetters);
   m_memory.setFlag(Compare, m_desk.view().compare);
   m_memory.setFlag(ShowHistory, m_mapMenu->showHistory()->isChecked());
   const View& view = m_desk.view();

@@ -35,6 +35,8 @@ MapMenu::MapMenu(Desk& desk, MapView& view, QWidget* parent)
       newEntry(*this, QStringLiteral("mnuMapShowOrders"), tr("Show o&rders"), Qt::CTRL | Qt::Key_D);
   m_showOrders->setCheckable(true);
   connect(m_showOrders, &QAction::triggered, &m_desk, &Desk::setShowOrders);
+  addToggle(QStringLiteral("mnuMapTintByOwner"), tr("&Tint by owner"), &MapOptions::TintByOwner);
+  addToggle(QStringLiteral("mnuMapUnitLetters"), tr("&Letters on units"), &MapOptions::UnitLetters);
   m_showHistory = newEntry(*this, QStringLiteral("mnuMapShowHistory"), tr("Show &history"));
   m_showHistory->setCheckable(true);
   connect(&m_desk, &Desk::viewChanged, this, &MapMenu::showState);
