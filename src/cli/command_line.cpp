@@ -155,7 +155,7 @@ void CheckGames(const CommandLine& line) {
     if (count != 2) throw UsageError(name + ": It takes a game file and the text of one order.");
   } else if (line.Verb->Takes == Games::Two) {
     if (count != 2) throw UsageError(name + ": It takes two game files.");
-  } else if (line.Verb->Takes == Games::One && count > 1) {
+  } else if (line.Verb->Takes == Games::One && count > 1 && !line.Has(OptionId::Animate)) {
     throw UsageError(name + ": One game file at a time.");
   }
 }

@@ -2,24 +2,30 @@
 #include "cli/delivery.h"
 #include "cli/games.h"
 #include "cli/orders_source.h"
+#include "history/replay_sequence.h"
 #include "model/files.h"
 #include "render/map_module.h"
 #include "session/queries.h"
 #include "settings/map_options.h"
 
+#include <algorithm>
 #include <charconv>
+#include <tuple>
+#include <utility>
+#include <vector>
 
 namespace orb::cli {
 namespace {
 
 constexpr std::array Options{OptionId::Orders,  OptionId::Mode,         OptionId::CentreCount,
                              OptionId::Borders, OptionId::CentreOwners, OptionId::TintByOwner,
-                             OptionId::Letters, OptionId::Width,        OptionId::Format,
-                             OptionId::Output,  OptionId::NoClobber};
+                             OptionId::Letters, OptionId::Animate,      OptionId::Width,
+                             OptionId::Format,  OptionId::Output,       OptionId::NoClobber};
 
 constexpr Example Examples[] = {
     {"the map as a picture for the next mail", "map --width 1200 -o league.png league.orb"},
     {"with arrows for the orders of a file", "map --orders s01.txt -o orders.svg league.orb"},
+    {"what happened in a whole game", "map --animate -o league.gif league_*.orb"},
     {"handed on to another program", "map --format pdf -o - league.orb | lp"},
 };
 
@@ -60,18 +66,81 @@ std::vector<orders::OrderOutcome> OrdersToDraw(session::Situation& situation, Or
   return session::EnteredOrders(situation);
 }
 
-int Execute(const CommandLine& line, Console& console) {
-  // Everything that can be wrong with the command line is looked at before a game is read.
-  const std::filesystem::path picture = *line.Value(OptionId::Output);
-  const render::MapFormat format = Format(line, picture);
+settings::MapOptions MapOptionsOf(const CommandLine& line) {
+  return {ModeOf(line, "colour3d"),        line.Has(OptionId::CentreCount),
+          line.Has(OptionId::Borders),     line.Has(OptionId::CentreOwners),
+          line.Has(OptionId::TintByOwner), line.Has(OptionId::Letters)};
+}
+
+void ExpectPicture(const std::filesystem::path& picture, const Console& console) {
   if (picture == StandardOutput && console.IsTerminal()) {
     throw UsageError("map: A picture would only garble the terminal: -o names a file.");
   }
+}
+
+/// What happened in the season of one situation, or from the first of several to the last.
+std::vector<history::Replay> ReplaysOf(const std::vector<session::Situation>& situations) {
+  std::vector<history::ReplayPart> parts;
+  if (situations.size() == 1) {
+    parts.push_back(history::SeasonPart(situations[0].Game, situations[0].Outcomes));
+  } else {
+    std::vector<model::GameState> games;
+    for (const session::Situation& situation : situations)
+      games.push_back(situation.Game);
+    std::ranges::stable_sort(games, {}, [](const model::GameState& game) {
+      return std::tuple(game.Year, game.Season != "Spring", game.Stage);
+    });
+    parts = history::ReplaySequence(games);
+  }
+  std::vector<history::Replay> replays;
+  for (history::ReplayPart& part : parts)
+    replays.push_back(std::move(part.Replay));
+  return replays;
+}
+
+int Animate(const CommandLine& line, Console& console) {
+  for (const auto& [option, name] :
+       {std::pair(OptionId::Orders, "--orders"), {OptionId::Format, "--format"}}) {
+    if (line.Has(option)) {
+      throw UsageError(
+          std::string("map: --animate and ").append(name).append(" cannot go together."));
+    }
+  }
+  const std::filesystem::path output = *line.Value(OptionId::Output);
+  ExpectPicture(output, console);
+  if (output != StandardOutput && output.extension() != ".gif") {
+    throw UsageError("map: The animation's name must end in .gif.");
+  }
   const int width = PixelWidth(line);
-  const settings::MapOptions options{
-      ModeOf(line, "colour3d"),        line.Has(OptionId::CentreCount),
-      line.Has(OptionId::Borders),     line.Has(OptionId::CentreOwners),
-      line.Has(OptionId::TintByOwner), line.Has(OptionId::Letters)};
+  const settings::MapOptions options = MapOptionsOf(line);
+  const std::filesystem::path data = DataDirectory(line);
+  const std::vector<GamePaths> plan = PlanOneOutput(line);
+  std::vector<session::Situation> situations;
+  const int status = ForEachGame(line, console, plan, [&](GameAtWork& at) {
+    situations.push_back(std::move(at.Situation));
+    return true;
+  });
+  // An animation without one of the games would look as if it were whole.
+  if (status != ExitDone || plan.empty()) return status;
+  const bool done = Attempt(console, output.string(), [&] {
+    ExpectNothingToKeep(plan.front());
+    const std::vector<history::Replay> replays = ReplaysOf(situations);
+    DeliverBytes(console, output,
+                 render::DrawAnimation({replays, options, data, width}, model::ProgramDirectory()),
+                 plan.front().Existing);
+    return true;
+  });
+  return done ? ExitDone : ExitRefused;
+}
+
+int Execute(const CommandLine& line, Console& console) {
+  if (line.Has(OptionId::Animate)) return Animate(line, console);
+  // Everything that can be wrong with the command line is looked at before a game is read.
+  const std::filesystem::path picture = *line.Value(OptionId::Output);
+  const render::MapFormat format = Format(line, picture);
+  ExpectPicture(picture, console);
+  const int width = PixelWidth(line);
+  const settings::MapOptions options = MapOptionsOf(line);
   const std::filesystem::path data = DataDirectory(line);
   OrdersSource source(line);
   return ForEachGame(line, console, PlanPaths(line), [&](GameAtWork& at) {

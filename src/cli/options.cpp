@@ -47,6 +47,8 @@ constexpr std::array<Option, OptionCount> Table{{
      "show the lands in the tints of their owners"},
     {Letters, "--letters", "", ValueKind::None, "", "",
      "write the powers' initials on their units"},
+    {Animate, "--animate", "", ValueKind::None, "", "",
+     "an animated GIF of a game's season, or of several games"},
     {Width, "--width", "", ValueKind::Text, "PIXELS", "",
      "the width of the picture (default: that of the map)"},
     {Format, "--format", "", ValueKind::Choice, "FORMAT", "bmp png svg pdf",

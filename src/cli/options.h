@@ -46,6 +46,7 @@ enum class OptionId : std::uint8_t {
   CentreOwners,
   TintByOwner,
   Letters,
+  Animate,
   Width,
   Format,
   NoClobber,

@@ -35,6 +35,11 @@ std::string DrawMap(const MapRequest& request, const std::filesystem::path& modu
   return Call<DrawFunction>(moduleDirectory, DrawFunctionName, request);
 }
 
+std::string DrawAnimation(const AnimationRequest& request,
+                          const std::filesystem::path& moduleDirectory) {
+  return Call<AnimationFunction>(moduleDirectory, AnimationFunctionName, request);
+}
+
 std::string WithSvgMaterial(const SvgWork& work, const std::filesystem::path& moduleDirectory) {
   return Call<SvgFunction>(moduleDirectory, SvgFunctionName, work);
 }

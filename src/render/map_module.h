@@ -1,5 +1,6 @@
 #pragma once
 
+#include "history/replay.h"
 #include "model/game_state.h"
 #include "orders/order_outcome.h"
 #include "render/map_format.h"
@@ -25,6 +26,14 @@ struct MapRequest {
   std::vector<orders::OrderOutcome> Orders;  ///< drawn on the map
 };
 
+/// An animation to be drawn, as an animated GIF.
+struct AnimationRequest {
+  const std::vector<history::Replay>& Replays;  ///< one after the other
+  settings::MapOptions Options;
+  std::filesystem::path DataDirectory;
+  int PixelWidth = 0;  ///< 0: as suits mails and web pages
+};
+
 /// Work that needs what a vector drawing takes from the drawing toolkit; its result is a file's
 /// bytes.
 using SvgWork = std::function<std::string(SvgMaterial& material)>;
@@ -36,12 +45,18 @@ constexpr const char* DrawModule = "orbdraw.so";
 /// is false.
 constexpr const char* DrawFunctionName = "OrbDrawMap";
 using DrawFunction = bool(const MapRequest& request, std::string& result);
+constexpr const char* AnimationFunctionName = "OrbDrawAnimation";
+using AnimationFunction = bool(const AnimationRequest& request, std::string& result);
 constexpr const char* SvgFunctionName = "OrbWithSvgMaterial";
 using SvgFunction = bool(const SvgWork& work, std::string& result);
 
 /// Loads the module from its directory and lets it draw: the bytes of the picture. Throws
 /// FatalError.
 std::string DrawMap(const MapRequest& request, const std::filesystem::path& moduleDirectory);
+
+/// The same for an animation. Throws FatalError, also where there is nothing to animate.
+std::string DrawAnimation(const AnimationRequest& request,
+                          const std::filesystem::path& moduleDirectory);
 
 /// The same for work that is done with what the module gives: its result. Throws FatalError, also
 /// for what the work throws.
@@ -50,4 +65,5 @@ std::string WithSvgMaterial(const SvgWork& work, const std::filesystem::path& mo
 }  // namespace orb::render
 
 extern "C" orb::render::DrawFunction OrbDrawMap;
+extern "C" orb::render::AnimationFunction OrbDrawAnimation;
 extern "C" orb::render::SvgFunction OrbWithSvgMaterial;

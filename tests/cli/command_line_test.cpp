@@ -62,7 +62,7 @@ TEST(CommandLine, HelpNamesEveryOptionOfTheCommandAndGoesToStandardOutput) {
   }
   const std::vector<std::pair<std::string, std::string>> outputs = {
       {"new", " -o GAME\n"},
-      {"map", " -o PICTURE GAME\n"},
+      {"map", " -o PICTURE\n              GAME\n"},
       {"undo", " (-o PATH | --in-place) GAME...\n"}};
   for (const auto& [command, usage] : outputs)
     EXPECT_THAT(shell.Run(command + " --help").Out, HasSubstr(usage));

@@ -419,6 +419,12 @@ TEST(Map, IsDrawnInTheFormatOfItsExtension) {
   // A bitmap has its width in bytes 18 and 19.
   EXPECT_EQ(shell.Read("m.BMP").substr(18, 2), "\x90\x01");
   EXPECT_EQ(shell.Run("map --width 1 -o @m.bmp @a.orb").Status, 0);
+  shell.Write("b.orb", GameFile("Spring", "finished", "ENG F(NTH)"));
+  const std::string animate = "map --animate --tint-by-owner --letters --width 100 -o @m.gif ";
+  for (const char* games : {"@a.orb", "@b.orb", "@b.orb @a.orb"}) {
+    EXPECT_EQ(shell.Run(animate + games).Err, "");
+    EXPECT_THAT(shell.Read("m.gif"), StartsWith("GIF89a"));
+  }
 }
 
 TEST(Map, ShowsTheOrdersOfAFile) {

@@ -1,5 +1,6 @@
 #include "model/errors.h"
 #include "render/map_module.h"
+#include "render/qt/animated_picture.h"
 #include "render/qt/map_file.h"
 #include "render/qt/qt_svg_material.h"
 
@@ -46,6 +47,15 @@ extern "C" bool OrbDrawMap(const orb::render::MapRequest& request, std::string& 
   return WithToolkit(result, [&request](orb::render::PictureCache& pictures) {
     return orb::render::MapBytes(request.Game, request.Options, request.DataDirectory,
                                  request.PixelWidth, pictures, request.Format, request.Orders);
+  });
+}
+
+extern "C" bool OrbDrawAnimation(const orb::render::AnimationRequest& request,
+                                 std::string& result) {
+  return WithToolkit(result, [&request](orb::render::PictureCache& pictures) {
+    const int width = request.PixelWidth == 0 ? orb::render::AnimationWidth : request.PixelWidth;
+    return orb::render::AnimationBytes(request.Replays, request.Options, request.DataDirectory,
+                                       width, pictures, [](int, int) { return true; });
   });
 }
 

@@ -111,10 +111,10 @@ std::string AnimatedGif(const FrameSource& next, const std::vector<QRgb>& colour
   return writer.Finish();
 }
 
-bool SaveAnimation(const std::vector<history::Replay>& replays, const settings::MapOptions& options,
-                   const std::filesystem::path& dataDirectory, int pixelWidth,
-                   PictureCache& pictures, const std::filesystem::path& file,
-                   const FrameProgress& progress) {
+std::string AnimationBytes(const std::vector<history::Replay>& replays,
+                           const settings::MapOptions& options,
+                           const std::filesystem::path& dataDirectory, int pixelWidth,
+                           PictureCache& pictures, const FrameProgress& progress) {
   if (replays.empty()) throw model::FileError("There is nothing to animate.");
   const Show show{replays, options, dataDirectory, pixelWidth, pictures};
   Frames frames(show);
@@ -123,8 +123,18 @@ bool SaveAnimation(const std::vector<history::Replay>& replays, const settings::
     stopped = frames.Done() > 0 && !progress(frames.Done(), frames.All());
     return stopped ? std::nullopt : frames.Next();
   };
-  const std::string bytes = AnimatedGif(next, CommonColours(show));
-  if (stopped) return false;
+  std::string bytes = AnimatedGif(next, CommonColours(show));
+  if (stopped) bytes.clear();
+  return bytes;
+}
+
+bool SaveAnimation(const std::vector<history::Replay>& replays, const settings::MapOptions& options,
+                   const std::filesystem::path& dataDirectory, int pixelWidth,
+                   PictureCache& pictures, const std::filesystem::path& file,
+                   const FrameProgress& progress) {
+  const std::string bytes =
+      AnimationBytes(replays, options, dataDirectory, pixelWidth, pictures, progress);
+  if (bytes.empty()) return false;
   model::ReplaceFile(file, bytes);
   return true;
 }

@@ -33,10 +33,16 @@ using FrameProgress = std::function<bool(int done, int all)>;
 /// when there is no frame.
 std::string AnimatedGif(const FrameSource& next, const std::vector<QRgb>& colours);
 
-/// Saves replays, played one after the other, as an animated GIF some pixels wide (0: the
-/// background's own width): twenty frames a second, and the last one's end for a while. The file
-/// is replaced whole or not at all; false, nothing written, when progress stops it. Throws what
-/// MapImage throws, FileError also without replays and when it cannot be written.
+/// Replays, played one after the other, as an animated GIF some pixels wide (0: the background's
+/// own width): twenty frames a second, and the last one's end for a while. Empty when progress
+/// stops it. Throws what MapImage throws, FileError also without replays.
+std::string AnimationBytes(const std::vector<history::Replay>& replays,
+                           const settings::MapOptions& options,
+                           const std::filesystem::path& dataDirectory, int pixelWidth,
+                           PictureCache& pictures, const FrameProgress& progress);
+
+/// Saves the same to a file, which is replaced whole or not at all; false, nothing written, when
+/// progress stops it. Throws FileError also when it cannot be written.
 bool SaveAnimation(const std::vector<history::Replay>& replays, const settings::MapOptions& options,
                    const std::filesystem::path& dataDirectory, int pixelWidth,
                    PictureCache& pictures, const std::filesystem::path& file,
