@@ -40,7 +40,8 @@ Job Plan(const model::GameState& game, const settings::MapOptions& options,
 }
 
 void Draw(const Job& job, QPainter& painter, const QRectF& target) {
-  PaintMap(job.Game, job.Options, job.DataDirectory, job.Pictures, painter, target, job.Orders);
+  PainterSurface surface(painter, target, job.Size.Twips, job.Pictures);
+  RenderMap(job.Game, job.Options, job.DataDirectory, surface, job.Orders);
 }
 
 QImage DrawImage(const Job& job) {
@@ -88,11 +89,12 @@ QImage MapImage(const model::GameState& game, const settings::MapOptions& option
   return DrawImage(Plan(game, options, dataDirectory, pixelWidth, pictures, orders));
 }
 
-void PaintMap(const model::GameState& game, const settings::MapOptions& options,
+void PrintMap(const model::GameState& game, const settings::MapOptions& options,
               const std::filesystem::path& dataDirectory, PictureCache& pictures, QPainter& painter,
               const QRectF& target, std::span<const orders::OrderOutcome> orders) {
   const QImage& picture = pictures.Picture(BackgroundFile(dataDirectory, options.Mode));
-  PainterSurface surface(painter, target, NaturalSize(picture), pictures);
+  const double inches = target.width() / painter.device()->logicalDpiX();
+  PainterSurface surface(painter, target, TwipsForPaper(NaturalSize(picture), inches), pictures);
   RenderMap(game, options, dataDirectory, surface, orders);
 }
 

@@ -2,6 +2,7 @@
 
 #include "model/errors.h"
 #include "render/map_view.h"
+#include "render/qt/canvas.h"
 #include "render/qt/map_file.h"
 #include "render/qt/painter_surface.h"
 #include "ui/map/picture_painting.h"
@@ -71,8 +72,9 @@ void MapPicture::paintEvent(QPaintEvent* /*event*/) {
   if (m_picture.width() != fittingPixelWidth()) drawAgain();
   QPainter painter(this);
   paintFilling(*this, m_picture, painter);
+  const QSizeF natural = QSizeF(m_naturalSize) * render::TwipsPerPixel;
   render::PainterSurface surface(painter, QRectF(rect()),
-                                 QSizeF(m_naturalSize) * render::TwipsPerPixel, m_pictures);
+                                 render::TwipsFor(natural, fittingPixelWidth()), m_pictures);
   paintMarks(surface);
   if (m_overlay) m_overlay(painter, surface);
 }

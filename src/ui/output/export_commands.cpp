@@ -1,5 +1,6 @@
 #include "ui/output/export_commands.h"
 
+#include "history/replay.h"
 #include "model/errors.h"
 #include "model/files.h"
 #include "render/map_view.h"
@@ -10,7 +11,7 @@
 #include "ui/output/file_dialogs.h"
 #include "ui/output/file_proposals.h"
 #include "ui/output/print_dialog.h"
-#include "ui/output/print_pages.h"
+#include "ui/output/print_preview.h"
 #include "ui/session/attempt.h"
 #include "ui/widgets/game_name.h"
 
@@ -27,6 +28,8 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace orb::ui {
 namespace {
@@ -64,6 +67,15 @@ std::string scratchedReport(const session::Situation& situation) {
   } catch (const model::FileError&) {
     return report::TextReport(game, remark);
   }
+}
+
+using Orders = std::vector<orders::OrderOutcome>;
+
+/// Whether it is an order of the season's first stage.
+bool isOfMoves(const orders::OrderOutcome& order) {
+  using orders::OrderKind;
+  return order.Kind == OrderKind::Move || order.Kind == OrderKind::Hold ||
+         order.Kind == OrderKind::Support || order.Kind == OrderKind::Convoy;
 }
 
 /// A file's path for the print dialog: in the desk's folder, or else in the user's home.
@@ -154,34 +166,83 @@ void ExportCommands::exportText() {
   });
 }
 
-void ExportCommands::print() {
-  m_desk.endTrial();
-  QPrinter printer(QPrinter::HighResolution);
+bool ExportCommands::hasBothSides() const {
+  return m_desk.game().Stage != model::Stage::Moves && !session::SeasonOrders(m_desk.now()).empty();
+}
+
+PrintedGame ExportCommands::printedGame(const QPrinter& printer) {
+  const model::GameState& now = m_desk.game();
+  const View& view = m_desk.view();
+  settings::MapOptions options = view.mapOptions;
+  // The colours would come out as greys that nobody can tell apart.
+  if (printer.colorMode() == QPrinter::GrayScale) options.UnitLetters = true;
+  const auto map = [this, options](const model::GameState& game, Orders orders) {
+    return [this, options, game, orders = std::move(orders)](QPainter& painter,
+                                                             const QRectF& target) {
+      render::PrintMap(game, options, m_desk.dataDirectory(), m_pictures, painter, target, orders);
+    };
+  };
+  const fs::path background = render::BackgroundFile(m_desk.dataDirectory(), options.Mode);
+  PrintedGame printed{gameName(now),
+                      text::ToQString(report::TextReport(now, session::RulesRemark(m_desk.now()))),
+                      m_pictures.Picture(background).size(),
+                      {}};
+  if (m_bothSides && hasBothSides()) {
+    Orders orders = session::SeasonOrders(m_desk.now());
+    const history::Replay season = history::SeasonReplay(now, orders);
+    std::erase_if(orders, [](const orders::OrderOutcome& order) { return !isOfMoves(order); });
+    printed.maps = {map(season.Start, orders), map(now, {})};
+  } else {
+    printed.maps = {map(now, shownOrders(m_desk.now(), view))};
+  }
+  return printed;
+}
+
+void ExportCommands::setUp(QPrinter& printer) {
   const QMarginsF margins(MarginMillimetres, MarginMillimetres, MarginMillimetres,
                           MarginMillimetres);
   printer.setPageMargins(margins, QPageLayout::Millimeter);
-  if (m_pageLayout) printer.setPageLayout(*m_pageLayout);
-  if (!askHowToPrint(m_window, proposedPdf(m_desk), printer)) return;
-  m_pageLayout = printer.pageLayout();
-  const PrintChoice choice = choiceOf(printer);
-  // The copies are printed one by one, each as a job of its own.
-  printer.setCopyCount(1);
-  attempt(m_messages, [&] {
+  printer.setPageLayout(m_pageLayout ? *m_pageLayout
+                                     : bestLayout(printer.pageLayout(), printedGame(printer)));
+}
+
+void ExportCommands::print() {
+  m_desk.endTrial();
+  attempt(m_messages, [this] {
+    QPrinter printer(QPrinter::HighResolution);
+    setUp(printer);
+    const QPageLayout proposed = printer.pageLayout();
+    if (!askHowToPrint(m_window, proposedPdf(m_desk), printer)) return;
+    if (printer.pageLayout() != proposed) m_pageLayout = printer.pageLayout();
+    const PrintChoice choice = choiceOf(printer);
+    // The copies are printed one by one, each as a job of its own.
+    printer.setCopyCount(1);
     printCopies(choice, QPrinterInfo::defaultPrinterName(), m_messages,
                 [&] { printOnce(printer); });
   });
 }
 
+void ExportCommands::previewPrint() {
+  m_desk.endTrial();
+  bool goesOn = false;
+  attempt(m_messages, [&] {
+    QPrinter printer(QPrinter::HighResolution);
+    setUp(printer);
+    const QPageLayout proposed = printer.pageLayout();
+    const auto draw = [this](QPrinter& target, bool bothSides) {
+      m_bothSides = bothSides;
+      attempt(m_messages, [&] { printGame(target, printedGame(target)); });
+    };
+    PrintPreview preview(printer, draw, m_window);
+    if (hasBothSides()) preview.offerBothSides(m_bothSides);
+    goesOn = preview.exec() == QDialog::Accepted;
+    if (printer.pageLayout() != proposed) m_pageLayout = printer.pageLayout();
+  });
+  if (goesOn) print();
+}
+
 void ExportCommands::printOnce(QPrinter& printer) {
-  const model::GameState& now = m_desk.game();
-  const View& view = m_desk.view();
-  const fs::path background = render::BackgroundFile(m_desk.dataDirectory(), view.mapOptions.Mode);
-  const PrintedGame game{
-      gameName(now), text::ToQString(report::TextReport(now, session::RulesRemark(m_desk.now()))),
-      m_pictures.Picture(background).size(), [&](QPainter& painter, const QRectF& target) {
-        render::PaintMap(now, view.mapOptions, m_desk.dataDirectory(), m_pictures, painter, target,
-                         shownOrders(m_desk.now(), view));
-      }};
+  const PrintedGame game = printedGame(printer);
   if (printer.outputFormat() == QPrinter::PdfFormat) {
     printToFile(printer, game);
     emit noted(tr("The map and the report are in %1.").arg(printer.outputFileName()));

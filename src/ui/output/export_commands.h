@@ -1,6 +1,7 @@
 #pragma once
 
 #include "render/qt/picture_cache.h"
+#include "ui/output/print_pages.h"
 #include "ui/session/desk.h"
 
 #include <QImage>
@@ -35,6 +36,8 @@ class ExportCommands : public QObject {
   void exportBitmap();
   void exportText();
   void print();
+  /// Shows the pages first.
+  void previewPrint();
   /// A web page of the season, or of the whole game where its other files lie beside its own.
   void publish();
   /// Web pages for the players' orders: one for each power, or one for all.
@@ -48,6 +51,10 @@ class ExportCommands : public QObject {
   QImage mapPicture();
   void makeSheets(const std::vector<std::string>& powers, const std::string& address,
                   const std::filesystem::path& path);
+  /// A printer set up as it was last, or as suits the game best.
+  void setUp(QPrinter& printer);
+  PrintedGame printedGame(const QPrinter& printer);
+  bool hasBothSides() const;
   /// One copy, to the printer or, whole or not at all, to its PDF file.
   void printOnce(QPrinter& printer);
 
@@ -57,6 +64,7 @@ class ExportCommands : public QObject {
   std::function<bool(const QUrl&)> m_open;
   render::PictureCache m_pictures;
   std::optional<QPageLayout> m_pageLayout;  ///< as it was chosen last
+  bool m_bothSides = false;                 ///< orders and outcome on one sheet
 };
 
 }  // namespace orb::ui

@@ -51,6 +51,8 @@ void FileMenu::addExports(ExportCommands& exports) {
   m_exportText = newEntry(*this, QStringLiteral("mnuFileExportText"), tr("Export &Text..."));
   QAction* publish = newEntry(*this, QStringLiteral("mnuFilePublish"), tr("P&ublish..."));
   m_orderSheets = newEntry(*this, QStringLiteral("mnuFileOrderSheets"), tr("Order S&heets..."));
+  QAction* preview =
+      newEntry(*this, QStringLiteral("mnuFilePrintPreview"), tr("Print Previe&w..."));
   m_print = newEntry(*this, QStringLiteral("mnuFilePrint"), tr("&Print..."), QKeySequence::Print);
   addSeparator();
   // The window connects these two: the player that they start needs the map, which is not the
@@ -61,6 +63,7 @@ void FileMenu::addExports(ExportCommands& exports) {
   connect(m_exportText, &QAction::triggered, &exports, &ExportCommands::exportText);
   connect(publish, &QAction::triggered, &exports, &ExportCommands::publish);
   connect(m_orderSheets, &QAction::triggered, &exports, &ExportCommands::makeOrderSheets);
+  connect(preview, &QAction::triggered, &exports, &ExportCommands::previewPrint);
   connect(m_print, &QAction::triggered, &exports, &ExportCommands::print);
 }
 
