@@ -28,15 +28,21 @@ std::vector<std::string> FleetsOf(const model::Map& map, const OrderOutcome& mov
   const auto at = [&map](const std::string& location) -> const model::Province& {
     return model::PlaceOf(map, location);
   };
-  // The orders do not say in which order the fleets pass the army on, and the chain is not traced.
-  // Going to the nearest one each time looks right on the map.
-  const model::Province* last = &at(move.Location);
+  // The orders do not say in which order the fleets pass the army on. Going to a neighbour each
+  // time, or else to the nearest one, looks right on the map.
+  std::string from = move.Location;
   for (auto fleet = fleets.begin(); fleet != fleets.end(); ++fleet) {
-    const auto next = std::min_element(fleet, fleets.end(), [&](const auto& a, const auto& b) {
-      return model::UnitDistance(*last, at(a)) < model::UnitDistance(*last, at(b));
-    });
+    const model::Province& last = at(from);
+    const int lastRow = model::FindProvince(map, from);
+    const auto detour = [&](const std::string& name) {
+      const int row = model::FindProvince(map, name);
+      const bool far = !model::CanSupportInto(map, model::UnitType::Fleet, row, lastRow);
+      return std::pair(far, model::UnitDistance(last, at(name)));
+    };
+    const auto next = std::min_element(
+        fleet, fleets.end(), [&](const auto& a, const auto& b) { return detour(a) < detour(b); });
     std::swap(*fleet, *next);
-    last = &at(*fleet);
+    from = *fleet;
   }
   return fleets;
 }
