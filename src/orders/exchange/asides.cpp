@@ -1,7 +1,6 @@
 #include "orders/exchange/asides.h"
 
-#include "orders/exchange/line_kinds.h"
-#include "orders/exchange/power_names.h"
+#include "orders/exchange/other_matters.h"
 #include "orders/exchange/sayings.h"
 
 #include <algorithm>
@@ -130,58 +129,6 @@ bool IsShrug(Tokens line) {
   return !orders && FindSaying(line, Saying::Shrugs);
 }
 
-/// Whether words may be about orders: they speak of orders or units, or point at something.
-bool RefersToOrders(Tokens words) {
-  constexpr std::array<std::string_view, 31> pointing{
-      "it",       "this",       "that",    "these", "those",  "them",  "all",    "above",
-      "below",    "rest",       "one",     "ones",  "both",   "first", "second", "last",
-      "same",     "everything", "instead", "other", "others", "else",  "so",     "then",
-      "anything", "legal",      "valid",   "right", "ok",     "okay",  "correct"};
-  return std::ranges::any_of(words, [&](const Token& token) {
-    const Verb verb = VerbOf(token);
-    const bool isVerb = verb != Verb::None && verb != Verb::Move && token.Text.size() > 2;
-    const bool isUnit = UnitTypeOf(token) != 0 && token.Text.size() > 1;
-    return isVerb || isUnit || HasUse(token, WordUse::Orders) ||
-           std::ranges::find(pointing, token.Text) != pointing.end();
-  });
-}
-
-/// What happens if the condition that begins a sentence is met; empty where it is not told by what
-/// the writer, or who is written to, will do then.
-Tokens ConsequenceOf(Tokens line) {
-  constexpr std::array<std::string_view, 9> persons{"i",   "im",   "ill", "id",   "we",
-                                                    "you", "well", "ich", "youll"};
-  constexpr std::size_t shortest = 3;
-  for (std::size_t at = shortest; at < line.size(); ++at) {
-    if (std::ranges::find(persons, line[at].Text) != persons.end()) return line.subspan(at);
-  }
-  return {};
-}
-
-/// "I don't want to provoke anybody".
-bool IsOfFeeling(Tokens line) {
-  constexpr std::array<std::string_view, 4> denying{"dont", "never", "wont", "cant"};
-  constexpr std::array<std::string_view, 5> feeling{"want", "care", "trust", "believe", "mind"};
-  const auto isOneOf = [&](std::size_t at, const auto& words) {
-    return std::ranges::find(words, line[at].Text) != words.end();
-  };
-  return line.size() > 4 && (IsWord(line[0], "i") || IsWord(line[0], "we")) &&
-         isOneOf(1, denying) && isOneOf(2, feeling) && !IsColon(line.back());
-}
-
-/// Whether words announce another message: "I will write again".
-bool TellsMaster(Tokens words) {
-  constexpr std::array<std::string_view, 20> telling{
-      "tell", "mail",   "send",   "call", "confirm", "say",  "ask", "message", "update", "inform",
-      "let",  "change", "decide", "wait", "check",   "come", "get", "give",    "resend", "use"};
-  const bool isPress = std::ranges::any_of(
-      words, [](const Token& token) { return IsWord(token, "press") || IsWord(token, "letter"); });
-  return std::ranges::any_of(words, [&](const Token& token) {
-    return std::ranges::find(telling, token.Text) != telling.end() ||
-           (IsWord(token, "write") && !isPress);
-  });
-}
-
 /// What one sentence sets aside.
 std::optional<Aside> ReadSentence(Tokens line) {
   const auto words = std::ranges::count(line, TokenKind::Word, &Token::Kind);
@@ -191,9 +138,13 @@ std::optional<Aside> ReadSentence(Tokens line) {
     return Aside{AsideScope::AboveElseBelow, *at};
   const auto asks = IsOffer(line) ? std::nullopt : FindSaying(line, Saying::Asks);
   if (asks) return Aside{AsideScope::Above, *asks};
+  if (DoubtsOrders(line)) return Aside{AsideScope::Above, {0, line.size()}};
   constexpr std::ptrdiff_t longestTitle = 4;
   const auto title = words <= longestTitle ? FindSaying(line, Saying::Titles) : std::nullopt;
-  return title ? std::optional(Aside{AsideScope::Below, *title}) : std::nullopt;
+  // "Draft!" behind orders speaks of them.
+  const bool isClosed = IsA(line.back(), TokenKind::Dot);
+  const auto scope = isClosed ? AsideScope::AboveElseBelow : AsideScope::Below;
+  return title ? std::optional(Aside{scope, *title}) : std::nullopt;
 }
 
 }  // namespace
@@ -212,28 +163,6 @@ std::optional<Aside> ReadAside(Tokens line, const PlaceNames& names) {
     begin = at + 1;
   }
   return std::nullopt;
-}
-
-bool SpeaksOfElse(Tokens line, const PlaceNames& names) {
-  constexpr std::ptrdiff_t few = 5;
-  const auto words = std::ranges::count(line, TokenKind::Word, &Token::Kind);
-  if (IsOfFeeling(line)) return !RefersToOrders(line) && !NamesPlace(line, names);
-  if (words < 2 || IsColon(line.back()) || !HasUse(line[0], WordUse::Condition)) {
-    const bool asks = words >= few && line.back().Text == "?";
-    return asks && !RefersToOrders(line) && !NamesPlace(line, names);
-  }
-  constexpr std::array<std::string_view, 8> telling{"tell",  "trust", "believe", "mention",
-                                                    "blame", "worry", "listen",  "show"};
-  const bool isAdvice = std::ranges::find(telling, line[1].Text) != telling.end();
-  if (isAdvice) return PowerIn(line) != 0 && !RefersToOrders(line) && !NamesPlace(line, names);
-  const Tokens then = ConsequenceOf(line);
-  const bool isOpen = std::ranges::any_of(then, [](const Token& token) {
-    return HasUse(token, WordUse::Condition, WordUse::Elsewhere, WordUse::SetsAside,
-                  WordUse::Aside) ||
-           HasUse(token, WordUse::Reservation);
-  });
-  return then.size() > 3 && !isOpen && !RefersToOrders(then) && !TellsMaster(then) &&
-         !NamesPlace(then, names);
 }
 
 std::optional<TokenRange> ReadDraftSubject(Tokens line) {

@@ -25,10 +25,6 @@ struct Aside {
 /// What a line without an order sets aside; nothing for most lines.
 std::optional<Aside> ReadAside(Tokens line, const PlaceNames& names);
 
-/// Whether a line of its own surely speaks of something else than the orders: asks for a map, tells
-/// what happens "if Germany bounces me again", or "don't tell Germany".
-bool SpeaksOfElse(Tokens line, const PlaceNames& names);
-
 /// Where the subject of a mail says that its orders are not for now: "Entwurf", "not final".
 std::optional<TokenRange> ReadDraftSubject(Tokens line);
 

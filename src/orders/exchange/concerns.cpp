@@ -101,7 +101,8 @@ Concern ConcernOf(Tokens tokens, const PlaceNames& names, const model::Map& map)
   };
   std::size_t first = 0;
   if (const PowerName power = PowerAt(tokens, 0); power.Power != 0) first = power.Next;
-  first += PastThoughts(tokens.subspan(first));
+  const std::size_t thoughts = PastThoughts(tokens.subspan(first));
+  first += thoughts;
   while (first < tokens.size() && !IsA(tokens[first], TokenKind::Word))
     ++first;
   if (first == tokens.size()) return concern;
@@ -118,6 +119,8 @@ Concern ConcernOf(Tokens tokens, const PlaceNames& names, const model::Map& map)
       if (!matches.empty() && matches[0].Rows.size() == 1) add(matches[0].Rows[0]);
     }
     concern.IsOwn = isTyped && !concern.Provinces.empty();
+    // "No Burgundy please" may be about who goes there.
+    concern.OfTargets = thoughts > 0;
     return concern;
   }
   // "Rather not the one to Armenia."

@@ -1,5 +1,6 @@
 #include "orders/exchange/prose.h"
 
+#include "orders/exchange/doubts.h"
 #include "orders/exchange/exact_line.h"
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/slips.h"
@@ -72,6 +73,8 @@ class ProseReader {
       : before_(before), known_(known), context_(context) {}
 
   PartsRead Read(Tokens line, TokenRange range) {
+    isPolite_ = std::ranges::any_of(
+        line.first(range.End), [](const Token& token) { return HasUse(token, ProseUse::Please); });
     const Tokens clause = line.subspan(range.Begin, range.End - range.Begin);
     const Tail tail = FindTail(clause);
     PartsRead parts;
@@ -84,6 +87,10 @@ class ProseReader {
         clause.subspan(tail.Destination.Begin, tail.Destination.End - tail.Destination.Begin);
     words.insert(words.end(), to.begin(), to.end());
     TrimLead(words);
+    // Who is only hoped for is ordered nothing.
+    const bool isHoped = std::ranges::any_of(
+        words, [](const Token& token) { return token.Text.starts_with("hope"); });
+    if (isHoped) return {};
     std::string order = LastOrder(false);
     if (!words.empty()) {
       auto main = ReadMain(words, false);
@@ -308,7 +315,8 @@ class ProseReader {
     const bool isPolite = std::ranges::any_of(words, [](const Token& token) {
       return HasUse(token, ProseUse::Please) && HasUse(token, WordUse::Filler, WordUse::Wish);
     });
-    if (isPolite && !words.empty() && words.back().Text == "?") words.pop_back();
+    const bool isWish = isPolite && HasUse(words[0], WordUse::Wish);
+    if (isWish && words.back().Text == "?") words.pop_back();
     TrimLeadBeforePronoun(words);
     if (!ReplaceSubject(words) || !ReplaceObject(words)) return std::nullopt;
     DropIdioms(words);
@@ -332,6 +340,8 @@ class ProseReader {
     Words words;
     for (std::size_t at = 0; at < helper.size(); ++at) {
       const Token& token = helper[at];
+      const bool isEnd = isPolite_ && at + 1 == helper.size();
+      if (IsDoubtfulSign(token) && !isEnd) return std::nullopt;
       const bool isSaid = IsHelp(token) || HasUse(token, ProseUse::Object) ||
                           HasUse(token, ProseUse::Deed) ||
                           (HasUse(token, ProseUse::Of) && words.empty()) ||
@@ -351,6 +361,7 @@ class ProseReader {
   const PartsRead& before_;
   const KnownGame& known_;
   Context& context_;
+  bool isPolite_ = false;  ///< the line says "please", so that a question may be a wish
   // The texts that words were cut from outlive their being read.
   mutable std::string unit_;
   mutable std::string order_;

@@ -9,6 +9,7 @@
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/markup.h"
 #include "orders/exchange/order_part.h"
+#include "orders/exchange/other_matters.h"
 #include "orders/exchange/paragraphs.h"
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/quotations.h"
@@ -217,7 +218,7 @@ class TextReader {
     const bool isHeading = rows_.Lines.back().Kind == LineKind::Heading;
     if (line.IsTooLong || line.All.empty() || isHeading) return;
     if (isMailHead_) return LookAtSubject(line, first);
-    if (SpeaksOfElse(line.All, known_.Names)) return rows_.Around.SetAbout({});
+    if (!isBehindOrders && SpeaksOfElse(line.All, known_.Names)) return rows_.Around.SetAbout({});
     if (const auto aside = ReadAside(line.All, known_.Names)) return SetAside(line, *aside, first);
     constexpr std::size_t few = 4;
     // Units name themselves in other stages.

@@ -21,7 +21,8 @@ struct Row {
 constexpr std::array Rows{
     Row{Saying::Revokes,
         "=as if|=no chance|=but i wont|=i wont|=yeah right|=in his dreams|=in your dreams|swap|"
-        "kidding|joking|a joke|changed my mind|ignore|disregard|cancel|cancelled|"
+        "dont want that|dont want this|kidding|joking|a joke|changed my "
+        "mind|ignore|disregard|cancel|cancelled|"
         "canceled|scrap|scratch that|forget that|forget these|forget those|forget the|"
         "forget my|forget what|forget about|nevermind|never mind|withdrawn|i withdraw|"
         "revoke|strike that|were examples|was wrong|were wrong|is void|are void|"
@@ -72,7 +73,8 @@ constexpr std::array Rows{
         "otmen*|xechna|ksechna|plaka kano|astei*"},
     Row{Saying::Postpones,
         "ideal world|perfect world|in theory|ideally|one day|some day|eventually|"
-        "in my dreams|in this order|in order of|as far as|preference|preferences|=let me know|=ask "
+        "in my dreams|well see|who knows|in this order|in order of|as far "
+        "as|preference|preferences|=let me know|=ask "
         "first|=check|=verify|1st choice|2nd "
         "choice|first choice|second choice|"
         "he wants|she wants|they want|promised by|suggested by|proposed by|not process|dont "
@@ -160,7 +162,9 @@ constexpr std::array Rows{
         "por exemplo|per esempio|bijvoorbeeld|for eksempel|till exempel|na przyklad|"
         "esimerkiksi|peldaul|napriklad|for example|for instance"},
     Row{Saying::Asks,
-        "=thoughts|=opinions|what do you think|what do you reckon|what you "
+        "what if|can i still|may i still|can i change|may i change|so richtig|ist das "
+        "richtig|stimmt das|"
+        "in my place|=thoughts|=opinions|what do you think|what do you reckon|what you "
         "reckon|would that work|"
         "would this work|does that work|does this work|would it work|is that ok|"
         "is this ok|okay like this|ok like this|is this legal|is that legal|"

@@ -5,6 +5,7 @@
 #include "orders/exchange/doubts.h"
 #include "orders/exchange/embedded.h"
 #include "orders/exchange/line_kinds.h"
+#include "orders/exchange/other_matters.h"
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/prose.h"
 #include "orders/exchange/rest_holds.h"
