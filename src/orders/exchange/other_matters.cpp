@@ -3,6 +3,7 @@
 #include "orders/exchange/asides.h"
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/power_names.h"
+#include "orders/exchange/sayings.h"
 
 #include <algorithm>
 #include <array>
@@ -13,11 +14,11 @@ namespace {
 
 /// Whether words may be about orders: they speak of orders or units, or point at something.
 bool RefersToOrders(Tokens words) {
-  constexpr std::array<std::string_view, 31> pointing{
-      "it",       "this",       "that",    "these", "those",  "them",  "all",    "above",
-      "below",    "rest",       "one",     "ones",  "both",   "first", "second", "last",
-      "same",     "everything", "instead", "other", "others", "else",  "so",     "then",
-      "anything", "legal",      "valid",   "right", "ok",     "okay",  "correct"};
+  constexpr std::array<std::string_view, 28> pointing{
+      "it",       "this",  "that",       "these",   "those", "them",   "all",
+      "above",    "below", "rest",       "one",     "ones",  "both",   "first",
+      "second",   "same",  "everything", "instead", "other", "others", "else",
+      "anything", "legal", "valid",      "right",   "ok",    "okay",   "correct"};
   return std::ranges::any_of(words, [&](const Token& token) {
     const Verb verb = VerbOf(token);
     const bool isVerb = verb != Verb::None && verb != Verb::Move && token.Text.size() > 2;
@@ -71,7 +72,8 @@ bool SpeaksOfElse(Tokens line, const PlaceNames& names) {
   if (IsOfFeeling(line)) return !RefersToOrders(line) && !NamesPlace(line, names);
   if (words < 2 || IsA(line.back(), TokenKind::Colon) || !HasUse(line[0], WordUse::Condition)) {
     const bool asks = words >= few && line.back().Text == "?";
-    return asks && !RefersToOrders(line) && !NamesPlace(line, names);
+    const bool isOfWriter = FindSaying(line, Saying::Asks) || FindSaying(line, Saying::Corrects);
+    return asks && !isOfWriter && !RefersToOrders(line) && !NamesPlace(line, names);
   }
   constexpr std::array<std::string_view, 8> telling{"tell",  "trust", "believe", "mention",
                                                     "blame", "worry", "listen",  "show"};

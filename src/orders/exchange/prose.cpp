@@ -92,7 +92,8 @@ class ProseReader {
         words, [](const Token& token) { return token.Text.starts_with("hope"); });
     if (isHoped) return {};
     std::string order = LastOrder(false);
-    if (!words.empty()) {
+    const bool isLast = words.size() == 1 && HasUse(words[0], ProseUse::Pronoun);
+    if (!words.empty() && !isLast) {
       auto main = ReadMain(words, false);
       const auto unit = main ? std::nullopt : ReadWords(words, "hold");
       if (!main && !unit) return {};
@@ -318,8 +319,9 @@ class ProseReader {
     const bool isWish = isPolite && HasUse(words[0], WordUse::Wish);
     if (isWish && words.back().Text == "?") words.pop_back();
     TrimLeadBeforePronoun(words);
-    if (!ReplaceSubject(words) || !ReplaceObject(words)) return std::nullopt;
+    if (!ReplaceSubject(words)) return std::nullopt;
     DropIdioms(words);
+    if (!ReplaceObject(words)) return std::nullopt;
     NameUnits(words);
     TrimLead(words);
     PutOrigin(words);

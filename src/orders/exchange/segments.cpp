@@ -229,6 +229,9 @@ class SegmentReader {
     // "FRA: +A Par +F Bre".
     if (IsA(tokens.back(), TokenKind::Colon) && TakeHeading(range)) return TakeNone(range);
     if (TellsHelpers(tokens) && TakeProse(range)) return;
+    if (auto help = ReadSameHelp(line_, parts_, range, known_, context_)) {
+      return Take(range, std::move(*help), context_);
+    }
     const Context before = context_;
     parts_.emplace_back(range, ReadTyped(range));
     PartRead& part = parts_.back().second;

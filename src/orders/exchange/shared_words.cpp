@@ -3,6 +3,7 @@
 #include "orders/exchange/asides.h"
 #include "orders/exchange/doubts.h"
 #include "orders/exchange/line_kinds.h"
+#include "orders/exchange/prose.h"
 
 #include <algorithm>
 #include <utility>
@@ -23,6 +24,15 @@ template <class Run>
 std::vector<Token> Joined(std::vector<Token> first, const Run& second) {
   first.insert(first.end(), second.begin(), second.end());
   return first;
+}
+
+/// A unit as it is written and what an order has its own unit do.
+std::string WithAction(Tokens unit, const std::string& order) {
+  while (unit.size() > 1 && IsA(unit.back(), TokenKind::Dot))
+    unit = unit.first(unit.size() - 1);
+  const std::string_view last = unit.back().Written;
+  std::string text(unit[0].Written.data(), last.data() + last.size());
+  return text.append(order, std::min(order.find(')') + 1, order.size()));
 }
 
 }  // namespace
@@ -48,12 +58,8 @@ void ShareVerbs(Tokens line, const KnownGame& known, const Context& context, Par
     const bool isWith = IsWord(whole[0], "with") || IsWord(whole[0], "and");
     const Tokens unit = whole.subspan(isWith && whole.size() > 1 ? 1 : 0);
     if (std::ranges::any_of(unit, IsVerb)) continue;
-    const std::string& order = next.Meant.All[0].Line;
-    std::string text;
-    const Token& last = unit.back();
-    text.assign(unit[0].Written.data(), last.Written.data() + last.Written.size());
     const auto first = colon == whole.end() || colon + 1 == whole.end() ? whole.begin() : colon + 1;
-    text.append(order, std::min(order.find(')') + 1, order.size()));
+    const std::string text = WithAction(unit, next.Meant.All[0].Line);
     const std::vector<Token> tokens = CutTokens(text);
     Context tried = context;
     PartRead read = ReadPart(tokens, known, tried);
@@ -63,6 +69,24 @@ void ShareVerbs(Tokens line, const KnownGame& known, const Context& context, Par
     read.End = whole.size();
     part = std::move(read);
   }
+}
+
+std::optional<PartRead> ReadSameHelp(Tokens line, const PartsRead& parts, TokenRange range,
+                                     const KnownGame& known, const Context& context) {
+  if (parts.empty() || parts.back().second.Kind != LineKind::Order) return std::nullopt;
+  const auto& [before, part] = parts.back();
+  const Tokens unit = PartOf(line, range);
+  // The hyphen of "Mid-Atlantic" is no verb.
+  const bool hasVerb = std::ranges::any_of(
+      unit, [](const Token& token) { return IsVerb(token) && token.Text != "-"; });
+  if (hasVerb || !TellsHelpers(PartOf(line, before))) return std::nullopt;
+  const std::string text = WithAction(unit, part.Meant.All[0].Line);
+  const std::vector<Token> tokens = CutTokens(text);
+  Context tried = context;
+  PartRead read = ReadPart(tokens, known, tried);
+  if (read.Kind != LineKind::Order || read.IsGuess) return std::nullopt;
+  read.End = unit.size();
+  return read;
 }
 
 std::optional<PartRead> ReadSameUnit(Tokens line, const PartsRead& parts, TokenRange range,

@@ -22,6 +22,11 @@ void ShareVerbs(Tokens line, const KnownGame& known, const Context& context, Par
 std::optional<PartRead> ReadSameUnit(Tokens line, const PartsRead& parts, TokenRange range,
                                      const KnownGame& known, const Context& context);
 
+/// "Convoyed by the Channel fleet and the Mid-Atlantic one": reads a unit alone as one that does
+/// the same as the helper before it, which is the last of the parts; nothing where it is none.
+std::optional<PartRead> ReadSameHelp(Tokens line, const PartsRead& parts, TokenRange range,
+                                     const KnownGame& known, const Context& context);
+
 /// Joins an order that is broken off, "A Par -", with its rest in the line below; false, and
 /// nothing is changed, where the two make no order.
 bool JoinBroken(ReadLine& above, ReadLine& below, const SourceLine& line, const KnownGame& known,
