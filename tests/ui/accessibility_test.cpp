@@ -115,7 +115,8 @@ class AccessibilityTest : public WindowTest {
 
 TEST_F(AccessibilityTest, EveryControlHasANameAndALetterOfItsOwn) {
   QApplication::clipboard()->setText(QStringLiteral("FRA A Par - Bur"));
-  for (const char* entry : {"mnuGameEditSeason", "mnuGameColours", "mnuEditPasteOrders"})
+  for (const char* entry :
+       {"mnuGameEditSeason", "mnuGameColours", "mnuEditPasteOrders", "mnuGameLetters"})
     CheckDialogOf(entry);
   for (const char* game : {"1901-2-autumn-0-start", "1902-2-autumn-1-moves",
                            "1902-2-autumn-2-retreats", "1902-1-spring-2-retreats"}) {

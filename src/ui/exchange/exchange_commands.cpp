@@ -47,6 +47,16 @@ session::IncomingText readOrdersFile(const fs::path& file) {
   return incomingText(model::ReadFile(file), file.string());
 }
 
+/// "Anna <anna@example.org>: orders", of all mails.
+std::string senders(const std::vector<session::MailHead>& mails) {
+  std::string text;
+  for (const session::MailHead& mail : mails) {
+    text.append(text.empty() ? "" : "; ").append(mail.Sender);
+    if (!mail.Subject.empty()) text.append(": ").append(mail.Subject);
+  }
+  return text;
+}
+
 QString countedOrders(int count) {
   return count == 1 ? QObject::tr("1 order") : QObject::tr("%1 orders").arg(count);
 }
@@ -67,7 +77,7 @@ void ExchangeCommands::importOrders() {
 }
 
 void ExchangeCommands::importFile(const fs::path& file) {
-  attempt(m_messages, [&] { preview(ExchangeKind::Import, readOrdersFile(file)); });
+  attempt(m_messages, [&] { preview(ExchangeKind::Import, readOrdersFile(file), file.string()); });
 }
 
 void ExchangeCommands::pasteOrders() {
@@ -77,25 +87,48 @@ void ExchangeCommands::pasteOrders() {
     if (text.find_first_not_of(" \t\r\n") == std::string::npos) {
       throw model::FatalError("There is no text on the clipboard.");
     }
-    preview(ExchangeKind::Paste, incomingText(std::move(text), "The text on the clipboard"));
+    preview(ExchangeKind::Paste, incomingText(std::move(text), "The text on the clipboard"),
+            "the clipboard");
   });
 }
 
 void ExchangeCommands::readText(const QString& text) {
-  attempt(m_messages,
-          [&] { preview(ExchangeKind::Paste, incomingText(text.toStdString(), "The text")); });
+  attempt(m_messages, [&] {
+    preview(ExchangeKind::Paste, incomingText(text.toStdString(), "The text"), "pasted or dropped");
+  });
 }
 
-void ExchangeCommands::preview(ExchangeKind kind, session::IncomingText text) {
+void ExchangeCommands::preview(ExchangeKind kind, session::IncomingText text,
+                               const std::string& source) {
+  const std::string from = text.Mails.empty() ? source : senders(text.Mails);
+  const std::string whole = text.Text;
   ExchangeDialog dialog(m_desk.game(), kind, std::move(text),
                         exchange::ReadTextRepairs(m_desk.dataDirectory()), m_senders, m_window);
   dialog.proposePower(m_power);
   connect(&dialog, &ExchangeDialog::helpWanted, this,
           [&](const QString& topic) { emit helpWanted(topic, &dialog); });
   if (dialog.exec() != QDialog::Accepted) return;
+  letters::Receipt receipt = letters::ReceiptOf(m_desk.game(), dialog.lines(), dialog.orders());
+  receipt.Power = dialog.power();
+  receipt.Source = from;
+  receipt.Text = whole;
+  registerReceipt(receipt);
   const int filed = m_desk.fileOrders(
       dialog.orders(), kind == ExchangeKind::Paste ? tr("Paste Orders") : tr("Import Orders"));
   if (filed > 0) emit noted(tr("%1 filed.").arg(countedOrders(filed)));
+}
+
+void ExchangeCommands::registerReceipt(const letters::Receipt& receipt) {
+  const std::string& game = m_desk.game().FileName;
+  // Beside no file there is no place for it.
+  if (game.empty()) return;
+  try {
+    letters::Register(game, receipt);
+  } catch (const model::FileError& error) {
+    if (std::exchange(m_unregistered, game) == game) return;
+    m_messages.Show(std::string("Received orders are not registered. ").append(error.what()),
+                    model::Icon::Exclamation);
+  }
 }
 
 void ExchangeCommands::exportOrders() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "letters/received.h"
+
 #include "ui/exchange/exchange_dialog.h"
 #include "ui/exchange/sender_powers.h"
 #include "ui/session/desk.h"
@@ -45,13 +47,18 @@ class ExchangeCommands : public QObject {
 
  private:
   /// Shows what was understood of the text, and files what the user leaves ticked.
-  void preview(ExchangeKind kind, session::IncomingText text);
+  /// `source` is where it came from, if no mail says so.
+  void preview(ExchangeKind kind, session::IncomingText text, const std::string& source);
+
+  /// Adds what came in to the game's register; where that cannot be written, one message says so.
+  void registerReceipt(const letters::Receipt& receipt);
 
   Desk& m_desk;
   model::Messages& m_messages;
   SenderPowers m_senders;
   QWidget* m_window;
   int m_power = 0;
+  std::string m_unregistered;  ///< the game whose register cannot be written, as was told
 };
 
 }  // namespace orb::ui

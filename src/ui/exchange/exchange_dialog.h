@@ -36,6 +36,10 @@ class ExchangeDialog : public QDialog {
   /// The orders to file.
   std::vector<exchange::ReadLine> orders() const { return m_model.takenLines(); }
 
+  /// All lines of the text, and the power that they were read for; empty: those of all.
+  std::vector<exchange::ReadLine> lines() const { return m_model.lines(); }
+  const std::string& power() const { return m_model.power(); }
+
   /// The power in this row is chosen where the text does not say whose orders it has; 0: none.
   void proposePower(int power);
 

@@ -2,6 +2,7 @@
 
 #include "model/errors.h"
 #include "ui/exchange/exchange_commands.h"
+#include "ui/letters/letters_commands.h"
 #include "ui/output/export_commands.h"
 #include "ui/output/file_dialogs.h"
 #include "ui/widgets/controls.h"
@@ -65,6 +66,13 @@ void FileMenu::addExports(ExportCommands& exports) {
   connect(m_orderSheets, &QAction::triggered, &exports, &ExportCommands::makeOrderSheets);
   connect(preview, &QAction::triggered, &exports, &ExportCommands::previewPrint);
   connect(m_print, &QAction::triggered, &exports, &ExportCommands::print);
+}
+
+void FileMenu::addComparison(LettersCommands& letters) {
+  QAction* compare = newEntry(*this, QStringLiteral("mnuFileCompare"), tr("&Compare with..."));
+  insertAction(m_importOrders, compare);
+  insertSeparator(m_importOrders);
+  connect(compare, &QAction::triggered, &letters, &LettersCommands::compareWithFile);
 }
 
 void FileMenu::open() {

@@ -9,6 +9,7 @@ namespace orb::ui {
 
 class ExchangeCommands;
 class ExportCommands;
+class LettersCommands;
 
 /// The commands on game files: making, opening and saving them, exchanging orders, and all that is
 /// exported, printed and animated. It asks for the files; the desk and the commands do the rest.
@@ -32,6 +33,9 @@ class FileMenu : public QMenu {
   /// Saves the game, and asks where when it has no file yet or may not be written to its own.
   /// False: it was not saved.
   bool save();
+
+  /// Adds the entry that compares the game with another one, behind those of files.
+  void addComparison(LettersCommands& letters);
 
  private:
   // The groups of entries between the separators.

@@ -2,6 +2,7 @@
 
 #include "ui/editing/colours_dialog.h"
 #include "ui/editing/season_dialog.h"
+#include "ui/letters/letters_commands.h"
 #include "ui/widgets/controls.h"
 
 #include <QActionGroup>
@@ -10,7 +11,8 @@ namespace orb::ui {
 
 using session::Editing;
 
-GameMenu::GameMenu(Desk& desk, QWidget* parent) : QMenu(tr("&Game"), parent), m_desk(desk) {
+GameMenu::GameMenu(Desk& desk, LettersCommands& letters, QWidget* parent)
+    : QMenu(tr("&Game"), parent), m_desk(desk) {
   setObjectName(QStringLiteral("mnuGame"));
   addStage(QStringLiteral("mnuGameEnterOrders"), tr("Enter &orders"), model::Stage::Moves);
   addStage(QStringLiteral("mnuGameEnterRetreats"), tr("Enter &retreats"), model::Stage::Retreats);
@@ -26,13 +28,15 @@ GameMenu::GameMenu(Desk& desk, QWidget* parent) : QMenu(tr("&Game"), parent), m_
           &QAction::triggered, this, [this] { editColours(m_desk, parentWidget()); });
   addEditSteps();
   addSeparator();
-  m_tryOut = newEntry(*this, QStringLiteral("mnuGameTryOut"), tr("&Try out"), Qt::CTRL | Qt::Key_T);
+  m_tryOut = newEntry(*this, QStringLiteral("mnuGameTryOut"), tr("Tr&y out"), Qt::CTRL | Qt::Key_T);
   m_tryOut->setCheckable(true);
   connect(m_tryOut, &QAction::triggered, this, [this](bool on) {
     on ? m_desk.tryOut() : m_desk.endTrial();
     showState();
   });
   addRules();
+  addSeparator();
+  addLetters(letters);
   addSeparator();
   m_undo = newEntry(*this, QStringLiteral("mnuGameUndo"), tr("U&ndo season"));
   connect(m_undo, &QAction::triggered, &desk, &Desk::undoSeason);
@@ -88,6 +92,13 @@ void GameMenu::addRules() {
       newEntry(*this, QStringLiteral("mnuGameCompare"), tr("&Compare with the usual rules"));
   m_compare->setCheckable(true);
   connect(m_compare, &QAction::triggered, &m_desk, &Desk::setCompare);
+}
+
+void GameMenu::addLetters(LettersCommands& letters) {
+  connect(newEntry(*this, QStringLiteral("mnuGameLetters"), tr("Le&tters...")), &QAction::triggered,
+          &letters, &LettersCommands::showLetters);
+  connect(newEntry(*this, QStringLiteral("mnuGameReceived"), tr("Recei&ved orders...")),
+          &QAction::triggered, &letters, &LettersCommands::showReceived);
 }
 
 void GameMenu::showState() {

@@ -9,6 +9,8 @@
 
 namespace orb::ui {
 
+class LettersCommands;
+
 /// The stage, what is edited in its place, and the commands on the season.
 ///
 /// The entries of the stages show a state rather than choose one: a stage ends by being resolved.
@@ -16,7 +18,7 @@ class GameMenu : public QMenu {
   Q_OBJECT
 
  public:
-  GameMenu(Desk& desk, QWidget* parent);
+  GameMenu(Desk& desk, LettersCommands& letters, QWidget* parent);
 
  private:
   // Entries with a check mark, in the order in which they are added.
@@ -24,6 +26,7 @@ class GameMenu : public QMenu {
   void addEditing(const QString& name, const QString& caption, session::Editing editing);
   void addEditSteps();
   void addRules();
+  void addLetters(LettersCommands& letters);
   void showState();
 
   Desk& m_desk;

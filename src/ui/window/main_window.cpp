@@ -17,6 +17,7 @@
 #include "ui/history/history_bar.h"
 #include "ui/history/past_banner.h"
 #include "ui/history/past_orders.h"
+#include "ui/letters/letters_commands.h"
 #include "ui/map/map_view.h"
 #include "ui/output/export_commands.h"
 #include "ui/output/file_dialogs.h"
@@ -214,7 +215,10 @@ void MainWindow::createMenus() {
       m_desk, m_places, [this] { return m_fileMenu->save(); }, this);
   connect(m_unsaved, &UnsavedWork::noted, this, &MainWindow::showStatus);
   m_editMenu = new EditMenu(m_desk, *m_exports, *m_exchange, m_map, this);
-  m_gameMenu = new GameMenu(m_desk, this);
+  m_letters = new LettersCommands(m_desk, m_messages, this);
+  connect(m_letters, &LettersCommands::noted, this, &MainWindow::showStatus);
+  m_fileMenu->addComparison(*m_letters);
+  m_gameMenu = new GameMenu(m_desk, *m_letters, this);
   m_mapMenu = new MapMenu(m_desk, *m_view, this);
   menuBar()->addMenu(m_fileMenu);
   menuBar()->addMenu(m_editMenu);

@@ -26,6 +26,7 @@ class ExportCommands;
 class FileMenu;
 class GameMenu;
 class HelpMenu;
+class LettersCommands;
 class HistoryBar;
 class MapMenu;
 class MapPicture;
@@ -135,6 +136,7 @@ class MainWindow : public QMainWindow {
   ReportPanel* m_report = nullptr;
   ExportCommands* m_exports = nullptr;
   ExchangeCommands* m_exchange = nullptr;
+  LettersCommands* m_letters = nullptr;
   FileMenu* m_fileMenu = nullptr;
   UnsavedWork* m_unsaved = nullptr;
   EditMenu* m_editMenu = nullptr;
