@@ -94,6 +94,13 @@ TEST_F(HistoryTest, EarlierStagesAreShownWithTheirReportAndCanBeGoneOnFrom) {
   EXPECT_THAT(Find<QLabel>("lblFileName").text().toStdString(), HasSubstr("con_s01 end.orb"));
   Trigger("mnuEditTakeBack");
   EXPECT_THAT(Lines("lstOrders"), ElementsAre("ENG F(Lon) - NTH"));
+
+  SaveAs("con_a01 b.orb");
+  EXPECT_TRUE(HasStages(2));
+  Resolve("ENG F(Edi)");
+  EXPECT_TRUE(HasStages(3));
+  Trigger("mnuFileSave");
+  EXPECT_TRUE(HasStages(2)) << "its file has no other stage any more";
 }
 
 TEST_F(HistoryTest, TheLineIsPlayedChartedAndHidden) {

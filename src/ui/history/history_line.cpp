@@ -120,7 +120,9 @@ void HistoryLine::paintMark(QPainter& painter, int index) const {
     painter.drawEllipse(box(ShownRing - 1.5));
   }
   const Stage stage = m_moments[static_cast<std::size_t>(index)].Stage;
-  const double radius = isPresent ? PresentMark - 1 : Radius;
+  // Of a long game the marks are small enough to be told apart.
+  const double room = (placeOf(1) - placeOf(0)) * 0.36;
+  const double radius = isPresent ? PresentMark - 1 : std::clamp(room, 1.2, Radius);
   const QColor ground = isPresent ? accent : ink;
   painter.setPen(QPen(ground, 1.3));
   painter.setBrush(stage == Stage::Moves ? palette().color(QPalette::Window) : ground);

@@ -28,6 +28,7 @@ SeasonFiles::SeasonFiles(const Desk& desk, QObject* parent) : QObject(parent), m
   using session::Changes;
   connect(&m_timer, &QTimer::timeout, this, &SeasonFiles::readSome);
   desk.whenChanged(Changes::Season | Changes::File | Changes::Game, this, &SeasonFiles::look);
+  connect(&desk, &Desk::saved, this, &SeasonFiles::look);
   // Other programs write files as well.
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState s) {
     if (s == Qt::ApplicationActive) look();

@@ -89,9 +89,11 @@ bool Desk::recoverGame(const Situation& recovered) {
 }
 
 bool Desk::saveGameAs(const std::filesystem::path& file, session::Overwrite overwrite) {
-  const bool saved = run([&](Situation& next) { session::SaveGameAs(next, file, overwrite); });
-  if (saved) emit noted(tr("The game is in %1.").arg(QFile::decodeName(file.c_str())));
-  return saved;
+  const bool done = run([&](Situation& next) { session::SaveGameAs(next, file, overwrite); });
+  if (!done) return false;
+  emit saved();
+  emit noted(tr("The game is in %1.").arg(QFile::decodeName(file.c_str())));
+  return true;
 }
 
 bool Desk::fileOrder(const std::string& text) {

@@ -170,6 +170,9 @@ class Desk : public QObject {
   /// A resolution was abandoned at a line; follows changed.
   void stopped();
 
+  /// The game was written to its file.
+  void saved();
+
   /// Something for the status bar: what became of the last command.
   void noted(const QString& text);
 
