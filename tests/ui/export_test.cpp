@@ -219,6 +219,19 @@ TEST(Print, OnceACopyOnTheDefaultPrinterOnly) {
   }
 }
 
+TEST(Print, PagesLieAcrossWhereTheMapGainsByItWithoutAFurtherPage) {
+  const QPageLayout page(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                         QMarginsF(40, 40, 40, 40));
+  const auto paint = [](QPainter&, const QRectF&) {};
+  // Upright, about 25 lines fit below the map; across, the report has pages of its own.
+  for (const auto& [lines, orientation] : {std::pair(15, QPageLayout::Portrait),
+                                           {35, QPageLayout::Landscape},
+                                           {75, QPageLayout::Portrait}}) {
+    const ui::PrintedGame game{"", QStringLiteral("x\n").repeated(lines), QSizeF(12, 10), {paint}};
+    EXPECT_EQ(ui::bestLayout(page, game).orientation(), orientation) << lines;
+  }
+}
+
 TEST(Print, NoLineIsLostClippedOrTornFromItsHeading) {
   const auto wideLine = [](int i) { return QString(74, 'M') + QString::number(1000 + i); };
   QString report;
