@@ -82,6 +82,14 @@ bool SpeaksOfElse(Tokens line, const PlaceNames& names) {
   constexpr std::array<std::string_view, 9> conjunctions{"if", "when", "wenn", "falls", "si",
                                                          "se", "als",  "hvis", "om"};
   if (std::ranges::find(conjunctions, line[0].Text) == conjunctions.end()) return false;
+  // Whatever hangs on somebody's consent may be the orders.
+  constexpr std::array<std::string_view, 10> consenting{
+      "agree", "accept", "consent", "confirm", "approv", "allow", "mind", "object", "ok", "refus"};
+  const bool isConsent = std::ranges::any_of(line, [&](const Token& token) {
+    return std::ranges::any_of(
+        consenting, [&](std::string_view begin) { return token.Text.starts_with(begin); });
+  });
+  if (isConsent) return false;
   const Tokens then = ConsequenceOf(line);
   const bool isOpen = std::ranges::any_of(then, [](const Token& token) {
     return HasUse(token, WordUse::Condition, WordUse::Elsewhere, WordUse::SetsAside,

@@ -228,9 +228,12 @@ std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
         (verb == Verb::Hold && IsOneOf(tokens_[next], HoldTails)) ||
         ((verb == Verb::Move || verb == Verb::Retreat) && IsOneOf(tokens_[next], MoveTails));
     // "Moves to" and "retreats to" are one verb; of "moves to hold" the last word tells.
-    const bool goesOn = verb == Verb::Move || (verb == Verb::Retreat && word == Verb::Move);
+    // "Retreats OTB" is no retreat.
+    const bool isOff = verb == Verb::Retreat && word == Verb::Disband;
+    const bool goesOn =
+        verb == Verb::Move || (verb == Verb::Retreat && word == Verb::Move) || isOff;
     if (!isTail && (word == Verb::None || !(isFirst || goesOn))) break;
-    if (!isTail && (isFirst || verb == Verb::Move)) verb = word;
+    if (!isTail && (isFirst || verb == Verb::Move || isOff)) verb = word;
     at = next + 1;
   }
   return {verb, at};

@@ -241,11 +241,18 @@ class SegmentReader {
       context_ = before;
       return;
     }
+    if (IsTypedUnit(tokens)) return;
     PartRead plain = std::move(part);
     parts_.pop_back();
     if (TakeProse(range)) return;
     parts_.emplace_back(range, std::move(plain));
     ReadOddClause(range, before);
+  }
+
+  /// A type and its place alone: there is nothing else to be found in them.
+  bool IsTypedUnit(Tokens clause) const {
+    const auto places = known_.Names.At(clause, UnitTypeOf(clause[0]) != 0 ? 1 : clause.size());
+    return !places.empty() && places[0].Next == clause.size();
   }
 
   /// "A Mun / F Kie" leaves the choice where it is not said what becomes of them.
