@@ -65,6 +65,12 @@ bool IsTitle(Tokens words, const PlaceNames& names, int power) {
 }  // namespace
 
 void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
+  // More orders than all powers have in a season: to hold each against each remark takes long.
+  constexpr std::size_t most = 48;
+  if (understood_.size() > most && !remarks_.empty()) {
+    const TokenRange said = remarks_.front().At;
+    return Around.SetDoubtFrom(first, Quoted(line.Part(said)) + " may change it", line.Span(said));
+  }
   for (const Said& said : remarks_) {
     const Tokens remark = line.Part(said.At);
     const bool isGreeting = remark.size() <= LongestGreeting &&

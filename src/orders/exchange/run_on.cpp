@@ -113,19 +113,18 @@ class Parting {
 
 /// Pairs of places one after the other, "vie gal bud ser", each of which its unit can move along.
 PartsRead ReadPairs(Tokens tokens, const KnownGame& known, const Context& context) {
-  constexpr std::size_t longestPair = 6;
   PartsRead parts;
   std::size_t at = 0;
-  while (at < tokens.size() && !known.Names.At(tokens, at).empty()) {
-    PartRead found;
-    std::size_t end = std::min(at + longestPair, tokens.size());
-    for (; end > at + 1; --end) {
-      Context tried = context;
-      found = ReadPart(tokens.subspan(at, end - at), known, tried);
-      if (found.Kind == LineKind::Order && found.IsBare) break;
-    }
-    if (end == at + 1) break;
-    parts.emplace_back(TokenRange{at, end}, std::move(found));
+  while (at < tokens.size()) {
+    const auto unit = known.Names.At(tokens, at);
+    const auto place = known.Names.At(tokens, unit.empty() ? tokens.size() : unit[0].Next);
+    if (place.empty()) break;
+    std::size_t end = place[0].Next;
+    if (end < tokens.size() && CoastLetter(tokens[end].Text) != 0) ++end;
+    Context tried = context;
+    PartRead pair = ReadPart(tokens.subspan(at, end - at), known, tried);
+    if (pair.Kind != LineKind::Order || !pair.IsBare) break;
+    parts.emplace_back(TokenRange{at, end}, std::move(pair));
     at = end;
   }
   return parts.size() > 1 && IsHarmlessTail(tokens.subspan(at)) ? parts : PartsRead();
