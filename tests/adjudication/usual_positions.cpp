@@ -8,6 +8,7 @@
 #include <random>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace orb::tests {
@@ -83,12 +84,12 @@ class Crowd {
   }
   static bool IsWater(const std::string& place) { return place[1] >= 'A' && place[1] <= 'Z'; }
 
-  static const std::vector<std::string>& Near(const std::string& type, const std::string& place) {
+  static const std::vector<std::string>& Near(std::string_view type, const std::string& place) {
     static std::map<std::string, std::vector<std::string>> known;
-    auto& near = known[type + place];
+    auto& near = known[std::string(type).append(place)];
     if (!near.empty()) return near;
     for (const model::Province& other : RealMap()->Provinces) {
-      if (Touch(type, place, other.Name)) near.push_back(other.Name);
+      if (Touch(std::string(type), place, other.Name)) near.push_back(other.Name);
     }
     return near;
   }
