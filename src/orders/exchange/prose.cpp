@@ -17,8 +17,6 @@ namespace orb::exchange {
 namespace {
 
 using Words = std::vector<Token>;
-using std::string_view_literals::operator""sv;
-
 /// Longer clauses hold more than one thought.
 constexpr std::size_t LengthBound = 40;
 /// The end of an order behind which nothing is left.
@@ -225,8 +223,7 @@ class ProseReader {
 
   /// "The poor serbian army": what stands between an article and the unit adds nothing.
   void NameUnits(Words& words) const {
-    for (std::size_t at = 0; at < words.size(); ++at) {
-      Token& token = words[at];
+    for (Token& token : words) {
       if (HasUse(token, ProseUse::Troop)) Replace(token, "army");
       if (HasUse(token, ProseUse::Ship)) Replace(token, "fleet");
     }
@@ -275,10 +272,10 @@ class ProseReader {
 
   /// "Zieht nach Kiel nach", "naar Noordzee sturen": the rest of a verb that was begun before.
   static void DropParticle(Words& words) {
-    constexpr std::array particles{"zuruck"sv,   "zurueck"sv,  "terug"sv, "aus"sv,    "ab"sv,
-                                   "vor"sv,      "nach"sv,     "los"sv,   "ein"sv,    "tilbage"sv,
-                                   "tilbake"sv,  "tillbaka"sv, "back"sv,  "sturen"sv, "schicken"sv,
-                                   "verlegen"sv, "gaan"sv,     "gehen"sv, "ziehen"sv, "over"sv};
+    constexpr std::array<std::string_view, 20> particles{
+        "zuruck",   "zurueck",  "terug",   "aus",     "ab",       "vor",  "nach",
+        "los",      "ein",      "tilbage", "tilbake", "tillbaka", "back", "sturen",
+        "schicken", "verlegen", "gaan",    "gehen",   "ziehen",   "over"};
     while (!words.empty() && IsA(words.back(), TokenKind::Dot))
       words.pop_back();
     const bool isMoved =
@@ -302,7 +299,7 @@ class ProseReader {
   std::string MoveOf(const std::string& hold) const {
     known_.IsAsked = true;
     for (const PlainOrder& move : known_.Moves) {
-      const std::string line = FormatOrder(move, known_.Stage);
+      std::string line = FormatOrder(move, known_.Stage);
       if (orders::UnitPart(line) == orders::UnitPart(hold)) return line;
     }
     return hold;

@@ -12,8 +12,6 @@
 namespace orb::exchange {
 namespace {
 
-using std::string_view_literals::operator""sv;
-
 /// Words for all units, or for all others.
 const std::unordered_set<std::string_view>& AllWords() {
   static const std::unordered_set<std::string_view> words{
@@ -63,11 +61,11 @@ bool TellsOfRest(Tokens clause) {
 }
 
 bool TellsOfNothing(Tokens clause) {
-  constexpr std::array nothing{"nothing"sv, "nobody"sv, "none"sv, "nichts"sv,
-                               "rien"sv,    "niente"sv, "nada"sv, "niets"sv};
-  constexpr std::array beside{"else"sv,    "other"sv, "more"sv,  "moves"sv,
-                              "changes"sv, "new"sv,   "sonst"sv, "weiter"sv,
-                              "dautre"sv,  "altro"sv, "mas"sv,   "anders"sv};
+  constexpr std::array<std::string_view, 8> nothing{"nothing", "nobody", "none", "nichts",
+                                                    "rien",    "niente", "nada", "niets"};
+  constexpr std::array<std::string_view, 12> beside{"else",    "other", "more",  "moves",
+                                                    "changes", "new",   "sonst", "weiter",
+                                                    "dautre",  "altro", "mas",   "anders"};
   const auto isOneOf = [](const Token& token, const auto& words) {
     return std::ranges::find(words, token.Text) != words.end();
   };
@@ -80,8 +78,8 @@ bool TellsOfNothing(Tokens clause) {
 
 PartsRead HoldsOfRest(TokenRange range, Tokens clause, const KnownGame& known,
                       const Context& context) {
-  constexpr std::array holding{"hold"sv,  "holds"sv,    "halt"sv,  "halten"sv, "haelt"sv,
-                               "tient"sv, "tiennent"sv, "houdt"sv, "holder"sv, "haller"sv};
+  constexpr std::array<std::string_view, 10> holding{
+      "hold", "holds", "halt", "halten", "haelt", "tient", "tiennent", "houdt", "holder", "haller"};
   const bool isPlain = std::ranges::any_of(clause, [&](const Token& token) {
     return std::ranges::find(holding, token.Text) != holding.end();
   });
