@@ -44,11 +44,14 @@ class HitMap {
   /// its ship is, the coast is meant.
   int LocationAt(const model::GameState& game, Point point, std::string_view unitType) const;
 
+  /// What a location is for a unit that is sent to the point in it: a fleet gets the coast whose
+  /// unit point is nearest, anything else the province. 0 stays 0.
+  int AsSeenBy(const model::Map& map, int row, Point point, std::string_view unitType) const;
+
  private:
   int PlaceAt(const model::Map& map, Point point) const;
   int PixelAt(Point point) const;
   int CoastWithShipAt(const model::GameState& game, Point point) const;
-  int AsSeenBy(const model::Map& map, int hit, Point point, std::string_view unitType) const;
 
   double aspect_ = 1;
   int width_ = 0, height_ = 0;

@@ -50,6 +50,43 @@ class MapClicksTest : public WindowTest {
   }
 };
 
+TEST_F(MapClicksTest, TheKeyboardWalksTheMapAndClicks) {
+  auto& map = Find<QWidget>("picMap");
+  map.setFocus(Qt::TabFocusReason);
+  const auto type = [&](const char* letters) {
+    QTest::qWait(QApplication::keyboardInputInterval() + 50);
+    QTest::keyClicks(&map, QLatin1String(letters));
+  };
+  const auto& box = Find<QLineEdit>("txtOrder");
+  type("lon");
+  EXPECT_THAT(Find<QLabel>("lblStatus").text().toStdString(), HasSubstr("London (Lon)"));
+  QTest::keyClick(&map, Qt::Key_Return);
+  QTest::keyClick(&map, Qt::Key_Up);
+  QTest::keyClick(&map, Qt::Key_Return);
+  EXPECT_EQ(box.text(), QLatin1String("ENG F(Lon) - Yor "));
+  EXPECT_EQ(Find<QLabel>("lblStatus").text(), box.text()) << "it is told where the keyboard is";
+  EXPECT_TRUE(map.hasFocus());
+  QTest::mouseClick(&Find<QPushButton>("butOrderOK"), Qt::LeftButton);
+  map.setFocus(Qt::TabFocusReason);
+  type("vie");
+  QTest::keyClick(&map, Qt::Key_Return, Qt::ShiftModifier);
+  type("budapest");
+  QTest::keyClick(&map, Qt::Key_Return);
+  type("ser");
+  QTest::keyClick(&map, Qt::Key_Enter);
+  EXPECT_EQ(box.text(), QLatin1String("AUS A(Vie) S A(Bud) - Ser "));
+  QTest::mouseClick(&Find<QPushButton>("butOrderCancel"), Qt::LeftButton);
+  map.setFocus(Qt::TabFocusReason);
+  // A coast is a stop of its own.
+  type("mid-atlantic ocean");
+  EXPECT_THAT(Find<QLabel>("lblStatus").text().toStdString(), HasSubstr("(MAO)"));
+  type("stp.s");
+  QTest::keyClick(&map, Qt::Key_Return);
+  type("bot");
+  QTest::keyClick(&map, Qt::Key_Return);
+  EXPECT_EQ(box.text(), QLatin1String("RUS F(Stp.s) - BOT "));
+}
+
 TEST_F(MapClicksTest, AYearIsPlayedByMouse) {
   Order({"Vie", "Tyr"});
   Order({"Con", "Bul"});

@@ -20,11 +20,12 @@ namespace orb::tests {
 namespace {
 
 /// Where the keyboard goes to. Without a window manager nobody hands the focus back to the window
-/// when a dialog has closed.
+/// when a dialog, or a list that popped up, has closed.
 QWidget* FocusWidget() {
-  if (QApplication::focusWidget() == nullptr) {
+  const QWidget* active = QApplication::activeWindow();
+  if (QApplication::focusWidget() == nullptr || active == nullptr || !active->isVisible()) {
     for (QWidget* window : QApplication::topLevelWidgets()) {
-      if (!window->isVisible()) continue;
+      if (!window->isVisible() || window->windowType() == Qt::Popup) continue;
       window->activateWindow();
       if (!QTest::qWaitForWindowActive(window)) ADD_FAILURE() << "the window is not active";
     }

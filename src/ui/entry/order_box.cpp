@@ -1,7 +1,9 @@
 #include "ui/entry/order_box.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QClipboard>
+#include <QCompleter>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -9,6 +11,58 @@
 #include <QMimeData>
 
 namespace orb::ui {
+
+bool OrderBox::event(QEvent* event) {
+  // Keys that otherwise lead out of the box.
+  if (event->type() == QEvent::ShortcutOverride && completionsAreShown()) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Up || key == Qt::Key_Escape) {
+      event->accept();
+      return true;
+    }
+  }
+  // Here, since the Tab key otherwise never gets to be a key of the box.
+  if (event->type() == QEvent::KeyPress && completionsAreShown()) {
+    auto& key = *static_cast<QKeyEvent*>(event);
+    const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    if (enter || key.key() == Qt::Key_Tab) {
+      if (!takeCompletion(enter)) QLineEdit::event(event);
+      // Else what was filed would come back as the completion that is current.
+      event->accept();
+      return true;
+    }
+  }
+  return QLineEdit::event(event);
+}
+
+void OrderBox::setCompletions(QCompleter* completions) {
+  m_completions = completions;
+  m_completions->setWidget(this);
+  connect(m_completions, qOverload<const QString&>(&QCompleter::activated), this,
+          [this](const QString& line) {
+            setText(line);
+            emit textEdited(line);
+          });
+}
+
+bool OrderBox::completionsAreShown() const {
+  return m_completions != nullptr && m_completions->popup()->isVisible();
+}
+
+/// Tab takes the chosen completion or the first one. Enter takes one that is chosen, and files it
+/// where it is a whole order; else it files what is in the box.
+bool OrderBox::takeCompletion(bool byEnter) {
+  QAbstractItemView& popup = *m_completions->popup();
+  const QModelIndexList chosen = popup.selectionModel()->selectedIndexes();
+  const QModelIndex first = byEnter ? QModelIndex() : popup.model()->index(0, 0);
+  const QString text = (chosen.isEmpty() ? first : chosen.front()).data().toString();
+  popup.hide();
+  if (text.isEmpty()) return false;
+  setText(text);
+  if (byEnter && !text.endsWith(QLatin1Char(' '))) return false;
+  emit textEdited(text);
+  return true;
+}
 
 void OrderBox::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Paste)) return pasteOrHandOn();

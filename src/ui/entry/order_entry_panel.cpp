@@ -41,7 +41,8 @@ OrderEntryPanel::OrderEntryPanel(Desk& desk, model::Stage stage, OrderList list,
       m_whole(new WholeList(texts.list, texts.heading)),
       m_list(&m_whole->lines()),
       m_missing(new ElidedLabel),
-      m_text(new OrderBox) {
+      m_text(new OrderBox),
+      m_completion(new OrderCompletion(desk, *m_text)) {
   setObjectName(texts.panel);
   m_missing->setObjectName(texts.missing);
   m_text->setObjectName(texts.text);
@@ -179,6 +180,11 @@ void OrderEntryPanel::startEntry() {
 void OrderEntryPanel::showOnly(int power) {
   m_power = power;
   m_whole->showOnly(power);
+  m_completion->offerOnly(power);
+}
+
+void OrderEntryPanel::tellLine() {
+  if (!m_text->text().isEmpty()) emit statusText(m_text->text());
 }
 
 void OrderEntryPanel::focusText() {

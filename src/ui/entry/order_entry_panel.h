@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/entry/order_box.h"
+#include "ui/entry/order_completion.h"
 #include "ui/entry/whole_list.h"
 #include "ui/map/map_tool.h"
 #include "ui/session/desk.h"
@@ -58,6 +58,9 @@ class OrderEntryPanel : public QWidget, public MapTool {
   /// Only the lines of the power in this row are shown, and lines that name no power are for it; 0:
   /// all are shown.
   void showOnly(int power);
+
+  /// Says in the status bar what is in the box, unless it is empty.
+  void tellLine();
 
  signals:
   /// The caption of the help topic that is wanted.
@@ -152,6 +155,7 @@ class OrderEntryPanel : public QWidget, public MapTool {
   QListWidget* m_list;  ///< of orders alone, in the whole one
   ElidedLabel* m_missing;
   OrderBox* m_text;
+  OrderCompletion* m_completion;
   QPushButton* m_ok;
   QPushButton* m_cancel;
   QPushButton* m_delete;

@@ -11,6 +11,10 @@ namespace {
 
 /// Clears the symbol of a unit, in twips.
 constexpr double RingRadius = 190;
+/// Half a side of the frame about the keyboard's place, in twips, and how long its corners are.
+constexpr double FocusReach = 270;
+constexpr double FocusCorner = 130;
+constexpr model::Colour FocusBlue = model::Rgb(0, 72, 186);
 constexpr double GhostOpacity = 0.75;
 constexpr model::Colour ForbiddenRed = model::Rgb(176, 28, 20);
 
@@ -40,6 +44,24 @@ double unitScale(const model::Unit& unit) {
 
 void drawRing(render::Surface& surface, render::Point at, double thickness, double scale) {
   drawRing(surface, render::OnSurface(surface, at), RingRadius * scale, thickness, render::Black);
+  render::SetPens(surface);
+}
+
+void drawFocus(render::Surface& surface, render::Point at) {
+  const render::Point middle = render::OnSurface(surface, at);
+  const auto corners = [&](double thickness, model::Colour colour) {
+    surface.DrawWidth = thickness;
+    surface.ForeColour = colour;
+    for (const double right : {-1.0, 1.0}) {
+      for (const double down : {-1.0, 1.0}) {
+        const render::Point corner{middle.X + right * FocusReach, middle.Y + down * FocusReach};
+        surface.Line(corner, {corner.X - right * FocusCorner, corner.Y});
+        surface.Line(corner, {corner.X, corner.Y - down * FocusCorner});
+      }
+    }
+  };
+  corners(2 * BoldRing + 2, render::White);
+  corners(2 * BoldRing - 1, FocusBlue);
   render::SetPens(surface);
 }
 

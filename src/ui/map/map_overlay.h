@@ -26,6 +26,9 @@ constexpr double BoldRing = 2.5;
 /// natural size; the scale is that of the symbol.
 void drawRing(render::Surface& surface, render::Point at, double thickness, double scale = 1);
 
+/// Frames the place that the keyboard is at, clear of every ring.
+void drawFocus(render::Surface& surface, render::Point at);
+
 /// The ring of a place that something cannot go to.
 void drawForbiddenRing(render::Surface& surface, render::Point at);
 

@@ -1,14 +1,21 @@
 #include "ui/map/map_picture.h"
 
 #include "model/errors.h"
+#include "render/drawing.h"
 #include "render/map_view.h"
+#include "render/map_walk.h"
 #include "render/qt/canvas.h"
 #include "render/qt/map_file.h"
 #include "render/qt/painter_surface.h"
+#include "text/qt/text_codec.h"
+#include "ui/map/map_accessibility.h"
 #include "ui/map/picture_painting.h"
 #include "ui/session/attempt.h"
 
+#include <QAccessible>
 #include <QApplication>
+#include <QKeyEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -25,10 +32,12 @@ constexpr int LargestPicture = 4096;
 
 MapPicture::MapPicture(const Desk& desk, model::Messages& messages, QWidget* parent)
     : QWidget(parent), m_desk(desk), m_messages(messages) {
+  // First: a name is told to screen readers at once, who then ask what the map is.
+  makeMapsAccessible();
   setObjectName(QStringLiteral("picMap"));
   setAccessibleName(tr("Map"));
   setMouseTracking(true);
-  setFocusPolicy(Qt::ClickFocus);
+  setFocusPolicy(Qt::StrongFocus);
   // The picture fills the widget, so nothing needs to be cleared before.
   setAttribute(Qt::WA_OpaquePaintEvent);
   // Decoded while the rest of the window is made: it takes about as long.
@@ -76,6 +85,9 @@ void MapPicture::paintEvent(QPaintEvent* /*event*/) {
   render::PainterSurface surface(painter, QRectF(rect()),
                                  render::TwipsFor(natural, fittingPixelWidth()), m_pictures);
   paintMarks(surface);
+  if (hasFocus() && m_stop != 0) {
+    drawFocus(surface, render::UnitPoint(m_desk.game().Map->Provinces[m_stop]));
+  }
   if (m_overlay) m_overlay(painter, surface);
 }
 
@@ -108,13 +120,16 @@ const render::HitMap& MapPicture::hitMap() {
   // Loaded at the first click or move. If that fails, the error is shown once, and an empty one is
   // used.
   if (!m_hitMap) {
-    const double aspect = static_cast<double>(m_naturalSize.width()) / m_naturalSize.height();
-    m_hitMap.emplace(aspect);
+    m_hitMap.emplace(aspect());
     attempt(m_messages, [&] {
-      m_hitMap = render::LoadHitMap(m_desk.dataDirectory(), *m_desk.game().Map, aspect);
+      m_hitMap = render::LoadHitMap(m_desk.dataDirectory(), *m_desk.game().Map, aspect());
     });
   }
   return *m_hitMap;
+}
+
+double MapPicture::aspect() const {
+  return static_cast<double>(m_naturalSize.width()) / m_naturalSize.height();
 }
 
 MapSpot MapPicture::spotAt(QPointF position, Qt::KeyboardModifiers modifiers) {
@@ -170,6 +185,87 @@ void MapPicture::leaveEvent(QEvent* event) {
 
 void MapPicture::hover(int location) {
   if (std::exchange(m_hovered, location) != location) emit hovered(location);
+}
+
+void MapPicture::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  update();
+  const bool byKey =
+      event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+  if (!byKey) return;
+  if (m_stop == 0) return goTo(render::StopNearest(*m_desk.game().Map, {0.5, 0.5}, aspect()));
+  hover(m_stop);
+}
+
+void MapPicture::focusOutEvent(QFocusEvent* event) {
+  QWidget::focusOutEvent(event);
+  update();
+}
+
+void MapPicture::keyPressEvent(QKeyEvent* event) {
+  const auto walk = [this](render::Direction direction) {
+    goTo(render::StopTowards(*m_desk.game().Map, m_stop, direction, aspect()));
+  };
+  switch (event->key()) {
+    case Qt::Key_Left:
+      return walk(render::Direction::Left);
+    case Qt::Key_Right:
+      return walk(render::Direction::Right);
+    case Qt::Key_Up:
+      return walk(render::Direction::Up);
+    case Qt::Key_Down:
+      return walk(render::Direction::Down);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (m_stop != 0) clickOn(m_stop, event->modifiers());
+      return;
+    default:
+      break;
+  }
+  const bool command = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != 0;
+  const QString text = event->text();
+  // Plus and minus zoom; a blank can only go on with a name.
+  const bool letter = !text.isEmpty() && (text.front().isLetter() || text.front() == u'.' ||
+                                          (text.front() == u' ' && !m_typed.isEmpty()));
+  if (command || !letter || !goToNamed(text)) QWidget::keyPressEvent(event);
+}
+
+bool MapPicture::goToNamed(const QString& letters) {
+  const bool goesOn =
+      m_lastLetter.isValid() && m_lastLetter.elapsed() < QApplication::keyboardInputInterval();
+  m_lastLetter.start();
+  if (!goesOn) m_typed.clear();
+  // One letter again and again leads from name to name.
+  const bool again = m_typed == letters;
+  if (!again) m_typed += letters;
+  const std::string beginning = text::ToBytes(m_typed).value_or("?");
+  const int row =
+      render::StopNamed(*m_desk.game().Map, beginning, m_stop, goesOn && !again && m_stop != 0);
+  if (row != 0) goTo(row);
+  return row != 0;
+}
+
+void MapPicture::goTo(int stop) {
+  m_stop = stop;
+  hover(stop);
+  update();
+  emit walked();
+  tellFocus(*this);
+}
+
+QPoint MapPicture::pointOf(int location) const {
+  const render::Point point = render::UnitPoint(m_desk.game().Map->Provinces[location]);
+  return {qRound(point.X * width()), qRound(point.Y * height())};
+}
+
+void MapPicture::clickOn(int location, Qt::KeyboardModifiers modifiers) {
+  if (m_tool == nullptr) return;
+  const bool here = hasFocus();
+  const render::Point point = render::UnitPoint(m_desk.game().Map->Provinces[location]);
+  m_tool->mapClicked({m_desk.game(), hitMap(), point, modifiers, location});
+  // A click hands the keyboard over to where its words are written; the walk is to go on.
+  if (here && qobject_cast<QMenu*>(QApplication::activePopupWidget()) == nullptr) setFocus();
+  emit clickedWithoutMouse();
 }
 
 }  // namespace orb::ui

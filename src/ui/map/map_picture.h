@@ -5,6 +5,7 @@
 #include "ui/map/map_tool.h"
 #include "ui/session/desk.h"
 
+#include <QElapsedTimer>
 #include <QPixmap>
 #include <QWidget>
 
@@ -18,7 +19,8 @@ namespace orb::ui {
 ///
 /// The picture of the situation is drawn once and kept; marks, rings and whatever a panel adds are
 /// painted over it each time. The mouse is turned into places on the map and passed to a tool, so
-/// that the map itself knows nothing of orders and of editing.
+/// that the map itself knows nothing of orders and of editing. The keyboard does the same from a
+/// stop, a location that the arrow keys and names lead over the map.
 class MapPicture : public QWidget {
   Q_OBJECT
 
@@ -50,7 +52,24 @@ class MapPicture : public QWidget {
   /// The row of the location under a point of the widget, as an army sees it; 0: none.
   int locationAt(QPointF position);
 
+  const Desk& desk() const { return m_desk; }
+
+  /// The row of the location that the keyboard is at; 0 as long as it never was on the map.
+  int stop() const { return m_stop; }
+  void goTo(int stop);
+
+  /// Where a location's units stand, in pixels of the widget.
+  QPoint pointOf(int location) const;
+
+  /// Does what a click with these keys there does, and keeps the keyboard where it is.
+  void clickOn(int location, Qt::KeyboardModifiers modifiers);
+
  signals:
+  /// The keyboard went to another stop.
+  void walked();
+  /// A location was clicked without the mouse; what came of it is told nowhere yet.
+  void clickedWithoutMouse();
+
   /// The mouse has come over the location with this row; 0: over none.
   void hovered(int location);
 
@@ -61,6 +80,9 @@ class MapPicture : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   std::filesystem::path backgroundFile(const View& view) const;
@@ -68,6 +90,9 @@ class MapPicture : public QWidget {
   void paintMarks(render::Surface& surface) const;
   const render::HitMap& hitMap();
   void hover(int location);
+  double aspect() const;
+  /// False where the text that is typed leads nowhere.
+  bool goToNamed(const QString& letters);
   MapSpot spotAt(QPointF position, Qt::KeyboardModifiers modifiers);
 
   const Desk& m_desk;
@@ -83,6 +108,9 @@ class MapPicture : public QWidget {
   std::optional<QPointF> m_pressed;
   bool m_dragging = false;
   std::vector<std::string> m_marks;
+  int m_stop = 0;
+  QString m_typed;  ///< of a name, as long as the letters come fast
+  QElapsedTimer m_lastLetter;
 };
 
 }  // namespace orb::ui

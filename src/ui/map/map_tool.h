@@ -9,16 +9,18 @@
 
 namespace orb::ui {
 
-/// A place on the map at which the mouse did something.
+/// A place on the map at which the mouse, or a key, did something.
 struct MapSpot {
   const model::GameState& game;
   const render::HitMap& hitMap;
   render::Point point;  ///< in fractions of the map's width and height
   Qt::KeyboardModifiers modifiers;
+  int chosen = 0;  ///< row of the location that was chosen itself, whatever lies at the point
 
   /// Row of the location there, as a unit of this type sees it (a fleet stands on a coast); 0:
   /// none.
   int locationFor(std::string_view unitType) const {
+    if (chosen != 0) return hitMap.AsSeenBy(*game.Map, chosen, point, unitType);
     return hitMap.LocationAt(game, point, unitType);
   }
 };

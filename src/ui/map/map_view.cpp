@@ -14,6 +14,8 @@ namespace {
 constexpr double LeastZoom = 0.25;
 constexpr double GreatestZoom = 4.0;
 constexpr double ZoomStep = 1.25;
+/// The part of the view that stays in sight about the place that the keyboard goes to: a sixth.
+constexpr int Margin = 6;
 
 }  // namespace
 
@@ -25,6 +27,10 @@ MapView::MapView(MapPicture* map, QWidget* parent) : QScrollArea(parent), m_map(
   setFocusPolicy(Qt::NoFocus);
   setWidget(map);
   map->installEventFilter(this);
+  connect(map, &MapPicture::walked, this, [this] {
+    const QPoint at = m_map->pointOf(m_map->stop());
+    ensureVisible(at.x(), at.y(), viewport()->width() / Margin, viewport()->height() / Margin);
+  });
 }
 
 void MapView::setZoom(std::optional<double> zoom) {

@@ -1,6 +1,7 @@
 #include "ui/session/desk.h"
 
 #include "orders/order_list.h"
+#include "session/resolution_summary.h"
 #include "text/qt/text_codec.h"
 #include "ui/session/attempt.h"
 
@@ -122,7 +123,12 @@ void Desk::resolve() {
   const auto resolve = [&](Situation& next) {
     return session::Resolve(next, m_messages, session::Noting::Full, comparing);
   };
-  run(resolve, tr("Resolve %1").arg(text::ToQString(StageText(game()))));
+  const std::string stage(StageText(game()));
+  const std::size_t first = game().Stage == model::Stage::Moves ? 0 : now().Outcomes.size();
+  const bool done = run(resolve, tr("Resolve %1").arg(text::ToQString(stage)));
+  if (done) {
+    emit noted(text::ToQString(session::ResolutionSummary(now(), stage, first)));
+  }
   if (now().Stopped) emit stopped();
 }
 

@@ -145,6 +145,12 @@ void MainWindow::createPanels() {
   listenTo(m_editUnits);
   listenTo(m_editProvinces);
   connect(m_map, &MapPicture::hovered, this, &MainWindow::showPlace);
+  connect(m_map, &MapPicture::clickedWithoutMouse, this, [this] {
+    // The keyboard stays on the map, so the line is said elsewhere than in its box.
+    for (OrderEntryPanel* panel : {m_orders, m_retreats, m_adjustments}) {
+      if (!panel->isHidden()) panel->tellLine();
+    }
+  });
   connect(m_view, &MapView::zoomChanged, this, &MainWindow::leaveSpareWidth);
   // The units that a selected report line mentions are ringed on the map.
   connect(m_report, &ReportPanel::unitsPicked, m_map, &MapPicture::setMarks);
