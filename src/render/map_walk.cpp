@@ -15,10 +15,10 @@ using model::UnitType;
 
 /// How much worse a place is for every radian that it lies off the direction, in times its
 /// distance.
-constexpr double Aside = 1.0;
+constexpr double Aside = 1.5;
 
 /// As large as the angle may be: what lies further aside is another key's.
-const double Widest = std::atan(1.6);
+const double Widest = std::atan(1.4);
 
 /// How badly a place lies in a direction, the less the better: its distance, made longer by the
 /// angle between both; infinite where it lies elsewhere.

@@ -45,6 +45,7 @@
 #include <QFile>
 #include <QMenuBar>
 #include <QScreen>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -145,6 +146,7 @@ void MainWindow::createPanels() {
   listenTo(m_editUnits);
   listenTo(m_editProvinces);
   connect(m_map, &MapPicture::hovered, this, &MainWindow::showPlace);
+  new QShortcut(Qt::Key_F6, this, [this] { m_map->setFocus(Qt::TabFocusReason); });
   connect(m_map, &MapPicture::clickedWithoutMouse, this, [this] {
     // The keyboard stays on the map, so the line is said elsewhere than in its box.
     for (OrderEntryPanel* panel : {m_orders, m_retreats, m_adjustments}) {
