@@ -218,7 +218,7 @@ TEST_F(WhatIfTest, AnAnswerShowsWhatResolvingWithThatOrderWouldBring) {
 TEST_F(WhatIfTest, KeysLeadIntoATrialAndOutOfIt) {
   auto& banner = Find<QWidget>("fraTrial");
   Press(Qt::Key_T, Qt::ControlModifier);
-  Type(QStringLiteral("FRA A"));
+  Type(QStringLiteral("FRA X"));
   Press(Qt::Key_Escape);
   EXPECT_TRUE(banner.isVisible()) << "the box is emptied first";
   Press(Qt::Key_Up);

@@ -24,6 +24,10 @@ bool OrderBox::event(QEvent* event) {
   // Here, since the Tab key otherwise never gets to be a key of the box.
   if (event->type() == QEvent::KeyPress && completionsAreShown()) {
     auto& key = *static_cast<QKeyEvent*>(event);
+    if (key.key() == Qt::Key_Escape) {
+      m_completions->popup()->hide();
+      return true;
+    }
     const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
     if (enter || key.key() == Qt::Key_Tab) {
       if (!takeCompletion(enter)) QLineEdit::event(event);
