@@ -22,19 +22,24 @@ def waited(find, what):
     sys.exit(f"waited in vain: {what}")
 
 
-def all_of(node):
+def all_of(node, with_menus=False):
+    """The node and what is in it and shown; panels of other stages are there too, and hidden."""
     yield node
+    # What is looked for is no entry of a list, and the map alone has a place for each of its 81.
+    if node.getRoleName() in ("list", "table", "tree"):
+        return
     for index in range(node.childCount):
         child = node.getChildAtIndex(index)
-        if child is not None:
-            yield from all_of(child)
+        if child is None:
+            continue
+        is_menu = "menu" in child.getRoleName()
+        if with_menus if is_menu else child.getState().contains(pyatspi.STATE_SHOWING):
+            yield from all_of(child, with_menus)
 
 
-def find(root, name, *roles):
-    for node in all_of(root):
-        # Panels of other stages are there too, and hidden.
-        shown = node.getRoleName() == "menu item" or node.getState().contains(pyatspi.STATE_SHOWING)
-        if node.name == name and node.getRoleName() in roles and shown:
+def find(root, name, role):
+    for node in all_of(root, role == "menu item"):
+        if node.name == name and node.getRoleName() == role:
             return node
     return None
 
@@ -57,11 +62,11 @@ program = waited(window, "the program")
 the_map = waited(lambda: find(program, "Map", "list"), "the map")
 
 
+places = {node.name.split("(")[1].split(")")[0]: node for node in the_map}
+
+
 def place(abbreviation):
-    for node in the_map:
-        if f"({abbreviation})" in node.name.split("\u2013")[0]:
-            return node
-    sys.exit(f"no place {abbreviation}")
+    return places[abbreviation]
 
 
 def press(name):
