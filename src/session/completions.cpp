@@ -7,12 +7,14 @@
 namespace orb::session {
 namespace {
 
-/// The letters and digits alone, in lower case: what has to be typed.
-std::string Bare(std::string_view text) {
+/// The letters and digits alone, in lower case: what has to be typed. The dash of a move may be,
+/// and then only moves go on with it.
+std::string Bare(std::string_view text, bool withDash) {
   std::string bare;
   for (const char c : text) {
     const auto letter = static_cast<unsigned char>(c);
-    if (std::isalnum(letter) != 0) bare += static_cast<char>(std::tolower(letter));
+    if (std::isalnum(letter) != 0 || (withDash && c == '-'))
+      bare += static_cast<char>(std::tolower(letter));
   }
   return bare;
 }
@@ -32,19 +34,20 @@ bool Begins(const std::string& typed, std::string_view text, std::size_t power, 
 
 std::vector<std::string> Completions(const Situation& situation, std::string_view line, int power) {
   std::vector<std::string> found;
-  const std::string typed = Bare(line);
+  const bool dash = line.find('-') != std::string_view::npos;
+  const std::string typed = Bare(line, dash);
   if (typed.empty()) return found;
   for (const Choices& choices : PossibleOrders(situation)) {
     if (power != 0 && model::FindCountry(choices.Power) != power) continue;
-    const std::size_t powerLength = Bare(choices.Power).size();
-    const std::string unit = Bare(choices.Unit);
+    const std::size_t powerLength = choices.Power.size();
+    const std::string unit = Bare(choices.Unit, dash);
     const std::size_t typeLength = unit.empty() ? 0 : 1;
     if (Begins(typed, unit, unit.empty() ? 0 : powerLength, typeLength, false)) {
       found.push_back(choices.Unit + " ");
       continue;
     }
     for (const std::string& order : choices.Orders) {
-      if (order != line && Begins(typed, Bare(order), powerLength, typeLength, true))
+      if (order != line && Begins(typed, Bare(order, dash), powerLength, typeLength, true))
         found.push_back(order);
     }
   }
