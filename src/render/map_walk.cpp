@@ -24,8 +24,10 @@ const double Widest = std::atan(1.4);
 /// angle between both; infinite where it lies elsewhere.
 double Detour(const model::Province& from, const model::Province& to, Direction direction,
               double aspect) {
-  const double right = static_cast<double>(to.UnitX - from.UnitX) * aspect;
-  const double down = static_cast<double>(to.UnitY - from.UnitY);
+  const Point start = UnitPoint(from);
+  const Point end = UnitPoint(to);
+  const double right = (end.X - start.X) * aspect;
+  const double down = end.Y - start.Y;
   double ahead = 0;
   double beside = 0;
   switch (direction) {
