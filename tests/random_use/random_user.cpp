@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QColorDialog>
+#include <QDesktopServices>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QLabel>
@@ -90,10 +91,21 @@ bool isOutOfBounds(const QWidget& widget) {
          widget.window()->inherits("QAbstractPrintDialog");
 }
 
+/// Of what would be opened in other programs.
+const QStringList ElsewhereSchemes{QStringLiteral("mailto"), QStringLiteral("file")};
+
 }  // namespace
 
 RandomUser::RandomUser(unsigned seed, fs::path folder, ui::Places places, DiskWatch& disk)
-    : m_random(seed), m_folder(std::move(folder)), m_places(std::move(places)), m_disk(disk) {}
+    : m_random(seed), m_folder(std::move(folder)), m_places(std::move(places)), m_disk(disk) {
+  for (const QString& scheme : ElsewhereSchemes)
+    QDesktopServices::setUrlHandler(scheme, this, "leaveClosed");
+}
+
+RandomUser::~RandomUser() {
+  for (const QString& scheme : ElsewhereSchemes)
+    QDesktopServices::unsetUrlHandler(scheme);
+}
 
 void RandomUser::use(int events) {
   m_wanted = events;

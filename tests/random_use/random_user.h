@@ -5,6 +5,7 @@
 #include "ui/window/main_window.h"
 
 #include <QObject>
+#include <QUrl>
 
 #include <atomic>
 #include <functional>
@@ -26,6 +27,9 @@ class RandomUser : public QObject {
  public:
   /// `folder` holds the games and texts that are opened; everything is saved there.
   RandomUser(unsigned seed, std::filesystem::path folder, ui::Places places, DiskWatch& disk);
+  RandomUser(const RandomUser&) = delete;
+  RandomUser& operator=(const RandomUser&) = delete;
+  ~RandomUser() override;
 
   /// Does so many things, then closes all windows and ends the application.
   void use(int events);
@@ -41,6 +45,10 @@ class RandomUser : public QObject {
 
   int dialogs() const { return m_dialogs; }
   int starts() const { return m_starts; }
+
+ public slots:
+  /// Mails and files that would be opened in other programs stay closed.
+  void leaveClosed(const QUrl& /*url*/) {}
 
  private:
   // One thing after the other from the event loop, also from that of a dialog which the last thing
