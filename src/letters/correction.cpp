@@ -14,8 +14,8 @@ namespace {
 using model::GameState;
 using model::Unit;
 
-std::string SeasonText(const GameState& game) {
-  return game.Season + " " + std::to_string(game.Year) + ", " + std::string(StageText(game));
+std::string SeasonAndStage(const GameState& game) {
+  return SeasonText(game).append(", ").append(StageText(game));
 }
 
 std::string Or(const std::string& text, std::string_view nothing) {
@@ -26,7 +26,7 @@ class Comparison {
  public:
   Comparison(const GameState& before, const GameState& after) : before_(before), after_(after) {
     Whole(Subject::Title, "The title", before.Title, after.Title);
-    Whole(Subject::Season, "The season", SeasonText(before), SeasonText(after));
+    Whole(Subject::Season, "The season", SeasonAndStage(before), SeasonAndStage(after));
     Players();
     Units();
     Owners();
@@ -193,7 +193,7 @@ std::vector<Correction> Corrections(const GameState& before, const GameState& af
 std::string CorrectionNotice(const GameState& before, const GameState& after) {
   std::string notice;
   report::AddWrapped(after.Title, 0, notice);
-  report::AddWrapped(SeasonText(after), 0, notice);
+  report::AddWrapped(SeasonAndStage(after), 0, notice);
   notice.append("\n");
   const std::vector<Correction> corrections = Corrections(before, after);
   for (const Correction& correction : corrections)

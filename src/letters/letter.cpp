@@ -119,10 +119,6 @@ class Received {
   Part missing_{"Still to be ordered"};
 };
 
-std::string SeasonText(const GameState& game) {
-  return game.Season + " " + std::to_string(game.Year);
-}
-
 std::string Heading(const Situation& situation, int power) {
   const GameState& game = situation.Game;
   const model::Country& country = game.Countries[power];

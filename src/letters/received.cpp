@@ -88,7 +88,7 @@ Receipt ReceiptOf(const model::GameState& game, const std::vector<exchange::Read
                   const std::vector<exchange::ReadLine>& filed) {
   Receipt receipt;
   receipt.Time = TimeNow();
-  receipt.Stage = game.Season + " " + std::to_string(game.Year) + ", ";
+  receipt.Stage = SeasonText(game).append(", ");
   receipt.Stage.append(StageText(game));
   for (const exchange::ReadLine& line : filed)
     receipt.Filed.push_back(line.Order);

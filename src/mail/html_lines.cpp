@@ -12,6 +12,8 @@
 namespace orb::mail {
 namespace {
 
+using text::IsOneOf;
+
 constexpr std::array<std::string_view, 27> BlockTags{
     "br",    "p",     "div",   "tr",         "li",      "ul",      "ol",     "dl",   "dt",
     "dd",    "h1",    "h2",    "h3",         "h4",      "h5",      "h6",     "hr",   "pre",
@@ -19,11 +21,6 @@ constexpr std::array<std::string_view, 27> BlockTags{
 /// Elements whose content is no text.
 constexpr std::array<std::string_view, 4> HiddenTags{"head", "style", "script", "title"};
 constexpr std::array<std::string_view, 3> StrikingTags{"s", "strike", "del"};
-
-template <std::size_t Count>
-bool IsOneOf(std::string_view name, const std::array<std::string_view, Count>& names) {
-  return std::ranges::find(names, name) != names.end();
-}
 
 bool IsLetter(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');

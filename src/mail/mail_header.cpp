@@ -8,6 +8,8 @@
 namespace orb::mail {
 namespace {
 
+using text::IsOneOf;
+
 /// Labels that nobody but a mail program writes.
 constexpr std::array<std::string_view, 5> CertainLabels{"message-id", "mime-version", "received",
                                                         "content-type", "return-path"};
@@ -17,11 +19,6 @@ constexpr std::array<std::string_view, 4> MailLabels{"from", "to", "subject", "d
 constexpr std::array<std::string_view, 13> OtherLabels{
     "cc",         "bcc",        "sender",   "sent",   "references", "comments", "organization",
     "importance", "precedence", "priority", "status", "lines",      "keywords"};
-
-template <std::size_t Count>
-bool IsOneOf(std::string_view word, const std::array<std::string_view, Count>& words) {
-  return std::ranges::find(words, word) != words.end();
-}
 
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';

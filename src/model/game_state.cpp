@@ -22,6 +22,10 @@ std::string Caption(const GameState& game) {
   return caption;
 }
 
+std::string SeasonText(const GameState& game) {
+  return game.Season + " " + std::to_string(game.Year);
+}
+
 std::string_view StageText(const GameState& game) {
   return game.Stage == Stage::Other ? std::string_view(game.OtherStage) : StageName(game.Stage);
 }

@@ -68,6 +68,9 @@ GameState EmptyGame(std::shared_ptr<const Map> map);
 /// The window caption: ProgramName, followed by a blank and the title when the game has its own.
 std::string Caption(const GameState& game);
 
+/// "Spring 1901".
+std::string SeasonText(const GameState& game);
+
 /// The stage as files and reports have it.
 std::string_view StageText(const GameState& game);
 

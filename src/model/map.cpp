@@ -3,7 +3,6 @@
 namespace orb::model {
 namespace {
 
-constexpr std::size_t FixLength = 3;
 constexpr std::size_t ExactLength = 8;
 
 /// A number that differs for every two names of the same length up to ExactLength.

@@ -25,7 +25,9 @@ struct Province {
   std::string FullName;
 };
 
-/// An old abbreviation and the one that takes its place, both of three characters.
+constexpr std::size_t FixLength = 3;
+
+/// An old abbreviation and the one that takes its place, both of FixLength characters.
 struct NameFix {
   std::string From;
   std::string To;

@@ -15,8 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t FixLength = 3;
-
 [[noreturn]] void FailAtLine(const std::string& fileName, int line, const std::string& problem) {
   throw IndexOutOfRange(text::NameInText(fileName) + ", line " + std::to_string(line) + ": " +
                         problem);

@@ -119,7 +119,7 @@ std::string Position(const GameState& game) {
 }
 
 /// What the page has without a script: the map, and that it needs one.
-constexpr std::string_view Entry =
+constexpr std::string_view EntryForm =
     "<noscript><p class=\"remark\">Orders are entered by a script in this page; here it may not "
     "run. Open the page in another browser, or write the orders by hand.</p></noscript>\n"
     "<section class=\"words\" aria-labelledby=\"orders\" hidden id=\"entry\">\n"
@@ -152,7 +152,7 @@ std::string OrderSheet(const SheetRequest& request, Maps& maps) {
     throw model::FatalError("There are no orders to enter: the game is in the stage \"" +
                             std::string(model::StageText(game)) + "\".");
   }
-  const std::string season = game.Season + " " + std::to_string(game.Year);
+  const std::string season = SeasonText(game);
   std::string heading = std::string(StageTitle(game.Stage)) + ", " + season;
   if (!request.Power.empty()) {
     heading.append(", ").append(game.Countries[model::FindCountry(request.Power)].Name);
@@ -173,7 +173,7 @@ std::string OrderSheet(const SheetRequest& request, Maps& maps) {
   parts.Body =
       "<header class=\"top\">" + Element("h1", Text(game.Title)) + Element("p", Text(heading)) +
       "</header>\n<main class=\"sheet\">\n" + Chooser(request) + "<div class=\"columns\">\n" + map +
-      std::string(Entry) + "</div>\n" + Position(game) +
+      std::string(EntryForm) + "</div>\n" + Position(game) +
       "</main>\n<footer><p>Made by ORB. What you enter stays in this page.</p></footer>\n" +
       maps.Definitions();
   parts.Data = "{" +

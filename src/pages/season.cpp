@@ -40,7 +40,7 @@ Situation Follow(const std::vector<Source>& sources) {
 Season SeasonFrom(Situation now) {
   history::Replay replay = history::SeasonReplay(now.Game, now.Outcomes);
   Season season;
-  season.Name = now.Game.Season + " " + std::to_string(now.Game.Year);
+  season.Name = SeasonText(now.Game);
   season.Remark = std::string(session::RulesRemark(now));
   season.Start = std::move(replay.Start);
   season.End = std::move(replay.End);

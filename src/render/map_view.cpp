@@ -37,7 +37,7 @@ void DrawCaptions(Surface& surface, const GameState& game) {
   };
   surface.FontBold = true;
   caption(0.5, game.Title);
-  caption(1.5, game.Season + " " + std::to_string(game.Year));
+  caption(1.5, SeasonText(game));
   surface.FontBold = false;
   caption(2.5, StageCaption(game.Stage));
 }

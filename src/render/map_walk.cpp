@@ -4,7 +4,9 @@
 #include "render/drawing.h"
 #include "text/strings.h"
 
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <limits>
 #include <string>
 
@@ -17,6 +19,9 @@ using model::UnitType;
 /// distance.
 constexpr double Aside = 1.5;
 
+/// Rightwards and downwards, in the order of the directions.
+constexpr std::array Ways{Point{-1, 0}, Point{1, 0}, Point{0, -1}, Point{0, 1}};
+
 /// As large as the angle may be: what lies further aside is another key's.
 const double Widest = std::atan(1.4);
 
@@ -28,22 +33,9 @@ double Detour(const model::Province& from, const model::Province& to, Direction 
   const Point end = UnitPoint(to);
   const double right = (end.X - start.X) * aspect;
   const double down = end.Y - start.Y;
-  double ahead = 0;
-  double beside = 0;
-  switch (direction) {
-    case Direction::Left:
-      ahead = -right, beside = down;
-      break;
-    case Direction::Right:
-      ahead = right, beside = down;
-      break;
-    case Direction::Up:
-      ahead = -down, beside = right;
-      break;
-    case Direction::Down:
-      ahead = down, beside = right;
-      break;
-  }
+  const Point way = Ways[static_cast<std::size_t>(direction)];
+  const double ahead = right * way.X + down * way.Y;
+  const double beside = right * way.Y - down * way.X;
   const double angle = std::atan2(std::abs(beside), ahead);
   if (ahead <= 0 || angle > Widest) return std::numeric_limits<double>::infinity();
   return std::hypot(ahead, beside) * (1 + Aside * angle);

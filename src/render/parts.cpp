@@ -70,8 +70,7 @@ DrawnPart::DrawnPart(Surface& surface, const orders::OrderOutcome& order) : surf
 }
 
 DrawnPart::DrawnPart(Surface& surface, const model::GameState& game) : surface_(surface) {
-  surface.BeginPart(Surface::Part::Caption, "game",
-                    game.Title + ", " + game.Season + " " + std::to_string(game.Year));
+  surface.BeginPart(Surface::Part::Caption, "game", game.Title + ", " + SeasonText(game));
 }
 
 }  // namespace orb::render

@@ -166,8 +166,7 @@ std::string TextReport(const GameState& game, std::string_view remark) {
   AddWrapped(game.Title, 0, report);
   // A title of several lines is underlined over the full width.
   report.append(std::min(game.Title.size(), TextReportWidth), '=').append("\n");
-  AddWrapped(game.Season + " " + std::to_string(game.Year) + ", " + std::string(StageText(game)), 0,
-             report);
+  AddWrapped(SeasonText(game).append(", ").append(StageText(game)), 0, report);
   if (!remark.empty()) AddWrapped(remark, 0, report);
   for (const Section& section :
        {Report(game), SupplyCentres(game), AdjustmentsDue(game), Units(game), DislodgedUnits(game),

@@ -1,5 +1,7 @@
 #include "text/strings.h"
 
+#include <algorithm>
+
 namespace orb::text {
 
 std::string_view Trim(std::string_view text) {
@@ -28,6 +30,10 @@ std::string LowerCase(std::string_view text) {
     if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
   }
   return lower;
+}
+
+bool IsOneOf(std::string_view word, std::span<const std::string_view> words) {
+  return std::ranges::find(words, word) != words.end();
 }
 
 std::string_view NextField(std::string_view& line) {

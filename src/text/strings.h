@@ -24,6 +24,9 @@ inline void Assign(std::string& text, std::string_view value) {
   text = value;
 }
 
+/// Whether a word is one of a list, to the letter.
+bool IsOneOf(std::string_view word, std::span<const std::string_view> words);
+
 /// Cuts the text before the first "," off the line and returns it; the line keeps what follows.
 /// Without a "," the whole line is returned and the line becomes empty. Nothing is trimmed.
 std::string_view NextField(std::string_view& line);

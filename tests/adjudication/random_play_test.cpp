@@ -279,11 +279,11 @@ void CheckParticipants(const Resolution& resolution, const GameState& before,
 }
 
 /// How often each kind of outcome was met, so that the test cannot pass by meeting none.
-struct Tally {
+struct OutcomesMet {
   int Dislodged = 0, Removed = 0, Built = 0, ConvoysFailed = 0, Refused = 0;
 };
 
-void PlayStage(Player& player, GameState& game, Tally& tally) {
+void PlayStage(Player& player, GameState& game, OutcomesMet& tally) {
   const GameState before = game;
   ScriptedMessages messages;
   const Resolution resolution = adjudication::ResolveStage(game, messages);
@@ -305,7 +305,7 @@ void PlayStage(Player& player, GameState& game, Tally& tally) {
 }
 
 TEST(RandomPlay, KeepsWhatTheRulesPromise) {
-  Tally tally;
+  OutcomesMet tally;
   for (unsigned seed = 1; seed <= 4000 && !testing::Test::HasFailure(); ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     Player player(seed);

@@ -70,7 +70,7 @@ TEST(CommandLine, HelpNamesEveryOptionOfTheCommandAndGoesToStandardOutput) {
 }
 
 /// The words of a line as a shell parts them.
-std::vector<std::string> Words(std::string_view line) {
+std::vector<std::string> ShellWords(std::string_view line) {
   std::vector<std::string> words(1);
   bool isQuoted = false;
   for (const char c : line) {
@@ -90,7 +90,7 @@ TEST(CommandLine, EveryExampleIsOne) {
     EXPECT_FALSE(command->Examples.empty()) << command->Name;
     for (const cli::Example& example : command->Examples) {
       const std::string_view line = example.Line.substr(0, example.Line.find(" | "));
-      EXPECT_EQ(cli::ParseCommandLine(Words(line)).Verb, command) << line;
+      EXPECT_EQ(cli::ParseCommandLine(ShellWords(line)).Verb, command) << line;
     }
   }
 }

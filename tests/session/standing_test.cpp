@@ -15,7 +15,7 @@ using session::Rules;
 using session::Standing;
 using testing::ElementsAreArray;
 
-struct Row {
+struct Position {
   const char* Stage;
   std::vector<std::string> Lines;
   std::string Own;  ///< "ENG Lon Edi": centres
@@ -26,7 +26,7 @@ struct Row {
   session::Rules Rules = Rules::Orb;
 };
 
-const std::vector<Row> Rows = {
+const std::vector<Position> Rows = {
     {"moves", {}, "", "-", Standing::Idle, "England: no units", {}},
     {"moves", {"ENG A(Lvp) - Yor"}, "", "1/1", Standing::Complete, "England: 1 of 1 order", {}},
     {"moves",
@@ -120,7 +120,7 @@ const std::vector<Row> Rows = {
 };
 
 TEST(Standings, TellWhatIsThereInDoubtAndOpen) {
-  for (const Row& row : Rows) {
+  for (const Position& row : Rows) {
     SCOPED_TRACE(std::string(row.Stage) + ", " + row.Sentence);
     session::Situation situation{Board("Autumn", row.Stage, row.Lines)};
     situation.Rules = row.Rules;

@@ -94,10 +94,6 @@ struct Preview {
   QPushButton& ok;
 };
 
-QString Shown(const std::filesystem::path& path) {
-  return QString::fromStdString(path.string());
-}
-
 TEST_F(WindowTest, ImportedLinesAreCorrectedWhereTheyStand) {
   const auto file = directory_.Write(
       "orders.txt", "FRANCE\nHello!\nA Paris to Burgundy\nF Brest - \xC9xyz\nA Mar S Par - Bur\n");

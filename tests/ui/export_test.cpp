@@ -34,10 +34,6 @@ namespace {
 namespace fs = std::filesystem;
 using testing::ElementsAre;
 
-QString Shown(const fs::path& path) {
-  return QString::fromStdString(path.string());
-}
-
 QStringList PdfPages(const fs::path& file) {
   QProcess process;
   process.start("pdftotext", {"-layout", Shown(file), "-"});

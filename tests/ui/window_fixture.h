@@ -15,6 +15,11 @@
 
 namespace orb::tests {
 
+/// A path as dialogs take it.
+inline QString Shown(const std::filesystem::path& path) {
+  return QString::fromStdString(path.string());
+}
+
 /// The whole window with a program directory and a configuration of its own.
 class WindowTest : public testing::Test {
  protected:

@@ -13,10 +13,6 @@ namespace {
 constexpr int TryBound = 24;
 constexpr std::size_t LengthBound = 40;
 
-bool IsWordToken(const Token& token) {
-  return token.Kind == TokenKind::Word;
-}
-
 /// Whether words hold the beginning of an order whose end is not understood: what follows is a part
 /// of it then, and no order by itself.
 bool HoldsBeginning(Tokens words, const PlaceNames& names, bool isTyped) {

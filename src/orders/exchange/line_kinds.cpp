@@ -11,10 +11,6 @@
 namespace orb::exchange {
 namespace {
 
-bool IsWordToken(const Token& token) {
-  return token.Kind == TokenKind::Word;
-}
-
 std::ptrdiff_t CountWords(Tokens tokens) {
   return std::ranges::count_if(tokens, IsWordToken);
 }

@@ -14,7 +14,7 @@ struct Row {
 };
 
 // In the languages of the verbs, where they differ from English.
-constexpr std::array Rows{
+constexpr std::array ProseRows{
     Row{ProseUse::Lead,
         "o os de den der das het la le el os att at dat dass "
         "and so then also that while now finally first ok okay well let lets gonna und "
@@ -77,7 +77,7 @@ const IdiomTable& AllIdioms() {
 unsigned ProseUsesOf(std::string_view word) {
   static const auto table = [] {
     std::unordered_map<std::string_view, unsigned> all;
-    for (const Row& row : Rows) {
+    for (const Row& row : ProseRows) {
       for (const std::string_view each : Parts(row.Words, ' '))
         all[each] |= static_cast<unsigned>(row.Use);
     }

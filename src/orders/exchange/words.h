@@ -56,6 +56,9 @@ std::string Quoted(Tokens tokens);
 inline bool IsA(const Token& token, TokenKind kind) {
   return token.Kind == kind;
 }
+inline bool IsWordToken(const Token& token) {
+  return token.Kind == TokenKind::Word;
+}
 inline bool IsWord(const Token& token, std::string_view word) {
   return token.Kind == TokenKind::Word && token.Text == word;
 }

@@ -6,6 +6,7 @@
 #include "text/qt/text_codec.h"
 #include "ui/editing/colour_sample.h"
 #include "ui/widgets/controls.h"
+#include "ui/widgets/spacing.h"
 
 #include <QColorDialog>
 #include <QGridLayout>
@@ -18,8 +19,6 @@
 namespace orb::ui {
 namespace {
 
-constexpr int Gap = 12;
-constexpr int RowGap = 6;
 // In pixels at 96 dpi.
 constexpr QSize Swatch(44, 16);
 /// The room for the warning is fixed: the dialog must not jump while a colour is being chosen.
@@ -97,7 +96,7 @@ ColoursDialog::ColoursDialog(Desk& desk, QWidget* parent)
 
 void ColoursDialog::layOut() {
   auto* grid = new QGridLayout;
-  grid->setHorizontalSpacing(Gap);
+  grid->setHorizontalSpacing(GroupGap);
   grid->setVerticalSpacing(RowGap);
   grid->addWidget(newHeading(tr("Power")), 0, 0);
   grid->addWidget(newHeading(tr("Fill")), 0, 2);
@@ -112,7 +111,7 @@ void ColoursDialog::layOut() {
   QDialogButtonBox* buttons = newOkCancel(*this, tr("Colours and settings"));
   buttons->addButton(m_defaults, QDialogButtonBox::ResetRole);
   auto* rows = new QVBoxLayout(this);
-  rows->setSpacing(Gap);
+  rows->setSpacing(GroupGap);
   rows->addLayout(grid);
   if (!settings::InColour(m_desk.view().mapOptions.Mode))
     rows->addWidget(new QLabel(tr("The map is drawn without these colours now.")));
@@ -191,7 +190,7 @@ void editColours(Desk& desk, QWidget* parent) {
   dialog.adjustSize();
   // Beside the map where there is room, so that the map is seen to follow.
   const QRect around = parent->frameGeometry() & parent->screen()->availableGeometry();
-  dialog.move(around.right() - dialog.width() - Gap,
+  dialog.move(around.right() - dialog.width() - GroupGap,
               around.top() + std::max(0, (around.height() - dialog.height()) / 2));
   dialog.exec();
 }

@@ -23,7 +23,7 @@ using text::ToQString;
 
 constexpr int PowerColumns = 2;
 
-EditingTexts texts() {
+EditingTexts provinceTexts() {
   return {QStringLiteral("fraEditProvinces"),
           QStringLiteral("lstProvinces"),
           QObject::tr("Edit provinces"),
@@ -50,7 +50,7 @@ QString provinceLine(const GameState& game, int row) {
 }  // namespace
 
 EditProvincesPanel::EditProvincesPanel(Desk& desk, MapPicture& map, QWidget* parent)
-    : EditingPanel(desk, map, texts(), parent),
+    : EditingPanel(desk, map, provinceTexts(), parent),
       m_powers(new QButtonGroup(this)),
       m_give(newButton(QStringLiteral("butProvinceGive"), tr("Gi&ve"))),
       m_properties(newButton(QStringLiteral("butProvinceProperties"), tr("Propert&ies..."))) {

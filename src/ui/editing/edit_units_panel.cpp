@@ -24,7 +24,7 @@ using text::ToQString;
 /// How far a unit's symbol reaches, in pixels of the map's natural size.
 constexpr double SymbolReach = 10;
 
-EditingTexts texts() {
+EditingTexts unitTexts() {
   return {QStringLiteral("fraEditUnits"),
           QStringLiteral("lstUnits"),
           QObject::tr("Edit units"),
@@ -68,7 +68,7 @@ int nearestSymbol(const GameState& game, const MapSpot& spot, const QSizeF& size
 }  // namespace
 
 EditUnitsPanel::EditUnitsPanel(Desk& desk, MapPicture& map, QWidget* parent)
-    : EditingPanel(desk, map, texts(), parent),
+    : EditingPanel(desk, map, unitTexts(), parent),
       m_add(newButton(QStringLiteral("butUnitAdd"), tr("&Add..."))),
       m_properties(newButton(QStringLiteral("butUnitProperties"), tr("Propert&ies..."))),
       m_remove(newButton(QStringLiteral("butUnitRemove"), tr("&Remove"))),

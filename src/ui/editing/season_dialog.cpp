@@ -3,6 +3,7 @@
 #include "text/qt/text_codec.h"
 #include "ui/widgets/controls.h"
 #include "ui/widgets/fixed_font.h"
+#include "ui/widgets/spacing.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -15,8 +16,6 @@ namespace orb::ui {
 namespace {
 
 // Gaps are in pixels, widths in letters of the font.
-constexpr int Gap = 12;
-constexpr int RowGap = 6;
 constexpr int ColumnGap = 24;
 constexpr int TextColumns = 60;
 constexpr int NameColumns = 24;
@@ -77,7 +76,7 @@ SeasonDialog::SeasonDialog(const model::GameState& game, QWidget* parent)
   foot->addWidget(m_hint, 1);
   foot->addWidget(buttons);
   auto* rows = new QVBoxLayout(this);
-  rows->setSpacing(Gap);
+  rows->setSpacing(GroupGap);
   rows->addLayout(columns, 1);
   rows->addLayout(foot);
   showFacts();
@@ -119,7 +118,7 @@ QLayout* SeasonDialog::newFactsColumn() {
 
   auto* form = new QFormLayout;
   form->setVerticalSpacing(RowGap);
-  form->setHorizontalSpacing(Gap);
+  form->setHorizontalSpacing(GroupGap);
   form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
   form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   form->addRow(newHeading(tr("Game")));

@@ -18,7 +18,7 @@ namespace {
 
 // Pixels.
 constexpr int MapWidth = 420;
-constexpr QSize PreferredSize(1000, 560);
+constexpr QSize LettersSize(1000, 560);
 
 }  // namespace
 
@@ -58,7 +58,7 @@ LettersDialog::LettersDialog(std::vector<letters::Letter> letters, const QString
   rows->addWidget(buttons);
   connect(m_powers, &QListWidget::currentRowChanged, this, &LettersDialog::showLetter);
   m_powers->setCurrentRow(0);
-  resize(PreferredSize);
+  resize(LettersSize);
 }
 
 QLayout* LettersDialog::newColumns() {

@@ -14,7 +14,7 @@ namespace orb::ui {
 namespace {
 
 // Pixels.
-constexpr QSize PreferredSize(900, 520);
+constexpr QSize RegisterSize(900, 520);
 
 QString lineOf(const letters::Receipt& receipt) {
   QString line = QString::fromStdString(receipt.Time);
@@ -60,7 +60,7 @@ ReceivedDialog::ReceivedDialog(std::vector<letters::Receipt> receipts, const QSt
   connect(m_search, &QLineEdit::textChanged, this, &ReceivedDialog::showFound);
   connect(m_found, &QListWidget::currentRowChanged, this, &ReceivedDialog::showEntry);
   showFound();
-  resize(PreferredSize);
+  resize(RegisterSize);
 }
 
 void ReceivedDialog::showFound() {

@@ -2,6 +2,7 @@
 
 #include "model/lookups.h"
 #include "orders/order_list.h"
+#include "orders/parser.h"
 #include "render/map_walk.h"
 #include "text/qt/text_codec.h"
 #include "text/strings.h"
@@ -20,15 +21,11 @@ namespace {
 using text::ToQString;
 
 /// The orders of the stage for what stands in a place.
-QStringList ordersIn(const model::GameState& game, const std::string& place) {
+QStringList ordersIn(const model::GameState& game, int row) {
   QStringList found;
-  const std::vector<std::string>& lines = orders::StageList(game);
-  for (const model::Unit& unit : game.Units) {
-    if (!model::SamePlace(unit.Location, place)) continue;
-    const std::string beginning = text::LowerCase(model::UnitText(unit));
-    for (const std::string& line : lines) {
-      if (text::LowerCase(line).starts_with(beginning)) found << ToQString(line).trimmed();
-    }
+  for (const std::string& line : orders::StageList(game)) {
+    const orders::OrderLine order = orders::ParseLine(*game.Map, game.Stage, line);
+    if (model::IsSamePlace(*game.Map, order.Location, row)) found << ToQString(line).trimmed();
   }
   return found;
 }
@@ -36,12 +33,10 @@ QStringList ordersIn(const model::GameState& game, const std::string& place) {
 QString neighboursOf(const model::Map& map, int row) {
   QStringList names;
   for (int other = 1; other <= map.Provinces.Count(); ++other) {
-    // Coasts would repeat their provinces, but for those whom only coasts border on.
     const bool borders = model::IsAdjacent(map, model::UnitType::Army, row, other) ||
                          model::IsAdjacent(map, model::UnitType::Fleet, row, other);
     if (borders) names << ToQString(map.Provinces[other].FullName);
   }
-  names.removeDuplicates();
   return names.join(QStringLiteral(", "));
 }
 
@@ -67,7 +62,7 @@ class PlaceAccessible : public QAccessibleInterface, public QAccessibleActionInt
     if (kind == QAccessible::Name) return placeText(game, m_row);
     if (kind != QAccessible::Description) return {};
     QStringList parts;
-    const QStringList orders = ordersIn(m_map.desk().game(), game.Map->Provinces[m_row].Name);
+    const QStringList orders = ordersIn(game, m_row);
     if (!orders.isEmpty())
       parts << MapPicture::tr("Orders: %1.").arg(orders.join(QStringLiteral(", ")));
     parts << MapPicture::tr("Neighbours: %1.").arg(neighboursOf(*game.Map, m_row));

@@ -12,7 +12,6 @@
 #include "ui/map/picture_painting.h"
 #include "ui/session/attempt.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>

@@ -126,9 +126,7 @@ void Desk::resolve() {
   const std::string stage(StageText(game()));
   const std::size_t first = game().Stage == model::Stage::Moves ? 0 : now().Outcomes.size();
   const bool done = run(resolve, tr("Resolve %1").arg(text::ToQString(stage)));
-  if (done) {
-    emit noted(text::ToQString(session::ResolutionSummary(now(), stage, first)));
-  }
+  if (done) emit noted(text::ToQString(session::ResolutionSummary(now(), stage, first)));
   if (now().Stopped) emit stopped();
 }
 

@@ -25,7 +25,7 @@ QString stageName(model::Stage stage) {
 }  // namespace
 
 QString gameName(const model::GameState& game) {
-  const std::string season = game.Season + " " + std::to_string(game.Year);
+  const std::string season = SeasonText(game);
   return text::ToQString(game.Title.empty() ? season : game.Title + ", " + season);
 }
 

@@ -8,7 +8,7 @@ namespace orb::ui {
 namespace {
 
 constexpr int Whole = 1000;
-constexpr int Gap = 12;
+constexpr int RoomGap = 12;
 
 // Of a second part that nobody has given a share to.
 constexpr int LeastShare = 360;
@@ -19,7 +19,7 @@ constexpr int LinesLeft = 5;
 SharedRoom::SharedRoom(Qt::Orientation orientation, Unit unit, int wish)
     : QSplitter(orientation), m_unit(unit), m_wish(wish) {
   setChildrenCollapsible(false);
-  setHandleWidth(Gap);
+  setHandleWidth(RoomGap);
   connect(this, &QSplitter::splitterMoved, this, &SharedRoom::takeWish);
 }
 

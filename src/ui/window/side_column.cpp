@@ -4,7 +4,7 @@ namespace orb::ui {
 namespace {
 
 // Pixels.
-constexpr int Gap = 6;
+constexpr int ColumnGap = 6;
 
 }  // namespace
 
@@ -18,7 +18,7 @@ SideColumn::SideColumn(QWidget* powers, QWidget* brief, QWidget* facts)
   m_shares->addWidget(facts);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins({});
-  column->setSpacing(Gap);
+  column->setSpacing(ColumnGap);
   column->addWidget(powers);
   column->addWidget(brief);
   column->addWidget(m_shares, 1);
