@@ -81,8 +81,7 @@ std::vector<Moment> Timeline(std::vector<Moment> moments, const Moment& present)
     return std::tuple(PlaceInTime(a), b.Written, a.File) <
            std::tuple(PlaceInTime(b), a.Written, b.File);
   });
-  const auto copies = std::ranges::unique(moments, IsSameStage);
-  moments.erase(copies.begin(), copies.end());
+  moments.erase(std::unique(moments.begin(), moments.end(), IsSameStage), moments.end());
   return moments;
 }
 
