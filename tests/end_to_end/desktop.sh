@@ -46,6 +46,9 @@ window_is_activated() {
   window_takes_keys
 }
 
+# The title has the system's mark of what is not saved.
+game_is_changed() { [[ $(xdotool getwindowname "$window" 2>> "$work/log") == *'*'* ]]; }
+
 dialog_takes_keys() {
   local active
   active=$(xdotool getactivewindow 2>> "$work/log") && [[ "$active" != "$window" ]]
