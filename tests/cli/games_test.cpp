@@ -334,48 +334,6 @@ TEST(Check, PrintsEachProblemAndWritesNothing) {
   EXPECT_EQ(shell.Listing(), "a.orb o.txt ");
 }
 
-TEST(Rules, AreChosenComparedAndTriedOut) {
-  const Shell shell;
-  shell.Write("a.orb", GameFile("Spring", "moves", "RUS F(Stp.s)\nGER F(Den)\n"));
-  shell.Write("o.txt", "RUS F(Stp) - BOT\nGER F(Den) hold\n");
-  const std::string game = shell.Read("a.orb");
-  const std::string usual = "  RUS F(Stp) - BOT  \n  GER F(Den) hold  \n";
-  const std::string moved = "It moved: the place was empty and no other move aimed there.";
-  const std::string refused =
-      "There is no such unit: RUS has no F(Stp); its unit there is F(Stp.s).";
-  const Outcome tried = shell.Run("resolve --orders @o.txt --rules usual --compare --try @a.orb");
-  EXPECT_EQ(tried.Out, usual);
-  EXPECT_EQ(tried.Err,
-            "@a.orb: 1 order came out otherwise than by ORB's own rules\n"
-            "@a.orb: RUS F(Stp) - BOT: " +
-                moved + " By ORB's own rules: " + refused + "\n");
-  EXPECT_EQ(tried.Status, 0);
-  EXPECT_EQ(shell.Listing(), "a.orb o.txt ");
-  EXPECT_EQ(shell.Read("a.orb"), game);
-  const Outcome orb = shell.Run("resolve --yes --orders @o.txt --compare -o @b.orb @a.orb");
-  EXPECT_THAT(orb.Err, HasSubstr("@a.orb: 1 order came out otherwise than by the usual rules\n"
-                                 "@a.orb: RUS F(Stp) - BOT: " +
-                                 refused + " By the usual rules: "));
-  EXPECT_EQ(shell.Run("resolve --orders @o.txt --rules usual --in-place @a.orb").Out, usual);
-  EXPECT_THAT(shell.Read("a.orb"), HasSubstr("BOT"));
-  EXPECT_EQ(shell.Run("resolve --try @a.orb").Status, 1) << "the season is finished";
-  shell.Write("a.orb", game);
-  EXPECT_EQ(shell.Run("check --orders @o.txt @a.orb").Err,
-            "@a.orb: RUS F(Stp) - BOT: By the usual rules: it is for RUS F(Stp.s)\n");
-  EXPECT_EQ(shell.Run("check --rules usual --orders @o.txt @a.orb").Status, 0);
-}
-
-TEST(WhatIf, GroupsTheChangesByPower) {
-  const Shell shell;
-  shell.Write("a.orb", TwoUnitGame());
-  shell.Write("o.txt", "FRA A(Par) - Bur\nGER A(Mun) - Bur\n");
-  const Outcome outcome = shell.Run(
-      std::vector<std::string>{"whatif", "--orders", "@o.txt", "@a.orb", "FRA A(Par) - Bur"});
-  EXPECT_EQ(outcome.Status, 0) << outcome.Err;
-  EXPECT_THAT(outcome.Out, StartsWith("FRA A(Par) - Bur: It failed: strength 1 is not more"));
-  EXPECT_THAT(outcome.Out, HasSubstr("\nGER\n  GER A(Mun) hold: It moved: the place was empty"));
-}
-
 TEST(Progress, IsShownForLongRunsOnATerminalAndClearedAtTheEnd) {
   const Shell shell;
   shell.MakeDirectory("out");
@@ -401,52 +359,6 @@ TEST(Games, ManyShownHaveHeadings) {
   const Outcome two = shell.Run("show @a.orb @none.orb @a.orb");
   EXPECT_EQ(one.Status * 10 + two.Status, 1);
   EXPECT_EQ(two.Out, "== @a.orb\n" + one.Out + "== @a.orb\n" + one.Out);
-}
-
-TEST(Map, IsDrawnInTheFormatOfItsExtension) {
-  const Shell shell;
-  shell.Write("a.orb", TwoUnitGame());
-  const std::vector<std::pair<std::string, std::string>> cases{
-      {"m.png", "\x89PNG"}, {"m.BMP", "BM"}, {"m.svg", "<?xml"}, {"m.pdf", "%PDF"}};
-  for (const auto& [name, start] : cases) {
-    const Outcome outcome =
-        shell.Run("map --mode grey --centre-count --borders --centre-owners --width 400 -o @" +
-                  name + " @a.orb");
-    EXPECT_EQ(outcome.Status, 0) << outcome.Err;
-    EXPECT_EQ(outcome.Err + outcome.Out, "");
-    EXPECT_THAT(shell.Read(name), StartsWith(start));
-  }
-  // A bitmap has its width in bytes 18 and 19.
-  EXPECT_EQ(shell.Read("m.BMP").substr(18, 2), "\x90\x01");
-  EXPECT_EQ(shell.Run("map --width 1 -o @m.bmp @a.orb").Status, 0);
-  shell.Write("b.orb", GameFile("Spring", "finished", "ENG F(NTH)"));
-  const std::string animate = "map --animate --tint-by-owner --letters --width 100 -o @m.gif ";
-  for (const char* games : {"@a.orb", "@b.orb", "@b.orb @a.orb"}) {
-    EXPECT_EQ(shell.Run(animate + games).Err, "");
-    EXPECT_THAT(shell.Read("m.gif"), StartsWith("GIF89a"));
-  }
-}
-
-TEST(Map, ShowsTheOrdersOfAFile) {
-  const Shell shell;
-  shell.Write("a.orb", TwoUnitGame());
-  shell.Write("o.txt", "ENG F(Lon) - NTH\nnonsense\n");
-  shell.Write("none.txt", "\n \n");
-  shell.MakeDirectory("orders");
-  const auto drawn = [&shell](const std::string& options) {
-    const Outcome outcome = shell.Run("map --width 300 -o @m.bmp " + options + "@a.orb");
-    EXPECT_EQ(outcome.Err + outcome.Out, "");
-    return shell.Read("m.bmp");
-  };
-  const std::string plain = drawn("");
-  EXPECT_NE(drawn("--orders @o.txt "), plain);
-  EXPECT_EQ(drawn("--orders @none.txt "), plain);
-  EXPECT_EQ(drawn("--orders @orders "), plain) << "no file in the directory";
-  EXPECT_EQ(shell.Run("map --orders @gone.txt -o @n.bmp @a.orb").Status, 1);
-  shell.Write("f.orb", GameFile("Spring", "finished", "ENG F(Lon)"));
-  EXPECT_EQ(shell.Run("map --orders @o.txt -o @n.bmp @f.orb").Err,
-            "@f.orb: There are no orders to draw in the stage \"finished\".\n");
-  EXPECT_EQ(shell.Read("n.bmp"), "none");
 }
 
 }  // namespace

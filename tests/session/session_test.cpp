@@ -28,7 +28,6 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::Pair;
-using testing::StartsWith;
 
 constexpr int FrenchArmy = 4;
 constexpr int GermanArmy = 7;
@@ -316,23 +315,6 @@ TEST_F(Session, TakingBackKeepsWhatIsNoneOfTheGame) {
   EXPECT_EQ(session_.Steps().LeftBehind(), nullptr);
 }
 
-TEST(History, ForgetsTheOldestStepsWhereTheyTakeTooMuch) {
-  session::History history(1'000'000);
-  Situation large{EmptyBoard("Spring", "moves")};
-  large.Game.OrdersList.assign(1, std::string(300'000, 'x'));
-  for (int i = 0; i < 10; ++i)
-    history.Record({std::to_string(i)}, large);
-  int kept = 0;
-  history.ForEach([&](Situation& /*there*/) { ++kept; });
-  EXPECT_TRUE(kept == 2 || kept == 3) << kept;
-  EXPECT_EQ(history.Last()->Name.Text, "9");
-  large.Game.ReportLines.Append(std::string(2'000'000, 'x'));
-  history.Record({"too large"}, large);
-  ASSERT_NE(history.Last(), nullptr);
-  history.Back(large);
-  EXPECT_EQ(history.Last(), nullptr);
-}
-
 TEST_F(Session, WhatFailsOrIsDeclinedLeavesEverything) {
   FileAll({"ENG A(Lvp) - Yor"});
   Resolve();
@@ -414,45 +396,6 @@ TEST_F(Session, AnUnknownLocationBeginsANewGame) {
             "CONCORDATSpringmoves");
   EXPECT_EQ(Game().Units.Count(), 22);
   EXPECT_THAT(Game().OrdersList, IsEmpty());
-}
-
-TEST(Commands, RefuseInAStageWhereTheyMeanNothing) {
-  ScriptedMessages messages;
-  const Command next = session::NextSeason;
-  const Command undo = [&](Situation& situation) { session::UndoSeason(situation, messages); };
-  const Command check = [](Situation& situation) { session::CheckOrders(situation); };
-  const Command draw = [](Situation& situation) { session::EnteredOrders(situation); };
-  const Command resolve = [&](Situation& situation) { session::Resolve(situation, messages); };
-  const std::vector<std::tuple<const char*, Command, const char*>> cases = {
-      {"moves", next, "The season is not finished: the game is in the stage \"moves\"."},
-      {"adjustments", next,
-       "The season is not finished: the game is in the stage \"adjustments\"."},
-      {"moves", undo, "There is nothing to take back: the season is at its start."},
-      {"finished", check, "There are no orders to check in the stage \"finished\"."},
-      {"finished", draw, "There are no orders to draw in the stage \"finished\"."},
-      {"finished", resolve, "There is nothing to resolve in the stage \"finished\"."},
-  };
-  for (const auto& row : cases) {
-    const auto run = [&row] {
-      Situation situation{EmptyBoard("Spring", std::get<0>(row))};
-      std::get<1>(row)(situation);
-    };
-    EXPECT_THAT(run, testing::ThrowsMessage<model::FatalError>(std::get<2>(row)));
-  }
-}
-
-TEST(Commands, OrdersOfATextTakeThePlaceOfTheList) {
-  Situation situation{Board("Spring", "moves", {"ENG A(Lon) hold", "ENG F(Edi)", "FRA A(Par)"})};
-  ScriptedMessages no({Answer::No});
-  const auto unclear =
-      session::ReplaceOrdersByText(situation, "F Edi-Clyed\nA Paris to somewhere\n", {"ENG", {}},
-                                   session::Doubtful::LeftOut, no);
-  EXPECT_THAT(situation.Game.OrdersList, ElementsAre("ENG F(Edi) - Cly"));
-  ASSERT_EQ(no.Shown.size(), 1U);
-  EXPECT_EQ(no.Shown[0].first, "F Edi-Clyed: \"Clyed\" is read as Clyde");
-  ASSERT_EQ(unclear.size(), 1U);
-  EXPECT_FALSE(session::GoOnWithout(unclear, no));
-  EXPECT_THAT(no.Questions, ElementsAre(StartsWith("Warning: A Paris to somewhere\r")));
 }
 
 }  // namespace
