@@ -45,12 +45,25 @@ std::string Argument(const Command& command, const Option& option, std::string_v
   return Quoted(takesValue ? text + Proposals(option) : text);
 }
 
+/// A game as an argument; `which` of them as _arguments counts.
+std::string Game(std::string_view which) {
+  return Quoted(std::string(which).append(":game:_files -g \"*.orb\""));
+}
+
 std::string Games(const Command& command) {
-  std::string files = ":game:_files -g \"*.orb\"";
-  if (command.Takes == Games::Several) return Quoted(files.insert(0, "*"));
-  if (command.Takes == Games::None) return {};
-  files = Quoted(files.insert(0, "1"));
-  return command.Takes == Games::One ? files : files.append(" '2:order:'");
+  switch (command.Takes) {
+    case Games::One:
+      return Game("1");
+    case Games::Two:
+      return Game("1").append(" ").append(Game("2"));
+    case Games::Several:
+      return Game("*");
+    case Games::OneAndOrder:
+      return Game("1").append(" '2:order:'");
+    case Games::None:
+      break;
+  }
+  return {};
 }
 
 std::string Arguments(const Command& command) {
