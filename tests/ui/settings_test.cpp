@@ -106,10 +106,11 @@ TEST_F(SettingsTest, SizeZoomAndFilesAreRemembered) {
   Trigger("mnuMapZoom100");
   Trigger("mnuMapZoomIn");
   EXPECT_EQ(Find<QWidget>("picMap").width(), 1250);
-  window_->resize(1100, 700);
+  // Newer versions of Qt restore no window that is larger than the screen, here of 800 by 800.
+  window_->resize(780, 700);
   window_->close();
   Open(examples_ / "1901-2-autumn-0-start.orb");
-  EXPECT_EQ(window_->size(), QSize(1100, 700));
+  EXPECT_EQ(window_->size(), QSize(780, 700));
   EXPECT_EQ(Find<QWidget>("picMap").width(), 1250);
   Trigger("mnuMapZoomFit");
   EXPECT_LE(Find<QWidget>("picMap").width(), Find<QWidget>("scrMap").width());

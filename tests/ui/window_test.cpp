@@ -208,7 +208,7 @@ TEST_F(WindowTest, OpenBeginsWithTheFilterOfTheLastFileAndMayBeForReadingOnly) {
       EXPECT_EQ(files.windowTitle(), Titled(" Open"));
       EXPECT_EQ(files.fileMode(), QFileDialog::ExistingFile);
       EXPECT_EQ(files.findChild<QLineEdit*>()->text(), "");
-      EXPECT_EQ(files.selectedNameFilter(), filter);
+      EXPECT_EQ(files.findChild<QComboBox*>("fileTypeCombo")->currentText(), filter);
       files.findChild<QCheckBox*>("chkReadOnly")->setChecked(readOnly);
       FileChosen(QString::fromStdString(file.string()))(dialog);
     }});
@@ -259,7 +259,8 @@ TEST_F(WindowTest, SaveAsksProposesAndLowersTheName) {
       EXPECT_EQ(files->windowTitle(), Titled(" Save As"));
       EXPECT_EQ(files->acceptMode(), QFileDialog::AcceptSave);
       EXPECT_EQ(files->findChild<QLineEdit*>()->text(), "con_s01.orb");
-      EXPECT_EQ(files->selectedNameFilter(), "Concordat files: *.orb");
+      EXPECT_EQ(files->findChild<QComboBox*>("fileTypeCombo")->currentText(),
+                "Concordat files: *.orb");
       files->reject();
     }});
     Trigger("mnuFileSave");
