@@ -8,6 +8,10 @@ import pyatspi
 from gi.repository import Atspi, GLib
 
 
+# Newer versions of the bus have the second name for the role.
+BUTTON = ("push button", "button")
+
+
 def waited(find, what):
     """The first answer of find() that is not None or False; complaints are left to time."""
     until = time.time() + 40
@@ -37,9 +41,9 @@ def all_of(node, with_menus=False):
             yield from all_of(child, with_menus)
 
 
-def find(root, name, role):
-    for node in all_of(root, role == "menu item"):
-        if node.name == name and node.getRoleName() == role:
+def find(root, name, *roles):
+    for node in all_of(root, "menu item" in roles):
+        if node.name == name and node.getRoleName() in roles:
             return node
     return None
 
@@ -70,7 +74,7 @@ def place(abbreviation):
 
 
 def press(name):
-    act(waited(lambda: find(program, name, "push button"), name))
+    act(waited(lambda: find(program, name, *BUTTON), name))
 
 
 def order(*steps):
@@ -98,7 +102,7 @@ def resolve(stage):
         if status_has(f"{stage} resolved: "):
             return True
         for agreement in ("Yes to All", "Yes"):
-            button = find(program, agreement, "push button")
+            button = find(program, agreement, *BUTTON)
             if button is not None:
                 act(button)
                 break
