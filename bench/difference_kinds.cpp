@@ -5,8 +5,6 @@
 namespace orb::survey {
 namespace {
 
-using adjudication::Resolution;
-using model::GameState;
 using orders::OrderLine;
 using orders::OrderResult;
 

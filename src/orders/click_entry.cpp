@@ -59,7 +59,7 @@ std::string HomePowerOf(const model::Map& map, std::string_view location) {
 
 /// The place of a unit, as the other type would be written there: "Stp" becomes "Stp." for a fleet.
 std::string PlaceFor(const model::Map& map, std::string_view place, std::string_view unitType) {
-  const std::string province(place.substr(0, place.find('.')));
+  std::string province(place.substr(0, place.find('.')));
   if (unitType != "F") return province;
   const bool lacksCoast = province == place && !CanStandIn(map, unitType, province) &&
                           !CoastsToChoose(map, "(" + province + ".").empty();

@@ -10,7 +10,7 @@ namespace orb::session {
 namespace {
 
 std::size_t SizeOf(const std::string& text) {
-  return sizeof(text) + text.capacity();
+  return sizeof(std::string) + text.capacity();
 }
 
 std::size_t SizeOf(const model::Unit& unit) {

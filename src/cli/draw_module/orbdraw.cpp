@@ -6,7 +6,9 @@
 
 #include <QGuiApplication>
 
+#include <array>
 #include <exception>
+#include <string>
 
 namespace {
 
@@ -19,9 +21,9 @@ void ExpectApplication() {
   qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
   qputenv("QT_QPA_PLATFORM", "offscreen");
   static int argc = 1;
-  static char name[] = "orbdraw";
-  static char* argv[] = {name, nullptr};
-  static const auto* const application = new QGuiApplication(argc, argv);
+  static std::string name = "orbdraw";
+  static std::array<char*, 2> argv{name.data(), nullptr};
+  static const auto* const application = new QGuiApplication(argc, argv.data());
   static_cast<void>(application);
 }
 

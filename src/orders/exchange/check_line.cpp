@@ -105,8 +105,9 @@ std::vector<std::string> SheetWarnings(const model::GameState& game, std::string
       add("The order sheet of " + sheetPower + " is of " + Blanked(season) + "; the game is in " +
           Blanked(own[1]) + ".");
     } else if (stage != own[2]) {
-      add("The order sheet of " + sheetPower + " is for the stage \"" + stage +
-          "\"; the game is in the stage \"" + own[2] + "\".");
+      std::string wrong("The order sheet of ");
+      wrong.append(sheetPower).append(" is for the stage \"").append(stage);
+      add(wrong.append("\"; the game is in the stage \"").append(own[2]).append("\"."));
     }
     if (!power.empty() && sheetPower != power) {
       add("The order sheet is of " + sheetPower + ", not of " + std::string(power) + ".");

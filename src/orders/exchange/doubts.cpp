@@ -73,7 +73,7 @@ bool ExcludesOther(Tokens remark, const OwnWords& own, const PlaceNames& names) 
 bool IsOutcome(Tokens remark) {
   const auto first = std::ranges::find(remark, TokenKind::Word, &Token::Kind);
   if (first == remark.end() || first->Begin == 0 || !HasUse(*first, WordUse::Purpose)) return false;
-  return first->Written.data()[-1] == '*';
+  return *std::prev(first->Written.data()) == '*';
 }
 
 /// Whether the writer signs with one word behind a sentence: "A Par - Bur. /Anders".

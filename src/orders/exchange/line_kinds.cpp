@@ -180,6 +180,20 @@ Evidence Weigh(Tokens tokens, const PlaceNames& names) {
   return evidence;
 }
 
+/// The power of a line that is nothing but an address: "F:", "Russia, for what it is worth:"; 0: it
+/// is more, or none.
+int AddressedPower(Tokens tokens, const PlaceNames& names) {
+  if (tokens.size() == 2 && Is(tokens, 1, TokenKind::Colon)) {
+    if (const int power = PowerOfInitial(tokens[0]); power != 0) return power;
+  }
+  const PowerName addressed = PowerAt(tokens, 0);
+  if (addressed.Power == 0 || !Is(tokens, addressed.Next, TokenKind::Comma)) return 0;
+  const Tokens rest = tokens.subspan(addressed.Next + 1);
+  const bool isAside = std::ranges::any_of(
+      rest, [](const Token& token) { return HasUse(token, WordUse::Condition, WordUse::Aside); });
+  return isAside || rest.empty() || HoldsOrderWords(rest, names) ? 0 : addressed.Power;
+}
+
 }  // namespace
 
 bool NamesPlace(Tokens tokens, const PlaceNames& names) {
@@ -200,21 +214,8 @@ bool HoldsOrderWords(Tokens tokens, const PlaceNames& names) {
 std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
   Heading heading;
   bool hasWord = false;
-  if (tokens.size() == 2 && Is(tokens, 1, TokenKind::Colon) && PowerOfInitial(tokens[0]) != 0) {
-    heading.Power = PowerOfInitial(tokens[0]);
-    return heading;
-  }
-  // "Russia, for what it is worth:"
-  const PowerName addressed = PowerAt(tokens, 0);
-  if (addressed.Power != 0 && Is(tokens, addressed.Next, TokenKind::Comma)) {
-    const Tokens rest = tokens.subspan(addressed.Next + 1);
-    const bool isAside = std::ranges::any_of(
-        rest, [](const Token& token) { return HasUse(token, WordUse::Condition, WordUse::Aside); });
-    if (!isAside && !rest.empty() && !HoldsOrderWords(rest, names)) {
-      heading.Power = addressed.Power;
-      return heading;
-    }
-  }
+  heading.Power = AddressedPower(tokens, names);
+  if (heading.Power != 0) return heading;
   // "Hi, Russia builds".
   const bool isGreeted =
       tokens.size() > 2 && HasUse(tokens[0], WordUse::Greeting) && Is(tokens, 1, TokenKind::Comma);

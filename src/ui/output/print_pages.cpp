@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <vector>
 
 namespace orb::ui {
@@ -113,19 +114,19 @@ double lineHeight(const Job& job) {
 std::vector<QRectF> mapPlaces(const Job& job) {
   const auto count = static_cast<double>(job.game.maps.size());
   const double gaps = (count - 1) * lineHeight(job);
-  const QSizeF rooms[] = {{job.body.width(), (job.body.height() - gaps) / count},
-                          {(job.body.width() - gaps) / count, job.body.height()}};
-  const QSizeF below = job.game.mapShape.scaled(rooms[0], Qt::KeepAspectRatio);
-  const QSizeF beside = job.game.mapShape.scaled(rooms[1], Qt::KeepAspectRatio);
+  const QSizeF row(job.body.width(), (job.body.height() - gaps) / count);
+  const QSizeF column((job.body.width() - gaps) / count, job.body.height());
+  const QSizeF below = job.game.mapShape.scaled(row, Qt::KeepAspectRatio);
+  const QSizeF beside = job.game.mapShape.scaled(column, Qt::KeepAspectRatio);
   const bool isBelow = below.width() >= beside.width();
   const QSizeF& size = isBelow ? below : beside;
   const double across = isBelow ? size.width() : count * size.width() + gaps;
+  const QPointF step = isBelow ? QPointF(0, size.height() + lineHeight(job))
+                               : QPointF(size.width() + lineHeight(job), 0);
   std::vector<QRectF> places;
-  for (double i = 0; i < count; ++i) {
-    const QPointF step = isBelow ? QPointF(0, size.height() + lineHeight(job))
-                                 : QPointF(size.width() + lineHeight(job), 0);
-    places.emplace_back(QPointF((job.body.width() - across) / 2, 0) + i * step, size);
-  }
+  QPointF place((job.body.width() - across) / 2, 0);
+  for (std::size_t i = 0; i < job.game.maps.size(); ++i, place += step)
+    places.emplace_back(place, size);
   return places;
 }
 
