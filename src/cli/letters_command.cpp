@@ -7,6 +7,7 @@
 #include "model/errors.h"
 #include "model/files.h"
 #include "render/map_module.h"
+#include "session/files_beside.h"
 #include "session/trial.h"
 
 #include <system_error>
@@ -21,6 +22,8 @@ constexpr std::array Options{OptionId::Orders,         OptionId::Loose,  OptionI
 constexpr Example Examples[] = {
     {"what was received from each power, and what is wrong with it",
      "letters --loose --orders mail.txt -o letters league.orb"},
+    {"what became of each power's orders and why, with the game file before the moves beside it",
+     "letters -o letters league_s01_moves.orb"},
     {"what becomes of each power's orders and why, before the game is written",
      "letters --try --orders s01.txt -o letters league.orb"},
 };
@@ -53,6 +56,7 @@ int Execute(const CommandLine& line, Console& console) {
     for (const exchange::ReadLine& left : orders.Take(at.Situation, at.Paths, at.Messages))
       console.Say(at.Paths.Game, left.Written + ": " + session::LeftOutReason(left));
     at.Situation.Rules = rules;
+    at.Situation = session::ToldByFilesBeside(std::move(at.Situation));
     if (line.Has(OptionId::Try)) at.Situation = session::TryOut(at.Situation);
     ExpectDirectory(at.Paths.Output);
     const std::vector<letters::Letter> all = letters::Letters(at.Situation);

@@ -3,6 +3,7 @@
 #include "adjudication/possible_orders.h"
 #include "model/counts.h"
 #include "model/lookups.h"
+#include "report/report_lines.h"
 #include "report/wrapped_text.h"
 
 #include <algorithm>
@@ -13,6 +14,7 @@ namespace {
 
 using model::GameState;
 using model::Unit;
+using session::Situation;
 
 std::string SeasonAndStage(const GameState& game) {
   return SeasonText(game).append(", ").append(StageText(game));
@@ -22,12 +24,42 @@ std::string Or(const std::string& text, std::string_view nothing) {
   return text.empty() ? std::string(nothing) : text;
 }
 
+/// A line of the report about the moves, as it came out.
+struct Move {
+  std::string Order;  ///< "FRA A(Par) - Bur"
+  std::string Result;
+  std::string Reason;
+};
+
+/// The orders of the season's moves that somebody gave to a unit of the board.
+std::vector<Move> MovesOf(const Situation& situation) {
+  std::vector<Move> moves;
+  const auto& lines = situation.Game.ReportLines;
+  for (int i = 1; i <= lines.Count(); ++i) {
+    const auto row = static_cast<std::size_t>(i - 1);
+    if (row >= situation.Notes.size() || situation.Notes[row].Order.empty()) continue;
+    const report::ReportLine line = report::TakeApart(lines[i]);
+    // A move that bounced has no word in the report.
+    const char* result = line.Failed ? "bounced" : "carried out";
+    moves.push_back({line.Order, Or(line.Result, result), situation.Notes[row].Reason});
+  }
+  return moves;
+}
+
+/// "FRA A(Par)"
+std::string_view UnitOf(const Move& move) {
+  return std::string_view(move.Order).substr(0, move.Order.find(')') + 1);
+}
+
 class Comparison {
  public:
-  Comparison(const GameState& before, const GameState& after) : before_(before), after_(after) {
-    Whole(Subject::Title, "The title", before.Title, after.Title);
-    Whole(Subject::Season, "The season", SeasonAndStage(before), SeasonAndStage(after));
+  Comparison(const Situation& first, const Situation& second)
+      : before_(first.Game), after_(second.Game) {
+    Whole(Subject::Title, "The title", before_.Title, after_.Title);
+    Whole(Subject::Season, "The season", SeasonAndStage(before_), SeasonAndStage(after_));
     Players();
+    if (before_.Season == after_.Season && before_.Year == after_.Year)
+      Orders(MovesOf(first), MovesOf(second));
     Units();
     Owners();
     Retreats();
@@ -60,6 +92,35 @@ class Comparison {
       Add(Subject::Player, after_.Countries[power].Abbreviation, before, after,
           name + " is played by " + Or(after, "nobody") + " instead of " + Or(before, "nobody") +
               ".");
+    }
+  }
+
+  /// Nothing where one of the situations does not know how its moves came out.
+  void Orders(std::vector<Move> before, const std::vector<Move>& after) {
+    if (before.empty() || after.empty()) return;
+    for (const Move& now : after) {
+      auto was = std::ranges::find(before, now.Order, &Move::Order);
+      if (was == before.end()) was = std::ranges::find(before, UnitOf(now), UnitOf);
+      if (was == before.end()) {
+        Add(Subject::Order, now.Order, {}, now.Result,
+            now.Order + " was ordered, which was missing. " + now.Reason);
+      } else {
+        Ordered(*was, now);
+        before.erase(was);
+      }
+    }
+    for (const Move& was : before)
+      Add(Subject::Order, was.Order, was.Result, {}, was.Order + " was not ordered.");
+  }
+
+  void Ordered(const Move& was, const Move& now) {
+    if (was.Order != now.Order) {
+      Add(Subject::Order, now.Order, was.Order, now.Order,
+          now.Order + " was ordered instead of " + was.Order + ". " + now.Reason);
+    } else if (was.Result != now.Result) {
+      Add(Subject::Order, now.Order, was.Result, now.Result,
+          "The result of " + now.Order + " is \"" + now.Result + "\" instead of \"" + was.Result +
+              "\". " + now.Reason);
     }
   }
 
@@ -186,14 +247,14 @@ class Comparison {
 
 }  // namespace
 
-std::vector<Correction> Corrections(const GameState& before, const GameState& after) {
+std::vector<Correction> Corrections(const Situation& before, const Situation& after) {
   return Comparison(before, after).Take();
 }
 
-std::string CorrectionNotice(const GameState& before, const GameState& after) {
+std::string CorrectionNotice(const Situation& before, const Situation& after) {
   std::string notice;
-  report::AddWrapped(after.Title, 0, notice);
-  report::AddWrapped(SeasonAndStage(after), 0, notice);
+  report::AddWrapped(after.Game.Title, 0, notice);
+  report::AddWrapped(SeasonAndStage(after.Game), 0, notice);
   notice.append("\n");
   const std::vector<Correction> corrections = Corrections(before, after);
   for (const Correction& correction : corrections)
@@ -203,8 +264,8 @@ std::string CorrectionNotice(const GameState& before, const GameState& after) {
 }
 
 std::string_view NameOf(Subject subject) {
-  constexpr std::array<std::string_view, 7> names{"title", "season",  "player", "unit",
-                                                  "owner", "retreat", "text"};
+  constexpr std::array<std::string_view, 8> names{"title", "season", "player",  "order",
+                                                  "unit",  "owner",  "retreat", "text"};
   return names[static_cast<std::size_t>(subject)];
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/game_state.h"
+#include "session/situation.h"
 
 #include <cstdint>
 #include <string>
@@ -9,7 +9,7 @@
 namespace orb::letters {
 
 /// What two situations can differ in.
-enum class Subject : std::uint8_t { Title, Season, Player, Unit, Owner, Retreat, Text };
+enum class Subject : std::uint8_t { Title, Season, Player, Order, Unit, Owner, Retreat, Text };
 
 /// Something that a situation has in place of what another one has.
 struct Correction {
@@ -22,13 +22,15 @@ struct Correction {
   bool operator==(const Correction&) const = default;
 };
 
-/// What the second situation has otherwise than the first: title, season and stage, players, units
-/// and where they stand, who owns the centres, where units may retreat to, the free
-/// text. Both are of one map. The orders that wait for their stage are left out: they are secret.
-std::vector<Correction> Corrections(const model::GameState& before, const model::GameState& after);
+/// What the second situation has otherwise than the first: title, season and stage, players, how
+/// the moves of one season came out where both know that, units and where they stand, who owns the
+/// centres, where units may retreat to, the free text. Both are of one map. The orders that wait
+/// for their stage are left out: they are secret.
+std::vector<Correction> Corrections(const session::Situation& before,
+                                    const session::Situation& after);
 
 /// The sentences in lines that end in LF, under a heading; or that there is nothing to correct.
-std::string CorrectionNotice(const model::GameState& before, const model::GameState& after);
+std::string CorrectionNotice(const session::Situation& before, const session::Situation& after);
 
 /// The name of a subject for programs: "unit".
 std::string_view NameOf(Subject subject);

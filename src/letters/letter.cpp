@@ -2,7 +2,10 @@
 
 #include "letters/own_view.h"
 
+#include "history/journeys.h"
+#include "history/unit_matching.h"
 #include "model/country.h"
+#include "model/lookups.h"
 #include "orders/order_list.h"
 #include "report/report_lines.h"
 #include "report/wrapped_text.h"
@@ -50,6 +53,44 @@ Part Results(const Situation& situation, int power) {
     if (report::TakeApart(lines[i]).Power != power) continue;
     const auto note = static_cast<std::size_t>(i - 1);
     part.Add(lines[i], note < situation.Notes.size() ? situation.Notes[note].Reason : "");
+  }
+  return part;
+}
+
+/// Where the power's units stand, and what brought them there as far as their rows tell: where
+/// only files tell of a season, nothing else says what became of its retreats and builds.
+Part Units(const Situation& situation, int power) {
+  const GameState& game = situation.Game;
+  Part part("Your units");
+  const auto isKnown = [&](const model::Unit& unit) {
+    return history::HasKnownStart(*game.Map, unit);
+  };
+  if (std::ranges::none_of(game.Units, isKnown)) return part;
+  for (const model::Unit& unit : game.Units) {
+    if (unit.Power != model::PowerName(power)) continue;
+    std::string line = model::UnitText(unit);
+    const bool isDislodged = unit.Status == model::Dislodged;
+    if (isDislodged) line.append(", dislodged");
+    if (isDislodged && !unit.DislodgedFrom.empty())
+      line.append(" by an attack from ").append(unit.DislodgedFrom);
+    if (!isDislodged && isKnown(unit) && unit.PreviousLocation != unit.Location) {
+      line.append(unit.DislodgedFrom.empty() ? ", from " : ", retreated from ");
+      line.append(unit.PreviousLocation);
+    }
+    if (unit.PreviousLocation.empty() && game.Stage == Stage::Finished) line.append(", new");
+    part.Add(line);
+  }
+  for (const orders::OrderOutcome& order : situation.Outcomes) {
+    const bool isLost = order.Power == model::PowerName(power) &&
+                        order.Outcome != orders::Outcome::Void &&
+                        history::IsMovesStageOrder(order) &&
+                        std::ranges::none_of(game.Units, [&](const model::Unit& unit) {
+                          return unit.Power == order.Power && unit.UnitType == order.UnitType &&
+                                 unit.PreviousLocation == order.Location;
+                        });
+    if (!isLost) continue;
+    part.Add(std::string(order.Power + " " + order.UnitType + "(" + order.Location)
+                 .append("), no longer on the board"));
   }
   return part;
 }
@@ -182,6 +223,8 @@ Letter LetterTo(const Situation& situation, int power) {
   letter.Subject.append(": ").append(game.Countries[power].Name);
   letter.Text = Heading(view, power);
   Results(view, power).AddTo(letter.Text);
+  if (game.Stage != Stage::Moves && view.BeforeMoves == nullptr)
+    Units(view, power).AddTo(letter.Text);
   if (session::TakesOrders(game)) Received(view, power).AddTo(letter.Text);
   letter.Orders = session::SeasonOrders(view);
   std::erase_if(letter.Orders,

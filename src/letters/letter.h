@@ -19,8 +19,9 @@ struct Letter {
 };
 
 /// The letter to the power in row 1..7: what became of its orders, with the reasons where they are
-/// known; then, in a stage with orders, what was received, what is missing, what cannot be carried
-/// out and why, what matches nothing and what depends on others.
+/// known, and where its units stand, where only files tell of the season; then, in a stage with
+/// orders, what was received, what is missing, what cannot be carried out and why, what matches
+/// nothing and what depends on others.
 Letter LetterTo(const session::Situation& situation, int power);
 
 /// Those to all powers that have anything to be told.

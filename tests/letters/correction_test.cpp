@@ -15,11 +15,9 @@ namespace {
 using letters::Correction;
 using model::GameState;
 
-GameState Resolved(const std::vector<std::string>& lines) {
-  return session::TryOut({Board("Spring", "moves", lines)}).Game;
-}
+using session::Situation;
 
-std::vector<std::string> Sentences(const GameState& before, const GameState& after) {
+std::vector<std::string> Sentences(const Situation& before, const Situation& after) {
   std::vector<std::string> sentences;
   for (const Correction& correction : letters::Corrections(before, after))
     sentences.push_back(correction.Sentence);
@@ -27,12 +25,23 @@ std::vector<std::string> Sentences(const GameState& before, const GameState& aft
 }
 
 TEST(Correction, TellsTwoOutcomesOfOneSeason) {
-  const GameState before = Resolved(
-      {"FRA A(Par) - Bur", "FRA A(Mar) S A(Par) - Bur", "GER A(Bur) hold", "ITA A(Pie) - Mar"});
-  const GameState after = Resolved(
-      {"FRA A(Par) - Bur", "FRA A(Mar) S A(Par) - Bur", "GER A(Bur) hold", "ITA A(Pie) - Ven"});
-  const std::vector<std::string> sentences = {
+  const Situation before = session::TryOut({Board(
+      "Spring", "moves",
+      {"FRA A(Par) - Bur", "FRA A(Mar) S A(Par) - Bur", "GER A(Bur) hold", "ITA A(Pie) - Mar"})});
+  Situation after = session::TryOut({Board(
+      "Spring", "moves",
+      {"FRA A(Par) - Bur", "FRA A(Mar) S A(Par) - Bur", "GER A(Bur) hold", "ITA A(Pie) - Ven"})});
+  std::vector<std::string> sentences = {
       "The season is Spring 1901, retreats instead of Spring 1901, finished.",
+      "The result of FRA A(Par) - Bur is \"carried out\" instead of \"bounced\". It moved: "
+      "strength 2 (supported by FRA A(Mar)) beats strength 1 of GER A(Bur), which stayed there.",
+      "The result of FRA A(Mar) S A(Par) - Bur is \"carried out\" instead of \"cut\". It "
+      "supported \"FRA A(Par) - Bur\".",
+      "The result of GER A(Bur) hold is \"dislodged\" instead of \"carried out\". It was "
+      "dislodged by \"FRA A(Par) - Bur\": strength 2 (supported by FRA A(Mar)) beats its strength "
+      "1.",
+      "ITA A(Pie) - Ven was ordered instead of ITA A(Pie) - Mar. It moved: the place was empty and "
+      "no other move aimed there.",
       "GER A(Bur) is dislodged (attacked from Par).",
       "FRA A(Par) is in Bur.",
       "ITA A(Pie) is in Ven.",
@@ -42,6 +51,12 @@ TEST(Correction, TellsTwoOutcomesOfOneSeason) {
     EXPECT_EQ(std::erase(told, sentence), 1U) << sentence;
   for (const std::string& sentence : told)
     ADD_FAILURE() << sentence;
+  // Where one of them does not know its orders, or they are of two seasons, the positions speak.
+  after.Game.Year = 1902;
+  EXPECT_EQ(Sentences(before, after).size(), 4U);
+  after.Game.Year = before.Game.Year;
+  after.Notes.clear();
+  EXPECT_EQ(Sentences(before, after).size(), 4U);
 }
 
 TEST(Correction, TellsWhatWasEditedAndNothingElse) {
@@ -73,15 +88,15 @@ TEST(Correction, TellsWhatWasEditedAndNothingElse) {
   for (const auto& [edit, sentences] : cases) {
     GameState after = before;
     edit(after);
-    EXPECT_EQ(Sentences(before, after), sentences);
-    EXPECT_EQ(letters::CorrectionNotice(before, after).ends_with("nothing to correct.\n"),
+    EXPECT_EQ(Sentences({before}, {after}), sentences);
+    EXPECT_EQ(letters::CorrectionNotice({before}, {after}).ends_with("nothing to correct.\n"),
               sentences.empty());
   }
   GameState contested = Board("Spring", "retreats", {"FRA A(Par) <Bur"});
   GameState open = contested;
   Live(contested, "Pic").Uncontested = false;
   EXPECT_EQ(
-      Sentences(open, contested),
+      Sentences({open}, {contested}),
       (std::vector<std::string>{"FRA A(Par) may retreat to Bre, Gas instead of Bre, Gas, Pic."}));
 }
 

@@ -1,8 +1,10 @@
 #include "letters/letter.h"
 
 #include "adjudication/possible_orders.h"
+#include "model/game_file.h"
 #include "orders/order_list.h"
 #include "session/commands.h"
+#include "session/files_beside.h"
 #include "session/trial.h"
 #include "support/boards.h"
 #include "support/directories.h"
@@ -19,6 +21,7 @@ namespace {
 
 using letters::Letter;
 using session::Situation;
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -188,6 +191,58 @@ TEST(Letter, TellsResultsWithReasonsAndWhatIsDue) {
   EXPECT_THAT(text, HasSubstr("  FRA A(Bur) retreat "));
   EXPECT_THAT(text, Not(HasSubstr("ENG")));
   EXPECT_EQ(letters::Letters(after).size(), 3U);
+}
+
+/// Game files hold no report: it is found again by the orders that led to them.
+TEST(Letter, TellsWhatTheFilesBesideAGameShow) {
+  const TemporaryDirectory directory;
+  const auto write = [&](const char* name, const model::GameState& game) {
+    return directory.Write(name, model::FormatGameFile(game));
+  };
+  const auto read = [](const std::filesystem::path& file) {
+    Situation situation{model::EmptyGame(RealMap())};
+    model::Consent messages;
+    EXPECT_TRUE(session::ReadGame(situation, file, messages));
+    return situation;
+  };
+  const auto textOf = [&](const std::filesystem::path& file) {
+    return letters::LetterTo(session::ToldByFilesBeside(read(file)), France).Text;
+  };
+  const std::vector<std::string> lines = {"FRA A(Bur) - Bel",          "FRA A(Par) - Pic",
+                                          "GER A(Mun) - Bur",          "GER A(Ruh) S A(Mun) - Bur",
+                                          "ENG F(NTH) C A(Yor) - Bel", "ENG A(Yor) - Bel"};
+  Situation start{Board("Autumn", "moves", lines)};
+  Own(start.Game, "FRA Par Mar");
+  Own(start.Game, "GER Mun Ber Kie");
+  Situation moved = session::TryOut(start);
+  const auto before = write("start.orb", start.Game);
+  const auto after = write("moved.orb", moved.Game);
+  // Orders that led elsewhere, and another stage of what they led to, are not its story.
+  Situation other = start;
+  other.Game.OrdersList[1] = "FRA A(Par) - Gas";
+  write("a.orb", other.Game);
+  write("b.orb", session::TryOut(other).Game);
+  const std::string results =
+      "What became of your orders\n--------------------------\n  [ FRA A(Bur) - Bel ]  dislodged\n";
+  const std::string pic = "  FRA A(Par) - Pic\n      It moved";
+  EXPECT_THAT(textOf(after), AllOf(HasSubstr(results), HasSubstr(pic), HasSubstr("0 of 1 retreat"),
+                                   HasSubstr("  FRA A(Bur), dislodged by an attack from Mun\n"
+                                             "  FRA A(Pic), from Par\n"),
+                                   Not(HasSubstr("ENG A(Yor)\n"))));
+  for (const bool isDisbanded : {false, true}) {
+    orders::StageList(moved.Game) = {isDisbanded ? "FRA A(Bur) disband" : "FRA A(Bur) retreat Gas"};
+    const Situation retreated = session::TryOut(moved);
+    EXPECT_THAT(textOf(write("retreated.orb", retreated.Game)),
+                AllOf(HasSubstr(results), HasSubstr(pic),
+                      HasSubstr(isDisbanded ? "FRA A(Bur), no longer on the board\n"
+                                            : "FRA A(Gas), retreated from Bur\n")));
+  }
+  // Without the file that the season began with only the positions speak; and what waits is secret.
+  std::filesystem::remove(before);
+  EXPECT_THAT(textOf(after), AllOf(Not(HasSubstr("became of")), HasSubstr("FRA A(Pic), from Par")));
+  EXPECT_THAT(
+      textOf(directory.Path() / "a.orb"),
+      AllOf(Not(HasSubstr("became of")), Not(HasSubstr("GER")), Not(HasSubstr("Your units"))));
 }
 
 TEST(Letter, OpensInAMailProgram) {

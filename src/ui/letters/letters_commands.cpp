@@ -6,6 +6,7 @@
 #include "model/errors.h"
 #include "model/files.h"
 #include "render/qt/map_file.h"
+#include "session/files_beside.h"
 #include "text/encoding.h"
 #include "text/qt/text_codec.h"
 #include "ui/letters/letters_dialog.h"
@@ -64,7 +65,8 @@ QImage LettersCommands::mapOf(const letters::Letter& letter, int width) {
 void LettersCommands::showLetters() {
   m_desk.endTrial();
   attempt(m_messages, [this] {
-    const std::vector<letters::Letter> all = letters::Letters(m_desk.now());
+    const std::vector<letters::Letter> all =
+        letters::Letters(session::ToldByFilesBeside(m_desk.now()));
     if (all.empty()) throw model::FatalError("There is nobody to write to: the board is empty.");
     QStringList names;
     for (const letters::Letter& letter : all) {
@@ -131,7 +133,9 @@ void LettersCommands::compareWithFile() {
   attempt(m_messages, [&] {
     session::Situation other{model::EmptyGame(m_desk.game().Map)};
     if (!session::ReadGame(other, choice->file, m_messages)) return;
-    showNotice(letters::CorrectionNotice(other.Game, m_desk.game()), m_window);
+    showNotice(letters::CorrectionNotice(session::ToldByFilesBeside(std::move(other)),
+                                         session::ToldByFilesBeside(m_desk.now())),
+               m_window);
   });
 }
 

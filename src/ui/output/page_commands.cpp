@@ -1,10 +1,10 @@
-#include "pages/game_files.h"
 #include "pages/order_sheet.h"
 #include "pages/season_page.h"
 
 #include "model/errors.h"
 #include "model/files.h"
 #include "render/qt/qt_svg_material.h"
+#include "session/files_beside.h"
 #include "ui/output/export_commands.h"
 #include "ui/output/file_dialogs.h"
 #include "ui/output/file_proposals.h"
@@ -30,7 +30,9 @@ void ExportCommands::publish() {
   const auto file = askWhereToExport(m_window, ExportKind::Page, m_desk, m_desk.game(), m_messages);
   if (!file) return;
   attempt(m_messages, [&] {
-    std::vector<pages::Source> sources = pages::FilesBeside(m_desk.now());
+    std::vector<pages::Source> sources;
+    for (session::Situation& other : session::FilesBeside(m_desk.now()))
+      sources.push_back({std::move(other)});
     const std::string count = std::to_string(sources.size());
     if (!sources.empty() && !m_messages.Warn("Beside this game lie " + count +
                                              " other files of it.\rPublish all its seasons?")) {
