@@ -2,6 +2,7 @@
 
 #include "orders/exchange/other_matters.h"
 #include "orders/exchange/sayings.h"
+#include "orders/exchange/sentences.h"
 
 #include <algorithm>
 #include <array>
@@ -152,15 +153,10 @@ std::optional<Aside> ReadSentence(Tokens line) {
 std::optional<Aside> ReadAside(Tokens line, const PlaceNames& names) {
   if (line.empty()) return std::nullopt;
   if (IsColon(line.back())) return ReadTitle(line);
-  std::size_t begin = 0;
-  for (std::size_t at = 0; at < line.size(); ++at) {
-    const bool isStop = line[at].Text == "?" || IsA(line[at], TokenKind::Dot);
-    const bool isEnd = at + 1 == line.size() || (isStop && !line[at + 1].Glued);
-    if (!isEnd) continue;
-    const Tokens sentence = line.subspan(begin, at + 1 - begin);
+  for (const auto& [begin, end] : SentencesOf(line)) {
+    const Tokens sentence = line.subspan(begin, end - begin);
     const auto aside = SpeaksOfElse(sentence, names) ? std::nullopt : ReadSentence(sentence);
     if (aside) return Aside{aside->Scope, {begin + aside->At.Begin, begin + aside->At.End}};
-    begin = at + 1;
   }
   return std::nullopt;
 }

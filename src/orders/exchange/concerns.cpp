@@ -5,6 +5,7 @@
 #include "orders/exchange/comments.h"
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/power_names.h"
+#include "orders/exchange/sentences.h"
 #include "text/strings.h"
 
 #include <algorithm>
@@ -72,6 +73,21 @@ bool SpeaksOfOrders(Tokens tokens) {
   });
 }
 
+/// Whether a sentence makes a condition and may be about the orders: it points at something, or
+/// names units or orders.
+bool MayBeOfAll(Tokens tokens) {
+  return std::ranges::any_of(SentencesOf(tokens), [&](const TokenRange& at) {
+    const Tokens sentence = tokens.subspan(at.Begin, at.End - at.Begin);
+    const bool points = std::ranges::any_of(sentence, [](const Token& token) {
+      constexpr auto pointing =
+          static_cast<unsigned>(Signal::Points) | static_cast<unsigned>(Signal::Hints);
+      return (token.Means.Signals & pointing) != 0 || HasUse(token, WordUse::Orders) ||
+             (UnitTypeOf(token) != 0 && token.Text.size() > 1);
+    });
+    return points && MakesCondition(sentence) && SpeaksOfOrders(sentence);
+  });
+}
+
 }  // namespace
 
 std::string ProvinceOf(std::string_view order) {
@@ -132,7 +148,7 @@ Concern ConcernOf(Tokens tokens, const PlaceNames& names, const model::Map& map)
   if (!isOfOrders) return concern;
   // Farther on a condition may be of anything: "the link does not work".
   constexpr std::size_t few = 4;
-  const bool isOfAll = SpeaksOfOrders(tokens) || FindCondition(tokens) < few;
+  const bool isOfAll = MayBeOfAll(tokens) || FindCondition(tokens) < few;
   concern.MayBeAll = isOfAll && MakesCondition(tokens) && !IsOffer(tokens);
   return concern;
 }

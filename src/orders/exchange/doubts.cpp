@@ -1,6 +1,7 @@
 #include "orders/exchange/doubts.h"
 
 #include "orders/exchange/asides.h"
+#include "orders/exchange/harmless_words.h"
 #include "orders/exchange/power_names.h"
 #include "text/utf8.h"
 
@@ -118,6 +119,7 @@ bool IsDoubtfulSign(const Token& token) {
 std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceNames& names,
                                     int power) {
   if (IsOutcome(remark)) return TokenRange{0, remark.size()};
+  if (IsReason(remark, names)) return std::nullopt;
   const auto has = [&](WordUse use) {
     return std::ranges::any_of(remark, [&](const Token& token) { return HasUse(token, use); });
   };
@@ -130,6 +132,11 @@ std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceName
     // Behind an order this is an outcome.
     const bool isOutcome = IsWord(token, "dislodged");
     if (IsDoubtfulSign(token) || isOutcome) return TokenRange{at, at + 1};
+    if (const std::size_t phrase = isWord ? LengthOfPlainPhrase(remark, at, names) : 0;
+        phrase > 0) {
+      at += phrase;
+      continue;
+    }
     if (!isWord || IsNumber(token) || HasUse(token, WordUse::Filler)) {
       ++at;
       continue;

@@ -43,7 +43,7 @@ Tokens ConsequenceOf(Tokens line) {
 /// "I don't want to provoke anybody".
 bool IsOfFeeling(Tokens line) {
   constexpr std::array<std::string_view, 4> denying{"dont", "never", "wont", "cant"};
-  constexpr std::array<std::string_view, 5> feeling{"want", "care", "trust", "believe", "mind"};
+  constexpr std::array<std::string_view, 3> feeling{"want", "trust", "believe"};
   const auto isOneOf = [&](std::size_t at, const auto& words) {
     return std::ranges::find(words, line[at].Text) != words.end();
   };
@@ -73,7 +73,10 @@ bool SpeaksOfElse(Tokens line, const PlaceNames& names) {
   if (words < 2 || IsA(line.back(), TokenKind::Colon) || !HasUse(line[0], WordUse::Condition)) {
     const bool asks = words >= few && line.back().Text == "?";
     const bool isOfWriter = FindSaying(line, Saying::Asks) || FindSaying(line, Saying::Corrects);
-    return asks && !isOfWriter && !RefersToOrders(line) && !NamesPlace(line, names);
+    const bool hints = std::ranges::any_of(line, [](const Token& token) {
+      return (token.Means.Signals & static_cast<unsigned>(Signal::Hints)) != 0;
+    });
+    return asks && !isOfWriter && !hints && !RefersToOrders(line) && !NamesPlace(line, names);
   }
   constexpr std::array<std::string_view, 8> telling{"tell",  "trust", "believe", "mention",
                                                     "blame", "worry", "listen",  "show"};

@@ -23,6 +23,8 @@ struct Folding {
 
 constexpr std::array Foldings{
     Folding{0x00, 0x1F, " "},        Folding{0x7F, 0xA0, " "},
+    Folding{0xA1, 0xA1, " "},        Folding{0xBF, 0xBF, " "},
+    Folding{0x2190, 0x2190, "<-"},   Folding{0x21E6, 0x21E6, "<-"},
     Folding{0xAB, 0xAB, ">"},        Folding{0xAD, 0xAD, ""},
     Folding{0xB4, 0xB4, "'"},        Folding{0xB7, 0xB7, "*"},
     Folding{0xBB, 0xBB, ">"},        Folding{0x1680, 0x1680, " "},
@@ -52,6 +54,12 @@ constexpr std::array Foldings{
     Folding{0xFE58, 0xFE58, "--"},   Folding{0xFE63, 0xFE63, "-"},
     Folding{0xFEFF, 0xFEFF, ""},     Folding{0xFF0D, 0xFF0D, "-"},
 };
+
+/// The forms of "!" to "~" that are as wide as Chinese characters, from U+FF01 on.
+constexpr std::string_view Wide =
+    "!\"#$%&'()*+,-./"
+    "0123456789:;<=>?@ABCDEFGHIJKLMNOPQRSTUVWXYZ[\\]^_`abcdefghijklmnopqrstuvwxyz{|}~";
+constexpr char32_t FirstWide = 0xFF01;
 
 /// The letters U+00C0 to U+00FF without their accents.
 constexpr std::string_view Letters =
@@ -101,10 +109,26 @@ std::optional<std::string_view> LatinForm(char32_t character) {
   return greek ? greek : formIn(Cyrillic, FirstCyrillic);
 }
 
+/// The Latin letter that a Greek or Cyrillic one alone among Latin ones was taken for, or that
+/// begins the same type of unit; nothing for others.
+std::optional<std::string_view> LatinTwin(char32_t character) {
+  constexpr std::array<std::pair<char32_t, std::string_view>, 24> twins{
+      {{0x391, "A"}, {0x395, "E"}, {0x39C, "M"}, {0x39D, "N"}, {0x39F, "O"}, {0x3A4, "T"},
+       {0x392, "B"}, {0x396, "Z"}, {0x399, "I"}, {0x39A, "K"}, {0x3A6, "F"}, {0x3BF, "o"},
+       {0x410, "A"}, {0x412, "B"}, {0x415, "E"}, {0x41A, "K"}, {0x41C, "M"}, {0x41E, "O"},
+       {0x422, "T"}, {0x424, "F"}, {0x430, "a"}, {0x435, "e"}, {0x43E, "o"}, {0x440, "p"}}};
+  const auto twin =
+      std::ranges::find(twins, character, [](const auto& pair) { return pair.first; });
+  return twin == twins.end() ? std::nullopt : std::optional(twin->second);
+}
+
 /// The plain form of a character, or nothing.
 std::optional<std::string_view> PlainForm(char32_t character) {
   if (character >= FirstLetter && character < FirstLetter + Letters.size()) {
     return Letters.substr(character - FirstLetter, 1);
+  }
+  if (character >= FirstWide && character < FirstWide + Wide.size()) {
+    return Wide.substr(character - FirstWide, 1);
   }
   // U+0152 and U+0153 are left out: they also are halves of signs whose bytes were mistaken.
   const bool isHalf = character == 0x152 || character == 0x153;
@@ -189,6 +213,8 @@ PlainText ToPlain(std::string_view line, std::size_t offset, References referenc
     const auto latin = LatinForm(character);
     if (latin && (wasForeign || isForeign(rest))) {
       plain.Text += *latin;
+    } else if (const auto twin = LatinTwin(character)) {
+      plain.Text += *twin;
     } else if (const auto form = PlainForm(character)) {
       plain.Text += *form;
     } else if (isReference) {

@@ -2,10 +2,13 @@
 
 #include "model/errors.h"
 #include "orders/exchange/asides.h"
+#include "orders/exchange/bearing.h"
 #include "orders/exchange/cells.h"
 #include "orders/exchange/check_line.h"
+#include "orders/exchange/concerns.h"
 #include "orders/exchange/contradictions.h"
 #include "orders/exchange/exact_line.h"
+#include "orders/exchange/learnt_moves.h"
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/markup.h"
 #include "orders/exchange/order_part.h"
@@ -220,6 +223,11 @@ class TextReader {
     if (isMailHead_) return LookAtSubject(line, first);
     if (!isBehindOrders && SpeaksOfElse(line.All, known_.Names)) return rows_.Around.SetAbout({});
     if (const auto aside = ReadAside(line.All, known_.Names)) return SetAside(line, *aside, first);
+    if (const auto at = FindBearing(line.All, known_.Names)) {
+      const Concern concern = ConcernOf(line.All, known_.Names, *known_.Game.Map);
+      rows_.Around.DoubtAbove(Quoted(line.Part(*at)) + " may change it", line.Span(*at), concern,
+                              rows_.Lines, first);
+    }
     constexpr std::size_t few = 4;
     // Units name themselves in other stages.
     const bool isBuild = known_.Stage == model::Stage::Adjustments;
@@ -356,16 +364,6 @@ class TextReader {
   StruckLines struck_;
   Rows rows_;
 };
-
-void LearnMoves(const std::vector<ReadLine>& lines, KnownGame& known) {
-  if (known.Stage != model::Stage::Moves) return;
-  for (const ReadLine& line : lines) {
-    if (!IsUnderstood(line)) continue;
-    known.Ordered.insert(SubjectOf(line.Order, known.Stage));
-    const auto order = ReadExactLine(*known.Game.Map, known.Stage, line.Order);
-    if (order) known.Learn(*order);
-  }
-}
 
 }  // namespace
 

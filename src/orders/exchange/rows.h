@@ -82,6 +82,7 @@ class Rows {
   void AddProblem(const SourceLine& line, TokenRange range, const Fault& problem, ReadLine& read);
   bool IsOfOther(const SourceLine& line, const PartRead& part) const;
   bool SpeaksOf(const SourceLine& line, const Said& said, const Understood& order) const;
+  bool PutsRight(const SourceLine& line, const Said& said, const Understood& next) const;
   bool DoubtUnreal(const SourceLine& line, const Said& said);
   void AddAlternative(const SourceLine& line, const Said& said);
   void AmendBefore(const Said& said, int place);

@@ -74,13 +74,17 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
   for (const Said& said : remarks_) {
     const Tokens remark = line.Part(said.At);
     const bool isGreeting = remark.size() <= LongestGreeting &&
-                            HasUse(remark[0], WordUse::Greeting) &&
+                            HasUse(remark[0], WordUse::Greeting) && remark.back().Text != "?" &&
                             !ReadAside(remark, known_.Names).has_value();
     if (FindSaying(remark, Saying::Excludes) && Exclude(line, said)) continue;
     if (const int place = ExcludedPlace(remark, known_.Names); place != 0) AmendBefore(said, place);
     const auto next = std::ranges::find_if(
         understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
     if (next != understood_.end() && IsSecondThought(remark)) {
+      Around.SetAmends(next->Row, Quoted(remark) + " may change it", line.Span(said.At));
+      continue;
+    }
+    if (next != understood_.end() && PutsRight(line, said, *next)) {
       Around.SetAmends(next->Row, Quoted(remark) + " may change it", line.Span(said.At));
       continue;
     }
@@ -111,6 +115,37 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
     }
     if (!isOwn) Around.SetDoubtFrom(first, reason, line.Span(said.At));
   }
+}
+
+/// "Vie - Gal?? no no, Vie holds": whether words between two orders of one unit put the second in
+/// the place of the first.
+bool Rows::PutsRight(const SourceLine& line, const Said& said, const Understood& next) const {
+  constexpr std::size_t longest = 14;
+  const auto before = std::find_if(understood_.rbegin(), understood_.rend(),
+                                   [&](auto& order) { return order.At.End <= said.At.Begin; });
+  if (before == understood_.rend() || Lines[before->Row].Kind != LineKind::Order ||
+      Lines[next.Row].Kind != LineKind::Order) {
+    return false;
+  }
+  const std::string& old = Lines[before->Row].Order;
+  const std::string& now = Lines[next.Row].Order;
+  if (old == now || orders::UnitPart(old) != orders::UnitPart(now)) return false;
+  Tokens between = line.Part({before->At.End, next.At.Begin});
+  if (between.size() > longest) return false;
+  while (!between.empty() && !IsA(between[0], TokenKind::Word))
+    between = between.subspan(1);
+  // "Or", "if" and what somebody else says leave it open.
+  const bool isOpen = std::ranges::any_of(between, [](const Token& token) {
+    constexpr auto opening = static_cast<unsigned>(Signal::Says) |
+                             static_cast<unsigned>(Signal::Chooses) |
+                             static_cast<unsigned>(Signal::Leaves);
+    const bool denies = (token.Means.Signals & static_cast<unsigned>(Signal::Denies)) != 0;
+    return (token.Means.Signals & opening) != 0 || HasUse(token, WordUse::Reservation) ||
+           (HasUse(token, WordUse::Condition) && !denies && !IsWord(token, "instead"));
+  });
+  if (isOpen || FindSaying(between, Saying::Revokes)) return false;
+  const auto thinks = FindSaying(between, Saying::Reconsiders);
+  return thinks && thinks->Begin < 2;
 }
 
 /// "A Par - Bur, not Pic" holds rather than an order to Picardy above.

@@ -13,6 +13,7 @@ enum class Saying : std::uint8_t {
   Asks,        ///< asks whether they are right, or what somebody thinks of them
   Titles,      ///< sets aside those below, even without a colon
   Corrects,    ///< says that those below hold rather than those above
+  Leaves,      ///< leaves it to somebody what becomes of them: "up to you"
   Shrugs,      ///< leaves what may happen to itself: "if he minds, tough luck"
   Excludes,    ///< before an order: it is the one that is not meant: "(not A Par - Pic)"
   Reconsiders  ///< before an order, or alone: the one above may be meant no longer

@@ -37,7 +37,7 @@ constexpr std::array Rows{
         "not the second|superseded|obsolete|not valid anymore|on second thought|"
         "on second thoughts|was last turn|were last turn|was last season|"
         "were last season|did last turn|sent last|had last|did in spring|did in autumn|"
-        "did in fall|my spring orders|my autumn orders|my fall orders|from last turn|"
+        "did in fall|from last turn|"
         "from last season|this was last|this was my|this was the plan|those were my|"
         "those were his|those were last|these were my|these were last|that was the plan|"
         "that was the idea|that was the old|one is wrong|order is wrong|line is wrong|"
@@ -214,6 +214,10 @@ constexpr std::array Rows{
         "aside|kidding aside|skamt asido|"
         "spas beiseite|scherz beiseite|blague a part|bromas aparte|scherzi a parte|"
         "brincadeiras a parte|spog til side|zarty na bok|seriously now|no but seriously"},
+    Row{Saying::Leaves,
+        "your call|up to you|eyes only|comments welcome|wie du willst|wie du magst|comme tu veux|"
+        "comme vous voulez|como quieras|come vuoi|come volete|como quiseres|zoals je wilt|"
+        "wat je wilt|som du vil|som du vill|jak chcesz"},
     Row{Saying::Shrugs,
         "no hard feelings|lump it|tough luck|serves him right|nicht bose|selber schuld|"
         "pech gehabt|tant pis|peor para|peggio per|pior para"},

@@ -1,6 +1,7 @@
 #include "orders/exchange/segments.h"
 
 #include "orders/exchange/asides.h"
+#include "orders/exchange/bearing.h"
 #include "orders/exchange/comments.h"
 #include "orders/exchange/doubts.h"
 #include "orders/exchange/embedded.h"
@@ -10,6 +11,7 @@
 #include "orders/exchange/prose.h"
 #include "orders/exchange/rest_holds.h"
 #include "orders/exchange/sayings.h"
+#include "orders/exchange/sentences.h"
 #include "orders/exchange/shared_words.h"
 #include "orders/exchange/slips.h"
 #include "orders/exchange/source_line.h"
@@ -37,43 +39,6 @@ PartsRead Moved(PartsRead parts, std::size_t begin) {
   return parts;
 }
 
-/// Whether a full stop ends a sentence: none of "St. Petersburg", "N. Sea" or "A. Par".
-bool EndsSentence(Tokens tokens, std::size_t dot, std::size_t begin, const PlaceNames& names) {
-  const bool asks = tokens[dot].Text == "?" && tokens[dot].Kind == TokenKind::Mark;
-  if (asks && dot + 1 < tokens.size() && dot != begin) {
-    const Token& next = tokens[dot + 1];
-    return !next.Glued && next.Capital && next.Text.size() > 1;
-  }
-  if (tokens[dot].Kind != TokenKind::Dot || dot + 1 == tokens.size() || dot == begin) return false;
-  const Token& before = tokens[dot - 1];
-  const Token& behind = tokens[dot + 1];
-  if (behind.Glued || !IsA(behind, TokenKind::Word) || IsWord(behind, "via")) return false;
-  if (VerbOf(behind) != Verb::None && (!behind.Capital || behind.Text.size() == 1)) return false;
-  // The last word of an order may be one letter, but one that means something alone.
-  if (before.Text.size() == 1 && VerbOf(before) == Verb::None) return false;
-  for (const PlaceMatch& match : names.At(tokens, dot - 1)) {
-    if (match.Next > dot) return false;
-  }
-  return true;
-}
-
-std::vector<TokenRange> Sentences(Tokens tokens, TokenRange range, const PlaceNames& names) {
-  std::vector<TokenRange> sentences;
-  std::size_t begin = range.Begin;
-  for (std::size_t at = begin; at < range.End; ++at) {
-    if (IsA(tokens[at], TokenKind::Open)) {
-      const std::size_t close = ClosingBracket(tokens.first(range.End), at);
-      if (close < range.End) at = close;
-    } else if (EndsSentence(tokens.first(range.End), at, begin, names)) {
-      // A question keeps its mark.
-      sentences.push_back({begin, IsA(tokens[at], TokenKind::Dot) ? at : at + 1});
-      begin = at + 1;
-    }
-  }
-  if (begin < range.End) sentences.push_back({begin, range.End});
-  return sentences;
-}
-
 /// Whether a sentence tells what another power will not like or do: "Russia won't see it coming".
 bool IsOfOthers(Tokens sentence, const PlaceNames& names, int power) {
   constexpr std::array<std::string_view, 12> soft{"not",    "wont",  "dont",  "doesnt",
@@ -84,13 +49,17 @@ bool IsOfOthers(Tokens sentence, const PlaceNames& names, int power) {
            (HasUse(token, WordUse::Condition) && std::ranges::find(soft, token.Text) == soft.end());
   });
   constexpr std::size_t few = 4;
+  // "Germany told me not to".
+  const bool isOfWriter = std::ranges::any_of(sentence, [](const Token& token) {
+    return IsWord(token, "me") || IsWord(token, "us") || IsWord(token, "i");
+  });
   // "I told the Austrian that he could go there".
   const bool isTold =
       sentence.size() > few && NamesPlace(sentence, names) && HasUse(sentence[0], WordUse::Wish) &&
       (HasUse(sentence[1], WordUse::Report) || HasUse(sentence[2], WordUse::Report));
   const int named = isTold ? PowerIn(sentence) : PowerAt(sentence, 0).Power;
   return sentence.size() > few && named != 0 && named != power && !isHard &&
-         !ReadAside(sentence, names);
+         (isTold || !isOfWriter) && !ReadAside(sentence, names);
 }
 
 /// Whether a sentence without orders says something that may concern others: what is passed over
@@ -101,6 +70,8 @@ bool Speaks(Tokens sentence, const PlaceNames& names, int power) {
   const bool reconsiders =
       sentence.size() <= few && Reconsiders(sentence) && !HoldsOrderWords(sentence, names);
   if (IsOfOthers(sentence, names, power) || SpeaksOfElse(sentence, names)) return false;
+  const bool isOfUnit = HoldsOrderWords(sentence, names) && NamesPlace(sentence, names);
+  if (!isOfUnit && BearsOnOrders(sentence)) return true;
   if (IsOffer(sentence) && !HoldsOrderWords(sentence, names) && !ReadAside(sentence, names))
     return false;
   // "Yesterday." alone speaks of the order, among others of something else.

@@ -71,6 +71,25 @@ bool SurroundingsOfLines::SetAsideAbove(const std::shared_ptr<const Misgiving>& 
   return any;
 }
 
+void SurroundingsOfLines::DoubtAbove(const std::string& reason, Span at, const Concern& about,
+                                     const std::vector<ReadLine>& lines, std::size_t end) {
+  const auto misgiving = std::make_shared<const Misgiving>(Misgiving{reason, at});
+  const std::size_t begin = doubted_[rows_.back().IsOlder ? 1 : 0];
+  const auto mayBeMeant = [&](std::size_t row, bool isOfSome) {
+    return IsUnderstood(lines[row]) && rows_[row].IsOlder == rows_.back().IsOlder &&
+           (!isOfSome || Concerns(about, lines[row].Order));
+  };
+  bool isOfSome = false;
+  for (std::size_t row = begin; row < end; ++row)
+    isOfSome = isOfSome || mayBeMeant(row, true);
+  if (about.IsOwn && !isOfSome) return;
+  for (std::size_t row = begin; row < end; ++row) {
+    if (mayBeMeant(row, isOfSome) && rows_[row].Doubt == nullptr) rows_[row].Doubt = misgiving;
+  }
+  // What is doubted once need not be looked at again.
+  if (!isOfSome) doubted_[rows_.back().IsOlder ? 1 : 0] = end;
+}
+
 void SurroundingsOfLines::TakeHeading(int power, bool corrects, bool isOfOrders,
                                       const std::vector<ReadLine>& lines) {
   if (setAside_ == nullptr) return;

@@ -103,6 +103,11 @@ class SurroundingsOfLines {
   void SetAside(AsideScope scope, const std::string& reason, Span at, int power,
                 const Concern& about, const std::vector<ReadLine>& lines, std::size_t end);
 
+  /// The line at the end of those read may be about the orders above it, of the same part of the
+  /// text, or about those of the units that it names.
+  void DoubtAbove(const std::string& reason, Span at, const Concern& about,
+                  const std::vector<ReadLine>& lines, std::size_t end);
+
   /// A heading: "Final orders:" ends what is set aside, and so does that of another power where
   /// orders of the one before were set aside.
   /// `isOfOrders`: it names orders or a season, and so ends what is set aside above it.
@@ -125,8 +130,9 @@ class SurroundingsOfLines {
   std::vector<Surroundings> rows_;
   /// The first row that no line below took back: of the answer, and of what is older.
   std::array<std::size_t, 2> notSetAside_{};
-  std::size_t block_ = 0;     ///< the first row of the last block of orders
-  std::size_t blockEnd_ = 0;  ///< the row behind it
+  std::array<std::size_t, 2> doubted_{};  ///< the same, that no line below doubted
+  std::size_t block_ = 0;                 ///< the first row of the last block of orders
+  std::size_t blockEnd_ = 0;              ///< the row behind it
   bool isInBlock_ = false;
   struct Lead {
     std::shared_ptr<const Misgiving> Doubt;  ///< about the orders of the next block, or none

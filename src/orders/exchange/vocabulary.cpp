@@ -327,6 +327,7 @@ WordMeaning FindMeaning(std::string_view word) {
   const auto found = meanings.find(word);
   WordMeaning meaning = found == meanings.end() ? WordMeaning() : found->second;
   meaning.Prose = ProseUsesOf(word);
+  meaning.Signals = SignalsOf(word);
   meaning.Sayings = SayingsBeginningWith(word);
   meaning.BeginsPower = MayBeginPower(word);
   if (IsSeasonCode(word)) meaning.Uses |= static_cast<unsigned>(WordUse::Heading);

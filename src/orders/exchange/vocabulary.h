@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orders/exchange/prose_words.h"
+#include "orders/exchange/signal_words.h"
 
 #include <cstdint>
 #include <string_view>
@@ -52,6 +53,7 @@ struct WordMeaning {
   unsigned Uses = 0;         ///< bits of WordUse
   bool BeginsPower = false;  ///< whether it may begin the name of a power
   unsigned Prose = 0;        ///< bits of ProseUse
+  unsigned Signals = 0;      ///< bits of Signal
   unsigned Sayings = 0;      ///< which phrases it may begin: SayingsBeginningWith
 
   bool Has(WordUse use) const { return (Uses & static_cast<unsigned>(use)) != 0; }

@@ -99,9 +99,11 @@ Token NextToken(std::string_view text, std::size_t at) {
     token.SetWord(WordText(text.substr(at, token.End - at)));
     return token;
   }
-  if (DashSigns.find(c) != std::string_view::npos) {
+  const bool isWave =
+      c == '~' && at + 1 < text.size() && (text[at + 1] == '>' || text[at + 1] == '-');
+  if (isWave || DashSigns.find(c) != std::string_view::npos) {
     token.Kind = TokenKind::Dash;
-    token.End = RunEnd(text, at, DashSigns);
+    token.End = RunEnd(text, at + 1, DashSigns);
   } else if (IsLeader(text, at)) {
     token.Kind = TokenKind::Dash;
     token.End = RunEnd(text, at, ".");

@@ -1,0 +1,177 @@
+#include "orders/exchange/bearing.h"
+
+#include "orders/exchange/asides.h"
+#include "orders/exchange/other_matters.h"
+#include "orders/exchange/sayings.h"
+#include "orders/exchange/sentences.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace orb::exchange {
+namespace {
+
+/// What the words of a sentence signal, all together.
+class Signals {
+ public:
+  explicit Signals(Tokens sentence) {
+    for (const Token& token : sentence)
+      all_ |= token.Means.Signals;
+  }
+
+  template <class... Some>
+  bool Has(Some... some) const {
+    return (((all_ & static_cast<unsigned>(some)) != 0) || ...);
+  }
+
+ private:
+  unsigned all_ = 0;
+};
+
+bool Signs(const Token& token, Signal signal) {
+  return (token.Means.Signals & static_cast<unsigned>(signal)) != 0;
+}
+
+template <std::size_t Count>
+bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& words) {
+  return IsA(token, TokenKind::Word) && std::ranges::find(words, token.Text) != words.end();
+}
+
+/// Closings of letters, what programs write below them, and offers of help: "Take care", "Sent from
+/// my phone", "If anything is unclear".
+bool IsOfLetter(Tokens words) {
+  constexpr std::array<std::string_view, 15> footers{
+      "confidential", "recipient",    "recipients", "addressee",   "adressat",
+      "empfanger",    "destinataire", "umwelt",     "environment", "environnement",
+      "printing",     "ausdrucken",   "imprimer",   "privileged",  "vertraulich"};
+  if (std::ranges::any_of(words, [&](const auto& token) { return IsOneOf(token, footers); }))
+    return true;
+  if (words.size() > 1 && IsWord(words[0], "take") &&
+      (IsWord(words[1], "care") || IsWord(words.back(), "easy")))
+    return true;
+  return words.size() > 2 && IsWord(words[0], "all") && IsWord(words[1], "the");
+}
+
+/// "If anything is wrong, call me" offers, "this is wrong" does not.
+bool Offers(Tokens words) {
+  constexpr std::array<std::string_view, 17> any{
+      "if",   "excuse", "pardon", "forgive", "any", "anything", "questions", "case",  "hope",
+      "help", "wenn",   "falls",  "si",      "se",  "als",      "hvis",      "fragen"};
+  return IsOffer(words) &&
+         std::ranges::any_of(words, [&](const Token& token) { return IsOneOf(token, any); });
+}
+
+/// Where the first word stands that is more than "please", "but just" and the like.
+std::size_t FirstWord(Tokens words) {
+  constexpr std::array<std::string_view, 18> openings{
+      "so",   "then",     "just", "but",  "or",  "and",  "okay", "ok",   "well",
+      "also", "actually", "oh",   "aber", "und", "mais", "et",   "pero", "ma"};
+  std::size_t at = 0;
+  while (at + 1 < words.size() &&
+         (!IsA(words[at], TokenKind::Word) || IsOneOf(words[at], openings) ||
+          HasUse(words[at], WordUse::Filler)))
+    ++at;
+  return at;
+}
+
+/// "No. 2", "number two", "line 3".
+bool CountsLines(Tokens words) {
+  constexpr std::array<std::string_view, 8> counting{"no",   "number", "nr",    "line",
+                                                     "rule", "zeile",  "ligne", "numero"};
+  constexpr std::array<std::string_view, 6> numbers{"one", "two", "three", "four", "five", "six"};
+  for (std::size_t at = 0; at + 1 < words.size(); ++at) {
+    if (!IsOneOf(words[at], counting)) continue;
+    const std::size_t next = at + 1 + (IsA(words[at + 1], TokenKind::Dot) ? 1 : 0);
+    if (next == words.size()) return false;
+    if (IsOneOf(words[next], numbers) || (IsNumber(words[next]) && words[next].Text.size() < 3))
+      return true;
+  }
+  return false;
+}
+
+/// "No worries", "not bad".
+bool IsCalm(Tokens words) {
+  constexpr std::array<std::string_view, 11> calm{"worries", "feelings", "problem", "hurry",
+                                                  "rush",    "stress",   "bad",     "pressure",
+                                                  "excuse",  "fear",     "mercy"};
+  return std::ranges::any_of(words, [&](const auto& token) { return IsOneOf(token, calm); });
+}
+
+/// "Just the first", "those are Tom's", "these are from spring".
+bool IsOfSome(Tokens words) {
+  constexpr std::ptrdiff_t few = 4;
+  const auto isOrders = [](const Token& token) { return HasUse(token, WordUse::Orders); };
+  const bool points = std::ranges::any_of(
+      words, [&](const Token& token) { return Signs(token, Signal::Points) && !isOrders(token); });
+  const auto count = std::ranges::count(words, TokenKind::Word, &Token::Kind);
+  const bool isBrief = count <= few || (count == few + 1 &&
+                                        (IsWord(words[0], "these") || IsWord(words[0], "those")));
+  return points && isBrief && std::ranges::none_of(words, isOrders) &&
+         std::ranges::none_of(words, IsNumber);
+}
+
+/// "Fleet Edinburgh", "the army in Tyrolia".
+bool NamesUnit(Tokens words, const PlaceNames& names) {
+  constexpr std::size_t near = 3;
+  for (std::size_t at = 0; at < words.size(); ++at) {
+    if (UnitTypeOf(words[at]) == 0) continue;
+    for (std::size_t next = at + 1; next < std::min(at + near + 1, words.size()); ++next) {
+      if (VerbOf(words[next]) != Verb::None) break;
+      if (!names.At(words, next).empty()) return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace
+
+bool BearsOnOrders(Tokens sentence, Unplaced unit) {
+  constexpr std::array<std::string_view, 12> own{"my",  "our",  "mine", "final", "meine", "mes",
+                                                 "mis", "miei", "meus", "mijn",  "mina",  "moje"};
+  constexpr std::ptrdiff_t few = 4;
+  constexpr std::ptrdiff_t brief = 6;
+  const auto count = std::ranges::count(sentence, TokenKind::Word, &Token::Kind);
+  if (count == 0 || IsSecondThought(sentence)) return false;
+  const Signals signals(sentence);
+  const bool asks = sentence.back().Text == "?";
+  // "Okay?", "Right?"
+  if (asks && (count < 3 || signals.Has(Signal::Points, Signal::Hints, Signal::Says))) return true;
+  if (IsOfLetter(sentence) || Offers(sentence)) return false;
+  if (FindSaying(sentence, Saying::Leaves)) return true;
+  if (signals.Has(Signal::Rejects, Signal::Chooses)) return !IsCalm(sentence);
+  const bool isOwn =
+      std::ranges::any_of(sentence, [&](const auto& token) { return IsOneOf(token, own); });
+  if (signals.Has(Signal::Points)) {
+    if (signals.Has(Signal::Denies, Signal::Leaves, Signal::Says)) return true;
+    const bool acts = signals.Has(Signal::Takes, Signal::Later);
+    if (signals.Has(Signal::Past)) return true;
+    if (!isOwn && (acts || IsOfSome(sentence))) return true;
+  }
+  if (signals.Has(Signal::Hints) && signals.Has(Signal::Says, Signal::Takes)) return true;
+  if (signals.Has(Signal::Says) && (signals.Has(Signal::Denies) || count < few)) return true;
+  if (signals.Has(Signal::Plans) && signals.Has(Signal::Hints, Signal::Points)) return true;
+  if (CountsLines(sentence)) return true;
+  const bool isOfUnit =
+      unit == Unplaced::Bears && std::ranges::any_of(sentence, [](const Token& token) {
+        return UnitTypeOf(token) != 0 && token.Text.size() > 1;
+      });
+  if (count > brief) return false;
+  const Token& first = sentence[FirstWord(sentence)];
+  const bool isUnfinished = IsWord(sentence[0], "to") && IsWord(sentence[1], "be");
+  return isOfUnit || isUnfinished || Signs(first, Signal::Takes) || Signs(first, Signal::Later) ||
+         (Signs(first, Signal::Denies) && count < few && !IsCalm(sentence));
+}
+
+std::optional<TokenRange> FindBearing(Tokens line, const PlaceNames& names) {
+  if (line.empty() || IsA(line.back(), TokenKind::Colon)) return std::nullopt;
+  for (const auto& [begin, end] : SentencesOf(line)) {
+    const Tokens sentence = line.subspan(begin, end - begin);
+    const Unplaced unit = NamesUnit(sentence, names) ? Unplaced::Ignored : Unplaced::Bears;
+    if (BearsOnOrders(sentence, unit) && !SpeaksOfElse(sentence, names))
+      return TokenRange{begin, end};
+  }
+  return std::nullopt;
+}
+
+}  // namespace orb::exchange

@@ -1,0 +1,138 @@
+#include "orders/exchange/harmless_words.h"
+
+#include "orders/exchange/doubts.h"
+#include "orders/exchange/line_kinds.h"
+#include "orders/exchange/power_names.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace orb::exchange {
+namespace {
+
+/// Phrases, parted by "|"; "@" is a name, "~" one or two of them. In the languages of the verbs.
+constexpr std::string_view Phrases =
+    "this is ~|thats me|its me|its ~|it is ~|~ here|here is ~|i am ~|im ~|my name is ~|"
+    "hier ist ~|hier spricht ~|ich bin ~|~ hier|cest ~|c moi|cest moi|ici ~|je suis ~|~ ici|"
+    "soy ~|aqui ~|al habla ~|sono ~|qui ~|sou ~|aqui e ~|hier is ~|ik ben ~|her er ~|jeg er ~|"
+    "det er ~|det ar ~|jag ar ~|har ar ~|tu ~|"
+    "now then|here goes|here we go|here you go|there you go|off we go|without further ado|"
+    "sorry im late|sorry i am late|sorry for being late|sorry to be late|sorry for the delay|"
+    "sorry about the delay|sorry for the wait|a bit late|bin spat dran|sorry ich bin spat dran|"
+    "desole du retard|desole pour le retard|perdon por el retraso|scusate il ritardo|"
+    "scusa il ritardo|desculpa o atraso|sorry voor de vertraging|undskyld forsinkelsen|"
+    "send message|send mail|end message|end of message|message ends|over and out|send that|"
+    "thats all|thats it|that is all|thats the lot|thats everything|that will be all|all done|"
+    "das wars|das war es|das ist alles|cest tout|eso es todo|es todo|e tutto|tutto qui|e tudo|"
+    "dat was het|dat is alles|det var det|det var alt|det var allt|to wszystko|to tyle|"
+    "from me|from us|von mir|von uns|de ma part|de mi parte|da parte mia|van mij|fra mig|"
+    "fra meg|fran mig|ode mnie|nur eins|see you|see ya|see u|bis dann|bis bald|a bientot|"
+    "hasta luego|hasta pronto|a presto|ate logo|tot straks|vi ses|na razie|talk soon|"
+    "take care|have fun|have a good one|enjoy the show|well played|all fixed|as ever|"
+    "as always|as every year|wie immer|comme toujours|como siempre|come sempre|como sempre|"
+    "zoals altijd|som altid|som alltid|jak zawsze";
+
+bool IsNamed(Tokens tokens, std::size_t at, const PlaceNames& names) {
+  if (at >= tokens.size() || !IsA(tokens[at], TokenKind::Word)) return false;
+  const Token& token = tokens[at];
+  return token.Capital && token.Text.size() > 1 && VerbOf(token) == Verb::None &&
+         UnitTypeOf(token) == 0 && token.Means.Uses == 0 && token.Means.Signals == 0 &&
+         PowerAt(tokens, at).Power == 0 && names.At(tokens, at).empty() &&
+         names.Near(token.Text).empty();
+}
+
+/// The tokens that a phrase takes from here, or 0.
+std::size_t LengthOf(Tokens tokens, std::size_t at, const std::vector<std::string_view>& phrase,
+                     const PlaceNames& names) {
+  std::size_t next = at;
+  for (const std::string_view word : phrase) {
+    const bool isName = word == "~";
+    const bool isHere =
+        isName ? IsNamed(tokens, next, names) : next < tokens.size() && IsWord(tokens[next], word);
+    if (!isHere) return 0;
+    ++next;
+    if (isName && IsNamed(tokens, next, names)) ++next;
+  }
+  return next - at;
+}
+
+using PhraseTable =
+    std::unordered_map<std::string_view, std::vector<std::vector<std::string_view>>>;
+
+const PhraseTable& AllPhrases() {
+  static const PhraseTable table = [] {
+    PhraseTable all;
+    for (const std::string_view phrase : Parts(Phrases, '|')) {
+      auto words = Parts(phrase, ' ');
+      const std::string_view first = words[0];
+      all[first].push_back(std::move(words));
+    }
+    return all;
+  }();
+  return table;
+}
+
+template <std::size_t Count>
+bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& words) {
+  return IsA(token, TokenKind::Word) && std::ranges::find(words, token.Text) != words.end();
+}
+
+/// Whether a word may bear on orders, so that no reason is harmless that has it.
+bool MayBear(Tokens words, std::size_t at, const PlaceNames& names) {
+  const Token& token = words[at];
+  if (!IsA(token, TokenKind::Word)) {
+    return IsDoubtfulSign(token) || IsA(token, TokenKind::Dash) || IsA(token, TokenKind::Colon) ||
+           IsA(token, TokenKind::Slash);
+  }
+  constexpr unsigned hints = static_cast<unsigned>(Signal::Hints);
+  if ((token.Means.Signals & ~hints) != 0 || token.Means.Sayings != 0) return true;
+  if (HasUse(token, WordUse::Condition, WordUse::SetsAside, WordUse::Aside, WordUse::Report))
+    return true;
+  if (HasUse(token, WordUse::Reservation, WordUse::Correction)) return true;
+  const bool isUnit = UnitTypeOf(token) != 0 && token.Text.size() > 1;
+  const Verb verb = VerbOf(token);
+  const bool orders = verb != Verb::None && verb != Verb::Move && token.Text.size() > 1;
+  return isUnit || orders || IsNumber(token) || PowerAt(words, at).Power != 0 ||
+         (token.Text.size() > 2 && !names.At(words, at).empty());
+}
+
+}  // namespace
+
+std::size_t LengthOfPlainPhrase(Tokens tokens, std::size_t at, const PlaceNames& names) {
+  std::size_t longest = 0;
+  const auto tryAll = [&](std::string_view first) {
+    const auto found = AllPhrases().find(first);
+    if (found == AllPhrases().end()) return;
+    for (const auto& phrase : found->second)
+      longest = std::max(longest, LengthOf(tokens, at, phrase, names));
+  };
+  tryAll(tokens[at].Text);
+  if (tokens[at].Capital) tryAll("~");
+  return longest;
+}
+
+bool IsReason(Tokens words, const PlaceNames& names) {
+  constexpr std::array<std::string_view, 31> leads{
+      "because",   "since",  "cause",  "cos",    "coz",         "cuz",    "hope",    "hoping",
+      "hopefully", "weil",   "denn",   "hoffe",  "hoffentlich", "car",    "puisque", "espere",
+      "esperons",  "porque", "espero", "perche", "poiche",      "spero",  "pois",    "omdat",
+      "hoop",      "fordi",  "haber",  "haper",  "eftersom",    "hoppas", "bo"};
+  constexpr std::array<std::string_view, 6> places{"where", "wo", "ou", "donde", "dove", "waar"};
+  std::size_t at = 0;
+  while (at < words.size() &&
+         (IsA(words[at], TokenKind::Open) || IsA(words[at], TokenKind::Comma) ||
+          IsA(words[at], TokenKind::Dash) || IsWord(words[at], "i") || IsWord(words[at], "just")))
+    ++at;
+  if (at == words.size()) return false;
+  const bool isParisian = IsWord(words[at], "parce") || IsWord(words[at], "ya");
+  if (!isParisian && !IsOneOf(words[at], leads) && !IsOneOf(words[at], places)) return false;
+  for (++at; at < words.size(); ++at) {
+    if (MayBear(words, at, names)) return false;
+  }
+  return true;
+}
+
+}  // namespace orb::exchange

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "orders/exchange/place_names.h"
+
+namespace orb::exchange {
+
+// What may stand beside an order and surely leaves it as it is, though its words are of any kind.
+
+/// How many tokens from here are a phrase that changes nothing, with the name of a person in it:
+/// "okay this is Harold", "sorry I'm late", "send message"; 0: none.
+std::size_t LengthOfPlainPhrase(Tokens tokens, std::size_t at, const PlaceNames& names);
+
+/// Whether words give a reason, a wish or a purpose and nothing that may bear on orders: "since the
+/// oysters are good there", "(hope he remembers)".
+bool IsReason(Tokens words, const PlaceNames& names);
+
+}  // namespace orb::exchange
