@@ -124,7 +124,7 @@ std::string NounOf(Stage stage, int due) {
 }
 
 /// "3 of 4 orders", "no units"
-std::string Progress(const PowerStanding& power, Stage stage) {
+std::string ProgressOf(const PowerStanding& power, Stage stage) {
   if (power.Due == 0 && power.Ordered == 0) {
     if (stage == Stage::Moves) return "no units";
     if (stage == Stage::Retreats) return "no retreats";
@@ -181,7 +181,7 @@ std::string FigureOf(const PowerStanding& power, Stage stage) {
 }
 
 std::string SentenceOf(const std::string& name, const PowerStanding& power, Stage stage) {
-  std::string sentence = name + ": " + Progress(power, stage);
+  std::string sentence = name + ": " + ProgressOf(power, stage);
   if (power.Excess > 0) sentence += ", " + std::to_string(power.Excess) + " too many";
   if (power.Doubtful > 0) sentence += ", " + std::to_string(power.Doubtful) + " doubtful";
   return sentence;
