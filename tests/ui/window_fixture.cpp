@@ -32,8 +32,15 @@ std::vector<std::string> WindowTest::Lines(const char* list) const {
 
 QImage WindowTest::Map() const {
   // Lists lay out their lines, and splitters their parts, one after the other.
-  QTest::qWait(20);
-  return Find<QWidget>("picMap").grab().toImage();
+  QImage map;
+  const auto isTheSameAgain = [&] {
+    QImage before = Find<QWidget>("picMap").grab().toImage();
+    map.swap(before);
+    return map == before;
+  };
+  for (int k = 0; k < 50 && !isTheSameAgain(); ++k)
+    QTest::qWait(20);
+  return map;
 }
 
 std::string WindowTest::StagePanel() const {
