@@ -6,6 +6,8 @@
 #include "session/queries.h"
 #include "text/strings.h"
 
+#include <array>
+
 namespace orb::cli {
 namespace {
 
@@ -13,13 +15,13 @@ constexpr std::array Options{OptionId::Orders,         OptionId::Loose,    Optio
                              OptionId::AcceptDoubtful, OptionId::Register, OptionId::Rules,
                              OptionId::Json,           OptionId::FilesFrom};
 
-constexpr Example Examples[] = {
+constexpr auto Examples = std::to_array<Example>({
     {"what is wrong with the orders of a file", "check --orders s01.txt league.orb"},
     {"with orders as they came from one power",
      "check --loose --power FRA --orders from_france.txt league.orb"},
     {"for another program", "check --json --orders mail games/*.orb"},
     {"with orders that another program writes", "check --orders - league.orb"},
-};
+});
 
 /// One line for each problem: of lines that were left out, of the orders as listed, of units
 /// without orders, of powers.

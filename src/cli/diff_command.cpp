@@ -6,16 +6,18 @@
 #include "session/files_beside.h"
 #include "session/trial.h"
 
+#include <array>
+
 namespace orb::cli {
 namespace {
 
 constexpr std::array Options{OptionId::Rules, OptionId::Try, OptionId::Json};
 
-constexpr Example Examples[] = {
+constexpr auto Examples = std::to_array<Example>({
     {"the notice that goes out after a mistake", "diff league_wrong.orb league.orb"},
     {"what becomes of the same moves by two lists of orders", "diff --try first.orb second.orb"},
     {"for another program", "diff --json league_s01.orb league_a01.orb"},
-};
+});
 
 int Execute(const CommandLine& line, Console& console) {
   const session::Rules rules = RulesOf(line);

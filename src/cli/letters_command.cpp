@@ -10,6 +10,7 @@
 #include "session/files_beside.h"
 #include "session/trial.h"
 
+#include <array>
 #include <system_error>
 
 namespace orb::cli {
@@ -19,14 +20,14 @@ constexpr std::array Options{OptionId::Orders,         OptionId::Loose,  OptionI
                              OptionId::AcceptDoubtful, OptionId::Rules,  OptionId::Try,
                              OptionId::Mode,           OptionId::Output, OptionId::NoClobber};
 
-constexpr Example Examples[] = {
+constexpr auto Examples = std::to_array<Example>({
     {"what was received from each power, and what is wrong with it",
      "letters --loose --orders mail.txt -o letters league.orb"},
     {"what became of each power's orders and why, with the game file before the moves beside it",
      "letters -o letters league_s01_moves.orb"},
     {"what becomes of each power's orders and why, before the game is written",
      "letters --try --orders s01.txt -o letters league.orb"},
-};
+});
 
 /// Wide enough for a mail, and a third of the bytes of a whole map.
 constexpr int MapWidth = 1000;

@@ -9,6 +9,7 @@
 #include "settings/map_options.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <tuple>
 #include <utility>
@@ -22,12 +23,12 @@ constexpr std::array Options{OptionId::Orders,  OptionId::Mode,         OptionId
                              OptionId::Letters, OptionId::Animate,      OptionId::Width,
                              OptionId::Format,  OptionId::Output,       OptionId::NoClobber};
 
-constexpr Example Examples[] = {
+constexpr auto Examples = std::to_array<Example>({
     {"the map as a picture for the next mail", "map --width 1200 -o league.png league.orb"},
     {"with arrows for the orders of a file", "map --orders s01.txt -o orders.svg league.orb"},
     {"what happened in a whole game", "map --animate -o league.gif league_*.orb"},
     {"handed on to another program", "map --format pdf -o - league.orb | lp"},
-};
+});
 
 render::MapFormat Format(const CommandLine& line, const std::filesystem::path& picture) {
   if (line.Has(OptionId::Format)) {
@@ -85,6 +86,7 @@ std::vector<history::Replay> ReplaysOf(const std::vector<session::Situation>& si
     parts.push_back(history::SeasonPart(situations[0].Game, situations[0].Outcomes));
   } else {
     std::vector<model::GameState> games;
+    games.reserve(situations.size());
     for (const session::Situation& situation : situations)
       games.push_back(situation.Game);
     std::ranges::stable_sort(games, {}, [](const model::GameState& game) {
@@ -93,6 +95,7 @@ std::vector<history::Replay> ReplaysOf(const std::vector<session::Situation>& si
     parts = history::ReplaySequence(games);
   }
   std::vector<history::Replay> replays;
+  replays.reserve(parts.size());
   for (history::ReplayPart& part : parts)
     replays.push_back(std::move(part.Replay));
   return replays;

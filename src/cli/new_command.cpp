@@ -7,6 +7,7 @@
 #include "text/encoding.h"
 
 #include <algorithm>
+#include <array>
 
 namespace orb::cli {
 namespace {
@@ -14,10 +15,10 @@ namespace {
 constexpr std::array Options{OptionId::Blank, OptionId::Title, OptionId::Output,
                              OptionId::NoClobber};
 
-constexpr Example Examples[] = {
+constexpr auto Examples = std::to_array<Example>({
     {"begin a game", "new --title \"Winter league\" -o league.orb"},
     {"look at the starting position without a file", "new -o - | orbctl show -"},
-};
+});
 
 /// The 8-bit form of a title.
 std::string TitleBytes(const std::string& title) {

@@ -3,16 +3,18 @@
 #include "cli/games.h"
 #include "session/commands.h"
 
+#include <array>
+
 namespace orb::cli {
 namespace {
 
 constexpr std::array Options{OptionId::Output, OptionId::InPlace, OptionId::NoClobber,
                              OptionId::FilesFrom};
 
-constexpr Example Examples[] = {
+constexpr auto Examples = std::to_array<Example>({
     {"on to autumn, in a file of its own", "next -o league_a01.orb league_s01.orb"},
     {"all games of a list, each over its own file", "next --in-place --files-from games.txt"},
-};
+});
 
 int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);

@@ -7,6 +7,7 @@
 #include "model/files.h"
 #include "render/map_module.h"
 
+#include <array>
 #include <utility>
 
 namespace orb::cli {
@@ -16,10 +17,10 @@ constexpr std::array Options{OptionId::Orders,    OptionId::Loose,  OptionId::Ac
                              OptionId::Rules,     OptionId::Mode,   OptionId::Yes,
                              OptionId::FilesFrom, OptionId::Output, OptionId::NoClobber};
 
-constexpr Example Examples[] = {
+constexpr auto Examples = std::to_array<Example>({
     {"the season that these orders make", "publish --orders s01.txt -o spring.html league_s01.orb"},
     {"a whole game from its files", "publish -o league.html league_*.orb"},
-};
+});
 
 /// Adds a game with its orders; false where a question about them was answered No.
 bool AddSource(const CommandLine& line, Console& console, OrdersSource& orders, GameAtWork& at,

@@ -9,6 +9,7 @@
 #include "session/trial.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,7 +24,7 @@ constexpr std::array Options{
     OptionId::Compare,  OptionId::Try,     OptionId::Json,      OptionId::Yes,
     OptionId::Output,   OptionId::InPlace, OptionId::NoClobber, OptionId::FilesFrom};
 
-constexpr Example Examples[] = {
+constexpr auto Examples = std::to_array<Example>({
     {"resolve the stage, with the report on the terminal and the reasons in a file",
      "resolve --orders s01.txt --reasons why.txt --in-place league.orb"},
     {"try out the orders that stand in a mail, and read why each came out as it did",
@@ -34,7 +35,7 @@ constexpr Example Examples[] = {
      "resolve --json --yes --orders mail --in-place games/*.orb"},
     {"keep the game as it was and write the resolved one beside it",
      "resolve --yes --no-clobber --orders s01.txt -o after.orb league.orb"},
-};
+});
 
 /// What --compare tells: how many orders came out otherwise, and for each both reasons.
 void SayDifferences(Console& console, const std::string& game,

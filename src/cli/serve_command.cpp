@@ -6,6 +6,7 @@
 #include "model/files.h"
 
 #include <algorithm>
+#include <array>
 #include <iostream>
 #include <istream>
 #include <optional>
@@ -14,9 +15,9 @@
 namespace orb::cli {
 namespace {
 
-constexpr Example Examples[] = {
+constexpr auto Examples = std::to_array<Example>({
     {"answer the requests of another program, or of a file that is piped into it", "serve"},
-};
+});
 
 /// Far more than any game needs, and little enough to be kept.
 constexpr std::size_t LongestLine = 1'000'000;

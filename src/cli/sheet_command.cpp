@@ -7,17 +7,19 @@
 #include "render/map_module.h"
 #include "text/encoding.h"
 
+#include <array>
+
 namespace orb::cli {
 namespace {
 
 constexpr std::array Options{OptionId::Power, OptionId::Mail, OptionId::Mode, OptionId::Output,
                              OptionId::NoClobber};
 
-constexpr Example Examples[] = {
+constexpr auto Examples = std::to_array<Example>({
     {"a page on which France enters its orders",
      "sheet --power FRA --mail gm@example.org -o france.html league.orb"},
     {"one page for all, who choose their power on it", "sheet -o orders.html league.orb"},
-};
+});
 
 /// The address in the form of texts. A character without an 8-bit form has no place in it.
 std::string AddressOf(const CommandLine& line) {

@@ -3,15 +3,17 @@
 #include "cli/games.h"
 #include "report/text_report.h"
 
+#include <array>
+
 namespace orb::cli {
 namespace {
 
 constexpr std::array Options{OptionId::Json, OptionId::FilesFrom};
 
-constexpr Example Examples[] = {
+constexpr auto Examples = std::to_array<Example>({
     {"the situation as text, for the next mail", "show league.orb"},
     {"that of all games of a list, one after the other", "show --files-from games.txt"},
-};
+});
 
 int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);

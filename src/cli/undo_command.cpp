@@ -3,16 +3,18 @@
 #include "cli/games.h"
 #include "session/commands.h"
 
+#include <array>
+
 namespace orb::cli {
 namespace {
 
 constexpr std::array Options{OptionId::Yes, OptionId::Output, OptionId::InPlace,
                              OptionId::NoClobber, OptionId::FilesFrom};
 
-constexpr Example Examples[] = {
+constexpr auto Examples = std::to_array<Example>({
     {"put the season back to its start, to resolve it with other orders",
      "undo --in-place league.orb"},
-};
+});
 
 int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);

@@ -4,6 +4,7 @@
 #include "session/commands.h"
 #include "session/what_if.h"
 
+#include <array>
 #include <optional>
 
 namespace orb::cli {
@@ -13,12 +14,12 @@ constexpr std::array Options{
     OptionId::Orders, OptionId::Loose, OptionId::Power, OptionId::AcceptDoubtful,
     OptionId::Rules,  OptionId::Pairs, OptionId::Json};
 
-constexpr Example Examples[] = {
+constexpr auto Examples = std::to_array<Example>({
     {"what would have let the army through",
      "whatif --orders s01.txt league.orb \"FRA A(Mar) - Spa\""},
     {"also with two orders of one power, by the usual rules",
      "whatif --pairs --rules usual --orders s01.txt league.orb \"FRA A(Mar)\""},
-};
+});
 
 /// "  GER A(Mun) - Bur: It failed: ... (2 other orders come out otherwise)"
 std::string AlternativeLine(const session::Alternative& alternative) {

@@ -100,8 +100,8 @@ Lab Seen(model::Colour colour, Vision vision) {
   if (vision == Vision::NoRed) rgb = Product(NoRedMatrix, rgb);
   if (vision == Vision::NoGreen) rgb = Product(NoGreenMatrix, rgb);
   if (vision == Vision::NoBlue) rgb = Product(NoBlueMatrix, rgb);
+  // A simulated colour may lie outside what a screen can show.
   for (double& part : rgb)
-    // A simulated colour may lie outside what a screen can show.
     part = std::clamp(part, 0.0, 1.0);
   const Vector xyz = Product(RgbToXyz, rgb);
   const double x = Cube(xyz[0] / 0.95047);

@@ -109,6 +109,7 @@ std::string CentresChart(const std::vector<Season>& seasons) {
   if (seasons.size() < 2) return {};
   const model::CountryTable& countries = seasons.front().End.Countries;
   std::vector<history::Moment> ends;
+  ends.reserve(seasons.size());
   for (const Season& season : seasons)
     ends.push_back(history::MomentOf(season.End));
   const Rows rows = history::CentresOverTime(ends);

@@ -21,6 +21,7 @@ using model::GameState;
 
 std::string Strings(const std::vector<std::string>& texts) {
   std::vector<std::string> json;
+  json.reserve(texts.size());
   for (const std::string& text : texts)
     json.push_back(JsonText(text));
   return "[" + Joined(json) + "]";

@@ -62,7 +62,7 @@ double SvgDefinitions::OutlinePen(double twips) const {
 }
 
 std::string SvgDefinitions::GlyphId(int glyph) {
-  const std::string id = std::string("g").append(std::to_string(glyph));
+  std::string id = std::string("g").append(std::to_string(glyph));
   if (!glyphs_.insert(glyph).second) return id;
   OutlineWriter writer;
   for (const OutlineStep& step : material_.Outline(glyph))

@@ -3,6 +3,7 @@
 #include "text/encoding.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 
@@ -39,7 +40,7 @@ std::string ColourText(model::Colour colour) {
   constexpr std::string_view digits = "0123456789abcdef";
   std::array<unsigned, 6> nibbles{};
   bool isShort = true;
-  for (unsigned part = 0; part < 3; ++part) {
+  for (std::size_t part = 0; part < 3; ++part) {
     const unsigned value = colour >> (8 * part) & 0xFF;
     nibbles[2 * part] = value >> 4;
     nibbles[2 * part + 1] = value & 0xF;

@@ -58,13 +58,15 @@ Tint OwnersTint(const GameState& game, int location) {
 
 /// The pixel of the hit-test picture that lies where a pixel of a picture of another size does.
 int Corresponding(int pixel, int size, int hitSize) {
-  return static_cast<int>((2 * static_cast<std::int64_t>(pixel) + 1) * hitSize / (2 * size));
+  const std::int64_t middle = 2 * static_cast<std::int64_t>(pixel) + 1;
+  return static_cast<int>(middle * hitSize / (2 * static_cast<std::int64_t>(size)));
 }
 
 /// Calls with every pixel and the row of the location that it shows.
 template <class Visitor>
 void ForPixels(const PixelPicture& picture, const HitMap& hitMap, int step, Visitor visit) {
   std::vector<int> columns;
+  columns.reserve(static_cast<std::size_t>(picture.Width));
   for (int x = 0; x < picture.Width; ++x)
     columns.push_back(Corresponding(x, picture.Width, hitMap.Width()));
   for (int y = 0; y < picture.Height; y += step) {
@@ -139,10 +141,12 @@ Pattern PatternFor(Tint tint, int width) {
   Pattern pattern;
   pattern.Side = std::max(3, static_cast<int>(std::lround(sideOn1000 * width / 1000)));
   for (int i = 0; i < pattern.Side * pattern.Side; ++i) {
+    const int row = i / pattern.Side;
     int hits = 0;
     for (int k = 0; k < samples * samples; ++k) {
+      const int sampleRow = k / samples;
       const double x = i % pattern.Side + (k % samples + 0.5) / samples;
-      const double y = i / pattern.Side + (k / samples + 0.5) / samples;
+      const double y = row + (sampleRow + 0.5) / samples;
       hits += HasInk(tint, x, y, pattern.Side) ? 1 : 0;
     }
     pattern.Ink.push_back(static_cast<std::uint8_t>(hits * blackest / (samples * samples)));
@@ -158,11 +162,13 @@ std::uint32_t Inked(std::uint32_t colour, unsigned ink) {
 
 void ApplyPatterns(const PixelPicture& picture, const HitMap& hitMap, const Tinting& tinting) {
   std::vector<Pattern> patterns;
+  patterns.reserve(TintCount);
   for (std::size_t tint = 0; tint < TintCount; ++tint)
     patterns.push_back(PatternFor(static_cast<Tint>(tint), picture.Width));
   // All patterns repeat alike; a division for each pixel would take longer than all the rest.
   const int side = patterns.front().Side;
   std::vector<int> columns;
+  columns.reserve(static_cast<std::size_t>(picture.Width));
   for (int x = 0; x < picture.Width; ++x)
     columns.push_back(x % side);
   std::array<const std::uint8_t*, MaxRow> inkOf{};
