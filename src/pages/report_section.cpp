@@ -7,6 +7,7 @@
 #include "render/svg_text.h"
 #include "report/report_lines.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -129,6 +130,12 @@ std::vector<std::string> CentresOf(const GameState& game, const std::string& pow
   return centres;
 }
 
+/// Where a journey's unit stands last.
+const std::string& LastPlace(const history::Journey& journey) {
+  if (!journey.Retreat.empty()) return journey.Retreat;
+  return history::HasMoved(journey) ? journey.Aim : journey.From;
+}
+
 }  // namespace
 
 std::string PowerSign(const model::Country& country) {
@@ -192,11 +199,13 @@ std::string MovementsSection(const Season& season) {
       if (journey.Dislodged || journey.DislodgedAtFirst) text.append(", dislodged");
       if (!journey.Retreat.empty()) text.append(", retreats to ").append(journey.Retreat);
       if (journey.Vanishes) text.append(", disbanded");
-      groups.Add(
-          Element("li",
-                  {{"class", "entry"}, {"data-power", journey.Power}, {"data-at", journey.From}},
-                  Element("span", {{"class", "order-text"}}, Text(text)))
-              .append("\n"));
+      groups.Add(Element("li",
+                         {{"class", "entry"},
+                          {"data-power", journey.Power},
+                          {"data-at", journey.From},
+                          {"data-to", LastPlace(journey)}},
+                         Element("span", {{"class", "order-text"}}, Text(text)))
+                     .append("\n"));
     }
   }
   groups.End();
@@ -204,23 +213,28 @@ std::string MovementsSection(const Season& season) {
 }
 
 std::string PowersSection(const GameState& game) {
+  const bool hasPlayers = std::ranges::any_of(
+      game.Countries, [](const model::Country& country) { return !country.PlayerName.empty(); });
   std::string rows;
   for (const model::Country& country : game.Countries) {
     const model::PowerCount count = model::CountPower(game, country.Abbreviation);
     rows.append("<tr>");
     rows.append(Element("th", {{"scope", "row"}}, PowerSign(country) + Text(country.Name)));
-    rows.append(Element("td", Text(country.PlayerName)));
+    if (hasPlayers) rows.append(Element("td", Text(country.PlayerName)));
     rows.append(Element("td", {{"class", "number"}}, std::to_string(count.Centres)));
     rows.append(Element("td", {{"class", "number"}}, std::to_string(count.Units)));
-    rows.append(Element("td", Text(Listed(CentresOf(game, country.Abbreviation)))));
-    rows.append(Element("td", Text(Listed(UnitsOf(game, country.Abbreviation)))));
+    rows.append(
+        Element("td", {{"class", "places"}}, Text(Listed(CentresOf(game, country.Abbreviation)))));
+    rows.append(
+        Element("td", {{"class", "places"}}, Text(Listed(UnitsOf(game, country.Abbreviation)))));
     rows.append("</tr>\n");
   }
   constexpr std::array<std::string_view, 6> titles = {"Power", "Player",      "Centres",
                                                       "Units", "Its centres", "Its units"};
   std::string head;
-  for (const std::string_view title : titles)
-    head.append(Element("th", {{"scope", "col"}}, title));
+  for (const std::string_view title : titles) {
+    if (hasPlayers || title != "Player") head.append(Element("th", {{"scope", "col"}}, title));
+  }
   return "<div class=\"scrolls\" tabindex=\"0\" role=\"region\" aria-label=\"Powers, centres and "
          "units\"><table class=\"powers\"><thead><tr>" +
          head + "</tr></thead><tbody>\n" + rows + "</tbody></table></div>\n";

@@ -57,8 +57,10 @@ std::string MapFigure(const Season& season, std::size_t index, Maps& maps) {
   std::string views;
   std::string layers = Maps::Ground();
   if (HasHappened(season)) {
-    views = View(id, "orders", season.Orders.empty() ? "Before" : "Orders and outcome", true) +
-            View(id, "result", "Position afterwards", false);
+    // Without orders the map before them has nothing to say that the last one has not.
+    const bool isOrdered = !season.Orders.empty();
+    views = View(id, "orders", isOrdered ? "Orders and outcome" : "Before", isOrdered) +
+            View(id, "result", "Position afterwards", !isOrdered);
     layers.append("<g class=\"layer before\">\n")
         .append(maps.Layer(season.Start, season.Orders, id + "b-"))
         .append("</g>\n");
@@ -97,13 +99,31 @@ std::string ReportPart(const Season& season) {
          MovementsSection(season);
 }
 
+/// The classes of a season: how large it is printed, so that it fills one sheet and no more.
+std::string_view PrintedSize(const Season& season) {
+  constexpr std::size_t entry = 45;  // the rest of a line, in letters
+  std::size_t letters = 0;
+  for (const std::string& line : season.End.ReportLines)
+    letters += line.size() + entry;
+  for (const session::ReportNote& note : season.Notes)
+    letters += note.Reason.size();
+  for (const std::string& line : season.End.TextLines)
+    letters += line.size() + entry;
+  if (letters < 2700) return "season largest";
+  if (letters < 3600) return "season larger";
+  return letters < 4800 ? "season large" : "season";
+}
+
 std::string SeasonSection(const Season& season, std::size_t index, Maps& maps) {
   const std::string id = IdOf(index);
   std::string heading = Text(season.Name);
   if (const std::string_view remark = StageRemark(season.End.Stage); !remark.empty()) {
     heading.append(" ").append(Element("small", remark));
   }
-  return Element("section", {{"class", "season"}, {"id", id}, {"aria-labelledby", id + "-heading"}},
+  return Element("section",
+                 {{"class", std::string(PrintedSize(season))},
+                  {"id", id},
+                  {"aria-labelledby", id + "-heading"}},
                  Element("h2", {{"id", id + "-heading"}}, heading) + "\n<div class=\"columns\">\n" +
                      MapFigure(season, index, maps) + "<div class=\"words\">\n" +
                      ReportPart(season) + "</div></div>\n" + NotesSection(season) +

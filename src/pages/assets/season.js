@@ -7,9 +7,7 @@ const sections = data.seasons.map(season => document.getElementById(season.id));
 const isStill = window.matchMedia("(prefers-reduced-motion: reduce)");
 
 function entriesOf(section, where) {
-  const after = section.querySelector(".view.result") && isResult(section);
-  return Array.from(section.querySelectorAll(".entry")).filter(entry =>
-    provinceOf((after && entry.dataset.to) || entry.dataset.at || "") === where);
+  return Array.from(section.querySelectorAll(".entry")).filter(entry => standsIn(section, entry) === where);
 }
 
 /* What a title of the map's drawing says of the unit in a place, by the layer that is shown. */
@@ -41,6 +39,11 @@ function clearLight() {
   section.querySelectorAll(".area").forEach(area => area.classList.remove("with", "chosen"));
 }
 
+/* Where the unit of an entry stands on the map that is shown. */
+function standsIn(section, entry) {
+  return provinceOf((isResult(section) && entry.dataset.to) || entry.dataset.at || "");
+}
+
 /* Lights up the orders of these entries on the map, with the units that had a part in them. */
 function light(entries) {
   clearLight();
@@ -57,12 +60,13 @@ function light(entries) {
         section.querySelector(".board").classList.add("lit");
       }
     });
-    if (isResult(section)) continue;
+    const all = Array.from(section.querySelectorAll(".entry"));
     for (const at of (entry.dataset.with || "").split(" ")) {
-      const area = areas[provinceOf(at)];
+      const other = all.find(candidate => candidate.dataset.at === at);
+      const area = areas[other ? standsIn(section, other) : provinceOf(at)];
       if (area) area.classList.add("with");
     }
-    const own = areas[provinceOf(entry.dataset.at || "")];
+    const own = areas[standsIn(section, entry)];
     if (own) own.classList.add("chosen");
   }
 }
@@ -79,13 +83,17 @@ function tell(where) {
   const owner = data.seasons[shown.index].owners[where];
   heading.textContent = placeName(where) + (owner ? ", " + (data.powers[owner] || owner) : "");
   place.appendChild(heading);
-  const lines = entries.map(entry => Array.from(entry.children).map(part => part.textContent).join(" – "));
-  const texts = lines.length > 0 ? lines : unitsIn(section, where);
-  for (const text of texts.length > 0 ? texts : ["No unit here."]) {
+  const add = (text, kind) => {
     const line = document.createElement("span");
     line.textContent = text;
-    place.append(line, document.createElement("br"));
+    line.className = kind;
+    place.append(line, " ");
+  };
+  for (const entry of entries) {
+    for (const part of entry.children) add(part.textContent, part.className);
   }
+  const units = unitsIn(section, where);
+  if (entries.length === 0) add(units.length > 0 ? units.join(", ") : "No unit here.", "order-text");
   place.hidden = false;
   section.querySelector(".map").appendChild(place);
 }
@@ -273,6 +281,8 @@ function play() {
   shown.frame = requestAnimationFrame(step);
 }
 
+/* On paper each season is as it came out, whatever is lit or moves on the screen. */
+window.addEventListener("beforeprint", () => { stopPlaying(); hideTold(); });
 document.documentElement.classList.add("js");
 for (const section of sections) section.parentNode.insertBefore(section, document.querySelector(".reading"));
 slider.max = String(sections.length - 1);
