@@ -43,7 +43,7 @@ constexpr std::array<std::string_view, 32> MoveTails{
     "upon",    "for",   "in",      "ins",     "im",      "over",   "across",  "out",
     "up",      "en",    "down",    "off",     "home",    "round",  "around",  "along"};
 constexpr std::array<std::string_view, 5> Nouns{"move", "attack", "advance", "of", "for"};
-constexpr std::array<std::string_view, 12> CountWords{
+constexpr std::array<std::string_view, 12> CountingWords{
     "one", "two", "a", "all", "remaining", "rest", "any", "other", "of", "both", "last", "for"};
 
 /// The mouth of ":)", ":D" and ":P".
@@ -307,7 +307,7 @@ std::size_t Phrases::PastNoun(std::size_t at) const {
 std::size_t Phrases::PastCount(std::size_t at) const {
   for (at = Skip(at); at < tokens_.size(); at = Skip(at + 1)) {
     const Token& token = tokens_[at];
-    if (!IsOneOf(token, CountWords) && !IsNumber(token) && VerbOf(token) != Verb::Build) break;
+    if (!IsOneOf(token, CountingWords) && !IsNumber(token) && VerbOf(token) != Verb::Build) break;
   }
   return at;
 }
