@@ -166,7 +166,7 @@ Phrases::Read<WrittenUnit> Phrases::Units(std::size_t at) {
     // the map.
     const bool isBare = next == Skip(at);
     for (auto& [place, behind] :
-         Places(next, "the unit's place is missing", isBare ? NotUnderstood : NotOnTheMap)) {
+         Places(next, "the unit's place is missing", isBare ? NotUnderstoodText : NotOnTheMap)) {
       WrittenUnit unit = head;
       unit.Place = std::move(place);
       // The type may follow, "Paris army", but as a word: "Par F" may begin the next order.
@@ -355,7 +355,7 @@ bool Phrases::Ends(std::size_t at) {
       break;
     }
   }
-  if (at < tokens_.size()) Unknown(at, NotUnderstood, EndOfBracket(at));
+  if (at < tokens_.size()) Unknown(at, NotUnderstoodText, EndOfBracket(at));
   return at == tokens_.size();
 }
 

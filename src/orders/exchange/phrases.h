@@ -15,7 +15,7 @@ namespace orb::exchange {
 
 // The ends of sentences about something written.
 constexpr std::string_view NotOnTheMap = " is not on the map";
-constexpr std::string_view NotUnderstood = " is not understood";
+constexpr std::string_view NotUnderstoodText = " is not understood";
 
 /// The parts that orders are made of, read from one run of tokens. Reading passes over brackets,
 /// commas, full stops and fillers. Of all faults the one furthest behind is kept: the reading that
