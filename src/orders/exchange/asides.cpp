@@ -119,6 +119,13 @@ bool IsTitleOfCorrection(Tokens line) {
   return false;
 }
 
+/// "Armies: (old)".
+bool EndsInBracketedTitle(Tokens line) {
+  const auto open = std::ranges::find(line, TokenKind::Open, &Token::Kind);
+  return open != line.end() && open != line.begin() && IsColon(*(open - 1)) &&
+         IsA(line.back(), TokenKind::Close);
+}
+
 /// Whether a line leaves what others may do to itself, and orders nothing in return.
 bool IsShrug(Tokens line) {
   const bool orders = std::ranges::any_of(line, [](const Token& token) {
@@ -152,7 +159,7 @@ std::optional<Aside> ReadSentence(Tokens line) {
 
 std::optional<Aside> ReadAside(Tokens line, const PlaceNames& names) {
   if (line.empty()) return std::nullopt;
-  if (IsColon(line.back())) return ReadTitle(line);
+  if (IsColon(line.back()) || EndsInBracketedTitle(line)) return ReadTitle(line);
   for (const auto& [begin, end] : SentencesOf(line)) {
     const Tokens sentence = line.subspan(begin, end - begin);
     const auto aside = SpeaksOfElse(sentence, names) ? std::nullopt : ReadSentence(sentence);
@@ -313,7 +320,8 @@ bool Corrects(Tokens line) {
   if (last != line.rend() && IsWord(*last, "instead") && !MakesCondition(line)) return true;
   const auto phrase = FindSaying(line, Saying::Corrects);
   const bool isAsked = std::ranges::find(line, "?", &Token::Text) != line.end();
-  return phrase && !isAsked && !IsOpen(line.first(phrase->Begin));
+  return phrase && !isAsked && !IsOpen(line.first(phrase->Begin)) &&
+         !MakesCondition(line.subspan(phrase->End));
 }
 
 }  // namespace orb::exchange

@@ -2,6 +2,7 @@
 
 #include "orders/exchange/asides.h"
 #include "orders/exchange/other_matters.h"
+#include "orders/exchange/rest_holds.h"
 #include "orders/exchange/sayings.h"
 #include "orders/exchange/sentences.h"
 
@@ -33,18 +34,14 @@ bool Signs(const Token& token, Signal signal) {
   return (token.Means.Signals & static_cast<unsigned>(signal)) != 0;
 }
 
-template <std::size_t Count>
-bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& words) {
-  return IsA(token, TokenKind::Word) && std::ranges::find(words, token.Text) != words.end();
-}
-
 /// Closings of letters, what programs write below them, and offers of help: "Take care", "Sent from
 /// my phone", "If anything is unclear".
 bool IsOfLetter(Tokens words) {
-  constexpr std::array<std::string_view, 15> footers{
-      "confidential", "recipient",    "recipients", "addressee",   "adressat",
-      "empfanger",    "destinataire", "umwelt",     "environment", "environnement",
-      "printing",     "ausdrucken",   "imprimer",   "privileged",  "vertraulich"};
+  constexpr std::array<std::string_view, 22> footers{
+      "address",     "adresse",      "indirizzo",  "direccion",   "adres",         "endereco",
+      "attachments", "confidential", "recipient",  "recipients",  "addressee",     "adressat",
+      "empfanger",   "destinataire", "umwelt",     "environment", "environnement", "printing",
+      "ausdrucken",  "imprimer",     "privileged", "vertraulich"};
   if (std::ranges::any_of(words, [&](const auto& token) { return IsOneOf(token, footers); }))
     return true;
   if (words.size() > 1 && IsWord(words[0], "take") &&
@@ -132,7 +129,7 @@ bool BearsOnOrders(Tokens sentence, Unplaced unit) {
   constexpr std::ptrdiff_t few = 4;
   constexpr std::ptrdiff_t brief = 6;
   const auto count = std::ranges::count(sentence, TokenKind::Word, &Token::Kind);
-  if (count == 0 || IsSecondThought(sentence)) return false;
+  if (count == 0 || IsSecondThought(sentence) || TellsOfNothing(sentence)) return false;
   const Signals signals(sentence);
   const bool asks = sentence.back().Text == "?";
   // "Okay?", "Right?"

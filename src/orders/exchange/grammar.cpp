@@ -115,7 +115,11 @@ class Grammar {
     state.Order.What = stage_ == model::Stage::Retreats ? Verb::Retreat : Verb::Move;
     state.Order.IsGuess = true;
     state.Order.IsBare = !isUnit;
-    if (!IsAllowed(state.Order.What) || (!isUnit && !phrases_.IsPair(unit.Place))) return {};
+    const std::size_t behind = phrases_.PastColon(state.Next);
+    const bool hasColon = behind != state.Next;
+    state.Next = behind;
+    const bool isPair = hasColon || phrases_.IsPair(unit.Place);
+    if (!IsAllowed(state.Order.What) || (!isUnit && !isPair)) return {};
     if (isUnit && !phrases_.IsWordAt(state.Next)) return {};
     States moves = Destinations(state);
     for (State& move : moves) {

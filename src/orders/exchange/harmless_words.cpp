@@ -3,6 +3,7 @@
 #include "orders/exchange/doubts.h"
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/power_names.h"
+#include "orders/exchange/sayings.h"
 
 #include <algorithm>
 #include <array>
@@ -13,8 +14,9 @@
 namespace orb::exchange {
 namespace {
 
-/// Phrases, parted by "|"; "@" is a name, "~" one or two of them. In the languages of the verbs.
-constexpr std::string_view Phrases =
+/// PlainPhrases, parted by "|"; "@" is a name, "~" one or two of them. In the languages of the
+/// verbs.
+constexpr std::string_view PlainPhrases =
     "this is ~|thats me|its me|its ~|it is ~|~ here|here is ~|i am ~|im ~|my name is ~|"
     "hier ist ~|hier spricht ~|ich bin ~|~ hier|cest ~|c moi|cest moi|ici ~|je suis ~|~ ici|"
     "soy ~|aqui ~|al habla ~|sono ~|qui ~|sou ~|aqui e ~|hier is ~|ik ben ~|her er ~|jeg er ~|"
@@ -35,7 +37,7 @@ constexpr std::string_view Phrases =
     "as always|as every year|wie immer|comme toujours|como siempre|come sempre|como sempre|"
     "zoals altijd|som altid|som alltid|jak zawsze";
 
-bool IsNamed(Tokens tokens, std::size_t at, const PlaceNames& names) {
+bool IsPersonAt(Tokens tokens, std::size_t at, const PlaceNames& names) {
   if (at >= tokens.size() || !IsA(tokens[at], TokenKind::Word)) return false;
   const Token& token = tokens[at];
   return token.Capital && token.Text.size() > 1 && VerbOf(token) == Verb::None &&
@@ -45,27 +47,27 @@ bool IsNamed(Tokens tokens, std::size_t at, const PlaceNames& names) {
 }
 
 /// The tokens that a phrase takes from here, or 0.
-std::size_t LengthOf(Tokens tokens, std::size_t at, const std::vector<std::string_view>& phrase,
-                     const PlaceNames& names) {
+std::size_t LengthOfOne(Tokens tokens, std::size_t at, const std::vector<std::string_view>& phrase,
+                        const PlaceNames& names) {
   std::size_t next = at;
   for (const std::string_view word : phrase) {
     const bool isName = word == "~";
-    const bool isHere =
-        isName ? IsNamed(tokens, next, names) : next < tokens.size() && IsWord(tokens[next], word);
+    const bool isHere = isName ? IsPersonAt(tokens, next, names)
+                               : next < tokens.size() && IsWord(tokens[next], word);
     if (!isHere) return 0;
     ++next;
-    if (isName && IsNamed(tokens, next, names)) ++next;
+    if (isName && IsPersonAt(tokens, next, names)) ++next;
   }
   return next - at;
 }
 
-using PhraseTable =
+using PlainPhraseTable =
     std::unordered_map<std::string_view, std::vector<std::vector<std::string_view>>>;
 
-const PhraseTable& AllPhrases() {
-  static const PhraseTable table = [] {
-    PhraseTable all;
-    for (const std::string_view phrase : Parts(Phrases, '|')) {
+const PlainPhraseTable& AllPlainPhrases() {
+  static const PlainPhraseTable table = [] {
+    PlainPhraseTable all;
+    for (const std::string_view phrase : Parts(PlainPhrases, '|')) {
       auto words = Parts(phrase, ' ');
       const std::string_view first = words[0];
       all[first].push_back(std::move(words));
@@ -75,23 +77,30 @@ const PhraseTable& AllPhrases() {
   return table;
 }
 
-template <std::size_t Count>
-bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& words) {
-  return IsA(token, TokenKind::Word) && std::ranges::find(words, token.Text) != words.end();
+/// Whether words hold a phrase by which orders are taken back, put off or the like.
+bool SaysOfOrders(Tokens words) {
+  constexpr std::array sayings{Saying::Revokes, Saying::Postpones, Saying::Gives,
+                               Saying::Asks,    Saying::Titles,    Saying::Corrects,
+                               Saying::Leaves,  Saying::Excludes};
+  return std::ranges::any_of(sayings,
+                             [&](Saying saying) { return FindSaying(words, saying).has_value(); });
 }
 
 /// Whether a word may bear on orders, so that no reason is harmless that has it.
-bool MayBear(Tokens words, std::size_t at, const PlaceNames& names) {
+bool BearsAt(Tokens words, std::size_t at, const PlaceNames& names) {
   const Token& token = words[at];
   if (!IsA(token, TokenKind::Word)) {
     return IsDoubtfulSign(token) || IsA(token, TokenKind::Dash) || IsA(token, TokenKind::Colon) ||
            IsA(token, TokenKind::Slash);
   }
   constexpr unsigned hints = static_cast<unsigned>(Signal::Hints);
-  if ((token.Means.Signals & ~hints) != 0 || token.Means.Sayings != 0) return true;
+  if ((token.Means.Signals & ~hints) != 0) return true;
   if (HasUse(token, WordUse::Condition, WordUse::SetsAside, WordUse::Aside, WordUse::Report))
     return true;
-  if (HasUse(token, WordUse::Reservation, WordUse::Correction)) return true;
+  // German wishes have it: "weil Tom es will".
+  if (IsWord(token, "will")) return true;
+  if (HasUse(token, WordUse::Reservation, WordUse::Correction, WordUse::Elsewhere, WordUse::Season))
+    return true;
   const bool isUnit = UnitTypeOf(token) != 0 && token.Text.size() > 1;
   const Verb verb = VerbOf(token);
   const bool orders = verb != Verb::None && verb != Verb::Move && token.Text.size() > 1;
@@ -104,10 +113,10 @@ bool MayBear(Tokens words, std::size_t at, const PlaceNames& names) {
 std::size_t LengthOfPlainPhrase(Tokens tokens, std::size_t at, const PlaceNames& names) {
   std::size_t longest = 0;
   const auto tryAll = [&](std::string_view first) {
-    const auto found = AllPhrases().find(first);
-    if (found == AllPhrases().end()) return;
+    const auto found = AllPlainPhrases().find(first);
+    if (found == AllPlainPhrases().end()) return;
     for (const auto& phrase : found->second)
-      longest = std::max(longest, LengthOf(tokens, at, phrase, names));
+      longest = std::max(longest, LengthOfOne(tokens, at, phrase, names));
   };
   tryAll(tokens[at].Text);
   if (tokens[at].Capital) tryAll("~");
@@ -129,8 +138,9 @@ bool IsReason(Tokens words, const PlaceNames& names) {
   if (at == words.size()) return false;
   const bool isParisian = IsWord(words[at], "parce") || IsWord(words[at], "ya");
   if (!isParisian && !IsOneOf(words[at], leads) && !IsOneOf(words[at], places)) return false;
+  if (SaysOfOrders(words.subspan(at))) return false;
   for (++at; at < words.size(); ++at) {
-    if (MayBear(words, at, names)) return false;
+    if (BearsAt(words, at, names)) return false;
   }
   return true;
 }

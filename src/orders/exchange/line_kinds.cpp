@@ -194,6 +194,15 @@ int AddressedPower(Tokens tokens, const PlaceNames& names) {
   return isAside || rest.empty() || HoldsOrderWords(rest, names) ? 0 : addressed.Power;
 }
 
+/// "Armies:", "Flotten:".
+bool IsTypeOfMany(const Token& token) {
+  constexpr std::array<std::string_view, 20> types{
+      "armies", "fleets",   "armeen", "flotten",   "armees", "flottes", "ejercitos",
+      "flotas", "eserciti", "flotte", "exercitos", "frotas", "legers",  "vloten",
+      "haere",  "flader",   "haerer", "flater",    "armeer", "flottor"};
+  return IsA(token, TokenKind::Word) && std::ranges::find(types, token.Text) != types.end();
+}
+
 }  // namespace
 
 bool NamesPlace(Tokens tokens, const PlaceNames& names) {
@@ -252,7 +261,7 @@ std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
     const Verb verb = VerbOf(token);
     const bool isKind = token.Text.size() > 2 &&
                         (verb == Verb::Build || verb == Verb::Disband || verb == Verb::Retreat);
-    if (!isKind && !HasUse(token, WordUse::Heading)) return {};
+    if (!isKind && !HasUse(token, WordUse::Heading) && !IsTypeOfMany(token)) return {};
     hasWord = true;
     if (isKind) heading.Orders = verb;
   }

@@ -136,6 +136,14 @@ PartRead ReadPart(Tokens tokens, const KnownGame& known, Context& context, Rest 
     return part;
   }
   part.Meant = FindMeanings(parse.Orders, known, context.Power);
+  const bool isNamed = std::ranges::any_of(parse.Orders, [](const WrittenOrder& order) {
+    return order.Power != 0 || order.Unit.Power != 0;
+  });
+  if (part.Meant.All.empty() && context.IsChosen && !isNamed) {
+    // Of another power's unit, and so none that is filed without a question.
+    Meanings others = FindMeanings(parse.Orders, known, 0);
+    if (IsOnlyPossible(others, known)) part.Meant = std::move(others);
+  }
   const bool isBare =
       !parse.Orders.empty() && std::ranges::all_of(parse.Orders, &WrittenOrder::IsBare);
   const bool isSailed = std::ranges::any_of(parse.Orders, &WrittenOrder::ByConvoy);

@@ -10,6 +10,7 @@ namespace orb::exchange {
 struct Context {
   int Power = 0;             ///< 1..7, 0: none
   Verb Orders = Verb::None;  ///< Build, Disband or Retreat
+  bool IsChosen = false;     ///< nothing in the text names the power
 };
 
 /// Some tokens read as one order.

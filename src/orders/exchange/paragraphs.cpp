@@ -4,6 +4,7 @@
 #include "orders/exchange/glued_types.h"
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/segments.h"
+#include "orders/exchange/spoken_marks.h"
 
 namespace orb::exchange {
 namespace {
@@ -59,6 +60,7 @@ void JoinLines(SourceLine& joined, const std::deque<SourceLine>& text, std::size
     plain.Origins.insert(plain.Origins.end(), next.Origins.begin(), next.Origins.end());
   }
   joined.All = CutTokens(plain.Text);
+  ReadSpokenMarks(joined.All);
   PartGluedTypes(joined.All, names);
 }
 

@@ -3,6 +3,7 @@
 #include "orders/exchange/asides.h"
 #include "orders/exchange/comments.h"
 #include "orders/exchange/doubts.h"
+#include "orders/exchange/phrase_words.h"
 #include "orders/exchange/sayings.h"
 #include "text/strings.h"
 
@@ -13,38 +14,6 @@ namespace orb::exchange {
 namespace {
 
 using std::string_view_literals::operator""sv;
-
-template <std::size_t Count>
-bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& words) {
-  return token.Kind == TokenKind::Word && std::ranges::find(words, token.Text) != words.end();
-}
-
-// Words that may stand at certain places of an order and add nothing to it.
-constexpr std::array<std::string_view, 26> InWords{
-    "z",   "ze",        "uit",       "desde", "depuis",    "in",    "at",  "from", "of",
-    "the", "presently", "currently", "now",   "stationed", "based", "von", "aus",  "di",
-    "da",  "du",        "del",       "della", "dello",     "de",    "i",   "en"};
-/// The same, right behind a type.
-constexpr std::array TypeInWords{"a"sv, "em"sv, "no"sv, "na"sv, "w"sv, "u"sv, "do"sv, "dans"sv};
-constexpr std::array ViaWords{"via"sv, "by"sv,  "using"sv, "with"sv, "through"sv, "par"sv, "over"sv,
-                              "mit"sv, "met"sv, "med"sv,   "door"sv, "przez"sv,   "per"sv, "com"sv};
-constexpr std::array SeaWords{"convoy"sv,    "convoys"sv, "sea"sv,     "c"sv,       "water"sv,
-                              "cv"sv,        "konvoi"sv,  "konvoj"sv,  "convoi"sv,  "konwoj"sv,
-                              "convoglio"sv, "comboio"sv, "konvooi"sv, "convooi"sv, "konvojen"sv,
-                              "konvoien"sv,  "k"sv,       "konwoju"sv};
-constexpr std::array<std::string_view, 28> HoldTails{
-    "kvar",   "gewoon", "natuurlijk", "naturlich", "der",   "den",   "er",
-    "is",     "staan",  "stehen",     "dort",      "tight", "put",   "position",
-    "fast",   "still",  "in",         "place",     "firm",  "home",  "strong",
-    "steady", "there",  "where",      "it",        "they",  "ferma", "parada"};
-constexpr std::array<std::string_view, 32> MoveTails{
-    "sich",    "zich",  "sig",     "seg",     "ab",      "vor",    "back",    "zuruck",
-    "zurueck", "terug", "tilbage", "tilbake", "against", "toward", "towards", "on",
-    "upon",    "for",   "in",      "ins",     "im",      "over",   "across",  "out",
-    "up",      "en",    "down",    "off",     "home",    "round",  "around",  "along"};
-constexpr std::array<std::string_view, 5> Nouns{"move", "attack", "advance", "of", "for"};
-constexpr std::array<std::string_view, 12> CountingWords{
-    "one", "two", "a", "all", "remaining", "rest", "any", "other", "of", "both", "last", "for"};
 
 /// The mouth of ":)", ":D" and ":P".
 bool IsSmile(const Token& token) {
@@ -310,6 +279,11 @@ std::size_t Phrases::PastCount(std::size_t at) const {
     if (!IsOneOf(token, CountingWords) && !IsNumber(token) && VerbOf(token) != Verb::Build) break;
   }
   return at;
+}
+
+std::size_t Phrases::PastColon(std::size_t at) const {
+  const bool isBeforePlace = Is(at, TokenKind::Colon) && !names_.At(tokens_, at + 1).empty();
+  return isBeforePlace ? at + 1 : at;
 }
 
 std::size_t Phrases::PastMarks(std::size_t at) const {

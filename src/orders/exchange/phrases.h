@@ -61,6 +61,7 @@ class Phrases {
   std::size_t PastNoun(std::size_t at) const;    ///< "the move of"
   std::size_t PastPlace(std::size_t at, const WrittenPlace& place) const;  ///< "in Paris"
   std::size_t PastCount(std::size_t at) const;                             ///< "2 builds"
+  std::size_t PastColon(std::size_t at) const;  ///< a colon before a place, "Vienna : Galicia"
   std::size_t PastMarks(std::size_t at) const;  ///< punctuation behind a power or a verb
 
   /// Whether nothing but punctuation and comments is left; else a fault.

@@ -5,6 +5,7 @@
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/slips.h"
 #include "orders/exchange/source_line.h"
+#include "orders/exchange/turned_clauses.h"
 #include "orders/order_list.h"
 
 #include <algorithm>
@@ -21,11 +22,6 @@ using Words = std::vector<Token>;
 constexpr std::size_t LengthBound = 40;
 /// The end of an order behind which nothing is left.
 constexpr std::size_t Whole = 10 * LengthBound;
-
-template <std::size_t Count>
-bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& words) {
-  return token.Kind == TokenKind::Word && std::ranges::find(words, token.Text) != words.end();
-}
 
 bool IsHelp(const Token& token) {
   const Verb verb = VerbOf(token);
@@ -123,6 +119,13 @@ class ProseReader {
              (line.find(" S ") == std::string::npos && line.find(" C ") == std::string::npos);
     });
     return last == before_.rend() ? std::string() : last->second.Meant.All[0].Line;
+  }
+
+  bool FollowsMove() const {
+    return std::ranges::any_of(before_, [](const auto& part) {
+      return part.second.Kind == LineKind::Order &&
+             part.second.Meant.All[0].Line.find(" - ") != std::string::npos;
+    });
   }
 
   /// Reads words and what takes the place of others behind them.
@@ -321,6 +324,7 @@ class ProseReader {
     if (!ReplaceObject(words)) return std::nullopt;
     NameUnits(words);
     TrimLead(words);
+    TurnClause(words, known_.Names, FollowsMove());
     PutOrigin(words);
     DropCopulas(words);
     DropParticle(words);

@@ -31,9 +31,13 @@ constexpr std::array ProseRows{
         "move attack advance landing assault angriff attaque attacco ataque aanval "
         "sbarco desembarco debarquement landung"},
     Row{ProseUse::Troop,
-        "soldiers troops garrison infantry soldaten truppen troupes tropas regiments"},
+        "soldiers troops garrison infantry lads men boys division regiment jungs manner garcons "
+        "gars "
+        "hombres chicos ragazzi uomini rapazes homens mannen jongens "
+        " soldaten truppen troupes tropas regiments"},
     Row{ProseUse::Ship,
-        "boats ships navy squadron boat marine schiffe navires barcos schepen navi"},
+        "boats ships navy flotilla armada squadron boat marine schiffe navires barcos schepen "
+        "navi"},
     Row{ProseUse::Copula,
         "is are be being gets wird werden est sera viene es wordt bliver to must shall "
         "will"},

@@ -42,6 +42,7 @@ class TextReader {
   TextReader(const KnownGame& known, const ReadingOptions& options)
       : known_(known), options_(options), rows_(known) {
     context_.Power = model::FindCountry(options.Power);
+    context_.IsChosen = context_.Power != 0;
   }
 
   std::vector<ReadLine> Read(std::deque<SourceLine>& text) {
@@ -246,7 +247,7 @@ class TextReader {
     } else if (isBehindOrders && IsPlaceAlone(line)) {
       rows_.Around.DoubtBlock(Quoted(line.All) + " may change it",
                               {line.Offset, line.Bytes.size()});
-    } else if (!IsUnclear(rows_.Lines.back()) && LeadsOn(line.All)) {
+    } else if (!IsUnclear(rows_.Lines.back()) && !quotations_.IsQuoted() && LeadsOn(line.All)) {
       const TokenRange all{0, line.All.size()};
       rows_.Around.LeadTo(Quoted(line.Part(all)) + " leads to it", line.Span(all));
     } else if (!said.empty() && IsA(said.back(), TokenKind::Colon) && !isTitle_) {

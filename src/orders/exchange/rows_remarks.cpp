@@ -143,7 +143,16 @@ bool Rows::PutsRight(const SourceLine& line, const Said& said, const Understood&
     return (token.Means.Signals & opening) != 0 || HasUse(token, WordUse::Reservation) ||
            (HasUse(token, WordUse::Condition) && !denies && !IsWord(token, "instead"));
   });
-  if (isOpen || FindSaying(between, Saying::Revokes)) return false;
+  // "Better not A Vie - Boh" excludes the second one.
+  constexpr std::array<std::string_view, 14> denying{"not",   "never",  "nicht", "niemals", "pas",
+                                                     "nunca", "mai",    "niet",  "nooit",   "ikke",
+                                                     "aldri", "aldrig", "inte",  "nigdy"};
+  const auto last = std::find_if(between.rbegin(), between.rend(), IsWordToken);
+  const bool denies =
+      last != between.rend() &&
+      (std::ranges::find(denying, last->Text) != denying.end() ||
+       std::ranges::any_of(between, [](const Token& token) { return IsWord(token, "will"); }));
+  if (isOpen || denies || FindSaying(between, Saying::Revokes)) return false;
   const auto thinks = FindSaying(between, Saying::Reconsiders);
   return thinks && thinks->Begin < 2;
 }

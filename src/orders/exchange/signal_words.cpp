@@ -9,15 +9,16 @@
 namespace orb::exchange {
 namespace {
 
-struct Row {
+struct SignalRow {
   Signal Means;
   std::string_view Words;  ///< separated by blanks; "x*": any word that begins so
 };
 
 // English, German, French, Spanish, Italian, Portuguese, Dutch, Danish and Norwegian, Swedish,
 // Polish, row by row. A word missing here may file an order that nobody meant.
-constexpr std::array Rows{
-    Row{Signal::Points,
+constexpr std::array SignalRows{
+    SignalRow{
+        Signal::Points,
         "these those them ones above line lines row others same last previous first second third "
         "order orders list lists version two half some none more "
         "diese dieser dieses denen ihnen oben zeile zeilen anderen gleichen selben letzte letzten "
@@ -33,23 +34,26 @@ constexpr std::array Rows{
         "disse sidste siste forrige forste samme andre linje ordrer "
         "dessa sista forra forsta samma andra rad order "
         "tych ostatnie ostatni ostatniej poprzedniej poprzednie pierwszy pierwsza rozkazy"},
-    Row{Signal::Hints,
-        "it this that thats they all everything anything what whatever one both "
-        "das dies es alles was beides ce cela ca tout tous eso esto todo todos cio "
-        "questo tutto tutti quello isto isso aquilo tudo dit dat wat det dette alt hva "
-        "hvad detta allt vad tego wszystko tak tym"},
-    Row{Signal::Denies,
+    SignalRow{Signal::Hints,
+              "it this that thats they all everything anything what whatever one both "
+              "das dies es alles was beides ce cela ca tout tous eso esto todo todos cio "
+              "questo tutto tutti quello isto isso aquilo tudo dit dat wat det dette alt hva "
+              "hvad detta allt vad tego wszystko tak tym"},
+    SignalRow{
+        Signal::Denies,
         "not no never dont doesnt didnt cant cannot wont wouldnt isnt arent wasnt werent "
         "shouldnt mustnt neednt couldnt havent hasnt nobody nothing without neither nor "
         "nicht kein keine keinen nie niemals ohne ne pas jamais rien aucun aucune sans nunca nada "
         "ningun sin non mai niente nessun senza nao nem sem niet geen nooit zonder ikke aldri "
         "aldrig ingen uten uden inte ej utan nie nigdy bez zadn*"},
-    Row{Signal::Leaves,
+    SignalRow{
+        Signal::Leaves,
         "should shouldnt might may could would must supposed ought shall "
         "soll sollte sollten durfte darf muss konnte wurde "
         "dois devrais devrait devrions pourrais pourrait debo deberia podria devo dovrei dovrebbe "
         "potrei devia deveria poderia moet mag zou skal burde bor borde ska powinien* moge mogl*"},
-    Row{Signal::Says,
+    SignalRow{
+        Signal::Says,
         "say says said tell tells told ask asks asked want wants wanted think thinks thought "
         "claims claimed insists insisted suggests suggested agree agrees agreed promised mean "
         "means meant intended hates hate likes wrote made reckons believes "
@@ -58,7 +62,8 @@ constexpr std::array Rows{
         "chiede vuole volevi voleva pensa diz disse quer querias zegt zei wil wilde wilt vindt "
         "siger sagde sier vil ville mener sager vill tycker mowi mowil powiedzial chce chciales "
         "chodzilo mysli"},
-    Row{Signal::Takes,
+    SignalRow{
+        Signal::Takes,
         "use uses used take takes took play plays played repeat reuse redo copy keep enter run "
         "process resubmit file do does did make call ring contact check wait await choose pick "
         "drop skip "
@@ -70,22 +75,25 @@ constexpr std::array Rows{
         "ripeti pega pegue joga faz faca repete neem gebruik speel doe herhaal "
         "tag tage brug bruk gor gjor spil spill anvand spela upprepa "
         "wez uzyj graj rob zrob powtorz"},
-    Row{Signal::Past,
-        "was were war waren etait etaient era eran erano eram waren var byl "
-        "byly bylo"},
-    Row{Signal::Later,
+    SignalRow{Signal::Past,
+              "was were war waren etait etaient era eran erano eram waren var byl "
+              "byly bylo"},
+    SignalRow{
+        Signal::Later,
         "later tomorrow soon come comes coming follow follows following first before after once "
         "until till when yet wait await awaits morgen spater zuerst erst bevor sobald warte "
         "demain bientot avant apres attends manana luego antes cuando espera domani dopo prima "
         "quando aspetta amanha depois straks eerst zodra wacht senere forst vent imorgon "
         "snart jutro potem najpierw"},
-    Row{Signal::Rejects,
+    SignalRow{
+        Signal::Rejects,
         "wrong care mistaken error typo typos void invalid outdated obsolete nonsense rubbish "
         "garbage "
         "bogus fake doubt doubts doubtful hardly scarcely opposite contrary inverse forbid* "
         "forbade refuse* refusing allowed disallow* permitted permission veto* vetoed objects "
         "object* dreaming dreamt wishful fantasy imaginary archive debate discussion "
         "feedback opinion opinions advice approval approve* consent nods "
+        "accept* theor* permitting willing psych gotcha lie lies "
         "decide decides undecided dunno kidding joke joking joked jest pretend* imagine* "
         "suppose* assume* discard* cancel* withdraw* retract* reconsider* rethink* reviewed "
         "unsure uncertain tentative provisional preliminary temporary placeholder* draft* oops "
@@ -100,25 +108,27 @@ constexpr std::array Rows{
         "klopt forkert* feil* vrovl forby* forbudt modsat* tvivl* tvil* ligeglad ligeglade "
         "likegyldig bryr rigtigt riktig fel felaktig* trams forbju* forbjud* motsats* likgiltig "
         "stammer stemmer zle blad bledne bzdura zabrani* zakaz* przeciwn* odwrotn* watpie"},
-    Row{Signal::Chooses,
+    SignalRow{
+        Signal::Chooses,
         "whatever whichever whoever toss flip roll choose chooses choice choices pick picks coin "
         "dice quieras quieran quiseres quiserem prefer "
         "prefers preferred preferably either aussuchen wahl wahle entscheide entscheidest choisis "
         "choisissez choix prefere elige elegid scegli scegliete scelta escolhe escolha "
         "kies kiest keuze vaelg velg valg valj val wybierz wybor"},
-    Row{Signal::Plans,
+    SignalRow{
+        Signal::Plans,
         "plan plans idea ideas proposal proposals suggestion suggestions thread window recipient "
         "vorschlag idee proposition propuesta proposta voorstel forslag pomysl"},
 };
 
-struct Table {
+struct SignalTable {
   std::unordered_map<std::string_view, unsigned> Words;
   std::vector<std::pair<std::string_view, unsigned>> Stems;
 };
 
-Table MakeTable() {
-  Table table;
-  for (const Row& row : Rows) {
+SignalTable MakeSignalTable() {
+  SignalTable table;
+  for (const SignalRow& row : SignalRows) {
     for (std::string_view word : Parts(row.Words, ' ')) {
       const auto bit = static_cast<unsigned>(row.Means);
       if (word.ends_with('*')) {
@@ -135,7 +145,7 @@ Table MakeTable() {
 }  // namespace
 
 unsigned SignalsOf(std::string_view word) {
-  static const Table table = MakeTable();
+  static const SignalTable table = MakeSignalTable();
   const auto found = table.Words.find(word);
   unsigned signals = found == table.Words.end() ? 0 : found->second;
   for (const auto& [stem, bit] : table.Stems) {

@@ -3,6 +3,7 @@
 #include "orders/exchange/comments.h"
 #include "orders/exchange/glued_types.h"
 #include "orders/exchange/markup.h"
+#include "orders/exchange/spoken_marks.h"
 #include "text/strings.h"
 
 #include <algorithm>
@@ -62,6 +63,7 @@ void CutLine(SourceLine& line, std::string_view bytes, std::size_t offset,
   }
   DropTags(line.Plain);
   line.All = CutTokens(line.Plain.Text);
+  ReadSpokenMarks(line.All);
   PartGluedTypes(line.All, names);
 }
 

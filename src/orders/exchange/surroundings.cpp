@@ -74,7 +74,10 @@ bool SurroundingsOfLines::SetAsideAbove(const std::shared_ptr<const Misgiving>& 
 void SurroundingsOfLines::DoubtAbove(const std::string& reason, Span at, const Concern& about,
                                      const std::vector<ReadLine>& lines, std::size_t end) {
   const auto misgiving = std::make_shared<const Misgiving>(Misgiving{reason, at});
-  const std::size_t begin = doubted_[rows_.back().IsOlder ? 1 : 0];
+  // More orders than all powers have: a text that names one unit again and again takes no longer.
+  constexpr std::size_t most = 500;
+  const std::size_t begin =
+      std::max(doubted_[rows_.back().IsOlder ? 1 : 0], end - std::min(end, most));
   const auto mayBeMeant = [&](std::size_t row, bool isOfSome) {
     return IsUnderstood(lines[row]) && rows_[row].IsOlder == rows_.back().IsOlder &&
            (!isOfSome || Concerns(about, lines[row].Order));

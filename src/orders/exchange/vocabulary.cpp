@@ -46,6 +46,12 @@ constexpr std::array Verbs{
         "presun presouva gider ilerler saldirir yuru idet idyot atakuet plyvet dvizhetsya "
         "pigainei paei kinitai take follow follows following folgt volgt sigue foljer folger come "
         "comes coming aille aillent ira iront aller vada vadano andasse uscisse vaya vayan fuese "
+        "nips pops sneaks strolls rolls creeps dashes hops jumps hurries speeds storms assaults "
+        "swoops drives rides treks cruises steers redeploys deploys repositions "
+        "transfers embarks entrains hikes crawls wanders tae verso bound sets makes dirige "
+        "dirigen pone ponen parte parten parti fonce foncent file filent cingle cinglent fait "
+        "prend prennent lauft laufen dampft dampfen stoomt koerst vertrekt vertrekken drager "
+        "styrer styr beveger bevaeger beger kieruje udaje wyrusza ruma rumam fa fanno voga "
         "pasa pase pasara passe passa sende stuur stuurt sturen schicke schickt schicken verlege "
         "verlegen land"},
     VerbWords{

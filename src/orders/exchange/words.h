@@ -2,6 +2,8 @@
 
 #include "orders/exchange/vocabulary.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -61,6 +63,12 @@ inline bool IsWordToken(const Token& token) {
 }
 inline bool IsWord(const Token& token, std::string_view word) {
   return token.Kind == TokenKind::Word && token.Text == word;
+}
+
+/// Whether it is one of these words.
+template <std::size_t Count>
+bool IsOneOf(const Token& token, const std::array<std::string_view, Count>& words) {
+  return token.Kind == TokenKind::Word && std::ranges::find(words, token.Text) != words.end();
 }
 
 /// The verb of a token: a dash or arrow moves; None when it is no verb.

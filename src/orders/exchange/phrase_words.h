@@ -1,0 +1,40 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+namespace orb::exchange {
+
+using std::string_view_literals::operator""sv;
+
+// Words that may stand at certain places of an order and add nothing to it.
+inline constexpr std::array<std::string_view, 26> InWords{
+    "z",   "ze",        "uit",       "desde", "depuis",    "in",    "at",  "from", "of",
+    "the", "presently", "currently", "now",   "stationed", "based", "von", "aus",  "di",
+    "da",  "du",        "del",       "della", "dello",     "de",    "i",   "en"};
+/// The same, right behind a type.
+inline constexpr std::array TypeInWords{"a"sv, "em"sv, "no"sv, "na"sv,
+                                        "w"sv, "u"sv,  "do"sv, "dans"sv};
+inline constexpr std::array ViaWords{"via"sv,  "by"sv,    "using"sv, "with"sv, "through"sv,
+                                     "par"sv,  "over"sv,  "mit"sv,   "met"sv,  "med"sv,
+                                     "door"sv, "przez"sv, "per"sv,   "com"sv};
+inline constexpr std::array SeaWords{
+    "convoy"sv,  "convoys"sv, "sea"sv,      "c"sv,        "water"sv,     "cv"sv,
+    "konvoi"sv,  "konvoj"sv,  "convoi"sv,   "konwoj"sv,   "convoglio"sv, "comboio"sv,
+    "konvooi"sv, "convooi"sv, "konvojen"sv, "konvoien"sv, "k"sv,         "konwoju"sv};
+inline constexpr std::array<std::string_view, 28> HoldTails{
+    "kvar",   "gewoon", "natuurlijk", "naturlich", "der",   "den",   "er",
+    "is",     "staan",  "stehen",     "dort",      "tight", "put",   "position",
+    "fast",   "still",  "in",         "place",     "firm",  "home",  "strong",
+    "steady", "there",  "where",      "it",        "they",  "ferma", "parada"};
+inline constexpr std::array<std::string_view, 44> MoveTails{
+    "ship",  "course",   "sail",    "way",   "bound",   "rumbo",   "rotta",   "route",  "cap",
+    "large", "straight", "kurs",    "sich",  "zich",    "sig",     "seg",     "ab",     "vor",
+    "back",  "zuruck",   "zurueck", "terug", "tilbage", "tilbake", "against", "toward", "towards",
+    "on",    "upon",     "for",     "in",    "ins",     "im",      "over",    "across", "out",
+    "up",    "en",       "down",    "off",   "home",    "round",   "around",  "along"};
+inline constexpr std::array<std::string_view, 5> Nouns{"move", "attack", "advance", "of", "for"};
+inline constexpr std::array<std::string_view, 12> CountingWords{
+    "one", "two", "a", "all", "remaining", "rest", "any", "other", "of", "both", "last", "for"};
+
+}  // namespace orb::exchange
