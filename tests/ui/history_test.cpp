@@ -140,5 +140,29 @@ TEST_F(HistoryTest, TheLineIsPlayedChartedAndHidden) {
   EXPECT_FALSE(IsVisible("fraHistory"));
 }
 
+TEST_F(HistoryTest, OrdersAreFoundForPrintingInTheFilesBesideOrItIsSaidWhyNot) {
+  const auto reason = [this] {
+    std::string said;
+    const ModalScript look({[&](QDialog& preview) {
+      if (!preview.findChild<QWidget*>("chkBothSides")->isEnabled())
+        said = preview.findChild<QLabel*>("lblOneSide")->text().toStdString();
+      preview.reject();
+    }});
+    Trigger("mnuFilePrintPreview");
+    return said;
+  };
+  Enter("ENG F(Lon) - NTH");
+  SaveAs("con_s01.orb");
+  EXPECT_THAT(reason(), HasSubstr("not resolved"));
+  Resolve("ENG F(Edi)");
+  SaveAs("con_s01 end.orb");
+  Open(directory_.Path() / "con_s01 end.orb");
+  EXPECT_TRUE(HasStages(2));
+  EXPECT_EQ(reason(), "");
+  std::filesystem::remove(directory_.Path() / "con_s01.orb");
+  Open(directory_.Path() / "con_s01 end.orb");
+  EXPECT_THAT(reason(), HasSubstr("not known"));
+}
+
 }  // namespace
 }  // namespace orb::tests

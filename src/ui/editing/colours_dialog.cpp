@@ -6,6 +6,7 @@
 #include "text/qt/text_codec.h"
 #include "ui/editing/colour_sample.h"
 #include "ui/widgets/controls.h"
+#include "ui/widgets/help_request.h"
 #include "ui/widgets/spacing.h"
 
 #include <QColorDialog>
@@ -155,6 +156,7 @@ void ColoursDialog::chooseColour(int power, Part part, const QString& what) {
   // Qt's own dialog reports every colour that is tried, so that the map can follow.
   chooser.setOption(QColorDialog::DontUseNativeDialog);
   chooser.setWindowTitle(what);
+  offerHelp(chooser, tr("Colours and settings"));
   connect(&chooser, &QColorDialog::currentColorChanged, this, [=, this](const QColor& colour) {
     model::CountryTable colours = m_colours;
     colours[power].*part = colour::ToColour(colour);

@@ -3,6 +3,7 @@
 #include "model/messages.h"
 #include "text/qt/text_codec.h"
 #include "ui/help/help_text.h"
+#include "ui/widgets/help_request.h"
 
 #include <QPrintDialog>
 #include <QPrinter>
@@ -42,6 +43,7 @@ void askToPrintHelp(const help::HelpTopics& topics, const help::HelpTopics& all,
   dialog.setWindowTitle(text::ToQString(model::ProgramName) + QObject::tr(" Print Help"));
   // There is no selection to print, and no page range to choose.
   dialog.setOptions(QAbstractPrintDialog::PrintToFile);
+  offerHelp(dialog, QObject::tr("Printing and exporting"));
   if (dialog.exec() == QDialog::Accepted) printHelp(topics, all, printer);
 }
 

@@ -6,6 +6,8 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
+#include <utility>
+
 namespace orb::ui {
 namespace {
 
@@ -90,6 +92,11 @@ void HistoryBar::choose(int index) {
   emit noted(tr("The file of that stage is not as it was."));
   showPlace();
   m_files.look();
+}
+
+session::Situation HistoryBar::story() const {
+  auto present = m_files.read(m_files.present());
+  return present ? std::move(present->situation) : m_desk.now();
 }
 
 void HistoryBar::showCentres() {

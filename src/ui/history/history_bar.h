@@ -20,6 +20,9 @@ class HistoryBar : public QFrame {
   void setWanted(bool wanted);
   void setRoom(bool hasRoom);
 
+  /// The game as it is, with what the files beside its own tell of its season.
+  session::Situation story() const;
+
   HistoryLine& line() { return *m_line; }
 
  signals:

@@ -25,6 +25,7 @@
 #include <QPrinterInfo>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -106,7 +107,8 @@ ExportCommands::ExportCommands(Desk& desk, model::Messages& messages, QWidget* w
       m_desk(desk),
       m_messages(messages),
       m_window(window),
-      m_open(QDesktopServices::openUrl) {}
+      m_open(QDesktopServices::openUrl),
+      m_story([&desk] { return desk.now(); }) {}
 
 /// The map as it is shown, at the background picture's own resolution.
 QImage ExportCommands::mapPicture() {
@@ -166,8 +168,15 @@ void ExportCommands::exportText() {
   });
 }
 
-bool ExportCommands::hasBothSides() const {
-  return m_desk.game().Stage != model::Stage::Moves && !session::SeasonOrders(m_desk.now()).empty();
+QString ExportCommands::whyNotBothSides(const session::Situation& story) const {
+  if (m_desk.game().Stage == model::Stage::Moves)
+    return tr("There is no outcome yet: the moves are not resolved.");
+  const Orders orders = session::SeasonOrders(story);
+  if (std::none_of(orders.begin(), orders.end(), isOfMoves))
+    return tr(
+        "The season's orders are not known: they stand neither in this game's file nor in "
+        "another one beside it.");
+  return {};
 }
 
 PrintedGame ExportCommands::printedGame(const QPrinter& printer) {
@@ -187,8 +196,9 @@ PrintedGame ExportCommands::printedGame(const QPrinter& printer) {
                       text::ToQString(report::TextReport(now, session::RulesRemark(m_desk.now()))),
                       m_pictures.Picture(background).size(),
                       {}};
-  if (m_bothSides && hasBothSides()) {
-    Orders orders = session::SeasonOrders(m_desk.now());
+  const session::Situation story = m_bothSides ? m_story() : m_desk.now();
+  if (m_bothSides && whyNotBothSides(story).isEmpty()) {
+    Orders orders = session::SeasonOrders(story);
     const history::Replay season = history::SeasonReplay(now, orders);
     std::erase_if(orders, [](const orders::OrderOutcome& order) { return !isOfMoves(order); });
     printed.maps = {map(season.Start, orders), map(now, {})};
@@ -234,7 +244,8 @@ void ExportCommands::previewPrint() {
       attempt(m_messages, [&] { printGame(target, printedGame(target)); });
     };
     PrintPreview preview(printer, draw, m_window);
-    if (hasBothSides()) preview.offerBothSides(m_bothSides);
+    const QString missing = whyNotBothSides(m_story());
+    missing.isEmpty() ? preview.offerBothSides(m_bothSides) : preview.sayWhyOneSide(missing);
     goesOn = preview.exec() == QDialog::Accepted;
     if (printer.pageLayout() != proposed) m_pageLayout = printer.pageLayout();
   });

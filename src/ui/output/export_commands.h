@@ -31,6 +31,9 @@ class ExportCommands : public QObject {
   /// What opens a written text, the system's text editor unless set; false when it cannot.
   void setOpener(std::function<bool(const QUrl&)> open) { m_open = std::move(open); }
 
+  /// What tells the story of the season with the game, the game alone unless set.
+  void setStory(std::function<session::Situation()> story) { m_story = std::move(story); }
+
   void copyMap();
   void copyText();
   void exportBitmap();
@@ -54,7 +57,8 @@ class ExportCommands : public QObject {
   /// A printer set up as it was last, or as suits the game best.
   void setUp(QPrinter& printer);
   PrintedGame printedGame(const QPrinter& printer);
-  bool hasBothSides() const;
+  /// Why the orders and the outcome cannot both be printed, a sentence; empty where they can.
+  QString whyNotBothSides(const session::Situation& story) const;
   /// One copy, to the printer or, whole or not at all, to its PDF file.
   void printOnce(QPrinter& printer);
 
@@ -62,6 +66,7 @@ class ExportCommands : public QObject {
   model::Messages& m_messages;
   QWidget* m_window;
   std::function<bool(const QUrl&)> m_open;
+  std::function<session::Situation()> m_story;
   render::PictureCache m_pictures;
   std::optional<QPageLayout> m_pageLayout;  ///< as it was chosen last
   bool m_bothSides = false;                 ///< orders and outcome on one sheet

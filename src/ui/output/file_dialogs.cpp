@@ -24,13 +24,6 @@
 namespace orb::ui {
 namespace {
 
-/// If Qt calls its buttons otherwise, the one is missing and all else works: null.
-QDialogButtonBox* addHelpButton(const QFileDialog& dialog) {
-  auto* buttons = dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"));
-  if (buttons != nullptr) buttons->addButton(QDialogButtonBox::Help);
-  return buttons;
-}
-
 /// Qt's own dialog: those of the desktops take neither the texts of the filters as they stand nor
 /// a further box.
 void setUp(QFileDialog& dialog, const QString& title, const QStringList& filters,
@@ -40,10 +33,7 @@ void setUp(QFileDialog& dialog, const QString& title, const QStringList& filters
   dialog.setWindowTitle(text::ToQString(model::ProgramName) + title);
   dialog.setNameFilters(filters);
   if (!desk.folder().empty()) dialog.setDirectory(displayPath(desk.folder().string()));
-  if (const QDialogButtonBox* buttons = addHelpButton(dialog)) {
-    QObject::connect(buttons, &QDialogButtonBox::helpRequested, &dialog,
-                     [&dialog] { askForHelp(dialog, QObject::tr("Files")); });
-  }
+  offerHelp(dialog, QObject::tr("Files"));
 }
 
 QString allFiles() {

@@ -1,6 +1,7 @@
 #include "ui/output/print_dialog.h"
 
 #include "text/qt/text_codec.h"
+#include "ui/widgets/help_request.h"
 
 #include <QPrintDialog>
 
@@ -36,6 +37,7 @@ bool askHowToPrint(QWidget* parent, const QString& proposedFile, QPrinter& print
   dialog.setOptions(QAbstractPrintDialog::PrintShowPageSize);
   dialog.setOption(QAbstractPrintDialog::PrintToFile, DialogWritesPdf);
   closeForbiddenChoices(dialog);
+  offerHelp(dialog, QObject::tr("Printing and exporting"));
   return dialog.exec() == QDialog::Accepted;
 }
 

@@ -18,12 +18,16 @@ PrintPreview::PrintPreview(QPrinter& printer, Print print, QWidget* parent)
       m_printer(printer),
       m_print(std::move(print)),
       m_pages(new QPrintPreviewWidget(&printer, this)),
-      m_bothSides(new QCheckBox(tr("Or&ders and outcome on one sheet"))) {
+      m_bothSides(new QCheckBox(tr("Or&ders and outcome on one sheet"))),
+      m_reason(new QLabel) {
   setObjectName(QStringLiteral("frmPrintPreview"));
   setWindowTitle(text::ToQString(model::ProgramName) + tr(" Print Preview"));
   m_pages->setAccessibleName(tr("Pages"));
   m_bothSides->setObjectName(QStringLiteral("chkBothSides"));
   m_bothSides->setEnabled(false);
+  m_reason->setObjectName(QStringLiteral("lblOneSide"));
+  m_reason->setWordWrap(true);
+  m_reason->hide();
   auto* upright = new QRadioButton(tr("&Upright"));
   auto* across = new QRadioButton(tr("&Across"));
   upright->setObjectName(QStringLiteral("optUpright"));
@@ -40,6 +44,7 @@ PrintPreview::PrintPreview(QPrinter& printer, Print print, QWidget* parent)
   buttons->addButton(printNow, QDialogButtonBox::AcceptRole);
   auto* column = new QVBoxLayout(this);
   column->addLayout(choices);
+  column->addWidget(m_reason);
   column->addWidget(m_pages, 1);
   column->addWidget(buttons);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -69,6 +74,13 @@ void PrintPreview::showEvent(QShowEvent* event) {
 void PrintPreview::offerBothSides(bool on) {
   m_bothSides->setEnabled(true);
   m_bothSides->setChecked(on);
+}
+
+void PrintPreview::sayWhyOneSide(const QString& reason) {
+  m_bothSides->setToolTip(reason);
+  m_bothSides->setAccessibleDescription(reason);
+  m_reason->setText(m_bothSides->text().remove(QLatin1Char('&')) + QStringLiteral(": ") + reason);
+  m_reason->show();
 }
 
 void PrintPreview::setOrientation(QPageLayout::Orientation orientation) {

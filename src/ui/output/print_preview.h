@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QDialog>
+#include <QLabel>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 
@@ -23,6 +24,8 @@ class PrintPreview : public QDialog {
 
   /// Offers both sides of the season.
   void offerBothSides(bool on);
+  /// Says why there are none.
+  void sayWhyOneSide(const QString& reason);
   bool bothSides() const { return m_bothSides->isChecked(); }
 
  protected:
@@ -35,6 +38,7 @@ class PrintPreview : public QDialog {
   Print m_print;
   QPrintPreviewWidget* m_pages;
   QCheckBox* m_bothSides;
+  QLabel* m_reason;  ///< why there are not both sides
 };
 
 }  // namespace orb::ui

@@ -1,6 +1,7 @@
 #include "ui/widgets/help_request.h"
 
 #include <QCoreApplication>
+#include <QDialogButtonBox>
 
 #include <utility>
 
@@ -22,6 +23,19 @@ void askForHelp(QWidget& dialog, const QString& topic) {
     QCoreApplication::sendEvent(at, &request);
     if (request.isAccepted()) return;
   }
+}
+
+QDialogButtonBox* addHelpButton(const QDialog& dialog) {
+  auto* buttons = dialog.findChild<QDialogButtonBox*>();
+  if (buttons != nullptr) buttons->addButton(QDialogButtonBox::Help);
+  return buttons;
+}
+
+void offerHelp(QDialog& dialog, const QString& topic) {
+  const QDialogButtonBox* buttons = addHelpButton(dialog);
+  if (buttons == nullptr) return;
+  QObject::connect(buttons, &QDialogButtonBox::helpRequested, &dialog,
+                   [&dialog, topic] { askForHelp(dialog, topic); });
 }
 
 }  // namespace orb::ui

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QDialog>
 #include <QEvent>
 #include <QString>
 #include <QWidget>
+
+class QDialogButtonBox;
 
 namespace orb::ui {
 
@@ -19,5 +22,11 @@ class HelpRequest : public QEvent {
 
 /// Sends such a request.
 void askForHelp(QWidget& dialog, const QString& topic);
+
+/// The button alone, in the dialog's box of buttons, which is given; null where it has none.
+QDialogButtonBox* addHelpButton(const QDialog& dialog);
+
+/// Gives one of Qt's own dialogs a Help button; the system's dialogs have no room for one.
+void offerHelp(QDialog& dialog, const QString& topic);
 
 }  // namespace orb::ui

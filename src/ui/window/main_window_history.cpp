@@ -1,5 +1,6 @@
 #include "ui/entry/power_strip.h"
 #include "ui/history/history_bar.h"
+#include "ui/output/export_commands.h"
 #include "ui/replay/animation_player.h"
 #include "ui/window/main_window.h"
 #include "ui/window/map_menu.h"
@@ -14,6 +15,7 @@
 namespace orb::ui {
 
 void MainWindow::connectHistory() {
+  m_exports->setStory([this] { return m_history->story(); });
   connect(m_history, &HistoryBar::playWanted, m_player, &AnimationPlayer::playGames);
   connect(m_history, &HistoryBar::noted, this, &MainWindow::showStatus);
   connect(m_history, &HistoryBar::shown, this, &MainWindow::leaveSpareWidth);
