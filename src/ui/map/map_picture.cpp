@@ -146,15 +146,17 @@ void MapPicture::mouseMoveEvent(QMouseEvent* event) {
   // The view scrolls with the middle button.
   event->setAccepted((event->buttons() & Qt::MiddleButton) == 0);
   hover(locationAt(event->position()));
-  if (m_tool == nullptr || !m_pressed) return;
+  if (!m_pressed) return;
   // A hand is never quite still: a short way is still a click.
   const bool far =
       (event->position() - *m_pressed).manhattanLength() >= QApplication::startDragDistance();
   if (!m_dragging && far) {
-    m_dragging = m_tool->mapDragStarted(spotAt(*m_pressed, event->modifiers()));
+    m_dragging =
+        m_tool != nullptr && m_tool->mapDragStarted(spotAt(*m_pressed, event->modifiers()));
     if (!m_dragging) m_pressed.reset();
   }
-  if (m_dragging) m_tool->mapDragMoved(spotAt(event->position(), event->modifiers()));
+  if (m_dragging && m_tool != nullptr)
+    m_tool->mapDragMoved(spotAt(event->position(), event->modifiers()));
 }
 
 void MapPicture::mouseReleaseEvent(QMouseEvent* event) {

@@ -58,6 +58,11 @@ class MapPicture : public QWidget {
   int stop() const { return m_stop; }
   void goTo(int stop);
 
+  /// Whether the left button is down and may still become a click or a drag.
+  bool isPressed() const { return m_pressed.has_value(); }
+  /// No click comes of it any more.
+  void forgetPress() { m_pressed.reset(); }
+
   /// Where a location's units stand, in pixels of the widget.
   QPoint pointOf(int location) const;
 

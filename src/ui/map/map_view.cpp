@@ -1,5 +1,7 @@
 #include "ui/map/map_view.h"
 
+#include <QGestureEvent>
+#include <QInputDevice>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -27,6 +29,7 @@ MapView::MapView(MapPicture* map, QWidget* parent) : QScrollArea(parent), m_map(
   setFocusPolicy(Qt::NoFocus);
   setWidget(map);
   map->installEventFilter(this);
+  map->grabGesture(Qt::PinchGesture);
   connect(map, &MapPicture::walked, this, [this] {
     const QPoint at = m_map->pointOf(m_map->stop());
     ensureVisible(at.x(), at.y(), viewport()->width() / Margin, viewport()->height() / Margin);
@@ -62,8 +65,15 @@ double MapView::shownZoom() const {
 
 /// The point of the map under the anchor, a point of the viewport, stays where it is.
 void MapView::zoomTo(double zoom, QPointF anchor) {
-  const QPointF onMap = anchor - QPointF(m_map->pos());
-  const QPointF fraction(onMap.x() / m_map->width(), onMap.y() / m_map->height());
+  zoomTo(zoom, anchor, fractionAt(anchor));
+}
+
+QPointF MapView::fractionAt(QPointF point) const {
+  const QPointF onMap = point - QPointF(m_map->pos());
+  return {onMap.x() / m_map->width(), onMap.y() / m_map->height()};
+}
+
+void MapView::zoomTo(double zoom, QPointF anchor, QPointF fraction) {
   setZoom(zoom);
   horizontalScrollBar()->setValue(qRound(fraction.x() * m_map->width() - anchor.x()));
   verticalScrollBar()->setValue(qRound(fraction.y() * m_map->height() - anchor.y()));
@@ -103,7 +113,50 @@ void MapView::keyPressEvent(QKeyEvent* event) {
 }
 
 bool MapView::eventFilter(QObject* watched, QEvent* event) {
-  return scrollByDragging(*event) || QScrollArea::eventFilter(watched, event);
+  return zoomByFingers(*event) || scrollByDragging(*event) ||
+         QScrollArea::eventFilter(watched, event);
+}
+
+void MapView::scrollBy(QPointF way) {
+  horizontalScrollBar()->setValue(horizontalScrollBar()->value() - qRound(way.x()));
+  verticalScrollBar()->setValue(verticalScrollBar()->value() - qRound(way.y()));
+}
+
+/// On the screen, or on a touchpad that tells of it.
+bool MapView::zoomByFingers(QEvent& event) {
+  if (event.type() == QEvent::NativeGesture) {
+    const auto& gesture = static_cast<const QNativeGestureEvent&>(event);
+    if (gesture.gestureType() != Qt::ZoomNativeGesture) return false;
+    zoomTo(shownZoom() * (1 + gesture.value()),
+           viewport()->mapFromGlobal(gesture.globalPosition()));
+    return true;
+  }
+  if (event.type() != QEvent::Gesture) return false;
+  auto& gestures = static_cast<QGestureEvent&>(event);
+  const auto* pinch = static_cast<QPinchGesture*>(gestures.gesture(Qt::PinchGesture));
+  if (pinch == nullptr) return false;
+  gestures.accept(Qt::PinchGesture);
+  // The first of the fingers was taken for a tap.
+  m_map->forgetPress();
+  m_finger.reset();
+  const QPointF middle = viewport()->mapFromGlobal(pinch->centerPoint());
+  if (pinch->state() == Qt::GestureStarted) {
+    m_zoomBefore = shownZoom();
+    m_pinched = fractionAt(middle);
+  }
+  zoomTo(m_zoomBefore * pinch->totalScaleFactor(), middle, m_pinched);
+  return true;
+}
+
+/// What is neither a tap nor takes anything along moves an enlarged map.
+bool MapView::scrollByFinger(QMouseEvent& mouse) {
+  const QPoint position = mouse.globalPosition().toPoint();
+  if (mouse.type() == QEvent::MouseButtonPress) m_finger = position;
+  if (mouse.type() == QEvent::MouseButtonRelease) m_finger.reset();
+  if (mouse.type() != QEvent::MouseMove || !m_finger || m_map->isPressed()) return false;
+  scrollBy(position - *m_finger);
+  m_finger = position;
+  return true;
 }
 
 bool MapView::scrollByDragging(QEvent& event) {
@@ -112,6 +165,7 @@ bool MapView::scrollByDragging(QEvent& event) {
     return false;
   }
   auto& mouse = static_cast<QMouseEvent&>(event);
+  if (mouse.device()->type() == QInputDevice::DeviceType::TouchScreen) return scrollByFinger(mouse);
   const QPoint position = mouse.globalPosition().toPoint();
   if (event.type() == QEvent::MouseButtonPress && mouse.button() == Qt::MiddleButton) {
     m_grip = position;
@@ -120,8 +174,7 @@ bool MapView::scrollByDragging(QEvent& event) {
   }
   if (!m_grip) return false;
   if (event.type() == QEvent::MouseMove) {
-    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + m_grip->x() - position.x());
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + m_grip->y() - position.y());
+    scrollBy(position - *m_grip);
     m_grip = position;
     return true;
   }
