@@ -2,14 +2,15 @@
 
 #include "ui/window/shared_room.h"
 
+#include <QScrollArea>
 #include <QVBoxLayout>
-#include <QWidget>
 
 namespace orb::ui {
 
 /// The panels at the right of the map: where the powers stand, the panel of the stage, and below it
-/// what is known of the game. The stage's share of the height is the user's choice.
-class SideColumn : public QWidget {
+/// what is known of the game. The stage's share of the height is the user's choice. Where
+/// a screen is too low for large letters, it scrolls.
+class SideColumn : public QScrollArea {
   Q_OBJECT
 
  public:
@@ -24,6 +25,13 @@ class SideColumn : public QWidget {
 
   /// Between the panel and the facts.
   SharedRoom& shares() { return *m_shares; }
+
+  QSize sizeHint() const override { return widget()->sizeHint(); }
+  QSize minimumSizeHint() const override;
+
+ protected:
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   QWidget* m_brief;
