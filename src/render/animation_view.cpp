@@ -9,6 +9,7 @@
 #include "settings/map_options.h"
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 namespace orb::render {
@@ -54,20 +55,34 @@ struct Clock {
   double Seconds = FirstRest + LastRest;
 };
 
-Clock ClockAt(const std::vector<history::Journey>& journeys, double seconds) {
-  Clock clock;
+/// A stage that takes time, in seconds from the beginning.
+struct Span {
+  double Begin = 0, Length = 0;
+  bool Happens = false;
+};
+
+/// Moves, retreats and adjustments.
+std::array<Span, 3> SpansOf(const std::vector<history::Journey>& journeys) {
   double begin = FirstRest;
-  const auto part = [&](bool (*takesPart)(const history::Journey&), double length) {
-    if (std::none_of(journeys.begin(), journeys.end(), takesPart)) return 1.0;
-    const double done = std::clamp((seconds - begin) / length, 0.0, 1.0);
-    begin += length + RestAfterStage;
-    return done;
+  const auto span = [&](bool (*takesPart)(const history::Journey&), double length) {
+    const Span whole{begin, length, std::any_of(journeys.begin(), journeys.end(), takesPart)};
+    if (whole.Happens) begin += length + RestAfterStage;
+    return whole;
   };
-  clock.Moves = part(TakesPartInMoves, MovesTime);
-  clock.Retreats = part(TakesPartInRetreats, RetreatsTime);
-  clock.Adjustments = part(TakesPartInAdjustments, AdjustmentsTime);
-  clock.Seconds = begin + LastRest;
-  return clock;
+  return {span(TakesPartInMoves, MovesTime), span(TakesPartInRetreats, RetreatsTime),
+          span(TakesPartInAdjustments, AdjustmentsTime)};
+}
+
+Clock ClockAt(const std::vector<history::Journey>& journeys, double seconds) {
+  const std::array<Span, 3> spans = SpansOf(journeys);
+  const auto done = [seconds](const Span& span) {
+    return span.Happens ? std::clamp((seconds - span.Begin) / span.Length, 0.0, 1.0) : 1.0;
+  };
+  double end = FirstRest;
+  for (const Span& span : spans) {
+    if (span.Happens) end = span.Begin + span.Length + RestAfterStage;
+  }
+  return {done(spans[0]), done(spans[1]), done(spans[2]), end + LastRest};
 }
 
 /// A part of 0..1 made slow at both ends: the smoothstep curve.
@@ -178,6 +193,15 @@ std::vector<ShownUnit> UnitsShown(const model::Map& map,
 
 double Seconds(const history::Replay& replay) {
   return ClockAt(replay.Journeys, 0).Seconds;
+}
+
+double AtRest(const history::Replay& replay, double progress) {
+  const double whole = Seconds(replay);
+  for (const Span& span : SpansOf(replay.Journeys)) {
+    if (span.Happens && progress * whole < span.Begin + span.Length)
+      return std::min(progress, span.Begin / whole);
+  }
+  return progress;
 }
 
 void DrawStill(const history::Replay& replay, const settings::MapOptions& options,

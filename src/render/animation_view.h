@@ -16,6 +16,10 @@ namespace orb::render {
 /// How long the replay takes at normal speed, in seconds.
 double Seconds(const history::Replay& replay);
 
+/// The last progress up to this one at which no unit was on its way: shown there alone, the frames
+/// leap from stage to stage.
+double AtRest(const history::Replay& replay, double progress);
+
 /// Draws what stays the same in every frame. Throws FileError for a missing or broken bitmap.
 void DrawStill(const history::Replay& replay, const settings::MapOptions& options,
                const std::filesystem::path& dataDirectory, Surface& surface);

@@ -70,6 +70,17 @@ TEST(AnimationView, UnitsGoTheirWaysOneStageAfterTheOther) {
   EXPECT_THAT(Discs(replay, 3.7), ElementsAre(bur, pie));
   EXPECT_THAT(Discs(replay, 4.352), ElementsAre(bur, pie, At(UnitAt("Vie")) + " 58"));
   EXPECT_THAT(Discs(replay, 5.5), ElementsAre(bur, pie, At(UnitAt("Vie")) + " 115"));
+  // With less motion every moment in which something moves shows what was before it.
+  const double whole = render::Seconds(replay);
+  for (const auto& [time, rest] : {std::pair{0.4, 0.4},
+                                   {0.6, 0.5},
+                                   {2.0, 0.5},
+                                   {2.2, 2.2},
+                                   {3.5, 2.4},
+                                   {3.7, 3.7},
+                                   {4.7, 3.9},
+                                   {5.0, 5.0}})
+    EXPECT_NEAR(render::AtRest(replay, time / whole) * whole, rest, 1e-9) << time;
 }
 
 TEST(AnimationView, AConvoyedArmyGoesOverItsFleets) {

@@ -1,4 +1,7 @@
 #include "end_signals.h"
+#ifdef ORB_PORTAL
+#include "desktop_portal.h"
+#endif
 
 #include "model/errors.h"
 #include "model/files.h"
@@ -80,6 +83,9 @@ int runProgram(const std::filesystem::path& gameFile, bool display) {
           "There is no display (DISPLAY, WAYLAND_DISPLAY) for the window; orbctl needs none.");
     }
     ui::MainWindow window(std::move(start), places);
+#ifdef ORB_PORTAL
+    const ui::DesktopPortal portal;
+#endif
     const ui::EndSignals endSignals([&window] { window.keepAll(); });
     window.show();
     // From the event loop, so that the end of the window ends the program.

@@ -1,9 +1,11 @@
 #include "ui/replay/animation_player.h"
 
 #include "history/game_series.h"
+#include "render/animation_view.h"
 #include "ui/output/file_dialogs.h"
 #include "ui/replay/animation_export.h"
 #include "ui/session/attempt.h"
+#include "ui/widgets/desktop_wishes.h"
 #include "ui/widgets/game_name.h"
 
 #include <algorithm>
@@ -174,7 +176,9 @@ void AnimationPlayer::show() {
     if (!attempt(m_messages, draw, [this] { end(); })) return;
     m_shownSeason = season;
   }
-  m_picture->setProgress(m_playhead.progress());
+  const double progress = m_playhead.progress();
+  m_picture->setProgress(desktopWishes().lessMotion ? render::AtRest(part.Replay, progress)
+                                                    : progress);
   // In the words of the map above it.
   const model::GameState& shown = part.Replay.Start;
   m_bar->showPosition(m_playhead.position(), stageCaption(shown.Season, shown.Year, shown.Stage));

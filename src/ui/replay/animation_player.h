@@ -18,8 +18,8 @@
 namespace orb::ui {
 
 /// Plays seasons in the place of the map. The game is not touched: its map is there again when the
-/// animation ends. The playhead keeps the time, the picture draws and the bar has the controls; the
-/// player connects them.
+/// animation ends. Where the desktop wishes less motion, it leaps from stage to stage. The playhead
+/// keeps the time, the picture draws and the bar has the controls; the player connects them.
 class AnimationPlayer : public QObject {
   Q_OBJECT
 

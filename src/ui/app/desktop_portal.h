@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QObject>
+
+namespace orb::ui {
+
+/// Asks the desktop's portal for what it wishes of programs, at the start and whenever a setting
+/// changes. Nothing waits for its answer, and where there is no portal nothing is wished.
+class DesktopPortal : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit DesktopPortal(QObject* parent = nullptr);
+
+ public slots:
+  /// Asks anew.
+  void ask();
+};
+
+}  // namespace orb::ui
