@@ -23,14 +23,6 @@ bool IsOpen(Tokens tokens) {
   });
 }
 
-/// Whether a word stands in an address, "tom@games.example".
-bool IsOfAddress(Tokens tokens, std::size_t at) {
-  const auto joins = [&](std::size_t mark) {
-    return tokens[mark].Text == "@" || (tokens[mark].Kind == TokenKind::Dot && tokens[mark].Glued);
-  };
-  return at > 0 && tokens[at].Glued && joins(at - 1);
-}
-
 /// What is behind the last full stop.
 Tokens LastSentence(Tokens line) {
   for (std::size_t at = line.size() - 1; at > 0; --at) {
@@ -70,13 +62,12 @@ std::optional<Aside> ReadTitle(Tokens line) {
   };
   for (std::size_t at = 0; at < last.size(); ++at) {
     if (HasUse(last[at], WordUse::SetsAside, WordUse::Aside, WordUse::Elsewhere) &&
-        !IsOfAddress(last, at) && !IsOfSomethingElse(last, at)) {
+        !IsOfSomethingElse(last, at)) {
       return below(at, at + 1);
     }
   }
   for (const Saying saying : {Saying::Postpones, Saying::Titles}) {
-    const auto at = FindSaying(last, saying);
-    if (at && !IsOfAddress(last, at->Begin)) return below(at->Begin, at->End);
+    if (const auto at = FindSaying(last, saying)) return below(at->Begin, at->End);
   }
   // Behind its first words "if" is one of another thought: "here you go, hope you see if it fits:".
   constexpr std::size_t few = 5;

@@ -50,6 +50,15 @@ std::size_t PastWish(Tokens tokens) {
              : at;
 }
 
+/// What a sign before a type says in the adjustments: "new F Lon", "+F Lon", "-A Bur". A dash that
+/// stands apart only begins a line of a list.
+Verb SignedVerb(Tokens tokens) {
+  if (tokens.size() < 3 || UnitTypeOf(tokens[1]) == 0) return Verb::None;
+  if (IsWord(tokens[0], "new") || tokens[0].Written == "+") return Verb::Build;
+  const bool isMinus = IsA(tokens[0], TokenKind::Dash) && tokens[0].Written == "-";
+  return isMinus && tokens[1].Glued ? Verb::Disband : Verb::None;
+}
+
 /// Behind a heading before the order, "France:" or "Builds.", whose power and verb go into the
 /// context; 0 when there is none.
 std::size_t PastHeading(Tokens tokens, const KnownGame& known, Context& context) {
@@ -57,10 +66,9 @@ std::size_t PastHeading(Tokens tokens, const KnownGame& known, Context& context)
     return static_cast<std::size_t>(std::ranges::find(tokens, kind, &Token::Kind) - tokens.begin());
   };
   if (const std::size_t wish = PastWish(tokens); wish != 0 && wish < tokens.size()) return wish;
-  const bool isNew = known.Stage == model::Stage::Adjustments && tokens.size() > 2 &&
-                     IsWord(tokens[0], "new") && UnitTypeOf(tokens[1]) != 0;
-  if (isNew) {
-    context.Orders = Verb::Build;
+  if (const Verb verb = SignedVerb(tokens);
+      known.Stage == model::Stage::Adjustments && verb != Verb::None) {
+    context.Orders = verb;
     return 1;
   }
   const std::size_t colon = lengthTo(TokenKind::Colon);

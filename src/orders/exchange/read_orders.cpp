@@ -214,9 +214,8 @@ class TextReader {
     const bool isBehindOrders = rows_.Around.IsInBlock();
     rows_.Around.EndLine(first, holdsOrders, line.Bytes.empty(), rows_.Lines);
     if (holdsOrders) {
-      if (const auto at = FindSaying(line.All, Saying::Gives)) {
-        rows_.Around.SetDoubtFrom(first, Quoted(line.Part(*at)) + " sets it aside", line.Span(*at));
-      }
+      if (const auto at = FindSaying(line.All, Saying::Gives))
+        rows_.SetAsideExample(line, *at, first);
       return rows_.DoubtRemarks(line, first);
     }
     const bool isHeading = rows_.Lines.back().Kind == LineKind::Heading;

@@ -50,6 +50,10 @@ class Rows {
   /// has none, each of the line, whose rows begin at `first`.
   void DoubtRemarks(const SourceLine& line, std::size_t first);
 
+  /// "E.g. A Par - Bur": of the rows from `first` on, those of the line, what stands behind such
+  /// words is surely none of the writer's orders.
+  void SetAsideExample(const SourceLine& line, TokenRange saying, std::size_t first);
+
   /// Two places alone are hardly meant as an order where nothing else in the text is written so;
   /// where a text changes others, "the rest holds" may say that those stay in force; and units of a
   /// list are not built where the text removes some, or says something else of them.

@@ -64,6 +64,13 @@ bool IsTitle(Tokens words, const PlaceNames& names, int power) {
 
 }  // namespace
 
+void Rows::SetAsideExample(const SourceLine& line, TokenRange saying, std::size_t first) {
+  const std::string reason = Quoted(line.Part(saying)) + " sets it aside";
+  const Span at = line.Span(saying);
+  for (std::size_t row = first; row < Lines.size(); ++row)
+    Around.SetDoubt(row, reason, at, Lines[row].Place.Offset > at.Offset);
+}
+
 void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
   // More orders than all powers have in a season: to hold each against each remark takes long.
   constexpr std::size_t most = 48;
@@ -166,22 +173,33 @@ void Rows::AmendBefore(const Said& said, int place) {
   }
 }
 
-/// "A Bur - Par or Gas", "otherwise to Gas": the order of the same unit that such words give.
+/// "A Bur - Par or Gas", "otherwise to Gas", "(I mean Gas)": the order of the same unit that such
+/// words give.
 void Rows::AddAlternative(const SourceLine& line, const Said& said) {
   constexpr std::array<std::string_view, 13> choosing{
       "or", "oder", "ou",    "otherwise", "else",   "o",      "eller",
       "of", "lub",  "sonst", "sinon",     "ellers", "instead"};
+  constexpr std::array<std::string_view, 14> correcting{
+      "mean", "meant", "meine", "meinte",    "voulais", "oops",  "ups",
+      "dire", "decir", "dico",  "intendevo", "bedoel",  "mener", "menar"};
   constexpr std::size_t longest = 5;
   const auto before = std::find_if(understood_.rbegin(), understood_.rend(), [&](auto& order) {
     return order.At.End <= said.At.Begin && Lines[order.Row].Kind == LineKind::Order;
   });
   if (before == understood_.rend() || known_.Stage == model::Stage::Adjustments) return;
   const Tokens remark = line.Part(said.At);
+  const auto isOneOf = [](const auto& words, const Token& token) {
+    return std::ranges::find(words, token.Text) != words.end();
+  };
   const auto choice = std::find_if(remark.rbegin(), remark.rend(), [&](const Token& token) {
-    return std::ranges::find(choosing, token.Text) != choosing.end();
+    return isOneOf(choosing, token) || isOneOf(correcting, token) ||
+           HasUse(token, WordUse::Correction);
   });
   if (choice == remark.rend()) return;
-  const auto at = static_cast<std::size_t>(remark.rend() - choice);
+  auto at = static_cast<std::size_t>(remark.rend() - choice);
+  while (at < remark.size() &&
+         (IsA(remark[at], TokenKind::Colon) || IsA(remark[at], TokenKind::Comma)))
+    ++at;
   const std::string order = Lines[before->Row].Order;
   const Context context{model::FindCountry(Lines[before->Row].Power), Verb::None};
   for (std::size_t length = std::min(longest, remark.size() - at); length > 0; --length) {
@@ -196,8 +214,9 @@ void Rows::AddAlternative(const SourceLine& line, const Said& said) {
     const std::size_t begin = said.At.Begin + at;
     AddOnly(line, {begin, begin + length}, read, context);
     understood_.pop_back();
-    Around.SetDoubtFrom(Lines.size() - 1, Quoted(remark) + " leaves the choice",
-                        line.Span(said.At));
+    const std::string_view tells =
+        isOneOf(choosing, *choice) ? " leaves the choice" : " may change it";
+    Around.SetDoubtFrom(Lines.size() - 1, Quoted(remark).append(tells), line.Span(said.At));
     return;
   }
 }

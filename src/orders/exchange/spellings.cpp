@@ -15,6 +15,7 @@ constexpr std::array Spellings{
     UsualSpellings{"Par", "parigi|parijs|paryz"},
     UsualSpellings{"Pic", "picardie|picardia|piccardia|pikardie|pikardia"},
     UsualSpellings{"Ber", "berlino|berlijn|berlim"},
+    UsualSpellings{"Kie", "kilonia"},
     UsualSpellings{"Mun", "munchen|muenchen|monaco|monachium|monaco di baviera|munique"},
     UsualSpellings{"Pru", "preussen|preusen|prusse|pruisen|prusy|preusse"},
     UsualSpellings{"Ruh", "ruhrgebiet|ruhrgebied|ruhromradet"},

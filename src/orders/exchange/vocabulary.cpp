@@ -22,7 +22,7 @@ struct VerbWords {
 constexpr std::array Verbs{
     VerbWords{
         Verb::Move,
-        "to into m mv move moves moving attack attacks attacking go goes going advance "
+        "to into m mv mve move moves moving attack attacks attacking go goes going advance "
         "advances march marches sail sails enter enters invade invades head heads heading "
         "proceed proceeds travel travels send geht gehe gehen zieht ziehe ziehen marschiert "
         "marschiere nach attackiert va vais vado attaque ataca attacca marche avance avanza "
@@ -70,7 +70,7 @@ constexpr std::array Verbs{
         "gardent aguanta mantienen staat staan wacht stilla avvakter"},
     VerbWords{
         Verb::Support,
-        "s sup supp supports support supporting spt sprt su backs backing unterstutzt "
+        "s sup supp supports support supporting spt sprt unterst su backs backing unterstutzt "
         "unterstuetzt unterstutze unterstutzung soutient soutien soutenir soutiens steunt "
         "ondersteunt apoya apoyo apoyando sostiene appoggia appoggio supporto supporta "
         "supporte appuie stotter stodjer stoder stoetter apoia wspiera wsparcie helps help "

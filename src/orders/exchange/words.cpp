@@ -83,6 +83,27 @@ std::size_t PastFace(std::string_view text, std::size_t at) {
   return isNamed ? blank : at;
 }
 
+/// Behind an address of mail, "tom@games.example"; else the same.
+std::size_t PastAddress(std::string_view text, std::size_t at) {
+  constexpr std::size_t longest = 64;  // of what stands before the "@", RFC 5321
+  const auto isOfAddress = [](char c) {
+    return IsLetterOrDigit(c) || c == '.' || c == '-' || c == '_' || c == '+';
+  };
+  if (!IsLetterOrDigit(text[at])) return at;
+  const auto pastRun = [&](std::size_t from, std::size_t bound) {
+    const std::string_view rest = text.substr(from, bound);
+    return from +
+           static_cast<std::size_t>(std::ranges::find_if_not(rest, isOfAddress) - rest.begin());
+  };
+  const std::size_t sign = pastRun(at, longest);
+  if (sign >= text.size() || text[sign] != '@') return at;
+  std::size_t end = pastRun(sign + 1, std::string_view::npos);
+  while (end > sign && !IsLetterOrDigit(text[end - 1]))
+    --end;
+  const auto dot = text.substr(sign, end - sign).find('.');
+  return dot == std::string_view::npos ? at : end;
+}
+
 /// Whether dots lead from one column to the next, as a dash does; three are an ellipsis.
 bool IsLeader(std::string_view text, std::size_t at) {
   return text.substr(at).starts_with("....");
@@ -93,6 +114,13 @@ Token NextToken(std::string_view text, std::size_t at) {
   Token token;
   token.Begin = at;
   const char c = text[at];
+  if (const std::size_t end = PastAddress(text, at); end != at) {
+    // No word of an address says anything.
+    token.Kind = TokenKind::Mark;
+    token.Text = "@";
+    token.End = end;
+    return token;
+  }
   if (IsLetterOrDigit(c)) {
     token.End = WordEnd(text, at);
     token.Capital = c >= 'A' && c <= 'Z';
