@@ -1,4 +1,7 @@
 #include "model/files.h"
+#include "orders/exchange/check_line.h"
+#include "session/commands.h"
+#include "support/boards.h"
 #include "support/directories.h"
 #include "ui/exchange/exchange_model.h"
 #include "ui/help/help_window.h"
@@ -21,6 +24,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -281,6 +285,36 @@ TEST_F(WindowTest, OrdersHandedOutAreReadAgain) {
   Trigger("mnuFileNew");
   Trigger("mnuFileImportOrders");
   EXPECT_EQ(Lines("lstOrders"), orders);
+}
+
+TEST_F(WindowTest, AnOrderSheetForSomethingElseIsNamedAboveItsOrders) {
+  session::Situation start{EmptyBoard("Spring", "moves")};
+  session::NewGame(start, DataDirectory());
+  model::GameState game = start.Game;
+  const auto paste = [&](const std::function<void(const Preview&, const QLabel&)>& look) {
+    QApplication::clipboard()->setText(QString::fromStdString(
+        "France\nFRA A(Par) - Bur\n" + exchange::CheckLineText(game, "FRA") + "\n"));
+    const ModalScript answers({[&](QDialog& dialog) {
+      look(Preview(dialog), *dialog.findChild<QLabel*>(QStringLiteral("lblExchangeSheet")));
+      Press(Qt::Key_Escape);
+    }});
+    Trigger("mnuEditPasteOrders");
+  };
+  paste([](const Preview& preview, const QLabel& sheet) {
+    EXPECT_FALSE(sheet.isVisible()) << sheet.text().toStdString();
+    EXPECT_EQ(preview.Mark(2), OrderMark::Passes) << "sure";
+    EXPECT_THAT(preview.Rows(), ElementsAre("1", "2")) << "the check line is no order";
+    preview.Choose("Germany");
+    EXPECT_TRUE(sheet.isVisible());
+    EXPECT_EQ(sheet.text(), "The order sheet is of FRA, not of GER.");
+  });
+  game.Year = 1903;
+  paste([](const Preview& preview, const QLabel& sheet) {
+    EXPECT_TRUE(sheet.isVisible());
+    EXPECT_EQ(sheet.text(),
+              "The order sheet of FRA is of Spring 1903; the game is in Spring 1901.");
+    EXPECT_TRUE(preview.ok.isEnabled()) << "whoever knows better may go on";
+  });
 }
 
 TEST_F(WindowTest, AMailIsNamedAboveItsOrders) {
