@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <rapidjson/writer.h>
 #include <string>
@@ -8,14 +9,39 @@
 
 namespace orb::json {
 
-/// Where the writer puts its characters.
-struct TextSink {
+/// Where the writer puts its characters: a text that grows by large steps, since most of the time
+/// goes into adding a character or a short word.
+class TextSink {
+ public:
   using Ch = char;
 
-  void Put(char c) { Text.push_back(c); }
+  void Put(char c) {
+    if (size_ == text_.size()) Grow(1);
+    text_[size_++] = c;
+  }
   void Flush() {}
 
-  std::string Text;
+  /// A text between quotes.
+  void PutQuoted(std::string_view text) {
+    if (text_.size() - size_ < text.size() + 2) Grow(text.size() + 2);
+    char* to = text_.data() + size_;
+    *to = '"';
+    text.copy(to + 1, text.size());
+    to[text.size() + 1] = '"';
+    size_ += text.size() + 2;
+  }
+
+  /// All of it; the sink must not be used after that.
+  std::string Take() {
+    text_.resize(size_);
+    return std::move(text_);
+  }
+
+ private:
+  void Grow(std::size_t more) { text_.resize(2 * (text_.size() + more) + 8000); }
+
+  std::string text_;
+  std::size_t size_ = 0;  ///< of what was put
 };
 
 /// The writer, with a shorter way for texts that stand in JSON as they are: nearly all do.
@@ -26,9 +52,7 @@ class TextWriter : public rapidjson::Writer<TextSink> {
   /// A text without characters that JSON escapes.
   void Plain(std::string_view text) {
     Prefix(rapidjson::kStringType);
-    os_->Put('"');
-    os_->Text.append(text);
-    os_->Put('"');
+    os_->PutQuoted(text);
   }
 };
 
@@ -97,7 +121,7 @@ class Output {
   }
 
   /// What was written; the output must not be used after that.
-  std::string Take() { return std::move(sink_.Text); }
+  std::string Take() { return sink_.Take(); }
 
  private:
   TextSink sink_;
