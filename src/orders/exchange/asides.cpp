@@ -308,7 +308,11 @@ bool Corrects(Tokens line) {
   const auto last = std::find_if(line.rbegin(), line.rend(), [](const Token& token) {
     return IsA(token, TokenKind::Word) && !HasUse(token, WordUse::Filler);
   });
-  if (last != line.rend() && IsWord(*last, "instead") && !MakesCondition(line)) return true;
+  constexpr std::array<std::string_view, 6> instead{"instead",  "stattdessen", "stallet",
+                                                    "istallet", "stedet",      "invece"};
+  const bool isInstead =
+      last != line.rend() && std::ranges::find(instead, last->Text) != instead.end();
+  if (isInstead && !MakesCondition(line)) return true;
   const auto phrase = FindSaying(line, Saying::Corrects);
   const bool isAsked = std::ranges::find(line, "?", &Token::Text) != line.end();
   return phrase && !isAsked && !IsOpen(line.first(phrase->Begin)) &&

@@ -37,15 +37,6 @@ constexpr std::string_view PlainPhrases =
     "as always|as every year|wie immer|comme toujours|como siempre|come sempre|como sempre|"
     "zoals altijd|som altid|som alltid|jak zawsze";
 
-bool IsPersonAt(Tokens tokens, std::size_t at, const PlaceNames& names) {
-  if (at >= tokens.size() || !IsA(tokens[at], TokenKind::Word)) return false;
-  const Token& token = tokens[at];
-  return token.Capital && token.Text.size() > 1 && VerbOf(token) == Verb::None &&
-         UnitTypeOf(token) == 0 && token.Means.Uses == 0 && token.Means.Signals == 0 &&
-         PowerAt(tokens, at).Power == 0 && names.At(tokens, at).empty() &&
-         names.Near(token.Text).empty();
-}
-
 /// The tokens that a phrase takes from here, or 0.
 std::size_t LengthOfOne(Tokens tokens, std::size_t at, const std::vector<std::string_view>& phrase,
                         const PlaceNames& names) {
@@ -109,6 +100,15 @@ bool BearsAt(Tokens words, std::size_t at, const PlaceNames& names) {
 }
 
 }  // namespace
+
+bool IsPersonAt(Tokens tokens, std::size_t at, const PlaceNames& names) {
+  if (at >= tokens.size() || !IsA(tokens[at], TokenKind::Word)) return false;
+  const Token& token = tokens[at];
+  return token.Capital && token.Text.size() > 1 && VerbOf(token) == Verb::None &&
+         UnitTypeOf(token) == 0 && token.Means.Uses == 0 && token.Means.Signals == 0 &&
+         PowerAt(tokens, at).Power == 0 && names.At(tokens, at).empty() &&
+         names.Near(token.Text).empty();
+}
 
 std::size_t LengthOfPlainPhrase(Tokens tokens, std::size_t at, const PlaceNames& names) {
   std::size_t longest = 0;

@@ -14,4 +14,7 @@ std::size_t LengthOfPlainPhrase(Tokens tokens, std::size_t at, const PlaceNames&
 /// oysters are good there", "(hope he remembers)".
 bool IsReason(Tokens words, const PlaceNames& names);
 
+/// Whether a word may be a person's name: it has a capital letter and no meaning here.
+bool IsPersonAt(Tokens tokens, std::size_t at, const PlaceNames& names);
+
 }  // namespace orb::exchange

@@ -74,6 +74,12 @@ void DropStruck(PlainText& line) {
   line = std::move(left);
 }
 
+/// "div" of "</div", "<div class" in small letters.
+std::string TagName(std::string_view tag) {
+  tag.remove_prefix(tag.substr(1).starts_with('/') ? 2 : 1);
+  return text::LowerCase(tag.substr(0, tag.find_first_of(" /=")));
+}
+
 bool HasText(std::string_view text) {
   return text.find_first_not_of(" ;") != std::string_view::npos;
 }
@@ -102,6 +108,23 @@ bool StruckLines::Take(std::string_view plain) {
     isStruck = isStruck || isOpen_;
   }
   return isStruck;
+}
+
+std::size_t LengthOfPageLine(std::string_view text) {
+  bool ends = false;
+  for (std::size_t at = text.find('<'); at < text.size();) {
+    const std::size_t close = text.find('>', at);
+    if (close == std::string_view::npos) break;
+    const bool isEnd = text[at + 1] == '/';
+    if (IsOneOf(TagName(text.substr(at, close - at)), BlockTags)) {
+      if (!isEnd && at > 0) return at;
+      ends = ends || isEnd;
+    }
+    // What ends together, "</p></div>", ends one line.
+    if (ends && !text.substr(close + 1).starts_with('<')) return close + 1;
+    at = text.find('<', close);
+  }
+  return text.size();
 }
 
 void DropTags(PlainText& line) {

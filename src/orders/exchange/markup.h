@@ -2,6 +2,7 @@
 
 #include "orders/exchange/plain_text.h"
 
+#include <cstddef>
 #include <string_view>
 
 namespace orb::exchange {
@@ -16,6 +17,10 @@ class StruckLines {
  private:
   bool isOpen_ = false;
 };
+
+/// How much of a text is the first line of a page: up to a tag of HTML that begins another one, or
+/// with those that end it.
+std::size_t LengthOfPageLine(std::string_view text);
 
 /// Takes the tags of HTML and forums, "<b>" and "[b]", out of a line: those that end a line or an
 /// item become semicolons. What is struck out, by tags, styles or "~~", goes with them: it is no

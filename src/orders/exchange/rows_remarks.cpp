@@ -1,4 +1,5 @@
 #include "orders/exchange/doubts.h"
+#include "orders/exchange/harmless_words.h"
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/rows.h"
@@ -60,6 +61,23 @@ bool IsTitle(Tokens words, const PlaceNames& names, int power) {
   if (Corrects(title) && !NamesPlace(title, names)) return true;
   if (isOpen || ReadAside(title, names) || IsReport(title) || Reconsiders(title)) return false;
   return named == power || (named == 0 && IsOwnTitle(title));
+}
+
+/// Whether the writer signs at the end of a line, behind a full stop, a comma or the like: "A Par -
+/// Bur, A Mar H. Pierre".
+bool SignsOff(Tokens line, TokenRange at, const PlaceNames& names) {
+  const bool isLast = std::ranges::none_of(line.subspan(at.End), IsWordToken);
+  if (!isLast || at.Begin == 0) return false;
+  constexpr std::size_t longest = 2;  // words of a name
+  std::size_t words = 0;
+  bool isParted = !IsA(line[at.Begin - 1], TokenKind::Word);
+  for (std::size_t next = at.Begin; next < at.End; ++next) {
+    const bool isMark = IsA(line[next], TokenKind::Dot) || IsA(line[next], TokenKind::Comma) ||
+                        IsA(line[next], TokenKind::Slash);
+    if (!isMark && !(IsPersonAt(line, next, names) && ++words <= longest)) return false;
+    isParted = isParted || (isMark && words == 0);
+  }
+  return isParted && words > 0;
 }
 
 }  // namespace
@@ -325,6 +343,7 @@ bool Rows::IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const
   const Tokens remark = line.Part(said.At);
   if (IsAddress(remark, said.At.Begin == 0, power) || IsTitle(remark, known_.Names, power))
     return false;
+  if (SignsOff(line.All, said.At, known_.Names)) return false;
   const bool isFirst = std::ranges::all_of(
       understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
   if (isFirst && IsOpening(remark, known_.Names, power)) return false;

@@ -71,12 +71,16 @@ std::deque<SourceLine> CutText(std::string_view text, std::span<const TextRepair
                                const PlaceNames& names) {
   std::deque<SourceLine> lines;
   const char* const begin = text.data();
-  while (!text.empty()) {
-    const std::string_view bytes = text::NextLine(text);
-    const auto offset = static_cast<std::size_t>(bytes.data() - begin);
-    SourceLine& line = lines.emplace_back();
-    line.Number = static_cast<int>(lines.size());
-    CutLine(line, bytes, offset, repairs, names);
+  for (int number = 1; !text.empty(); ++number) {
+    std::string_view rest = text::NextLine(text);
+    // The lines of a page may stand in one.
+    do {
+      const std::string_view bytes = rest.substr(0, LengthOfPageLine(rest));
+      SourceLine& line = lines.emplace_back();
+      line.Number = number;
+      CutLine(line, bytes, static_cast<std::size_t>(bytes.data() - begin), repairs, names);
+      rest.remove_prefix(bytes.size());
+    } while (!rest.empty());
   }
   return lines;
 }

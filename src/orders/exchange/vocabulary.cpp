@@ -207,7 +207,8 @@ constexpr std::array Uses{
     UseWords{
         WordUse::Correction,
         "correction corrections korrektur correzione correccion correctie correcao rectification "
-        "rectificatif rattelse rettelse korekta poprawka errata erratum update updates revision "
+        "rectificatif rattelse rettelse andring endring aendring anderung wijziging alteracao "
+        "korekta poprawka errata erratum update updates revision "
         "amendment amendments edit instead"},
     UseWords{
         WordUse::Reservation,
