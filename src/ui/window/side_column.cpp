@@ -47,16 +47,11 @@ QSize SideColumn::minimumSizeHint() const {
       std::min(whole, LeastLines * fontMetrics().lineSpacing())};
 }
 
-/// Its least width hangs on its height.
+/// Its least width hangs on its height and on what stands in it.
 bool SideColumn::event(QEvent* event) {
-  if (event->type() == QEvent::Resize) updateGeometry();
-  return QScrollArea::event(event);
-}
-
-bool SideColumn::eventFilter(QObject* watched, QEvent* event) {
-  // Nobody but the content's own layout knows how much room it needs.
-  if (event->type() == QEvent::LayoutRequest) updateGeometry();
-  return QScrollArea::eventFilter(watched, event);
+  const bool handled = QScrollArea::event(event);
+  if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) updateGeometry();
+  return handled;
 }
 
 void SideColumn::addPanel(QWidget* panel) {
@@ -73,6 +68,9 @@ void SideColumn::showInstead(QWidget* shown) {
   const bool takesPlace = shown != nullptr && shown != m_brief;
   m_place->setVisible(takesPlace);
   if (takesPlace) shown->show();
+  // A panel aligns its columns when it is shown, which its layout does not pass on to a view that
+  // scrolls.
+  updateGeometry();
 }
 
 }  // namespace orb::ui

@@ -31,7 +31,6 @@ class SideColumn : public QScrollArea {
 
  protected:
   bool event(QEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   QWidget* m_brief;
