@@ -281,7 +281,10 @@ bool OrderEntryPanel::fileOrder() {
     m_list->setCurrentRow(m_list->count() - 1);
     m_text->clear();
   }
+  // Whoever walks the map by keys and files by Alt+O is to walk on.
+  QWidget* keyboard = window()->focusWidget();
   startEntry();
+  if (filed && keyboard != nullptr && !isAncestorOf(keyboard)) keyboard->setFocus();
   if (!filed) emit statusText(why);
   return filed;
 }
