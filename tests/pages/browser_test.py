@@ -50,6 +50,15 @@ def check_season_page_at(browser, page, width):
     check("Burgundy" in place and "GER A(Bur) - Par" in place and "dislodged by" in place, f"Burgundy says: {place}")
     check(browser.script("return document.querySelectorAll('.season:not([hidden]) .order.on').length") >= 1, "no arrow is lit")
 
+    # On the map afterwards an order lights up where its unit came to stand, and its helper where that is now.
+    lit = browser.script("""
+        const section = document.querySelector(".season:not([hidden])");
+        section.querySelector(".view.result").click();
+        Array.from(section.querySelectorAll("button.order-text")).find(b => b.textContent === "FRA A(Par) - Bur").click();
+        return Array.from(section.querySelectorAll(".area.chosen, .area.with")).map(area => area.dataset.place + area.classList);""")
+    check("Burarea chosen" in lit and "Mararea with" in lit, f"lit afterwards: {lit}")
+    browser.script("document.querySelector('.season:not([hidden]) .view.orders').click()")
+
     # All by keys: through the seasons, and from province to province.
     body = browser.script("document.activeElement.blur(); return document.body")
     name = "return document.getElementById('season-name').textContent"
