@@ -9,6 +9,7 @@
 #include "render/svg_text.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string_view>
 
 namespace orb::pages {
@@ -99,19 +100,31 @@ std::string ReportPart(const Season& season) {
          MovementsSection(season);
 }
 
+/// About how high the words of a season come out on paper, in millimetres: the report in four
+/// columns, free text and the table of powers below it. At size 1 letters are smallest.
+double PrintedHeight(const Season& season, double size) {
+  const auto rows = [&](std::size_t letters, double fitting) {
+    return std::ceil(static_cast<double>(letters) * size / fitting);
+  };
+  constexpr double orderLetters = 30;
+  constexpr double reasonLetters = 40;
+  double report = 7 * 4.5;  // the powers' headings
+  for (const std::string& line : season.End.ReportLines)
+    report += 3.1 * rows(line.size(), orderLetters);
+  for (const session::ReportNote& note : season.Notes)
+    report += 2.4 * rows(note.Reason.size(), reasonLetters) + 0.4;
+  double below = 8 * 3.2 + 8;
+  for (const std::string& line : season.End.TextLines)
+    below += 3.1 * rows(line.size() + 1, 4 * orderLetters);
+  return size * (report / 4 * 1.05 + below);
+}
+
 /// The classes of a season: how large it is printed, so that it fills one sheet and no more.
 std::string_view PrintedSize(const Season& season) {
-  constexpr std::size_t entry = 45;  // the rest of a line, in letters
-  std::size_t letters = 0;
-  for (const std::string& line : season.End.ReportLines)
-    letters += line.size() + entry;
-  for (const session::ReportNote& note : season.Notes)
-    letters += note.Reason.size();
-  for (const std::string& line : season.End.TextLines)
-    letters += line.size() + entry;
-  if (letters < 2700) return "season largest";
-  if (letters < 3600) return "season larger";
-  return letters < 4800 ? "season large" : "season";
+  constexpr double room = 155;  // below the map
+  if (PrintedHeight(season, 1.45) < room) return "season largest";
+  if (PrintedHeight(season, 1.3) < room) return "season larger";
+  return PrintedHeight(season, 1.14) < room ? "season large" : "season";
 }
 
 std::string SeasonSection(const Season& season, std::size_t index, Maps& maps) {
