@@ -37,11 +37,13 @@ bool Signs(const Token& token, Signal signal) {
 /// Closings of letters, what programs write below them, and offers of help: "Take care", "Sent from
 /// my phone", "If anything is unclear".
 bool IsOfLetter(Tokens words) {
-  constexpr std::array<std::string_view, 22> footers{
-      "address",     "adresse",      "indirizzo",  "direccion",   "adres",         "endereco",
-      "attachments", "confidential", "recipient",  "recipients",  "addressee",     "adressat",
-      "empfanger",   "destinataire", "umwelt",     "environment", "environnement", "printing",
-      "ausdrucken",  "imprimer",     "privileged", "vertraulich"};
+  constexpr std::array<std::string_view, 28> footers{
+      "address",     "adresse",       "indirizzo",    "direccion",    "adres",
+      "endereco",    "attachments",   "confidential", "recipient",    "recipients",
+      "addressee",   "adressat",      "empfanger",    "destinataire", "umwelt",
+      "environment", "environnement", "printing",     "ausdrucken",   "imprimer",
+      "privileged",  "vertraulich",   "ausgedruckt",  "ausdruckt",    "eingangsbestatigung",
+      "disclaimer",  "unauthorised",  "unauthorized"};
   if (std::ranges::any_of(words, [&](const auto& token) { return IsOneOf(token, footers); }))
     return true;
   if (words.size() > 1 && IsWord(words[0], "take") &&

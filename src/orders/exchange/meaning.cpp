@@ -136,6 +136,15 @@ void Add(Meanings& meanings, const Completed& order, const KnownGame& known, Tok
   }
 }
 
+/// Whether an order is none to convoy, or to a place beside the fleet's water.
+bool IsOnShore(const Meaning& meaning, const KnownGame& known) {
+  const auto order = ReadExactLine(*known.Game.Map, known.Stage, meaning.Line);
+  if (!order || order->Kind != OrderKind::Convoy) return true;
+  const std::string& to = order->Target2.empty() ? order->Target : order->Target2;
+  return model::IsAdjacent(*known.Game.Map, "F", order->Location, to) ||
+         !model::CanStandIn(*known.Game.Map, "F", to);
+}
+
 }  // namespace
 
 bool IsPossible(const Meaning& meaning, const KnownGame& known) {
@@ -170,6 +179,11 @@ Meanings FindMeanings(const std::vector<WrittenOrder>& readings, const KnownGame
   // An order that can be carried out is more likely meant than one that cannot.
   const auto objected = [](const Meaning& meaning) { return !meaning.Objection.empty(); };
   if (!std::ranges::all_of(meanings.All, objected)) std::erase_if(meanings.All, objected);
+  // Of "nor" a fleet that convoys means the one on its shore.
+  const auto isFar = [&](const Meaning& meaning) { return !IsOnShore(meaning, known); };
+  if (meanings.All.size() > 1 && !std::ranges::all_of(meanings.All, isFar)) {
+    std::erase_if(meanings.All, isFar);
+  }
   return meanings;
 }
 

@@ -6,6 +6,8 @@
 #include "orders/exchange/segments.h"
 #include "orders/exchange/spoken_marks.h"
 
+#include <algorithm>
+
 namespace orb::exchange {
 namespace {
 
@@ -15,6 +17,8 @@ bool MayGoOn(const SourceLine& line, const SourceLine& next) {
   constexpr std::size_t shortest = 24;
   if (line.IsTooLong || next.IsTooLong || line.All.empty() || next.All.empty()) return false;
   if (line.Plain.Text.size() < shortest) return false;
+  // The rows of a table begin anew.
+  if (std::ranges::count(line.Plain.Text, ';') > 1) return false;
   const Token& last = line.All.back();
   const Token& first = next.All.front();
   const bool isOpen = IsA(last, TokenKind::Word) || IsA(last, TokenKind::Dash) ||

@@ -27,12 +27,13 @@ inline constexpr std::array<std::string_view, 28> HoldTails{
     "is",     "staan",  "stehen",     "dort",      "tight", "put",   "position",
     "fast",   "still",  "in",         "place",     "firm",  "home",  "strong",
     "steady", "there",  "where",      "it",        "they",  "ferma", "parada"};
-inline constexpr std::array<std::string_view, 44> MoveTails{
-    "ship",  "course",   "sail",    "way",   "bound",   "rumbo",   "rotta",   "route",  "cap",
-    "large", "straight", "kurs",    "sich",  "zich",    "sig",     "seg",     "ab",     "vor",
-    "back",  "zuruck",   "zurueck", "terug", "tilbage", "tilbake", "against", "toward", "towards",
-    "on",    "upon",     "for",     "in",    "ins",     "im",      "over",    "across", "out",
-    "up",    "en",       "down",    "off",   "home",    "round",   "around",  "along"};
+inline constexpr std::array<std::string_view, 46> MoveTails{
+    "dans",    "nel",     "ship",    "course", "sail",     "way",    "bound",   "rumbo",
+    "rotta",   "route",   "cap",     "large",  "straight", "kurs",   "sich",    "zich",
+    "sig",     "seg",     "ab",      "vor",    "back",     "zuruck", "zurueck", "terug",
+    "tilbage", "tilbake", "against", "toward", "towards",  "on",     "upon",    "for",
+    "in",      "ins",     "im",      "over",   "across",   "out",    "up",      "en",
+    "down",    "off",     "home",    "round",  "around",   "along"};
 inline constexpr std::array<std::string_view, 5> Nouns{"move", "attack", "advance", "of", "for"};
 inline constexpr std::array<std::string_view, 12> CountingWords{
     "one", "two", "a", "all", "remaining", "rest", "any", "other", "of", "both", "last", "for"};

@@ -292,6 +292,14 @@ std::size_t Phrases::PastMarks(std::size_t at) const {
   return at;
 }
 
+/// "- 3 votes" behind what a group decided.
+bool Phrases::IsCount(std::size_t at) const {
+  constexpr std::array votes{"vote"sv, "votes"sv,   "stimmen"sv, "voix"sv,   "votos"sv,
+                             "voti"sv, "stemmen"sv, "stemmer"sv, "roster"sv, "glosy"sv};
+  return Is(at, TokenKind::Dash) && Is(at + 2, TokenKind::Word) && IsNumber(tokens_[at + 1]) &&
+         IsOneOf(tokens_[at + 2], votes);
+}
+
 /// Behind a face, a sign or what is passed over anyway; the same token when there is none.
 std::size_t Phrases::PastDecoration(std::size_t at) const {
   const bool isSmile = Is(at, TokenKind::Colon) && at + 1 < tokens_.size() &&
@@ -323,6 +331,8 @@ bool Phrases::Ends(std::size_t at) {
                (MayBegin(token, Saying::Excludes) &&
                 ExcludedPlace(part(at, tokens_.size()), names_) != 0)) {
       return true;
+    } else if (IsCount(at)) {
+      at += 3;
     } else if (const std::size_t next = PastDecoration(at); next != at) {
       at = next;
     } else {

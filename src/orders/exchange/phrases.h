@@ -73,6 +73,7 @@ class Phrases {
 
  private:
   std::size_t Skip(std::size_t at) const;
+  bool IsCount(std::size_t at) const;
   std::size_t PastDecoration(std::size_t at) const;
   bool IsPassedOver(std::size_t at) const;
   std::size_t ToVerb(std::size_t at) const;

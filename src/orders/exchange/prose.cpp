@@ -133,7 +133,9 @@ class ProseReader {
     if (words.empty() || words.size() > LengthBound) return std::nullopt;
     std::string text;
     for (const Token& token : words) {
-      const bool isApart = !token.Glued || IsA(token, TokenKind::Word);
+      // "Mid-Atlantic" stays one name.
+      const bool goesOn = !text.empty() && text.back() == '-';
+      const bool isApart = !token.Glued || (IsA(token, TokenKind::Word) && !goesOn);
       text.append(isApart ? " " : "").append(token.Written);
     }
     text.append(" ").append(more);
