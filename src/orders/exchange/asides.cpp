@@ -47,6 +47,15 @@ bool IsPolite(const Token& token) {
          IsWord(token, "not") || IsWord(token, "may");
 }
 
+/// "These are final if Tom agrees".
+bool Supposes(Tokens words) {
+  constexpr std::array<std::string_view, 15> conjunctions{
+      "or", "if", "unless", "when", "provided", "only",  "wenn", "falls",
+      "si", "se", "als",    "hvis", "om",       "jesli", "gdy"};
+  return std::ranges::any_of(words,
+                             [&](const Token& token) { return IsOneOf(token, conjunctions); });
+}
+
 /// What a line that ends in a colon sets aside: "Draft:", "If Germany agrees:", "Do NOT use
 /// these:".
 std::optional<Aside> ReadTitle(Tokens line) {
@@ -316,7 +325,7 @@ bool Corrects(Tokens line) {
   const auto phrase = FindSaying(line, Saying::Corrects);
   const bool isAsked = std::ranges::find(line, "?", &Token::Text) != line.end();
   return phrase && !isAsked && !IsOpen(line.first(phrase->Begin)) &&
-         !MakesCondition(line.subspan(phrase->End));
+         !Supposes(line.subspan(phrase->End));
 }
 
 }  // namespace orb::exchange

@@ -34,9 +34,8 @@ bool Signs(const Token& token, Signal signal) {
   return (token.Means.Signals & static_cast<unsigned>(signal)) != 0;
 }
 
-/// Closings of letters, what programs write below them, and offers of help: "Take care", "Sent from
-/// my phone", "If anything is unclear".
-bool IsOfLetter(Tokens words) {
+/// Words of what firms have below their mails.
+bool IsOfFooter(const Token& token) {
   constexpr std::array<std::string_view, 28> footers{
       "address",     "adresse",       "indirizzo",    "direccion",    "adres",
       "endereco",    "attachments",   "confidential", "recipient",    "recipients",
@@ -44,8 +43,13 @@ bool IsOfLetter(Tokens words) {
       "environment", "environnement", "printing",     "ausdrucken",   "imprimer",
       "privileged",  "vertraulich",   "ausgedruckt",  "ausdruckt",    "eingangsbestatigung",
       "disclaimer",  "unauthorised",  "unauthorized"};
-  if (std::ranges::any_of(words, [&](const auto& token) { return IsOneOf(token, footers); }))
-    return true;
+  return IsOneOf(token, footers);
+}
+
+/// Closings of letters, what programs write below them, and offers of help: "Take care", "Sent from
+/// my phone", "If anything is unclear".
+bool IsOfLetter(Tokens words) {
+  if (std::ranges::any_of(words, IsOfFooter)) return true;
   if (words.size() > 1 && IsWord(words[0], "take") &&
       (IsWord(words[1], "care") || IsWord(words.back(), "easy")))
     return true;
@@ -87,6 +91,11 @@ bool CountsLines(Tokens words) {
       return true;
   }
   return false;
+}
+
+/// "Nothing else moves", but not "nothing moves".
+bool TellsOfOthers(Tokens words) {
+  return TellsOfNothing(words) && words.size() > 2 && !IsWord(words[1], "moves");
 }
 
 /// "No worries", "not bad".
@@ -131,7 +140,7 @@ bool BearsOnOrders(Tokens sentence, Unplaced unit) {
   constexpr std::ptrdiff_t few = 4;
   constexpr std::ptrdiff_t brief = 6;
   const auto count = std::ranges::count(sentence, TokenKind::Word, &Token::Kind);
-  if (count == 0 || IsSecondThought(sentence) || TellsOfNothing(sentence)) return false;
+  if (count == 0 || IsSecondThought(sentence) || TellsOfOthers(sentence)) return false;
   const Signals signals(sentence);
   const bool asks = sentence.back().Text == "?";
   // "Okay?", "Right?"
@@ -158,8 +167,15 @@ bool BearsOnOrders(Tokens sentence, Unplaced unit) {
   if (count > brief) return false;
   const Token& first = sentence[FirstWord(sentence)];
   const bool isUnfinished = IsWord(sentence[0], "to") && IsWord(sentence[1], "be");
-  return isOfUnit || isUnfinished || Signs(first, Signal::Takes) || Signs(first, Signal::Later) ||
+  const bool isMore = IsWord(first, "more") && signals.Has(Signal::Later);
+  return isOfUnit || isUnfinished || isMore || Signs(first, Signal::Takes) ||
+         Signs(first, Signal::Later) ||
          (Signs(first, Signal::Denies) && count < few && !IsCalm(sentence));
+}
+
+bool IsFooter(Tokens line) {
+  constexpr std::ptrdiff_t many = 3;
+  return std::ranges::count_if(line, IsOfFooter) >= many;
 }
 
 std::optional<TokenRange> FindBearing(Tokens line, const PlaceNames& names) {

@@ -16,6 +16,9 @@ enum class Unplaced : std::uint8_t { Bears, Ignored };
 /// other things, "It rained all day", do not.
 bool BearsOnOrders(Tokens sentence, Unplaced unit = Unplaced::Bears);
 
+/// Whether a line is of what firms have below their mails: "confidential and may be privileged".
+bool IsFooter(Tokens line);
+
 /// Where a sentence of a line does so.
 std::optional<TokenRange> FindBearing(Tokens line, const PlaceNames& names);
 

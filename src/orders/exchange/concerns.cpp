@@ -73,18 +73,22 @@ bool SpeaksOfOrders(Tokens tokens) {
   });
 }
 
+/// Whether words point at something, or name units or orders.
+bool Points(Tokens sentence) {
+  return std::ranges::any_of(sentence, [](const Token& token) {
+    constexpr auto pointing =
+        static_cast<unsigned>(Signal::Points) | static_cast<unsigned>(Signal::Hints);
+    return (token.Means.Signals & pointing) != 0 || HasUse(token, WordUse::Orders) ||
+           (UnitTypeOf(token) != 0 && token.Text.size() > 1);
+  });
+}
+
 /// Whether a sentence makes a condition and may be about the orders: it points at something, or
 /// names units or orders.
 bool MayBeOfAll(Tokens tokens) {
   return std::ranges::any_of(SentencesOf(tokens), [&](const TokenRange& at) {
     const Tokens sentence = tokens.subspan(at.Begin, at.End - at.Begin);
-    const bool points = std::ranges::any_of(sentence, [](const Token& token) {
-      constexpr auto pointing =
-          static_cast<unsigned>(Signal::Points) | static_cast<unsigned>(Signal::Hints);
-      return (token.Means.Signals & pointing) != 0 || HasUse(token, WordUse::Orders) ||
-             (UnitTypeOf(token) != 0 && token.Text.size() > 1);
-    });
-    return points && MakesCondition(sentence) && SpeaksOfOrders(sentence);
+    return Points(sentence) && MakesCondition(sentence) && SpeaksOfOrders(sentence);
   });
 }
 
@@ -148,7 +152,10 @@ Concern ConcernOf(Tokens tokens, const PlaceNames& names, const model::Map& map)
   if (!isOfOrders) return concern;
   // Farther on a condition may be of anything: "the link does not work".
   constexpr std::size_t few = 4;
-  const bool isOfAll = MayBeOfAll(tokens) || FindCondition(tokens) < few;
+  const Tokens opening = tokens.first(SentencesOf(tokens)[0].End);
+  constexpr std::size_t brief = 10;
+  const bool isOfAll = MayBeOfAll(tokens) || (FindCondition(tokens) < few &&
+                                              (opening.size() <= brief || Points(opening)));
   concern.MayBeAll = isOfAll && MakesCondition(tokens) && !IsOffer(tokens);
   return concern;
 }

@@ -270,6 +270,12 @@ std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names) {
   return hasWord ? std::optional(heading) : std::nullopt;
 }
 
+bool IsOrderAlone(Tokens tokens, const Heading& heading, model::Stage stage) {
+  return stage == model::Stage::Retreats && heading.Orders == Verb::Disband &&
+         VerbOf(tokens.back()) == Verb::Disband &&
+         (tokens.size() == 1 || PowerAt(tokens, 0).Power != 0);
+}
+
 bool IsPressTitle(Tokens tokens) {
   constexpr std::array<std::string_view, 8> titles{"press",  "presse", "pers",     "prensa",
                                                    "stampa", "prasa",  "imprensa", "pressen"};

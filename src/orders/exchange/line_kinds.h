@@ -23,6 +23,10 @@ inline bool IsHeadingOf(model::Stage stage, const Heading& heading) {
 /// The heading that all the tokens are; nothing when they are none.
 std::optional<Heading> ReadHeading(Tokens tokens, const PlaceNames& names);
 
+/// Whether a heading is an order: "France: disband" is meant for a dislodged unit, which it does
+/// not name.
+bool IsOrderAlone(Tokens tokens, const Heading& heading, model::Stage stage);
+
 /// Whether a line is the title of a part that players write to each other, "PRESS:".
 bool IsPressTitle(Tokens tokens);
 

@@ -97,7 +97,7 @@ class TextReader {
 
   void StartAnew() {
     context_ = {model::FindCountry(options_.Power), Verb::None};
-    inSignature_ = inPress_ = false;
+    inSignature_ = inPress_ = inFooter_ = false;
     quotations_ = {};
     struck_ = {};
     rows_.Around.StartAnew();
@@ -143,7 +143,7 @@ class TextReader {
     const bool isPressTitle = IsPressTitle(line.Part(body));
     const auto heading = isPressTitle ? std::nullopt : ReadHeading(line.Part(body), known_.Names);
     if (heading && IsHeadingOf(known_.Stage, *heading) &&
-        !IsOrderAlone(line.Part(body), *heading)) {
+        !IsOrderAlone(line.Part(body), *heading, known_.Stage)) {
       return AddHeading(line, *heading);
     }
     if (isPressTitle || (inPress_ && !IsTyped(line.Part(body)))) {
@@ -165,13 +165,6 @@ class TextReader {
   /// What players write to each other may name places, but hardly units: "Con - Sev: I told you
   /// so".
   static bool IsTyped(Tokens tokens) { return !tokens.empty() && UnitTypeOf(tokens[0]) != 0; }
-
-  /// "France: disband" is meant for a dislodged unit, which it does not name.
-  bool IsOrderAlone(Tokens tokens, const Heading& heading) const {
-    return known_.Stage == model::Stage::Retreats && heading.Orders == Verb::Disband &&
-           VerbOf(tokens.back()) == Verb::Disband &&
-           (tokens.size() == 1 || PowerAt(tokens, 0).Power != 0);
-  }
 
   void ReadBody(const SourceLine& line, TokenRange body, TokenRange comment) {
     const Tokens said = line.Part(comment);
@@ -214,13 +207,21 @@ class TextReader {
     const bool isBehindOrders = rows_.Around.IsInBlock();
     rows_.Around.EndLine(first, holdsOrders, line.Bytes.empty(), rows_.Lines);
     if (holdsOrders) {
+      inFooter_ = false;
       if (const auto at = FindSaying(line.All, Saying::Gives))
         rows_.SetAsideExample(line, *at, first);
       return rows_.DoubtRemarks(line, first);
     }
     const bool isHeading = rows_.Lines.back().Kind == LineKind::Heading;
+    if (isHeading || isMailHead_) inFooter_ = false;
     if (line.IsTooLong || line.All.empty() || isHeading) return;
     if (isMailHead_) return LookAtSubject(line, first);
+    constexpr std::size_t shortest = 8;
+    inFooter_ = inFooter_ || (IsFooter(line.All) && rows_.HoldsOrders(0));
+    if (inFooter_ && line.All.size() > shortest) {
+      rows_.PassOver(first);
+      return rows_.Around.SetAbout({});
+    }
     if (!isBehindOrders && SpeaksOfElse(line.All, known_.Names)) return rows_.Around.SetAbout({});
     if (const auto aside = ReadAside(line.All, known_.Names)) return SetAside(line, *aside, first);
     if (const auto at = FindBearing(line.All, known_.Names)) {
@@ -356,6 +357,7 @@ class TextReader {
   Speakers speakers_;
   bool inSignature_ = false;
   bool inPress_ = false;
+  bool inFooter_ = false;
   // Of the line that is being read.
   bool isMailHead_ = false;
   std::optional<Misgiving> thoughts_;  ///< second thoughts right above

@@ -69,7 +69,7 @@ bool Speaks(Tokens sentence, const PlaceNames& names, int power) {
   constexpr std::size_t few = 4;
   const bool reconsiders =
       sentence.size() <= few && Reconsiders(sentence) && !HoldsOrderWords(sentence, names);
-  if (TellsOfNothing(sentence)) return false;
+  if (TellsOfNothing(sentence) && !BearsOnOrders(sentence)) return false;
   if (IsOfOthers(sentence, names, power) || SpeaksOfElse(sentence, names)) return false;
   const bool isOfUnit = HoldsOrderWords(sentence, names) && NamesPlace(sentence, names);
   if (!isOfUnit && BearsOnOrders(sentence)) return true;

@@ -20,7 +20,7 @@ constexpr std::array SignalRows{
     SignalRow{
         Signal::Points,
         "these those them ones above line lines row others same last previous first second third "
-        "order orders list lists version two half some none more "
+        "order orders list lists version two half some none "
         "diese dieser dieses denen ihnen oben zeile zeilen anderen gleichen selben letzte letzten "
         "vorigen erste ersten zweite zweiten befehl befehle zug zuge "
         "ceux celles ceci dernier derniere derniers precedents premier premiere memes autres ligne "

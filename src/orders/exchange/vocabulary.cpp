@@ -290,6 +290,7 @@ constexpr std::array Uses{
              "protect protects block blocks blocking defend defends defence defense defensive "
              "guarding defending protecting supported selfstandoff against"},
     UseWords{WordUse::Plain,
+             "votes vote stimmen voix votos voti stemmen stemmer roster glosy "
              "both want better fine ok okay yes yep yeah you we us i am all hope hopefully it "
              "works fingers "
              "crossed of course obviously naturally fyi btw sure surely definitely certainly "
