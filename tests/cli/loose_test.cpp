@@ -70,7 +70,7 @@ TEST(Loose, PowerIsThatOfLinesThatNameNone) {
   EXPECT_EQ(shell.Run(resolve + "--power FRA").Out,
             "  FRA A(Par) - Bur  \n  FRA F(Bre) - MAO  \n  GER A(Mun) unordered; hold  \n");
   EXPECT_THAT(shell.Run(resolve + "--power FRA").Err,
-              HasSubstr("Warning: A Mun - Ruh the unit there is GER A(Mun)."));
+              HasSubstr("Warning: A Mun - Ruh doubtful: it is an order of GER."));
   EXPECT_EQ(shell.Run(resolve).Err, "") << "whose units they are";
 }
 
