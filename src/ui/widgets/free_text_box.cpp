@@ -37,7 +37,7 @@ QString fittingPart(const QString& text, qsizetype breaks) {
 /// What is said where the end of a text, of that length, did not fit; empty for a mere line break
 /// behind the last line.
 QString lineFault(const QString& text, qsizetype length) {
-  const QString bound =
+  QString bound =
       FreeTextBox::tr("A game keeps at most %1 lines of text.").arg(model::TextLineBound);
   const QString leftOut = text.right(length);
   if (leftOut == text && !text.isEmpty()) return bound;
