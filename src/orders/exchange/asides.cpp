@@ -92,6 +92,20 @@ std::optional<Aside> ReadTitle(Tokens line) {
   return std::nullopt;
 }
 
+/// How many words from here say "instead", and not instead of what; 0: none.
+std::size_t LengthOfInstead(Tokens words, std::size_t at) {
+  constexpr std::array<std::string_view, 4> single{"instead", "stattdessen", "istallet", "invece"};
+  constexpr std::array<std::string_view, 2> afterI{"stallet", "stedet"};
+  constexpr std::array<std::string_view, 4> of{"of", "for", "av", "di"};
+  const auto isOneOf = [&](const auto& list, std::size_t place) {
+    return place < words.size() && std::ranges::find(list, words[place].Text) != list.end();
+  };
+  const std::size_t length = isOneOf(single, at)                                 ? 1
+                             : IsWord(words[at], "i") && isOneOf(afterI, at + 1) ? 2
+                                                                                 : 0;
+  return isOneOf(of, at + length) ? 0 : length;
+}
+
 /// Whether words before a colon, or at the beginning of a line, name a correction: "Correction:",
 /// "My final orders:", "A small update to my moves:".
 bool IsTitleOfCorrection(Tokens line) {
@@ -305,8 +319,8 @@ std::optional<TokenRange> FindCorrection(Tokens words, bool isBefore) {
   const auto phrase = FindSaying(words, Saying::Corrects);
   if (phrase) return isBefore ? phrase : std::nullopt;
   for (std::size_t at = 0; at < words.size(); ++at) {
-    const bool isOf = at + 1 < words.size() && IsWord(words[at + 1], "of");
-    if (IsWord(words[at], "instead") && !isOf) return TokenRange{at, at + 1};
+    if (const std::size_t length = LengthOfInstead(words, at); length != 0)
+      return TokenRange{at, at + length};
   }
   return std::nullopt;
 }
@@ -317,10 +331,9 @@ bool Corrects(Tokens line) {
   const auto last = std::find_if(line.rbegin(), line.rend(), [](const Token& token) {
     return IsA(token, TokenKind::Word) && !HasUse(token, WordUse::Filler);
   });
-  constexpr std::array<std::string_view, 6> instead{"instead",  "stattdessen", "stallet",
-                                                    "istallet", "stedet",      "invece"};
-  const bool isInstead =
-      last != line.rend() && std::ranges::find(instead, last->Text) != instead.end();
+  const auto at = static_cast<std::size_t>(line.rend() - last);
+  const bool isInstead = (at > 0 && LengthOfInstead(line, at - 1) == 1) ||
+                         (at > 1 && LengthOfInstead(line, at - 2) == 2);
   if (isInstead && !MakesCondition(line)) return true;
   const auto phrase = FindSaying(line, Saying::Corrects);
   const bool isAsked = std::ranges::find(line, "?", &Token::Text) != line.end();

@@ -93,6 +93,19 @@ bool CountsLines(Tokens words) {
   return false;
 }
 
+/// "The last line", "la linea anterior".
+bool NamesLine(Tokens words) {
+  constexpr std::array<std::string_view, 11> nouns{
+      "line", "row", "zeile", "ligne", "linea", "riga", "linha", "regel", "linje", "rad", "wiersz"};
+  const auto points = [&](std::size_t at) {
+    return at < words.size() && Signs(words[at], Signal::Points) && !IsOneOf(words[at], nouns);
+  };
+  for (std::size_t at = 0; at < words.size(); ++at) {
+    if (IsOneOf(words[at], nouns) && ((at > 0 && points(at - 1)) || points(at + 1))) return true;
+  }
+  return false;
+}
+
 /// "Nothing else moves", but not "nothing moves".
 bool TellsOfOthers(Tokens words) {
   return TellsOfNothing(words) && words.size() > 2 && !IsWord(words[1], "moves");
@@ -159,7 +172,7 @@ bool BearsOnOrders(Tokens sentence, Unplaced unit) {
   if (signals.Has(Signal::Hints) && signals.Has(Signal::Says, Signal::Takes)) return true;
   if (signals.Has(Signal::Says) && (signals.Has(Signal::Denies) || count < few)) return true;
   if (signals.Has(Signal::Plans) && signals.Has(Signal::Hints, Signal::Points)) return true;
-  if (CountsLines(sentence)) return true;
+  if (CountsLines(sentence) || NamesLine(sentence)) return true;
   const bool isOfUnit =
       unit == Unplaced::Bears && std::ranges::any_of(sentence, [](const Token& token) {
         return UnitTypeOf(token) != 0 && token.Text.size() > 1;

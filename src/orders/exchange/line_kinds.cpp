@@ -331,4 +331,11 @@ bool IsNoOrder(Tokens tokens, const PlaceNames& names, bool inSignature) {
   return orders + places < Strong || (inSignature && orders == 0);
 }
 
+bool IsPlaceAlone(Tokens line, const PlaceNames& names) {
+  if (line.empty()) return false;
+  const auto places = names.At(line, 0);
+  // Several places have the name that some people have as well: "Noa".
+  return !places.empty() && places[0].Next == line.size() && places[0].Rows.size() == 1;
+}
+
 }  // namespace orb::exchange

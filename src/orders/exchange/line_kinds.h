@@ -44,4 +44,7 @@ bool HoldsOrderWords(Tokens tokens, const PlaceNames& names);
 /// hardly any, that orders are made of. `inSignature`: places alone make no order there.
 bool IsNoOrder(Tokens tokens, const PlaceNames& names, bool inSignature);
 
+/// Whether a line is the name of one place, which puts the order above right: "*nwg".
+bool IsPlaceAlone(Tokens line, const PlaceNames& names);
+
 }  // namespace orb::exchange

@@ -198,8 +198,8 @@ class TextReader {
 
   /// Notes what a line that was read, whose rows begin at `first`, says of the orders around it.
   void LookAround(const SourceLine& line, std::size_t first) {
-    if (!line.IsTooLong && Corrects(line.All)) rows_.Around.SetCorrects(first);
     const bool holdsOrders = rows_.HoldsOrders(first);
+    if (!line.IsTooLong && Corrects(line.All)) TakeCorrection(line, first, holdsOrders);
     if (struck_.Take(line.Plain.Text)) {
       rows_.Around.SetDoubtFrom(first, "it may be struck out", {line.Offset, line.Bytes.size()});
     }
@@ -244,7 +244,8 @@ class TextReader {
       rows_.Around.DoubtBlock(Quoted(said) + " may change it", {line.Offset, line.Bytes.size()});
     } else if (const auto at = ReadReservation(line.All, isBehindOrders)) {
       rows_.Around.DoubtBlock(Quoted(line.Part(*at)) + " may change it", line.Span(*at));
-    } else if (isBehindOrders && IsPlaceAlone(line)) {
+    } else if (isBehindOrders && !IsA(line.All[0], TokenKind::Dash) &&
+               IsPlaceAlone(said, known_.Names)) {
       rows_.Around.DoubtBlock(Quoted(line.All) + " may change it",
                               {line.Offset, line.Bytes.size()});
     } else if (!IsUnclear(rows_.Lines.back()) && !quotations_.IsQuoted() && LeadsOn(line.All)) {
@@ -255,6 +256,14 @@ class TextReader {
       rows_.Around.EntitleBlock(Quoted(said) + " is not understood",
                                 {line.Offset, line.Bytes.size()}, PowerIn(said));
     }
+  }
+
+  /// Builds name no unit twice: those of a correction may take the place of any above.
+  void TakeCorrection(const SourceLine& line, std::size_t first, bool holdsOrders) {
+    rows_.Around.SetCorrects(first);
+    const bool isOfBuilds = holdsOrders && known_.Stage == model::Stage::Adjustments;
+    if (!isOfBuilds || thoughts_) return;
+    thoughts_ = Misgiving{Quoted(line.All) + " may change it", {line.Offset, line.Bytes.size()}};
   }
 
   /// Second thoughts that stood alone are about the order below them; where there is none, about
@@ -282,17 +291,6 @@ class TextReader {
     if (!Corrects(title) && !(isOfOrders && isOwn)) return;
     quotations_.BeginOwn();
     rows_.Around.TakeHeading(PowerIn(title), Corrects(title), true, rows_.Lines);
-  }
-
-  /// "*nwg" below an order puts it right.
-  bool IsPlaceAlone(const SourceLine& line) const {
-    const Tokens tokens =
-        Tokens(line.All).subspan(speakers_.Past(line.All, PastLineStart(line.All), known_.Names));
-    const auto places = known_.Names.At(tokens, 0);
-    const bool goesOn = IsA(line.All[0], TokenKind::Dash);
-    // Several places have the name that some people have as well: "Noa".
-    return !goesOn && !places.empty() && places[0].Next == tokens.size() &&
-           places[0].Rows.size() == 1;
   }
 
   void LookAtSubject(const SourceLine& line, std::size_t first) {
