@@ -158,6 +158,9 @@ bool BearsOnOrders(Tokens sentence, Unplaced unit) {
   const bool asks = sentence.back().Text == "?";
   // "Okay?", "Right?"
   if (asks && (count < 3 || signals.Has(Signal::Points, Signal::Hints, Signal::Says))) return true;
+  const bool chooses = std::ranges::any_of(
+      sentence, [](const Token& token) { return HasUse(token, WordUse::Reservation); });
+  if (asks && chooses) return true;
   if (IsOfLetter(sentence) || Offers(sentence)) return false;
   if (FindSaying(sentence, Saying::Leaves)) return true;
   if (signals.Has(Signal::Rejects, Signal::Chooses)) return !IsCalm(sentence);
@@ -181,7 +184,9 @@ bool BearsOnOrders(Tokens sentence, Unplaced unit) {
   const Token& first = sentence[FirstWord(sentence)];
   const bool isUnfinished = IsWord(sentence[0], "to") && IsWord(sentence[1], "be");
   const bool isMore = IsWord(first, "more") && signals.Has(Signal::Later);
-  return isOfUnit || isUnfinished || isMore || Signs(first, Signal::Takes) ||
+  // "So would my brother play", but not "may the best one win".
+  const bool isOpen = signals.Has(Signal::Leaves) && !IsWord(first, "may");
+  return isOfUnit || isUnfinished || isOpen || isMore || Signs(first, Signal::Takes) ||
          Signs(first, Signal::Later) ||
          (Signs(first, Signal::Denies) && count < few && !IsCalm(sentence));
 }

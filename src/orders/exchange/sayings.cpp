@@ -229,7 +229,8 @@ constexpr std::array Rows{
         "spas beiseite|scherz beiseite|blague a part|bromas aparte|scherzi a parte|"
         "brincadeiras a parte|spog til side|zarty na bok|seriously now|no but seriously"},
     Row{Saying::Leaves,
-        "more or less|in another life|the real thing|your call|up to you|eyes only|comments "
+        "more or less|had better|d better|peut etre|tal vez|in another life|the real thing|your "
+        "call|up to you|eyes only|comments "
         "welcome|wie du willst|wie du "
         "magst|comme tu veux|"
         "comme vous voulez|como quieras|come vuoi|come volete|como quiseres|zoals je wilt|"

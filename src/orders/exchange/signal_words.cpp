@@ -50,7 +50,8 @@ constexpr std::array SignalRows{
         Signal::Leaves,
         "should shouldnt might may could would must supposed ought shall "
         "soll sollte sollten durfte darf muss konnte wurde "
-        "dois devrais devrait devrions pourrais pourrait debo deberia podria devo dovrei dovrebbe "
+        "peut dois devrais devrait devrions pourrais pourrait debo deberia podria devo dovrei "
+        "dovrebbe "
         "potrei devia deveria poderia moet mag zou skal burde bor borde ska powinien* moge mogl*"},
     SignalRow{
         Signal::Says,
@@ -93,6 +94,16 @@ constexpr std::array SignalRows{
         "forbade refuse* refusing allowed disallow* permitted permission veto* vetoed objects "
         "object* dreaming dreamt wishful fantasy imaginary archive debate discussion "
         "feedback opinion opinions advice approval approve* consent nods "
+        "test tests testing testmail testlauf preview trial prueba ensayo essai prova proba "
+        "scratch "
+        "delete deleted loschen losche loscht supprimer supprime supprimez borrar borra cancellare "
+        "apagar apaga verwijderen slet slett radera usun usunac roughly ungefahr approximately "
+        "environ ongeveer omtrent cirka maybe perhaps possibly probably presumably guess likely "
+        "vielleicht wahrscheinlich vermutlich womoglich eventuell probablement quiza quizas "
+        "probablemente talvez forse magari probabilmente provavelmente misschien waarschijnlijk "
+        "mogelijk maske kanskje sannsynligvis sandsynligvis kanske troligen formodligen moze chyba "
+        "prawdopodobnie ungern ausgenommen ausser sauf excepto eccetto behalve undtagen unntatt "
+        "utom oprocz jouerait "
         "accept* theor* permitting willing psych gotcha lie lies "
         "decide decides undecided dunno kidding joke joking joked jest pretend* imagine* "
         "suppose* assume* discard* cancel* withdraw* retract* reconsider* rethink* reviewed "
