@@ -331,6 +331,16 @@ bool IsNoOrder(Tokens tokens, const PlaceNames& names, bool inSignature) {
   return orders + places < Strong || (inSignature && orders == 0);
 }
 
+bool EndsLetter(std::string_view line) {
+  constexpr std::size_t shortest = 3;
+  return line == "--" ||
+         (line.size() >= shortest && line.find_first_not_of('_') == std::string_view::npos);
+}
+
+bool IsInQuotes(std::string_view line) {
+  return line.size() > 2 && line.front() == '"' && line.back() == '"';
+}
+
 bool IsPlaceAlone(Tokens line, const PlaceNames& names) {
   if (line.empty()) return false;
   const auto places = names.At(line, 0);

@@ -130,7 +130,7 @@ class TextReader {
     const bool hasWord = std::ranges::any_of(
         tokens, [](const Token& token) { return token.Kind == TokenKind::Word; });
     if (!hasWord) {
-      inSignature_ = inSignature_ || line.Plain.Text == "--";
+      inSignature_ = inSignature_ || EndsLetter(line.Plain.Text);
       rows_.AddLine(line, context_.Power, LineKind::PassedOver);
       return;
     }
@@ -218,7 +218,8 @@ class TextReader {
     if (isMailHead_) return LookAtSubject(line, first);
     constexpr std::size_t shortest = 8;
     inFooter_ = inFooter_ || (IsFooter(line.All) && rows_.HoldsOrders(0));
-    if (inFooter_ && line.All.size() > shortest) {
+    if ((inFooter_ && line.All.size() > shortest) ||
+        (inSignature_ && IsInQuotes(line.Plain.Text))) {
       rows_.PassOver(first);
       return rows_.Around.SetAbout({});
     }
