@@ -118,9 +118,10 @@ void PowerCell::paintInitial(QPainter& painter, const QRectF& place) const {
 void PowerCell::paintFigure(QPainter& painter, const QRectF& place) const {
   QFont fitting = font();
   const double wanted = fontMetrics().horizontalAdvance(m_figure);
-  if (wanted > place.width())
+  if (wanted > place.width()) {
     fitting.setPixelSize(
         std::max(1, static_cast<int>(QFontInfo(font()).pixelSize() * place.width() / wanted)));
+  }
   painter.setFont(fitting);
   const bool idle = m_standing.InOneWord() == Standing::Idle;
   painter.setPen(idle ? faintColour(palette()) : palette().color(QPalette::Text));

@@ -81,9 +81,11 @@ void SeasonFiles::order() {
   const Moment present = history::MomentOf(m_desk.game());
   const auto names = [](const std::vector<Moment>& moments) {
     std::vector<std::pair<fs::path, std::string>> all;
-    for (const Moment& moment : moments)
+    all.reserve(moments.size());
+    for (const Moment& moment : moments) {
       all.emplace_back(moment.File, moment.Season + std::to_string(moment.Year) +
                                         std::to_string(static_cast<int>(moment.Stage)));
+    }
     return all;
   };
   const auto before = names(m_moments);
