@@ -89,15 +89,19 @@ void AddGain(const SourceLine& line, const KnownGame& known, Context context, Ga
 }  // namespace
 
 std::size_t JoinParagraph(const std::deque<SourceLine>& text, std::size_t first,
-                          const KnownGame& known, const Context& context, SourceLine& joined) {
+                          const KnownGame& known, const Context& context, int& tries,
+                          SourceLine& joined) {
   constexpr std::size_t longest = 8;
+  // More than any letter needs, and few enough for texts that are made to take long.
+  constexpr int most = 500;
   std::size_t count = 1;
   std::size_t size = text[first].Bytes.size();
   while (count < longest && first + count < text.size() &&
          MayGoOn(text[first + count - 1], text[first + count])) {
     size += 1 + text[first + count++].Bytes.size();
   }
-  if (count == 1 || size > LineBound) return 1;
+  if (count == 1 || size > LineBound || tries == most) return 1;
+  ++tries;
   Gain single;
   bool areWhole = true;
   for (std::size_t i = 0; i < count; ++i) {

@@ -12,8 +12,9 @@ namespace orb::exchange {
 
 /// How many lines from one on are a paragraph that gives more as a whole, which is put into
 /// `joined` with the number of its first line, than line by line; 1, and nothing to be used, where
-/// it does not.
+/// it does not. `tries` counts for a text how often that was looked at, since it takes long.
 std::size_t JoinParagraph(const std::deque<SourceLine>& text, std::size_t first,
-                          const KnownGame& known, const Context& context, SourceLine& joined);
+                          const KnownGame& known, const Context& context, int& tries,
+                          SourceLine& joined);
 
 }  // namespace orb::exchange

@@ -50,10 +50,11 @@ class TextReader {
     LearnTypeLetters(text, known_);
     for (const SourceLine& line : text)
       speakers_.Take(line.All, PastLineStart(line.All), known_.Names);
+    int tries = 0;
     for (std::size_t at = 0; at < text.size();) {
       if (text[at].Bytes == TextSeparator) StartAnew();
       SourceLine joined;
-      const std::size_t count = JoinParagraph(text, at, known_, context_, joined);
+      const std::size_t count = JoinParagraph(text, at, known_, context_, tries, joined);
       Take(count > 1 ? joined : text[at]);
       for (std::size_t i = 1; i < count; ++i)
         rows_.AddLine(text[at + i], context_.Power, LineKind::PassedOver);
