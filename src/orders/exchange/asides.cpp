@@ -151,11 +151,25 @@ bool IsShrug(Tokens line) {
   return !orders && FindSaying(line, Saying::Shrugs);
 }
 
+/// "Ignore the following", but not "Revised orders, ignore those below", which are older ones.
+bool PointsBelow(Tokens line) {
+  constexpr std::array<std::string_view, 14> below{
+      "below",    "following",  "follows",  "beneath",      "unten",    "folgenden", "folgende",
+      "suivants", "siguientes", "seguenti", "onderstaande", "nedenfor", "nedan",     "ponizsze"};
+  const bool isRevised = std::ranges::any_of(line, [](const Token& token) {
+    return HasUse(token, WordUse::Definite, WordUse::Correction);
+  });
+  return !isRevised && std::ranges::any_of(line, [&](const Token& token) {
+    return std::ranges::find(below, token.Text) != below.end();
+  });
+}
+
 /// What one sentence sets aside.
 std::optional<Aside> ReadSentence(Tokens line) {
   const auto words = std::ranges::count(line, TokenKind::Word, &Token::Kind);
   if (words == 0) return std::nullopt;
-  if (const auto at = FindSaying(line, Saying::Revokes)) return Aside{AsideScope::Above, *at};
+  if (const auto at = FindSaying(line, Saying::Revokes))
+    return Aside{PointsBelow(line) ? AsideScope::Below : AsideScope::Above, *at};
   if (const auto at = FindSaying(line, Saying::Postpones))
     return Aside{AsideScope::AboveElseBelow, *at};
   const auto asks = IsOffer(line) ? std::nullopt : FindSaying(line, Saying::Asks);
@@ -163,8 +177,8 @@ std::optional<Aside> ReadSentence(Tokens line) {
   if (DoubtsOrders(line)) return Aside{AsideScope::Above, {0, line.size()}};
   constexpr std::ptrdiff_t longestTitle = 4;
   const auto title = words <= longestTitle ? FindSaying(line, Saying::Titles) : std::nullopt;
-  // "Draft!" behind orders speaks of them.
-  const bool isClosed = IsA(line.back(), TokenKind::Dot);
+  // "Draft!" and "(draft)" behind orders speak of them.
+  const bool isClosed = IsA(line.back(), TokenKind::Dot) || IsA(line.back(), TokenKind::Close);
   const auto scope = isClosed ? AsideScope::AboveElseBelow : AsideScope::Below;
   return title ? std::optional(Aside{scope, *title}) : std::nullopt;
 }
@@ -221,7 +235,18 @@ bool IsUnreal(Tokens words) {
 }
 
 bool IsOwnTitle(Tokens line) {
-  return std::ranges::any_of(line, [](const Token& token) {
+  // "My ally proposes:", "My predecessor's orders:".
+  constexpr std::array<std::string_view, 36> others{
+      "says",      "said",     "tells",   "told",     "proposes",    "wants",
+      "wanted",    "asks",     "asked",   "claims",   "insists",     "thinks",
+      "reckons",   "suggests", "demands", "sagt",     "sagte",       "propone",
+      "zegt",      "siger",    "sager",   "mowi",     "ally",        "allies",
+      "neighbour", "neighbor", "friend",  "opponent", "predecessor", "brother",
+      "vorganger", "allie",    "aliado",  "alleato",  "verbundeter", "bondgenoot"};
+  const bool isOthers = std::ranges::any_of(line, [&](const Token& token) {
+    return std::ranges::find(others, token.Text) != others.end();
+  });
+  return !isOthers && std::ranges::any_of(line, [](const Token& token) {
     return HasUse(token, WordUse::Own, WordUse::Orders, WordUse::Season);
   });
 }

@@ -341,6 +341,10 @@ bool IsInQuotes(std::string_view line) {
   return line.size() > 2 && line.front() == '"' && line.back() == '"';
 }
 
+bool IsSubstitution(std::string_view line) {
+  return line.starts_with("s/") && std::ranges::count(line, '/') > 1;
+}
+
 bool IsPlaceAlone(Tokens line, const PlaceNames& names) {
   if (line.empty()) return false;
   const auto places = names.At(line, 0);

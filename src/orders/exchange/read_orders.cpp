@@ -240,14 +240,15 @@ class TextReader {
         (isBehindOrders && (isBrief || NamesOtherPlaces(line.All, rows_.Lines, known_)));
     const Tokens said =
         Tokens(line.All).subspan(speakers_.Past(line.All, PastLineStart(line.All), known_.Names));
-    if (isBehindOrders && IsSecondThought(said)) {
+    if (rows_.HoldsOrders(0) && IsSecondThought(said)) {
       thoughts_ = Misgiving{Quoted(said) + " may change it", {line.Offset, line.Bytes.size()}};
     } else if (isOfAbove && Reconsiders(said)) {
       rows_.Around.DoubtBlock(Quoted(said) + " may change it", {line.Offset, line.Bytes.size()});
     } else if (const auto at = ReadReservation(line.All, isBehindOrders)) {
       rows_.Around.DoubtBlock(Quoted(line.Part(*at)) + " may change it", line.Span(*at));
-    } else if (isBehindOrders && !IsA(line.All[0], TokenKind::Dash) &&
-               IsPlaceAlone(said, known_.Names)) {
+    } else if (IsSubstitution(line.Plain.Text) ||
+               (isBehindOrders && !IsA(line.All[0], TokenKind::Dash) &&
+                IsPlaceAlone(said, known_.Names))) {
       rows_.Around.DoubtBlock(Quoted(line.All) + " may change it",
                               {line.Offset, line.Bytes.size()});
     } else if (!IsUnclear(rows_.Lines.back()) && !quotations_.IsQuoted() && LeadsOn(line.All)) {

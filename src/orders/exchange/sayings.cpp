@@ -21,7 +21,9 @@ struct Row {
 constexpr std::array Rows{
     Row{Saying::Revokes,
         "=as if|=no chance|=but i wont|=i wont|=yeah right|=in his dreams|=in your dreams|swap|"
-        "dont want that|dont want this|kidding|joking|a joke|changed my "
+        "dont want that|dont want this|kidding|joking|a joke|jk|jks|psych|sike|nope|"
+        "by mistake|by accident|accidentally|everything holds|all units hold|all my units hold|"
+        "changed my "
         "mind|ignore|disregard|cancel|cancelled|"
         "canceled|scrap|scratch that|forget that|forget these|forget those|forget the|"
         "forget my|forget what|forget about|nevermind|never mind|withdrawn|i withdraw|"
@@ -47,6 +49,11 @@ constexpr std::array Rows{
         "apart from the army|apart from the last|apart from the first|swap the|swap them|"
         "swap these|s own words|his idea not|her idea not"},
     Row{Saying::Revokes,
+        "alles halt|alle einheiten halten|aus versehen|versehentlich|par erreur|por error|per "
+        "errore|"
+        "per sbaglio|por engano|per vergissing|ved en fejl|av misstag|przez pomylke|era "
+        "broma|scherzo|"
+        "toutes les unites tiennent|todas las unidades mantienen|tutte le unita tengono|"
         "ungultig|nicht mehr gultig|gilt nicht|gelten nicht|vergiss|vergesst|"
         "vergessen sie|nur spas|war spas|ein scherz|scherz|war ein witz|ein witz|nicht ernst|"
         "ziehe zuruck|nehme zuruck|zuruckgezogen|zuruckziehen|streich|streiche|"
@@ -72,7 +79,8 @@ constexpr std::array Rows{
         "felejtsd*|ervenytelen|zertoval*|zapomen*|zrus*|neplati|shutka|shutil*|zabud*|"
         "otmen*|xechna|ksechna|plaka kano|astei*"},
     Row{Saying::Postpones,
-        "ideal world|perfect world|in theory|ideally|one day|some day|eventually|"
+        "ideal world|perfect world|50 / 50|fifty fifty|in theory|ideally|one day|some "
+        "day|eventually|"
         "in my dreams|well see|who knows|in this order|in order of|as far "
         "as|preference|preferences|=let me know|=ask "
         "first|=check|=verify|1st choice|2nd "
