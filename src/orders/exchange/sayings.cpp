@@ -191,6 +191,28 @@ constexpr std::array Rows{
         "co o tym|co ty na to|mit szolsz|co na to|mita mielta|how about this|"
         "how about these|how about that|a better idea|is that a good idea|should i rather|"
         "should i instead"},
+    Row{Saying::Postpones,
+        "hold on a|gimme a|give me a minute|einen moment noch|un momento mas|ein moment noch|other "
+        "league|"
+        "wishlist|wish list|wunschzettel|wunschliste|nicht meine|nicht von mir|pas de moi|no son "
+        "mios|"
+        "no son mias|non sono miei|niet van mij|inte mina|nie moje|auf anfang|kommando zuruck|"
+        "anderungen folgen|kann sich andern|konnen sich andern|andert sich noch|finalement non|a "
+        "revoir|"
+        "envies esto|mandes esto|aguarde|aguardem|niet invoeren|nog niet|vent pa|resend|ill redo|"
+        "=just in case|=for now|=at least for now|=for the time being|=fur den moment|=vorerst|"
+        "=pour linstant|=por ahora|=per ora|=por enquanto|=voorlopig|=tills vidare|hasnt answered|"
+        "havent answered|hasnt replied|no answer yet|waiting for|warte auf|attends une|esperando a|"
+        "aspetto la|aspetto una|wachten op|venter pa|vantar pa|czekam na|haha as if|hahaha as if|"
+        "lol as if|in your dreams|messing with|pulling your leg|winding you up|show this to|"
+        "forwarding this|what he sent|what she sent|what they sent|sent me above|=as in 1901|"
+        "no longer france|any more|is played by|takes over|took over|one back|nothing of this|"
+        "work in progress|wip|todo|=to do|finish this later|finish later|rest later|rest follows|"
+        "rest to follow|check again|ruf mich|rufe mich|appelle moi|appelez "
+        "moi|llamame|chiamami|bel me|"
+        "bel mij|ring mig|ring meg|zadzwon|appelle moi avant|tom geschrieben|doch alles "
+        "anders|doch ganz anders|hacked|wasnt me|was not me|cat sent|a mistake in|"
+        "mistake above|fehler drin"},
     Row{Saying::Titles,
         "plan a|plan b|plan c|plan 1|plan 2|option a|option b|option 1|option 2|option one|"
         "option two|set a|set b|set 1|set 2|variant*|moglichkeit*|opcion*|opzion*|opcao|opcoes|"
