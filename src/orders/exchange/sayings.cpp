@@ -192,6 +192,15 @@ constexpr std::array Rows{
         "how about these|how about that|a better idea|is that a good idea|should i rather|"
         "should i instead"},
     Row{Saying::Postpones,
+        "if theyre ok|better double|copied this|dictated by|orders for me|long as|valid until|"
+        "valid till|expires|right to change|right to amend|right to alter|co player|my partner|"
+        "still arguing|deal fell|deal is off|deals off|no deal|backed out|scrapping|=trash|silly "
+        "me|"
+        "will review|under review|rough cut|rough idea|=sketch|brainstorm*|=for fun|=for laughs|"
+        "press only|for the press|not for the gm|wrong recipient|wrong person|unsent|out of date|"
+        "=stale|=expired|old mail|my drafts|from drafts|saved draft|=template|a template|fill in "
+        "later|"
+        "=nvm|=nm|=n / m|=stop|=halt|"
         "hold on a|gimme a|give me a minute|einen moment noch|un momento mas|ein moment noch|other "
         "league|"
         "wishlist|wish list|wunschzettel|wunschliste|nicht meine|nicht von mir|pas de moi|no son "
