@@ -168,8 +168,16 @@ bool PointsBelow(Tokens line) {
 std::optional<Aside> ReadSentence(Tokens line) {
   const auto words = std::ranges::count(line, TokenKind::Word, &Token::Kind);
   if (words == 0) return std::nullopt;
-  if (const auto at = FindSaying(line, Saying::Revokes))
+  if (const auto at = FindSaying(line, Saying::Revokes)) {
+    // "Ignore these" may stand above them, "scratch that" is of another mail there.
+    constexpr std::array<std::string_view, 9> early{"ignore",   "disregard",  "cancelled",
+                                                    "canceled", "void",       "withdrawn",
+                                                    "ungultig", "ignorieren", "annule"};
+    const bool isEarly =
+        words <= 2 && std::ranges::find(early, line[at->Begin].Text) != early.end();
+    if (isEarly) return Aside{AsideScope::AboveElseBelow, *at};
     return Aside{PointsBelow(line) ? AsideScope::Below : AsideScope::Above, *at};
+  }
   if (const auto at = FindSaying(line, Saying::Postpones))
     return Aside{AsideScope::AboveElseBelow, *at};
   const auto asks = IsOffer(line) ? std::nullopt : FindSaying(line, Saying::Asks);

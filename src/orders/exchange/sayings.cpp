@@ -192,7 +192,11 @@ constexpr std::array Rows{
         "how about these|how about that|a better idea|is that a good idea|should i rather|"
         "should i instead"},
     Row{Saying::Postpones,
-        "if theyre ok|better double|copied this|dictated by|orders for me|long as|valid until|"
+        "wants me to|got this from|sent me the|toying with|thinks ill|thinks i will|to show|lie to|"
+        "rumour has|rumor has|i dreamt|i dreamed|ce que veut|lo que quiere|quello che vuole|o que "
+        "quer|no definitivo|"
+        "no definitivas|in spring i did|in autumn i did|in fall i did|if theyre ok|better "
+        "double|copied this|dictated by|orders for me|long as|valid until|"
         "valid till|expires|right to change|right to amend|right to alter|co player|my partner|"
         "still arguing|deal fell|deal is off|deals off|no deal|backed out|scrapping|=trash|silly "
         "me|"
@@ -223,6 +227,8 @@ constexpr std::array Rows{
         "anders|doch ganz anders|hacked|wasnt me|was not me|cat sent|a mistake in|"
         "mistake above|fehler drin"},
     Row{Saying::Titles,
+        "fantasy|fantasy orders|decoy|press release|standing orders|testing|format|right "
+        "format|like so|"
         "plan a|plan b|plan c|plan 1|plan 2|option a|option b|option 1|option 2|option one|"
         "option two|set a|set b|set 1|set 2|variant*|moglichkeit*|opcion*|opzion*|opcao|opcoes|"
         "optie|opties|wariant*|vaihtoehto*|draft|drafts|example|examples|sample|samples|proposal|"
