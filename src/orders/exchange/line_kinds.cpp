@@ -341,8 +341,10 @@ bool IsInQuotes(std::string_view line) {
   return line.size() > 2 && line.front() == '"' && line.back() == '"';
 }
 
-bool IsSubstitution(std::string_view line) {
-  return line.starts_with("s/") && std::ranges::count(line, '/') > 1;
+bool IsSignOfDoubt(std::string_view line) {
+  const bool asks =
+      line.find_first_not_of("?! ") == std::string_view::npos && std::ranges::count(line, '?') > 1;
+  return asks || (line.starts_with("s/") && std::ranges::count(line, '/') > 1);
 }
 
 bool IsPlaceAlone(Tokens line, const PlaceNames& names) {

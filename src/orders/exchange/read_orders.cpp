@@ -246,7 +246,7 @@ class TextReader {
       rows_.Around.DoubtBlock(Quoted(said) + " may change it", {line.Offset, line.Bytes.size()});
     } else if (const auto at = ReadReservation(line.All, isBehindOrders)) {
       rows_.Around.DoubtBlock(Quoted(line.Part(*at)) + " may change it", line.Span(*at));
-    } else if (IsSubstitution(line.Plain.Text) ||
+    } else if (IsSignOfDoubt(line.Plain.Text) ||
                (isBehindOrders && !IsA(line.All[0], TokenKind::Dash) &&
                 IsPlaceAlone(said, known_.Names))) {
       rows_.Around.DoubtBlock(Quoted(line.All) + " may change it",

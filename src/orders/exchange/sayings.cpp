@@ -204,7 +204,7 @@ constexpr std::array Rows{
         "press only|for the press|not for the gm|wrong recipient|wrong person|unsent|out of date|"
         "=stale|=expired|old mail|my drafts|from drafts|saved draft|=template|a template|fill in "
         "later|"
-        "=nvm|=nm|=n / m|=stop|=halt|"
+        "=nvm|=nm|=n / m|=stop|=halt|=remove these|=drop these|=kill these|=delete these|"
         "hold on a|gimme a|give me a minute|einen moment noch|un momento mas|ein moment noch|other "
         "league|"
         "wishlist|wish list|wunschzettel|wunschliste|nicht meine|nicht von mir|pas de moi|no son "
