@@ -182,7 +182,8 @@ bool BearsOnOrders(Tokens sentence, Unplaced unit) {
       });
   if (count > brief) return false;
   const Token& first = sentence[FirstWord(sentence)];
-  const bool isUnfinished = IsWord(sentence[0], "to") && IsWord(sentence[1], "be");
+  const bool isUnfinished =
+      sentence.size() > 1 && IsWord(sentence[0], "to") && IsWord(sentence[1], "be");
   const bool isMore = IsWord(first, "more") && signals.Has(Signal::Later);
   // "So would my brother play", but not "may the best one win".
   const bool isOpen = signals.Has(Signal::Leaves) && !IsWord(first, "may");
