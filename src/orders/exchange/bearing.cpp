@@ -49,11 +49,47 @@ bool IsOfFooter(const Token& token) {
 /// Closings of letters, what programs write below them, and offers of help: "Take care", "Sent from
 /// my phone", "If anything is unclear".
 bool IsOfLetter(Tokens words) {
+  constexpr std::array<std::string_view, 4> polish{"zobaczenia", "widzenia", "jutra", "uslyszenia"};
+  if (words.size() > 1 && IsWord(words[0], "do") && IsOneOf(words[1], polish)) return true;
   if (std::ranges::any_of(words, IsOfFooter)) return true;
   if (words.size() > 1 && IsWord(words[0], "take") &&
       (IsWord(words[1], "care") || IsWord(words.back(), "easy")))
     return true;
   return words.size() > 2 && IsWord(words[0], "all") && IsWord(words[1], "the");
+}
+
+/// "How is your mother?", "Wie geht's?".
+bool AsksAfterHealth(Tokens words) {
+  constexpr std::array<std::array<std::string_view, 2>, 20> openings{
+      {{"how", "are"},     {"how", "is"},      {"hows", ""},         {"wie", "geht"},
+       {"comment", "va"},  {"comment", "vas"}, {"comment", "allez"}, {"ca", "va"},
+       {"como", "estas"},  {"como", "esta"},   {"como", "vai"},      {"come", "stai"},
+       {"come", "va"},     {"come", "sta"},    {"hoe", "gaat"},      {"hoe", "is"},
+       {"hvordan", "gar"}, {"hvordan", "har"}, {"hur", "mar"},       {"jak", "sie"}}};
+  for (std::size_t at = 0; at < words.size(); ++at) {
+    for (const auto& [first, second] : openings) {
+      if (!IsWord(words[at], first)) continue;
+      if (second.empty()) return true;
+      if (at + 1 == words.size() || !IsWord(words[at + 1], second)) continue;
+      // "How is this?" asks about the orders.
+      const bool points =
+          second == "is" && at + 2 < words.size() &&
+          (Signs(words[at + 2], Signal::Hints) || Signs(words[at + 2], Signal::Points));
+      if (!points) return true;
+    }
+  }
+  return false;
+}
+
+/// "Sorry if it's crooked", "excuse the typing".
+bool Apologizes(Tokens words) {
+  constexpr std::array<std::string_view, 6> pleas{"sorry",   "apologies", "excuse",
+                                                  "forgive", "pardon",    "desole"};
+  constexpr std::array<std::string_view, 4> matters{"if", "for", "about", "the"};
+  for (std::size_t at = 0; at + 1 < words.size(); ++at) {
+    if (IsOneOf(words[at], pleas) && IsOneOf(words[at + 1], matters)) return true;
+  }
+  return false;
 }
 
 /// "If anything is wrong, call me" offers, "this is wrong" does not.
@@ -156,6 +192,8 @@ bool BearsOnOrders(Tokens sentence, Unplaced unit) {
   if (count == 0 || IsSecondThought(sentence) || TellsOfOthers(sentence)) return false;
   const Signals signals(sentence);
   const bool asks = sentence.back().Text == "?";
+  if (asks && AsksAfterHealth(sentence)) return false;
+  if (Apologizes(sentence) && !signals.Has(Signal::Points, Signal::Takes)) return false;
   // "Okay?", "Right?"
   if (asks && (count < 3 || signals.Has(Signal::Points, Signal::Hints, Signal::Says))) return true;
   const bool chooses = std::ranges::any_of(

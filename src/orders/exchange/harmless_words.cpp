@@ -9,6 +9,7 @@
 #include <array>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace orb::exchange {
@@ -35,7 +36,30 @@ constexpr std::string_view PlainPhrases =
     "hasta luego|hasta pronto|a presto|ate logo|tot straks|vi ses|na razie|talk soon|"
     "take care|have fun|have a good one|enjoy the show|well played|all fixed|as ever|"
     "as always|as every year|wie immer|comme toujours|como siempre|come sempre|como sempre|"
-    "zoals altijd|som altid|som alltid|jak zawsze";
+    "zoals altijd|som altid|som alltid|jak zawsze|no worries|as everybody does|as everyone does|"
+    "expecting a bounce|is arranged|its arranged|with ~|mit ~|avec ~|con ~|met ~|med ~|"
+    "do zobaczenia|do widzenia|do jutra|do uslyszenia";
+
+/// Names of slips of the pen, in the languages of the verbs.
+constexpr std::string_view SlipWords =
+    "typo typos mistake oops whoops misread mistyped wrong slip tippfehler irrtum fehler "
+    "vertippt verlesen verschrieben falsche ups erreur faute trompe coquille sbagliato "
+    "errore equivoque equivocado error errata engano enganei erro foutje vergist verkeerde "
+    "tikfout fejl feil forkert tastefejl skrivefeil fel skrivfel pomylka pomylilem "
+    "pomylilam literowka blad autocorrect";
+
+/// What may stand beside them: excuses, pronouns, the lines and maps that were misread.
+constexpr std::string_view BesideSlips =
+    "no nope nein non nee nej nei nie sorry scusate scusa desole desolee perdon desculpa "
+    "undskyld unnskyld forlat beklager ursakta przepraszam verzeihung pardon "
+    "entschuldigung my mine mein mea culpa a i ich je me mi ho sono ik jeg jag im ive was "
+    "is it its that thats in the on of de di e line row zeile riga ligne linea linha regel "
+    "linje rad map karte carte mappa mapa kaart frappe read made wrote bad en";
+
+std::unordered_set<std::string_view> SetOf(std::string_view words) {
+  const auto parts = Parts(words, ' ');
+  return {parts.begin(), parts.end()};
+}
 
 /// The tokens that a phrase takes from here, or 0.
 std::size_t LengthOfOne(Tokens tokens, std::size_t at, const std::vector<std::string_view>& phrase,
@@ -121,6 +145,16 @@ std::size_t LengthOfPlainPhrase(Tokens tokens, std::size_t at, const PlaceNames&
   tryAll(tokens[at].Text);
   if (tokens[at].Capital) tryAll("~");
   return longest;
+}
+
+bool ExcusesSlip(Tokens words) {
+  static const std::unordered_set<std::string_view> slips = SetOf(SlipWords);
+  static const std::unordered_set<std::string_view> besides = SetOf(BesideSlips);
+  const auto isSlip = [](const Token& token) { return slips.contains(token.Text); };
+  return std::ranges::any_of(words, isSlip) && std::ranges::all_of(words, [&](const Token& token) {
+           if (!IsA(token, TokenKind::Word)) return token.Text != "?";
+           return isSlip(token) || besides.contains(token.Text) || HasUse(token, WordUse::Filler);
+         });
 }
 
 bool IsReason(Tokens words, const PlaceNames& names) {

@@ -17,4 +17,8 @@ bool IsReason(Tokens words, const PlaceNames& names);
 /// Whether a word may be a person's name: it has a capital letter and no meaning here.
 bool IsPersonAt(Tokens tokens, std::size_t at, const PlaceNames& names);
 
+/// Whether words are nothing but an excuse for a slip of the pen: "no, typo, it's", "sorry, wrong
+/// line".
+bool ExcusesSlip(Tokens words);
+
 }  // namespace orb::exchange

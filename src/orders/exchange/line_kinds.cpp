@@ -203,6 +203,16 @@ bool IsTypeOfMany(const Token& token) {
   return IsA(token, TokenKind::Word) && std::ranges::find(types, token.Text) != types.end();
 }
 
+bool IsPressWord(const Token& token) {
+  constexpr std::array<std::string_view, 8> titles{"press",  "presse", "pers",     "prensa",
+                                                   "stampa", "prasa",  "imprensa", "pressen"};
+  return std::ranges::find(titles, token.Text) != titles.end();
+}
+
+bool IsColonToken(const Token& token) {
+  return token.Kind == TokenKind::Colon;
+}
+
 }  // namespace
 
 bool NamesPlace(Tokens tokens, const PlaceNames& names) {
@@ -277,10 +287,17 @@ bool IsOrderAlone(Tokens tokens, const Heading& heading, model::Stage stage) {
 }
 
 bool IsPressTitle(Tokens tokens) {
-  constexpr std::array<std::string_view, 8> titles{"press",  "presse", "pers",     "prensa",
-                                                   "stampa", "prasa",  "imprensa", "pressen"};
+  return CountWords(tokens) == 1 && IsPressWord(*std::ranges::find_if(tokens, IsWordToken));
+}
+
+bool IsPressLine(Tokens tokens) {
   const auto first = std::ranges::find_if(tokens, IsWordToken);
-  return CountWords(tokens) == 1 && std::ranges::find(titles, first->Text) != titles.end();
+  if (first == tokens.end() || !IsPressWord(*first)) return false;
+  const auto colon = std::find_if(first, tokens.end(), IsColonToken);
+  const bool namesUnit = std::any_of(first, colon, [](const Token& token) {
+    return UnitTypeOf(token) != 0 || HasUse(token, WordUse::Orders);
+  });
+  return colon != tokens.end() && colon + 1 != tokens.end() && !namesUnit;
 }
 
 std::size_t PastLineStart(Tokens tokens) {

@@ -30,6 +30,9 @@ bool IsOrderAlone(Tokens tokens, const Heading& heading, model::Stage stage);
 /// Whether a line is the title of a part that players write to each other, "PRESS:".
 bool IsPressTitle(Tokens tokens);
 
+/// Whether a line is press as a whole, "PRESS Rome to Paris: don't look behind you."
+bool IsPressLine(Tokens tokens);
+
 /// Behind the marks that begin a line in mails and lists: "> ", "- ", "1.", "(2)", "a)", "[10:15]",
 /// "<name>"; what comes before belongs to none of its orders.
 std::size_t PastLineStart(Tokens tokens);

@@ -13,8 +13,12 @@ inline constexpr std::array<std::string_view, 26> InWords{
     "the", "presently", "currently", "now",   "stationed", "based", "von", "aus",  "di",
     "da",  "du",        "del",       "della", "dello",     "de",    "i",   "en"};
 /// The same, right behind a type.
-inline constexpr std::array TypeInWords{"a"sv, "em"sv, "no"sv, "na"sv,
-                                        "w"sv, "u"sv,  "do"sv, "dans"sv};
+inline constexpr std::array TypeInWords{"a"sv,  "em"sv,   "no"sv,  "na"sv,  "w"sv,     "u"sv,
+                                        "do"sv, "dans"sv, "im"sv,  "nel"sv, "nella"sv, "nello"sv,
+                                        "al"sv, "au"sv,   "ved"sv, "we"sv};
+inline constexpr std::array AllWords{"all"sv,       "alle"sv,  "tous"sv,  "toutes"sv, "tutti"sv,
+                                     "tutte"sv,     "todos"sv, "todas"sv, "both"sv,   "allemaal"sv,
+                                     "wszystkie"sv, "each"sv,  "beide"sv};
 inline constexpr std::array ViaWords{"via"sv,  "by"sv,    "using"sv, "with"sv, "through"sv,
                                      "par"sv,  "over"sv,  "mit"sv,   "met"sv,  "med"sv,
                                      "door"sv, "przez"sv, "per"sv,   "com"sv};

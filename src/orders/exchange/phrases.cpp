@@ -186,6 +186,12 @@ std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
   if (const std::size_t next = ToVerb(at); IsReflexive(next)) at = next + 1;
   // "Back to Warsaw".
   const std::size_t tail = ToVerb(at);
+  // "A Vie, A Bud all hold".
+  if (const std::size_t next = ToVerb(tail + 1);
+      tail < tokens_.size() && IsOneOf(tokens_[tail], AllWords) && next < tokens_.size() &&
+      VerbOf(tokens_[next]) == Verb::Hold) {
+    at = tail + 1;
+  }
   const bool isBeforeTo = tail + 1 < tokens_.size() && IsOneOf(tokens_[tail], MoveTails) &&
                           VerbOf(tokens_[tail]) == Verb::None &&
                           VerbOf(tokens_[tail + 1]) == Verb::Move;

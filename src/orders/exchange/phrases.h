@@ -89,6 +89,7 @@ class Phrases {
   void AddCoasts(const PlaceMatch& match, std::size_t at, Read<WrittenPlace>& places) const;
   void AddGluedCoast(std::size_t at, Read<WrittenPlace>& places) const;
   void AddLeadingCoast(std::size_t at, Read<WrittenPlace>& places) const;
+  void AddExplained(std::size_t at, Read<WrittenPlace>& places) const;
   std::size_t PastEcho(PlaceMatch& match) const;
   std::size_t PastArticle(std::size_t at) const;
   bool IsCoastNoun(std::size_t at) const;

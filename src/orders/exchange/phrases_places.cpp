@@ -108,6 +108,25 @@ std::size_t Phrases::PastEcho(PlaceMatch& match) const {
   return 0;
 }
 
+/// "Midt-Atlanteren (MAO)": behind a name that is not known, the place in brackets.
+void Phrases::AddExplained(std::size_t at, Read<WrittenPlace>& places) const {
+  constexpr std::size_t longest = 3;  // words and hyphens of the name
+  std::size_t open = at;
+  while (open < std::min(at + longest, tokens_.size()) && !Is(open, TokenKind::Open)) {
+    const bool isHyphen = Is(open, TokenKind::Dash) && tokens_[open].Glued;
+    const bool isName = Is(open, TokenKind::Word) && VerbOf(tokens_[open]) == Verb::None &&
+                        tokens_[open].Means.Uses == 0 && UnitTypeOf(tokens_[open]) == 0;
+    if (!isHyphen && !isName) return;
+    ++open;
+  }
+  if (open == at || !Is(open, TokenKind::Open) || !tokens_[at].Capital) return;
+  for (const PlaceMatch& match : names_.At(tokens_, open + 1)) {
+    if (!match.IsExact || match.Rows.size() != 1 || !Is(match.Next, TokenKind::Close)) continue;
+    places.push_back({{match.Rows, {at, open}}, match.Next + 1});
+    return;
+  }
+}
+
 /// Behind an article before a place, "para o Piemonte", "naar het Kanaal"; right behind the verb
 /// alone, since "o" is "or" as well.
 std::size_t Phrases::PastArticle(std::size_t at) const {
@@ -155,6 +174,7 @@ Phrases::Read<WrittenPlace> Phrases::Places(std::size_t at, std::string_view whe
   }
   AddGluedCoast(at, places);
   AddLeadingCoast(at, places);
+  if (places.empty()) AddExplained(at, places);
   if (places.empty()) Unknown(at, whenUnknown, at + 1);
   return places;
 }

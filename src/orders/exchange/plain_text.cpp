@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <optional>
 
 namespace orb::exchange {
@@ -173,9 +174,33 @@ std::optional<char32_t> NextMistaken(std::string_view& line, bool isUtf8) {
   return std::nullopt;
 }
 
+/// Cuts off a letter whose bytes a mail left in the quoted-printable form, "=C3=BC"; nothing, and
+/// nothing is cut, where none beyond ASCII stands there. Dashes and arrows are for the repairs.
+std::optional<char32_t> NextEncoded(std::string_view& line) {
+  constexpr std::size_t length = 3;  // of a byte: "=C3"
+  constexpr std::size_t longest = 4;
+  std::string bytes;
+  for (std::string_view rest = line;
+       rest.size() >= length && rest[0] == '=' && bytes.size() < longest;
+       rest.remove_prefix(length)) {
+    unsigned code = 0;
+    const auto [end, error] = std::from_chars(rest.data() + 1, rest.data() + length, code, 16);
+    if (error != std::errc() || end != rest.data() + length || code < 0x80) return std::nullopt;
+    bytes += static_cast<char>(code);
+    std::string_view meant = bytes;
+    const auto found = text::NextCharacter(meant);
+    if (!found) continue;
+    if (*found < FirstLetter || *found >= FirstGreek) return std::nullopt;
+    line = rest.substr(length);
+    return found;
+  }
+  return std::nullopt;
+}
+
 /// Whether a byte is a character that stands for itself, as most do.
 bool IsPlain(char byte, References references) {
-  return byte >= ' ' && byte < 0x7F && (byte != '&' || references == References::Kept);
+  return byte >= ' ' && byte < 0x7F && byte != '=' &&
+         (byte != '&' || references == References::Kept);
 }
 
 }  // namespace
@@ -207,6 +232,7 @@ PlainText ToPlain(std::string_view line, std::size_t offset, References referenc
     std::string_view rest = line;
     auto meant = references == References::Read ? text::NextReference(rest) : std::nullopt;
     const bool isReference = meant.has_value();
+    if (!meant) meant = NextEncoded(rest);
     if (!meant) meant = NextMistaken(rest, isUtf8);
     const char32_t character = meant ? *meant : NextCharacter(rest, isUtf8);
     const std::string_view bytes = line.substr(0, line.size() - rest.size());

@@ -147,8 +147,8 @@ class TextReader {
         !IsOrderAlone(line.Part(body), *heading, known_.Stage)) {
       return AddHeading(line, *heading);
     }
-    if (isPressTitle || (inPress_ && !IsTyped(line.Part(body)))) {
-      inPress_ = true;
+    if (isPressTitle || IsPressLine(line.Part(body)) || (inPress_ && !IsTyped(line.Part(body)))) {
+      inPress_ = inPress_ || isPressTitle;
       rows_.AddLine(line, context_.Power, LineKind::PassedOver);
       return;
     }

@@ -105,7 +105,9 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
     if (const int place = ExcludedPlace(remark, known_.Names); place != 0) AmendBefore(said, place);
     const auto next = std::ranges::find_if(
         understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
-    if (next != understood_.end() && IsSecondThought(remark)) {
+    const bool excuses =
+        next != understood_.end() && ExcusesSlip(line.Part({said.At.Begin, next->At.Begin}));
+    if (excuses || (next != understood_.end() && IsSecondThought(remark))) {
       Around.SetAmends(next->Row, Quoted(remark) + " may change it", line.Span(said.At));
       continue;
     }
@@ -344,6 +346,10 @@ bool Rows::IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const
   if (IsAddress(remark, said.At.Begin == 0, power) || IsTitle(remark, known_.Names, power))
     return false;
   if (SignsOff(line.All, said.At, known_.Names)) return false;
+  // "Correction: A Lvp - Yor, sorry, wrong line".
+  const bool excuses =
+      ExcusesSlip(remark) || ExcusesSlip(line.Part({said.At.Begin, line.All.size()}));
+  if (excuses && Corrects(line.All)) return false;
   const bool isFirst = std::ranges::all_of(
       understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
   if (isFirst && IsOpening(remark, known_.Names, power)) return false;

@@ -45,6 +45,19 @@ char TypeBehind(Tokens line, std::size_t at, const KnownGame& known) {
   return type;
 }
 
+/// Before other units of a line, as in supports, the learnt letters stand for types as well.
+void SpreadTypes(std::deque<SourceLine>& text, const std::map<std::string, char>& learnt,
+                 const KnownGame& known) {
+  for (SourceLine& line : text) {
+    for (std::size_t at = 0; at < line.All.size(); ++at) {
+      Token& token = line.All[at];
+      const auto type = token.Capital ? learnt.find(token.Text) : learnt.end();
+      if (type == learnt.end() || TypeBehind(line.All, at, known) != type->second) continue;
+      token.Means = MeaningOf(type->second == 'A' ? "army" : "fleet");
+    }
+  }
+}
+
 }  // namespace
 
 void LearnTypeLetters(std::deque<SourceLine>& text, const KnownGame& known) {
@@ -72,15 +85,17 @@ void LearnTypeLetters(std::deque<SourceLine>& text, const KnownGame& known) {
   for (const auto& [word, count] : counts) {
     if (word.size() > 1 && count.IsOfOneType()) ofWords.insert(count.Type());
   }
-  for (Token* token : found) {
+  std::map<std::string, char> learnt;
+  for (const Token* token : found) {
     const Count& count = counts[token->Text];
     // A word may be anything, unless another one stands before the units of the other type.
     const bool isKnown = token->Text.size() == 1
                              ? count.Armies + count.Fleets > 1 || counts.size() > 1
                              : ofWords.size() > 1 && found.size() > 2;
     if (!count.IsOfOneType() || !isKnown) continue;
-    token->Means = MeaningOf(count.Type() == 'A' ? "army" : "fleet");
+    learnt[token->Text] = count.Type();
   }
+  if (!learnt.empty()) SpreadTypes(text, learnt, known);
 }
 
 }  // namespace orb::exchange
