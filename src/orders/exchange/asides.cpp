@@ -33,6 +33,14 @@ Tokens LastSentence(Tokens line) {
 
 /// Whether a word of time is not about the orders: "two hours before the bell", "next lot".
 bool IsOfSomethingElse(Tokens title, std::size_t at) {
+  // "Take these instead of yesterday's:".
+  constexpr std::array<std::string_view, 14> replacing{
+      "statt",  "anstatt", "anstelle", "instead", "lieu",    "lugar",    "vez",
+      "invece", "plaats",  "stedet",   "stallet", "zamiast", "replaces", "ersetzt"};
+  constexpr std::size_t near = 5;
+  for (std::size_t before = at - std::min(at, near); before < at; ++before) {
+    if (IsOneOf(title[before], replacing)) return true;
+  }
   const bool isLast = at + 1 == title.size() || !IsA(title[at + 1], TokenKind::Word);
   if (isLast) return false;
   const Token& noun = title[at + 1];

@@ -183,7 +183,8 @@ bool Phrases::IsReflexive(std::size_t at) const {
 
 std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
   Verb verb = Verb::None;
-  if (const std::size_t next = ToVerb(at); IsReflexive(next)) at = next + 1;
+  const bool isReflexive = IsReflexive(ToVerb(at));
+  if (isReflexive) at = ToVerb(at) + 1;
   // "Back to Warsaw".
   const std::size_t tail = ToVerb(at);
   // "A Vie, A Bud all hold".
@@ -198,7 +199,13 @@ std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
   if (isBeforeTo) at = tail + 1;
   for (std::size_t next = ToVerb(at); next < tokens_.size(); next = ToVerb(next + 1)) {
     const bool isFirst = verb == Verb::None;
-    const Verb word = isFirst && IsPreposition(next) ? Verb::Move : VerbOf(tokens_[next]);
+    Verb word = isFirst && IsPreposition(next) ? Verb::Move : VerbOf(tokens_[next]);
+    // "Retira" removes, "se retira" goes elsewhere.
+    if (isFirst && isReflexive && word == Verb::Disband) word = Verb::Retreat;
+    if (!isFirst && isReflexive && Is(next, "a") && !tokens_[next].Capital) {
+      at = next + 1;
+      continue;
+    }
     const bool isTail =
         (verb == Verb::Hold && IsOneOf(tokens_[next], HoldTails)) ||
         ((verb == Verb::Move || verb == Verb::Retreat) && IsOneOf(tokens_[next], MoveTails));

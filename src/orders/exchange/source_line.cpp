@@ -12,10 +12,11 @@
 namespace orb::exchange {
 namespace {
 
-/// "And" in several languages. Short words are only so before a unit.
+/// "And" in several languages. Words that are others as well are only so before a unit.
 bool IsAnd(Tokens tokens, std::size_t at) {
   constexpr std::array<std::string_view, 7> words{"and", "und", "et", "och", "og", "oraz", "ja"};
-  constexpr std::array<std::string_view, 5> shortWords{"y", "e", "ed", "en", "i"};
+  constexpr std::array<std::string_view, 11> shortWords{
+      "y", "e", "ed", "en", "i", "plus", "dazu", "sowie", "nonche", "alsmede", "samt"};
   if (!IsA(tokens[at], TokenKind::Word)) return false;
   const std::string& word = tokens[at].Text;
   if (std::ranges::find(words, word) != words.end()) return true;
@@ -32,6 +33,8 @@ bool IsAnd(Tokens tokens, std::size_t at) {
   // "En Berlijn naar Kiel"; but "en Bourgogne" is where somebody goes.
   const bool isBeforePlace =
       next.Capital && tokens[at - 1].Capital && (isVerbAt(at + 2) || isVerbAt(at + 3));
+  // "Plus a fleet".
+  if (IsWord(next, "a") && isTypeAt(at + 2) && tokens[at + 2].Text.size() > 1) return true;
   return next.Text.size() > 1 && (isTypeAt(at + 1) || isTypeAt(at + 2) || isBeforePlace ||
                                   HasUse(next, WordUse::Filler, WordUse::Wish));
 }

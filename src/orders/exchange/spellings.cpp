@@ -41,7 +41,7 @@ constexpr std::array Spellings{
     UsualSpellings{"Syr", "syrien|syrie|siria"},
     UsualSpellings{"Boh", "bohmen|boehmen|boheme|boemia|bohemen|czechy"},
     UsualSpellings{"Bud", "budapeszt|boedapest|budapeste"},
-    UsualSpellings{"Gal", "galizien|galicie|galizia|galicja"},
+    UsualSpellings{"Gal", "galizien|galicie|galizia|galicja|galitzia|galitzien"},
     UsualSpellings{"Tri", "trs|triest"},
     UsualSpellings{"Tyr", "tyrol|tirol|tir|tyo|trl|tyl|tirolo|tyrolen"},
     UsualSpellings{"Vie", "wien|wenen|wieden"},

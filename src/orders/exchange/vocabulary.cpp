@@ -125,7 +125,8 @@ constexpr std::array Verbs{
         "constructions construcciones costruzioni construcoes bouwsels byggen budowy zbuduj "
         "rakenna rakentaa rakennan rakennetaan epit epitek epitunk epul stavi postavi stavim "
         "inssa insa yapar stroit stroim postroit chtizei chtizo erbaut ausheben aushebt leve "
-        "levons recluta recluto recrute opricht bouwe opforer oppretter"},
+        "levons recluta recluto recrute opricht bouwe opforer oppretter winteraufbau "
+        "winteraufbauten"},
     VerbWords{Verb::Waive, "w waive waives waived waiving waiver"},
 };
 
