@@ -228,9 +228,13 @@ bool MakesCondition(Tokens line) {
 bool IsReport(Tokens words) {
   constexpr std::array<std::string_view, 8> own{"i", "we", "my", "im", "ive", "id", "ill", "our"};
   bool tells = false;
+  // "I hear Austria wants to".
+  constexpr std::array<std::string_view, 7> hearing{"hear",  "heard", "bet",  "reckon",
+                                                    "guess", "know",  "think"};
+  const bool isHeard = words.size() > 1 && IsOneOf(words[1], hearing);
   for (const Token& token : words) {
     // "I wanted A Par - Pic" is the writer's own.
-    if (std::ranges::find(own, token.Text) != own.end()) return false;
+    if (!isHeard && std::ranges::find(own, token.Text) != own.end()) return false;
     tells = tells || HasUse(token, WordUse::Report);
   }
   return tells;

@@ -51,6 +51,7 @@ bool IsOfFooter(const Token& token) {
 bool IsOfLetter(Tokens words) {
   constexpr std::array<std::string_view, 4> polish{"zobaczenia", "widzenia", "jutra", "uslyszenia"};
   if (words.size() > 1 && IsWord(words[0], "do") && IsOneOf(words[1], polish)) return true;
+  if (IsWord(words[0], "gg") || IsWord(words[0], "glhf")) return true;
   if (std::ranges::any_of(words, IsOfFooter)) return true;
   if (words.size() > 1 && IsWord(words[0], "take") &&
       (IsWord(words[1], "care") || IsWord(words.back(), "easy")))

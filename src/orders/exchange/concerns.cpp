@@ -123,7 +123,12 @@ Concern ConcernOf(Tokens tokens, const PlaceNames& names, const model::Map& map)
   if (const PowerName power = PowerAt(tokens, 0); power.Power != 0) first = power.Next;
   const std::size_t thoughts = PastThoughts(tokens.subspan(first));
   first += thoughts;
-  while (first < tokens.size() && !IsA(tokens[first], TokenKind::Word))
+  // "EDIT 23:10: Bud goes to Ser".
+  const auto heads = [&](const Token& token) {
+    return !IsA(token, TokenKind::Word) || HasUse(token, WordUse::Correction) ||
+           IsWord(token, "ps") || (first > 0 && IsNumber(token));
+  };
+  while (first < tokens.size() && heads(tokens[first]))
     ++first;
   if (first == tokens.size()) return concern;
   const bool isTyped = UnitTypeOf(tokens[first]) != 0;

@@ -19,6 +19,11 @@ bool IsHarmless(const Token& token) {
   return HasUse(token, WordUse::Mood, WordUse::Purpose, WordUse::Plain);
 }
 
+/// Whether a word of everyday life stands at a token: no hindrance to an order.
+bool IsEveryday(Tokens remark, std::size_t at) {
+  return at < remark.size() && HasUse(remark[at], WordUse::Everyday);
+}
+
 /// How many tokens from here name a place; 0: none.
 std::size_t LengthOfPlace(Tokens tokens, std::size_t at, const PlaceNames& names) {
   const auto places = names.At(tokens, at);
@@ -116,8 +121,8 @@ bool IsDoubtfulSign(const Token& token) {
   return token.Text == "?" || token.Text == "<" || token.Text == "~" || token.Text == "%";
 }
 
-std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceNames& names,
-                                    int power) {
+std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceNames& names, int power,
+                                    EverydayWords everyday) {
   if (IsOutcome(remark)) return TokenRange{0, remark.size()};
   if (IsReason(remark, names)) return std::nullopt;
   const auto has = [&](WordUse use) {
@@ -126,6 +131,12 @@ std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceName
   const bool isPurpose = has(WordUse::Purpose);
   const bool maySpeakToPowers = isPurpose || has(WordUse::Mood);
   std::optional<OwnWords> own;
+  // "Over my dead body" is of no everyday life.
+  std::optional<bool> saysOfOrders;
+  const auto says = [&] {
+    if (!saysOfOrders) saysOfOrders = SaysOfOrders(remark);
+    return *saysOfOrders;
+  };
   for (std::size_t at = 0; at < remark.size();) {
     const Token& token = remark[at];
     const bool isWord = token.Kind == TokenKind::Word;
@@ -158,8 +169,12 @@ std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceName
       length = named.Next - at;
     }
     if (length == 0 && IsName(remark, at, names)) length = 1;
-    if (length == 0 && !IsHarmless(token) && !(isPurpose && token.Text == "to"))
-      return TokenRange{at, at + 1};
+    const auto isEveryday = [&](std::size_t place) {
+      return everyday == EverydayWords::Harmless && IsEveryday(remark, place) && !says();
+    };
+    const bool leadsOn = token.Text == "to" && (isPurpose || isEveryday(at + 1));
+    const bool isHarmless = IsHarmless(token) || leadsOn || isEveryday(at);
+    if (length == 0 && !isHarmless) return TokenRange{at, at + 1};
     at += std::max<std::size_t>(length, 1);
   }
   return std::nullopt;

@@ -3,6 +3,7 @@
 #include "orders/exchange/place_names.h"
 #include "orders/exchange/written_order.h"
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -11,11 +12,15 @@ namespace orb::exchange {
 // What stands beside orders and speaks for or against them. What is not known to be harmless makes
 // an order doubtful: whoever wrote "(only with his support)" must be asked.
 
+/// What words of players' everyday life do in a remark.
+enum class EverydayWords : std::uint8_t { Harmless, Doubted };
+
 /// The first words of a remark that may change the order beside it. Thanks and the like never do,
 /// nor does what repeats a place, power or verb of the order itself.
 /// `power`: whose order it is, 0: not known.
 std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceNames& names,
-                                    int power = 0);
+                                    int power = 0,
+                                    EverydayWords everyday = EverydayWords::Harmless);
 
 /// Whether signs beyond ASCII are pictures that only decorate; crosses, question marks and thumbs
 /// down are none.

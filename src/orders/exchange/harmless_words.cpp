@@ -38,7 +38,7 @@ constexpr std::string_view PlainPhrases =
     "as always|as every year|wie immer|comme toujours|como siempre|come sempre|como sempre|"
     "zoals altijd|som altid|som alltid|jak zawsze|no worries|as everybody does|as everyone does|"
     "expecting a bounce|is arranged|its arranged|with ~|mit ~|avec ~|con ~|met ~|med ~|"
-    "do zobaczenia|do widzenia|do jutra|do uslyszenia";
+    "do zobaczenia|do widzenia|do jutra|do uslyszenia|gg no re|i . e|i . e .";
 
 /// Names of slips of the pen, in the languages of the verbs.
 constexpr std::string_view SlipWords =
@@ -67,8 +67,10 @@ std::size_t LengthOfOne(Tokens tokens, std::size_t at, const std::vector<std::st
   std::size_t next = at;
   for (const std::string_view word : phrase) {
     const bool isName = word == "~";
-    const bool isHere = isName ? IsPersonAt(tokens, next, names)
-                               : next < tokens.size() && IsWord(tokens[next], word);
+    const bool isHere = isName                  ? IsPersonAt(tokens, next, names)
+                        : next == tokens.size() ? false
+                        : word == "."           ? IsA(tokens[next], TokenKind::Dot)
+                                                : IsWord(tokens[next], word);
     if (!isHere) return 0;
     ++next;
     if (isName && IsPersonAt(tokens, next, names)) ++next;
@@ -90,15 +92,6 @@ const PlainPhraseTable& AllPlainPhrases() {
     return all;
   }();
   return table;
-}
-
-/// Whether words hold a phrase by which orders are taken back, put off or the like.
-bool SaysOfOrders(Tokens words) {
-  constexpr std::array sayings{Saying::Revokes, Saying::Postpones, Saying::Gives,
-                               Saying::Asks,    Saying::Titles,    Saying::Corrects,
-                               Saying::Leaves,  Saying::Excludes};
-  return std::ranges::any_of(sayings,
-                             [&](Saying saying) { return FindSaying(words, saying).has_value(); });
 }
 
 /// Whether a word may bear on orders, so that no reason is harmless that has it.
@@ -124,6 +117,14 @@ bool BearsAt(Tokens words, std::size_t at, const PlaceNames& names) {
 }
 
 }  // namespace
+
+bool SaysOfOrders(Tokens words) {
+  constexpr std::array sayings{Saying::Revokes, Saying::Postpones, Saying::Gives,
+                               Saying::Asks,    Saying::Titles,    Saying::Corrects,
+                               Saying::Leaves,  Saying::Excludes};
+  return std::ranges::any_of(sayings,
+                             [&](Saying saying) { return FindSaying(words, saying).has_value(); });
+}
 
 bool IsPersonAt(Tokens tokens, std::size_t at, const PlaceNames& names) {
   if (at >= tokens.size() || !IsA(tokens[at], TokenKind::Word)) return false;

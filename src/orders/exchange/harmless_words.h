@@ -14,6 +14,9 @@ std::size_t LengthOfPlainPhrase(Tokens tokens, std::size_t at, const PlaceNames&
 /// oysters are good there", "(hope he remembers)".
 bool IsReason(Tokens words, const PlaceNames& names);
 
+/// Whether words hold a phrase by which orders are taken back, put off or the like.
+bool SaysOfOrders(Tokens words);
+
 /// Whether a word may be a person's name: it has a capital letter and no meaning here.
 bool IsPersonAt(Tokens tokens, std::size_t at, const PlaceNames& names);
 

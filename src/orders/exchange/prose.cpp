@@ -361,7 +361,7 @@ class ProseReader {
   static constexpr unsigned Harmless =
       static_cast<unsigned>(WordUse::Filler) | static_cast<unsigned>(WordUse::Mood) |
       static_cast<unsigned>(WordUse::Plain) | static_cast<unsigned>(WordUse::Purpose) |
-      static_cast<unsigned>(WordUse::Greeting);
+      static_cast<unsigned>(WordUse::Greeting) | static_cast<unsigned>(WordUse::Everyday);
 
   const PartsRead& before_;
   const KnownGame& known_;

@@ -85,6 +85,7 @@ class Rows {
   ReadLine& Add(const SourceLine& line, Span place, LineKind kind, int power);
   void AddProblem(const SourceLine& line, TokenRange range, const Fault& problem, ReadLine& read);
   bool IsOfOther(const SourceLine& line, const PartRead& part) const;
+  bool IsOfAnotherMatter(const SourceLine& line, const Said& said) const;
   bool SpeaksOf(const SourceLine& line, const Said& said, const Understood& order) const;
   bool PutsRight(const SourceLine& line, const Said& said, const Understood& next) const;
   bool DoubtUnreal(const SourceLine& line, const Said& said);

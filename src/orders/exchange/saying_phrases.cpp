@@ -167,7 +167,8 @@ constexpr std::array SayingTable{
         Saying::Gives,
         "z . b|p . ex|e . g|t . ex|f . eks|eg|zb|bv|np|zum beispiel|par exemple|por ejemplo|"
         "por exemplo|per esempio|bijvoorbeeld|for eksempel|till exempel|na przyklad|"
-        "esimerkiksi|peldaul|napriklad|for example|for instance"},
+        "esimerkiksi|peldaul|napriklad|for example|for instance|how do i write|how do you write|"
+        "how to write"},
     SayingPhrases{
         Saying::Asks,
         "what if|can i still|may i still|can i change|may i change|so richtig|ist das "

@@ -18,17 +18,18 @@ constexpr std::array Spellings{
     UsualSpellings{"Kie", "kilonia"},
     UsualSpellings{"Mun", "munchen|muenchen|monaco|monachium|monaco di baviera|munique"},
     UsualSpellings{"Pru", "preussen|preusen|prusse|pruisen|prusy|preusse"},
-    UsualSpellings{"Ruh", "ruhrgebiet|ruhrgebied|ruhromradet"},
+    UsualSpellings{"Ruh", "ruhrgebiet|ruhrgebied|ruhromradet|zaglebie ruhry|zaglebie"},
     UsualSpellings{"Sil", "schlesien|silesie|slesia|silezie|slask|silezja"},
     UsualSpellings{"Fin", "finlande|finlandia|suomi"},
     UsualSpellings{"Lvn", "lvo|lva|livland|livonie|lijfland|inflanty|liwonia"},
     UsualSpellings{"Mos", "moskva|moskau|moscou|mosca|moscu|moskou|moskwa|moskova|moscovo"},
     UsualSpellings{"Sev", "sebastopol|sewastopol|sebastopoli"},
-    UsualSpellings{"Stp",
-                   "pet|spb|stpete|saint petersburg|st pete|st pet|st p|saint pete|petersburg|"
-                   "petrograd|s petersburg|stpt|sankt petersburg|saint petersbourg|st petersbourg|"
-                   "san pietroburgo|pietroburgo|san petersburgo|sint petersburg|sao petersburgo|"
-                   "st petersburgo|petersbourg|petersburgo|sankt petersborg|st petersborg"},
+    UsualSpellings{
+        "Stp",
+        "pet|spb|stpete|saint petersburg|st pete|st pet|st p|saint pete|petersburg|"
+        "petrograd|s petersburg|stpt|sankt petersburg|saint petersbourg|st petersbourg|"
+        "san pietroburgo|pietroburgo|san petersburgo|sint petersburg|sao petersburgo|"
+        "st petersburgo|s t petersburg|petersbourg|petersburgo|sankt petersborg|st petersborg"},
     UsualSpellings{"Ukr", "ukraina|ucraina|ucrania|oekraine"},
     UsualSpellings{"War", "warszawa|warschau|varsovie|varsavia|varsovia"},
     UsualSpellings{"Ank", "angora|ancara"},
@@ -121,14 +122,15 @@ constexpr std::array Spellings{
                    "irs|irische see|mar de irlanda|ierse zee|mer d'irlande|mare d'irlanda|"
                    "mar da irlanda|irlandska sjon|irske hav|irskesjoen|irskesjon|morze irlandzkie|"
                    "irisches meer"},
-    UsualSpellings{"MAO",
-                   "matl|mda|mida|middle atlantic|m atlantic|mid atlantic|mittelatlantik|"
-                   "atlantico medio|medio atlantico|atlantique central|atlantique|atlantico|"
-                   "atlantik|atlanten|atlanterhavet|atlantyk|atlantische oceaan|"
-                   "mittlerer atlantik|atlantique centre|atlantique moyen|atlantico centrale|"
-                   "atlantico central|mid atlantische oceaan|midden atlantische oceaan|"
-                   "mellersta atlanten|mittatlanten|midtatlanten|srodkowy atlantyk|"
-                   "oceano atlantico|ocean atlantique"},
+    UsualSpellings{
+        "MAO",
+        "matl|mda|mida|middle atlantic|m atlantic|mid atlantic|mittelatlantik|"
+        "atlantico medio|medio atlantico|atlantique central|atlantique|atlantico|"
+        "atlantik|atlanten|atlanterhavet|atlantyk|atlantische oceaan|"
+        "mittlerer atlantik|atlantique centre|atlantique moyen|atlantico centrale|"
+        "atlantico central|mid atlantische oceaan|midden atlantische oceaan|"
+        "mellersta atlanten|mittatlanten|midtatlanten|srodkowy atlantyk|"
+        "oceano atlantico|ocean atlantique|oceano atlantico medio|oceano atlantico central"},
     UsualSpellings{"NAO",
                    "nat|natl|n atlantic|n atlantic ocean|n atl|noa|nordatlantik|atlantique nord|"
                    "atlantico nord|atlantico norte|atlantique|atlantico|atlantik|atlanten|"

@@ -1,5 +1,6 @@
 #include "orders/exchange/vocabulary.h"
 
+#include "orders/exchange/everyday_words.h"
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/saying_kinds.h"
 
@@ -339,6 +340,14 @@ WordMeaning FindMeaning(std::string_view word) {
   meaning.Signals = SignalsOf(word);
   meaning.Sayings = SayingsBeginningWith(word);
   meaning.BeginsPower = MayBeginPower(word);
+  constexpr unsigned hints = static_cast<unsigned>(Signal::Hints);
+  const bool says = meaning.Has(WordUse::Condition) || meaning.Has(WordUse::Aside) ||
+                    meaning.Has(WordUse::SetsAside) || meaning.Has(WordUse::Elsewhere) ||
+                    meaning.Has(WordUse::Reservation) || meaning.Has(WordUse::Report) ||
+                    meaning.Has(WordUse::Correction);
+  const bool isOfOrders = says || meaning.Does != Verb::None || meaning.UnitType != 0 ||
+                          (meaning.Signals & ~hints) != 0 || meaning.BeginsPower;
+  if (!isOfOrders && IsEverydayWord(word)) meaning.Uses |= static_cast<unsigned>(WordUse::Everyday);
   if (IsSeasonCode(word)) meaning.Uses |= static_cast<unsigned>(WordUse::Heading);
   return meaning;
 }

@@ -43,6 +43,7 @@ enum class WordUse : std::uint32_t {
   Elsewhere = 0x8'0000,  ///< of titles: what is below is of another time, or only a thought
   Own = 0x4'0000,        ///< of titles: what is below is the writer's, and for now
   Report = 0x8000,       ///< tells what somebody else says or wants
+  Everyday = 0x10'0000,  ///< harmless in a remark beside an order: of players' everyday life
   Offer = 0x4000         ///< of lines that offer help: "if anything is unclear"
 };
 
