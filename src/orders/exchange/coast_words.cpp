@@ -18,10 +18,10 @@ struct CoastWords {
 constexpr std::array Coasts{
     CoastWords{'n', "north",
                "cn nord norte noord norra norr nordre nk nordkuste nordkueste noordkust nordkust "
-               "nordkusten nordkyst nordkysten polnocne polnoc"},
+               "nordkusten nordkyst nordkysten polnocne polnoc pn"},
     CoastWords{'s', "south",
                "cs sud sur sul zuid sodra soder sondre syd sk zk sudkuste suedkueste zuidkust "
-               "sydkust sydkusten sydkyst sydkysten sorkyst sorkysten poludniowe poludnie"},
+               "sydkust sydkusten sydkyst sydkysten sorkyst sorkysten poludniowe poludnie pd"},
     CoastWords{'e', "east",
                "ce est este oost ost ostra ostkuste ostkueste oostkust ostkusten ostkyst "
                "ostkysten wschodnie wschod"},

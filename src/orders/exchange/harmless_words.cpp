@@ -38,7 +38,10 @@ constexpr std::string_view PlainPhrases =
     "as always|as every year|wie immer|comme toujours|como siempre|come sempre|como sempre|"
     "zoals altijd|som altid|som alltid|jak zawsze|no worries|as everybody does|as everyone does|"
     "expecting a bounce|is arranged|its arranged|with ~|mit ~|avec ~|con ~|met ~|med ~|"
-    "do zobaczenia|do widzenia|do jutra|do uslyszenia|gg no re|i . e|i . e .";
+    "do zobaczenia|do widzenia|do jutra|do uslyszenia|gg no re|voice message|voice "
+    "note|media omitted|image omitted|sticker omitted|"
+    "gif omitted|sprachnachricht|says hello|says hi|sends love|sends regards|off the board|i . e|i "
+    ". e .";
 
 /// Names of slips of the pen, in the languages of the verbs.
 constexpr std::string_view SlipWords =
@@ -156,6 +159,18 @@ bool ExcusesSlip(Tokens words) {
            if (!IsA(token, TokenKind::Word)) return token.Text != "?";
            return isSlip(token) || besides.contains(token.Text) || HasUse(token, WordUse::Filler);
          });
+}
+
+bool IsOfEverydayLife(Tokens words) {
+  constexpr std::ptrdiff_t few = 2;
+  const auto isKnown = [](const Token& token) {
+    return !IsA(token, TokenKind::Word) ? token.Text != "<" && token.Text != "%"
+                                        : HasUse(token, WordUse::Everyday, WordUse::Filler,
+                                                 WordUse::Mood, WordUse::Greeting);
+  };
+  return std::ranges::all_of(words, isKnown) &&
+         std::ranges::count_if(
+             words, [](const Token& token) { return HasUse(token, WordUse::Everyday); }) > few;
 }
 
 bool IsReason(Tokens words, const PlaceNames& names) {

@@ -20,6 +20,9 @@ bool SaysOfOrders(Tokens words);
 /// Whether a word may be a person's name: it has a capital letter and no meaning here.
 bool IsPersonAt(Tokens tokens, std::size_t at, const PlaceNames& names);
 
+/// Whether all words are known and several are of everyday life: "When is the pizza here?".
+bool IsOfEverydayLife(Tokens words);
+
 /// Whether words are nothing but an excuse for a slip of the pen: "no, typo, it's", "sorry, wrong
 /// line".
 bool ExcusesSlip(Tokens words);

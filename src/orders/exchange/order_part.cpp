@@ -66,10 +66,14 @@ std::size_t PastHeading(Tokens tokens, const KnownGame& known, Context& context)
     return static_cast<std::size_t>(std::ranges::find(tokens, kind, &Token::Kind) - tokens.begin());
   };
   if (const std::size_t wish = PastWish(tokens); wish != 0 && wish < tokens.size()) return wish;
-  if (const Verb verb = SignedVerb(tokens);
+  // "AUS -A Bud".
+  const PowerName named = PowerAt(tokens, 0);
+  const std::size_t sign = named.Power != 0 ? named.Next : 0;
+  if (const Verb verb = SignedVerb(tokens.subspan(sign));
       known.Stage == model::Stage::Adjustments && verb != Verb::None) {
     context.Orders = verb;
-    return 1;
+    if (named.Power != 0) context.Power = named.Power;
+    return sign + 1;
   }
   const std::size_t colon = lengthTo(TokenKind::Colon);
   // "A: Par" is an army; "A: F Tri" is Austria's.

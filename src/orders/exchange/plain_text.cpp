@@ -188,7 +188,13 @@ std::optional<char32_t> NextEncoded(std::string_view& line) {
     if (error != std::errc() || end != rest.data() + length || code < 0x80) return std::nullopt;
     bytes += static_cast<char>(code);
     std::string_view meant = bytes;
-    const auto found = text::NextCharacter(meant);
+    auto found = text::NextCharacter(meant);
+    // "M=FCnchen" is of an older character set.
+    constexpr std::string_view following = "89ABab";
+    const bool goesOn = rest.size() > length + 1 && rest[length] == '=' &&
+                        following.find(rest[length + 1]) != std::string_view::npos;
+    if (!found && bytes.size() == 1 && !goesOn)
+      found = text::CharacterOf(static_cast<unsigned char>(code));
     if (!found) continue;
     if (*found < FirstLetter || *found >= FirstGreek) return std::nullopt;
     line = rest.substr(length);

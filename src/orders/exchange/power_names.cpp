@@ -22,27 +22,27 @@ struct PowerWords {
 /// What powers and their people are called besides the names and abbreviations in the game.
 constexpr std::array Nicknames{
     PowerWords{1,
-               "english|great britain|britain|british|brits|uk|gb|angleterre|inglaterra|"
+               "english|anglii|great britain|britain|british|brits|uk|gb|angleterre|inglaterra|"
                "inghilterra|engeland|anglia|storbritannien|storbritannia|grossbritannien|"
                "grosbritannien|englander|engels|anglais|ingles|inglese|englisch|englanti|"
                "anglie|angol|britannien|ingiltere|angliya|englannin|engelsk|engelska|"
                "englische|engelse"},
     PowerWords{2,
-               "french|frankreich|francia|frankrijk|frankrike|frankrig|francja|franca|"
+               "french|francji|frankreich|francia|frankrijk|frankrike|frankrig|francja|franca|"
                "francais|franzosen|franzosisch|frances|francese|ranska|francie|"
                "franciaorszag|fransa|frantsiya|gallia|fransk|franska|franse|francesa|"
                "francaise|franzose|fransman"},
     PowerWords{3,
-               "german|germans|deutschland|allemagne|alemania|germania|duitsland|"
+               "german|niemiec|germans|deutschland|allemagne|alemania|germania|duitsland|"
                "tyskland|niemcy|alemanha|allemand|aleman|alemao|tedesco|duits|tysk|"
                "deutsch|deutsche|deutscher|saksa|nemecko|nemetorszag|almanya|germaniya|"
                "tyska|tyske|duitse|tedesca|alemana|alema|allemande"},
     PowerWords{4,
-               "russian|russians|russland|rusland|russie|rusia|ryssland|rosja|russe|"
+               "russian|rosji|russians|russland|rusland|russie|rusia|ryssland|rosja|russe|"
                "russo|ruso|rysk|russisch|venaja|rusko|oroszorszag|rusya|rossiya|rosia|"
                "ryska|russiske|russische|rusa|russa"},
     PowerWords{5,
-               "turkish|turks|ottoman empire|ottoman|ottomans|turkei|tuerkei|turquie|"
+               "turkish|turcji|turks|ottoman empire|ottoman|ottomans|turkei|tuerkei|turquie|"
                "turquia|turchia|turkije|turkiet|tyrkiet|tyrkia|turcja|turc|turco|"
                "turkisch|turkki|turecko|torokorszag|turkiye|turtsiya|tourkia|tyrkisk|"
                "tyrkiske|turkiska|turkse|turque|turca|turke"},
@@ -56,7 +56,7 @@ constexpr std::array Nicknames{
                "austria ungheria|austro ungheria|osterrike ungern|ostrig ungarn|"
                "avstro vengriya|ausztria magyarorszag|itavalta unkari|osterreicher"},
     PowerWords{7,
-               "italian|italians|italien|italie|italia|wlochy|italiaans|italienisch|"
+               "italian|wloch|italians|italien|italie|italia|wlochy|italiaans|italienisch|"
                "italiano|italienne|italiaanse|olaszorszag|italya|italiya|italska|"
                "italiensk|italienske|italiana|italiener|itaalia"},
 };

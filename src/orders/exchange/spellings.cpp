@@ -68,7 +68,7 @@ constexpr std::array Spellings{
     UsualSpellings{"Por", "portogallo|portugalia"},
     UsualSpellings{"Rum", "romania|roumania|rumanien|rumaenien|roumanie|roemenie|rumunia|romenia"},
     UsualSpellings{"Ser", "servia|serbien|serbie|servie"},
-    UsualSpellings{"Spa", "spanien|espagne|spagna|espana|spanje|hiszpania|espanha|spania"},
+    UsualSpellings{"Spa", "esp|spanien|espagne|spagna|espana|spanje|hiszpania|espanha|spania"},
     UsualSpellings{"Swe", "schweden|suede|svezia|suecia|zweden|sverige|szwecja"},
     UsualSpellings{"Tun", "tunisia|tns|tunesien|tunez|tunisi|tunisie|tunezja"},
     UsualSpellings{"ADR",
@@ -99,10 +99,11 @@ constexpr std::array Spellings{
                    "mediterraneo oriental|ostra medelhavet|ostlige middelhav|"
                    "oostelijke middellandse zee|oost middellandse zee|wschodnie morze srodziemne|"
                    "ostmittelmeer|mediterranee est"},
-    UsualSpellings{"ECH",
-                   "eng|enc|channel|chan|chn|e channel|armelkanal|kanal|manche|manica|mancha|"
-                   "canal de la mancha|canal da mancha|kanaal|kanalen|engelska kanalen|canal|"
-                   "la manche|engelske kanal|kanal la manche|canal ingles|canale della manica"},
+    UsualSpellings{
+        "ECH",
+        "eng|enc|channel|chan|chn|e channel|armelkanal|kanal|manche|manica|mancha|"
+        "canal de la mancha|canal da mancha|kanaal|kanalen|engelska kanalen|canal|"
+        "la manche|engelske kanal|engelse kanaal|kanal la manche|canal ingles|canale della manica"},
     UsualSpellings{"GOL",
                    "lyo|gly|gln|lyon|lyons|gulf of lyons|gulf of lions|gulf lyon|gulf of the lion|"
                    "g of lyon|golyon|golfe du lion|golfo di leone|golfo del leone|golfo de leon|"

@@ -71,7 +71,7 @@ constexpr std::array Verbs{
         "gardent aguanta mantienen staat staan wacht stilla avvakter"},
     VerbWords{
         Verb::Support,
-        "s sup supp supports support supporting spt sprt unterst su backs backing unterstutzt "
+        "s u sup supp supports support supporting spt sprt unterst su backs backing unterstutzt "
         "unterstuetzt unterstutze unterstutzung soutient soutien soutenir soutiens steunt "
         "ondersteunt apoya apoyo apoyando sostiene appoggia appoggio supporto supporta "
         "supporte appuie stotter stodjer stoder stoetter apoia wspiera wsparcie helps help "
@@ -98,7 +98,7 @@ constexpr std::array Verbs{
               "trekker vetaytyy peraantyy visszavonul hatral ustupuje stahuje cekilir otstupaet "
               "ypochorei replego retrocede retroceden indietreggia recua recuam wijkt vetarse "
               "retraites reculent flieht fluchtet fuit huye fugge foge vlucht flygter flykter flyr "
-              "ucieka flees falls fall escapes escape flee runs"},
+              "ripiega ripiegano ucieka flees falls fall escapes escape flee runs"},
     VerbWords{
         Verb::Disband,
         "d dis disb disband disbands disbanded disbanding remove removes removed removing "

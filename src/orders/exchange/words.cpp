@@ -29,6 +29,10 @@ std::size_t WordEnd(std::string_view text, std::size_t at) {
 std::string WordText(std::string_view written) {
   std::string word = text::LowerCase(written);
   if (word.ends_with("'s")) word.resize(word.size() - 2);
+  // "un'armata", "dell'Albania".
+  for (const std::string_view elided : {"un'", "dell'", "quell'"}) {
+    if (word.starts_with(elided) && word.size() > elided.size() + 1) word.erase(0, elided.size());
+  }
   // "l'armata", "d'Istanbul".
   if (word.size() > 3 && word[1] == '\'' && (word[0] == 'l' || word[0] == 'd')) word.erase(0, 2);
   std::erase(word, '\'');
