@@ -19,9 +19,12 @@ bool IsHarmless(const Token& token) {
   return HasUse(token, WordUse::Mood, WordUse::Purpose, WordUse::Plain);
 }
 
-/// Whether a word of everyday life stands at a token: no hindrance to an order.
+/// Whether a word of everyday life stands at a token: no hindrance to an order, unless it is
+/// somebody's, "(my wife's)".
 bool IsEveryday(Tokens remark, std::size_t at) {
-  return at < remark.size() && HasUse(remark[at], WordUse::Everyday);
+  if (at >= remark.size() || !HasUse(remark[at], WordUse::Everyday)) return false;
+  const bool isLast = at + 1 == remark.size() || !IsA(remark[at + 1], TokenKind::Word);
+  return !isLast || !remark[at].Written.ends_with("'s");
 }
 
 /// How many tokens from here name a place; 0: none.
@@ -131,10 +134,10 @@ std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceName
   const bool isPurpose = has(WordUse::Purpose);
   const bool maySpeakToPowers = isPurpose || has(WordUse::Mood);
   std::optional<OwnWords> own;
-  // "Over my dead body" is of no everyday life.
+  // "Over my dead body" and "my brother's orders" are of no everyday life.
   std::optional<bool> saysOfOrders;
   const auto says = [&] {
-    if (!saysOfOrders) saysOfOrders = SaysOfOrders(remark);
+    if (!saysOfOrders) saysOfOrders = has(WordUse::Orders) || SaysOfOrders(remark);
     return *saysOfOrders;
   };
   for (std::size_t at = 0; at < remark.size();) {
