@@ -38,6 +38,13 @@ bool IsOfSomethingElse(Tokens title, std::size_t at) {
   constexpr std::array<std::string_view, 14> replacing{
       "statt",  "anstatt", "anstelle", "instead", "lieu",    "lugar",    "vez",
       "invece", "plaats",  "stedet",   "stallet", "zamiast", "replaces", "ersetzt"};
+  constexpr std::array<std::string_view, 8> stems{"replac",   "ersetz",   "remplac", "reemplaz",
+                                                  "sostitui", "substitu", "vervang", "erstat"};
+  const bool isReplaced = std::ranges::any_of(title, [&](const Token& token) {
+    return std::ranges::any_of(stems,
+                               [&](std::string_view stem) { return token.Text.starts_with(stem); });
+  });
+  if (isReplaced) return true;
   constexpr std::size_t near = 5;
   for (std::size_t before = at - std::min(at, near); before < at; ++before) {
     if (IsOneOf(title[before], replacing)) return true;

@@ -36,12 +36,14 @@ bool Signs(const Token& token, Signal signal) {
 
 /// Words of what firms have below their mails.
 bool IsOfFooter(const Token& token) {
-  constexpr std::array<std::string_view, 28> footers{
+  constexpr std::array<std::string_view, 38> footers{
       "address",     "adresse",       "indirizzo",    "direccion",    "adres",
       "endereco",    "attachments",   "confidential", "recipient",    "recipients",
       "addressee",   "adressat",      "empfanger",    "destinataire", "umwelt",
       "environment", "environnement", "printing",     "ausdrucken",   "imprimer",
       "privileged",  "vertraulich",   "ausgedruckt",  "ausdruckt",    "eingangsbestatigung",
+      "viren",       "virus",         "viruses",      "antivirus",    "avast",
+      "virenfrei",   "scanned",       "virusfri",     "virusvrij",    "virussen",
       "disclaimer",  "unauthorised",  "unauthorized"};
   return IsOneOf(token, footers);
 }
@@ -84,9 +86,13 @@ bool AsksAfterHealth(Tokens words) {
 
 /// "Sorry if it's crooked", "excuse the typing".
 bool Apologizes(Tokens words) {
-  constexpr std::array<std::string_view, 6> pleas{"sorry",   "apologies", "excuse",
-                                                  "forgive", "pardon",    "desole"};
-  constexpr std::array<std::string_view, 4> matters{"if", "for", "about", "the"};
+  constexpr std::array<std::string_view, 18> pleas{
+      "sorry",        "apologies", "excuse",   "forgive",  "pardon",   "desole",
+      "desolee",      "undskyld",  "unnskyld", "beklager", "ursakta",  "entschuldigung",
+      "entschuldige", "perdon",    "scusate",  "scusa",    "desculpa", "przepraszam"};
+  constexpr std::array<std::string_view, 22> matters{
+      "if",   "for", "about", "the", "det", "at", "att",  "om",  "dass", "das", "die",
+      "wenn", "que", "si",    "per", "se",  "il", "pour", "por", "voor", "dat", "ze"};
   for (std::size_t at = 0; at + 1 < words.size(); ++at) {
     if (IsOneOf(words[at], pleas) && IsOneOf(words[at + 1], matters)) return true;
   }
@@ -182,6 +188,14 @@ bool NamesUnit(Tokens words, const PlaceNames& names) {
   return false;
 }
 
+/// Whether what stands before and behind words of small talk does not bear on orders.
+bool BearsNotBeside(Tokens sentence, TokenRange chat, Unplaced unit) {
+  const Tokens before = sentence.first(chat.Begin);
+  const Tokens behind = sentence.subspan(chat.End);
+  return (before.empty() || !BearsOnOrders(before, unit)) &&
+         (behind.empty() || !BearsOnOrders(behind, unit));
+}
+
 }  // namespace
 
 bool BearsOnOrders(Tokens sentence, Unplaced unit) {
@@ -190,6 +204,8 @@ bool BearsOnOrders(Tokens sentence, Unplaced unit) {
   constexpr std::ptrdiff_t few = 4;
   constexpr std::ptrdiff_t brief = 6;
   const auto count = std::ranges::count(sentence, TokenKind::Word, &Token::Kind);
+  const auto chat = FindSaying(sentence, Saying::Chats);
+  if (chat && BearsNotBeside(sentence, *chat, unit)) return false;
   if (count == 0 || IsSecondThought(sentence) || TellsOfOthers(sentence)) return false;
   const Signals signals(sentence);
   const bool asks = sentence.back().Text == "?";

@@ -5,6 +5,7 @@
 #include "orders/exchange/comments.h"
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/power_names.h"
+#include "orders/exchange/sayings.h"
 #include "orders/exchange/sentences.h"
 #include "text/strings.h"
 
@@ -114,6 +115,7 @@ bool Concerns(const Concern& concern, std::string_view order) {
 
 Concern ConcernOf(Tokens tokens, const PlaceNames& names, const model::Map& map) {
   Concern concern;
+  if (FindSaying(tokens, Saying::Chats)) return concern;
   const auto add = [&](int row) {
     constexpr std::size_t nameLength = 3;
     if (row == 0) return;

@@ -38,7 +38,9 @@ constexpr std::string_view PlainPhrases =
     "as always|as every year|wie immer|comme toujours|como siempre|come sempre|como sempre|"
     "zoals altijd|som altid|som alltid|jak zawsze|no worries|as everybody does|as everyone does|"
     "expecting a bounce|is arranged|its arranged|with ~|mit ~|avec ~|con ~|met ~|med ~|"
-    "do zobaczenia|do widzenia|do jutra|do uslyszenia|gg no re|voice message|voice "
+    "this time|diesmal|cette fois|cette fois ci|esta vez|questa volta|desta vez|deze keer|"
+    "denne gang|denna gang|tym razem|do zobaczenia|do widzenia|do jutra|do uslyszenia|gg no "
+    "re|voice message|voice "
     "note|media omitted|image omitted|sticker omitted|"
     "gif omitted|sprachnachricht|says hello|says hi|sends love|sends regards|off the board|i . e|i "
     ". e .";

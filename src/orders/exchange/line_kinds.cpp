@@ -203,6 +203,16 @@ bool IsTypeOfMany(const Token& token) {
   return IsA(token, TokenKind::Word) && std::ranges::find(types, token.Text) != types.end();
 }
 
+/// "A Vie", in capitals.
+bool NamesUnitShortly(Tokens tokens, const PlaceNames& names) {
+  for (std::size_t at = 0; at + 1 < tokens.size(); ++at) {
+    if (UnitTypeOf(tokens[at]) == 0 || !tokens[at].Capital || !tokens[at + 1].Capital) continue;
+    const auto places = names.At(tokens, at + 1);
+    if (!places.empty() && places[0].IsExact) return true;
+  }
+  return false;
+}
+
 bool IsPressWord(const Token& token) {
   constexpr std::array<std::string_view, 8> titles{"press",  "presse", "pers",     "prensa",
                                                    "stampa", "prasa",  "imprensa", "pressen"};
@@ -292,7 +302,13 @@ bool IsPressTitle(Tokens tokens) {
 
 bool IsPressLine(Tokens tokens) {
   const auto first = std::ranges::find_if(tokens, IsWordToken);
-  if (first == tokens.end() || !IsPressWord(*first)) return false;
+  if (first == tokens.end()) return false;
+  // '"The bear wakes hungry." - St Petersburg Gazette'.
+  constexpr std::ptrdiff_t few = 3;
+  const bool isQuote = first->Begin > 0 && *(first->Written.data() - 1) == '"';
+  if (isQuote && CountWords(tokens) > few)
+    return std::ranges::none_of(tokens, [](const Token& token) { return UnitTypeOf(token) != 0; });
+  if (!IsPressWord(*first)) return false;
   const auto colon = std::find_if(first, tokens.end(), IsColonToken);
   const bool namesUnit = std::any_of(first, colon, [](const Token& token) {
     return UnitTypeOf(token) != 0 || HasUse(token, WordUse::Orders);
@@ -340,7 +356,8 @@ bool IsNoOrder(Tokens tokens, const PlaceNames& names, bool inSignature) {
   const auto first = std::ranges::find_if(tokens, IsWordToken);
   if (first == tokens.end()) return true;
   const int places = evidence.Places;
-  if (HasUse(*first, WordUse::Greeting) && evidence.Commands == 0) {
+  if (HasUse(*first, WordUse::Greeting) && evidence.Commands == 0 &&
+      !NamesUnitShortly(tokens, names)) {
     return evidence.Moves == 0 ? places <= Strong : places == 0;
   }
   if (HasUse(*first, WordUse::Condition)) return false;

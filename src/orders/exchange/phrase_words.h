@@ -21,7 +21,7 @@ inline constexpr std::array AllWords{"all"sv,       "alle"sv,  "tous"sv,  "toute
                                      "wszystkie"sv, "each"sv,  "beide"sv};
 inline constexpr std::array ViaWords{"via"sv,  "by"sv,    "using"sv, "with"sv, "through"sv,
                                      "par"sv,  "over"sv,  "mit"sv,   "met"sv,  "med"sv,
-                                     "door"sv, "przez"sv, "per"sv,   "com"sv};
+                                     "door"sv, "przez"sv, "per"sv,   "com"sv,  "por"sv};
 inline constexpr std::array SeaWords{
     "convoy"sv,  "convoys"sv, "sea"sv,      "c"sv,        "water"sv,     "cv"sv,
     "konvoi"sv,  "konvoj"sv,  "convoi"sv,   "konwoj"sv,   "convoglio"sv, "comboio"sv,
@@ -32,13 +32,13 @@ inline constexpr std::array<std::string_view, 34> HoldTails{
     "fast",   "still",  "in",         "place",      "firm",       "home",  "strong",
     "steady", "there",  "where",      "it",         "they",       "ferma", "parada",
     "quieto", "quieta", "quietos",    "tranquillo", "tranquille", "rustig"};
-inline constexpr std::array<std::string_view, 46> MoveTails{
-    "dans",    "nel",     "ship",    "course", "sail",     "way",    "bound",   "rumbo",
-    "rotta",   "route",   "cap",     "large",  "straight", "kurs",   "sich",    "zich",
-    "sig",     "seg",     "ab",      "vor",    "back",     "zuruck", "zurueck", "terug",
-    "tilbage", "tilbake", "against", "toward", "towards",  "on",     "upon",    "for",
-    "in",      "ins",     "im",      "over",   "across",   "out",    "up",      "en",
-    "down",    "off",     "home",    "round",  "around",   "along"};
+inline constexpr std::array<std::string_view, 47> MoveTails{
+    "sur",   "dans",    "nel",     "ship",    "course", "sail",     "way",    "bound",
+    "rumbo", "rotta",   "route",   "cap",     "large",  "straight", "kurs",   "sich",
+    "zich",  "sig",     "seg",     "ab",      "vor",    "back",     "zuruck", "zurueck",
+    "terug", "tilbage", "tilbake", "against", "toward", "towards",  "on",     "upon",
+    "for",   "in",      "ins",     "im",      "over",   "across",   "out",    "up",
+    "en",    "down",    "off",     "home",    "round",  "around",   "along"};
 inline constexpr std::array<std::string_view, 5> Nouns{"move", "attack", "advance", "of", "for"};
 inline constexpr std::array<std::string_view, 12> CountingWords{
     "one", "two", "a", "all", "remaining", "rest", "any", "other", "of", "both", "last", "for"};

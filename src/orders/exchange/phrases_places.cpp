@@ -38,7 +38,7 @@ void Phrases::AddCoasts(const PlaceMatch& match, std::size_t at, Read<WrittenPla
   if (letter == 0 || rows.empty()) return;
   const bool isShort = tokens_[next++].Text.size() == 1;
   // "s.c." comes as four tokens.
-  if (isShort && Is(next, TokenKind::Dot) && Is(next + 1, "c")) {
+  if (isShort && Is(next, TokenKind::Dot) && (Is(next + 1, "c") || Is(next + 1, "k"))) {
     next += Is(next + 2, TokenKind::Dot) ? 3 : 2;
   } else if (IsCoastNoun(next)) {
     ++next;

@@ -29,10 +29,7 @@ WordRun WordsFrom(Tokens tokens, std::size_t at) {
     const bool isDot = at < tokens.size() && IsA(tokens[at], TokenKind::Dot);
     const bool isHyphen = at + 1 < tokens.size() && IsA(tokens[at], TokenKind::Dash) &&
                           tokens[at].Text == "-" && tokens[at].Glued && tokens[at + 1].Glued;
-    // "S:t Petersburg".
-    const bool isSaint = run.Words[run.Count - 1] == "s" && at + 1 < tokens.size() &&
-                         IsA(tokens[at], TokenKind::Colon) && IsWord(tokens[at + 1], "t");
-    if (isDot || isHyphen || isSaint) ++at;
+    if (isDot || isHyphen) ++at;
   }
   return run;
 }

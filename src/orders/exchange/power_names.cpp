@@ -40,7 +40,7 @@ constexpr std::array Nicknames{
     PowerWords{4,
                "russian|rosji|russians|russland|rusland|russie|rusia|ryssland|rosja|russe|"
                "russo|ruso|rysk|russisch|venaja|rusko|oroszorszag|rusya|rossiya|rosia|"
-               "ryska|russiske|russische|rusa|russa"},
+               "ryska|russisk|russiske|russische|rusa|russa"},
     PowerWords{5,
                "turkish|turcji|turks|ottoman empire|ottoman|ottomans|turkei|tuerkei|turquie|"
                "turquia|turchia|turkije|turkiet|tyrkiet|tyrkia|turcja|turc|turco|"

@@ -17,7 +17,8 @@ struct Row {
 constexpr std::array ProseRows{
     Row{ProseUse::Lead,
         "o os de den der das het la le el os att at dat dass "
-        "and so then also that while now finally first ok okay well let lets gonna und "
+        "lat lad laat lass deja lascia deixa niech and so then also that while now finally first "
+        "ok okay well let lets gonna und "
         "och og et dann puis que che whilst but mais aber ma pero"},
     Row{ProseUse::Adverb,
         "also too again just simply still then now directly straight quickly quietly "

@@ -41,6 +41,20 @@ bool IsOpening(Tokens words, const PlaceNames& names, int power) {
   return leads && isOwn && !isOpen && !ReadAside(words, names) && !NamesPlace(words, names);
 }
 
+/// "Sadly I must remove a unit:" before adjustments.
+bool IsTitleOfAdjustments(Tokens words, const PlaceNames& names) {
+  const bool isOpen = std::ranges::any_of(words, [](const Token& token) {
+    return HasUse(token, WordUse::Condition, WordUse::Report) || IsDoubtfulSign(token);
+  });
+  const bool adjusts = std::ranges::any_of(words, [](const Token& token) {
+    constexpr std::size_t shortest = 4;
+    const Verb verb = VerbOf(token);
+    return (verb == Verb::Build || verb == Verb::Disband) && token.Text.size() > shortest;
+  });
+  return IsA(words.back(), TokenKind::Colon) && adjusts && !isOpen && !NamesPlace(words, names) &&
+         PowerIn(words) == 0 && !SaysOfOrders(words) && !ReadAside(words, names);
+}
+
 /// Whether words before an order are a title of it: "Orders of Turkey, with love: the".
 bool IsTitle(Tokens words, const PlaceNames& names, int power) {
   const auto last = std::find_if_not(words.rbegin(), words.rend(), [](const Token& token) {
@@ -128,6 +142,10 @@ bool Rows::IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const
   if (IsAddress(remark, said.At.Begin == 0, power) || IsTitle(remark, known_.Names, power))
     return false;
   if (SignsOff(line.All, said.At, known_.Names)) return false;
+  if (known_.Stage == model::Stage::Adjustments && IsTitleOfAdjustments(remark, known_.Names))
+    return false;
+  // "(if the Brit minds, tough luck)".
+  if (FindSaying(remark, Saying::Shrugs) && !NamesPlace(remark, known_.Names)) return false;
   if (!isOwn && IsOfAnotherMatter(line, said)) return false;
   // "Correction: A Lvp - Yor, sorry, wrong line".
   const bool excuses =

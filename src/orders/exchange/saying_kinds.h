@@ -16,6 +16,7 @@ enum class Saying : std::uint8_t {
   Leaves,      ///< leaves it to somebody what becomes of them: "up to you"
   Shrugs,      ///< leaves what may happen to itself: "if he minds, tough luck"
   Excludes,    ///< before an order: it is the one that is not meant: "(not A Par - Pic)"
+  Chats,       ///< small talk, though its words may be of orders elsewhere: "well played"
   Reconsiders  ///< before an order, or alone: the one above may be meant no longer
 };
 

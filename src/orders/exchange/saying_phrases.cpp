@@ -287,6 +287,19 @@ constexpr std::array SayingTable{
                   "no hard feelings|lump it|tough luck|serves him right|nicht bose|selber schuld|"
                   "pech gehabt|tant pis|peor para|peggio per|pior para"},
     SayingPhrases{
+        Saying::Chats,
+        "well played|nicely played|gut gespielt|bien joue|bien jugado|ben giocato|bem jogado|"
+        "goed gespeeld|godt spillet|bra spelat|dobrze zagrane|dont ask|dont worry|dont laugh|"
+        "dont judge|no laughing|saw it coming|saw that coming|seen it coming|gotta go|gotta run|"
+        "gotta dash|got to go|got to run|have to go|have to run|have to dash|must go|must dash|"
+        "must run|muss los|muss weg|mussen los|muss ins bett|muss schlafen|je dois filer|je file|"
+        "dois y aller|tengo que irme|me tengo que ir|devo scappare|devo andare|tenho de ir|"
+        "tenho que ir|moet gaan|moet rennen|moet ervandoor|ma lobe|ma stikke|maste springa|"
+        "maste ga|musze leciec|musze isc|no joke|no jokes|not joking|not kidding|im serious|"
+        "kein witz|kein scherz|kein spas|pas de blague|sans blague|sin broma|sin bromas|"
+        "no es broma|niente scherzi|non scherzo|sem brincadeira|geen grap|geen grapje|"
+        "ingen spog|ikke for sjov|inget skamt|bez zartow"},
+    SayingPhrases{
         Saying::Excludes,
         "=not|=nicht|=pas|=niet|=ikke|=inte|=instead of|=rather than|=statt|=anstatt|=anstelle von|"
         "=au lieu de|=plutot que|=en lugar de|=en vez de|=invece di|=invece che|=em vez de|"

@@ -19,6 +19,16 @@ Tokens PartOf(Tokens line, TokenRange range) {
   return line.subspan(range.Begin, range.End - range.Begin);
 }
 
+/// Behind "Hello," or "Hi Tom,".
+Tokens PastGreeting(Tokens part) {
+  constexpr std::size_t longest = 3;
+  if (part.empty() || !HasUse(part[0], WordUse::Greeting)) return part;
+  for (std::size_t at = 1; at < std::min(longest, part.size()); ++at) {
+    if (IsA(part[at], TokenKind::Comma) && at + 1 < part.size()) return part.subspan(at + 1);
+  }
+  return part;
+}
+
 /// The two runs of tokens as one.
 template <class Run>
 std::vector<Token> Joined(std::vector<Token> first, const Run& second) {
@@ -52,7 +62,7 @@ void ShareVerbs(Tokens line, const KnownGame& known, const Context& context, Par
     auto& [range, part] = parts[i - 1];
     const PartRead& next = parts[i].second;
     if (IsUnderstood(part) || part.IsRemark || next.Kind != LineKind::Order) continue;
-    const Tokens whole = PartOf(line, range);
+    const Tokens whole = PastGreeting(PartOf(line, range));
     // "Germany: A Ber, A Mun hold", "with Ruhr and Silesia supporting it".
     const auto colon = std::ranges::find(whole, TokenKind::Colon, &Token::Kind);
     const bool isWith = IsWord(whole[0], "with") || IsWord(whole[0], "and");

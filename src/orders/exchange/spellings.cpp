@@ -24,12 +24,11 @@ constexpr std::array Spellings{
     UsualSpellings{"Lvn", "lvo|lva|livland|livonie|lijfland|inflanty|liwonia"},
     UsualSpellings{"Mos", "moskva|moskau|moscou|mosca|moscu|moskou|moskwa|moskova|moscovo"},
     UsualSpellings{"Sev", "sebastopol|sewastopol|sebastopoli"},
-    UsualSpellings{
-        "Stp",
-        "pet|spb|stpete|saint petersburg|st pete|st pet|st p|saint pete|petersburg|"
-        "petrograd|s petersburg|stpt|sankt petersburg|saint petersbourg|st petersbourg|"
-        "san pietroburgo|pietroburgo|san petersburgo|sint petersburg|sao petersburgo|"
-        "st petersburgo|s t petersburg|petersbourg|petersburgo|sankt petersborg|st petersborg"},
+    UsualSpellings{"Stp",
+                   "pet|spb|stpete|saint petersburg|st pete|st pet|st p|saint pete|petersburg|"
+                   "petrograd|s petersburg|stpt|sankt petersburg|saint petersbourg|st petersbourg|"
+                   "san pietroburgo|pietroburgo|san petersburgo|sint petersburg|sao petersburgo|"
+                   "st petersburgo|petersbourg|petersburgo|sankt petersborg|st petersborg"},
     UsualSpellings{"Ukr", "ukraina|ucraina|ucrania|oekraine"},
     UsualSpellings{"War", "warszawa|warschau|varsovie|varsavia|varsovia"},
     UsualSpellings{"Ank", "angora|ancara"},
@@ -69,7 +68,7 @@ constexpr std::array Spellings{
     UsualSpellings{"Rum", "romania|roumania|rumanien|rumaenien|roumanie|roemenie|rumunia|romenia"},
     UsualSpellings{"Ser", "servia|serbien|serbie|servie"},
     UsualSpellings{"Spa", "esp|spanien|espagne|spagna|espana|spanje|hiszpania|espanha|spania"},
-    UsualSpellings{"Swe", "schweden|suede|svezia|suecia|zweden|sverige|szwecja"},
+    UsualSpellings{"Swe", "sve|schweden|suede|svezia|suecia|zweden|sverige|szwecja"},
     UsualSpellings{"Tun", "tunisia|tns|tunesien|tunez|tunisi|tunisie|tunezja"},
     UsualSpellings{"ADR",
                    "ads|adria|adriatico|adriatique|mar adriatico|mare adriatico|mer adriatique|"

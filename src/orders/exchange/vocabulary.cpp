@@ -68,7 +68,9 @@ constexpr std::array Verbs{
         "verteidigt verteidigen defend defiende defienden defiendo difende difendono defende "
         "defendem verdedigt verdedigen forsvarer forsvar forsvarar forsvara broni bronia "
         "tenons tiennent restasse resti restera quede queden fique liggen ligger garde "
-        "gardent aguanta mantienen staat staan wacht stilla avvakter"},
+        "gardent aguanta mantienen staat staan wacht stilla avvakter ferma ferme fermo fermi "
+        "parado "
+        "parada quieto quieta immobile"},
     VerbWords{
         Verb::Support,
         "s u sup supp supports support supporting spt sprt unterst su backs backing unterstutzt "

@@ -18,6 +18,9 @@ bool IsLetterOrDigit(char c) {
 }
 
 std::size_t WordEnd(std::string_view text, std::size_t at) {
+  // "S:t Petersburg".
+  constexpr std::string_view saint = "s:t ";
+  if (text::LowerCase(text.substr(at, saint.size())) == saint) return at + saint.size() - 1;
   while (at < text.size() &&
          (IsLetterOrDigit(text[at]) ||
           (text[at] == '\'' && at + 1 < text.size() && IsLetterOrDigit(text[at + 1])))) {
@@ -36,6 +39,7 @@ std::string WordText(std::string_view written) {
   // "l'armata", "d'Istanbul".
   if (word.size() > 3 && word[1] == '\'' && (word[0] == 'l' || word[0] == 'd')) word.erase(0, 2);
   std::erase(word, '\'');
+  std::erase(word, ':');
   return word;
 }
 
