@@ -22,11 +22,39 @@ constexpr auto Examples = std::to_array<Example>({
 /// Far more than any game needs, and little enough to be kept.
 constexpr std::size_t LongestLine = 1'000'000;
 
+/// Answers on their way out, some of them at a time: whoever reads them is woken by each writing.
+class AnswerQueue {
+ public:
+  explicit AnswerQueue(Console& console) : console_(console) {}
+
+  void Add(std::string_view answer) {
+    waiting_.append(answer).append("\n");
+    if (waiting_.size() >= Enough) Print();
+  }
+
+  void Deliver() {
+    Print();
+    console_.Deliver();
+  }
+
+ private:
+  /// What a pipe holds.
+  static constexpr std::size_t Enough = 65'536;
+
+  void Print() {
+    console_.PrintBytes(waiting_);
+    waiting_.clear();
+  }
+
+  Console& console_;
+  std::string waiting_;
+};
+
 /// Cuts a stream into lines. Whoever waits for answers to what was read so far gets them before
 /// this waits for more.
 class LineReader {
  public:
-  LineReader(std::istream& in, Console& console) : in_(*in.rdbuf()), console_(console) {}
+  LineReader(std::istream& in, AnswerQueue& answers) : in_(*in.rdbuf()), answers_(answers) {}
 
   /// The next line, without its end, until the next call; nothing at the end of input. Of a line
   /// that is too long only the beginning is kept.
@@ -51,7 +79,7 @@ class LineReader {
   /// Takes over what has arrived; waits for it if nothing has. False at the end of input.
   bool Fill() {
     using Traits = std::char_traits<char>;
-    if (in_.in_avail() <= 0) console_.Deliver();
+    if (in_.in_avail() <= 0) answers_.Deliver();
     if (Traits::eq_int_type(in_.sgetc(), Traits::eof())) return false;
     const auto count = std::max<std::streamsize>(in_.in_avail(), 1);
     const std::size_t size = bytes_.size();
@@ -61,7 +89,7 @@ class LineReader {
   }
 
   std::streambuf& in_;
-  Console& console_;
+  AnswerQueue& answers_;
   std::string bytes_;
   std::size_t next_ = 0;  ///< where the next line begins
   std::size_t seen_ = 0;  ///< up to here there is no line end
@@ -69,13 +97,13 @@ class LineReader {
 
 int Execute(const CommandLine& line, Console& console) {
   serve::Server server(DataDirectory(line), model::ProgramDirectory());
-  LineReader lines(std::cin, console);
+  AnswerQueue answers(console);
+  LineReader lines(std::cin, answers);
   while (const auto request = lines.Next()) {
-    const std::string answer = request->size() > LongestLine ? serve::Server::TooLong(LongestLine)
-                                                             : server.Answer(*request);
-    console.PrintObject(answer);
+    answers.Add(request->size() > LongestLine ? serve::Server::TooLong(LongestLine)
+                                              : server.Answer(*request));
   }
-  console.Deliver();
+  answers.Deliver();
   return ExitDone;
 }
 

@@ -142,7 +142,7 @@ std::string Answer(const Heading& heading, bool isDone, const Fill& fill) {
     out.Member("done", isDone);
     fill(out);
   });
-  return out.Take();
+  return out.Taken();
 }
 
 }  // namespace

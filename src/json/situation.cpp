@@ -14,7 +14,7 @@ std::string SituationText(const model::GameState& game) {
     out.Key(SituationName);
     WriteSituation(out, game);
   });
-  return out.Take();
+  return out.Taken();
 }
 
 void ReadSituation(std::string_view text, model::GameState& game) {

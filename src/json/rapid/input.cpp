@@ -109,15 +109,11 @@ int Node::Count(int bound) const {
 }
 
 std::string Node::Json() const {
+  if (value_.IsUint64()) return std::to_string(value_.GetUint64());
+  if (value_.IsInt64()) return std::to_string(value_.GetInt64());
   Output out;
-  if (value_.IsUint64()) {
-    out.Raw(std::to_string(value_.GetUint64()));
-  } else if (value_.IsInt64()) {
-    out.Number(value_.GetInt64());
-  } else {
-    out.Utf8(Utf8());
-  }
-  return out.Take();
+  out.Utf8(Utf8());
+  return out.Taken();
 }
 
 void Node::Fail(std::string_view what) const {

@@ -2,7 +2,9 @@
 
 #include "model/errors.h"
 
+#include <array>
 #include <bitset>
+#include <cstddef>
 #include <cstdint>
 // Compares 16 bytes at once where the processor can. Up to 15 bytes behind a text are looked at.
 #if defined(__SSE2__) && !defined(RAPIDJSON_SSE2)
@@ -123,8 +125,14 @@ class Document {
   Node Root() const { return {document_, nullptr, std::string_view()}; }
 
  private:
+  /// What a situation needs: most texts are read without asking the system for memory.
+  static constexpr std::size_t Room = 16'384;
+  static constexpr std::size_t StackRoom = 8'192;
+
   std::string text_;  ///< texts without escapes stay where they are
-  rapidjson::Document document_;
+  alignas(std::max_align_t) std::array<char, Room> room_;
+  rapidjson::MemoryPoolAllocator<> pool_{room_.data(), room_.size()};
+  rapidjson::Document document_{&pool_, StackRoom};
 };
 
 }  // namespace orb::json

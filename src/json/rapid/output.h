@@ -1,7 +1,10 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <rapidjson/writer.h>
 #include <string>
 #include <string_view>
@@ -9,39 +12,52 @@
 
 namespace orb::json {
 
-/// Where the writer puts its characters: a text that grows by large steps, since most of the time
-/// goes into adding a character or a short word.
+/// Where the writer puts its characters. Most of the time goes into adding a character or a short
+/// word, and most texts need no room but the sink's own.
 class TextSink {
  public:
   using Ch = char;
 
+  TextSink() {
+    next_ = room_.data();
+    end_ = next_ + room_.size();
+  }
+  TextSink(const TextSink&) = delete;
+  TextSink& operator=(const TextSink&) = delete;
+
   void Put(char c) {
-    if (size_ == text_.size()) Grow(1);
-    text_[size_++] = c;
+    if (next_ == end_) Grow(1);
+    *next_++ = c;
   }
   void Flush() {}
 
   /// A text between quotes.
   void PutQuoted(std::string_view text) {
-    if (text_.size() - size_ < text.size() + 2) Grow(text.size() + 2);
-    char* to = text_.data() + size_;
-    *to = '"';
-    text.copy(to + 1, text.size());
-    to[text.size() + 1] = '"';
-    size_ += text.size() + 2;
+    if (static_cast<std::size_t>(end_ - next_) < text.size() + 2) Grow(text.size() + 2);
+    *next_++ = '"';
+    next_ = std::copy(text.begin(), text.end(), next_);
+    *next_++ = '"';
   }
 
-  /// All of it; the sink must not be used after that.
-  std::string Take() {
-    text_.resize(size_);
-    return std::move(text_);
-  }
+  /// All that was put.
+  std::string Taken() const { return std::string(Begin(), static_cast<const char*>(next_)); }
 
  private:
-  void Grow(std::size_t more) { text_.resize(2 * (text_.size() + more) + 8000); }
+  const char* Begin() const { return more_ ? more_.get() : room_.data(); }
 
-  std::string text_;
-  std::size_t size_ = 0;  ///< of what was put
+  void Grow(std::size_t more) {
+    const auto size = static_cast<std::size_t>(next_ - Begin());
+    const std::size_t room = 2 * (size + more);
+    auto grown = std::make_unique_for_overwrite<char[]>(room);
+    next_ = std::copy(Begin(), static_cast<const char*>(next_), grown.get());
+    end_ = grown.get() + room;
+    more_ = std::move(grown);
+  }
+
+  std::array<char, 16'384> room_;
+  std::unique_ptr<char[]> more_;
+  char* next_ = nullptr;
+  char* end_ = nullptr;
 };
 
 /// The writer, with a shorter way for texts that stand in JSON as they are: nearly all do.
@@ -120,8 +136,8 @@ class Output {
     Array(texts, [&](const auto& text) { Text(text); });
   }
 
-  /// What was written; the output must not be used after that.
-  std::string Take() { return sink_.Take(); }
+  /// What was written.
+  std::string Taken() const { return sink_.Taken(); }
 
  private:
   TextSink sink_;
