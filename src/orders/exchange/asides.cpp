@@ -306,7 +306,8 @@ std::optional<TokenRange> ReadReservation(Tokens line, bool isBehindOrders) {
   if (IsOffer(line)) return std::nullopt;
   const auto word = std::ranges::find(line, TokenKind::Word, &Token::Kind);
   const bool asks = std::ranges::find(line, "?", &Token::Text) != line.end();
-  if (asks && isBehindOrders && !IsOfEverydayLife(line)) return TokenRange{0, line.size()};
+  if (asks && isBehindOrders && !IsOfEverydayLife(line) && !AsksMaster(line))
+    return TokenRange{0, line.size()};
   if (word == line.end()) return std::nullopt;
   if (!HasUse(*word, WordUse::Reservation)) return std::nullopt;
   // "But" begins many a new paragraph.

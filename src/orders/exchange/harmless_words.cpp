@@ -42,7 +42,8 @@ constexpr std::string_view PlainPhrases =
     "denne gang|denna gang|tym razem|do zobaczenia|do widzenia|do jutra|do uslyszenia|gg no "
     "re|voice message|voice "
     "note|media omitted|image omitted|sticker omitted|"
-    "gif omitted|sprachnachricht|says hello|says hi|sends love|sends regards|off the board|i . e|i "
+    "gif omitted|sprachnachricht|says hello|says hi|sends love|sends regards|off the board|from "
+    "the board|the safe one|bounce i expect|bounce expected|i . e|i "
     ". e .";
 
 /// Names of slips of the pen, in the languages of the verbs.
@@ -160,6 +161,20 @@ bool ExcusesSlip(Tokens words) {
   return std::ranges::any_of(words, isSlip) && std::ranges::all_of(words, [&](const Token& token) {
            if (!IsA(token, TokenKind::Word)) return token.Text != "?";
            return isSlip(token) || besides.contains(token.Text) || HasUse(token, WordUse::Filler);
+         });
+}
+
+bool AsksMaster(Tokens words) {
+  constexpr std::array<std::string_view, 10> nouns{"question", "frage",  "pregunta",  "domanda",
+                                                   "pergunta", "vraag",  "sporgsmal", "sporsmal",
+                                                   "fraga",    "pytanie"};
+  const bool isTitled =
+      words.size() > 4 && IsOneOf(words[0], nouns) && IsA(words[1], TokenKind::Colon);
+  return isTitled && std::ranges::none_of(words, [](const Token& token) {
+           constexpr auto pointing =
+               static_cast<unsigned>(Signal::Points) | static_cast<unsigned>(Signal::Hints);
+           return ((token.Means.Signals & pointing) != 0 && !HasUse(token, WordUse::Orders)) ||
+                  (UnitTypeOf(token) != 0 && token.Text.size() > 1);
          });
 }
 

@@ -26,12 +26,12 @@ inline constexpr std::array SeaWords{
     "convoy"sv,  "convoys"sv, "sea"sv,      "c"sv,        "water"sv,     "cv"sv,
     "konvoi"sv,  "konvoj"sv,  "convoi"sv,   "konwoj"sv,   "convoglio"sv, "comboio"sv,
     "konvooi"sv, "convooi"sv, "konvojen"sv, "konvoien"sv, "k"sv,         "konwoju"sv};
-inline constexpr std::array<std::string_view, 34> HoldTails{
-    "kvar",   "gewoon", "natuurlijk", "naturlich",  "der",        "den",   "er",
-    "is",     "staan",  "stehen",     "dort",       "tight",      "put",   "position",
-    "fast",   "still",  "in",         "place",      "firm",       "home",  "strong",
-    "steady", "there",  "where",      "it",         "they",       "ferma", "parada",
-    "quieto", "quieta", "quietos",    "tranquillo", "tranquille", "rustig"};
+inline constexpr std::array<std::string_view, 35> HoldTails{
+    "kvar",   "gewoon", "natuurlijk", "naturlich", "der",        "den",        "er",
+    "is",     "staan",  "stehen",     "dort",      "tight",      "put",        "position",
+    "fast",   "still",  "in",         "place",     "firm",       "home",       "strong",
+    "steady", "there",  "where",      "it",        "they",       "ferma",      "parada",
+    "liggen", "quieto", "quieta",     "quietos",   "tranquillo", "tranquille", "rustig"};
 inline constexpr std::array<std::string_view, 47> MoveTails{
     "sur",   "dans",    "nel",     "ship",    "course", "sail",     "way",    "bound",
     "rumbo", "rotta",   "route",   "cap",     "large",  "straight", "kurs",   "sich",

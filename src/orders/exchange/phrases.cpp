@@ -200,6 +200,10 @@ std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
   for (std::size_t next = ToVerb(at); next < tokens_.size(); next = ToVerb(next + 1)) {
     const bool isFirst = verb == Verb::None;
     Verb word = isFirst && IsPreposition(next) ? Verb::Move : VerbOf(tokens_[next]);
+    // Units that go elsewhere in the adjustments go for good.
+    constexpr std::array removing{"retire"sv, "retirons"sv, "retirent"sv, "ritiro"sv, "retiro"sv};
+    if (stage_ == model::Stage::Adjustments && IsOneOf(tokens_[next], removing))
+      word = Verb::Disband;
     // "Retira" removes, "se retira" goes elsewhere.
     if (isFirst && isReflexive && word == Verb::Disband) word = Verb::Retreat;
     if (!isFirst && isReflexive && Is(next, "a") && !tokens_[next].Capital) {

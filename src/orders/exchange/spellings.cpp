@@ -6,89 +6,101 @@ namespace orb::exchange {
 namespace {
 
 constexpr std::array Spellings{
-    UsualSpellings{"Edi", "edimbourg|edimburgo|edinburg|edynburg|edimburg"},
-    UsualSpellings{"Lon", "ldn|londres|londra|londen|londyn"},
-    UsualSpellings{"Wal", "galles|gales|pays de galles|walia|pais de gales"},
-    UsualSpellings{"Bur", "bourgogne|borgogna|borgona|burgund|bourgondie|borgonha|burgundia"},
-    UsualSpellings{"Gas", "gascogne|gascogna|gascuna|gascona|gaskogne|gasconha|gaskonia"},
-    UsualSpellings{"Mar", "marsella|marsiglia|marselha|marsylia"},
-    UsualSpellings{"Par", "parigi|parijs|paryz"},
-    UsualSpellings{"Pic", "picardie|picardia|piccardia|pikardie|pikardia"},
-    UsualSpellings{"Ber", "berlino|berlijn|berlim"},
-    UsualSpellings{"Kie", "kilonia"},
+    UsualSpellings{"Edi", "edynburga|edimbourg|edimburgo|edinburg|edynburg|edimburg"},
+    UsualSpellings{"Lon", "londynu|ldn|londres|londra|londen|londyn"},
+    UsualSpellings{"Wal", "walii|galles|gales|pays de galles|walia|pais de gales"},
+    UsualSpellings{"Bur",
+                   "burgundii|bourgogne|borgogna|borgona|burgund|bourgondie|borgonha|burgundia"},
+    UsualSpellings{"Gas", "gaskonii|gascogne|gascogna|gascuna|gascona|gaskogne|gasconha|gaskonia"},
+    UsualSpellings{"Mar", "marsylii|marsella|marsiglia|marselha|marsylia"},
+    UsualSpellings{"Par", "paryza|parigi|parijs|paryz"},
+    UsualSpellings{"Pic", "pikardii|picardie|picardia|piccardia|pikardie|pikardia"},
+    UsualSpellings{"Ber", "berlina|berlino|berlijn|berlim"},
+    UsualSpellings{"Kie", "kilonii|kilonia"},
     UsualSpellings{"Mun", "munchen|muenchen|monaco|monachium|monaco di baviera|munique"},
-    UsualSpellings{"Pru", "preussen|preusen|prusse|pruisen|prusy|preusse"},
+    UsualSpellings{"Pru", "prus|preussen|preusen|prusse|pruisen|prusy|preusse"},
     UsualSpellings{"Ruh", "ruhrgebiet|ruhrgebied|ruhromradet|zaglebie ruhry|zaglebie"},
-    UsualSpellings{"Sil", "schlesien|silesie|slesia|silezie|slask|silezja"},
-    UsualSpellings{"Fin", "finlande|finlandia|suomi"},
-    UsualSpellings{"Lvn", "lvo|lva|livland|livonie|lijfland|inflanty|liwonia"},
-    UsualSpellings{"Mos", "moskva|moskau|moscou|mosca|moscu|moskou|moskwa|moskova|moscovo"},
-    UsualSpellings{"Sev", "sebastopol|sewastopol|sebastopoli"},
+    UsualSpellings{"Sil", "slaska|schlesien|silesie|slesia|silezie|slask|silezja"},
+    UsualSpellings{"Fin", "finlandii|finlande|finlandia|suomi"},
+    UsualSpellings{"Lvn", "inflant|lvo|lva|livland|livonie|lijfland|inflanty|liwonia"},
+    UsualSpellings{"Mos", "moskwy|moskva|moskau|moscou|mosca|moscu|moskou|moskwa|moskova|moscovo"},
+    UsualSpellings{"Sev", "sewastopola|sebastopol|sewastopol|sebastopoli"},
     UsualSpellings{"Stp",
-                   "pet|spb|stpete|saint petersburg|st pete|st pet|st p|saint pete|petersburg|"
+                   "petersburga|sankt petersburga|pet|spb|stpete|saint petersburg|st pete|st "
+                   "pet|st p|saint pete|petersburg|"
                    "petrograd|s petersburg|stpt|sankt petersburg|saint petersbourg|st petersbourg|"
                    "san pietroburgo|pietroburgo|san petersburgo|sint petersburg|sao petersburgo|"
                    "st petersburgo|petersbourg|petersburgo|sankt petersborg|st petersborg"},
-    UsualSpellings{"Ukr", "ukraina|ucraina|ucrania|oekraine"},
-    UsualSpellings{"War", "warszawa|warschau|varsovie|varsavia|varsovia"},
-    UsualSpellings{"Ank", "angora|ancara"},
-    UsualSpellings{"Arm", "armenien|armenie"},
+    UsualSpellings{"Ukr", "ukrainy|ukraina|ucraina|ucrania|oekraine"},
+    UsualSpellings{"War", "warszawy|warszawa|warschau|varsovie|varsavia|varsovia"},
+    UsualSpellings{"Ank", "ankary|angora|ancara"},
+    UsualSpellings{"Arm", "armenii|armenien|armenie"},
+    UsualSpellings{"Con",
+                   "konstantynopola|kon|cst|istanbul|cple|konstantinopel|costantinopoli|"
+                   "constantinopla|konstantynopol|"
+                   "istambul|estambul|stambul"},
+    UsualSpellings{"Smy", "smyrny|izmir|smirne|esmirna|smirna|smyrne"},
+    UsualSpellings{"Syr", "syrii|syrien|syrie|siria"},
+    UsualSpellings{"Boh", "czech|bohmen|boehmen|boheme|boemia|bohemen|czechy"},
+    UsualSpellings{"Bud", "budapesztu|budapeszt|boedapest|budapeste"},
+    UsualSpellings{"Gal", "galicji|galizien|galicie|galizia|galicja|galitzia|galitzien"},
+    UsualSpellings{"Tri", "triestu|trs|triest"},
+    UsualSpellings{"Tyr", "tyrolu|tyrol|tirol|tir|tyo|trl|tyl|tirolo|tyrolen"},
+    UsualSpellings{"Vie", "wiednia|wien|wenen|wieden"},
+    UsualSpellings{"Apu", "apulii|puglia|apulien|pouilles|apulie|puglie"},
+    UsualSpellings{"Nap", "neapolu|napoli|neapel|napoles|napels|neapol"},
+    UsualSpellings{"Pie", "piemontu|piemonte|piemont|piamonte"},
+    UsualSpellings{"Rom", "rzymu|roma|rzym"},
+    UsualSpellings{"Tus", "toskanii|toskana|toscane|toscana|toskania"},
+    UsualSpellings{"Ven", "wenecji|venezia|venedig|venecia|venetie|wenecja|veneza"},
+    UsualSpellings{"Alb", "albanii|albanien|albanie"},
+    UsualSpellings{"Bel", "belgii|belgien|belgique|belgio|belgica|belgie|belgia"},
+    UsualSpellings{"Bul", "bulgarii|bulgarien|bulgarie|bulgarije"},
+    UsualSpellings{"Den", "danii|danemark|danimarca|dinamarca|denemarken|danmark|dania"},
+    UsualSpellings{"Gre", "grecji|griechenland|grece|grecia|griekenland|grecja|grekland|hellas"},
     UsualSpellings{
-        "Con",
-        "kon|cst|istanbul|cple|konstantinopel|costantinopoli|constantinopla|konstantynopol|"
-        "istambul|estambul|stambul"},
-    UsualSpellings{"Smy", "izmir|smirne|esmirna|smirna|smyrne"},
-    UsualSpellings{"Syr", "syrien|syrie|siria"},
-    UsualSpellings{"Boh", "bohmen|boehmen|boheme|boemia|bohemen|czechy"},
-    UsualSpellings{"Bud", "budapeszt|boedapest|budapeste"},
-    UsualSpellings{"Gal", "galizien|galicie|galizia|galicja|galitzia|galitzien"},
-    UsualSpellings{"Tri", "trs|triest"},
-    UsualSpellings{"Tyr", "tyrol|tirol|tir|tyo|trl|tyl|tirolo|tyrolen"},
-    UsualSpellings{"Vie", "wien|wenen|wieden"},
-    UsualSpellings{"Apu", "puglia|apulien|pouilles|apulie|puglie"},
-    UsualSpellings{"Nap", "napoli|neapel|napoles|napels|neapol"},
-    UsualSpellings{"Pie", "piemonte|piemont|piamonte"},
-    UsualSpellings{"Rom", "roma|rzym"},
-    UsualSpellings{"Tus", "toskana|toscane|toscana|toskania"},
-    UsualSpellings{"Ven", "venezia|venedig|venecia|venetie|wenecja|veneza"},
-    UsualSpellings{"Alb", "albanien|albanie"},
-    UsualSpellings{"Bel", "belgien|belgique|belgio|belgica|belgie|belgia"},
-    UsualSpellings{"Bul", "bulgarien|bulgarie|bulgarije"},
-    UsualSpellings{"Den", "danemark|danimarca|dinamarca|denemarken|danmark|dania"},
-    UsualSpellings{"Gre", "griechenland|grece|grecia|griekenland|grecja|grekland|hellas"},
-    UsualSpellings{"Hol",
-                   "netherlands|the netherlands|hollande|olanda|holanda|niederlande|nederland|"
-                   "pays bas|holandia"},
+        "Hol",
+        "holandii|netherlands|the netherlands|hollande|olanda|holanda|niederlande|nederland|"
+        "pays bas|holandia"},
     UsualSpellings{"Naf",
                    "noa|nafr|n africa|north african|nordafrika|afrique du nord|nord africa|"
                    "africa del nord|africa del norte|noord afrika|norte de africa|africa do norte|"
                    "afryka polnocna|afrique nord"},
-    UsualSpellings{"Nwy", "nrw|norge|norwegen|norvege|norvegia|noruega|noorwegen|norwegia"},
-    UsualSpellings{"Por", "portogallo|portugalia"},
-    UsualSpellings{"Rum", "romania|roumania|rumanien|rumaenien|roumanie|roemenie|rumunia|romenia"},
-    UsualSpellings{"Ser", "servia|serbien|serbie|servie"},
-    UsualSpellings{"Spa", "esp|spanien|espagne|spagna|espana|spanje|hiszpania|espanha|spania"},
-    UsualSpellings{"Swe", "sve|schweden|suede|svezia|suecia|zweden|sverige|szwecja"},
-    UsualSpellings{"Tun", "tunisia|tns|tunesien|tunez|tunisi|tunisie|tunezja"},
+    UsualSpellings{"Nwy",
+                   "norwegii|nrw|norge|norwegen|norvege|norvegia|noruega|noorwegen|norwegia"},
+    UsualSpellings{"Por", "portugalii|portogallo|portugalia"},
+    UsualSpellings{"Rum",
+                   "rumunii|romania|roumania|rumanien|rumaenien|roumanie|roemenie|rumunia|romenia"},
+    UsualSpellings{"Ser", "serbii|servia|serbien|serbie|servie"},
+    UsualSpellings{"Spa",
+                   "hiszpanii|esp|spanien|espagne|spagna|espana|spanje|hiszpania|espanha|spania"},
+    UsualSpellings{"Swe", "szwecji|sve|schweden|suede|svezia|suecia|zweden|sverige|szwecja"},
+    UsualSpellings{"Tun", "tunezji|tunisia|tns|tunesien|tunez|tunisi|tunisie|tunezja"},
     UsualSpellings{"ADR",
-                   "ads|adria|adriatico|adriatique|mar adriatico|mare adriatico|mer adriatique|"
+                   "adriatyku|morza adriatyckiego|ads|adria|adriatico|adriatique|mar "
+                   "adriatico|mare adriatico|mer adriatique|"
                    "adriatisches meer|adriatische meer|adriatische zee|adriatyk|morze adriatyckie|"
                    "adriatiska havet|adriaterhavet"},
-    UsualSpellings{"AEG",
-                   "agais|egee|egeo|mer egee|mar egeo|mare egeo|egeische zee|agaisches meer|"
-                   "agaische meer|egeu|mar egeu|morze egejskie|egeiska havet|egeerhavet|"
-                   "agaiska havet"},
+    UsualSpellings{
+        "AEG",
+        "morza egejskiego|agais|egee|egeo|mer egee|mar egeo|mare egeo|egeische zee|agaisches meer|"
+        "agaische meer|egeu|mar egeu|morze egejskie|egeiska havet|egeerhavet|"
+        "agaiska havet"},
     UsualSpellings{"BAL",
-                   "bls|blt|bas|ostsee|baltique|mer baltique|mar baltico|mare baltico|oostzee|"
+                   "morza baltyckiego|baltyku|bls|blt|bas|ostsee|baltique|mer baltique|mar "
+                   "baltico|mare baltico|oostzee|"
                    "ostersjon|ostersoen|morze baltyckie|baltico|baltyk|ostersjoen"},
     UsualSpellings{"BAR",
-                   "brs|bas|barentssee|mer de barents|mare di barents|mar de barents|barentszzee|"
+                   "morza barentsa|brs|bas|barentssee|mer de barents|mare di barents|mar de "
+                   "barents|barentszzee|"
                    "barentshavet|barents hav|morze barentsa|barentszee"},
     UsualSpellings{"BLA",
-                   "bls|blk|schwarzes meer|schwarze meer|mer noire|mar nero|mare nero|mar negro|"
+                   "morza czarnego|bls|blk|schwarzes meer|schwarze meer|mer noire|mar nero|mare "
+                   "nero|mar negro|"
                    "zwarte zee|morze czarne|svarta havet|sortehavet|schwarzmeer|svartehavet"},
     UsualSpellings{"BOT",
-                   "gob|gbo|bothnia|gulf bothnia|g of bothnia|gulf of both|bottnischer meerbusen|"
+                   "zatoki botnickiej|gob|gbo|bothnia|gulf bothnia|g of bothnia|gulf of "
+                   "both|bottnischer meerbusen|"
                    "bottnischen meerbusen|golfe de botnie|golfo di botnia|golfo de botnia|"
                    "botnische golf|bottenviken|botnia|bottenhavet|bottniska viken|bottniske bugt|"
                    "zatoka botnicka|bottenvik|golfo botnia"},
@@ -100,7 +112,8 @@ constexpr std::array Spellings{
                    "ostmittelmeer|mediterranee est"},
     UsualSpellings{
         "ECH",
-        "eng|enc|channel|chan|chn|e channel|armelkanal|kanal|manche|manica|mancha|"
+        "kanalu|kanalu la manche|eng|enc|channel|chan|chn|e "
+        "channel|armelkanal|kanal|manche|manica|mancha|"
         "canal de la mancha|canal da mancha|kanaal|kanalen|engelska kanalen|canal|"
         "la manche|engelske kanal|engelse kanaal|kanal la manche|canal ingles|canale della manica"},
     UsualSpellings{"GOL",
@@ -114,14 +127,16 @@ constexpr std::array Spellings{
                    "bahia de helgoland|baia de heligolandia|bocht van helgoland|helgolandsbukten|"
                    "helgolandbukta|zatoka helgolandzka|deutsche bucht"},
     UsualSpellings{"ION",
-                   "ios|ionisches meer|ionische meer|mer ionienne|mar ionio|mare ionio|mar jonico|"
+                   "morza jonskiego|ios|ionisches meer|ionische meer|mer ionienne|mar ionio|mare "
+                   "ionio|mar jonico|"
                    "ionio|jonio|ionische zee|mar ionico|ionico|jonico|mer ionique|mare jonio|"
                    "joniska havet|ioniske hav|joniske hav|morze jonskie|jonische zee|ionische see|"
                    "ionienne"},
-    UsualSpellings{"IRI",
-                   "irs|irische see|mar de irlanda|ierse zee|mer d'irlande|mare d'irlanda|"
-                   "mar da irlanda|irlandska sjon|irske hav|irskesjoen|irskesjon|morze irlandzkie|"
-                   "irisches meer"},
+    UsualSpellings{
+        "IRI",
+        "morza irlandzkiego|irs|irische see|mar de irlanda|ierse zee|mer d'irlande|mare d'irlanda|"
+        "mar da irlanda|irlandska sjon|irske hav|irskesjoen|irskesjon|morze irlandzkie|"
+        "irisches meer"},
     UsualSpellings{
         "MAO",
         "matl|mda|mida|middle atlantic|m atlantic|mid atlantic|mittelatlantik|"
@@ -138,17 +153,20 @@ constexpr std::array Spellings{
                    "nordlicher atlantik|atlantico del norte|atlantico do norte|nord atlantico|"
                    "atlantico del nord|nordatlanten|noord atlantische oceaan|polnocny atlantyk|"
                    "atlantique du nord"},
-    UsualSpellings{"NTH",
-                   "nts|nos|nsea|n sea|nths|nth sea|nordsee|mer du nord|mare del nord|"
-                   "mar del norte|mar do norte|noordzee|nordsjon|nordsoen|nordsjoen|"
-                   "morze polnocne|nordsjo|nordso"},
+    UsualSpellings{
+        "NTH",
+        "morza polnocnego|nts|nos|nsea|n sea|nths|nth sea|nordsee|mer du nord|mare del nord|"
+        "mar del norte|mar do norte|noordzee|nordsjon|nordsoen|nordsjoen|"
+        "morze polnocne|nordsjo|nordso"},
     UsualSpellings{"NWG",
-                   "nrg|nwe|nws|nwgs|nwg sea|norwegische see|norwegisches meer|mer de norvege|"
+                   "morza norweskiego|nrg|nwe|nws|nwgs|nwg sea|norwegische see|norwegisches "
+                   "meer|mer de norvege|"
                    "mare di norvegia|mar de noruega|noorse zee|norska havet|norskehavet|"
                    "mar da noruega|norwegensee|europaisches nordmeer|norska sjon|morze norweskie|"
                    "mer norvegienne|mar noruego"},
     UsualSpellings{"TYS",
-                   "tyn|tyh|trs|tyrh|tyrrh|tyrrhenisches meer|tyrrhenische meer|mer tyrrhenienne|"
+                   "morza tyrrenskiego|tyn|tyh|trs|tyrh|tyrrh|tyrrhenisches meer|tyrrhenische "
+                   "meer|mer tyrrhenienne|"
                    "mar tirreno|mare tirreno|tirreno|tyrrheense zee|tyrrhenienne|tyrrenska havet|"
                    "tyrrhenska havet|tyrrhenske hav|tyrrenske hav|tyrrenhavet|morze tyrrenskie|"
                    "tyrrhenische see"},
@@ -159,7 +177,7 @@ constexpr std::array Spellings{
                    "westelijke middellandse zee|west middellandse zee|zachodnie morze srodziemne|"
                    "westmittelmeer|mediterraneo ocidental|mediterranee ouest"},
     UsualSpellings{"Lvp", "lpl|lip|lpool"},
-    UsualSpellings{"SKA", "sgk|skg|skaggerak|skaggerrak|skagerak|skagerrack"},
+    UsualSpellings{"SKA", "skagerraku|sgk|skg|skaggerak|skaggerrak|skagerak|skagerrack"},
     UsualSpellings{"Yor", "yorks|yrk"},
 };
 

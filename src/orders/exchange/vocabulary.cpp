@@ -116,7 +116,8 @@ constexpr std::array Verbs{
         "poistaa lakkauttaa feloszlik feloszlat eltavolit torol rozpusti rozpousti zrusi "
         "dagit dagilir kaldir raspustit rozpuska ubrat dialyetai dialysi auflose aufgeloest "
         "loest elimine eliminez pierde retira quita toglie opheffen opgeheven opheft "
-        "kill kills scrap scraps otb quito enleve verwijderd slette sletter stryger opplos fjerna "
+        "scuttle scuttles scuttled kill kills scrap scraps otb quito enleve verwijderd slette "
+        "sletter stryger opplos fjerna "
         "usun usunac"},
     VerbWords{
         Verb::Build,
