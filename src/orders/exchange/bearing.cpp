@@ -84,21 +84,6 @@ bool AsksAfterHealth(Tokens words) {
   return false;
 }
 
-/// "Sorry if it's crooked", "excuse the typing".
-bool Apologizes(Tokens words) {
-  constexpr std::array<std::string_view, 18> pleas{
-      "sorry",        "apologies", "excuse",   "forgive",  "pardon",   "desole",
-      "desolee",      "undskyld",  "unnskyld", "beklager", "ursakta",  "entschuldigung",
-      "entschuldige", "perdon",    "scusate",  "scusa",    "desculpa", "przepraszam"};
-  constexpr std::array<std::string_view, 22> matters{
-      "if",   "for", "about", "the", "det", "at", "att",  "om",  "dass", "das", "die",
-      "wenn", "que", "si",    "per", "se",  "il", "pour", "por", "voor", "dat", "ze"};
-  for (std::size_t at = 0; at + 1 < words.size(); ++at) {
-    if (IsOneOf(words[at], pleas) && IsOneOf(words[at + 1], matters)) return true;
-  }
-  return false;
-}
-
 /// "If anything is wrong, call me" offers, "this is wrong" does not.
 bool Offers(Tokens words) {
   constexpr std::array<std::string_view, 17> any{
@@ -245,6 +230,20 @@ bool BearsOnOrders(Tokens sentence, Unplaced unit) {
   return isOfUnit || isUnfinished || isOpen || isMore || Signs(first, Signal::Takes) ||
          Signs(first, Signal::Later) ||
          (Signs(first, Signal::Denies) && count < few && !IsCalm(sentence));
+}
+
+bool Apologizes(Tokens sentence) {
+  constexpr std::array<std::string_view, 18> pleas{
+      "sorry",        "apologies", "excuse",   "forgive",  "pardon",   "desole",
+      "desolee",      "undskyld",  "unnskyld", "beklager", "ursakta",  "entschuldigung",
+      "entschuldige", "perdon",    "scusate",  "scusa",    "desculpa", "przepraszam"};
+  constexpr std::array<std::string_view, 22> matters{
+      "if",   "for", "about", "the", "det", "at", "att",  "om",  "dass", "das", "die",
+      "wenn", "que", "si",    "per", "se",  "il", "pour", "por", "voor", "dat", "ze"};
+  for (std::size_t at = 0; at + 1 < sentence.size(); ++at) {
+    if (IsOneOf(sentence[at], pleas) && IsOneOf(sentence[at + 1], matters)) return true;
+  }
+  return false;
 }
 
 bool IsFooter(Tokens line) {

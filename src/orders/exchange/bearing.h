@@ -16,6 +16,9 @@ enum class Unplaced : std::uint8_t { Bears, Ignored };
 /// other things, "It rained all day", do not.
 bool BearsOnOrders(Tokens sentence, Unplaced unit = Unplaced::Bears);
 
+/// Whether a sentence excuses something: "Sorry if it's crooked", "excuse the typing".
+bool Apologizes(Tokens sentence);
+
 /// Whether a line is of what firms have below their mails: "confidential and may be privileged".
 bool IsFooter(Tokens line);
 

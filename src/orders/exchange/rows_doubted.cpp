@@ -123,9 +123,9 @@ bool Rows::IsOfAnotherMatter(const SourceLine& line, const Said& said) const {
            IsDoubtfulSign(token);
   });
   return isBehind && !speaksOfUnits && !NamesPlace(sentence, known_.Names) &&
-         PowerIn(sentence) == 0 && !SaysOfOrders(sentence) && !Reconsiders(sentence) &&
-         !ReadAside(sentence, known_.Names) && !ReadReservation(sentence, true) &&
-         !FindBearing(sentence, known_.Names);
+         PowerIn(sentence) == 0 && !SaysOfOrders(sentence) &&
+         (Apologizes(sentence) || !Reconsiders(sentence)) && !ReadAside(sentence, known_.Names) &&
+         !ReadReservation(sentence, true) && !FindBearing(sentence, known_.Names);
 }
 
 /// Whether words are not known to leave the orders of their sentence as they are.

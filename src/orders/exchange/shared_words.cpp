@@ -76,7 +76,7 @@ void ShareVerbs(Tokens line, const KnownGame& known, const Context& context, Par
     const bool isSure = read.Kind == LineKind::Order && !read.IsGuess;
     if (!isSure || (UnitTypeOf(*first) == 0 && !IsPossible(read.Meant.All[0], known))) continue;
     // The order is written in its own part, as far as it goes.
-    read.End = whole.size();
+    read.End = range.End - range.Begin;
     part = std::move(read);
   }
 }
