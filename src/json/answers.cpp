@@ -247,7 +247,10 @@ std::string RefusedText(const Heading& heading, const NotedMessages& messages,
                         std::string_view sentence) {
   return Answer(heading, false, [&](Output& out) {
     WriteMessages(out, messages);
-    out.Member("error", sentence);
+    // What a message has told already is not said again.
+    out.Member("error", sentence.empty() && !messages.All().empty()
+                            ? WithLineFeeds(messages.All().back().Text)
+                            : std::string(sentence));
   });
 }
 

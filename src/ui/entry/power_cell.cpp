@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace orb::ui {
 namespace {
@@ -39,7 +40,7 @@ QColor inkOn(const QColor& fill) {
 
 }  // namespace
 
-PowerCell::PowerCell(const QString& name, QWidget* parent) : QPushButton(parent), m_name(name) {
+PowerCell::PowerCell(QString name, QWidget* parent) : QPushButton(parent), m_name(std::move(name)) {
   setCheckable(true);
   setAutoDefault(true);
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);

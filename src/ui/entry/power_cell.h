@@ -14,7 +14,7 @@ class PowerCell : public QPushButton {
 
  public:
   /// `name` is the power's full name.
-  explicit PowerCell(const QString& name, QWidget* parent = nullptr);
+  explicit PowerCell(QString name, QWidget* parent = nullptr);
 
   void setColours(const QColor& fill, const QColor& edge);
   void showStanding(const session::PowerStanding& standing, model::Stage stage);

@@ -35,9 +35,9 @@ QString inWords(const model::CountryTable& countries,
 
 }  // namespace
 
-CentresChart::CentresChart(const model::CountryTable& countries,
+CentresChart::CentresChart(model::CountryTable countries,
                            std::vector<history::SeasonCentres> seasons)
-    : m_countries(countries), m_seasons(std::move(seasons)) {
+    : m_countries(std::move(countries)), m_seasons(std::move(seasons)) {
   setObjectName(QStringLiteral("picCentres"));
   setAccessibleName(tr("Centres of each power over the years"));
   setAccessibleDescription(inWords(m_countries, m_seasons));

@@ -14,7 +14,7 @@ class CentresChart : public QWidget {
   Q_OBJECT
 
  public:
-  CentresChart(const model::CountryTable& countries, std::vector<history::SeasonCentres> seasons);
+  CentresChart(model::CountryTable countries, std::vector<history::SeasonCentres> seasons);
 
   QSize sizeHint() const override;
 

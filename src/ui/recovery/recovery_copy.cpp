@@ -49,8 +49,8 @@ QJsonArray jsonOf(const std::vector<std::string>& lines) {
 std::vector<std::string> linesOf(const QJsonValue& value) {
   std::vector<std::string> lines;
   const QJsonArray array = value.toArray();
-  for (qsizetype i = 0; i < array.size(); ++i)
-    lines.push_back(bytesOf(array.at(i)));
+  for (const auto& line : array)
+    lines.push_back(bytesOf(line));
   return lines;
 }
 
