@@ -7,6 +7,8 @@
 
 #include <QElapsedTimer>
 
+#include <algorithm>
+#include <array>
 #include <chrono>
 #include <condition_variable>
 #include <cstdlib>
@@ -50,9 +52,14 @@ void watch(const std::stop_token& end, const RandomUser& user) {
   }
 }
 
-/// What the hidden platform cannot do, and clicks beside a window, are no news.
+/// What the hidden platform cannot do, clicks beside a window, and fingers on a window that has
+/// gone are no news.
+constexpr std::array KnownWarnings{"This plugin does not", "Mouse event at", "skipping QEventPoint",
+                                   "QGestureManager::deliverEvent"};
+
 void printWarnings(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
-  const bool isKnown = text.startsWith("This plugin does not") || text.startsWith("Mouse event at");
+  const bool isKnown = std::ranges::any_of(
+      KnownWarnings, [&text](const char* begin) { return text.startsWith(QLatin1String(begin)); });
   if (type != QtDebugMsg && type != QtInfoMsg && !isKnown)
     std::cerr << "Qt: " << text.toStdString() << '\n';
 }

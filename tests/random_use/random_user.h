@@ -1,6 +1,7 @@
 #pragma once
 
 #include "random_use/disk_watch.h"
+#include "random_use/random_hands.h"
 
 #include "ui/window/main_window.h"
 
@@ -10,7 +11,6 @@
 #include <atomic>
 #include <functional>
 #include <memory>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -19,8 +19,8 @@ class QFileDialog;
 
 namespace orb::tests {
 
-/// Somebody who uses the window without any plan: keys, clicks, drags, menus, dialogs, sizes. The
-/// same seed does the same again, as far as the clock has no part in it.
+/// Somebody who uses the window without any plan: keys, clicks, drags, fingers, menus,
+/// dialogs, sizes. The same seed does the same again, as far as the clock has no part in it.
 class RandomUser : public QObject {
   Q_OBJECT
 
@@ -59,16 +59,10 @@ class RandomUser : public QObject {
   void finish();
 
   void open();
-  void actOn(QWidget& target);
   void answer(QDialog& dialog);
   void answer(QFileDialog& dialog);
   void useWindow();
 
-  void key(QWidget& target);
-  void typeText(QWidget& target);
-  void click(QWidget& target);
-  void drag(QWidget& target);
-  void wheel(QWidget& target);
   void choose();
   void drop();
   void fillClipboard();
@@ -77,17 +71,9 @@ class RandomUser : public QObject {
   void lookAtDisk();
   void note(const std::string& deed);
 
-  int below(int bound) { return static_cast<int>(m_random() % static_cast<unsigned>(bound)); }
-  template <class Values>
-  const auto& oneOf(const Values& values) {
-    return values[static_cast<std::size_t>(below(static_cast<int>(std::size(values))))];
-  }
-  QWidget& someWidget(QWidget& target);
-  QPoint somePoint(const QWidget& widget);
-  Qt::KeyboardModifiers someModifiers();
   std::filesystem::path someFile();
 
-  std::mt19937 m_random;
+  RandomHands m_hands;
   std::filesystem::path m_folder;
   ui::Places m_places;
   DiskWatch& m_disk;
