@@ -103,6 +103,11 @@ int StopTowards(const model::Map& map, int row, Direction direction, double aspe
 int StopNamed(const model::Map& map, std::string_view beginning, int row, bool fromHere) {
   const std::string wanted = text::LowerCase(beginning);
   const int count = map.Provinces.Count();
+  // Whoever goes on typing until an abbreviation is whole means that place, though another name,
+  // at which the first letters have arrived, begins so as well.
+  for (int at = 1; fromHere && at <= count; ++at) {
+    if (IsStop(map, at) && text::LowerCase(map.Provinces[at].Name) == wanted) return at;
+  }
   for (int step = fromHere ? 0 : 1; step <= count; ++step) {
     const int at = (row + step - 1 + count) % count + 1;
     const model::Province& province = map.Provinces[at];

@@ -26,7 +26,8 @@ int StopNearest(const model::Map& map, Point point, double aspect);
 int StopTowards(const model::Map& map, int row, Direction direction, double aspect);
 
 /// The next stop after the row whose abbreviation or full name, or a word of it, begins with the
-/// text in letters of either case; the row itself is looked at last, `fromHere` first. 0: none.
+/// text in letters of either case; the row itself is looked at last, `fromHere` first, but after
+/// what has the text as its abbreviation. 0: none.
 int StopNamed(const model::Map& map, std::string_view beginning, int row, bool fromHere);
 
 }  // namespace orb::render

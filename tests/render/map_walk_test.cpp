@@ -65,6 +65,7 @@ TEST(MapWalk, LeadsToNeighboursAndNames) {
   EXPECT_EQ(named("SEA", "Par", true), named("sea", "Par", true));
   EXPECT_EQ(named("stp", "Stp", false), "Stp.n") << "the next of that name";
   EXPECT_EQ(named("stp", "Stp", true), "Stp");
+  EXPECT_EQ(named("tyr", "TYS", true), "Tyr") << "the abbreviation, not Tyrrhenian";
   EXPECT_EQ(named("lyon", "Par", true), "GOL");
   EXPECT_EQ(named("xyz", "Par", true), "");
 }

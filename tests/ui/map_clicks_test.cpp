@@ -72,13 +72,25 @@ TEST_F(MapClicksTest, TheKeyboardWalksTheMapAndClicks) {
   QTest::keyClick(&map, Qt::Key_Return, Qt::ShiftModifier);
   type("budapest");
   QTest::keyClick(&map, Qt::Key_Return);
+  QTest::keyClick(&map, Qt::Key_Return);
+  EXPECT_EQ(box.text(), QLatin1String("AUS A(Vie) S A(Bud) hold "));
+  QTest::keyClick(&map, Qt::Key_Return);
+  EXPECT_THAT(Lines("lstOrders"), ElementsAre("ENG F(Lon) - Yor ", "AUS A(Vie) S A(Bud) hold "));
+  EXPECT_EQ(Find<QLabel>("lblStatus").text(), "Filed: AUS A(Vie) S A(Bud) hold");
+  EXPECT_TRUE(map.hasFocus()) << "to walk on";
+  type("vie");
+  QTest::keyClick(&map, Qt::Key_Return, Qt::ShiftModifier);
+  type("budapest");
+  QTest::keyClick(&map, Qt::Key_Return);
   type("ser");
   QTest::keyClick(&map, Qt::Key_Enter);
   EXPECT_EQ(box.text(), QLatin1String("AUS A(Vie) S A(Bud) - Ser "));
   QTest::mouseClick(&Find<QPushButton>("butOrderCancel"), Qt::LeftButton);
   map.setFocus(Qt::TabFocusReason);
   // A coast is a stop of its own.
+  const int width = map.width();
   type("mid-atlantic ocean");
+  EXPECT_EQ(map.width(), width) << "the hyphen does not zoom";
   EXPECT_THAT(Find<QLabel>("lblStatus").text().toStdString(), HasSubstr("(MAO)"));
   type("stp.s");
   QTest::keyClick(&map, Qt::Key_Return);

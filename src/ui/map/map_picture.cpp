@@ -225,15 +225,19 @@ void MapPicture::keyPressEvent(QKeyEvent* event) {
   }
   const bool command = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != 0;
   const QString text = event->text();
-  // Plus and minus zoom; a blank can only go on with a name.
-  const bool letter = !text.isEmpty() && (text.front().isLetter() || text.front() == u'.' ||
-                                          (text.front() == u' ' && !m_typed.isEmpty()));
+  // Plus and minus zoom; a blank or a hyphen can only go on with a name.
+  const bool goesOn = !m_typed.isEmpty() && isTyping() && QStringView(u" -").contains(text);
+  const bool letter =
+      !text.isEmpty() && (text.front().isLetter() || text.front() == u'.' || goesOn);
   if (command || !letter || !goToNamed(text)) QWidget::keyPressEvent(event);
 }
 
+bool MapPicture::isTyping() const {
+  return m_lastLetter.isValid() && m_lastLetter.elapsed() < QApplication::keyboardInputInterval();
+}
+
 bool MapPicture::goToNamed(const QString& letters) {
-  const bool goesOn =
-      m_lastLetter.isValid() && m_lastLetter.elapsed() < QApplication::keyboardInputInterval();
+  const bool goesOn = isTyping();
   m_lastLetter.start();
   if (!goesOn) m_typed.clear();
   // One letter again and again leads from name to name.

@@ -96,6 +96,8 @@ class MapPicture : public QWidget {
   const render::HitMap& hitMap();
   void hover(int location);
   double aspect() const;
+  /// Whether the next letter goes on with what was typed.
+  bool isTyping() const;
   /// False where the text that is typed leads nowhere.
   bool goToNamed(const QString& letters);
   MapSpot spotAt(QPointF position, Qt::KeyboardModifiers modifiers);
