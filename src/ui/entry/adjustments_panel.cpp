@@ -55,7 +55,7 @@ void AdjustmentsPanel::chooseType(std::string_view unitType) {
   }
 }
 
-void AdjustmentsPanel::mapClicked(const MapSpot& at) {
+void AdjustmentsPanel::writeClick(const MapSpot& at) {
   const std::string_view unitType = m_fleet->isChecked() ? "F" : "A";
   const std::string location = locationAt(at, unitType);
   // A fleet's click may mean a coast, so the type decides the location too.

@@ -16,8 +16,9 @@ class AdjustmentsPanel : public OrderEntryPanel {
  public:
   explicit AdjustmentsPanel(Desk& desk, QWidget* parent = nullptr);
 
+ protected:
   /// Writes the order to disband the unit there, or to build one of the chosen type.
-  void mapClicked(const MapSpot& at) override;
+  void writeClick(const MapSpot& at) override;
 
  private:
   /// A choice of what the next click builds; it also changes the line in the box.

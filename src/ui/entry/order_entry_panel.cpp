@@ -121,7 +121,9 @@ void OrderEntryPanel::connectControls(const QString& helpTopic) {
   connect(m_text, &QLineEdit::returnPressed, this, &OrderEntryPanel::fileOrder);
   connect(m_text, &QLineEdit::textChanged, this, [this](const QString& text) {
     // However it was emptied, a half clicked order is forgotten with its text.
-    if (text.isEmpty()) beginLine();
+    if (!text.isEmpty()) return;
+    m_chosen = 0;
+    beginLine();
   });
   connect(m_text, &OrderBox::severalLines, this, &OrderEntryPanel::ordersPasted);
   connect(m_cancel, &QPushButton::clicked, this, &OrderEntryPanel::cancelOrder);
@@ -289,10 +291,24 @@ bool OrderEntryPanel::fileOrder() {
   return filed;
 }
 
+void OrderEntryPanel::mapClicked(const MapSpot& at) {
+  const bool plain = (at.modifiers & (Qt::ShiftModifier | Qt::ControlModifier)) == 0;
+  const bool again = at.chosen != 0 && std::exchange(m_chosen, at.chosen) == at.chosen;
+  if (!again || !plain || !isWhole()) return writeClick(at);
+  const QString order = m_text->text().trimmed();
+  if (!fileOrder()) return;
+  // Whoever walks the map does not see the list, but is told what is wrong with the order.
+  if (m_list->currentItem()->toolTip().isEmpty()) emit statusText(tr("Filed: %1").arg(order));
+}
+
+bool OrderEntryPanel::isWhole() const {
+  return orders::IsWholeOrder(*game().Map, m_stage, naturalLine(game(), line(), m_power));
+}
+
 void OrderEntryPanel::resolve() {
   const QString text = m_text->text().trimmed();
   if (text.isEmpty()) return m_desk.resolve();
-  if (orders::IsWholeOrder(*game().Map, m_stage, naturalLine(game(), line(), m_power))) {
+  if (isWhole()) {
     if (fileOrder()) m_desk.resolve();
     return;
   }
@@ -323,6 +339,7 @@ void OrderEntryPanel::deleteOrder() {
 }
 
 void OrderEntryPanel::editSelectedOrder() {
+  m_chosen = 0;
   m_text->setText(m_list->currentItem()->text());
   startEntry();
 }

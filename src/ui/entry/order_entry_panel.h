@@ -59,6 +59,10 @@ class OrderEntryPanel : public QWidget, public MapTool {
   /// all are shown.
   void showOnly(int power);
 
+  /// Writes what the click means; chosen by keys a second time in a row, the place files the order
+  /// that has come of it.
+  void mapClicked(const MapSpot& at) final;
+
   /// Says in the status bar what is in the box, unless it is empty.
   void tellLine();
 
@@ -104,6 +108,9 @@ class OrderEntryPanel : public QWidget, public MapTool {
   /// Adds a control between the heading and the list.
   void addBelowHeading(QWidget* control);
 
+  /// Writes into the box what a click on the map means.
+  virtual void writeClick(const MapSpot& at) = 0;
+
   /// The next click on the map begins a line.
   virtual void beginLine() {}
 
@@ -137,6 +144,8 @@ class OrderEntryPanel : public QWidget, public MapTool {
   // What the buttons and keys do.
   /// False when nothing was filed; the status bar says why.
   bool fileOrder();
+  /// Whether an order that lacks nothing is in the box.
+  bool isWhole() const;
   /// Files a whole order that is still in the box first, and stops where it is none.
   void resolve();
   void cancelOrder();
@@ -164,7 +173,8 @@ class OrderEntryPanel : public QWidget, public MapTool {
   /// The last control of the row of commands, after which the Tab key goes to a further one.
   QWidget* m_lastCommand;
   int m_commandCount = 0;
-  int m_power = 0;  ///< row of the one that is shown alone
+  int m_power = 0;   ///< row of the one that is shown alone
+  int m_chosen = 0;  ///< row of the location that keys chose last for the line in the box
 };
 
 }  // namespace orb::ui

@@ -40,7 +40,7 @@ void OrdersPanel::addCommands() {
     connect(command, &QPushButton::clicked, this, [this] { m_entry.UnitExpected = true; });
 }
 
-void OrdersPanel::mapClicked(const MapSpot& at) {
+void OrdersPanel::writeClick(const MapSpot& at) {
   // The line may have been typed or changed by hand since the last click.
   m_entry.Text = line();
   std::string location = locationAt(at, orders::LastUnitType(m_entry.Text));

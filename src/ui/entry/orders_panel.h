@@ -13,10 +13,10 @@ class OrdersPanel : public OrderEntryPanel {
  public:
   explicit OrdersPanel(Desk& desk, QWidget* parent = nullptr);
 
-  /// Picks a unit or, after that, where it goes; Shift picks a supporter, Ctrl a convoying fleet.
-  void mapClicked(const MapSpot& at) override;
-
  protected:
+  /// Picks a unit or, after that, where it goes; Shift picks a supporter, Ctrl a convoying fleet.
+  void writeClick(const MapSpot& at) override;
+
   /// The next click picks a unit, whatever was clicked before.
   void beginLine() override;
   void beginOrder(const session::OpenOrder& open) override;

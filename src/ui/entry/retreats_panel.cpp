@@ -26,7 +26,7 @@ RetreatsPanel::RetreatsPanel(Desk& desk, QWidget* parent)
               QStringLiteral("disband ")});
 }
 
-void RetreatsPanel::mapClicked(const MapSpot& at) {
+void RetreatsPanel::writeClick(const MapSpot& at) {
   // What was typed so far tells of which unit the coast is to be chosen.
   const std::string text = line();
   const std::string location = locationAt(at, orders::LastUnitType(text));

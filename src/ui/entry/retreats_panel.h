@@ -11,8 +11,9 @@ class RetreatsPanel : public OrderEntryPanel {
  public:
   explicit RetreatsPanel(Desk& desk, QWidget* parent = nullptr);
 
+ protected:
   /// Picks a dislodged unit and, after that, where it retreats to or that it disbands.
-  void mapClicked(const MapSpot& at) override;
+  void writeClick(const MapSpot& at) override;
 };
 
 }  // namespace orb::ui
