@@ -30,6 +30,7 @@ struct Command {
   Games Takes = Games::Several;
   std::span<const OptionId> Options = {};  ///< those it knows in addition to those common to all
   std::span<const Example> Examples = {};
+  std::string_view Undrawn = {};         ///< what the help adds where no maps can be drawn
   std::string_view OutputName = "PATH";  ///< what -o names: "GAME", "PICTURE"; PATH: or a directory
 
   /// Carries it out and returns the exit status. Throws UsageError when the command line is wrong;

@@ -1,6 +1,8 @@
 #include "cli/help.h"
 
 #include "cli/usage.h"
+#include "model/files.h"
+#include "render/map_module.h"
 
 #include <algorithm>
 #include <utility>
@@ -10,7 +12,7 @@ namespace orb::cli {
 namespace {
 
 /// Names and their explanations, the explanations below each other.
-using Rows = std::vector<std::pair<std::string, std::string_view>>;
+using Rows = std::vector<std::pair<std::string, std::string>>;
 
 std::string Table(const Rows& rows) {
   std::size_t width = 0;
@@ -29,6 +31,16 @@ Rows OptionRows(const Command& command) {
   for (const Option* option : OptionsOf(command))
     rows.emplace_back(Spelled(command, *option), MeaningOf(command, *option));
   return rows;
+}
+
+/// What a command does, and what of it can not be done as things stand.
+std::string SummaryOf(const Command& command) {
+  std::string summary(command.Summary);
+  if (!command.Undrawn.empty() && !render::CanDraw(model::ProgramDirectory())) {
+    summary.append(" (").append(command.Undrawn).append(": ");
+    summary.append(render::DrawModule).append(" is missing)");
+  }
+  return summary;
 }
 
 /// The form of the command line, broken before the column where a terminal ends.
@@ -57,7 +69,7 @@ std::string ProgramHelp() {
       "Keeps and resolves games of armies and fleets in a terminal.\n\nCommands:\n";
   Rows commands;
   for (const Command* command : AllCommands())
-    commands.emplace_back(command->Name, command->Summary);
+    commands.emplace_back(command->Name, SummaryOf(*command));
   help += Table(commands);
   help += "\nOptions of every command:\n";
   help += Table(OptionRows(Command()));
@@ -69,7 +81,7 @@ std::string ProgramHelp() {
 
 std::string CommandHelp(const Command& command) {
   std::string help = Usage(command);
-  help.append("It ").append(command.Summary).append(".\n\nOptions:\n");
+  help.append("It ").append(SummaryOf(command)).append(".\n\nOptions:\n");
   help.append(Table(OptionRows(command)));
   help.append(command.Examples.size() == 1 ? "\nExample:\n" : "\nExamples:\n");
   for (const Example& example : command.Examples) {

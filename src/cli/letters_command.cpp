@@ -83,6 +83,7 @@ const Command LettersCommand{
     .Takes = Games::One,
     .Options = Options,
     .Examples = Examples,
+    .Undrawn = "without maps here",
     .OutputName = "DIR",
     .Execute = Execute,
 };

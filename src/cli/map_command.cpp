@@ -173,6 +173,7 @@ const Command MapCommand{
     .Takes = Games::One,
     .Options = Options,
     .Examples = Examples,
+    .Undrawn = "not here",
     .OutputName = "PICTURE",
     .Execute = Execute,
 };

@@ -75,6 +75,7 @@ const Command PublishCommand{
     .Takes = Games::Several,
     .Options = Options,
     .Examples = Examples,
+    .Undrawn = "not here",
     .OutputName = "PAGE",
     .Execute = Execute,
 };

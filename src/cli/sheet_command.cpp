@@ -54,6 +54,7 @@ const Command SheetCommand{
     .Takes = Games::One,
     .Options = Options,
     .Examples = Examples,
+    .Undrawn = "not here",
     .OutputName = "PAGE",
     .Execute = Execute,
 };

@@ -12,8 +12,7 @@ namespace {
 
 void* ModuleFunction(const std::filesystem::path& directory, const char* name) {
   const std::filesystem::path file = directory / DrawModule;
-  std::error_code ignored;
-  if (!std::filesystem::exists(file, ignored)) {
+  if (!CanDraw(directory)) {
     throw model::FatalError("Maps are drawn by " + text::NameInText(file.string()) +
                             ", which is missing.");
   }
@@ -30,6 +29,11 @@ std::string Call(const std::filesystem::path& directory, const char* name, const
 }
 
 }  // namespace
+
+bool CanDraw(const std::filesystem::path& moduleDirectory) {
+  std::error_code ignored;
+  return std::filesystem::exists(moduleDirectory / DrawModule, ignored);
+}
 
 std::string DrawMap(const MapRequest& request, const std::filesystem::path& moduleDirectory) {
   return Call<DrawFunction>(moduleDirectory, DrawFunctionName, request);

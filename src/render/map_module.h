@@ -50,6 +50,9 @@ using AnimationFunction = bool(const AnimationRequest& request, std::string& res
 constexpr const char* SvgFunctionName = "OrbWithSvgMaterial";
 using SvgFunction = bool(const SvgWork& work, std::string& result);
 
+/// Whether there is a module in that directory.
+bool CanDraw(const std::filesystem::path& moduleDirectory);
+
 /// Loads the module from its directory and lets it draw: the bytes of the picture. Throws
 /// FatalError.
 std::string DrawMap(const MapRequest& request, const std::filesystem::path& moduleDirectory);
