@@ -34,18 +34,8 @@ bool Signs(const Token& token, Signal signal) {
   return (token.Means.Signals & static_cast<unsigned>(signal)) != 0;
 }
 
-/// Words of what firms have below their mails.
 bool IsOfFooter(const Token& token) {
-  constexpr std::array<std::string_view, 38> footers{
-      "address",     "adresse",       "indirizzo",    "direccion",    "adres",
-      "endereco",    "attachments",   "confidential", "recipient",    "recipients",
-      "addressee",   "adressat",      "empfanger",    "destinataire", "umwelt",
-      "environment", "environnement", "printing",     "ausdrucken",   "imprimer",
-      "privileged",  "vertraulich",   "ausgedruckt",  "ausdruckt",    "eingangsbestatigung",
-      "viren",       "virus",         "viruses",      "antivirus",    "avast",
-      "virenfrei",   "scanned",       "virusfri",     "virusvrij",    "virussen",
-      "disclaimer",  "unauthorised",  "unauthorized"};
-  return IsOneOf(token, footers);
+  return HasUse(token, WordUse::Footer);
 }
 
 /// Closings of letters, what programs write below them, and offers of help: "Take care", "Sent from
@@ -233,15 +223,11 @@ bool BearsOnOrders(Tokens sentence, Unplaced unit) {
 }
 
 bool Apologizes(Tokens sentence) {
-  constexpr std::array<std::string_view, 18> pleas{
-      "sorry",        "apologies", "excuse",   "forgive",  "pardon",   "desole",
-      "desolee",      "undskyld",  "unnskyld", "beklager", "ursakta",  "entschuldigung",
-      "entschuldige", "perdon",    "scusate",  "scusa",    "desculpa", "przepraszam"};
   constexpr std::array<std::string_view, 22> matters{
       "if",   "for", "about", "the", "det", "at", "att",  "om",  "dass", "das", "die",
       "wenn", "que", "si",    "per", "se",  "il", "pour", "por", "voor", "dat", "ze"};
   for (std::size_t at = 0; at + 1 < sentence.size(); ++at) {
-    if (IsOneOf(sentence[at], pleas) && IsOneOf(sentence[at + 1], matters)) return true;
+    if (HasUse(sentence[at], WordUse::Plea) && IsOneOf(sentence[at + 1], matters)) return true;
   }
   return false;
 }

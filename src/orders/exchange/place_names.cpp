@@ -107,58 +107,74 @@ void PlaceNames::Add(std::string_view name, int row, bool mayBeShort) {
 }
 
 /// The spellings that begin with a word, as a whole or in their first word.
-const std::vector<const PlaceNames::Spelling*>& PlaceNames::Beginning(
-    const std::string& word) const {
+const PlaceNames::Begun& PlaceNames::Beginning(const std::string& word) const {
   const auto [known, isNew] = beginning_.try_emplace(word);
   const auto spellings = isNew && !word.empty() ? spellings_.find(word[0]) : spellings_.end();
   if (spellings == spellings_.end()) return known->second;
+  Begun& begun = known->second;
   for (const Spelling& spelling : spellings->second) {
     // Shorter words are no beginnings: "a" is not Albania.
     const bool mayBegin =
         word.size() >= ShortestStart || spelling.Words[0] == word || spelling.Joined == word;
-    if (mayBegin && std::string_view(spelling.Joined).starts_with(word)) {
-      known->second.push_back(&spelling);
-    }
+    if (!mayBegin || !std::string_view(spelling.Joined).starts_with(word)) continue;
+    begun.Spellings.push_back(&spelling);
+    begun.WordCount = std::max(begun.WordCount, spelling.Words.size());
   }
-  return known->second;
+  return begun;
 }
 
-std::vector<PlaceMatch> PlaceNames::At(Tokens tokens, std::size_t at) const {
-  if (at >= tokens.size() || !IsA(tokens[at], TokenKind::Word)) return {};
-  const auto& spellings = Beginning(tokens[at].Text);
-  if (spellings.empty()) return {};
-  const WordRun run = WordsFrom(tokens, at);
-  std::array<PlaceMatch, WordBound> matches;
+/// The longest first.
+std::vector<PlaceNames::Named> PlaceNames::Find(const std::vector<const Spelling*>& spellings,
+                                                std::span<const std::string_view> words) const {
+  std::array<Named, WordBound> named;
   // Whole spellings push out mere beginnings of as many words.
-  const auto add = [&](std::size_t length, int row, bool exact) {
-    PlaceMatch& match = matches[length - 1];
+  const auto add = [&](std::size_t count, int row, bool exact) {
+    Named& match = named[count - 1];
     if (exact && !match.IsExact) match.Rows.clear();
     if (exact || !match.IsExact) AddRow(match.Rows, row);
     match.IsExact |= exact;
-    match.Next = run.Next[length - 1];
+    match.WordCount = count;
   };
-  const std::string_view first = run.Words[0];
+  const std::string_view first = words[0];
+  const bool isLong = first.size() >= ShortestStart;
   for (const Spelling* const known : spellings) {
     const Spelling& spelling = *known;
     const std::size_t size = spelling.Words.size();
-    const bool isLong = first.size() >= ShortestStart;
     if (spelling.Joined == first ||
         (spelling.MayBeShort && isLong && std::string_view(spelling.Joined).starts_with(first))) {
       add(1, spelling.Row, spelling.Joined == first);
     }
     bool isSame = true;
-    for (std::size_t n = 0; n < std::min(size, run.Count); ++n) {
+    for (std::size_t n = 0; n < std::min(size, words.size()); ++n) {
       // Every word of a full name may be short, the first down to three letters: "North Atl".
-      if (!std::string_view(spelling.Words[n]).starts_with(run.Words[n])) break;
-      isSame = isSame && spelling.Words[n] == run.Words[n];
+      if (!std::string_view(spelling.Words[n]).starts_with(words[n])) break;
+      isSame = isSame && spelling.Words[n] == words[n];
       const bool isWhole = isSame && n + 1 == size;
       if (isWhole || (spelling.MayBeShort && isLong)) add(n + 1, spelling.Row, isWhole);
     }
   }
-  std::vector<PlaceMatch> found;
+  std::vector<Named> found;
   for (std::size_t n = WordBound; n > 0; --n) {
-    if (!matches[n - 1].Rows.empty()) found.push_back(std::move(matches[n - 1]));
+    if (!named[n - 1].Rows.empty()) found.push_back(std::move(named[n - 1]));
   }
+  return found;
+}
+
+std::vector<PlaceMatch> PlaceNames::At(Tokens tokens, std::size_t at) const {
+  if (at >= tokens.size() || !IsA(tokens[at], TokenKind::Word)) return {};
+  const Begun& begun = Beginning(tokens[at].Text);
+  if (begun.Spellings.empty()) return {};
+  const WordRun run = WordsFrom(tokens, at);
+  const auto words = std::span(run.Words).first(std::min(run.Count, begun.WordCount));
+  std::string key;
+  for (const std::string_view word : words)
+    key.append(word).append(" ");
+  const auto [known, isNew] = named_.try_emplace(std::move(key));
+  if (isNew) known->second = Find(begun.Spellings, words);
+  std::vector<PlaceMatch> found;
+  found.reserve(known->second.size());
+  for (const Named& named : known->second)
+    found.push_back({named.Rows, run.Next[named.WordCount - 1], named.IsExact});
   return found;
 }
 
@@ -212,7 +228,7 @@ std::string_view PlaceNames::FindNearlyNamed(std::string_view word) const {
 
 bool PlaceNames::IsFull() const {
   constexpr std::size_t bound = 50'000;
-  return beginning_.size() + near_.size() + nearlyNamed_.size() > bound;
+  return beginning_.size() + named_.size() + near_.size() + nearlyNamed_.size() > bound;
 }
 
 const std::vector<PlaceNames::NearPlace>& PlaceNames::Near(std::string_view word) const {

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <map>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -60,7 +61,22 @@ class PlaceNames {
     bool MayBeShort = false;  ///< a beginning will do
   };
 
-  const std::vector<const Spelling*>& Beginning(const std::string& word) const;
+  /// The spellings that a word begins.
+  struct Begun {
+    std::vector<const Spelling*> Spellings;
+    std::size_t WordCount = 0;  ///< of the longest
+  };
+
+  /// What some words name: places by how many of the words it takes.
+  struct Named {
+    std::vector<int> Rows;
+    std::size_t WordCount = 0;
+    bool IsExact = false;
+  };
+
+  const Begun& Beginning(const std::string& word) const;
+  std::vector<Named> Find(const std::vector<const Spelling*>& spellings,
+                          std::span<const std::string_view> words) const;
   void Add(std::string_view name, int row, bool mayBeShort);
   void AddPlace(int row);
   void AddNearOnes(std::string_view alias, int row);
@@ -71,7 +87,8 @@ class PlaceNames {
 
   // Texts repeat their words, and to hold one against all spellings takes long: what was found is
   // kept. So several threads must not use one object at once.
-  mutable std::unordered_map<std::string, std::vector<const Spelling*>> beginning_;
+  mutable std::unordered_map<std::string, Begun> beginning_;
+  mutable std::unordered_map<std::string, std::vector<Named>> named_;
   mutable std::unordered_map<std::string, std::vector<NearPlace>> near_;
   mutable std::unordered_map<std::string, std::string_view> nearlyNamed_;
   std::map<char, std::vector<Spelling>> spellings_;  ///< by first letter

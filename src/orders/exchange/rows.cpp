@@ -168,11 +168,17 @@ void Rows::DoubtLoneOnes() {
 }
 
 bool Rows::HoldsOrders(std::size_t first) const {
-  return std::any_of(Lines.begin() + static_cast<std::ptrdiff_t>(first), Lines.end(),
-                     [](const ReadLine& line) {
-                       return exchange::IsUnderstood(line) || line.Kind == LineKind::Ambiguous ||
-                              line.Kind == LineKind::Waive;
-                     });
+  // The last rows may still become orders; those further up are looked at once.
+  constexpr std::size_t open = 16;
+  const bool isOfAll = first <= withoutOrders_;
+  for (std::size_t row = isOfAll ? withoutOrders_ : first; row < Lines.size(); ++row) {
+    const LineKind kind = Lines[row].Kind;
+    const bool isOrder = exchange::IsUnderstood(Lines[row]) || kind == LineKind::Ambiguous ||
+                         kind == LineKind::Waive;
+    if (isOrder) return true;
+    if (isOfAll && row + open < Lines.size()) withoutOrders_ = row + 1;
+  }
+  return false;
 }
 
 void Rows::PassOver(std::size_t first) {

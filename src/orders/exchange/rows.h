@@ -104,6 +104,7 @@ class Rows {
   bool inSignature_ = false;
   // Of the line that is being read.
   std::vector<Understood> understood_;
+  mutable std::size_t withoutOrders_ = 0;  ///< so many of the first rows hold none
   std::vector<Said> remarks_;
 };
 

@@ -290,6 +290,17 @@ constexpr std::array Uses{
              "coucou caro cara alright kia ora nga mihi kh vh trudno jammer helaas leider schade "
              "tant pis peccato lastima szkoda sniff brr jaja jajaja kkk vlw flw blz lmao lmaoo "
              "lmaooo bises bonne soiree"},
+    UseWords{WordUse::Footer,
+             "address adresse indirizzo direccion adres endereco attachments confidential "
+             "recipient recipients addressee adressat empfanger destinataire umwelt "
+             "environment environnement printing ausdrucken imprimer privileged "
+             "vertraulich ausgedruckt ausdruckt eingangsbestatigung viren virus viruses "
+             "antivirus avast virenfrei scanned virusfri virusvrij virussen disclaimer "
+             "unauthorised unauthorized"},
+    UseWords{WordUse::Plea,
+             "sorry apologies excuse forgive pardon desole desolee undskyld unnskyld "
+             "beklager ursakta entschuldigung entschuldige perdon scusate scusa desculpa "
+             "przepraszam"},
     UseWords{WordUse::Purpose,
              "bounce bounces bouncing standoff selfbounce cover covers covering guard guards "
              "protect protects block blocks blocking defend defends defence defense defensive "

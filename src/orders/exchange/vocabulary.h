@@ -44,6 +44,8 @@ enum class WordUse : std::uint32_t {
   Own = 0x4'0000,        ///< of titles: what is below is the writer's, and for now
   Report = 0x8000,       ///< tells what somebody else says or wants
   Everyday = 0x10'0000,  ///< harmless in a remark beside an order: of players' everyday life
+  Footer = 0x20'0000,    ///< of what firms have below their mails
+  Plea = 0x40'0000,      ///< asks to be excused: "sorry"
   Offer = 0x4000         ///< of lines that offer help: "if anything is unclear"
 };
 
