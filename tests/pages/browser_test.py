@@ -37,7 +37,7 @@ def make_season_page(folder, seasons=SEASONS):
 
 def check_season_page_at(browser, page, width):
     browser.open(page, width)
-    check(browser.script("return document.documentElement.scrollWidth <= innerWidth"), f"scrolls sideways at {width}")
+    check(browser.script(f"return document.documentElement.scrollWidth <= {width}"), f"scrolls sideways at {width}")
     check(browser.script("return document.querySelectorAll('.season:not([hidden])').length") == 1, "not one season")
     tree = browser.tree()
     check_tree(tree)
@@ -136,7 +136,7 @@ def check_sheet(browser, folder, width, stage):
     time.sleep(0.5)
     if not own:
         browser.script("const p = document.getElementById('power'); p.value = arguments[0]; p.dispatchEvent(new Event('change'))", power)
-    check(browser.script("return document.documentElement.scrollWidth <= innerWidth"), f"the sheet scrolls sideways at {width}")
+    check(browser.script(f"return document.documentElement.scrollWidth <= {width}"), f"the sheet scrolls sideways at {width}")
     for tap in taps:
         if tap.startswith(":"):
             found = browser.script(
