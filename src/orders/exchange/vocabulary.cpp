@@ -154,7 +154,7 @@ constexpr std::array Uses{
         WordUse::Filler,
         "die das der la le il lo el los las bitte het les meine meiner mein mijn mon mes mio mia "
         "mi min "
-        "mina moja nos onze notre our both the my an please pls plz will shall is are his her "
+        "mina moja nos onze notre our own both the my an please pls plz will shall is are his her "
         "their unit units dislodged gives lends provides os as um een ein eine einen une una "
         "uno wird werden soll sollen therefore simply merely accordingly duly hereby einfach "
         "simplement simplemente semplicemente simplesmente gewoon bare"},

@@ -1,0 +1,161 @@
+#include "orders/exchange/comments.h"
+#include "orders/exchange/phrase_words.h"
+#include "orders/exchange/phrases.h"
+
+#include <array>
+#include <vector>
+
+// Verbs and what belongs to them, of the parts that orders are made of.
+
+namespace orb::exchange {
+namespace {
+
+using std::string_view_literals::operator""sv;
+
+/// Words that say together what a unit does, though none of them does alone.
+struct VerbPhrase {
+  Verb Does;
+  std::vector<std::string_view> Words;
+};
+
+const std::vector<VerbPhrase>& AllVerbPhrases() {
+  static const std::vector<VerbPhrase> phrases{{Verb::Hold, {"does", "nothing"}},
+                                               {Verb::Hold, {"do", "nothing"}},
+                                               {Verb::Hold, {"no", "move"}},
+                                               {Verb::Hold, {"doesnt", "move"}},
+                                               {Verb::Hold, {"does", "not", "move"}},
+                                               {Verb::Hold, {"bewegt", "sich", "nicht"}},
+                                               {Verb::Hold, {"ne", "bouge", "pas"}},
+                                               {Verb::Hold, {"no", "se", "mueve"}},
+                                               {Verb::Hold, {"non", "si", "muove"}},
+                                               {Verb::Hold, {"beweegt", "niet"}},
+                                               {Verb::Hold, {"flytter", "ikke"}},
+                                               {Verb::Hold, {"nie", "rusza", "sie"}},
+                                               {Verb::Disband, {"off", "the", "board"}},
+                                               {Verb::Disband, {"from", "the", "board"}},
+                                               {Verb::Disband, {"gets", "scrapped"}},
+                                               {Verb::Disband, {"gets", "disbanded"}},
+                                               {Verb::Disband, {"gets", "removed"}}};
+  return phrases;
+}
+
+}  // namespace
+
+/// A verb alone in brackets, "(H)"; but "(S)" before a move is the south coast, "Spa (S) - MAO".
+bool Phrases::IsVerbInBrackets(std::size_t at) const {
+  if (!Is(at, TokenKind::Open) || !Is(at + 2, TokenKind::Close)) return false;
+  if (VerbOf(tokens_[at + 1]) == Verb::None) return false;
+  const std::size_t next = at + 3;
+  const bool moves = next < tokens_.size() && VerbOf(tokens_[next]) == Verb::Move;
+  return !moves || CoastLetter(tokens_[at + 1].Text) == 0;
+}
+
+/// Where the verb of a unit can stand. A bracket that opens before it begins a comment, unless it
+/// holds a verb alone or tells that the unit is dislodged.
+std::size_t Phrases::ToVerb(std::size_t at) const {
+  while (at < tokens_.size()) {
+    if (Is(at, TokenKind::Open)) {
+      if (IsVerbInBrackets(at)) return at + 1;
+      const std::size_t close = ClosingBracket(tokens_, at);
+      if (!Is(at + 1, "dislodged") || close == tokens_.size()) return tokens_.size();
+      at = close;
+    } else if (Is(at, TokenKind::Colon)) {
+      // "A Par: H" has a colon before its verb; before anything else it ends the order.
+      const std::size_t next = ToVerb(at + 1);
+      return next < tokens_.size() && VerbOf(tokens_[next]) != Verb::None ? next : at;
+    } else if (!IsPassedOver(at)) {
+      break;
+    }
+    ++at;
+  }
+  return at;
+}
+
+/// "To" in languages that have a short word for it, between two names.
+bool Phrases::IsPreposition(std::size_t at) const {
+  constexpr std::array<std::string_view, 11> words{"do",  "a",  "na",   "em",  "in", "en",
+                                                   "ins", "im", "dans", "sur", "au"};
+  return at > 0 && at + 1 < tokens_.size() && IsOneOf(tokens_[at], words) && !tokens_[at].Capital &&
+         tokens_[at - 1].Capital && tokens_[at + 1].Capital && tokens_[at + 1].Text.size() > 2 &&
+         UnitTypeOf(tokens_[at + 1]) == 0 && !names_.At(tokens_, at - 1).empty();
+}
+
+/// "Se replie", "si ritira". Before other verbs the words are "if".
+bool Phrases::IsReflexive(std::size_t at) const {
+  constexpr std::array<std::string_view, 2> words{"se", "si"};
+  constexpr std::array verbs{"replie"sv,  "replient"sv, "retire"sv,   "retirent"sv, "retira"sv,
+                             "retiran"sv, "ritira"sv,   "ritirano"sv, "sposta"sv,   "spostano"sv,
+                             "muove"sv,   "muovono"sv,  "mueve"sv,    "mueven"sv,   "queda"sv,
+                             "quedan"sv,  "mantiene"sv, "desplaza"sv, "repliega"sv};
+  return at + 1 < tokens_.size() && IsOneOf(tokens_[at], words) && IsOneOf(tokens_[at + 1], verbs);
+}
+
+/// The phrase of a verb that stands here, and the token behind it; None where there is none.
+std::pair<Verb, std::size_t> Phrases::VerbPhraseAt(std::size_t at) const {
+  for (const VerbPhrase& phrase : AllVerbPhrases()) {
+    const bool isOfStage =
+        phrase.Does == Verb::Hold ? stage_ == model::Stage::Moves : stage_ != model::Stage::Moves;
+    std::size_t next = at;
+    for (const std::string_view word : phrase.Words)
+      next = next != tokens_.size() + 1 && Is(next, word) ? next + 1 : tokens_.size() + 1;
+    if (isOfStage && next <= tokens_.size()) return {phrase.Does, next};
+  }
+  return {Verb::None, at};
+}
+
+std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
+  if (const auto phrase = VerbPhraseAt(ToVerb(at)); phrase.first != Verb::None) return phrase;
+  Verb verb = Verb::None;
+  const bool isReflexive = IsReflexive(ToVerb(at));
+  if (isReflexive) at = ToVerb(at) + 1;
+  // "Back to Warsaw".
+  const std::size_t tail = ToVerb(at);
+  // "A Vie, A Bud all hold".
+  if (const std::size_t next = ToVerb(tail + 1);
+      tail < tokens_.size() && IsOneOf(tokens_[tail], AllWords) && next < tokens_.size() &&
+      VerbOf(tokens_[next]) == Verb::Hold) {
+    at = tail + 1;
+  }
+  const bool isBeforeTo = tail + 1 < tokens_.size() && IsOneOf(tokens_[tail], MoveTails) &&
+                          VerbOf(tokens_[tail]) == Verb::None &&
+                          VerbOf(tokens_[tail + 1]) == Verb::Move;
+  if (isBeforeTo) at = tail + 1;
+  for (std::size_t next = ToVerb(at); next < tokens_.size(); next = ToVerb(next + 1)) {
+    const bool isFirst = verb == Verb::None;
+    Verb word = isFirst && IsPreposition(next) ? Verb::Move : VerbOf(tokens_[next]);
+    // Units that go elsewhere in the adjustments go for good.
+    constexpr std::array removing{"retire"sv, "retirons"sv, "retirent"sv, "ritiro"sv, "retiro"sv};
+    if (stage_ == model::Stage::Adjustments && IsOneOf(tokens_[next], removing))
+      word = Verb::Disband;
+    // "Retira" removes, "se retira" goes elsewhere.
+    if (isFirst && isReflexive && word == Verb::Disband) word = Verb::Retreat;
+    if (!isFirst && isReflexive && Is(next, "a") && !tokens_[next].Capital) {
+      at = next + 1;
+      continue;
+    }
+    const bool isTail =
+        (verb == Verb::Hold && IsOneOf(tokens_[next], HoldTails)) ||
+        ((verb == Verb::Move || verb == Verb::Retreat) && IsOneOf(tokens_[next], MoveTails));
+    // "Moves to" and "retreats to" are one verb; of "moves to hold" the last word tells.
+    // "Retreats OTB" is no retreat.
+    const bool isOff = verb == Verb::Retreat && word == Verb::Disband;
+    const bool goesOn =
+        verb == Verb::Move || (verb == Verb::Retreat && word == Verb::Move) || isOff;
+    if (!isTail && (word == Verb::None || !(isFirst || goesOn))) break;
+    if (!isTail && (isFirst || verb == Verb::Move || isOff)) verb = word;
+    at = next + 1;
+  }
+  return {verb, at};
+}
+
+bool Phrases::MayLead(std::size_t at) const {
+  at = Skip(at);
+  if (at >= tokens_.size() || IsA(tokens_[at], TokenKind::Dash)) return false;
+  // "To Par" or "attack Par" at the front would name a destination, not the unit that moves.
+  constexpr std::array leading{"move"sv,    "moves"sv, "send"sv,   "mueve"sv,   "muevo"sv,
+                               "muove"sv,   "muovo"sv, "walk"sv,   "sende"sv,   "sending"sv,
+                               "schicke"sv, "stuur"sv, "moving"sv, "flytter"sv, "flyttar"sv};
+  return VerbOf(tokens_[at]) != Verb::Move || IsOneOf(tokens_[at], leading);
+}
+
+}  // namespace orb::exchange
