@@ -19,6 +19,9 @@ inline constexpr std::array TypeInWords{"a"sv,  "em"sv,   "no"sv,  "na"sv,  "w"s
 inline constexpr std::array AllWords{"all"sv,       "alle"sv,  "tous"sv,  "toutes"sv, "tutti"sv,
                                      "tutte"sv,     "todos"sv, "todas"sv, "both"sv,   "allemaal"sv,
                                      "wszystkie"sv, "each"sv,  "beide"sv};
+/// They remove a unit, but before a place it goes there.
+inline constexpr std::array ReturnWords{"retira"sv, "retire"sv, "retiro"sv, "retirar"sv,
+                                        "ritira"sv, "ritiro"sv, "retirer"sv};
 inline constexpr std::array ViaWords{"via"sv,  "by"sv,    "using"sv, "with"sv, "through"sv,
                                      "par"sv,  "over"sv,  "mit"sv,   "met"sv,  "med"sv,
                                      "door"sv, "przez"sv, "per"sv,   "com"sv,  "por"sv};
@@ -32,13 +35,13 @@ inline constexpr std::array<std::string_view, 35> HoldTails{
     "fast",   "still",  "in",         "place",     "firm",       "home",       "strong",
     "steady", "there",  "where",      "it",        "they",       "ferma",      "parada",
     "liggen", "quieto", "quieta",     "quietos",   "tranquillo", "tranquille", "rustig"};
-inline constexpr std::array<std::string_view, 47> MoveTails{
-    "sur",   "dans",    "nel",     "ship",    "course", "sail",     "way",    "bound",
-    "rumbo", "rotta",   "route",   "cap",     "large",  "straight", "kurs",   "sich",
-    "zich",  "sig",     "seg",     "ab",      "vor",    "back",     "zuruck", "zurueck",
-    "terug", "tilbage", "tilbake", "against", "toward", "towards",  "on",     "upon",
-    "for",   "in",      "ins",     "im",      "over",   "across",   "out",    "up",
-    "en",    "down",    "off",     "home",    "round",  "around",   "along"};
+inline constexpr std::array<std::string_view, 50> MoveTails{
+    "sur",   "sie",     "tillbaka", "wstecz",  "dans",   "nel",     "ship",  "course",   "sail",
+    "way",   "bound",   "rumbo",    "rotta",   "route",  "cap",     "large", "straight", "kurs",
+    "sich",  "zich",    "sig",      "seg",     "ab",     "vor",     "back",  "zuruck",   "zurueck",
+    "terug", "tilbage", "tilbake",  "against", "toward", "towards", "on",    "upon",     "for",
+    "in",    "ins",     "im",       "over",    "across", "out",     "up",    "en",       "down",
+    "off",   "home",    "round",    "around",  "along"};
 inline constexpr std::array<std::string_view, 5> Nouns{"move", "attack", "advance", "of", "for"};
 inline constexpr std::array<std::string_view, 12> CountingWords{
     "one", "two", "a", "all", "remaining", "rest", "any", "other", "of", "both", "last", "for"};

@@ -78,6 +78,7 @@ class Phrases {
   bool IsPassedOver(std::size_t at) const;
   std::size_t ToVerb(std::size_t at) const;
   bool IsVerbInBrackets(std::size_t at) const;
+  bool IsDirection(std::size_t at) const;
   std::pair<Verb, std::size_t> VerbPhraseAt(std::size_t at) const;
   bool IsReflexive(std::size_t at) const;
   bool IsPreposition(std::size_t at) const;

@@ -29,10 +29,14 @@ const std::vector<VerbPhrase>& AllVerbPhrases() {
                                                {Verb::Hold, {"no", "se", "mueve"}},
                                                {Verb::Hold, {"non", "si", "muove"}},
                                                {Verb::Hold, {"beweegt", "niet"}},
+                                               {Verb::Hold, {"star", "kvar"}},
+                                               {Verb::Hold, {"star", "stille"}},
+                                               {Verb::Hold, {"reste", "sur", "place"}},
                                                {Verb::Hold, {"flytter", "ikke"}},
                                                {Verb::Hold, {"nie", "rusza", "sie"}},
                                                {Verb::Disband, {"off", "the", "board"}},
                                                {Verb::Disband, {"from", "the", "board"}},
+                                               {Verb::Disband, {"lost", "sich", "auf"}},
                                                {Verb::Disband, {"gets", "scrapped"}},
                                                {Verb::Disband, {"gets", "disbanded"}},
                                                {Verb::Disband, {"gets", "removed"}}};
@@ -83,11 +87,23 @@ bool Phrases::IsPreposition(std::size_t at) const {
 /// "Se replie", "si ritira". Before other verbs the words are "if".
 bool Phrases::IsReflexive(std::size_t at) const {
   constexpr std::array<std::string_view, 2> words{"se", "si"};
-  constexpr std::array verbs{"replie"sv,  "replient"sv, "retire"sv,   "retirent"sv, "retira"sv,
-                             "retiran"sv, "ritira"sv,   "ritirano"sv, "sposta"sv,   "spostano"sv,
-                             "muove"sv,   "muovono"sv,  "mueve"sv,    "mueven"sv,   "queda"sv,
-                             "quedan"sv,  "mantiene"sv, "desplaza"sv, "repliega"sv};
+  constexpr std::array verbs{"replie"sv,  "replient"sv, "retire"sv,    "retirent"sv, "retira"sv,
+                             "retiran"sv, "ritira"sv,   "ritirano"sv,  "sposta"sv,   "spostano"sv,
+                             "muove"sv,   "muovono"sv,  "mueve"sv,     "mueven"sv,   "queda"sv,
+                             "quedan"sv,  "mantiene"sv, "desplaza"sv,  "repliega"sv, "rend"sv,
+                             "rendent"sv, "disuelve"sv, "disuelven"sv, "scioglie"sv, "sciolgono"sv,
+                             "dissout"sv, "dissolve"sv};
   return at + 1 < tokens_.size() && IsOneOf(tokens_[at], words) && IsOneOf(tokens_[at + 1], verbs);
+}
+
+/// "To" before a place, in languages whose word for it is short or a verb elsewhere: "retraite à
+/// Paris".
+bool Phrases::IsDirection(std::size_t at) const {
+  constexpr std::array words{"a"sv,  "do"sv,   "na"sv,    "au"sv,   "en"sv,   "al"sv,
+                             "ad"sv, "to"sv,   "para"sv,  "pour"sv, "upon"sv, "into"sv,
+                             "on"sv, "vers"sv, "verso"sv, "hacia"sv};
+  return at + 1 < tokens_.size() && !tokens_[at].Capital && IsOneOf(tokens_[at], words) &&
+         !names_.At(tokens_, Skip(at + 1)).empty();
 }
 
 /// The phrase of a verb that stands here, and the token behind it; None where there is none.
@@ -123,13 +139,10 @@ std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
   for (std::size_t next = ToVerb(at); next < tokens_.size(); next = ToVerb(next + 1)) {
     const bool isFirst = verb == Verb::None;
     Verb word = isFirst && IsPreposition(next) ? Verb::Move : VerbOf(tokens_[next]);
-    // Units that go elsewhere in the adjustments go for good.
-    constexpr std::array removing{"retire"sv, "retirons"sv, "retirent"sv, "ritiro"sv, "retiro"sv};
-    if (stage_ == model::Stage::Adjustments && IsOneOf(tokens_[next], removing))
-      word = Verb::Disband;
-    // "Retira" removes, "se retira" goes elsewhere.
-    if (isFirst && isReflexive && word == Verb::Disband) word = Verb::Retreat;
-    if (!isFirst && isReflexive && Is(next, "a") && !tokens_[next].Capital) {
+    // "Retira" removes, "se retira" and "retira para París" go elsewhere.
+    const bool mayReturn = isFirst && word == Verb::Disband && IsOneOf(tokens_[next], ReturnWords);
+    if (mayReturn && (isReflexive || IsDirection(next + 1))) word = Verb::Retreat;
+    if (!isFirst && (verb == Verb::Retreat || verb == Verb::Move) && IsDirection(next)) {
       at = next + 1;
       continue;
     }

@@ -35,6 +35,10 @@ bool IsAnd(Tokens tokens, std::size_t at) {
       next.Capital && tokens[at - 1].Capital && (isVerbAt(at + 2) || isVerbAt(at + 3));
   // "Plus a fleet".
   if (IsWord(next, "a") && isTypeAt(at + 2) && tokens[at + 2].Text.size() > 1) return true;
+  // "F Londres y A Liverpool".
+  const bool joinsUnits = next.Capital && isTypeAt(at + 1) && tokens[at - 1].Capital &&
+                          at + 2 < tokens.size() && tokens[at + 2].Capital;
+  if (joinsUnits) return true;
   return next.Text.size() > 1 && (isTypeAt(at + 1) || isTypeAt(at + 2) || isBeforePlace ||
                                   HasUse(next, WordUse::Filler, WordUse::Wish));
 }

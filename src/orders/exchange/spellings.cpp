@@ -6,16 +6,16 @@ namespace orb::exchange {
 namespace {
 
 constexpr std::array Spellings{
-    UsualSpellings{"Edi", "edynburga|edimbourg|edimburgo|edinburg|edynburg|edimburg"},
-    UsualSpellings{"Lon", "londynu|ldn|londres|londra|londen|londyn"},
+    UsualSpellings{"Edi", "edynburgu|edynburga|edimbourg|edimburgo|edinburg|edynburg|edimburg"},
+    UsualSpellings{"Lon", "londynie|londynu|ldn|londres|londra|londen|londyn"},
     UsualSpellings{"Wal", "walii|galles|gales|pays de galles|walia|pais de gales"},
     UsualSpellings{"Bur",
                    "burgundii|bourgogne|borgogna|borgona|burgund|bourgondie|borgonha|burgundia"},
     UsualSpellings{"Gas", "gaskonii|gascogne|gascogna|gascuna|gascona|gaskogne|gasconha|gaskonia"},
     UsualSpellings{"Mar", "marsylii|marsella|marsiglia|marselha|marsylia"},
-    UsualSpellings{"Par", "paryza|parigi|parijs|paryz"},
+    UsualSpellings{"Par", "paryza|paryzu|paryza|parigi|parijs|paryz"},
     UsualSpellings{"Pic", "pikardii|picardie|picardia|piccardia|pikardie|pikardia"},
-    UsualSpellings{"Ber", "berlina|berlino|berlijn|berlim"},
+    UsualSpellings{"Ber", "berlinie|berlina|berlino|berlijn|berlim"},
     UsualSpellings{"Kie", "kilonii|kilonia"},
     UsualSpellings{"Mun", "munchen|muenchen|monaco|monachium|monaco di baviera|munique"},
     UsualSpellings{"Pru", "prus|preussen|preusen|prusse|pruisen|prusy|preusse"},
@@ -23,34 +23,37 @@ constexpr std::array Spellings{
     UsualSpellings{"Sil", "slaska|schlesien|silesie|slesia|silezie|slask|silezja"},
     UsualSpellings{"Fin", "finlandii|finlande|finlandia|suomi"},
     UsualSpellings{"Lvn", "inflant|lvo|lva|livland|livonie|lijfland|inflanty|liwonia"},
-    UsualSpellings{"Mos", "moskwy|moskva|moskau|moscou|mosca|moscu|moskou|moskwa|moskova|moscovo"},
-    UsualSpellings{"Sev", "sewastopola|sebastopol|sewastopol|sebastopoli"},
-    UsualSpellings{"Stp",
-                   "petersburga|sankt petersburga|pet|spb|stpete|saint petersburg|st pete|st "
-                   "pet|st p|saint pete|petersburg|"
-                   "petrograd|s petersburg|stpt|sankt petersburg|saint petersbourg|st petersbourg|"
-                   "san pietroburgo|pietroburgo|san petersburgo|sint petersburg|sao petersburgo|"
-                   "st petersburgo|petersbourg|petersburgo|sankt petersborg|st petersborg"},
+    UsualSpellings{"Mos",
+                   "moskwie|moskwy|moskva|moskau|moscou|mosca|moscu|moskou|moskwa|moskova|moscovo"},
+    UsualSpellings{"Sev", "sewastopolu|sewastopola|sebastopol|sewastopol|sebastopoli"},
+    UsualSpellings{
+        "Stp",
+        "petersburgu|petersburga|sankt petersburga|pet|spb|stpete|saint petersburg|st pete|st "
+        "pet|st p|saint pete|petersburg|"
+        "petrograd|s petersburg|stpt|sankt petersburg|saint petersbourg|st petersbourg|"
+        "san pietroburgo|pietroburgo|san petersburgo|sint petersburg|sao petersburgo|"
+        "st petersburgo|petersbourg|petersburgo|sankt petersborg|st petersborg"},
     UsualSpellings{"Ukr", "ukrainy|ukraina|ucraina|ucrania|oekraine"},
-    UsualSpellings{"War", "warszawy|warszawa|warschau|varsovie|varsavia|varsovia"},
-    UsualSpellings{"Ank", "ankary|angora|ancara"},
+    UsualSpellings{"War", "warszawie|warszawy|warszawa|warschau|varsovie|varsavia|varsovia"},
+    UsualSpellings{"Ank", "ankarze|ankary|angora|ancara"},
     UsualSpellings{"Arm", "armenii|armenien|armenie"},
-    UsualSpellings{"Con",
-                   "konstantynopola|kon|cst|istanbul|cple|konstantinopel|costantinopoli|"
-                   "constantinopla|konstantynopol|"
-                   "istambul|estambul|stambul"},
-    UsualSpellings{"Smy", "smyrny|izmir|smirne|esmirna|smirna|smyrne"},
+    UsualSpellings{
+        "Con",
+        "konstantynopolu|konstantynopola|kon|cst|istanbul|cple|konstantinopel|costantinopoli|"
+        "constantinopla|konstantynopol|"
+        "istambul|estambul|stambul"},
+    UsualSpellings{"Smy", "smyrnie|smyrny|izmir|smirne|esmirna|smirna|smyrne"},
     UsualSpellings{"Syr", "syrii|syrien|syrie|siria"},
     UsualSpellings{"Boh", "czech|bohmen|boehmen|boheme|boemia|bohemen|czechy"},
-    UsualSpellings{"Bud", "budapesztu|budapeszt|boedapest|budapeste"},
+    UsualSpellings{"Bud", "budapeszcie|budapesztu|budapeszt|boedapest|budapeste"},
     UsualSpellings{"Gal", "galicji|galizien|galicie|galizia|galicja|galitzia|galitzien"},
-    UsualSpellings{"Tri", "triestu|trs|triest"},
+    UsualSpellings{"Tri", "triescie|triestu|trs|triest"},
     UsualSpellings{"Tyr", "tyrolu|tyrol|tirol|tir|tyo|trl|tyl|tirolo|tyrolen"},
-    UsualSpellings{"Vie", "wiednia|wien|wenen|wieden"},
+    UsualSpellings{"Vie", "wiedniu|wiednia|wien|wenen|wieden"},
     UsualSpellings{"Apu", "apulii|puglia|apulien|pouilles|apulie|puglie"},
     UsualSpellings{"Nap", "neapolu|napoli|neapel|napoles|napels|neapol"},
     UsualSpellings{"Pie", "piemontu|piemonte|piemont|piamonte"},
-    UsualSpellings{"Rom", "rzymu|roma|rzym"},
+    UsualSpellings{"Rom", "rzymie|rzymu|roma|rzym"},
     UsualSpellings{"Tus", "toskanii|toskana|toscane|toscana|toskania"},
     UsualSpellings{"Ven", "wenecji|venezia|venedig|venecia|venetie|wenecja|veneza"},
     UsualSpellings{"Alb", "albanii|albanien|albanie"},
@@ -176,8 +179,9 @@ constexpr std::array Spellings{
                    "mediterraneo occidental|vastra medelhavet|vestlige middelhav|"
                    "westelijke middellandse zee|west middellandse zee|zachodnie morze srodziemne|"
                    "westmittelmeer|mediterraneo ocidental|mediterranee ouest"},
-    UsualSpellings{"Lvp", "lpl|lip|lpool"},
+    UsualSpellings{"Lvp", "liverpoolu|lpl|lip|lpool"},
     UsualSpellings{"SKA", "skagerraku|sgk|skg|skaggerak|skaggerrak|skagerak|skagerrack"},
+    UsualSpellings{"Bre", "brescie|brestu"},
     UsualSpellings{"Yor", "yorks|yrk"},
 };
 

@@ -94,6 +94,50 @@ bool TurnTitle(ClauseWords& words, const PlaceNames& names) {
   return true;
 }
 
+/// "Ich baue F NTH ab", "ik haal F NTH weg": a verb whose particle ends the clause removes the
+/// unit.
+bool TurnSeparable(ClauseWords& words) {
+  struct Separable {
+    std::string_view Verb;
+    std::string_view Particle;
+  };
+  constexpr std::array<Separable, 16> verbs{{{"baue", "ab"},
+                                             {"baut", "ab"},
+                                             {"bauen", "ab"},
+                                             {"lose", "auf"},
+                                             {"lost", "auf"},
+                                             {"losen", "auf"},
+                                             {"nehme", "weg"},
+                                             {"nimm", "weg"},
+                                             {"nimmt", "weg"},
+                                             {"haal", "weg"},
+                                             {"haalt", "weg"},
+                                             {"neem", "weg"},
+                                             {"hef", "op"},
+                                             {"heft", "op"},
+                                             {"tar", "bort"},
+                                             {"tager", "vaek"}}};
+  std::size_t end = words.size();
+  while (end > 0 && !IsA(words[end - 1], TokenKind::Word))
+    --end;
+  for (std::size_t at = 0; at + 2 < end; ++at) {
+    const auto verb = std::ranges::find_if(verbs, [&](const Separable& separable) {
+      return IsWord(words[at], separable.Verb) && (IsWord(words[end - 1], separable.Particle) ||
+                                                   IsWord(words[at + 1], separable.Particle));
+    });
+    if (verb == verbs.end()) continue;
+    // "Tar bort A Yor" has the particle right behind the verb.
+    const std::size_t particle = IsWord(words[at + 1], verb->Particle) ? at + 1 : end - 1;
+    words.erase(words.begin() + static_cast<std::ptrdiff_t>(particle));
+    words[at].SetWord("disband");
+    words[at].Written = "disband";
+    // "Ich", "ik".
+    words.erase(words.begin(), words.begin() + static_cast<std::ptrdiff_t>(at));
+    return true;
+  }
+  return false;
+}
+
 /// "The London fleet for the North Sea", "el ejercito de Viena a Galitzia": only a word like "to"
 /// between the unit and where it is to go.
 void GiveVerb(ClauseWords& words, const PlaceNames& names, bool followsMove) {
@@ -130,6 +174,7 @@ void GiveVerb(ClauseWords& words, const PlaceNames& names, bool followsMove) {
 
 void TurnClause(std::vector<Token>& words, const PlaceNames& names, bool followsMove) {
   if (words.size() < 3) return;
+  if (TurnSeparable(words)) return;
   if (TurnPassive(words, names, followsMove) || TurnGift(words, names) || TurnTitle(words, names))
     return;
   GiveVerb(words, names, followsMove);

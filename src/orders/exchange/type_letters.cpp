@@ -89,10 +89,12 @@ void LearnTypeLetters(std::deque<SourceLine>& text, const KnownGame& known) {
   for (const Token* token : found) {
     const Count& count = counts[token->Text];
     // A word may be anything, unless another one stands before the units of the other type.
+    // Danish "hær" and "flåde" are other words elsewhere.
+    const bool isDanish = token->Text == "har" || token->Text == "flade";
     const bool isKnown = token->Text.size() == 1
                              ? count.Armies + count.Fleets > 1 || counts.size() > 1
                              : ofWords.size() > 1 && found.size() > 2;
-    if (!count.IsOfOneType() || !isKnown) continue;
+    if (!count.IsOfOneType() || !(isKnown || isDanish)) continue;
     learnt[token->Text] = count.Type();
   }
   if (!learnt.empty()) SpreadTypes(text, learnt, known);

@@ -32,8 +32,9 @@ constexpr std::array Verbs{
         "para walk walks walking run runs puts retires rueckt ruckt ruecke rucke avanzan "
         "marchar vai vao sposta spostano desplaza desplazan beweegt beweg marcheert flytter "
         "flyttar flytta gaa drar seglar sejler seiler plynie przechodzi atakuje atakuja "
-        "angreift angriper angriber angrepp aanvalt valt attaquer attaquent attaccano atacan "
-        "atacam entra entre desloca segue marszeruje retire przesuwa takes occupies occupy "
+        "angreift angriper angriber angrepp aanvalt valt attaquer greift greife attaquent "
+        "attaccano atacan "
+        "atacam entra entre desloca segue marszeruje przesuwa takes occupies occupy "
         "lands returns return slides slips pushes push slide shift shifts relocates transfers "
         "steams rolls charge charges rush rushes swings crosses besetzt besetze ruecken zieh "
         "fahrt fahren segelt segle setzt wandert verlegt entert gagne gagner rejoint bouge "
@@ -51,7 +52,8 @@ constexpr std::array Verbs{
         "swoops drives rides treks cruises steers redeploys deploys repositions "
         "transfers embarks entrains hikes crawls wanders tae verso bound sets makes dirige "
         "dirigen pone ponen parte parten parti fonce foncent file filent cingle cinglent fait "
-        "prend prennent lauft laufen dampft dampfen stoomt koerst vertrekt vertrekken drager "
+        "rend rendent prend prennent lauft laufen dampft dampfen stoomt koerst vertrekt vertrekken "
+        "drager "
         "styrer styr beveger bevaeger beger kieruje udaje wyrusza ruma rumam fa fanno voga "
         "pasa pase pasara passe passa sende stuur stuurt sturen schicke schickt schicken verlege "
         "verlegen land"},
@@ -74,7 +76,8 @@ constexpr std::array Verbs{
     VerbWords{
         Verb::Support,
         "s u sup supp supports support supporting spt sprt unterst su backs backing unterstutzt "
-        "unterstuetzt unterstutze unterstutzung soutient soutien soutenir soutiens steunt "
+        "unterstuetzt unterstutze unterstutzung stutzt stutze soutient soutien soutenir soutiens "
+        "steunt "
         "ondersteunt apoya apoyo apoyando sostiene appoggia appoggio supporto supporta "
         "supporte appuie stotter stodjer stoder stoetter apoia wspiera wsparcie helps help "
         "aids unterstutzen unterstuetzen apoiam apoyan appoggiano sostengono soutiennent "
@@ -87,20 +90,23 @@ constexpr std::array Verbs{
               "c cv cvy conv convoy convoys convoying transport transports carry carries carrying "
               "konvoi konvoit konvoiert convoie convoye convoya convoyer convoglia transporte "
               "transporta trasporta transportiert konvojerar konvojerer konwojuje konwoj vervoert "
-              "convoyeert ferries ferry k konvoy konvojera konvojere konwojuja convogliano "
+              "konvoyiert konvoyiere konvooieert konvooien convoyeert ferries ferry k konvoy "
+              "konvojera konvojere konwojuja convogliano "
               "convoiano convoient convoyons comboia comboio transportera transporterar "
               "transporterer transportieren vervoeren escolta kuljettaa saattaa szallit szallitja "
               "konvojuje preprava tasir konvoiruet perevozit metaferei befordert befoerdert "
               "ubersetzt traslada traghetta transportan trasportano"},
-    VerbWords{Verb::Retreat,
-              "r ret retr retreat retreats retreating withdraw withdraws ruckzug rueckzug retraite "
-              "recule ritirata ritira retirada retira terugtocht retratt retraet tilbagetog odwrot "
-              "weicht replie replient repliega repliegan repli retirent retiran retiram retirano "
-              "ritirano tillbakadrar wycofuje wycofuja cofa retirerer retraiterer reculer rekul "
-              "trekker vetaytyy peraantyy visszavonul hatral ustupuje stahuje cekilir otstupaet "
-              "ypochorei replego retrocede retroceden indietreggia recua recuam wijkt vetarse "
-              "retraites reculent flieht fluchtet fuit huye fugge foge vlucht flygter flykter flyr "
-              "ripiega ripiegano ucieka flees falls fall escapes escape flee runs"},
+    VerbWords{
+        Verb::Retreat,
+        "r ret retr retreat retreats retreating withdraw withdraws ruckzug rueckzug retraite "
+        "recule ritirata ritira retirada retira terugtocht retratt retraet tilbagetog odwrot "
+        "weicht replie replient repliega repliegan repli retirent retiran retiram retirano "
+        "ritirano tillbakadrar wycofuje wycofuja cofa retirerer retraiterer reculer rekul "
+        "trekker vetaytyy peraantyy visszavonul hatral ustupuje stahuje cekilir otstupaet "
+        "ypochorei replego retrocede retroceden indietreggia recua recuam wijkt vetarse "
+        "retraites reculent flieht fluchtet fuit huye fugge foge vlucht flygter flykter flyr "
+        "trakker retreter retrettere retirerar retirera ripiega ripiegano ucieka flees falls fall "
+        "escapes escape flee runs"},
     VerbWords{
         Verb::Disband,
         "d dis disb disband disbands disbanded disbanding remove removes removed removing "
@@ -116,6 +122,9 @@ constexpr std::array Verbs{
         "poistaa lakkauttaa feloszlik feloszlat eltavolit torol rozpusti rozpousti zrusi "
         "dagit dagilir kaldir raspustit rozpuska ubrat dialyetai dialysi auflose aufgeloest "
         "loest elimine eliminez pierde retira quita toglie opheffen opgeheven opheft "
+        "retire retiro ritiro disuelta disuelto dissolvida dissolvido sciolto suppression "
+        "suppressions tolgo "
+        "togliamo "
         "scuttle scuttles scuttled kill kills scrap scraps otb quito enleve verwijderd slette "
         "sletter stryger opplos fjerna "
         "usun usunac"},
@@ -139,7 +148,7 @@ constexpr std::string_view Armies =
     "armia armie armii armen haren";
 constexpr std::string_view Fleets =
     "f fleet fleets flotte flotten flottes flota flotas flotta vloot vloten flottan flaaden frota "
-    "flaten flaade";
+    "flaten flaade flote floty";
 
 struct UseWords {
   WordUse Use;
