@@ -96,7 +96,8 @@ void HistoryBar::choose(int index) {
 
 session::Situation HistoryBar::story() const {
   auto present = m_files.read(m_files.present());
-  return present ? std::move(present->situation) : m_desk.now();
+  if (present) return std::move(present->situation);
+  return m_desk.now();
 }
 
 void HistoryBar::showCentres() {

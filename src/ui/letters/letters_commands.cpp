@@ -117,9 +117,10 @@ void LettersCommands::showReceived() {
     std::vector<letters::Receipt> receipts;
     if (!game.empty()) receipts = letters::ReadRegister(game);
     if (receipts.empty()) {
-      throw model::FatalError(
-          game.empty() ? "A game that was never saved has no register of received orders."
-                       : "Nothing was pasted or imported for this game yet.");
+      return m_messages.Show(game.empty()
+                                 ? "A game that was never saved has no register of received orders."
+                                 : "Nothing was pasted or imported for this game yet.",
+                             model::Icon::Information);
     }
     ReceivedDialog(std::move(receipts), displayPath(letters::RegisterOf(game).string()), m_window)
         .exec();
@@ -127,12 +128,12 @@ void LettersCommands::showReceived() {
 }
 
 void LettersCommands::compareWithFile() {
-  const auto choice = askGameToOpen(m_window, m_desk);
-  if (!choice) return;
+  const auto file = askGameToCompare(m_window, m_desk);
+  if (!file) return;
   m_desk.endTrial();
   attempt(m_messages, [&] {
     session::Situation other{model::EmptyGame(m_desk.game().Map)};
-    if (!session::ReadGame(other, choice->file, m_messages)) return;
+    if (!session::ReadGame(other, *file, m_messages)) return;
     showNotice(letters::CorrectionNotice(session::ToldByFilesBeside(std::move(other)),
                                          session::ToldByFilesBeside(m_desk.now())),
                m_window);

@@ -9,6 +9,7 @@
 #include <QDesktopServices>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -17,8 +18,11 @@ namespace orb::ui {
 namespace {
 
 // Pixels.
-constexpr int MapWidth = 420;
-constexpr QSize LettersSize(1000, 560);
+constexpr int MapWidth = 360;
+constexpr int LettersHeight = 560;
+
+/// As wide as letters are: their lines are not broken twice.
+constexpr int LetterColumns = 80;
 
 }  // namespace
 
@@ -58,7 +62,9 @@ LettersDialog::LettersDialog(std::vector<letters::Letter> letters, const QString
   rows->addWidget(buttons);
   connect(m_powers, &QListWidget::currentRowChanged, this, &LettersDialog::showLetter);
   m_powers->setCurrentRow(0);
-  resize(LettersSize);
+  const int wanted = m_powers->maximumWidth() + MapWidth +
+                     LetterColumns * m_text->fontMetrics().horizontalAdvance(QLatin1Char('m'));
+  resize(QSize(wanted, LettersHeight).boundedTo(screen()->availableSize()));
 }
 
 QLayout* LettersDialog::newColumns() {

@@ -4,6 +4,8 @@
 #include "text/qt/text_codec.h"
 #include "ui/letters/text_view.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -16,10 +18,14 @@ namespace {
 // Pixels.
 constexpr QSize RegisterSize(900, 520);
 
+/// Of a file its name alone: there is no room for more, and the entry has all of it.
 QString lineOf(const letters::Receipt& receipt) {
   QString line = QString::fromStdString(receipt.Time);
-  for (const std::string* part : {&receipt.Power, &receipt.Source}) {
-    if (!part->empty()) line.append(QStringLiteral("  ")).append(QString::fromStdString(*part));
+  const QString source = QString::fromStdString(receipt.Source);
+  const bool isFile = QDir::isAbsolutePath(source);
+  for (const QString& part :
+       {QString::fromStdString(receipt.Power), isFile ? QFileInfo(source).fileName() : source}) {
+    if (!part.isEmpty()) line.append(QStringLiteral("  ")).append(part);
   }
   return line;
 }

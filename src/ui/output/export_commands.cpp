@@ -172,10 +172,11 @@ QString ExportCommands::whyNotBothSides(const session::Situation& story) const {
   if (m_desk.game().Stage == model::Stage::Moves)
     return tr("There is no outcome yet: the moves are not resolved.");
   const Orders orders = session::SeasonOrders(story);
-  if (std::none_of(orders.begin(), orders.end(), isOfMoves))
+  if (std::none_of(orders.begin(), orders.end(), isOfMoves)) {
     return tr(
         "The season's orders are not known: they stand neither in this game's file nor in "
         "another one beside it.");
+  }
   return {};
 }
 

@@ -110,6 +110,13 @@ std::optional<std::filesystem::path> askForNewFile(
   return std::nullopt;
 }
 
+/// One of the files that there are.
+std::optional<std::filesystem::path> oneThatIs(QFileDialog& dialog) {
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return chosenFile(dialog);
+}
+
 /// What the dialog of an export says and proposes.
 struct ExportTexts {
   QString title;
@@ -154,12 +161,16 @@ std::optional<OpenChoice> askGameToOpen(QWidget* parent, const Desk& desk) {
   return OpenChoice{chosenFile(dialog), readOnly->isChecked()};
 }
 
+std::optional<std::filesystem::path> askGameToCompare(QWidget* parent, const Desk& desk) {
+  QFileDialog dialog(parent);
+  setUpForGames(dialog, QObject::tr(" Compare"), desk);
+  return oneThatIs(dialog);
+}
+
 std::optional<std::filesystem::path> askOrdersToImport(QWidget* parent, const Desk& desk) {
   QFileDialog dialog(parent);
   setUp(dialog, QObject::tr(" Import Orders"), {textFiles(), mailFiles(), allFiles()}, desk);
-  dialog.setFileMode(QFileDialog::ExistingFile);
-  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-  return chosenFile(dialog);
+  return oneThatIs(dialog);
 }
 
 std::vector<std::filesystem::path> askGamesToAnimate(QWidget* parent, const Desk& desk) {

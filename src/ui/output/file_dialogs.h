@@ -22,6 +22,9 @@ struct OpenChoice {
 /// Asks for a game file to open; nothing when cancelled. Every dialog begins in the desk's folder.
 std::optional<OpenChoice> askGameToOpen(QWidget* parent, const Desk& desk);
 
+/// Asks which game file the game is to be compared with.
+std::optional<std::filesystem::path> askGameToCompare(QWidget* parent, const Desk& desk);
+
 /// Asks for a text file of orders; nothing when cancelled.
 std::optional<std::filesystem::path> askOrdersToImport(QWidget* parent, const Desk& desk);
 
