@@ -53,6 +53,9 @@ TEST_F(ColumnTest, ThePowersTellWhereTheyStandAndShowTheirLinesAlone) {
   EXPECT_EQ(Lines("lstOrders").size(), 3U) << "hidden lines stay orders";
   Enter("mar - spa");
   EXPECT_EQ(Told("butPowerFRA"), "France: 2 of 3 orders");
+  Enter("gas - mar");
+  EXPECT_EQ(Find<QLabel>("lblStatus").text().toStdString(), "Not filed: no unit stands there.");
+  Press(Qt::Key_Escape);
   Enter("ENG F(Edi) - NWG");
   EXPECT_EQ(Seen("lstOrders").size(), 5U) << "all again, as it is of another power";
   Press(Qt::Key_1, Qt::AltModifier);

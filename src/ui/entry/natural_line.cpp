@@ -3,13 +3,29 @@
 #include "orders/exchange/read_orders.h"
 #include "orders/parser.h"
 
+#include <optional>
+
 namespace orb::ui {
+namespace {
+
+/// Nothing where the line is to stay as it is typed.
+std::optional<exchange::ReadLine> readAsWritten(const model::GameState& game,
+                                                const std::string& typed, int power) {
+  if (power == 0 || orders::ParseLine(*game.Map, game.Stage, typed).Power != 0) return {};
+  const std::string name(model::PowerName(power));
+  return exchange::ReadOrder(game, typed, {name, {}});
+}
+
+}  // namespace
 
 std::string naturalLine(const model::GameState& game, const std::string& typed, int power) {
-  if (power == 0 || orders::ParseLine(*game.Map, game.Stage, typed).Power != 0) return typed;
-  const std::string name(model::PowerName(power));
-  const exchange::ReadLine read = exchange::ReadOrder(game, typed, {name, {}});
-  return read.Kind == exchange::LineKind::Order ? read.Order : typed;
+  const auto read = readAsWritten(game, typed, power);
+  return read && read->Kind == exchange::LineKind::Order ? read->Order : typed;
+}
+
+std::string naturalFault(const model::GameState& game, const std::string& typed, int power) {
+  const auto read = readAsWritten(game, typed, power);
+  return read && read->Kind != exchange::LineKind::Order ? read->Reason : std::string();
 }
 
 }  // namespace orb::ui

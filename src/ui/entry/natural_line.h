@@ -11,4 +11,7 @@ namespace orb::ui {
 /// typed.
 std::string naturalLine(const model::GameState& game, const std::string& typed, int power);
 
+/// Why such a line is no sure order, to follow a colon; empty where it is one, or is not read so.
+std::string naturalFault(const model::GameState& game, const std::string& typed, int power);
+
 }  // namespace orb::ui

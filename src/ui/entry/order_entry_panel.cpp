@@ -275,10 +275,7 @@ void OrderEntryPanel::hideEvent(QHideEvent* event) {
 bool OrderEntryPanel::fileOrder() {
   // A line in which no unit can be recognized is not filed, and stays in the box to be corrected.
   const bool filed = m_desk.fileOrder(naturalLine(game(), line(), m_power));
-  const QString why =
-      m_text->text().trimmed().isEmpty()
-          ? tr("Nothing to file: the box is empty.")
-          : tr("Not filed: no unit with its place in brackets, as in %1.").arg(m_example);
+  const QString why = filed ? QString() : whyNotFiled();
   if (filed) {
     m_list->setCurrentRow(m_list->count() - 1);
     m_text->clear();
@@ -289,6 +286,13 @@ bool OrderEntryPanel::fileOrder() {
   if (filed && keyboard != nullptr && !isAncestorOf(keyboard)) keyboard->setFocus();
   if (!filed) emit statusText(why);
   return filed;
+}
+
+QString OrderEntryPanel::whyNotFiled() const {
+  if (m_text->text().trimmed().isEmpty()) return tr("Nothing to file: the box is empty.");
+  const std::string fault = naturalFault(game(), line(), m_power);
+  if (!fault.empty()) return tr("Not filed: %1.").arg(text::ToQString(fault));
+  return tr("Not filed: no unit with its place in brackets, as in %1.").arg(m_example);
 }
 
 void OrderEntryPanel::mapClicked(const MapSpot& at) {

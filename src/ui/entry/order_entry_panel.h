@@ -146,6 +146,7 @@ class OrderEntryPanel : public QWidget, public MapTool {
   bool fileOrder();
   /// Whether an order that lacks nothing is in the box.
   bool isWhole() const;
+  QString whyNotFiled() const;
   /// Files a whole order that is still in the box first, and stops where it is none.
   void resolve();
   void cancelOrder();
