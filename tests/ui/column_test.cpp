@@ -72,6 +72,27 @@ TEST_F(ColumnTest, ThePowersTellWhereTheyStandAndShowTheirLinesAlone) {
   EXPECT_TRUE(Find<ui::PowerCell>("butPowerENG").isVisible());
 }
 
+TEST_F(ColumnTest, TheKeyboardGoesFromTopToBottomAndFromAreaToArea) {
+  Open(examples_ / "1902-1-spring-1-moves.orb");
+  const auto path = [&](Qt::Key key, int times, Qt::KeyboardModifiers modifiers = {}) {
+    std::string names;
+    for (int i = 0; i < times; ++i) {
+      Press(key, modifiers);
+      names += QApplication::focusWidget()->objectName().toStdString() + " ";
+    }
+    return names;
+  };
+  EXPECT_EQ(path(Qt::Key_F6, 3), "picMap sldHistory txtRetreat ");
+  EXPECT_EQ(path(Qt::Key_F6, 2, Qt::ShiftModifier), "sldHistory picMap ");
+  Find<ui::PowerCell>("butPowerITA").setFocus();
+  EXPECT_EQ(path(Qt::Key_Tab, 10),
+            "lstRetreatsOpen txtRetreat butRetreatOK butRetreatRetreat butRetreatDisband "
+            "butRetreatCancel butRetreatDelete butRetreatsHelp butRetreatsResolve "
+            "qt_tabwidget_tabbar ");
+  Trigger("mnuMapViewOnly");
+  EXPECT_EQ(path(Qt::Key_F6, 2), "picMap picMap ");
+}
+
 TEST(Report, TellsThatThereIsNoneAndLeadsToWhatIsNew) {
   session::Situation situation{EmptyBoard("Autumn", "adjustments")};
   for (int line = 0; line < 40; ++line)

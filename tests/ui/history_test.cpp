@@ -1,6 +1,7 @@
 #include "ui/modal_script.h"
 #include "ui/window_fixture.h"
 
+#include <QAbstractButton>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -111,7 +112,7 @@ TEST_F(HistoryTest, TheLineIsPlayedChartedAndHidden) {
   Open(directory_.Path() / "con1901-2-autumn-1-moves.orb");
   EXPECT_TRUE(HasStages(3));
   EXPECT_EQ(Line().value(), 1) << "later stages are shown as well";
-  Find<QPushButton>("butHistoryPlay").click();
+  Find<QAbstractButton>("butHistoryPlay").click();
   EXPECT_TRUE(IsVisible("fraAnimate"));
   EXPECT_FALSE(IsVisible("fraHistory"));
   Find<QPushButton>("butAnimateClose").click();
@@ -122,7 +123,7 @@ TEST_F(HistoryTest, TheLineIsPlayedChartedAndHidden) {
                   HasSubstr("Austria-Hungary: 3, "));
       dialog.reject();
     }});
-    Find<QPushButton>("butHistoryCentres").click();
+    Find<QAbstractButton>("butHistoryCentres").click();
   }
   Line().setValue(0);
   EXPECT_NE(Banner(), "");

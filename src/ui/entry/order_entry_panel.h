@@ -55,6 +55,9 @@ class OrderEntryPanel : public QWidget, public MapTool {
   /// Called when the panel has come up: the keyboard goes to the box, and a new line begins.
   void startEntry();
 
+  /// The keyboard goes to the box, behind what stands there.
+  void focusText();
+
   /// Only the lines of the power in this row are shown, and lines that name no power are for it; 0:
   /// all are shown.
   void showOnly(int power);
@@ -131,7 +134,6 @@ class OrderEntryPanel : public QWidget, public MapTool {
   void addListMenu();
   /// Leaves the box, or what is tried out.
   void goBack();
-  void focusText();
   void focusList();
   void append(const QString& words);
   // What the list shows: its lines, their marks, and the row at which resolving stopped.

@@ -4,7 +4,7 @@
 #include "ui/widgets/icons.h"
 
 #include <QHBoxLayout>
-#include <QPushButton>
+#include <QToolButton>
 
 #include <utility>
 
@@ -23,22 +23,24 @@ HistoryBar::HistoryBar(Desk& desk, QWidget* parent)
   row->setContentsMargins({});
   row->setSpacing(Gap);
   row->addWidget(m_line, 1);
-  QPushButton* play = addButton(QStringLiteral("butHistoryPlay"), QStringLiteral("play"),
+  QToolButton* play = addButton(QStringLiteral("butHistoryPlay"), QStringLiteral("play"),
                                 tr("Play the history of the game"));
-  QPushButton* chart = addButton(QStringLiteral("butHistoryCentres"), QStringLiteral("chart"),
+  QToolButton* chart = addButton(QStringLiteral("butHistoryCentres"), QStringLiteral("chart"),
                                  tr("Show the centres over the years"));
-  connect(play, &QPushButton::clicked, this, [this] { emit playWanted(m_files.readAll()); });
-  connect(chart, &QPushButton::clicked, this, &HistoryBar::showCentres);
+  connect(play, &QToolButton::clicked, this, [this] { emit playWanted(m_files.readAll()); });
+  connect(chart, &QToolButton::clicked, this, &HistoryBar::showCentres);
   connect(m_line, &HistoryLine::valueChanged, this, &HistoryBar::choose);
   connect(&m_files, &SeasonFiles::changed, this, &HistoryBar::showStages);
   connect(&m_desk, &Desk::trialChanged, this, &HistoryBar::showPlace);
   showStages();
 }
 
-QPushButton* HistoryBar::addButton(const QString& name, const QString& icon, const QString& tip) {
-  QPushButton* button = newButton(name, {});
+QToolButton* HistoryBar::addButton(const QString& name, const QString& icon, const QString& tip) {
+  // A flat push button would not show that it has the keyboard.
+  auto* button = new QToolButton;
+  button->setObjectName(name);
   button->setIcon(newIcon(icon));
-  button->setFlat(true);
+  button->setAutoRaise(true);
   const int side = fontMetrics().height() * 5 / 4;
   button->setIconSize({side, side});
   button->setFixedSize(side + 2 * Gap, side + 2 * Gap);

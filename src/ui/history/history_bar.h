@@ -32,7 +32,7 @@ class HistoryBar : public QFrame {
   void noted(const QString& text);
 
  private:
-  QPushButton* addButton(const QString& name, const QString& icon, const QString& tip);
+  QToolButton* addButton(const QString& name, const QString& icon, const QString& tip);
   void showStages();
   void showPlace();
   void choose(int index);

@@ -52,6 +52,7 @@
 
 #include <array>
 #include <utility>
+#include <vector>
 
 namespace orb::ui {
 namespace {
@@ -146,7 +147,8 @@ void MainWindow::createPanels() {
   listenTo(m_editUnits);
   listenTo(m_editProvinces);
   connect(m_map, &MapPicture::hovered, this, &MainWindow::showPlace);
-  new QShortcut(Qt::Key_F6, this, [this] { m_map->setFocus(Qt::TabFocusReason); });
+  new QShortcut(Qt::Key_F6, this, [this] { goToArea(1); });
+  new QShortcut(Qt::SHIFT | Qt::Key_F6, this, [this] { goToArea(-1); });
   connect(m_map, &MapPicture::clickedWithoutMouse, this, [this] {
     // The keyboard stays on the map, so the line is said elsewhere than in its box.
     for (OrderEntryPanel* panel : {m_orders, m_retreats, m_adjustments}) {
@@ -181,10 +183,10 @@ void MainWindow::layOutPanels() {
   m_powers = new PowerStrip(m_desk);
   for (OrderEntryPanel* panel : {m_orders, m_retreats, m_adjustments})
     m_powers->lead(*panel);
-  m_column = new SideColumn(m_powers, m_seasonFinished, m_tabs);
-  for (QWidget* panel : stagePanels()) {
-    if (panel != m_seasonFinished) m_column->addPanel(panel);
-  }
+  const auto all = stagePanels();
+  std::vector<QWidget*> panels(all.begin(), all.end());
+  std::erase(panels, m_seasonFinished);
+  m_column = new SideColumn(m_powers, m_seasonFinished, panels, m_tabs);
 
   auto* desk = new QWidget;
   auto* rows = new QVBoxLayout(desk);

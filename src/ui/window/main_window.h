@@ -96,6 +96,8 @@ class MainWindow : public QMainWindow {
   /// Hands the mouse on the map to the panel that is in front.
   void chooseTool();
   void showPlace(int location);
+  /// Takes the keyboard so many areas on: the column at the right, the map, the history below it.
+  void goToArea(int steps);
   void showAnimation();
   /// The report of what is tried out comes to the front where there was none; while another stage
   /// of the history is looked at, its orders are where the stage's panel was.

@@ -15,12 +15,18 @@ constexpr int LeastLines = 12;
 
 }  // namespace
 
-SideColumn::SideColumn(QWidget* powers, QWidget* brief, QWidget* facts)
+SideColumn::SideColumn(QWidget* powers, QWidget* brief, const std::vector<QWidget*>& panels,
+                       QWidget* facts)
     : m_brief(brief),
       m_shares(new SharedRoom(Qt::Vertical, SharedRoom::Unit::PerMille, 0)),
       m_place(new QWidget),
       m_panels(new QVBoxLayout(m_place)) {
   m_panels->setContentsMargins({});
+  // From top to bottom: the Tab key goes from control to control as they were added.
+  for (QWidget* panel : panels) {
+    panel->hide();
+    m_panels->addWidget(panel);
+  }
   m_shares->addWidget(m_place);
   m_shares->addWidget(facts);
   setFrameShape(QFrame::NoFrame);
@@ -52,11 +58,6 @@ bool SideColumn::event(QEvent* event) {
   const bool handled = QScrollArea::event(event);
   if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) updateGeometry();
   return handled;
-}
-
-void SideColumn::addPanel(QWidget* panel) {
-  panel->hide();
-  m_panels->addWidget(panel);
 }
 
 /// Never two panels at once: the window would grow to hold them.

@@ -5,6 +5,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <vector>
+
 namespace orb::ui {
 
 /// The panels at the right of the map: where the powers stand, the panel of the stage, and below it
@@ -15,10 +17,8 @@ class SideColumn : public QScrollArea {
 
  public:
   /// `brief` is a panel with so little to say that it leaves the room to the facts.
-  SideColumn(QWidget* powers, QWidget* brief, QWidget* facts);
-
-  /// Adds a panel that is shown in the same place as the other ones.
-  void addPanel(QWidget* panel);
+  /// The other panels are shown in one place.
+  SideColumn(QWidget* powers, QWidget* brief, const std::vector<QWidget*>& panels, QWidget* facts);
 
   /// Shows this panel and none of the others; null for none at all.
   void showInstead(QWidget* shown);
