@@ -12,7 +12,7 @@ class DesktopPortal : public QObject {
  public:
   explicit DesktopPortal(QObject* parent = nullptr);
 
- public slots:
+ public slots:  // NOLINT(readability-redundant-access-specifiers): moc needs it
   /// Asks anew.
   void ask();
 };
