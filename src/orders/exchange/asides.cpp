@@ -306,7 +306,8 @@ std::optional<TokenRange> ReadReservation(Tokens line, bool isBehindOrders) {
   if (IsOffer(line)) return std::nullopt;
   const auto word = std::ranges::find(line, TokenKind::Word, &Token::Kind);
   const bool asks = std::ranges::find(line, "?", &Token::Text) != line.end();
-  if (asks && isBehindOrders && !IsOfEverydayLife(line) && !AsksMaster(line))
+  if (asks && isBehindOrders && !IsOfEverydayLife(line) && !AsksMaster(line) &&
+      !AsksAfterHealth(line))
     return TokenRange{0, line.size()};
   if (word == line.end()) return std::nullopt;
   if (!HasUse(*word, WordUse::Reservation)) return std::nullopt;
@@ -320,7 +321,8 @@ bool Reconsiders(Tokens words) {
   // Farther on such words belong to another thought.
   constexpr std::size_t few = 5;
   const bool isRemark = !words.empty() && IsA(words[0], TokenKind::Open);
-  return !isRemark && FindSaying(words.first(std::min(few, words.size())), Saying::Reconsiders);
+  return !isRemark && !FindSaying(words, Saying::Chats) &&
+         FindSaying(words.first(std::min(few, words.size())), Saying::Reconsiders);
 }
 
 int ExcludedPlace(Tokens words, const PlaceNames& names) {

@@ -1,6 +1,7 @@
 #include "orders/exchange/bearing.h"
 
 #include "orders/exchange/asides.h"
+#include "orders/exchange/harmless_words.h"
 #include "orders/exchange/other_matters.h"
 #include "orders/exchange/rest_holds.h"
 #include "orders/exchange/sayings.h"
@@ -49,29 +50,6 @@ bool IsOfLetter(Tokens words) {
       (IsWord(words[1], "care") || IsWord(words.back(), "easy")))
     return true;
   return words.size() > 2 && IsWord(words[0], "all") && IsWord(words[1], "the");
-}
-
-/// "How is your mother?", "Wie geht's?".
-bool AsksAfterHealth(Tokens words) {
-  constexpr std::array<std::array<std::string_view, 2>, 20> openings{
-      {{"how", "are"},     {"how", "is"},      {"hows", ""},         {"wie", "geht"},
-       {"comment", "va"},  {"comment", "vas"}, {"comment", "allez"}, {"ca", "va"},
-       {"como", "estas"},  {"como", "esta"},   {"como", "vai"},      {"come", "stai"},
-       {"come", "va"},     {"come", "sta"},    {"hoe", "gaat"},      {"hoe", "is"},
-       {"hvordan", "gar"}, {"hvordan", "har"}, {"hur", "mar"},       {"jak", "sie"}}};
-  for (std::size_t at = 0; at < words.size(); ++at) {
-    for (const auto& [first, second] : openings) {
-      if (!IsWord(words[at], first)) continue;
-      if (second.empty()) return true;
-      if (at + 1 == words.size() || !IsWord(words[at + 1], second)) continue;
-      // "How is this?" asks about the orders.
-      const bool points =
-          second == "is" && at + 2 < words.size() &&
-          (Signs(words[at + 2], Signal::Hints) || Signs(words[at + 2], Signal::Points));
-      if (!points) return true;
-    }
-  }
-  return false;
 }
 
 /// "If anything is wrong, call me" offers, "this is wrong" does not.
@@ -150,6 +128,19 @@ bool IsOfSome(Tokens words) {
          std::ranges::none_of(words, IsNumber);
 }
 
+/// "My brother's orders".
+bool AreSomebodys(Tokens words) {
+  constexpr std::array<std::string_view, 13> contracted{"it",    "that",  "here", "he",  "she",
+                                                        "what",  "there", "let",  "who", "how",
+                                                        "where", "today", "this"};
+  const bool isOfOrders =
+      std::ranges::any_of(words, [](const Token& token) { return HasUse(token, WordUse::Orders); });
+  return isOfOrders && std::ranges::any_of(words, [&](const Token& token) {
+           return token.Written.ends_with("'s") && !IsOneOf(token, contracted) &&
+                  !token.Means.BeginsPower;
+         });
+}
+
 /// "Fleet Edinburgh", "the army in Tyrolia".
 bool NamesUnit(Tokens words, const PlaceNames& names) {
   constexpr std::size_t near = 3;
@@ -206,6 +197,7 @@ bool BearsOnOrders(Tokens sentence, Unplaced unit) {
   if (signals.Has(Signal::Says) && (signals.Has(Signal::Denies) || count < few)) return true;
   if (signals.Has(Signal::Plans) && signals.Has(Signal::Hints, Signal::Points)) return true;
   if (CountsLines(sentence) || NamesLine(sentence)) return true;
+  if (count < brief && AreSomebodys(sentence)) return true;
   const bool isOfUnit =
       unit == Unplaced::Bears && std::ranges::any_of(sentence, [](const Token& token) {
         return UnitTypeOf(token) != 0 && token.Text.size() > 1;

@@ -93,4 +93,14 @@ std::size_t FindCondition(Tokens tokens) {
   return static_cast<std::size_t>(std::ranges::find_if(tokens, isCondition) - tokens.begin());
 }
 
+TokenRange CommentAtEnd(Tokens line, TokenRange part) {
+  const auto isSign = [](const Token& token) {
+    return token.Kind == TokenKind::Mark &&
+           (token.Text == "#" || token.Text.starts_with("//") || token.Text.starts_with("<-"));
+  };
+  while (part.Begin < part.End && !isSign(line[part.Begin]))
+    ++part.Begin;
+  return part;
+}
+
 }  // namespace orb::exchange

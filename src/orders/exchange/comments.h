@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orders/exchange/place_names.h"
+#include "orders/exchange/written_order.h"
 
 namespace orb::exchange {
 
@@ -16,5 +17,8 @@ bool IsRemark(Tokens tokens, const PlaceNames& names);
 
 /// The first word that makes a condition, or the number of tokens.
 std::size_t FindCondition(Tokens tokens);
+
+/// From "//", "#" or "<-" to the end of a part of a line; empty at its end where there is none.
+TokenRange CommentAtEnd(Tokens line, TokenRange part);
 
 }  // namespace orb::exchange

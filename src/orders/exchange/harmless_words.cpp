@@ -39,7 +39,8 @@ constexpr std::string_view PlainPhrases =
     "zoals altijd|som altid|som alltid|jak zawsze|no worries|as everybody does|as everyone does|"
     "expecting a bounce|is arranged|its arranged|with ~|mit ~|avec ~|con ~|met ~|med ~|"
     "this time|diesmal|cette fois|cette fois ci|esta vez|questa volta|desta vez|deze keer|"
-    "denne gang|denna gang|tym razem|do zobaczenia|do widzenia|do jutra|do uslyszenia|gg no "
+    "denne gang|denna gang|tym razem|press none|lets see what|do zobaczenia|do widzenia|do "
+    "jutra|do uslyszenia|gg no "
     "re|voice message|voice "
     "note|media omitted|image omitted|sticker omitted|"
     "gif omitted|sprachnachricht|says hello|says hi|sends love|sends regards|off the board|from "
@@ -164,6 +165,37 @@ bool ExcusesSlip(Tokens words) {
          });
 }
 
+namespace {
+
+/// "This", "these", "it".
+bool PointsAt(const Token& token) {
+  constexpr auto pointing =
+      static_cast<unsigned>(Signal::Points) | static_cast<unsigned>(Signal::Hints);
+  return (token.Means.Signals & pointing) != 0;
+}
+
+}  // namespace
+
+bool AsksAfterHealth(Tokens words) {
+  constexpr std::array<std::array<std::string_view, 2>, 20> openings{
+      {{"how", "are"},     {"how", "is"},      {"hows", ""},         {"wie", "geht"},
+       {"comment", "va"},  {"comment", "vas"}, {"comment", "allez"}, {"ca", "va"},
+       {"como", "estas"},  {"como", "esta"},   {"como", "vai"},      {"come", "stai"},
+       {"come", "va"},     {"come", "sta"},    {"hoe", "gaat"},      {"hoe", "is"},
+       {"hvordan", "gar"}, {"hvordan", "har"}, {"hur", "mar"},       {"jak", "sie"}}};
+  for (std::size_t at = 0; at < words.size(); ++at) {
+    for (const auto& [first, second] : openings) {
+      if (!IsWord(words[at], first)) continue;
+      if (second.empty()) return true;
+      if (at + 1 == words.size() || !IsWord(words[at + 1], second)) continue;
+      // "How is this?" asks about the orders.
+      const bool points = second == "is" && at + 2 < words.size() && PointsAt(words[at + 2]);
+      if (!points) return true;
+    }
+  }
+  return false;
+}
+
 bool AsksMaster(Tokens words) {
   constexpr std::array<std::string_view, 10> nouns{"question", "frage",  "pregunta",  "domanda",
                                                    "pergunta", "vraag",  "sporgsmal", "sporsmal",
@@ -171,9 +203,7 @@ bool AsksMaster(Tokens words) {
   const bool isTitled =
       words.size() > 4 && IsOneOf(words[0], nouns) && IsA(words[1], TokenKind::Colon);
   return isTitled && std::ranges::none_of(words, [](const Token& token) {
-           constexpr auto pointing =
-               static_cast<unsigned>(Signal::Points) | static_cast<unsigned>(Signal::Hints);
-           return ((token.Means.Signals & pointing) != 0 && !HasUse(token, WordUse::Orders)) ||
+           return (PointsAt(token) && !HasUse(token, WordUse::Orders)) ||
                   (UnitTypeOf(token) != 0 && token.Text.size() > 1);
          });
 }

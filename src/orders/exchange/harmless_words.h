@@ -23,6 +23,9 @@ bool IsPersonAt(Tokens tokens, std::size_t at, const PlaceNames& names);
 /// Whether all words are known and several are of everyday life: "When is the pizza here?".
 bool IsOfEverydayLife(Tokens words);
 
+/// "How is your mother?", "Wie geht's?".
+bool AsksAfterHealth(Tokens words);
+
 /// Whether a line puts a question of its own: "Question: do you take orders by telephone?".
 bool AsksMaster(Tokens words);
 

@@ -33,6 +33,12 @@ bool IsPressTitle(Tokens tokens);
 /// Whether a line is press as a whole, "PRESS Rome to Paris: don't look behind you."
 bool IsPressLine(Tokens tokens);
 
+/// Whether the first word is a type of unit. What players write to each other may name places, but
+/// hardly units: "Con - Sev: I told you so".
+inline bool BeginsWithType(Tokens tokens) {
+  return !tokens.empty() && UnitTypeOf(tokens[0]) != 0;
+}
+
 /// Behind the marks that begin a line in mails and lists: "> ", "- ", "1.", "(2)", "a)", "[10:15]",
 /// "<name>"; what comes before belongs to none of its orders.
 std::size_t PastLineStart(Tokens tokens);

@@ -5,6 +5,7 @@
 #include "orders/exchange/bearing.h"
 #include "orders/exchange/cells.h"
 #include "orders/exchange/check_line.h"
+#include "orders/exchange/comments.h"
 #include "orders/exchange/concerns.h"
 #include "orders/exchange/contradictions.h"
 #include "orders/exchange/exact_line.h"
@@ -147,25 +148,16 @@ class TextReader {
         !IsOrderAlone(line.Part(body), *heading, known_.Stage)) {
       return AddHeading(line, *heading);
     }
-    if (isPressTitle || IsPressLine(line.Part(body)) || (inPress_ && !IsTyped(line.Part(body)))) {
+    if (isPressTitle || IsPressLine(line.Part(body)) ||
+        (inPress_ && !BeginsWithType(line.Part(body)))) {
       inPress_ = inPress_ || isPressTitle;
       rows_.AddLine(line, context_.Power, LineKind::PassedOver);
       return;
     }
-    const auto isSign = [](const Token& token) {
-      return token.Kind == TokenKind::Mark &&
-             (token.Text == "#" || token.Text.starts_with("//") || token.Text.starts_with("<-"));
-    };
-    const auto sign = std::ranges::find_if(line.Part(body), isSign);
-    const TokenRange comment{body.Begin + static_cast<std::size_t>(sign - line.Part(body).begin()),
-                             body.End};
+    const TokenRange comment = CommentAtEnd(tokens, body);
     body.End = comment.Begin;
     ReadBody(line, body, comment);
   }
-
-  /// What players write to each other may name places, but hardly units: "Con - Sev: I told you
-  /// so".
-  static bool IsTyped(Tokens tokens) { return !tokens.empty() && UnitTypeOf(tokens[0]) != 0; }
 
   void ReadBody(const SourceLine& line, TokenRange body, TokenRange comment) {
     const Tokens said = line.Part(comment);
@@ -230,6 +222,7 @@ class TextReader {
       const Concern concern = ConcernOf(line.All, known_.Names, *known_.Game.Map);
       rows_.Around.DoubtAbove(Quoted(line.Part(*at)) + " may change it", line.Span(*at), concern,
                               rows_.Lines, first);
+      if (LeadToIfAsked(line)) return;
     }
     constexpr std::size_t few = 4;
     // Units name themselves in other stages.
@@ -251,9 +244,9 @@ class TextReader {
                 IsPlaceAlone(said, known_.Names))) {
       rows_.Around.DoubtBlock(Quoted(line.All) + " may change it",
                               {line.Offset, line.Bytes.size()});
-    } else if (!IsUnclear(rows_.Lines.back()) && !quotations_.IsQuoted() && LeadsOn(line.All)) {
-      const TokenRange all{0, line.All.size()};
-      rows_.Around.LeadTo(Quoted(line.Part(all)) + " leads to it", line.Span(all));
+    } else if (!quotations_.IsQuoted() && (FindSaying(line.All, Saying::Gives) ||
+                                           (!IsUnclear(rows_.Lines.back()) && LeadsOn(line.All)))) {
+      rows_.Around.LeadTo(Quoted(line.All) + " leads to it", line.Span({0, line.All.size()}));
     } else if (!said.empty() && IsA(said.back(), TokenKind::Colon) && !isTitle_) {
       if (IsOwnTitle(said) || Corrects(said)) return TakeOwnTitle(said);
       rows_.Around.EntitleBlock(Quoted(said) + " is not understood",
@@ -319,6 +312,14 @@ class TextReader {
     const Concern concern = ConcernOf(line.All, known_.Names, *known_.Game.Map);
     rows_.Around.SetAside(aside.Scope, Quoted(line.Part(aside.At)) + " sets it aside",
                           line.Span(aside.At), context_.Power, concern, rows_.Lines, first);
+    if (aside.Scope == AsideScope::Above) LeadToIfAsked(line);
+  }
+
+  /// "What do you think of this?" above the first orders asks about those below it.
+  bool LeadToIfAsked(const SourceLine& line) {
+    if (rows_.HoldsOrders(0) || line.All.back().Text != "?") return false;
+    rows_.Around.LeadTo(Quoted(line.All) + " leads to it", line.Span({0, line.All.size()}));
+    return true;
   }
 
   bool ReadExact(const SourceLine& line) {

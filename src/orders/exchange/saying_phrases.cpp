@@ -75,7 +75,14 @@ constexpr std::array SayingTable{
         "ideal world|perfect world|50 / 50|fifty fifty|in theory|ideally|one day|some "
         "day|eventually|"
         "in my dreams|well see|who knows|in this order|in order of|as far "
-        "as|preference|preferences|cold feet|=off|=crossed out|almost sure|nearly sure|kind of "
+        "as|preference|preferences|kann sich noch andern|konnte sich noch andern|andert sich "
+        "noch|kann sich andern|peut changer|peut encore changer|puede cambiar|puede que cambie|puo "
+        "cambiare|puo ancora cambiare|pode mudar|ainda pode mudar|kan nog veranderen|kan nog "
+        "wijzigen|kan andre sig|kan endre seg|kan andras|moze sie zmienic|ne pas traiter|pas "
+        "traiter|no procesar|non elaborare|niet verwerken|nie przetwarzaj|i would do|i would "
+        "play|id do|id play|i could do|i could play|i might do|i might play|if i were|ich tun "
+        "wurde|ich machen wurde|je ferais|je jouerais|yo haria|io farei|eu faria|ik zou doen|jeg "
+        "ville gore|cold feet|=off|=crossed out|almost sure|nearly sure|kind of "
         "sure|sort of sure|=pretty sure|=quite sure|=fairly sure|=big mistake|=mail me|=text "
         "me|=phone me|=other game|=the other game|=other board|the other board|my other game|=in "
         "the evening|=in an hour|=let me know|=ask "
@@ -228,6 +235,7 @@ constexpr std::array SayingTable{
         "mistake above|fehler drin"},
     SayingPhrases{
         Saying::Titles,
+        "how to write|how orders are written|"
         "fantasy|fantasy orders|decoy|press release|standing orders|testing|format|right "
         "format|like so|"
         "plan a|plan b|plan c|plan 1|plan 2|option a|option b|option 1|option 2|option one|"
@@ -288,7 +296,9 @@ constexpr std::array SayingTable{
                   "pech gehabt|tant pis|peor para|peggio per|pior para"},
     SayingPhrases{
         Saying::Chats,
-        "well played|nicely played|gut gespielt|bien joue|bien jugado|ben giocato|bem jogado|"
+        "well played|nicely played|did it right|got it right|notation is right|format is right|"
+        "spelling is right|no comment|no comments|would be proud|lets see what the|"
+        "gut gespielt|bien joue|bien jugado|ben giocato|bem jogado|"
         "goed gespeeld|godt spillet|bra spelat|dobrze zagrane|dont ask|dont worry|dont laugh|"
         "dont judge|no laughing|saw it coming|saw that coming|seen it coming|gotta go|gotta run|"
         "gotta dash|got to go|got to run|have to go|have to run|have to dash|must go|must dash|"

@@ -54,7 +54,7 @@ constexpr std::array Spellings{
     UsualSpellings{"Nap", "neapolu|napoli|neapel|napoles|napels|neapol"},
     UsualSpellings{"Pie", "piemontu|piemonte|piemont|piamonte"},
     UsualSpellings{"Rom", "rzymie|rzymu|roma|rzym"},
-    UsualSpellings{"Tus", "toskanii|toskana|toscane|toscana|toskania"},
+    UsualSpellings{"Tus", "tos|toskanii|toskana|toscane|toscana|toskania"},
     UsualSpellings{"Ven", "wenecji|venezia|venedig|venecia|venetie|wenecja|veneza"},
     UsualSpellings{"Alb", "albanii|albanien|albanie"},
     UsualSpellings{"Bel", "belgii|belgien|belgique|belgio|belgica|belgie|belgia"},

@@ -76,7 +76,8 @@ constexpr std::array Verbs{
     VerbWords{
         Verb::Support,
         "s u sup supp supports support supporting spt sprt unterst su backs backing unterstutzt "
-        "unterstuetzt unterstutze unterstutzung stutzt stutze soutient soutien soutenir soutiens "
+        "unterstuetzt unterstutze unterstutzung understodjer understoder understotter stutzt "
+        "stutze soutient soutien soutenir soutiens "
         "steunt "
         "ondersteunt apoya apoyo apoyando sostiene appoggia appoggio supporto supporta "
         "supporte appuie stotter stodjer stoder stoetter apoia wspiera wsparcie helps help "
@@ -249,7 +250,9 @@ constexpr std::array Uses{
              "outono verao herfst lente zomer najaar voorjaar host hosten var varen forar "
              "efterar jesien wiosna zima now jetzt maintenant ahora adesso nu"},
     UseWords{WordUse::Own,
-             "my mine our ours final real actual true these those here hereby herewith now today "
+             "locked done my mine our ours final real actual true these those here hereby "
+             "herewith "
+             "now today "
              "following follows below submit submitted submitting sending proper official current "
              "meine mein unsere anbei hier folgende folgt gelten gilt nun jetzt heute mes mon nos "
              "voici voila cijoint maintenant aujourdhui suivants mis mi estas estos aqui ahora hoy "
