@@ -226,7 +226,9 @@ void OrderEntryPanel::showLines() {
 
 void OrderEntryPanel::forgetLine() {
   const std::pair now(game().Stage, m_desk.now().GameNumber);
-  if (std::exchange(m_writtenFor, now) != now) m_text->clear();
+  if (std::exchange(m_writtenFor, now) == now) return;
+  m_text->clear();
+  m_whole->scrollToTop();
 }
 
 void OrderEntryPanel::markLines() {

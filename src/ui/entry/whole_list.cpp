@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -167,6 +168,10 @@ void WholeList::hideOthers() {
     m_open->setRowHidden(row, isOther(open.Power));
   }
   m_caption->setVisible(m_open->endRow(false) >= 0);
+}
+
+void WholeList::scrollToTop() {
+  verticalScrollBar()->setValue(0);
 }
 
 void WholeList::enter() {

@@ -63,6 +63,9 @@ class WholeList : public QScrollArea {
   /// Only the lines of the power in this row are shown; 0: those of all.
   void showOnly(int power);
 
+  /// Shows the first lines, for a list that has nothing in common with what it showed before.
+  void scrollToTop();
+
   /// The keyboard goes to the lines, to the one selected or else to the last one.
   void enter();
 
