@@ -66,6 +66,12 @@ std::string PlaceFor(const model::Map& map, std::string_view place, std::string_
   return lacksCoast ? province + "." : std::string(place);
 }
 
+/// Whether no fleet can stand in the place, on none of its coasts.
+bool IsInland(const model::Map& map, std::string_view place) {
+  return !CanStandIn(map, "F", place) &&
+         CoastsToChoose(map, std::string("(").append(place).append(".")).empty();
+}
+
 }  // namespace
 
 OrderEntry ClickOrder(const GameState& game, OrderEntry entry, std::string_view location,
@@ -103,7 +109,8 @@ std::string ClickAdjustment(const GameState& game, const std::string& text,
   }
   const std::string power = HomePowerOf(*game.Map, location);
   if (power.empty()) return text;
-  return (power + " build ").append(unitType).append("(").append(location).append(")");
+  const std::string_view built = IsInland(*game.Map, location) ? "A" : unitType;
+  return (power + " build ").append(built).append("(").append(location).append(")");
 }
 
 std::string_view LastUnitType(std::string_view text) {
