@@ -29,7 +29,8 @@ std::vector<std::string> Problems(const model::GameState& game) {
   std::vector<std::string> problems;
   for (std::size_t i = 0; i < check.Lines.size(); ++i) {
     if (check.Lines[i].empty()) continue;
-    problems.push_back(orders::StageList(game)[i] + ": " + JoinProblems(check.Lines[i]));
+    problems.push_back(orders::StageList(game)[i]);
+    problems.back().append(": ").append(JoinProblems(check.Lines[i]));
   }
   for (const std::string& unit : check.Unordered)
     problems.push_back(unit + ": unordered");

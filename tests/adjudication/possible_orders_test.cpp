@@ -14,7 +14,6 @@
 
 #include <algorithm>
 #include <random>
-#include <ranges>
 #include <string>
 #include <vector>
 
@@ -70,10 +69,12 @@ Lines ConvoysOf(const GameState& game, const Unit& army, const std::string& to) 
 bool Passes(GameState game, const Lines& lines) {
   game.OrdersList = lines;
   const adjudication::Resolution resolution = adjudication::usual::ResolveStage(game);
-  return std::ranges::all_of(std::views::iota(1, static_cast<int>(lines.size()) + 1), [&](int k) {
+  for (int k = 1; k <= static_cast<int>(lines.size()); ++k) {
     const orders::OrderResult rejection = resolution.Orders[k].Rejection;
-    return rejection == orders::OrderResult::None || rejection == orders::OrderResult::Cut;
-  });
+    if (rejection != orders::OrderResult::None && rejection != orders::OrderResult::Cut)
+      return false;
+  }
+  return true;
 }
 
 /// Whether some chain of fleets at sea needs the fleet: by trying every set of them.
@@ -123,7 +124,8 @@ Lines AllThatPass(const GameState& game, int u) {
       if (!model::CanStandIn(*game.Map, other.UnitType, province.Name)) continue;
       const std::string move = " - " + province.Name;
       if (&other != &unit)
-        tryMove(begin + "S " + Named(unit, other) + move, {model::UnitText(other) + move});
+        tryMove((begin + "S ").append(Named(unit, other)).append(move),
+                {model::UnitText(other) + move});
     }
   }
   for (const Unit& other : game.Units) {

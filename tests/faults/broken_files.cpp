@@ -8,6 +8,7 @@
 #include <QtGlobal>
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <chrono>
 #include <csignal>
@@ -34,10 +35,12 @@ int TryHelp(const std::uint8_t* data, std::size_t size);
 int TryRepairs(const std::uint8_t* data, std::size_t size);
 int TryPicture(const std::uint8_t* data, std::size_t size);
 
+// NOLINTBEGIN(bugprone-reserved-identifier): they are the library's own
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t count, std::size_t size);
 void* __libc_realloc(void* old, std::size_t size);
 void __libc_free(void* block);
+// NOLINTEND(bugprone-reserved-identifier)
 }
 
 namespace {
@@ -89,7 +92,7 @@ struct Kind {
   int Weight;           ///< of a hundred cases
 };
 
-constexpr Kind Kinds[] = {
+constexpr auto Kinds = std::to_array<Kind>({
     {"game", TryGameFile, "examples", 45},
     {"game", TryGameFile, "fuzz/corpus/game_file", 10},
     {"map", TryMapTables, "fuzz/corpus/map_tables", 15},
@@ -97,7 +100,7 @@ constexpr Kind Kinds[] = {
     {"help", TryHelp, "fuzz/corpus/help", 5},
     {"repairs", TryRepairs, "fuzz/corpus/repairs", 8},
     {"picture", TryPicture, "fuzz/corpus/picture", 10},
-};
+});
 
 std::vector<std::string> Samples(const fs::path& directory) {
   std::vector<std::string> samples;
@@ -141,10 +144,9 @@ void SwapLines(std::string& bytes, Random& random) {
 /// Puts another number in the place of one.
 void ChangeCount(std::string& bytes, Random& random) {
   constexpr std::string_view digits = "0123456789";
-  constexpr std::string_view numbers[] = {"-1",    "0",     "1",      "7",
-                                          "40",    "41",    "90",     "91",
-                                          "32767", "32768", "-32768", "99999999999999999999",
-                                          "1e9",   "nan",   "+5",     ""};
+  constexpr auto numbers = std::to_array<std::string_view>(
+      {"-1", "0", "1", "7", "40", "41", "90", "91", "32767", "32768", "-32768",
+       "99999999999999999999", "1e9", "nan", "+5", ""});
   const std::size_t from = bytes.find_first_of(digits, Below(random, bytes.size()));
   if (from == std::string::npos) return;
   const std::size_t end = std::min(bytes.find_first_not_of(digits, from), bytes.size());
@@ -153,9 +155,9 @@ void ChangeCount(std::string& bytes, Random& random) {
 
 /// Numbers of a bitmap's header: sizes and the place of the pixels.
 void ChangeHeader(std::string& bytes, Random& random) {
-  constexpr std::size_t places[] = {2, 10, 14, 18, 22, 26, 28, 30, 34, 38, 46};
-  constexpr std::uint32_t numbers[] = {0,          1,          8,          60000,     20000,
-                                       0x7FFFFFFF, 0x80000000, 0xFFFFFFFF, 0xFFFF15A0};
+  constexpr auto places = std::to_array<std::size_t>({2, 10, 14, 18, 22, 26, 28, 30, 34, 38, 46});
+  constexpr auto numbers = std::to_array<std::uint32_t>(
+      {0, 1, 8, 60000, 20000, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF, 0xFFFF15A0});
   const std::size_t at = places[Below(random, std::size(places))];
   const std::uint32_t number = numbers[Below(random, std::size(numbers))];
   for (std::size_t i = 0; i < 4 && at + i < bytes.size(); ++i)
@@ -173,6 +175,10 @@ void Insert(std::string& bytes, std::string_view piece, Random& random) {
   bytes.insert(Below(random, bytes.size() + 1), piece);
 }
 
+void FlipBit(char& byte, Random& random) {
+  byte = static_cast<char>(static_cast<unsigned char>(byte) ^ (1U << Below(random, 8)));
+}
+
 void Break(std::string& bytes, const std::vector<std::string>& others, Random& random) {
   switch (Below(random, 12)) {
     case 0:
@@ -180,7 +186,7 @@ void Break(std::string& bytes, const std::vector<std::string>& others, Random& r
     case 1:
     case 2:
       for (auto i = 1 + Below(random, 8); i > 0 && !bytes.empty(); --i)
-        bytes[Below(random, bytes.size())] ^= static_cast<char>(1 << Below(random, 8));
+        FlipBit(bytes[Below(random, bytes.size())], random);
       return;
     case 3:
       return SwapLines(bytes, random);
@@ -192,8 +198,8 @@ void Break(std::string& bytes, const std::vector<std::string>& others, Random& r
     case 7:
       return Insert(bytes, std::string(1 + Below(random, 3), '\0'), random);
     case 8: {
-      constexpr std::string_view pieces[] = {",", "\"\"", "a",    "\r", "\n", "\",\"",
-                                             " ", "=",    "\xff", "%",  "["};
+      constexpr auto pieces = std::to_array<std::string_view>(
+          {",", "\"\"", "a", "\r", "\n", "\",\"", " ", "=", "\xff", "%", "["});
       const std::size_t size = Below(random, 50) == 0 ? 1000000 : Below(random, 5000);
       return Insert(bytes, Repeated(pieces[Below(random, std::size(pieces))], size), random);
     }

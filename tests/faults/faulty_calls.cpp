@@ -8,6 +8,7 @@
 //   ORB_FAULT_DIRECTORY  only calls for files below it count; all if it is not set
 //   ORB_FAULT_NAMED      if set, there are no files without a name (O_TMPFILE)
 
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
@@ -76,10 +77,10 @@ Fate NextFate(std::string_view path) {
 }
 
 std::string PathOf(int descriptor) {
-  char path[4096];
+  std::array<char, 4096> path{};
   const std::string link = "/proc/self/fd/" + std::to_string(descriptor);
-  const ssize_t size = ::readlink(link.c_str(), path, sizeof path);
-  return {path, static_cast<std::size_t>(size < 0 ? 0 : size)};
+  const ssize_t size = ::readlink(link.c_str(), path.data(), path.size());
+  return {path.data(), static_cast<std::size_t>(size < 0 ? 0 : size)};
 }
 
 template <class Function>

@@ -7,6 +7,7 @@
 // WINDOW is save_in_window, whose commands are tried as those of orbctl are.
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
@@ -37,7 +38,7 @@ struct Command {
   std::string_view Report;  ///< this
 };
 
-constexpr Command Commands[] = {
+constexpr auto Commands = std::to_array<Command>({
     {"new -o @fresh.orb", "", ""},
     {"new --blank --title T -o @moves.orb", "", ""},
     {"resolve --yes --in-place @moves.orb", "moves.orb", "stdout"},
@@ -49,15 +50,17 @@ constexpr Command Commands[] = {
     {"map -o @map.svg @done.orb", "", ""},
     {"map -o @map.png --width 300 @done.orb", "", ""},
     {"map -o @map.pdf @done.orb", "", ""},
-};
+});
 constexpr std::size_t QuickCommands = 7;
 
 /// Each starts a window, which takes its time.
-constexpr Command WindowCommands[] = {
-    {"save @moves.orb", "", ""},           {"saveas @moves.orb @fresh.orb", "", ""},
-    {"bitmap @done.orb @map.bmp", "", ""}, {"text @done.orb @r.txt", "", ""},
+constexpr auto WindowCommands = std::to_array<Command>({
+    {"save @moves.orb", "", ""},
+    {"saveas @moves.orb @fresh.orb", "", ""},
+    {"bitmap @done.orb @map.bmp", "", ""},
+    {"text @done.orb @r.txt", "", ""},
     {"orders @moves.orb @r.txt", "", ""},
-};
+});
 
 std::string Bytes(const fs::path& file) {
   std::ifstream stream(file, std::ios::binary);
@@ -160,6 +163,7 @@ class Trial {
       }
     }
     std::vector<char*> texts;
+    texts.reserve(arguments.size() + 1);
     for (std::string& argument : arguments)
       texts.push_back(argument.data());
     texts.push_back(nullptr);
