@@ -34,7 +34,8 @@ std::string ClickRetreat(const model::GameState& game, const std::string& text,
                          std::string_view location);
 
 /// The adjustment line after a click: the unit there is disbanded; in a home centre without a unit
-/// one of the given type is built, inland an army. The verb of an unfinished line (one without a ")") is kept.
+/// one of the given type is built, inland an army. The verb of an unfinished line (one without a
+/// ")") is kept.
 std::string ClickAdjustment(const model::GameState& game, const std::string& text,
                             std::string_view location, std::string_view unitType);
 
