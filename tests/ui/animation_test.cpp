@@ -3,6 +3,7 @@
 #include "ui/replay/playhead.h"
 #include "ui/window_fixture.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 #include <QLabel>
 #include <QMessageBox>
@@ -160,6 +161,7 @@ TEST_F(AnimationTest, FilesArePlayedInOrderAndThoseThatDoNotFitAreNamed) {
   Find<QPushButton>("butAnimateClose").click();
   EXPECT_EQ(Map(), map);
   EXPECT_EQ(StagePanel(), "fraOrders");
+  EXPECT_EQ(QApplication::focusWidget()->objectName(), "txtOrder");
 
   const ModalScript answers({FileChosen(Typed({"con_S02.orb"})),
                              Answered("There is nothing to animate.", Qt::Key_Return)});

@@ -378,6 +378,7 @@ void MainWindow::showAnimation() {
   // The Map and Help menus stay: they change no game.
   const bool playing = m_player->isOn();
   if (playing) m_desk.endTrial();
+  const bool ends = !playing && !m_column->isEnabled();
   for (QWidget* control : {static_cast<QWidget*>(m_fileMenu), static_cast<QWidget*>(m_editMenu),
                            static_cast<QWidget*>(m_gameMenu), static_cast<QWidget*>(m_tools),
                            static_cast<QWidget*>(m_column)}) {
@@ -386,6 +387,8 @@ void MainWindow::showAnimation() {
   setAcceptDrops(!playing);
   showViewOnly();
   leaveSpareWidth();
+  // Where the keyboard was before, it could not stay.
+  if (ends) enterColumn();
 }
 
 }  // namespace orb::ui

@@ -98,6 +98,7 @@ class MainWindow : public QMainWindow {
   void showPlace(int location);
   /// Takes the keyboard so many areas on: the column at the right, the map, the history below it.
   void goToArea(int steps);
+  void enterColumn();
   void showAnimation();
   /// The report of what is tried out comes to the front where there was none; while another stage
   /// of the history is looked at, its orders are where the stage's panel was.

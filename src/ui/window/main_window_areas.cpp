@@ -39,12 +39,16 @@ void MainWindow::goToArea(int steps) {
   // From anywhere else, such as the toolbar, to the map.
   const int now = here == areas.end() ? 0 : static_cast<int>(here - areas.begin());
   QWidget* area = areas[static_cast<std::size_t>((now + steps + count) % count)];
-  if (area == m_column) {
-    // Orders are written in the box, below the list.
-    for (OrderEntryPanel* panel : {m_orders, m_retreats, m_adjustments})
-      if (panel->isVisible()) return panel->focusText();
-  }
+  if (area == m_column) return enterColumn();
   QWidget* stop = area == m_map ? area : firstStop(*area);
+  if (stop != nullptr) stop->setFocus(Qt::TabFocusReason);
+}
+
+void MainWindow::enterColumn() {
+  // Orders are written in the box, below the list.
+  for (OrderEntryPanel* panel : {m_orders, m_retreats, m_adjustments})
+    if (panel->isVisible()) return panel->focusText();
+  QWidget* stop = firstStop(*m_column);
   if (stop != nullptr) stop->setFocus(Qt::TabFocusReason);
 }
 
