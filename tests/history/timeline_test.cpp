@@ -81,6 +81,7 @@ TEST_F(TimelineTest, FilesOfAGameAreKnownByTheirNamesAndTitles) {
   const auto line =
       Timeline(Read(FilesNamedAlike(directory_.Path() / "con_a01.orb")), MomentOf(now));
   std::vector<std::string> names;
+  names.reserve(line.size());
   for (const Moment& moment : line)
     names.push_back(moment.File.filename().string());
   EXPECT_THAT(names, ElementsAre("Con_S01 old.orb", "con_s01.orb", "", "con_a01 built.orb",
