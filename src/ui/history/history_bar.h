@@ -6,6 +6,8 @@
 
 #include <QFrame>
 
+class QToolButton;
+
 namespace orb::ui {
 
 /// Below the map: the stages of the game that lie in files, one of which can be looked at, and the
