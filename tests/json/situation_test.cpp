@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <string>
+#include <vector>
 
 namespace orb::tests {
 namespace {
@@ -83,9 +85,10 @@ TEST(JsonSituation, WhatIsNoSituationIsRefusedWithItsPlace) {
            "}]}}";
   };
   const std::string deep(100000, '[');
-  const struct {
+  struct Case {
     std::string Text, Sentence;
-  } cases[] = {
+  };
+  const std::vector<Case> cases = {
       {"", "This is no JSON: line 1, column 1: The document is empty."},
       {"{\"format\":\n  nan}", "This is no JSON: line 2, column 4: Invalid value."},
       {"{\"format\":1e999}", "This is no JSON: line 1, column 11: Number too big"},
