@@ -33,6 +33,7 @@ TEST(Correction, TellsTwoOutcomesOfOneSeason) {
       {"FRA A(Par) - Bur", "FRA A(Mar) S A(Par) - Bur", "GER A(Bur) hold", "ITA A(Pie) - Ven"})});
   std::vector<std::string> sentences = {
       "The season is Spring 1901, retreats instead of Spring 1901, finished.",
+      // NOLINTNEXTLINE(bugprone-suspicious-missing-comma): sentences of several lines
       "The result of FRA A(Par) - Bur is \"carried out\" instead of \"bounced\". It moved: "
       "strength 2 (supported by FRA A(Mar)) beats strength 1 of GER A(Bur), which stayed there.",
       "The result of FRA A(Mar) S A(Par) - Bur is \"carried out\" instead of \"cut\". It "

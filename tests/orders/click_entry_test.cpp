@@ -41,7 +41,7 @@ TEST(ClickEntry, ClicksWriteARetreat) {
   const model::GameState game =
       tests::Board("Spring", "retreats", {"ENG F(Stp.n) <Fin", "RUS A(Stp)", "GER A(Kie)"});
   for (const auto& [row, after] : tests::LoadDrawnRows("orders/lines.txt", "retreat clicks")) {
-    const auto plus = row.find("+");
+    const auto plus = row.find('+');
     EXPECT_EQ(ClickRetreat(game, row.substr(0, plus), row.substr(plus + 1)) + "|", after) << row;
   }
 }
@@ -50,7 +50,7 @@ TEST(ClickEntry, ClicksWriteAnAdjustment) {
   const model::GameState game =
       tests::Board("Autumn", "adjustments", {"ENG A(Lvp)", "RUS F(Stp.s)"});
   for (const auto& [row, after] : tests::LoadDrawnRows("orders/lines.txt", "adjustment clicks")) {
-    const auto plus = row.find("+");
+    const auto plus = row.find('+');
     EXPECT_EQ(ClickAdjustment(game, row.substr(0, plus), row.substr(plus + 1), "F") + "|", after)
         << row;
   }

@@ -107,6 +107,7 @@ TEST(ReadOrders, AsPeopleWriteThem) {
 /// The text with each "%" in its place.
 std::vector<std::string> Filled(const std::vector<std::string>& forms, const std::string& words) {
   std::vector<std::string> texts;
+  texts.reserve(forms.size());
   for (std::string form : forms)
     texts.push_back(form.replace(form.find('%'), 1, words));
   return texts;

@@ -46,7 +46,7 @@ class RandomUser : public QObject {
   int dialogs() const { return m_dialogs; }
   int starts() const { return m_starts; }
 
- public slots:
+ public slots:  // NOLINT(readability-redundant-access-specifiers): Qt finds them by name
   /// Mails and files that would be opened in other programs stay closed.
   void leaveClosed(const QUrl& /*url*/) {}
 

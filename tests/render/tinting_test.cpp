@@ -69,7 +69,7 @@ TEST(Tinting, OnlyTheGroundOfTheLandsThatChangeIsRecoloured) {
             std::vector<std::uint32_t>(4, sea));
 
   // The same on a picture of another size, and in strokes instead of tints.
-  std::vector<std::uint32_t> large(16 * 16, 0xFFFFFFFFU);
+  std::vector<std::uint32_t> large(std::size_t{16} * 16, 0xFFFFFFFFU);
   tinting.AsPatterns = true;
   render::ApplyTints({large, 16, 16}, hits, tinting, colours);
   int inked = 0;

@@ -12,7 +12,7 @@ class DesktopPortal : public QObject {
  public:
   explicit DesktopPortal(QObject* parent = nullptr);
 
- public slots:  // NOLINT(readability-redundant-access-specifiers): moc needs it
+ public slots:  // NOLINT(readability-redundant-access-specifiers): Qt finds them by name
   /// Asks anew.
   void ask();
 };
