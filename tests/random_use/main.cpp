@@ -11,15 +11,19 @@
 #include <array>
 #include <chrono>
 #include <condition_variable>
+#include <csignal>
 #include <cstdlib>
+#include <execinfo.h>
 #include <filesystem>
 #include <iostream>
 #include <mutex>
+#include <pthread.h>
 #include <stop_token>
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <thread>
+#include <unistd.h>
 
 namespace {
 
@@ -34,8 +38,15 @@ void print(const RandomUser& user) {
     std::cerr << "  " << deed << '\n';
 }
 
+/// Prints where the thread is that gets the signal.
+void printStack(int /*signal*/) {
+  constexpr int most = 60;
+  std::array<void*, most> stack{};
+  ::backtrace_symbols_fd(stack.data(), ::backtrace(stack.data(), most), STDERR_FILENO);
+}
+
 /// Ends the program when the window does not come on.
-void watch(const std::stop_token& end, const RandomUser& user) {
+void watch(const std::stop_token& end, const RandomUser& user, pthread_t window) {
   std::mutex mutex;
   std::condition_variable_any wakeUp;
   int last = -1;
@@ -48,6 +59,8 @@ void watch(const std::stop_token& end, const RandomUser& user) {
     if (seconds < LongestSeconds) continue;
     std::cerr << "The window hangs:\n";
     print(user);
+    ::pthread_kill(window, SIGUSR1);
+    std::this_thread::sleep_for(std::chrono::seconds(1));
     std::abort();
   }
 }
@@ -85,7 +98,9 @@ int used(unsigned seed, int events, const fs::path& folder, const fs::path& prog
   orb::tests::DiskWatch disk(folder, {places.config, places.state, folder / "cache"});
   orb::tests::DiskWatch data(orb::tests::DataDirectory(), {});
   RandomUser user(seed, folder, places, disk);
-  const std::jthread watcher([&user](const std::stop_token& end) { watch(end, user); });
+  std::signal(SIGUSR1, printStack);
+  const std::jthread watcher(
+      [&user, window = ::pthread_self()](const std::stop_token& end) { watch(end, user, window); });
   QElapsedTimer clock;
   clock.start();
   user.use(events);
