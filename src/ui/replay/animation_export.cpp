@@ -35,7 +35,7 @@ void setUp(QProgressDialog& dialog) {
 
 }  // namespace
 
-std::optional<std::filesystem::path> exportAnimation(const std::vector<history::ReplayPart>& parts,
+std::optional<std::filesystem::path> exportAnimation(std::vector<history::ReplayPart> parts,
                                                      const Desk& desk, model::Messages& messages,
                                                      QWidget* window) {
   const auto file =
@@ -51,7 +51,9 @@ std::optional<std::filesystem::path> exportAnimation(const std::vector<history::
   bool saved = false;
   const auto save = [&] {
     render::PictureCache pictures;
-    saved = render::SaveAnimation(replaysOf(parts), desk.view().mapOptions, desk.dataDirectory(),
+    // All frames alike, though the window below takes what comes while they are drawn.
+    const settings::MapOptions options = desk.view().mapOptions;
+    saved = render::SaveAnimation(replaysOf(parts), options, desk.dataDirectory(),
                                   render::AnimationWidth, pictures, *file, goesOn);
   };
   attempt(messages, save, [&] { dialog.reset(); });

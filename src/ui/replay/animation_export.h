@@ -14,8 +14,8 @@ namespace orb::ui {
 
 /// Asks where to save an animation and saves it; it can be cancelled while it is being drawn.
 /// Returns the file written; nothing after a cancellation or an error, which is shown in a message
-/// box and leaves no file behind.
-std::optional<std::filesystem::path> exportAnimation(const std::vector<history::ReplayPart>& parts,
+/// box and leaves no file behind. The parts are its own: other animations may begin meanwhile.
+std::optional<std::filesystem::path> exportAnimation(std::vector<history::ReplayPart> parts,
                                                      const Desk& desk, model::Messages& messages,
                                                      QWidget* window);
 
