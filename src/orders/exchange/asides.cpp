@@ -72,8 +72,7 @@ bool Supposes(Tokens words) {
                              [&](const Token& token) { return IsOneOf(token, conjunctions); });
 }
 
-/// What a line that ends in a colon sets aside: "Draft:", "If Germany agrees:", "Do NOT use
-/// these:".
+/// What a line that ends in a colon sets aside: "Draft:", "If Germany agrees:".
 std::optional<Aside> ReadTitle(Tokens line) {
   const Tokens last = LastSentence(line);
   const std::size_t skipped = line.size() - last.size();
@@ -122,8 +121,8 @@ std::size_t LengthOfInstead(Tokens words, std::size_t at) {
   return isOneOf(of, at + length) ? 0 : length;
 }
 
-/// Whether words before a colon, or at the beginning of a line, name a correction: "Correction:",
-/// "My final orders:", "A small update to my moves:".
+/// Whether words before a colon, or at the beginning of a line, name a correction: "My final
+/// moves:".
 bool IsTitleOfCorrection(Tokens line) {
   constexpr std::ptrdiff_t longest = 8;
   const auto colon = std::ranges::find_if(line, IsColon);
@@ -392,9 +391,11 @@ bool Corrects(Tokens line) {
                          (at > 1 && LengthOfInstead(line, at - 2) == 2);
   if (isInstead && !MakesCondition(line)) return true;
   const auto phrase = FindSaying(line, Saying::Corrects);
-  const bool isAsked = std::ranges::find(line, "?", &Token::Text) != line.end();
-  return phrase && !isAsked && !IsOpen(line.first(phrase->Begin)) &&
-         !Supposes(line.subspan(phrase->End));
+  if (!phrase || Supposes(line.subspan(phrase->End))) return false;
+  if (std::ranges::find(line, "?", &Token::Text) != line.end()) return false;
+  // "Ignore yesterday's mail, these are the good ones:".
+  const Tokens before = line.first(phrase->Begin);
+  return !IsOpen(before) || FindSaying(before, Saying::Revokes);
 }
 
 }  // namespace orb::exchange

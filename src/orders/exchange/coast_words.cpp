@@ -18,10 +18,10 @@ struct CoastWords {
 constexpr std::array Coasts{
     CoastWords{'n', "north",
                "cn nord norte noord norra norr nordre nk nordkuste nordkueste noordkust nordkust "
-               "nordkusten nordkyst nordkysten polnocne polnoc pn"},
+               "nordkusten pln nordkyst nordkysten polnocne polnoc pn"},
     CoastWords{'s', "south",
                "cs sud sur sul zuid sodra soder sondre syd sk zk sudkuste suedkueste zuidkust "
-               "sydkust sydkusten sydkyst sydkysten sorkyst sorkysten poludniowe poludnie pd"},
+               "sydkust pld sydkusten sydkyst sydkysten sorkyst sorkysten poludniowe poludnie pd"},
     CoastWords{'e', "east",
                "ce est este oost ost ostra ostkuste ostkueste oostkust ostkusten ostkyst "
                "ostkysten wschodnie wschod"},
@@ -45,9 +45,9 @@ Letters AllLetters() {
 }  // namespace
 
 bool IsCoastNoun(std::string_view word) {
-  constexpr std::array<std::string_view, 12> nouns{"coast",  "cst",  "costa",  "cote",
+  constexpr std::array<std::string_view, 13> nouns{"coast",  "cst",  "costa",  "cote",
                                                    "kuste",  "kust", "kusten", "kyst",
-                                                   "kysten", "cost", "kueste", "wybrzeze"};
+                                                   "kysten", "cost", "kueste", "wybrzeze", "wyb"};
   return std::ranges::find(nouns, word) != nouns.end();
 }
 

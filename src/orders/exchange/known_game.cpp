@@ -98,7 +98,8 @@ std::vector<std::string> KnownGame::DestinationsMeant(const WrittenPlace& writte
   // not stand.
   if (written.Rows.size() == 1) return all;
   if (!near.empty() && !byConvoy) return near;
-  return possible.empty() ? all : possible;
+  // No fleet is convoyed: what it cannot reach is meant as little as where it cannot stand.
+  return possible.empty() || unit.UnitType == "F" ? all : possible;
 }
 
 std::string KnownGame::Objection(const PlainOrder& order) const {

@@ -341,6 +341,10 @@ std::size_t PastLineStart(Tokens tokens) {
     }
     if (IsNameBeforeUnit(tokens, at)) return at + 1;
   }
+  // "Vasco [21:03] A Ven - Tri".
+  const bool isNamed = Is(tokens, at, TokenKind::Word) && Is(tokens, at + 1, TokenKind::Open) &&
+                       PowerAt(tokens, at).Power == 0 && UnitTypeOf(tokens[at]) == 0;
+  if (isNamed && PastStamp(tokens, at + 1) != at + 1) return PastStamp(tokens, at + 1);
   const std::size_t behind = PastNumber(tokens, at);
   if (behind != at && Is(tokens, behind, TokenKind::Dash)) return behind + 1;
   if (behind == at && at + 1 < tokens.size() && IsWord(tokens[at], "o") && !tokens[at].Capital) {

@@ -30,8 +30,8 @@ void Phrases::AddCoasts(const PlaceMatch& match, std::size_t at, Read<WrittenPla
                         Is(next, TokenKind::Comma) ||
                         (Is(next, TokenKind::Dash) && tokens_[next].Glued);
   if (isParted) ++next;
-  // "costa sur", "cote du sud".
-  if (IsCoastNoun(next)) ++next;
+  // "costa sur", "cote du sud", "wyb. pld.".
+  if (IsCoastNoun(next)) next += Is(next + 1, TokenKind::Dot) ? 2 : 1;
   if (!Is(next, TokenKind::Word)) return;
   const char letter = CoastLetter(tokens_[next].Text);
   std::vector<int> rows = CoastRows(match.Rows, letter);
@@ -43,6 +43,7 @@ void Phrases::AddCoasts(const PlaceMatch& match, std::size_t at, Read<WrittenPla
   } else if (IsCoastNoun(next)) {
     ++next;
   }
+  if (isOpen && Is(next, TokenKind::Dot) && Is(next + 1, TokenKind::Close)) ++next;
   if (isOpen && Is(next, TokenKind::Close)) ++next;
   places.push_back({{std::move(rows), {at, next}}, next});
 }

@@ -45,11 +45,13 @@ const std::vector<VerbPhrase>& AllVerbPhrases() {
 
 }  // namespace
 
-/// A verb alone in brackets, "(H)"; but "(S)" before a move is the south coast, "Spa (S) - MAO".
+/// A verb alone in brackets, "(H)" or "(sup.)"; but "(S)" before a move is the south coast, "Spa
+/// (S) - MAO".
 bool Phrases::IsVerbInBrackets(std::size_t at) const {
-  if (!Is(at, TokenKind::Open) || !Is(at + 2, TokenKind::Close)) return false;
-  if (VerbOf(tokens_[at + 1]) == Verb::None) return false;
-  const std::size_t next = at + 3;
+  if (!Is(at, TokenKind::Open) || at + 1 == tokens_.size()) return false;
+  const std::size_t close = Is(at + 2, TokenKind::Dot) ? at + 3 : at + 2;
+  if (!Is(close, TokenKind::Close) || VerbOf(tokens_[at + 1]) == Verb::None) return false;
+  const std::size_t next = close + 1;
   const bool moves = next < tokens_.size() && VerbOf(tokens_[next]) == Verb::Move;
   return !moves || CoastLetter(tokens_[at + 1].Text) == 0;
 }
@@ -79,9 +81,14 @@ std::size_t Phrases::ToVerb(std::size_t at) const {
 bool Phrases::IsPreposition(std::size_t at) const {
   constexpr std::array<std::string_view, 11> words{"do",  "a",  "na",   "em",  "in", "en",
                                                    "ins", "im", "dans", "sur", "au"};
-  return at > 0 && at + 1 < tokens_.size() && IsOneOf(tokens_[at], words) && !tokens_[at].Capital &&
-         tokens_[at - 1].Capital && tokens_[at + 1].Capital && tokens_[at + 1].Text.size() > 2 &&
-         UnitTypeOf(tokens_[at + 1]) == 0 && !names_.At(tokens_, at - 1).empty();
+  constexpr std::array<std::string_view, 3> articles{"die", "den", "das"};
+  if (at == 0 || at + 1 >= tokens_.size()) return false;
+  // "F Edi in die Nordsee".
+  const bool isIn = IsWord(tokens_[at], "in") && IsOneOf(tokens_[at + 1], articles);
+  const std::size_t place = isIn ? at + 2 : at + 1;
+  return place < tokens_.size() && IsOneOf(tokens_[at], words) && !tokens_[at].Capital &&
+         tokens_[at - 1].Capital && tokens_[place].Capital && tokens_[place].Text.size() > 2 &&
+         UnitTypeOf(tokens_[place]) == 0 && !names_.At(tokens_, at - 1).empty();
 }
 
 /// "Se replie", "si ritira". Before other verbs the words are "if".

@@ -34,6 +34,13 @@ WordRun WordsFrom(Tokens tokens, std::size_t at) {
   return run;
 }
 
+/// German "in den Kanal" leads not to Denmark.
+bool IsArticle(Tokens tokens, std::size_t at) {
+  constexpr std::array<std::string_view, 5> leads{"in", "durch", "gegen", "uber", "auf"};
+  return at > 0 && at + 1 < tokens.size() && IsWord(tokens[at], "den") &&
+         IsOneOf(tokens[at - 1], leads);
+}
+
 /// Whether one letter is missing, surplus or wrong, or two neighbours changed places.
 bool IsOneSlipAway(std::string_view a, std::string_view b) {
   if (a.size() > b.size()) std::swap(a, b);
@@ -162,6 +169,9 @@ std::vector<PlaceNames::Named> PlaceNames::Find(const std::vector<const Spelling
 
 std::vector<PlaceMatch> PlaceNames::At(Tokens tokens, std::size_t at) const {
   if (at >= tokens.size() || !IsA(tokens[at], TokenKind::Word)) return {};
+  if (IsArticle(tokens, at)) {
+    if (auto behind = At(tokens, at + 1); !behind.empty()) return behind;
+  }
   const Begun& begun = Beginning(tokens[at].Text);
   if (begun.Spellings.empty()) return {};
   const WordRun run = WordsFrom(tokens, at);

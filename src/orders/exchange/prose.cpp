@@ -169,10 +169,11 @@ class ProseReader {
     return true;
   }
 
-  /// "Supports it", "covers that move": the order before.
+  /// "Supports it", "covers that move", "convoys it over": the order before.
   bool ReplaceObject(Words& words) const {
     const auto help = std::ranges::find_if(words, IsHelp);
-    if (help == words.end() || VerbOf(*help) != Verb::Support) return true;
+    if (help == words.end()) return true;
+    const bool isConvoy = VerbOf(*help) == Verb::Convoy;
     auto end = help + 1;
     while (end != words.end() && HasUse(*end, WordUse::Filler))
       ++end;
@@ -181,12 +182,14 @@ class ProseReader {
     const bool isDeed = !isBare && HasUse(*end, ProseUse::Deed) && end + 1 == words.end();
     if (!isBare && !isDeed && !HasUse(help[1], ProseUse::Object)) return true;
     if (!isBare && !isDeed) end = help + 2;
-    while (end != words.end() && (HasUse(*end, ProseUse::Deed) || IsWord(*end, "up") ||
-                                  IsWord(*end, "over") || IsA(*end, TokenKind::Dot))) {
+    while (end != words.end() &&
+           (HasUse(*end, ProseUse::Deed) || IsWord(*end, "up") || IsWord(*end, "over") ||
+            IsWord(*end, "across") || IsWord(*end, "there") || IsA(*end, TokenKind::Dot))) {
       ++end;
     }
     order_ = LastOrder(false);
     if (end != words.end() || order_.empty()) return false;
+    if (isConvoy && order_.find(" - ") == std::string::npos) return false;
     words.erase(help + 1, words.end());
     const Words order = CutTokens(order_);
     words.insert(words.end(), order.begin(), order.end());

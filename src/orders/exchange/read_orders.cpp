@@ -224,18 +224,12 @@ class TextReader {
                               rows_.Lines, first);
       if (LeadToIfAsked(line)) return;
     }
-    constexpr std::size_t few = 4;
-    // Units name themselves in other stages.
-    const bool isBuild = known_.Stage == model::Stage::Adjustments;
-    const bool isBrief = line.All.size() <= few;
-    const bool isOfAbove =
-        (isBuild && (isBrief || IsUnclear(rows_.Lines.back()))) ||
-        (isBehindOrders && (isBrief || NamesOtherPlaces(line.All, rows_.Lines, known_)));
     const Tokens said =
         Tokens(line.All).subspan(speakers_.Past(line.All, PastLineStart(line.All), known_.Names));
     if (rows_.HoldsOrders(0) && IsSecondThought(said)) {
       thoughts_ = Misgiving{Quoted(said) + " may change it", {line.Offset, line.Bytes.size()}};
-    } else if (isOfAbove && Reconsiders(said)) {
+      isApology_ = rows_.ApologizesApart(line, first);
+    } else if (rows_.MayBeOfAbove(line, first, isBehindOrders) && Reconsiders(said)) {
       rows_.Around.DoubtBlock(Quoted(said) + " may change it", {line.Offset, line.Bytes.size()});
     } else if (const auto at = ReadReservation(line.All, isBehindOrders)) {
       rows_.Around.DoubtBlock(Quoted(line.Part(*at)) + " may change it", line.Span(*at));
@@ -272,9 +266,10 @@ class TextReader {
     if (holdsOrders && order != rows_.Lines.end()) {
       rows_.Around.SetAmends(static_cast<std::size_t>(order - rows_.Lines.begin()),
                              thoughts_->Reason, thoughts_->At);
-    } else {
+    } else if (!isApology_) {
       rows_.Around.DoubtBlock(thoughts_->Reason, thoughts_->At);
     }
+    isApology_ = false;
     thoughts_.reset();
   }
 
@@ -363,6 +358,7 @@ class TextReader {
   // Of the line that is being read.
   bool isMailHead_ = false;
   std::optional<Misgiving> thoughts_;  ///< second thoughts right above
+  bool isApology_ = false;             ///< they may be no more than one for being late
   bool isTitle_ = false;               ///< of words known to be those of headings
   Quotations quotations_;
   StruckLines struck_;

@@ -54,6 +54,13 @@ class Rows {
   /// words is surely none of the writer's orders.
   void SetAsideExample(const SourceLine& line, TokenRange saying, std::size_t first);
 
+  /// Whether a line is a paragraph of its own and no more than an apology, as for being late.
+  bool ApologizesApart(const SourceLine& line, std::size_t first) const;
+
+  /// Whether second thoughts in a line without orders, whose rows begin at `first`, may be about
+  /// orders above: `isBehindOrders`: right above.
+  bool MayBeOfAbove(const SourceLine& line, std::size_t first, bool isBehindOrders) const;
+
   /// Two places alone are hardly meant as an order where nothing else in the text is written so;
   /// where a text changes others, "the rest holds" may say that those stay in force; and units of a
   /// list are not built where the text removes some, or says something else of them.

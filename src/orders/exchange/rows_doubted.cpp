@@ -91,6 +91,22 @@ bool SignsOff(Tokens line, TokenRange at, const PlaceNames& names) {
 
 }  // namespace
 
+bool Rows::ApologizesApart(const SourceLine& line, std::size_t first) const {
+  const bool isApart = first > 0 && Lines[first - 1].Place.Length == 0;
+  return isApart && std::ranges::all_of(line.All, [](const Token& token) {
+           return HasUse(token, WordUse::Plea) || (!IsWordToken(token) && token.Text != "?");
+         });
+}
+
+bool Rows::MayBeOfAbove(const SourceLine& line, std::size_t first, bool isBehindOrders) const {
+  constexpr std::size_t few = 4;
+  const bool isBrief = line.All.size() <= few && !ApologizesApart(line, first);
+  // Units name themselves in other stages.
+  const bool isBuild = known_.Stage == model::Stage::Adjustments;
+  return (isBuild && (isBrief || IsUnclear(Lines.back()))) ||
+         (isBehindOrders && (isBrief || NamesOtherPlaces(line.All, Lines, known_)));
+}
+
 /// Whether words at the beginning of a line greet and head it: "alright mate england orders for
 /// spring".
 bool Rows::IsAddress(Tokens words, bool isFirst, int power) const {

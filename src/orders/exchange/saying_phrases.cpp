@@ -227,7 +227,8 @@ constexpr std::array SayingTable{
         "lol as if|in your dreams|messing with|pulling your leg|winding you up|show this to|"
         "forwarding this|what he sent|what she sent|what they sent|sent me above|=as in 1901|"
         "no longer france|any more|is played by|takes over|took over|one back|nothing of this|"
-        "work in progress|wip|todo|=to do|finish this later|finish later|rest later|rest follows|"
+        "work in progress|wip|=todo|todo :|todo list|=to do|finish this later|finish later|rest "
+        "later|rest follows|"
         "rest to follow|check again|ruf mich|rufe mich|appelle moi|appelez "
         "moi|llamame|chiamami|bel me|"
         "bel mij|ring mig|ring meg|zadzwon|appelle moi avant|tom geschrieben|doch alles "
@@ -259,6 +260,11 @@ constexpr std::array SayingTable{
         "ehdotus|esimerkki|javaslat|tervezet|pelda|navrh|priklad|chernovik|primer"},
     SayingPhrases{
         Saying::Corrects,
+        "are the good ones|are the right ones|are the correct ones|sind die richtigen|sind die "
+        "guten|"
+        "sono quelli buoni|sono quelli giusti|son las buenas|son los buenos|son las correctas|"
+        "son los correctos|sont les bons|sont les bonnes|sao os certos|sao os bons|sao as certas|"
+        "sao as boas|zijn de juiste|zijn de goede|er de rigtige|er de riktige|ar de ratta|"
         "the truth|in truth|what i really do|what i really|i lied|changed my mind|change my "
         "mind|change of mind|change of plan|change of plans|"
         "change of heart|scrap that|scratch that|forget that|strike that|final version|"
@@ -296,7 +302,11 @@ constexpr std::array SayingTable{
                   "pech gehabt|tant pis|peor para|peggio per|pior para"},
     SayingPhrases{
         Saying::Chats,
-        "well played|nicely played|did it right|got it right|notation is right|format is right|"
+        "well played|nicely played|not my year|not my day|not my week|not my best|confirm "
+        "receipt|confirm the receipt of same|confirm the receipt|acknowledge receipt|receipt of "
+        "same|receipt of the same|"
+        "confirm you got|confirm you received|confirm you have received|"
+        "did it right|got it right|notation is right|format is right|"
         "spelling is right|no comment|no comments|would be proud|lets see what the|"
         "gut gespielt|bien joue|bien jugado|ben giocato|bem jogado|"
         "goed gespeeld|godt spillet|bra spelat|dobrze zagrane|dont ask|dont worry|dont laugh|"

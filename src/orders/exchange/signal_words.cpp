@@ -75,7 +75,7 @@ constexpr std::array SignalRows{
         "usa usad use toma tomad juega haz haced repite coge prendi prendete usate gioca fai fate "
         "ripeti pega pegue joga faz faca repete neem gebruik speel doe herhaal "
         "tag tage brug bruk gor gjor spil spill anvand spela upprepa "
-        "wez uzyj graj rob zrob powtorz"},
+        "wez uzyj graj zrob powtorz"},
     SignalRow{Signal::Past,
               "was were war waren etait etaient era eran erano eram waren var byl "
               "byly bylo"},

@@ -35,8 +35,11 @@ bool IsAnd(Tokens tokens, std::size_t at) {
       next.Capital && tokens[at - 1].Capital && (isVerbAt(at + 2) || isVerbAt(at + 3));
   // "Plus a fleet".
   if (IsWord(next, "a") && isTypeAt(at + 2) && tokens[at + 2].Text.size() > 1) return true;
-  // "F Londres y A Liverpool".
-  const bool joinsUnits = next.Capital && isTypeAt(at + 1) && tokens[at - 1].Capital &&
+  // "F Londres y A Liverpool", "F Stp (cn) e A War".
+  const Token& before = tokens[at - 1];
+  const bool isBehindPlace = before.Capital || IsA(before, TokenKind::Close) ||
+                             CoastLetter(before.Text) != 0 || IsCoastNoun(before.Text);
+  const bool joinsUnits = next.Capital && isTypeAt(at + 1) && isBehindPlace &&
                           at + 2 < tokens.size() && tokens[at + 2].Capital;
   if (joinsUnits) return true;
   return next.Text.size() > 1 && (isTypeAt(at + 1) || isTypeAt(at + 2) || isBeforePlace ||

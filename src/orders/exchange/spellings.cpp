@@ -105,7 +105,8 @@ constexpr std::array Spellings{
                    "zatoki botnickiej|gob|gbo|bothnia|gulf bothnia|g of bothnia|gulf of "
                    "both|bottnischer meerbusen|"
                    "bottnischen meerbusen|golfe de botnie|golfo di botnia|golfo de botnia|"
-                   "botnische golf|bottenviken|botnia|bottenhavet|bottniska viken|bottniske bugt|"
+                   "botnische golf|bottenviken|botnia|bottenhavet|bottniska viken|bottniske "
+                   "bugt|botniske bugt|den botniske bugt|"
                    "zatoka botnicka|bottenvik|golfo botnia"},
     UsualSpellings{"EAS",
                    "eme|emd|emed|e med|e mediterranean|east mediterranean|ostliches mittelmeer|"
@@ -113,12 +114,13 @@ constexpr std::array Spellings{
                    "mediterraneo oriental|ostra medelhavet|ostlige middelhav|"
                    "oostelijke middellandse zee|oost middellandse zee|wschodnie morze srodziemne|"
                    "ostmittelmeer|mediterranee est"},
-    UsualSpellings{
-        "ECH",
-        "kanalu|kanalu la manche|eng|enc|channel|chan|chn|e "
-        "channel|armelkanal|kanal|manche|manica|mancha|"
-        "canal de la mancha|canal da mancha|kanaal|kanalen|engelska kanalen|canal|"
-        "la manche|engelske kanal|engelse kanaal|kanal la manche|canal ingles|canale della manica"},
+    UsualSpellings{"ECH",
+                   "kanalu|kanalu la manche|eng|enc|channel|chan|chn|e "
+                   "channel|armelkanal|kanal|manche|manica|mancha|"
+                   "canal de la mancha|canal da mancha|kanaal|kanalen|engelska kanalen|canal|"
+                   "la manche|englischen kanal|englischer kanal|engelske kanal|den engelske "
+                   "kanal|engelse kanaal|kanal la "
+                   "manche|canal ingles|canale della manica"},
     UsualSpellings{"GOL",
                    "lyo|gly|gln|lyon|lyons|gulf of lyons|gulf of lions|gulf lyon|gulf of the lion|"
                    "g of lyon|golyon|golfe du lion|golfo di leone|golfo del leone|golfo de leon|"
@@ -144,7 +146,7 @@ constexpr std::array Spellings{
         "MAO",
         "matl|mda|mida|middle atlantic|m atlantic|mid atlantic|mittelatlantik|"
         "atlantico medio|medio atlantico|atlantique central|atlantique|atlantico|"
-        "atlantik|atlanten|atlanterhavet|atlantyk|atlantische oceaan|"
+        "atlantik|atlanten|atlanterhavet|atlantyk|atlantyk srodkowy|atlantische oceaan|"
         "mittlerer atlantik|atlantique centre|atlantique moyen|atlantico centrale|"
         "atlantico central|mid atlantische oceaan|midden atlantische oceaan|"
         "mellersta atlanten|mittatlanten|midtatlanten|srodkowy atlantyk|"

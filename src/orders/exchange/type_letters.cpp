@@ -31,9 +31,12 @@ bool MayBeType(const Token& token) {
          !IsNumber(token);
 }
 
-/// The type of the unit that stands in the place right behind a token, or 0.
+/// The type of the unit that stands in the place right behind a token, or 0. A word may have been
+/// cut short before it: "Ej. Roma".
 char TypeBehind(Tokens line, std::size_t at, const KnownGame& known) {
-  const auto places = known.Names.At(line, at + 1);
+  const bool isCut =
+      line[at].Text.size() > 1 && at + 1 < line.size() && IsA(line[at + 1], TokenKind::Dot);
+  const auto places = known.Names.At(line, isCut ? at + 2 : at + 1);
   if (places.empty() || places[0].Rows.size() != 1) return 0;
   const std::string& name = known.NameOf(places[0].Rows[0]);
   char type = 0;
@@ -54,6 +57,23 @@ void SpreadTypes(std::deque<SourceLine>& text, const std::map<std::string, char>
       const auto type = token.Capital ? learnt.find(token.Text) : learnt.end();
       if (type == learnt.end() || TypeBehind(line.All, at, known) != type->second) continue;
       token.Means = MeaningOf(type->second == 'A' ? "army" : "fleet");
+      const auto next = line.All.begin() + static_cast<std::ptrdiff_t>(at) + 1;
+      if (next != line.All.end() && IsA(*next, TokenKind::Dot)) line.All.erase(next);
+    }
+  }
+}
+
+/// Danish and Norwegian "hær" is another word elsewhere, but not beside a "flåde" or "flåte".
+void ReadNordicArmies(std::deque<SourceLine>& text, const KnownGame& known) {
+  const bool isNordic = std::ranges::any_of(text, [](const SourceLine& line) {
+    return std::ranges::any_of(line.All, [](const Token& token) {
+      return IsWord(token, "flade") || IsWord(token, "flate");
+    });
+  });
+  for (SourceLine& line : text) {
+    for (std::size_t at = 0; isNordic && at < line.All.size(); ++at) {
+      const bool isArmy = IsWord(line.All[at], "har") && TypeBehind(line.All, at, known) == 'A';
+      if (isArmy) line.All[at].Means = MeaningOf("army");
     }
   }
 }
@@ -61,6 +81,7 @@ void SpreadTypes(std::deque<SourceLine>& text, const std::map<std::string, char>
 }  // namespace
 
 void LearnTypeLetters(std::deque<SourceLine>& text, const KnownGame& known) {
+  ReadNordicArmies(text, known);
   std::map<std::string, Count> counts;
   std::vector<Token*> found;
   for (SourceLine& line : text) {
