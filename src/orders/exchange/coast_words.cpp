@@ -45,9 +45,9 @@ Letters AllLetters() {
 }  // namespace
 
 bool IsCoastNoun(std::string_view word) {
-  constexpr std::array<std::string_view, 13> nouns{"coast",  "cst",  "costa",  "cote",
-                                                   "kuste",  "kust", "kusten", "kyst",
-                                                   "kysten", "cost", "kueste", "wybrzeze", "wyb"};
+  constexpr std::array<std::string_view, 13> nouns{"coast",  "cst",      "costa", "cote",   "kuste",
+                                                   "kust",   "kusten",   "kyst",  "kysten", "cost",
+                                                   "kueste", "wybrzeze", "wyb"};
   return std::ranges::find(nouns, word) != nouns.end();
 }
 
