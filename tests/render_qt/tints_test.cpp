@@ -54,7 +54,7 @@ struct Ground {
     const render::Tinting tinting =
         render::TintByOwner(EmptyBoard("Spring", "moves"), DataDirectory(), mode);
     auto* pixels = reinterpret_cast<std::uint32_t*>(picture.bits());
-    const auto count = static_cast<std::size_t>(picture.width() * picture.height());
+    const auto count = static_cast<std::size_t>(picture.sizeInBytes()) / sizeof(std::uint32_t);
     Tints =
         render::TintColours({{pixels, count}, picture.width(), picture.height()}, hits, tinting);
     std::map<QRgb, int> counts;
@@ -67,6 +67,7 @@ struct Ground {
       }
     }
     std::vector<std::pair<int, QRgb>> sorted;
+    sorted.reserve(counts.size());
     for (const auto& [colour, often] : counts)
       sorted.emplace_back(often, colour);
     std::ranges::sort(sorted, std::greater());
