@@ -3,6 +3,7 @@
 #include "orders/exchange/phrases.h"
 
 #include <array>
+#include <unordered_map>
 #include <vector>
 
 // Verbs and what belongs to them, of the parts that orders are made of.
@@ -40,6 +41,19 @@ const std::vector<VerbPhrase>& AllVerbPhrases() {
                                                {Verb::Disband, {"gets", "scrapped"}},
                                                {Verb::Disband, {"gets", "disbanded"}},
                                                {Verb::Disband, {"gets", "removed"}}};
+  return phrases;
+}
+
+using PhrasesByWord = std::unordered_map<std::string_view, std::vector<const VerbPhrase*>>;
+
+/// By their first words.
+const PhrasesByWord& VerbPhrases() {
+  static const PhrasesByWord phrases = [] {
+    PhrasesByWord all;
+    for (const VerbPhrase& phrase : AllVerbPhrases())
+      all[phrase.Words[0]].push_back(&phrase);
+    return all;
+  }();
   return phrases;
 }
 
@@ -115,33 +129,38 @@ bool Phrases::IsDirection(std::size_t at) const {
 
 /// The phrase of a verb that stands here, and the token behind it; None where there is none.
 std::pair<Verb, std::size_t> Phrases::VerbPhraseAt(std::size_t at) const {
-  for (const VerbPhrase& phrase : AllVerbPhrases()) {
+  if (!Is(at, TokenKind::Word)) return {Verb::None, at};
+  const auto phrases = VerbPhrases().find(tokens_[at].Text);
+  if (phrases == VerbPhrases().end()) return {Verb::None, at};
+  for (const VerbPhrase* const phrase : phrases->second) {
     const bool isOfStage =
-        phrase.Does == Verb::Hold ? stage_ == model::Stage::Moves : stage_ != model::Stage::Moves;
+        phrase->Does == Verb::Hold ? stage_ == model::Stage::Moves : stage_ != model::Stage::Moves;
     std::size_t next = at;
-    for (const std::string_view word : phrase.Words)
+    for (const std::string_view word : phrase->Words)
       next = next != tokens_.size() + 1 && Is(next, word) ? next + 1 : tokens_.size() + 1;
-    if (isOfStage && next <= tokens_.size()) return {phrase.Does, next};
+    if (isOfStage && next <= tokens_.size()) return {phrase->Does, next};
   }
   return {Verb::None, at};
 }
 
 std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
-  if (const auto phrase = VerbPhraseAt(ToVerb(at)); phrase.first != Verb::None) return phrase;
+  std::size_t tail = ToVerb(at);
+  if (const auto phrase = VerbPhraseAt(tail); phrase.first != Verb::None) return phrase;
   Verb verb = Verb::None;
-  const bool isReflexive = IsReflexive(ToVerb(at));
-  if (isReflexive) at = ToVerb(at) + 1;
-  // "Back to Warsaw".
-  const std::size_t tail = ToVerb(at);
-  // "A Vie, A Bud all hold".
-  if (const std::size_t next = ToVerb(tail + 1);
-      tail < tokens_.size() && IsOneOf(tokens_[tail], AllWords) && next < tokens_.size() &&
-      VerbOf(tokens_[next]) == Verb::Hold) {
+  const bool isReflexive = IsReflexive(tail);
+  if (isReflexive) {
     at = tail + 1;
+    tail = ToVerb(at);
   }
-  const bool isBeforeTo = tail + 1 < tokens_.size() && IsOneOf(tokens_[tail], MoveTails) &&
-                          VerbOf(tokens_[tail]) == Verb::None &&
-                          VerbOf(tokens_[tail + 1]) == Verb::Move;
+  // "Back to Warsaw".
+  // "A Vie, A Bud all hold".
+  if (tail < tokens_.size() && IsOneOf(tokens_[tail], AllWords)) {
+    const std::size_t next = ToVerb(tail + 1);
+    if (next < tokens_.size() && VerbOf(tokens_[next]) == Verb::Hold) at = tail + 1;
+  }
+  const bool isBeforeTo = tail + 1 < tokens_.size() && VerbOf(tokens_[tail]) == Verb::None &&
+                          VerbOf(tokens_[tail + 1]) == Verb::Move &&
+                          IsOneOf(tokens_[tail], MoveTails);
   if (isBeforeTo) at = tail + 1;
   for (std::size_t next = ToVerb(at); next < tokens_.size(); next = ToVerb(next + 1)) {
     const bool isFirst = verb == Verb::None;
