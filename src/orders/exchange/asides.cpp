@@ -3,6 +3,7 @@
 #include "orders/exchange/harmless_words.h"
 #include "orders/exchange/other_matters.h"
 #include "orders/exchange/sayings.h"
+#include "orders/exchange/second_thoughts.h"
 #include "orders/exchange/sentences.h"
 
 #include <algorithm>
@@ -15,21 +16,6 @@ namespace {
 
 bool IsColon(const Token& token) {
   return token.Kind == TokenKind::Colon;
-}
-
-/// Whether something is denied, asked or supposed: "these are not", "should I".
-bool IsOpen(Tokens tokens) {
-  return std::ranges::any_of(tokens, [](const Token& token) {
-    return token.Text == "?" || (HasUse(token, WordUse::Condition) && !IsWord(token, "instead"));
-  });
-}
-
-/// What is behind the last full stop.
-Tokens LastSentence(Tokens line) {
-  for (std::size_t at = line.size() - 1; at > 0; --at) {
-    if (IsA(line[at - 1], TokenKind::Dot) && !line[at].Glued) return line.subspan(at);
-  }
-  return line;
 }
 
 /// Whether a word of time is not about the orders: "two hours before the bell", "next lot".
@@ -49,6 +35,8 @@ bool IsOfSomethingElse(Tokens title, std::size_t at) {
   for (std::size_t before = at - std::min(at, near); before < at; ++before) {
     if (IsOneOf(title[before], replacing)) return true;
   }
+  constexpr std::array<std::string_view, 5> greets{"guten", "goede", "goeie", "schonen", "god"};
+  if (at > 0 && IsWord(title[at], "morgen") && IsOneOf(title[at - 1], greets)) return true;
   const bool isLast = at + 1 == title.size() || !IsA(title[at + 1], TokenKind::Word);
   if (isLast) return false;
   const Token& noun = title[at + 1];
@@ -61,15 +49,6 @@ bool IsOfSomethingElse(Tokens title, std::size_t at) {
 bool IsPolite(const Token& token) {
   return IsWord(token, "should") || IsWord(token, "could") || IsWord(token, "no") ||
          IsWord(token, "not") || IsWord(token, "may");
-}
-
-/// "These are final if Tom agrees".
-bool Supposes(Tokens words) {
-  constexpr std::array<std::string_view, 15> conjunctions{
-      "or", "if", "unless", "when", "provided", "only",  "wenn", "falls",
-      "si", "se", "als",    "hvis", "om",       "jesli", "gdy"};
-  return std::ranges::any_of(words,
-                             [&](const Token& token) { return IsOneOf(token, conjunctions); });
 }
 
 /// What a line that ends in a colon sets aside: "Draft:", "If Germany agrees:".
@@ -105,47 +84,6 @@ std::optional<Aside> ReadTitle(Tokens line) {
     if (sets && !isForPublic && !IsWord(last[at], "instead")) return below(at, at + 1);
   }
   return std::nullopt;
-}
-
-/// How many words from here say "instead", and not instead of what; 0: none.
-std::size_t LengthOfInstead(Tokens words, std::size_t at) {
-  constexpr std::array<std::string_view, 4> single{"instead", "stattdessen", "istallet", "invece"};
-  constexpr std::array<std::string_view, 2> afterI{"stallet", "stedet"};
-  constexpr std::array<std::string_view, 4> of{"of", "for", "av", "di"};
-  const auto isOneOf = [&](const auto& list, std::size_t place) {
-    return place < words.size() && std::ranges::find(list, words[place].Text) != list.end();
-  };
-  const std::size_t length = isOneOf(single, at)                                 ? 1
-                             : IsWord(words[at], "i") && isOneOf(afterI, at + 1) ? 2
-                                                                                 : 0;
-  return isOneOf(of, at + length) ? 0 : length;
-}
-
-/// Whether words before a colon, or at the beginning of a line, name a correction: "My final
-/// moves:".
-bool IsTitleOfCorrection(Tokens line) {
-  constexpr std::ptrdiff_t longest = 8;
-  const auto colon = std::ranges::find_if(line, IsColon);
-  const auto end = static_cast<std::size_t>(colon - line.begin());
-  const Tokens title = line.first(end);
-  const bool hasColon = colon != line.end();
-  if (std::ranges::count(title, TokenKind::Word, &Token::Kind) > longest || IsOpen(title)) {
-    return false;
-  }
-  for (std::size_t at = 0; at < title.size(); ++at) {
-    // "Correction - A Par - Pic" does without a colon.
-    const bool isOf = at + 1 < title.size() && IsWord(title[at + 1], "of");
-    if (HasUse(title[at], WordUse::Correction) && !isOf && (hasColon || at == 0)) return true;
-    const auto isPair = [&](WordUse first, WordUse second) {
-      return at + 1 < title.size() && HasUse(title[at], first) && HasUse(title[at + 1], second);
-    };
-    const bool isOrders = isPair(WordUse::Definite, WordUse::Orders) ||
-                          (hasColon && isPair(WordUse::Orders, WordUse::Definite));
-    const bool isOwn = at > 0 && (IsWord(title[at - 1], "my") || IsWord(title[at - 1], "our") ||
-                                  IsWord(title[at - 1], "the"));
-    if (isOrders && (hasColon || isOwn || title.size() == 2)) return true;
-  }
-  return false;
 }
 
 /// "Armies: (old)".
@@ -314,88 +252,6 @@ std::optional<TokenRange> ReadReservation(Tokens line, bool isBehindOrders) {
   if (!isBehindOrders && !HasUse(*word, WordUse::Condition)) return std::nullopt;
   const auto at = static_cast<std::size_t>(word - line.begin());
   return TokenRange{at, line.size()};
-}
-
-bool Reconsiders(Tokens words) {
-  // Farther on such words belong to another thought.
-  constexpr std::size_t few = 5;
-  const bool isRemark = !words.empty() && IsA(words[0], TokenKind::Open);
-  return !isRemark && !FindSaying(words, Saying::Chats) &&
-         FindSaying(words.first(std::min(few, words.size())), Saying::Reconsiders);
-}
-
-int ExcludedPlace(Tokens words, const PlaceNames& names) {
-  constexpr std::size_t longestPhrase = 3;
-  while (!words.empty() && (IsA(words[0], TokenKind::Open) || IsA(words[0], TokenKind::Comma)))
-    words = words.subspan(1);
-  while (!words.empty() && !IsA(words.back(), TokenKind::Word))
-    words = words.first(words.size() - 1);
-  for (std::size_t length = 1; length <= std::min(longestPhrase, words.size()); ++length) {
-    const auto said = FindSaying(words.first(length), Saying::Excludes);
-    if (!said || said->Begin != 0 || said->End != length) continue;
-    std::size_t at = length;
-    while (at < words.size() && (HasUse(words[at], WordUse::Filler) || IsWord(words[at], "to") ||
-                                 IsWord(words[at], "in")))
-      ++at;
-    const auto places = names.At(words, at);
-    if (!places.empty() && places[0].Next == words.size()) return places[0].Rows[0];
-  }
-  return 0;
-}
-
-std::size_t PastThoughts(Tokens words) {
-  constexpr std::size_t longestPhrase = 4;
-  constexpr std::size_t longest = 12;
-  if (!words.empty() && IsA(words[0], TokenKind::Open)) return 0;
-  bool thinks = false;
-  std::size_t past = 0;
-  for (std::size_t at = 0; at < std::min(words.size(), longest);) {
-    const Tokens rest = words.subspan(at, std::min(longestPhrase, words.size() - at));
-    std::size_t length = 0;
-    for (const Saying saying : {Saying::Reconsiders, Saying::Corrects}) {
-      const auto said = FindSaying(rest, saying);
-      if (said && said->Begin == 0) length = std::max(length, said->End);
-    }
-    thinks = thinks || length > 0;
-    const bool isSign = !IsA(words[at], TokenKind::Word) && words[at].Text != "?" &&
-                        !IsA(words[at], TokenKind::Open) && !IsA(words[at], TokenKind::Close);
-    const bool isPlain = HasUse(words[at], WordUse::Mood, WordUse::Plain) ||
-                         IsWord(words[at], "ps") || IsWord(words[at], "on") ||
-                         IsWord(words[at], "but") || IsWord(words[at], "nonsense");
-    // "The" and a type may begin the order.
-    if (length == 0 && !isSign && !(isPlain && UnitTypeOf(words[at]) == 0)) break;
-    at += std::max<std::size_t>(length, 1);
-    past = at;
-  }
-  return thinks ? past : 0;
-}
-
-std::optional<TokenRange> FindCorrection(Tokens words, bool isBefore) {
-  const auto phrase = FindSaying(words, Saying::Corrects);
-  if (phrase) return isBefore ? phrase : std::nullopt;
-  for (std::size_t at = 0; at < words.size(); ++at) {
-    if (const std::size_t length = LengthOfInstead(words, at); length != 0)
-      return TokenRange{at, at + length};
-  }
-  return std::nullopt;
-}
-
-bool Corrects(Tokens line) {
-  if (line.empty()) return false;
-  if (IsTitleOfCorrection(line) || IsTitleOfCorrection(LastSentence(line))) return true;
-  const auto last = std::find_if(line.rbegin(), line.rend(), [](const Token& token) {
-    return IsA(token, TokenKind::Word) && !HasUse(token, WordUse::Filler);
-  });
-  const auto at = static_cast<std::size_t>(line.rend() - last);
-  const bool isInstead = (at > 0 && LengthOfInstead(line, at - 1) == 1) ||
-                         (at > 1 && LengthOfInstead(line, at - 2) == 2);
-  if (isInstead && !MakesCondition(line)) return true;
-  const auto phrase = FindSaying(line, Saying::Corrects);
-  if (!phrase || Supposes(line.subspan(phrase->End))) return false;
-  if (std::ranges::find(line, "?", &Token::Text) != line.end()) return false;
-  // "Ignore yesterday's mail, these are the good ones:".
-  const Tokens before = line.first(phrase->Begin);
-  return !IsOpen(before) || FindSaying(before, Saying::Revokes);
 }
 
 }  // namespace orb::exchange

@@ -5,6 +5,7 @@
 #include "orders/exchange/other_matters.h"
 #include "orders/exchange/rest_holds.h"
 #include "orders/exchange/sayings.h"
+#include "orders/exchange/second_thoughts.h"
 #include "orders/exchange/sentences.h"
 
 #include <algorithm>

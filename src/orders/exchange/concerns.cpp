@@ -6,6 +6,7 @@
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/sayings.h"
+#include "orders/exchange/second_thoughts.h"
 #include "orders/exchange/sentences.h"
 #include "text/strings.h"
 

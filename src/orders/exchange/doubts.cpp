@@ -1,8 +1,8 @@
 #include "orders/exchange/doubts.h"
 
-#include "orders/exchange/asides.h"
 #include "orders/exchange/harmless_words.h"
 #include "orders/exchange/power_names.h"
+#include "orders/exchange/second_thoughts.h"
 #include "text/utf8.h"
 
 #include <algorithm>

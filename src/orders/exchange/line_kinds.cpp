@@ -335,7 +335,9 @@ std::size_t PastLineStart(Tokens tokens) {
     // In a log of a chat the name of who speaks follows the time.
     constexpr std::size_t longestName = 3;
     for (std::size_t next = at; next < std::min(tokens.size(), at + longestName); ++next) {
-      if (HasUse(tokens[next], WordUse::Condition) || !IsWordToken(tokens[next])) break;
+      const bool isInitial = next > at && Is(tokens, next, TokenKind::Dot);
+      if (HasUse(tokens[next], WordUse::Condition)) break;
+      if (!IsWordToken(tokens[next]) && !isInitial) break;
       const bool isPower = PowerAt(tokens, at).Power != 0;
       if (Is(tokens, next + 1, TokenKind::Colon) && !isPower) return next + 2;
     }

@@ -1,10 +1,10 @@
 #include "orders/exchange/phrases.h"
 
-#include "orders/exchange/asides.h"
 #include "orders/exchange/comments.h"
 #include "orders/exchange/doubts.h"
 #include "orders/exchange/phrase_words.h"
 #include "orders/exchange/sayings.h"
+#include "orders/exchange/second_thoughts.h"
 #include "text/strings.h"
 
 #include <algorithm>

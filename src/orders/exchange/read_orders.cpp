@@ -19,6 +19,7 @@
 #include "orders/exchange/quotations.h"
 #include "orders/exchange/rows.h"
 #include "orders/exchange/sayings.h"
+#include "orders/exchange/second_thoughts.h"
 #include "orders/exchange/segments.h"
 #include "orders/exchange/shared_words.h"
 #include "orders/exchange/slips.h"

@@ -5,6 +5,7 @@
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/rows.h"
 #include "orders/exchange/sayings.h"
+#include "orders/exchange/second_thoughts.h"
 
 #include <algorithm>
 #include <string_view>

@@ -3,6 +3,7 @@
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/rows.h"
 #include "orders/exchange/sayings.h"
+#include "orders/exchange/second_thoughts.h"
 #include "orders/order_list.h"
 #include "text/strings.h"
 

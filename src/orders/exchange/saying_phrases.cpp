@@ -302,7 +302,12 @@ constexpr std::array SayingTable{
                   "pech gehabt|tant pis|peor para|peggio per|pior para"},
     SayingPhrases{
         Saying::Chats,
-        "well played|nicely played|not my year|not my day|not my week|not my best|confirm "
+        "well played|nicely played|on holiday|on holidays|on vacation|out of office|out of town|im "
+        "urlaub|"
+        "en vacances|de vacaciones|in vacanza|de ferias|op vakantie|pa ferie|pa semester|na "
+        "urlopie|"
+        "when is the deadline|when is the next|wann ist die nachste|er fristen|er deadline|"
+        "ar deadline|not my year|not my day|not my week|not my best|confirm "
         "receipt|confirm the receipt of same|confirm the receipt|acknowledge receipt|receipt of "
         "same|receipt of the same|"
         "confirm you got|confirm you received|confirm you have received|"

@@ -11,6 +11,7 @@
 #include "orders/exchange/prose.h"
 #include "orders/exchange/rest_holds.h"
 #include "orders/exchange/sayings.h"
+#include "orders/exchange/second_thoughts.h"
 #include "orders/exchange/sentences.h"
 #include "orders/exchange/shared_words.h"
 #include "orders/exchange/slips.h"

@@ -57,4 +57,11 @@ std::vector<TokenRange> SentencesOf(Tokens line) {
   return sentences;
 }
 
+Tokens LastSentence(Tokens line) {
+  for (std::size_t at = line.size() - 1; at > 0; --at) {
+    if (IsA(line[at - 1], TokenKind::Dot) && !line[at].Glued) return line.subspan(at);
+  }
+  return line;
+}
+
 }  // namespace orb::exchange

@@ -13,4 +13,7 @@ std::vector<TokenRange> Sentences(Tokens tokens, TokenRange range, const PlaceNa
 /// The sentences of a line without orders, as far as full stops and question marks tell.
 std::vector<TokenRange> SentencesOf(Tokens line);
 
+/// What is behind the last full stop of a line, which must not be empty.
+Tokens LastSentence(Tokens line);
+
 }  // namespace orb::exchange

@@ -1,9 +1,9 @@
 #include "orders/exchange/shared_words.h"
 
-#include "orders/exchange/asides.h"
 #include "orders/exchange/doubts.h"
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/prose.h"
+#include "orders/exchange/second_thoughts.h"
 
 #include <algorithm>
 #include <utility>

@@ -13,7 +13,9 @@ std::string NameAt(Tokens line, std::size_t at) {
   std::string name;
   for (std::size_t next = at; next < std::min(line.size(), at + longest + 1); ++next) {
     if (IsA(line[next], TokenKind::Colon)) return name;
-    if (!IsA(line[next], TokenKind::Word)) return {};
+    // "Kemal T.:".
+    const bool isInitial = IsA(line[next], TokenKind::Dot) && !name.empty();
+    if (!IsA(line[next], TokenKind::Word) && !isInitial) return {};
     name.append(line[next].Text).append(" ");
   }
   return {};
