@@ -119,20 +119,31 @@ void DefineFiles(py::class_<Game>& game) {
 void DefineFacts(py::class_<Game>& game) {
   game.def_property(
       "title", [](const Game& self) { return Text(self.State().Title); },
-      [](Game& self, const std::string& title) { self.SetTitle(Bytes(title)); });
-  game.def_property_readonly("season", [](const Game& self) { return Text(self.State().Season); });
-  game.def_property_readonly("year", [](const Game& self) { return self.State().Year; });
-  game.def_property_readonly("stage",
-                             [](const Game& self) { return Text(StageText(self.State())); });
-  game.def_property_readonly("units", [](const Game& self) {
-    return std::vector<model::Unit>(self.State().Units.begin(), self.State().Units.end());
-  });
-  game.def_property_readonly("powers", Powers);
-  game.def_property_readonly("owners", Owners);
-  game.def_property_readonly("players", Players);
+      [](Game& self, const std::string& title) { self.SetTitle(Bytes(title)); },
+      "Its title, which can be set.");
+  game.def_property_readonly(
+      "season", [](const Game& self) { return Text(self.State().Season); },
+      "The season's name, as Spring.");
+  game.def_property_readonly(
+      "year", [](const Game& self) { return self.State().Year; }, "The year, a whole number.");
+  game.def_property_readonly(
+      "stage", [](const Game& self) { return Text(StageText(self.State())); },
+      "moves, retreats, adjustments or finished.");
+  game.def_property_readonly(
+      "units",
+      [](const Game& self) {
+        return std::vector<model::Unit>(self.State().Units.begin(), self.State().Units.end());
+      },
+      "The units on the board, dislodged ones too.");
+  game.def_property_readonly("powers", Powers,
+                             "By abbreviation: the name, how many centres, how many units.");
+  game.def_property_readonly("owners", Owners, "Who owns a centre, by the centre's abbreviation.");
+  game.def_property_readonly("players", Players,
+                             "The players' names, by their powers' abbreviations.");
   game.def_property(
       "orders", [](const Game& self) { return Texts(self.Orders()); },
-      [](Game& self, const py::object& orders) { self.SetOrders(Lines(orders)); });
+      [](Game& self, const py::object& orders) { self.SetOrders(Lines(orders)); },
+      "The lines of the stage, which can be set as a text or as lines.");
 }
 
 void DefineCommands(py::class_<Game>& game) {

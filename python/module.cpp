@@ -24,6 +24,10 @@ py::object Make(const py::object& type, const std::exception& problem) {
 void DefineErrors(py::module_& module) {
   static const py::exception<model::FatalError> error(module, "Error");
   static const py::exception<Abandoned> abandoned(module, "Abandoned", error.ptr());
+  error.attr("__doc__") = "What the program refuses, with its own sentence.";
+  abandoned.attr("__doc__") =
+      "A question of the program was answered No; the game is as it was. stopped_at is the line of "
+      "the list, counted from 0, that it is about, or None.";
   py::register_exception_translator([](std::exception_ptr thrown) {
     try {
       if (thrown) std::rethrow_exception(thrown);

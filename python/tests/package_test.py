@@ -112,14 +112,16 @@ class PackageTest(unittest.TestCase):
         self.assertEqual(game._repr_png_()[1:4], b"PNG")
         self.assertIn("1902", repr(game))
 
-    def test_the_stubs_name_what_there_is(self):
+    def test_the_stubs_name_and_docstrings_tell_what_there_is(self):
         stubs = (Path(orb.__file__).parent / "__init__.pyi").read_text()
         for name in orb.__all__:
             self.assertIn(f"class {name}", stubs)
-            for member in vars(getattr(orb, name)):
+            self.assertTrue(getattr(orb, name).__doc__, name)
+            for member, value in vars(getattr(orb, name)).items():
                 # Newer versions of pybind11 add members of their own.
                 if not member.startswith(("__", "_pybind11_")):
                     self.assertRegex(stubs, rf"\b{member}\b", name)
+                    self.assertTrue(value.__doc__, f"{name}.{member}")
         for name, method in inspect.getmembers(orb.Game, callable):
             if not name.startswith("_"):
                 self.assertGreater(len(method.__doc__.splitlines()), 1, name)
