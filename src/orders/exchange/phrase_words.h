@@ -8,10 +8,10 @@ namespace orb::exchange {
 using std::string_view_literals::operator""sv;
 
 // Words that may stand at certain places of an order and add nothing to it.
-inline constexpr std::array<std::string_view, 26> InWords{
-    "z",   "ze",        "uit",       "desde", "depuis",    "in",    "at",  "from", "of",
-    "the", "presently", "currently", "now",   "stationed", "based", "von", "aus",  "di",
-    "da",  "du",        "del",       "della", "dello",     "de",    "i",   "en"};
+inline constexpr std::array<std::string_view, 29> InWords{
+    "z",         "ze",        "uit", "desde",     "depuis", "in",    "at",  "from", "of",  "the",
+    "presently", "currently", "now", "stationed", "based",  "von",   "aus", "di",   "van", "fra",
+    "fran",      "da",        "du",  "del",       "della",  "dello", "de",  "i",    "en"};
 /// The same, right behind a type.
 inline constexpr std::array TypeInWords{"a"sv,  "em"sv,   "no"sv,  "na"sv,  "w"sv,     "u"sv,
                                         "do"sv, "dans"sv, "im"sv,  "nel"sv, "nella"sv, "nello"sv,
@@ -29,20 +29,30 @@ inline constexpr std::array SeaWords{
     "convoy"sv,  "convoys"sv, "sea"sv,      "c"sv,        "water"sv,     "cv"sv,
     "konvoi"sv,  "konvoj"sv,  "convoi"sv,   "konwoj"sv,   "convoglio"sv, "comboio"sv,
     "konvooi"sv, "convooi"sv, "konvojen"sv, "konvoien"sv, "k"sv,         "konwoju"sv};
-inline constexpr std::array<std::string_view, 35> HoldTails{
-    "kvar",   "gewoon", "natuurlijk", "naturlich", "der",        "den",        "er",
-    "is",     "staan",  "stehen",     "dort",      "tight",      "put",        "position",
-    "fast",   "still",  "in",         "place",     "firm",       "home",       "strong",
-    "steady", "there",  "where",      "it",        "they",       "ferma",      "parada",
-    "liggen", "quieto", "quieta",     "quietos",   "tranquillo", "tranquille", "rustig"};
-inline constexpr std::array<std::string_view, 50> MoveTails{
+inline constexpr std::array<std::string_view, 48> HoldTails{
+    "kvar",     "gewoon",   "natuurlijk", "naturlich",  "der",        "den",         "er",
+    "is",       "staan",    "stehen",     "dort",       "tight",      "put",         "position",
+    "fast",     "still",    "in",         "place",      "firm",       "home",        "strong",
+    "steady",   "there",    "where",      "it",         "they",       "ferma",       "parada",
+    "stellung", "posicion", "posizione",  "stand",      "stillingen", "stallningen", "pozycje",
+    "staende",  "parado",   "hvor",       "dar",        "ar",         "stilling",    "liggen",
+    "quieto",   "quieta",   "quietos",    "tranquillo", "tranquille", "rustig"};
+inline constexpr std::array<std::string_view, 51> MoveTails{
     "sur",   "sie",     "tillbaka", "wstecz",  "dans",   "nel",     "ship",  "course",   "sail",
     "way",   "bound",   "rumbo",    "rotta",   "route",  "cap",     "large", "straight", "kurs",
     "sich",  "zich",    "sig",      "seg",     "ab",     "vor",     "back",  "zuruck",   "zurueck",
     "terug", "tilbage", "tilbake",  "against", "toward", "towards", "on",    "upon",     "for",
     "in",    "ins",     "im",       "over",    "across", "out",     "up",    "en",       "down",
-    "off",   "home",    "round",    "around",  "along"};
-inline constexpr std::array<std::string_view, 5> Nouns{"move", "attack", "advance", "of", "for"};
+    "get",   "off",     "home",     "round",   "around", "along"};
+/// Before another unit's move that is helped: "the attack of Paris on Burgundy".
+inline constexpr std::array Nouns{
+    "move"sv,    "attack"sv,   "advance"sv,   "of"sv,        "for"sv,        "from"sv,
+    "angriff"sv, "zug"sv,      "vormarsch"sv, "von"sv,       "attaque"sv,    "mouvement"sv,
+    "avance"sv,  "de"sv,       "des"sv,       "ataque"sv,    "movimiento"sv, "attacco"sv,
+    "mossa"sv,   "avanzata"sv, "di"sv,        "movimento"sv, "avanco"sv,     "do"sv,
+    "da"sv,      "aanval"sv,   "zet"sv,       "opmars"sv,    "van"sv,        "angrebet"sv,
+    "angreb"sv,  "angrepet"sv, "angrep"sv,    "fra"sv,       "anfallet"sv,   "anfall"sv,
+    "fran"sv,    "draget"sv,   "trekket"sv,   "traekket"sv,  "atak"sv,       "ruch"sv};
 inline constexpr std::array<std::string_view, 12> CountingWords{
     "one", "two", "a", "all", "remaining", "rest", "any", "other", "of", "both", "last", "for"};
 

@@ -180,6 +180,9 @@ std::size_t Phrases::PastPlace(std::size_t at, const WrittenPlace& place) const 
 std::size_t Phrases::PastNoun(std::size_t at) const {
   if (Is(at, TokenKind::Colon)) ++at;
   std::size_t next = Skip(at);
+  // "Den Angriff" is not of Denmark.
+  const bool isArticle = Is(next, "den") || Is(next, "o");
+  if (isArticle && next + 1 < tokens_.size() && IsOneOf(tokens_[next + 1], Nouns)) ++next;
   while (next + 1 < tokens_.size() && IsOneOf(tokens_[next], Nouns) &&
          VerbOf(tokens_[Skip(next + 1) < tokens_.size() ? Skip(next + 1) : next]) == Verb::None) {
     next = Skip(next + 1);

@@ -35,6 +35,15 @@ const std::vector<VerbPhrase>& AllVerbPhrases() {
                                                {Verb::Hold, {"reste", "sur", "place"}},
                                                {Verb::Hold, {"flytter", "ikke"}},
                                                {Verb::Hold, {"nie", "rusza", "sie"}},
+                                               {Verb::Support, {"in", "support", "of"}},
+                                               {Verb::Move, {"part", "pour"}},
+                                               {Verb::Move, {"part", "en"}},
+                                               {Verb::Move, {"part", "vers"}},
+                                               {Verb::Move, {"se", "dirige", "vers"}},
+                                               {Verb::Move, {"sale", "a"}},
+                                               {Verb::Move, {"sale", "al"}},
+                                               {Verb::Move, {"sale", "hacia"}},
+                                               {Verb::Move, {"sale", "para"}},
                                                {Verb::Disband, {"off", "the", "board"}},
                                                {Verb::Disband, {"from", "the", "board"}},
                                                {Verb::Disband, {"lost", "sich", "auf"}},
@@ -93,13 +102,13 @@ std::size_t Phrases::ToVerb(std::size_t at) const {
 
 /// "To" in languages that have a short word for it, between two names.
 bool Phrases::IsPreposition(std::size_t at) const {
-  constexpr std::array<std::string_view, 11> words{"do",  "a",  "na",   "em",  "in", "en",
-                                                   "ins", "im", "dans", "sur", "au"};
-  constexpr std::array<std::string_view, 3> articles{"die", "den", "das"};
+  constexpr std::array<std::string_view, 14> words{"do", "a",    "na",  "em", "in",  "en", "ins",
+                                                   "im", "dans", "sur", "au", "auf", "op", "pa"};
+  constexpr std::array<std::string_view, 8> articles{"die", "den", "das", "la",
+                                                     "le",  "les", "het", "de"};
   if (at == 0 || at + 1 >= tokens_.size()) return false;
   // "F Edi in die Nordsee".
-  const bool isIn = IsWord(tokens_[at], "in") && IsOneOf(tokens_[at + 1], articles);
-  const std::size_t place = isIn ? at + 2 : at + 1;
+  const std::size_t place = IsOneOf(tokens_[at + 1], articles) ? at + 2 : at + 1;
   return place < tokens_.size() && IsOneOf(tokens_[at], words) && !tokens_[at].Capital &&
          tokens_[at - 1].Capital && tokens_[place].Capital && tokens_[place].Text.size() > 2 &&
          UnitTypeOf(tokens_[place]) == 0 && !names_.At(tokens_, at - 1).empty();
@@ -133,8 +142,8 @@ std::pair<Verb, std::size_t> Phrases::VerbPhraseAt(std::size_t at) const {
   const auto phrases = VerbPhrases().find(tokens_[at].Text);
   if (phrases == VerbPhrases().end()) return {Verb::None, at};
   for (const VerbPhrase* const phrase : phrases->second) {
-    const bool isOfStage =
-        phrase->Does == Verb::Hold ? stage_ == model::Stage::Moves : stage_ != model::Stage::Moves;
+    const bool isOfMoves = phrase->Does != Verb::Disband;
+    const bool isOfStage = isOfMoves == (stage_ == model::Stage::Moves);
     std::size_t next = at;
     for (const std::string_view word : phrase->Words)
       next = next != tokens_.size() + 1 && Is(next, word) ? next + 1 : tokens_.size() + 1;

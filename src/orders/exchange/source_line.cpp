@@ -22,6 +22,8 @@ bool IsAnd(Tokens tokens, std::size_t at) {
   if (std::ranges::find(words, word) != words.end()) return true;
   const bool isShort = std::ranges::find(shortWords, word) != shortWords.end();
   if (!isShort || at == 0 || at + 1 == tokens.size()) return false;
+  // "Bygger en flåde".
+  if (HasUse(tokens[at], WordUse::Filler)) return false;
   if (tokens[at].Capital || tokens[at].Glued) return false;
   const Token& next = tokens[at + 1];
   const auto isTypeAt = [&](std::size_t place) {

@@ -144,20 +144,21 @@ constexpr std::array Spellings{
         "irisches meer"},
     UsualSpellings{
         "MAO",
-        "matl|mda|mida|middle atlantic|m atlantic|mid atlantic|mittelatlantik|"
+        "atlantic|matl|mda|mida|middle atlantic|m atlantic|mid atlantic|mittelatlantik|"
         "atlantico medio|medio atlantico|atlantique central|atlantique|atlantico|"
         "atlantik|atlanten|atlanterhavet|atlantyk|atlantyk srodkowy|atlantische oceaan|"
         "mittlerer atlantik|atlantique centre|atlantique moyen|atlantico centrale|"
         "atlantico central|mid atlantische oceaan|midden atlantische oceaan|"
         "mellersta atlanten|mittatlanten|midtatlanten|srodkowy atlantyk|"
         "oceano atlantico|ocean atlantique|oceano atlantico medio|oceano atlantico central"},
-    UsualSpellings{"NAO",
-                   "nat|natl|n atlantic|n atlantic ocean|n atl|noa|nordatlantik|atlantique nord|"
-                   "atlantico nord|atlantico norte|atlantique|atlantico|atlantik|atlanten|"
-                   "atlanterhavet|atlantyk|atlantische oceaan|oceano atlantico|ocean atlantique|"
-                   "nordlicher atlantik|atlantico del norte|atlantico do norte|nord atlantico|"
-                   "atlantico del nord|nordatlanten|noord atlantische oceaan|polnocny atlantyk|"
-                   "atlantique du nord"},
+    UsualSpellings{
+        "NAO",
+        "atlantic|nat|natl|n atlantic|n atlantic ocean|n atl|noa|nordatlantik|atlantique nord|"
+        "atlantico nord|atlantico norte|atlantique|atlantico|atlantik|atlanten|"
+        "atlanterhavet|atlantyk|atlantische oceaan|oceano atlantico|ocean atlantique|"
+        "nordlicher atlantik|atlantico del norte|atlantico do norte|nord atlantico|"
+        "atlantico del nord|nordatlanten|noord atlantische oceaan|polnocny atlantyk|"
+        "atlantique du nord"},
     UsualSpellings{
         "NTH",
         "morza polnocnego|nts|nos|nsea|n sea|nths|nth sea|nordsee|mer du nord|mare del nord|"

@@ -5,6 +5,7 @@
 #include "orders/exchange/power_names.h"
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <set>
 #include <string>
@@ -63,17 +64,33 @@ void SpreadTypes(std::deque<SourceLine>& text, const std::map<std::string, char>
   }
 }
 
-/// Danish and Norwegian "hær" is another word elsewhere, but not beside a "flåde" or "flåte".
-void ReadNordicArmies(std::deque<SourceLine>& text, const KnownGame& known) {
+/// Whether a place stands right behind a token, or behind "in".
+bool IsBeforePlace(Tokens line, std::size_t at, const KnownGame& known) {
+  const bool isIn = at + 1 < line.size() && IsWord(line[at + 1], "i");
+  return !known.Names.At(line, isIn ? at + 2 : at + 1).empty();
+}
+
+/// Danish and Norwegian "hær" is another word elsewhere, but not beside a "flåde" or "flåte"; and
+/// "en" before such types is no Dutch "and".
+void ReadNordicTypes(std::deque<SourceLine>& text, const KnownGame& known) {
+  constexpr std::array<std::string_view, 4> types{"flade", "flate", "flotta", "arme"};
+  constexpr std::array<std::string_view, 4> articles{"en", "et", "ett", "ei"};
   const bool isNordic = std::ranges::any_of(text, [](const SourceLine& line) {
     return std::ranges::any_of(line.All, [](const Token& token) {
       return IsWord(token, "flade") || IsWord(token, "flate");
     });
   });
+  const bool isBuilt = known.Stage == model::Stage::Adjustments;
   for (SourceLine& line : text) {
-    for (std::size_t at = 0; isNordic && at < line.All.size(); ++at) {
-      const bool isArmy = IsWord(line.All[at], "har") && TypeBehind(line.All, at, known) == 'A';
-      if (isArmy) line.All[at].Means = MeaningOf("army");
+    for (std::size_t at = 0; at < line.All.size(); ++at) {
+      Token& token = line.All[at];
+      const bool isArmy =
+          isNordic && IsWord(token, "har") &&
+          (isBuilt ? IsBeforePlace(line.All, at, known) : TypeBehind(line.All, at, known) == 'A');
+      if (isArmy) token.Means = MeaningOf("army");
+      if ((isArmy || IsOneOf(token, types)) && at > 0 && IsOneOf(line.All[at - 1], articles)) {
+        line.All[at - 1].Means.Uses |= static_cast<unsigned>(WordUse::Filler);
+      }
     }
   }
 }
@@ -81,7 +98,7 @@ void ReadNordicArmies(std::deque<SourceLine>& text, const KnownGame& known) {
 }  // namespace
 
 void LearnTypeLetters(std::deque<SourceLine>& text, const KnownGame& known) {
-  ReadNordicArmies(text, known);
+  ReadNordicTypes(text, known);
   std::map<std::string, Count> counts;
   std::vector<Token*> found;
   for (SourceLine& line : text) {

@@ -19,7 +19,7 @@ constexpr std::array Verbs{
         "para walk walks walking run runs puts retires rueckt ruckt ruecke rucke avanzan "
         "marchar vai vao sposta spostano desplaza desplazan beweegt beweg marcheert flytter "
         "flyttar flytta gaa drar seglar sejler seiler plynie przechodzi atakuje atakuja "
-        "angreift angriper angriber angrepp aanvalt valt attaquer greift greife attaquent "
+        "anfaller angreift angriper angriber angrepp aanvalt valt attaquer greift greife attaquent "
         "attaccano atacan "
         "atacam entra entre desloca segue marszeruje przesuwa takes occupies occupy "
         "lands returns return slides slips pushes push slide shift shifts relocates transfers "
@@ -61,7 +61,7 @@ constexpr std::array Verbs{
         "parado "
         "parada quieto quieta immobile mantener mantenerse manter tenir tenere houde holde halla "
         "trzymac aguantar "
-        "quedarse restare"},
+        "quedarse restare bliver blir"},
     VerbWords{
         Verb::Support,
         "s u sup supp supports support supporting spt sprt unterst su backs backing unterstutzt "

@@ -19,7 +19,7 @@ constexpr std::string_view Armies =
     "armia armie armii armen haren";
 constexpr std::string_view Fleets =
     "f fleet fleets flotte flotten flottes flota flotas flotta vloot vloten flottan flaaden frota "
-    "flaten flaade flade flader flate flater flote floty";
+    "fladen flaten flaade flade flader flate flater flote floty";
 
 struct UseWords {
   WordUse Use;
@@ -35,7 +35,8 @@ constexpr std::array Uses{
         "die das der la le il lo el los las bitte het les meine meiner mein mijn mon mes mio mia "
         "mi min "
         "mina moja nos onze notre our own both the my an please pls plz will shall is are his her "
-        "their unit units dislodged gives lends provides os as um een ein eine einen une una "
+        "their unit units dislodged gives lends provides os as um uma un een ein eine einen une "
+        "una "
         "uno wird werden soll sollen therefore simply merely accordingly duly hereby einfach "
         "simplement simplemente semplicemente simplesmente gewoon bare"},
     UseWords{WordUse::Condition,
