@@ -19,12 +19,13 @@ import seasons
 
 
 def main():
-    options = argparse.ArgumentParser(description=__doc__.splitlines()[2])
+    options = argparse.ArgumentParser(description=__doc__.split("\n\n", 1)[1])
     options.add_argument("--scheduler", help="the address of a cluster that runs: tcp://HOST:8786")
-    options.add_argument("--workers", type=int, default=2)
-    options.add_argument("--seasons", type=int, default=1_000_000)
-    options.add_argument("--chunk", type=int, default=seasons.CHUNK)
-    options.add_argument("game")
+    options.add_argument("--workers", type=int, default=2, help="processes on this machine (2)")
+    options.add_argument("--seasons", type=int, default=1_000_000, help="how many (1000000)")
+    options.add_argument("--chunk", type=int, default=seasons.CHUNK,
+                         help=f"seasons in each piece of work ({seasons.CHUNK})")
+    options.add_argument("game", help="a game file in its moves")
     given = options.parse_args()
 
     cluster = given.scheduler or LocalCluster(
