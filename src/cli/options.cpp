@@ -16,7 +16,7 @@ constexpr std::array<Option, OptionCount> Table{{
     {Loose, "--loose", "", ValueKind::None, "", "",
      "read the orders as people write them: mails, chats, files"},
     {Power, "--power", "", ValueKind::Choice, "ABC", "ENG FRA GER RUS TUR AUS ITA",
-     "with --loose: the power of lines that name none; of sheet: its power"},
+     "with --loose: the power of lines that name none"},
     {AcceptDoubtful, "--accept-doubtful", "", ValueKind::None, "", "",
      "with --loose: file also orders that something speaks against"},
     {Register, "--register", "", ValueKind::None, "", "",

@@ -15,7 +15,7 @@ std::string OutputUsage(const Command& command) {
   return text.append(Knows(command, OptionId::Try) ? " | --try)" : ")");
 }
 
-/// -o names a file where the command takes one game, else perhaps a directory.
+/// What -o names is the command's own.
 std::string_view ValueName(const Command& command, const Option& option) {
   return option.Id == OptionId::Output ? command.OutputName : option.Value;
 }
@@ -66,8 +66,11 @@ std::string Spelled(const Command& command, const Option& option) {
 
 std::string_view MeaningOf(const Command& command, const Option& option) {
   if (option.Id == OptionId::Output && command.OutputName == "DIR") return "where to write them";
-  const bool isFileOnly = option.Id == OptionId::Output && command.Takes != Games::Several;
-  return isFileOnly ? "the file to write" : option.Help;
+  if (option.Id == OptionId::Output && command.OutputName != "PATH") return "the file to write";
+  if (option.Id == OptionId::Power && !Knows(command, OptionId::Loose)) {
+    return "the power that it is for (default: all, with a chooser)";
+  }
+  return option.Help;
 }
 
 }  // namespace orb::cli

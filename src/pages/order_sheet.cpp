@@ -5,11 +5,11 @@
 #include "pages/page.h"
 
 #include "adjudication/possible_orders.h"
-#include "model/counts.h"
 #include "model/errors.h"
 #include "model/lookups.h"
 #include "orders/exchange/check_line.h"
 #include "render/svg_text.h"
+#include "session/standing.h"
 
 #include <string_view>
 #include <vector>
@@ -72,11 +72,11 @@ std::string AdjustmentsData(const GameState& game, int power, int due,
 
 std::string PowersData(const SheetRequest& request, const adjudication::PossibleOrders& possible) {
   const GameState& game = request.Game;
+  const session::Standings standings = session::StandingsOf({.Game = game});
   std::vector<std::string> powers;
   for (const int power : PowersOf(request)) {
     const model::Country& country = game.Countries[power];
-    const model::PowerCount count = model::CountPower(game, country.Abbreviation);
-    const int due = game.Stage == model::Stage::Adjustments ? count.Centres - count.Units : 0;
+    const int due = game.Stage == model::Stage::Adjustments ? standings.Powers[power].Due : 0;
     powers.push_back(
         JsonText(country.Abbreviation) + ":{" +
         Joined({Member("name", JsonText(country.Name)),
@@ -98,8 +98,8 @@ std::string Chooser(const SheetRequest& request) {
         Element("option", {{"value", country.Abbreviation}}, Text(country.Name)).append("\n"));
   }
   const std::string select = Element("select", {{"id", "power"}}, options);
-  return "<p class=\"row\"" + std::string(request.Power.empty() ? "" : " hidden") +
-         "><label for=\"power\">Your power</label> " + select + "</p>\n";
+  // The script shows it where there is a choice.
+  return "<p class=\"row\" hidden><label for=\"power\">Your power</label> " + select + "</p>\n";
 }
 
 /// The units that stand on the map, in words.

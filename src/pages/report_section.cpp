@@ -220,7 +220,7 @@ std::string PowersSection(const GameState& game) {
     const model::PowerCount count = model::CountPower(game, country.Abbreviation);
     rows.append("<tr>");
     rows.append(Element("th", {{"scope", "row"}}, PowerSign(country) + Text(country.Name)));
-    if (hasPlayers) rows.append(Element("td", Text(country.PlayerName)));
+    if (hasPlayers) rows.append(Element("td", {{"class", "name"}}, Text(country.PlayerName)));
     rows.append(Element("td", {{"class", "number"}}, std::to_string(count.Centres)));
     rows.append(Element("td", {{"class", "number"}}, std::to_string(count.Units)));
     rows.append(
@@ -229,11 +229,19 @@ std::string PowersSection(const GameState& game) {
         Element("td", {{"class", "places"}}, Text(Listed(UnitsOf(game, country.Abbreviation)))));
     rows.append("</tr>\n");
   }
-  constexpr std::array<std::string_view, 6> titles = {"Power", "Player",      "Centres",
-                                                      "Units", "Its centres", "Its units"};
+  struct Column {
+    std::string_view Title, Class;
+  };
+  constexpr std::array<Column, 6> columns = {{{"Power", "name"},
+                                              {"Player", "name"},
+                                              {"Centres", "number"},
+                                              {"Units", "number"},
+                                              {"Its centres", "places"},
+                                              {"Its units", "places"}}};
   std::string head;
-  for (const std::string_view title : titles) {
-    if (hasPlayers || title != "Player") head.append(Element("th", {{"scope", "col"}}, title));
+  for (const auto& [title, kind] : columns) {
+    if (!hasPlayers && title == "Player") continue;
+    head.append(Element("th", {{"scope", "col"}, {"class", std::string(kind)}}, title));
   }
   return "<div class=\"scrolls\" tabindex=\"0\" role=\"region\" aria-label=\"Powers, centres and "
          "units\"><table class=\"powers\"><thead><tr>" +

@@ -192,6 +192,19 @@ def check_sheet_by_lists(browser, folder):
     check("The order sheet of FRA is of Spring 1901; the game is in Spring 1902." in said, f"said: {said}")
     check("The order sheet is of FRA, not of GER." in said, f"said: {said}")
 
+    # No more builds are asked for than the home centres have room for.
+    crowded = folder / "crowded.orb"
+    crowded.write_bytes((EXAMPLES / "1902-2-autumn-2-retreats.orb").read_bytes().replace(b'"GER","F","Den"', b'"GER","F","Kie"'))
+    orbctl("sheet", "--power", "GER", "-o", sheet, crowded)
+    browser.open(sheet, 1280)
+    count = browser.script("return document.getElementById('count').textContent")
+    check(count.startswith("0 of 1 "), f"due is: {count}")
+
+    # Without a script there is nothing to choose.
+    orbctl("sheet", "-o", sheet, crowded)
+    browser.open(sheet, 360, scripts=False)
+    check(not any(role == "combobox" for role, _ in browser.tree()), "without scripts a power can be chosen")
+
 
 def main():
     browser = Browser()
@@ -204,6 +217,7 @@ def main():
             check_season_page_without_scripts(browser, page)
             check_printed_page(browser, page, len(SEASONS) + 1)
             check_printed_page(browser, make_season_page(folder, SEASONS[-1:]), 1)
+            check(not any(role == "slider" for role, _ in browser.tree()), "one season has something to slide")
             for width in (360, 1280):
                 for stage in STAGES:
                     check_sheet(browser, folder, width, stage)

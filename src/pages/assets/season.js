@@ -286,6 +286,7 @@ window.addEventListener("beforeprint", () => { stopPlaying(); hideTold(); });
 document.documentElement.classList.add("js");
 for (const section of sections) section.parentNode.insertBefore(section, document.querySelector(".reading"));
 slider.max = String(sections.length - 1);
+for (const part of [slider.parentNode, document.getElementById("previous"), document.getElementById("next")]) part.hidden = sections.length === 1;
 slider.addEventListener("input", () => show(Number(slider.value)));
 document.getElementById("previous").addEventListener("click", () => show(shown.index - 1));
 document.getElementById("next").addEventListener("click", () => show(shown.index + 1));

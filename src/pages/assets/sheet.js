@@ -382,6 +382,7 @@ element("steps").hidden = false;
 now.areas = layAreas(board, placeName, tap);
 addZoom(document.querySelector(".map"));
 power.addEventListener("change", showPower);
+power.parentNode.hidden = power.options.length === 1;
 element("copy").addEventListener("click", copy);
 element("clear").addEventListener("click", () => { now.orders = {}; store(); update(); begin(); });
 document.addEventListener("keydown", event => { if (event.key === "Escape") begin(); });
