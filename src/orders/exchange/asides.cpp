@@ -35,6 +35,8 @@ bool IsOfSomethingElse(Tokens title, std::size_t at) {
   for (std::size_t before = at - std::min(at, near); before < at; ++before) {
     if (IsOneOf(title[before], replacing)) return true;
   }
+  // "Het volgende".
+  if (at > 0 && IsWord(title[at], "volgende") && IsWord(title[at - 1], "het")) return true;
   constexpr std::array<std::string_view, 5> greets{"guten", "goede", "goeie", "schonen", "god"};
   if (at > 0 && IsWord(title[at], "morgen") && IsOneOf(title[at - 1], greets)) return true;
   const bool isLast = at + 1 == title.size() || !IsA(title[at + 1], TokenKind::Word);

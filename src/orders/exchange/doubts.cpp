@@ -190,4 +190,10 @@ bool IsHarmlessTail(Tokens tail) {
   });
 }
 
+bool IsSignOfDoubt(std::string_view line) {
+  const bool asks =
+      line.find_first_not_of("?! ") == std::string_view::npos && std::ranges::count(line, '?') > 1;
+  return asks || (line.starts_with("s/") && std::ranges::count(line, '/') > 1);
+}
+
 }  // namespace orb::exchange

@@ -32,4 +32,8 @@ bool IsDoubtfulSign(const Token& token);
 /// Whether words behind an order without any brackets surely are a remark: "lol", "as agreed".
 bool IsHarmlessTail(Tokens tail);
 
+/// Whether a line puts one word in the place of another as editors do, "s/Bur/Pic/", or is nothing
+/// but doubt, "???".
+bool IsSignOfDoubt(std::string_view line);
+
 }  // namespace orb::exchange

@@ -3,6 +3,7 @@
 #include "orders/exchange/comments.h"
 #include "orders/exchange/doubts.h"
 #include "orders/exchange/power_names.h"
+#include "orders/exchange/sayings.h"
 
 #include <algorithm>
 #include <array>
@@ -362,6 +363,11 @@ bool IsNoOrder(Tokens tokens, const PlaceNames& names, bool inSignature) {
   const auto first = std::ranges::find_if(tokens, IsWordToken);
   if (first == tokens.end()) return true;
   const int places = evidence.Places;
+  const auto chat = FindSaying(tokens, Saying::Chats);
+  if (chat && !HoldsOrderWords(tokens.first(chat->Begin), names) &&
+      !HoldsOrderWords(tokens.subspan(chat->End), names)) {
+    return true;
+  }
   if (HasUse(*first, WordUse::Greeting) && evidence.Commands == 0 &&
       !NamesUnitShortly(tokens, names)) {
     return evidence.Moves == 0 ? places <= Strong : places == 0;
@@ -379,12 +385,6 @@ bool EndsLetter(std::string_view line) {
 
 bool IsInQuotes(std::string_view line) {
   return line.size() > 2 && line.front() == '"' && line.back() == '"';
-}
-
-bool IsSignOfDoubt(std::string_view line) {
-  const bool asks =
-      line.find_first_not_of("?! ") == std::string_view::npos && std::ranges::count(line, '?') > 1;
-  return asks || (line.starts_with("s/") && std::ranges::count(line, '/') > 1);
 }
 
 bool IsPlaceAlone(Tokens line, const PlaceNames& names) {

@@ -59,10 +59,6 @@ bool EndsLetter(std::string_view line);
 /// Whether a line is a saying in quotation marks.
 bool IsInQuotes(std::string_view line);
 
-/// Whether a line puts one word in the place of another as editors do, "s/Bur/Pic/", or is nothing
-/// but doubt, "???".
-bool IsSignOfDoubt(std::string_view line);
-
 /// Whether a line is the name of one place, which puts the order above right: "*nwg".
 bool IsPlaceAlone(Tokens line, const PlaceNames& names);
 

@@ -108,6 +108,8 @@ Phrases::Read<WrittenUnit> Phrases::Units(std::size_t at) {
          Places(next, "the unit's place is missing", isBare ? NotUnderstoodText : NotOnTheMap)) {
       WrittenUnit unit = head;
       unit.Place = std::move(place);
+      // "Kiel gets a fleet, Munich an army".
+      if (unit.Type == 0 && stage_ == model::Stage::Adjustments) behind = PastGift(behind);
       // The type may follow, "Paris army", but as a word: "Par F" may begin the next order.
       const bool hasTail = behind < tokens_.size() && tokens_[behind].Text.size() > 1;
       if (unit.Type == 0 && hasTail) unit.Type = UnitTypeOf(tokens_[behind]);
@@ -130,6 +132,17 @@ Phrases::Read<WrittenUnit> Phrases::Units(std::size_t at) {
     }
   }
   return units;
+}
+
+std::size_t Phrases::PastGift(std::size_t at) const {
+  constexpr std::array getting{"gets"sv,   "get"sv,    "receives"sv, "bekommt"sv, "erhalt"sv,
+                               "recoit"sv, "recibe"sv, "riceve"sv,   "recebe"sv,  "krijgt"sv,
+                               "far"sv,    "faar"sv,   "dostaje"sv};
+  const std::size_t given = at < tokens_.size() && IsOneOf(tokens_[at], getting) ? at + 1 : at;
+  const std::size_t type = Skip(Is(given, "a") ? given + 1 : given);
+  const bool isWord = type > at && type < tokens_.size() && tokens_[type].Text.size() > 1;
+  // Behind a comma another unit begins.
+  return isWord && UnitTypeOf(tokens_[type]) != 0 && !Is(given, TokenKind::Comma) ? type : at;
 }
 
 std::size_t Phrases::PastVia(std::size_t at) const {

@@ -56,6 +56,7 @@ class Phrases {
   std::pair<char, std::size_t> TypeAt(std::size_t at) const;
 
   // Behind words that may stand there; the same token when there are none.
+  std::size_t PastGift(std::size_t at) const;    ///< "gets a", before a type
   std::size_t PastVia(std::size_t at) const;     ///< "via convoy", "by F NTH"
   std::size_t PastConvoy(std::size_t at) const;  ///< "(convoy)" behind a move
   std::size_t PastNoun(std::size_t at) const;    ///< "the move of"

@@ -44,6 +44,11 @@ const std::vector<VerbPhrase>& AllVerbPhrases() {
                                                {Verb::Move, {"sale", "al"}},
                                                {Verb::Move, {"sale", "hacia"}},
                                                {Verb::Move, {"sale", "para"}},
+                                               {Verb::Retreat, {"bat", "en", "retraite"}},
+                                               {Verb::Retreat, {"wijkt", "uit"}},
+                                               {Verb::Disband, {"zostaje", "rozwiazana"}},
+                                               {Verb::Disband, {"goes", "home"}},
+                                               {Verb::Disband, {"geht", "nach", "hause"}},
                                                {Verb::Disband, {"off", "the", "board"}},
                                                {Verb::Disband, {"from", "the", "board"}},
                                                {Verb::Disband, {"lost", "sich", "auf"}},
@@ -102,8 +107,8 @@ std::size_t Phrases::ToVerb(std::size_t at) const {
 
 /// "To" in languages that have a short word for it, between two names.
 bool Phrases::IsPreposition(std::size_t at) const {
-  constexpr std::array<std::string_view, 14> words{"do", "a",    "na",  "em", "in",  "en", "ins",
-                                                   "im", "dans", "sur", "au", "auf", "op", "pa"};
+  constexpr std::array<std::string_view, 15> words{
+      "do", "a", "na", "em", "in", "en", "ins", "im", "dans", "sur", "au", "auf", "op", "pa", "su"};
   constexpr std::array<std::string_view, 8> articles{"die", "den", "das", "la",
                                                      "le",  "les", "het", "de"};
   if (at == 0 || at + 1 >= tokens_.size()) return false;
@@ -129,9 +134,9 @@ bool Phrases::IsReflexive(std::size_t at) const {
 /// "To" before a place, in languages whose word for it is short or a verb elsewhere: "retraite à
 /// Paris".
 bool Phrases::IsDirection(std::size_t at) const {
-  constexpr std::array words{"a"sv,  "do"sv,   "na"sv,    "au"sv,   "en"sv,   "al"sv,
-                             "ad"sv, "to"sv,   "para"sv,  "pour"sv, "upon"sv, "into"sv,
-                             "on"sv, "vers"sv, "verso"sv, "hacia"sv};
+  constexpr std::array words{"a"sv,  "do"sv, "na"sv,   "au"sv,   "en"sv,    "al"sv,
+                             "ad"sv, "to"sv, "para"sv, "pour"sv, "upon"sv,  "into"sv,
+                             "on"sv, "su"sv, "sur"sv,  "vers"sv, "verso"sv, "hacia"sv};
   return at + 1 < tokens_.size() && !tokens_[at].Capital && IsOneOf(tokens_[at], words) &&
          !names_.At(tokens_, Skip(at + 1)).empty();
 }
@@ -142,7 +147,7 @@ std::pair<Verb, std::size_t> Phrases::VerbPhraseAt(std::size_t at) const {
   const auto phrases = VerbPhrases().find(tokens_[at].Text);
   if (phrases == VerbPhrases().end()) return {Verb::None, at};
   for (const VerbPhrase* const phrase : phrases->second) {
-    const bool isOfMoves = phrase->Does != Verb::Disband;
+    const bool isOfMoves = phrase->Does != Verb::Disband && phrase->Does != Verb::Retreat;
     const bool isOfStage = isOfMoves == (stage_ == model::Stage::Moves);
     std::size_t next = at;
     for (const std::string_view word : phrase->Words)
@@ -154,7 +159,14 @@ std::pair<Verb, std::size_t> Phrases::VerbPhraseAt(std::size_t at) const {
 
 std::pair<Verb, std::size_t> Phrases::VerbAt(std::size_t at) const {
   std::size_t tail = ToVerb(at);
-  if (const auto phrase = VerbPhraseAt(tail); phrase.first != Verb::None) return phrase;
+  if (auto phrase = VerbPhraseAt(tail); phrase.first != Verb::None) {
+    // "Wijkt uit naar".
+    const std::size_t to = phrase.second;
+    const bool leads = phrase.first == Verb::Retreat && to < tokens_.size() &&
+                       (VerbOf(tokens_[to]) == Verb::Move || IsDirection(to));
+    if (leads) ++phrase.second;
+    return phrase;
+  }
   Verb verb = Verb::None;
   const bool isReflexive = IsReflexive(tail);
   if (isReflexive) {

@@ -8,6 +8,7 @@
 #include "orders/exchange/comments.h"
 #include "orders/exchange/concerns.h"
 #include "orders/exchange/contradictions.h"
+#include "orders/exchange/doubts.h"
 #include "orders/exchange/exact_line.h"
 #include "orders/exchange/learnt_moves.h"
 #include "orders/exchange/line_kinds.h"

@@ -139,10 +139,13 @@ bool Rows::IsOfAnotherMatter(const SourceLine& line, const Said& said) const {
     return (UnitTypeOf(token) != 0 && token.Text.size() > 1) || HasUse(token, WordUse::Orders) ||
            IsDoubtfulSign(token);
   });
+  // "Looking forward to the results."
+  const bool chats = FindSaying(sentence, Saying::Chats).has_value();
   return isBehind && !speaksOfUnits && !NamesPlace(sentence, known_.Names) &&
-         PowerIn(sentence) == 0 && !SaysOfOrders(sentence) &&
-         (Apologizes(sentence) || !Reconsiders(sentence)) && !ReadAside(sentence, known_.Names) &&
-         !ReadReservation(sentence, true) && !FindBearing(sentence, known_.Names);
+         PowerIn(sentence) == 0 && (chats || !SaysOfOrders(sentence)) &&
+         (Apologizes(sentence) || !Reconsiders(sentence)) &&
+         (chats || !ReadAside(sentence, known_.Names)) && !ReadReservation(sentence, true) &&
+         !FindBearing(sentence, known_.Names);
 }
 
 /// Whether words are not known to leave the orders of their sentence as they are.

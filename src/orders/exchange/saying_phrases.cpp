@@ -302,7 +302,16 @@ constexpr std::array SayingTable{
                   "pech gehabt|tant pis|peor para|peggio per|pior para"},
     SayingPhrases{
         Saying::Chats,
-        "well played|nicely played|on holiday|on holidays|on vacation|out of office|out of town|im "
+        "well played|nicely played|looking forward to|cant wait to see|off to bed|should be "
+        "all|muss fruh raus|"
+        "moge der bessere|moge die bessere|que le meilleur gagne|que gane el mejor|vinca il "
+        "migliore|"
+        "que venca o melhor|moge de beste|gracias por todo|gracias por organizar|nos vemos|lycka "
+        "till|"
+        "dis moi si tu as|dites moi si vous avez|confirma se chegou|confirmame que|sig lige til "
+        "hvis|"
+        "do czwartku|do soboty|do niedzieli|do poniedzialku|do wtorku|do srody|do piatku|on "
+        "holiday|on holidays|on vacation|out of office|out of town|im "
         "urlaub|"
         "en vacances|de vacaciones|in vacanza|de ferias|op vakantie|pa ferie|pa semester|na "
         "urlopie|"

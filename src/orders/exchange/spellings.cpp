@@ -97,10 +97,11 @@ constexpr std::array Spellings{
                    "morza barentsa|brs|bas|barentssee|mer de barents|mare di barents|mar de "
                    "barents|barentszzee|"
                    "barentshavet|barents hav|morze barentsa|barentszee"},
-    UsualSpellings{"BLA",
-                   "morza czarnego|bls|blk|schwarzes meer|schwarze meer|mer noire|mar nero|mare "
-                   "nero|mar negro|"
-                   "zwarte zee|morze czarne|svarta havet|sortehavet|schwarzmeer|svartehavet"},
+    UsualSpellings{
+        "BLA",
+        "morzu czarnym|morza czarnego|bls|blk|schwarzes meer|schwarze meer|mer noire|mar nero|mare "
+        "nero|mar negro|"
+        "zwarte zee|morze czarne|svarta havet|sortehavet|schwarzmeer|svartehavet"},
     UsualSpellings{"BOT",
                    "zatoki botnickiej|gob|gbo|bothnia|gulf bothnia|g of bothnia|gulf of "
                    "both|bottnischer meerbusen|"
@@ -132,7 +133,8 @@ constexpr std::array Spellings{
                    "bahia de helgoland|baia de heligolandia|bocht van helgoland|helgolandsbukten|"
                    "helgolandbukta|zatoka helgolandzka|deutsche bucht"},
     UsualSpellings{"ION",
-                   "morza jonskiego|ios|ionisches meer|ionische meer|mer ionienne|mar ionio|mare "
+                   "morzu jonskim|morza jonskiego|ios|ionisches meer|ionische meer|mer "
+                   "ionienne|mar ionio|mare "
                    "ionio|mar jonico|"
                    "ionio|jonio|ionische zee|mar ionico|ionico|jonico|mer ionique|mare jonio|"
                    "joniska havet|ioniske hav|joniske hav|morze jonskie|jonische zee|ionische see|"
@@ -159,11 +161,11 @@ constexpr std::array Spellings{
         "nordlicher atlantik|atlantico del norte|atlantico do norte|nord atlantico|"
         "atlantico del nord|nordatlanten|noord atlantische oceaan|polnocny atlantyk|"
         "atlantique du nord"},
-    UsualSpellings{
-        "NTH",
-        "morza polnocnego|nts|nos|nsea|n sea|nths|nth sea|nordsee|mer du nord|mare del nord|"
-        "mar del norte|mar do norte|noordzee|nordsjon|nordsoen|nordsjoen|"
-        "morze polnocne|nordsjo|nordso"},
+    UsualSpellings{"NTH",
+                   "morzu polnocnym|morza polnocnego|nts|nos|nsea|n sea|nths|nth sea|nordsee|mer "
+                   "du nord|mare del nord|"
+                   "mar del norte|mar do norte|noordzee|nordsjon|nordsoen|nordsjoen|"
+                   "morze polnocne|nordsjo|nordso"},
     UsualSpellings{"NWG",
                    "morza norweskiego|nrg|nwe|nws|nwgs|nwg sea|norwegische see|norwegisches "
                    "meer|mer de norvege|"

@@ -70,11 +70,27 @@ bool IsBeforePlace(Tokens line, std::size_t at, const KnownGame& known) {
   return !known.Names.At(line, isIn ? at + 2 : at + 1).empty();
 }
 
-/// Danish and Norwegian "hær" is another word elsewhere, but not beside a "flåde" or "flåte"; and
-/// "en" before such types is no Dutch "and".
-void ReadNordicTypes(std::deque<SourceLine>& text, const KnownGame& known) {
-  constexpr std::array<std::string_view, 4> types{"flade", "flate", "flotta", "arme"};
-  constexpr std::array<std::string_view, 4> articles{"en", "et", "ett", "ei"};
+/// Articles before types that are other words elsewhere: "en" is Dutch "and", "o" Spanish "or"; and
+/// what says that a unit is built, "neue Flotte".
+void PassOverArticles(std::vector<Token>& line, std::size_t type) {
+  constexpr std::array<std::string_view, 5> nordic{"flade", "flate", "flotta", "arme", "har"};
+  constexpr std::array<std::string_view, 4> nordicArticles{"en", "et", "ett", "ei"};
+  constexpr std::array<std::string_view, 2> portuguese{"exercito", "exercitos"};
+  constexpr std::array<std::string_view, 2> portugueseArticles{"o", "os"};
+  constexpr std::array<std::string_view, 18> fresh{
+      "neue", "neuer", "neuen", "nueva", "nuevo",  "nuova", "nuovo", "nova", "novo",
+      "ny",   "nytt",  "nyt",   "nowa",  "nieuwe", "nieuw", "nowy",  "nowe", "nouvelle"};
+  for (std::size_t at = type; at > 0; --at) {
+    Token& word = line[at - 1];
+    const bool isArticle = (IsOneOf(line[type], nordic) && IsOneOf(word, nordicArticles)) ||
+                           (IsOneOf(line[type], portuguese) && IsOneOf(word, portugueseArticles));
+    if (!isArticle && !IsOneOf(word, fresh)) return;
+    word.Means.Uses |= static_cast<unsigned>(WordUse::Filler);
+  }
+}
+
+/// Danish and Norwegian "hær" is another word elsewhere, but not beside a "flåde" or "flåte".
+void ReadTypesOfLanguages(std::deque<SourceLine>& text, const KnownGame& known) {
   const bool isNordic = std::ranges::any_of(text, [](const SourceLine& line) {
     return std::ranges::any_of(line.All, [](const Token& token) {
       return IsWord(token, "flade") || IsWord(token, "flate");
@@ -88,9 +104,7 @@ void ReadNordicTypes(std::deque<SourceLine>& text, const KnownGame& known) {
           isNordic && IsWord(token, "har") &&
           (isBuilt ? IsBeforePlace(line.All, at, known) : TypeBehind(line.All, at, known) == 'A');
       if (isArmy) token.Means = MeaningOf("army");
-      if ((isArmy || IsOneOf(token, types)) && at > 0 && IsOneOf(line.All[at - 1], articles)) {
-        line.All[at - 1].Means.Uses |= static_cast<unsigned>(WordUse::Filler);
-      }
+      if (UnitTypeOf(token) != 0 && token.Text.size() > 1) PassOverArticles(line.All, at);
     }
   }
 }
@@ -98,7 +112,7 @@ void ReadNordicTypes(std::deque<SourceLine>& text, const KnownGame& known) {
 }  // namespace
 
 void LearnTypeLetters(std::deque<SourceLine>& text, const KnownGame& known) {
-  ReadNordicTypes(text, known);
+  ReadTypesOfLanguages(text, known);
   std::map<std::string, Count> counts;
   std::vector<Token*> found;
   for (SourceLine& line : text) {

@@ -85,7 +85,8 @@ constexpr std::array Verbs{
               "convoiano convoient convoyons comboia comboio transportera transporterar "
               "transporterer transportieren vervoeren escolta kuljettaa saattaa szallit szallitja "
               "konvojuje preprava tasir konvoiruet perevozit metaferei befordert befoerdert "
-              "ubersetzt traslada traghetta transportan trasportano"},
+              "begleitet geleitet eskortiert transportuje konwojem ubersetzt traslada traghetta "
+              "transportan trasportano"},
     VerbWords{
         Verb::Retreat,
         "r ret retr retreat retreats retreating withdraw withdraws ruckzug rueckzug retraite "
@@ -103,7 +104,8 @@ constexpr std::array Verbs{
         "removal removals destroy destroys destroyed disbandment disbandments auflosen "
         "aufloesen aufgelost dissout dissoute dissoudre sciolta scioglie sciogliere disolver "
         "disuelve ontbonden ontbinden upploses upplosa oplost oploses rozwiazac rozwiazana "
-        "abbau retirer supprimer eliminar eliminare dissolver rozwiazuje rozwiazuja usuwam "
+        "abbau abgebaut dissolution disolucion scioglimento dissolucao rozwiazanie "
+        "retirer supprimer eliminar eliminare dissolver rozwiazuje rozwiazuja usuwam "
         "usuwa likwiduje dissous dissolvent supprime supprimons sciolgo sciolgono rimuovo "
         "rimuove elimino elimina disuelvo disuelven dissolvo dissolve dissolvem removo remova "
         "ontbindt ontbind verwijder verwijdert verwijderen oploser fjerner fjern nedlagger "

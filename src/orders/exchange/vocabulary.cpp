@@ -132,7 +132,8 @@ constexpr std::array Uses{
              "voici voila cijoint maintenant aujourdhui suivants mis mi estas estos aqui ahora hoy "
              "siguientes adjunto miei mie nostri ecco oggi adesso seguenti qui meus minhas nossas "
              "seguem agora hoje segue mijn onze hierbij nu vandaag vores vare mina har her riktig "
-             "riktige rett rigtige juz tu aca ahi moje oto teraz tutaj omat tassa nyt itt most zde "
+             "riktige rett rigtige eccomi eccoci juz tu aca ahi moje oto teraz tutaj omat tassa "
+             "nyt itt most zde "
              "nyni copied "
              "deadline writing repeat again wie besprochen discussed agreed promised kopiert copie "
              "copiato copiado zo so asi cosi ainsi sadan slik takto igy nain suit publication "
@@ -151,7 +152,7 @@ constexpr std::array Uses{
         WordUse::Orders,
         "order orders move moves version set list plan befehl befehle zuge zug ordre ordres coups "
         "ordenes orden movimientos jugadas ordini ordine mosse ordens ordem jogadas bevel "
-        "bevelen zetten ordrer trekk traek drag rozkazy rozkaz ruchy kaskyt kasky siirrot "
+        "bevelen zetten ordrer trekk traek trak drag rozkazy rozkaz ruchy kaskyt kasky siirrot "
         "parancsok parancs lepesek rozkazy prikazy prikaz tahy emirler emirleri prikaz "
         "diatages diatagh ordrene orderna"},
     UseWords{WordUse::Greeting,
