@@ -54,8 +54,7 @@ int Execute(const CommandLine& line, Console& console) {
   const std::filesystem::path data = DataDirectory(line);
   OrdersSource orders(line);
   return ForEachGame(line, console, PlanOneOutput(line), [&](GameAtWork& at) {
-    for (const exchange::ReadLine& left : orders.Take(at.Situation, at.Paths, at.Messages))
-      console.Say(at.Paths.Game, left.Written + ": " + session::LeftOutReason(left));
+    SayLeftOut(console, at.Paths, orders.Take(at.Situation, at.Paths, at.Messages));
     at.Situation.Rules = rules;
     at.Situation = session::ToldByFilesBeside(std::move(at.Situation));
     if (line.Has(OptionId::Try)) at.Situation = session::TryOut(at.Situation);

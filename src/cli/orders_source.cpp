@@ -87,6 +87,12 @@ std::vector<exchange::ReadLine> OrdersSource::Take(GameAtWork& at, Console& cons
   return leftOut;
 }
 
+void SayLeftOut(Console& console, const GamePaths& paths,
+                const std::vector<exchange::ReadLine>& leftOut) {
+  for (const exchange::ReadLine& left : leftOut)
+    console.Say(paths.Game, left.Written + ": " + session::LeftOutReason(left));
+}
+
 std::string OrdersSource::TextOf(const GamePaths& paths) {
   // A file that cannot be looked at is not missing: reading it will say why.
   std::error_code ignored;

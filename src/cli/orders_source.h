@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/console.h"
 #include "cli/games.h"
 #include "cli/options.h"
 #include "cli/paths.h"
@@ -46,5 +47,9 @@ class OrdersSource {
   std::filesystem::path data_;
   std::optional<std::vector<exchange::TextRepair>> repairs_;  ///< read when first needed
 };
+
+/// Tells on standard error which lines were left out and why, where nobody is asked about them.
+void SayLeftOut(Console& console, const GamePaths& paths,
+                const std::vector<exchange::ReadLine>& leftOut);
 
 }  // namespace orb::cli

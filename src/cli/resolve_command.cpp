@@ -176,9 +176,13 @@ int Execute(const CommandLine& line, Console& console) {
   const std::vector<GamePaths> plan = PlanPaths(line);
   OrdersSource orders(line);
   return ForEachGame(line, console, plan, [&](GameAtWork& at) {
-    // Unclear lines are asked about first: --yes leaves them out, otherwise the game is abandoned.
     const std::vector<exchange::ReadLine> leftOut = orders.Take(at, console);
-    if (!session::GoOnWithout(leftOut, at.Messages) || !Work(line, console, at, leftOut).Do()) {
+    // Unclear lines are asked about first: --yes leaves them out, otherwise the game is abandoned.
+    // A trial asks nothing.
+    const bool isTrial = line.Has(OptionId::Try);
+    if (isTrial) SayLeftOut(console, at.Paths, leftOut);
+    const bool goesOn = isTrial || session::GoOnWithout(leftOut, at.Messages);
+    if (!goesOn || !Work(line, console, at, leftOut).Do()) {
       SayAbandoned(console, at, "resolved");
       return false;
     }

@@ -64,8 +64,7 @@ int Execute(const CommandLine& line, Console& console) {
   return ForEachGame(game, console, PlanPaths(game), [&](GameAtWork& at) {
     const std::vector<exchange::ReadLine> leftOut =
         orders.Take(at.Situation, at.Paths, at.Messages);
-    for (const exchange::ReadLine& left : leftOut)
-      console.Say(at.Paths.Game, left.Written + ": " + session::LeftOutReason(left));
+    SayLeftOut(console, at.Paths, leftOut);
     at.Situation.Rules = rules;
     const session::Question question = session::Ask(at.Situation, order);
     const std::vector<session::Alternative> singles = session::SingleChanges(question);

@@ -34,6 +34,13 @@ TEST(Loose, OrdersAreFiledLikeTypedOnesAndUnclearLinesAreAskedAbout) {
   EXPECT_EQ(yes.Err, question +
                          "@a.orb: Warning: A Xyz - Gas \"Xyz\" is not on the map. "
                          "Continue?\n@a.orb: Warning: FRA F(Bre) unordered. Continue?\n");
+  const Outcome tried = shell.Run("resolve --loose --try --orders @o.txt @a.orb");
+  EXPECT_EQ(tried.Status, 0);
+  EXPECT_EQ(tried.Out, yes.Out);
+  EXPECT_EQ(tried.Err,
+            "@a.orb: F Bre - Xyz: \"Xyz\" is not on the map\n"
+            "@a.orb: A Xyz - Gas: \"Xyz\" is not on the map\n")
+      << "nothing is asked";
   const Outcome check = shell.Run("check --loose --orders @o.txt @a.orb");
   EXPECT_EQ(check.Status, 1);
   EXPECT_EQ(check.Out,
