@@ -18,11 +18,13 @@ constexpr std::array Spellings{
     UsualSpellings{"Ber", "berlinie|berlina|berlino|berlijn|berlim"},
     UsualSpellings{"Kie", "kilonii|kilonia"},
     UsualSpellings{"Mun", "munchen|muenchen|monaco|monachium|monaco di baviera|munique"},
-    UsualSpellings{"Pru", "prus|preussen|preusen|prusse|pruisen|prusy|preusse"},
+    UsualSpellings{"Pru", "projsen|prus|preussen|preusen|prusse|pruisen|prusy|preusse"},
     UsualSpellings{"Ruh", "ruhrgebiet|ruhrgebied|ruhromradet|zaglebie ruhry|zaglebie"},
     UsualSpellings{"Sil", "slaska|schlesien|silesie|slesia|silezie|slask|silezja"},
     UsualSpellings{"Fin", "finlandii|finlande|finlandia|suomi"},
-    UsualSpellings{"Lvn", "inflant|lvo|lva|livland|livonie|lijfland|inflanty|liwonia"},
+    UsualSpellings{
+        "Lvn",
+        "letland|lettland|letonia|inflant|lvo|lva|livland|livonie|lijfland|inflanty|liwonia"},
     UsualSpellings{"Mos",
                    "moskwie|moskwy|moskva|moskau|moscou|mosca|moscu|moskou|moskwa|moskova|moscovo"},
     UsualSpellings{"Sev", "sewastopolu|sewastopola|sebastopol|sewastopol|sebastopoli"},
@@ -60,15 +62,17 @@ constexpr std::array Spellings{
     UsualSpellings{"Bel", "belgii|belgien|belgique|belgio|belgica|belgie|belgia"},
     UsualSpellings{"Bul", "bulgarii|bulgarien|bulgarie|bulgarije"},
     UsualSpellings{"Den", "danii|danemark|danimarca|dinamarca|denemarken|danmark|dania"},
-    UsualSpellings{"Gre", "grecji|griechenland|grece|grecia|griekenland|grecja|grekland|hellas"},
+    UsualSpellings{
+        "Gre", "grakenland|grecji|griechenland|grece|grecia|griekenland|grecja|grekland|hellas"},
     UsualSpellings{
         "Hol",
         "holandii|netherlands|the netherlands|hollande|olanda|holanda|niederlande|nederland|"
         "pays bas|holandia"},
-    UsualSpellings{"Naf",
-                   "noa|nafr|n africa|north african|nordafrika|afrique du nord|nord africa|"
-                   "africa del nord|africa del norte|noord afrika|norte de africa|africa do norte|"
-                   "afryka polnocna|afrique nord"},
+    UsualSpellings{
+        "Naf",
+        "norte da africa|noa|nafr|n africa|north african|nordafrika|afrique du nord|nord africa|"
+        "africa del nord|africa del norte|noord afrika|norte de africa|africa do norte|"
+        "afryka polnocna|afrique nord"},
     UsualSpellings{"Nwy",
                    "norwegii|nrw|norge|norwegen|norvege|norvegia|noruega|noorwegen|norwegia"},
     UsualSpellings{"Por", "portugalii|portogallo|portugalia"},
@@ -84,15 +88,16 @@ constexpr std::array Spellings{
                    "adriatico|mare adriatico|mer adriatique|"
                    "adriatisches meer|adriatische meer|adriatische zee|adriatyk|morze adriatyckie|"
                    "adriatiska havet|adriaterhavet"},
+    UsualSpellings{"AEG",
+                   "det agaiske hav|agaiske hav|morza egejskiego|agais|egee|egeo|mer egee|mar "
+                   "egeo|mare egeo|egeische zee|agaisches meer|"
+                   "agaische meer|egeu|mar egeu|morze egejskie|egeiska havet|egeerhavet|"
+                   "agaiska havet"},
     UsualSpellings{
-        "AEG",
-        "morza egejskiego|agais|egee|egeo|mer egee|mar egeo|mare egeo|egeische zee|agaisches meer|"
-        "agaische meer|egeu|mar egeu|morze egejskie|egeiska havet|egeerhavet|"
-        "agaiska havet"},
-    UsualSpellings{"BAL",
-                   "morza baltyckiego|baltyku|bls|blt|bas|ostsee|baltique|mer baltique|mar "
-                   "baltico|mare baltico|oostzee|"
-                   "ostersjon|ostersoen|morze baltyckie|baltico|baltyk|ostersjoen"},
+        "BAL",
+        "baltische zee|morza baltyckiego|baltyku|bls|blt|bas|ostsee|baltique|mer baltique|mar "
+        "baltico|mare baltico|oostzee|"
+        "ostersjon|ostersoen|morze baltyckie|baltico|baltyk|ostersjoen"},
     UsualSpellings{"BAR",
                    "morza barentsa|brs|bas|barentssee|mer de barents|mare di barents|mar de "
                    "barents|barentszzee|"
@@ -116,64 +121,71 @@ constexpr std::array Spellings{
                    "oostelijke middellandse zee|oost middellandse zee|wschodnie morze srodziemne|"
                    "ostmittelmeer|mediterranee est"},
     UsualSpellings{"ECH",
-                   "kanalu|kanalu la manche|eng|enc|channel|chan|chn|e "
+                   "engels kanaal|kanalu|kanalu la manche|eng|enc|channel|chan|chn|e "
                    "channel|armelkanal|kanal|manche|manica|mancha|"
                    "canal de la mancha|canal da mancha|kanaal|kanalen|engelska kanalen|canal|"
                    "la manche|englischen kanal|englischer kanal|engelske kanal|den engelske "
                    "kanal|engelse kanaal|kanal la "
                    "manche|canal ingles|canale della manica"},
     UsualSpellings{"GOL",
-                   "lyo|gly|gln|lyon|lyons|gulf of lyons|gulf of lions|gulf lyon|gulf of the lion|"
+                   "lyonbugten|lyonbukta|lyo|gly|gln|lyon|lyons|gulf of lyons|gulf of lions|gulf "
+                   "lyon|gulf of the lion|"
                    "g of lyon|golyon|golfe du lion|golfo di leone|golfo del leone|golfo de leon|"
                    "golf von lyon|golf van lyon|golfe de lyon|golfo de leao|golfo de lion|"
                    "golfo di lione|zatoka lwia|lionbukten|lionviken|golf van lion|golf de lyon"},
     UsualSpellings{"HEL",
-                   "heb|hgb|heligoland|heligoland bight|helig|helgolander bucht|helgoland|"
+                   "baie d'heligoland|helgolandbocht|duitse bocht|heb|hgb|heligoland|heligoland "
+                   "bight|helig|helgolander bucht|helgoland|"
                    "baie de heligoland|baie de helgoland|baia di helgoland|bahia de heligoland|"
                    "bahia de helgoland|baia de heligolandia|bocht van helgoland|helgolandsbukten|"
                    "helgolandbukta|zatoka helgolandzka|deutsche bucht"},
-    UsualSpellings{"ION",
-                   "morzu jonskim|morza jonskiego|ios|ionisches meer|ionische meer|mer "
-                   "ionienne|mar ionio|mare "
-                   "ionio|mar jonico|"
-                   "ionio|jonio|ionische zee|mar ionico|ionico|jonico|mer ionique|mare jonio|"
-                   "joniska havet|ioniske hav|joniske hav|morze jonskie|jonische zee|ionische see|"
-                   "ionienne"},
     UsualSpellings{
-        "IRI",
-        "morza irlandzkiego|irs|irische see|mar de irlanda|ierse zee|mer d'irlande|mare d'irlanda|"
-        "mar da irlanda|irlandska sjon|irske hav|irskesjoen|irskesjon|morze irlandzkie|"
-        "irisches meer"},
+        "ION",
+        "det ioniske hav|morzu jonskim|morza jonskiego|ios|ionisches meer|ionische meer|mer "
+        "ionienne|mar ionio|mare "
+        "ionio|mar jonico|"
+        "ionio|jonio|ionische zee|mar ionico|ionico|jonico|mer ionique|mare jonio|"
+        "joniska havet|ioniske hav|joniske hav|morze jonskie|jonische zee|ionische see|"
+        "ionienne"},
+    UsualSpellings{"IRI",
+                   "det irske hav|morza irlandzkiego|irs|irische see|mar de irlanda|ierse zee|mer "
+                   "d'irlande|mare d'irlanda|"
+                   "mar da irlanda|irlandska sjon|irske hav|irskesjoen|irskesjon|morze irlandzkie|"
+                   "irisches meer"},
     UsualSpellings{
         "MAO",
-        "atlantic|matl|mda|mida|middle atlantic|m atlantic|mid atlantic|mittelatlantik|"
+        "milieu atlantique|mellanatlanten|atlantic|matl|mda|mida|middle "
+        "atlantic|m atlantic|mid atlantic|mittelatlantik|"
         "atlantico medio|medio atlantico|atlantique central|atlantique|atlantico|"
         "atlantik|atlanten|atlanterhavet|atlantyk|atlantyk srodkowy|atlantische oceaan|"
-        "mittlerer atlantik|atlantique centre|atlantique moyen|atlantico centrale|"
+        "mittlerer atlantik|mittlerer atlantic|mittl atlantik|mittl atlantic|atlantique "
+        "centre|atlantique moyen|atlantico centrale|"
         "atlantico central|mid atlantische oceaan|midden atlantische oceaan|"
         "mellersta atlanten|mittatlanten|midtatlanten|srodkowy atlantyk|"
         "oceano atlantico|ocean atlantique|oceano atlantico medio|oceano atlantico central"},
-    UsualSpellings{
-        "NAO",
-        "atlantic|nat|natl|n atlantic|n atlantic ocean|n atl|noa|nordatlantik|atlantique nord|"
-        "atlantico nord|atlantico norte|atlantique|atlantico|atlantik|atlanten|"
-        "atlanterhavet|atlantyk|atlantische oceaan|oceano atlantico|ocean atlantique|"
-        "nordlicher atlantik|atlantico del norte|atlantico do norte|nord atlantico|"
-        "atlantico del nord|nordatlanten|noord atlantische oceaan|polnocny atlantyk|"
-        "atlantique du nord"},
+    UsualSpellings{"NAO",
+                   "atlantic|nordlicher atlantik|nordlicher atlantic|nat|natl|n atlantic|n "
+                   "atlantic ocean|n atl|noa|nordatlantik|atlantique nord|"
+                   "atlantico nord|atlantico norte|atlantique|atlantico|atlantik|atlanten|"
+                   "atlanterhavet|atlantyk|atlantische oceaan|oceano atlantico|ocean atlantique|"
+                   "nordlicher atlantik|atlantico del norte|atlantico do norte|nord atlantico|"
+                   "atlantico del nord|nordatlanten|noord atlantische oceaan|polnocny atlantyk|"
+                   "atlantique du nord"},
     UsualSpellings{"NTH",
                    "morzu polnocnym|morza polnocnego|nts|nos|nsea|n sea|nths|nth sea|nordsee|mer "
                    "du nord|mare del nord|"
                    "mar del norte|mar do norte|noordzee|nordsjon|nordsoen|nordsjoen|"
                    "morze polnocne|nordsjo|nordso"},
-    UsualSpellings{"NWG",
-                   "morza norweskiego|nrg|nwe|nws|nwgs|nwg sea|norwegische see|norwegisches "
-                   "meer|mer de norvege|"
-                   "mare di norvegia|mar de noruega|noorse zee|norska havet|norskehavet|"
-                   "mar da noruega|norwegensee|europaisches nordmeer|norska sjon|morze norweskie|"
-                   "mer norvegienne|mar noruego"},
+    UsualSpellings{
+        "NWG",
+        "nordmeer|morza norweskiego|nrg|nwe|nws|nwgs|nwg sea|norwegische see|norwegisches "
+        "meer|mer de norvege|"
+        "mare di norvegia|mar de noruega|noorse zee|norska havet|norskehavet|"
+        "mar da noruega|norwegensee|europaisches nordmeer|norska sjon|morze norweskie|"
+        "mer norvegienne|mar noruego"},
     UsualSpellings{"TYS",
-                   "morza tyrrenskiego|tyn|tyh|trs|tyrh|tyrrh|tyrrhenisches meer|tyrrhenische "
+                   "tyrreense zee|det tyrrhenske hav|morza "
+                   "tyrrenskiego|tyn|tyh|trs|tyrh|tyrrh|tyrrhenisches meer|tyrrhenische "
                    "meer|mer tyrrhenienne|"
                    "mar tirreno|mare tirreno|tirreno|tyrrheense zee|tyrrhenienne|tyrrenska havet|"
                    "tyrrhenska havet|tyrrhenske hav|tyrrenske hav|tyrrenhavet|morze tyrrenskie|"
