@@ -61,6 +61,8 @@ void CountUnits(const GameState& game, const ListCheck& check, Standings& standi
     if (game.Stage == Stage::Retreats) open.Places = RetreatsOf(game, unit);
     standings.Open.push_back(std::move(open));
   }
+  // Units that were built lately come last among those of all powers.
+  std::ranges::stable_sort(standings.Open, {}, &OpenOrder::Power);
 }
 
 /// What the lines that would pass change for the power, and where they build.

@@ -30,7 +30,7 @@ const std::vector<Position> Rows = {
     {"moves", {}, "", "-", Standing::Idle, "England: no units", {}},
     {"moves", {"ENG A(Lvp) - Yor"}, "", "1/1", Standing::Complete, "England: 1 of 1 order", {}},
     {"moves",
-     {"ENG A(Lvp)", "FRA A(Par)", "ENG F(Lon) - NTH"},
+     {"FRA A(Par)", "ENG A(Lvp)", "ENG F(Lon) - NTH"},
      "",
      "1/2",
      Standing::Missing,
