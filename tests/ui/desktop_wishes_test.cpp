@@ -1,9 +1,15 @@
 #include "ui/widgets/desktop_wishes.h"
 
+#include "ui/widgets/edged_style.h"
+
+#include <QCheckBox>
+#include <QImage>
+#include <QRadioButton>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 #include <string>
 #include <utility>
 #include <vector>
@@ -71,6 +77,24 @@ TEST(DesktopWishes, LeaveEveryTextReadableInThePaletteThatTheyMake) {
   for (const auto& [text, ground] : pairs)
     EXPECT_GT(Contrast(made.color(text), made.color(ground)), 4.5) << text << " " << ground;
   EXPECT_EQ(ui::wishedPalette(dark, {true, false, false}), dark) << "dark as it was chosen";
+}
+
+TEST(DesktopWishes, WhatCanBeTickedStandsOutFromADarkGround) {
+  const QPalette dark = ui::wishedPalette(QColor(0xef, 0xef, 0xef), {true, false, false});
+  ui::EdgedStyle style(QStringLiteral("fusion"));
+  QRadioButton round;
+  QCheckBox square;
+  for (QAbstractButton* button : std::initializer_list<QAbstractButton*>{&round, &square}) {
+    button->setStyle(&style);
+    button->setPalette(dark);
+    const QImage picture = button->grab().toImage();
+    double most = 1;
+    for (int x = 0; x < picture.width(); ++x) {
+      const QColor pixel = picture.pixelColor(x, picture.height() / 2);
+      most = std::max(most, Contrast(pixel, dark.color(QPalette::Window)));
+    }
+    EXPECT_GT(most, 3) << button->metaObject()->className();
+  }
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "text/qt/text_codec.h"
 #include "ui/session/attempt.h"
+#include "ui/widgets/edged_style.h"
 #include "ui/widgets/message_boxes.h"
 
 #include <QDialogButtonBox>
@@ -9,12 +10,18 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStyle>
 #include <QTimer>
 
 #include <exception>
 #include <utility>
 
 namespace orb::ui {
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+  // The other styles are those of desktops, and draw as these want it.
+  if (style()->name() == QLatin1String("fusion")) setStyle(new EdgedStyle);
+}
 
 bool Application::notify(QObject* receiver, QEvent* event) {
   // Before a label is shown for the first time; a tooltip is a label as well.
