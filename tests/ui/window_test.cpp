@@ -180,6 +180,9 @@ TEST_F(WindowTest, ASelectedReportLineSaysWhyAndUndoTakesAllBack) {
   dark.setColor(QPalette::Base, Qt::black);
   Find<QWidget>("fraReport").setPalette(dark);
   EXPECT_NE(report.item(0)->foreground(), light) << "it can be read on a dark ground as well";
+  Find<QWidget>("fraReport").setEnabled(false);
+  EXPECT_EQ(report.item(0)->foreground(), report.item(2)->foreground()) << "both are faint";
+  Find<QWidget>("fraReport").setEnabled(true);
   EXPECT_NE(Map(), before);
   Trigger("mnuGameUndo");
   EXPECT_EQ(StagePanel(), "fraOrders");

@@ -134,7 +134,8 @@ void ReportPanel::startReading() {
 
 void ReportPanel::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange) colourLines();
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::EnabledChange)
+    colourLines();
 }
 
 void ReportPanel::showReport() {
@@ -198,7 +199,8 @@ void ReportPanel::showDifferences() {
 void ReportPanel::colourLines() {
   const std::vector<session::ReportNote>& notes = m_desk.shown().Notes;
   for (int row = 0; row < m_lines->count(); ++row) {
-    const bool failed = notes.at(static_cast<std::size_t>(row)).Failed;
+    // A colour of its own would have no disabled form.
+    const bool failed = isEnabled() && notes.at(static_cast<std::size_t>(row)).Failed;
     const QColor background = palette().color(QPalette::Base);
     m_lines->item(row)->setForeground(failed ? failureColour(background) : QBrush());
   }
