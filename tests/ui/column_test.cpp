@@ -69,6 +69,10 @@ TEST_F(ColumnTest, ThePowersTellWhereTheyStandAndShowTheirLinesAlone) {
   EXPECT_THAT(Seen("lstOrders"), Each(StartsWith("FRA ")));
   Open(examples_ / "1901-2-autumn-1-moves.orb");
   EXPECT_THAT(Lines("lstAdjustmentsOpen"), Not(IsEmpty()));
+  Enter("ITA waives");
+  EXPECT_THAT(Find<QLabel>("lblStatus").text().toStdString(), StartsWith("Nothing to file: "));
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(Find<QLabel>("lblStatus").text().toStdString(), "") << "of a line given up";
   EXPECT_TRUE(Find<ui::PowerCell>("butPowerENG").isVisible());
 }
 

@@ -300,6 +300,10 @@ TEST(OrderEntry, WhatIsOpenStandsBelowTheLinesAndBeginsAnOrder) {
   EXPECT_EQ(entry.Text(), "ENG F(Lon) - NTH ") << "as after a click on the unit";
   QTest::keyClick(&entry.text, Qt::Key_Return);
   EXPECT_EQ(entry.Open().count(), 1);
+  ASSERT_FALSE(entry.list.selectedItems().isEmpty());
+  QTest::mouseClick(entry.Open().viewport(), Qt::LeftButton, {},
+                    entry.Open().visualItemRect(entry.Open().item(0)).center());
+  EXPECT_TRUE(entry.list.selectedItems().isEmpty()) << "one line of both lists";
   entry.panel.showOnly(2);
   EXPECT_TRUE(entry.list.isRowHidden(0) && entry.list.isRowHidden(1));
   EXPECT_FALSE(entry.Open().isRowHidden(0));

@@ -28,4 +28,9 @@ std::string naturalFault(const model::GameState& game, const std::string& typed,
   return read && read->Kind != exchange::LineKind::Order ? read->Reason : std::string();
 }
 
+bool isWaiver(const model::GameState& game, const std::string& typed, int power) {
+  const std::string name = power == 0 ? std::string() : std::string(model::PowerName(power));
+  return exchange::ReadOrder(game, typed, {name, {}}).Kind == exchange::LineKind::Waive;
+}
+
 }  // namespace orb::ui

@@ -14,4 +14,7 @@ std::string naturalLine(const model::GameState& game, const std::string& typed, 
 /// Why such a line is no sure order, to follow a colon; empty where it is one, or is not read so.
 std::string naturalFault(const model::GameState& game, const std::string& typed, int power);
 
+/// Whether it asks for nothing to be done, as "Italy waives".
+bool isWaiver(const model::GameState& game, const std::string& typed, int power);
+
 }  // namespace orb::ui

@@ -292,6 +292,8 @@ bool OrderEntryPanel::fileOrder() {
 
 QString OrderEntryPanel::whyNotFiled() const {
   if (m_text->text().trimmed().isEmpty()) return tr("Nothing to file: the box is empty.");
+  if (isWaiver(game(), line(), m_power))
+    return tr("Nothing to file: a power waives a build by leaving it open.");
   const std::string fault = naturalFault(game(), line(), m_power);
   if (!fault.empty()) return tr("Not filed: %1.").arg(text::ToQString(fault));
   return tr("Not filed: no unit with its place in brackets, as in %1.").arg(m_example);
@@ -328,8 +330,11 @@ void OrderEntryPanel::resolve() {
 }
 
 void OrderEntryPanel::cancelOrder() {
+  const bool givesUp = !m_text->text().isEmpty();
   m_text->clear();
   startEntry();
+  // What the status bar says of a line that is given up is no longer true.
+  if (givesUp) tellStatus();
 }
 
 void OrderEntryPanel::goBack() {

@@ -83,9 +83,17 @@ void ListPart::keyPressEvent(QKeyEvent* event) {
 
 void ListPart::focusOutEvent(QFocusEvent* event) {
   QListWidget::focusOutEvent(event);
-  // Of the parts together only one line is selected.
+  // Tab selects nothing where it leads.
   const auto leads = [](const ListPart* to) { return to != nullptr && to->hasFocus(); };
   if (leads(m_before) || leads(m_after)) clearSelection();
+}
+
+void ListPart::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+  QListWidget::selectionChanged(selected, deselected);
+  // Of the parts together only one line is selected, wherever the keyboard is.
+  if (selected.isEmpty()) return;
+  for (ListPart* other : {m_before, m_after})
+    if (other != nullptr) other->clearSelection();
 }
 
 void ListPart::wheelEvent(QWheelEvent* event) {

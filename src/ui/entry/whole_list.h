@@ -35,6 +35,7 @@ class ListPart : public QListWidget {
   void updateGeometries() override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   void wheelEvent(QWheelEvent* event) override;
 
  private:
