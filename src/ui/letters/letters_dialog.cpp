@@ -10,7 +10,9 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QScreen>
+#include <QScrollBar>
 #include <QVBoxLayout>
+#include <QtMath>
 
 #include <utility>
 
@@ -22,7 +24,12 @@ constexpr int MapWidth = 360;
 constexpr int LettersHeight = 560;
 
 /// As wide as letters are: their lines are not broken twice.
-constexpr int LetterColumns = 80;
+int widthOfLetters(const QPlainTextEdit& view) {
+  constexpr int columns = 80;
+  const int text = view.fontMetrics().horizontalAdvance(QString(columns, QLatin1Char('m')));
+  return text + qCeil(2 * view.document()->documentMargin()) + 2 * view.frameWidth() +
+         view.verticalScrollBar()->sizeHint().width();
+}
 
 }  // namespace
 
@@ -62,8 +69,7 @@ LettersDialog::LettersDialog(std::vector<letters::Letter> letters, const QString
   rows->addWidget(buttons);
   connect(m_powers, &QListWidget::currentRowChanged, this, &LettersDialog::showLetter);
   m_powers->setCurrentRow(0);
-  const int wanted = m_powers->maximumWidth() + MapWidth +
-                     LetterColumns * m_text->fontMetrics().horizontalAdvance(QLatin1Char('m'));
+  const int wanted = sizeHint().width() - m_text->sizeHint().width() + widthOfLetters(*m_text);
   resize(QSize(wanted, LettersHeight).boundedTo(screen()->availableSize()));
 }
 
