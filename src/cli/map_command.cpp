@@ -4,6 +4,7 @@
 #include "cli/orders_source.h"
 #include "history/replay_sequence.h"
 #include "model/files.h"
+#include "model/seasons.h"
 #include "render/map_module.h"
 #include "session/queries.h"
 #include "settings/map_options.h"
@@ -11,7 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -89,9 +89,7 @@ std::vector<history::Replay> ReplaysOf(const std::vector<session::Situation>& si
     games.reserve(situations.size());
     for (const session::Situation& situation : situations)
       games.push_back(situation.Game);
-    std::ranges::stable_sort(games, {}, [](const model::GameState& game) {
-      return std::tuple(game.Year, game.Season != "Spring", game.Stage);
-    });
+    std::ranges::stable_sort(games, {}, model::PlaceInTime<model::GameState>);
     parts = history::ReplaySequence(games);
   }
   std::vector<history::Replay> replays;

@@ -4,6 +4,7 @@
 #include "model/errors.h"
 #include "model/files.h"
 #include "model/game_file.h"
+#include "model/seasons.h"
 #include "text/strings.h"
 
 #include <algorithm>
@@ -22,11 +23,6 @@ constexpr std::size_t MostFiles = 400;
 /// Names as they are compared: systems that do not tell capitals apart write them as they like.
 bool IsGameFile(const fs::path& file) {
   return text::LowerCase(file.extension().string()) == ".orb";
-}
-
-auto PlaceInTime(const Moment& moment) {
-  // What follows Spring is the year's other half, whatever it is called.
-  return std::tuple(moment.Year, moment.Season == "Spring" ? 0 : 1, moment.Season, moment.Stage);
 }
 
 bool IsSameSeason(const Moment& a, const Moment& b) {
@@ -78,8 +74,8 @@ std::vector<Moment> Timeline(std::vector<Moment> moments, const Moment& present)
   });
   moments.push_back(present);
   std::ranges::sort(moments, [](const Moment& a, const Moment& b) {
-    return std::tuple(PlaceInTime(a), b.Written, a.File) <
-           std::tuple(PlaceInTime(b), a.Written, b.File);
+    return std::tuple(model::PlaceInTime(a), b.Written, a.File) <
+           std::tuple(model::PlaceInTime(b), a.Written, b.File);
   });
   moments.erase(std::unique(moments.begin(), moments.end(), IsSameStage), moments.end());
   return moments;

@@ -1,12 +1,12 @@
 #include "pages/season.h"
 
 #include "history/replay.h"
+#include "model/seasons.h"
 #include "session/queries.h"
 #include "session/story.h"
 #include "session/trial.h"
 
 #include <algorithm>
-#include <tuple>
 #include <utility>
 
 namespace orb::pages {
@@ -14,12 +14,6 @@ namespace {
 
 using model::GameState;
 using session::Situation;
-
-auto PlaceInTime(const Source& source) {
-  const GameState& game = source.Situation.Game;
-  // What follows Spring is the year's other half, whatever it is called.
-  return std::tuple(game.Year, game.Season == "Spring" ? 0 : 1, game.Season, game.Stage);
-}
 
 bool IsSameSeason(const Source& a, const Source& b) {
   return a.Situation.Game.Year == b.Situation.Game.Year &&
@@ -65,7 +59,8 @@ Season SeasonUntil(const Situation& now, const GameState& next) {
 }  // namespace
 
 std::vector<Season> SeasonsOf(std::vector<Source> sources) {
-  std::ranges::stable_sort(sources, {}, PlaceInTime);
+  std::ranges::stable_sort(
+      sources, {}, [](const Source& source) { return model::PlaceInTime(source.Situation.Game); });
   std::vector<std::vector<Source>> groups;
   for (Source& source : sources) {
     if (groups.empty() || !IsSameSeason(groups.back().front(), source)) groups.emplace_back();

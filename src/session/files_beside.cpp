@@ -1,7 +1,7 @@
 #include "session/files_beside.h"
 
-#include "history/unit_matching.h"
 #include "model/errors.h"
+#include "model/seasons.h"
 #include "session/commands.h"
 #include "session/story.h"
 
@@ -82,9 +82,8 @@ std::vector<Situation> FilesBeside(const Situation& situation) {
     } catch (const model::FatalError&) {
       continue;
     }
-    const int seasons = history::SeasonsBetween(other.Game, game);
-    const bool isEarlier = seasons > 0 || (seasons == 0 && other.Game.Stage <= game.Stage);
-    if (other.Game.Title == game.Title && isEarlier) others.push_back(std::move(other));
+    const bool isLater = model::PlaceInTime(other.Game) > model::PlaceInTime(game);
+    if (other.Game.Title == game.Title && !isLater) others.push_back(std::move(other));
   }
   return others;
 }

@@ -7,7 +7,8 @@
 namespace orb::session {
 
 /// The other files of a game: those beside its own that end in .orb, have its title and hold no
-/// later season. What cannot be read is no file of the game. None where the game has no file.
+/// later season or stage. What cannot be read is no file of the game. None where the game has no
+/// file.
 std::vector<Situation> FilesBeside(const Situation& situation);
 
 /// The situation with what the files beside its own tell of its season until now, where it does not

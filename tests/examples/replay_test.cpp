@@ -1,5 +1,8 @@
 #include "cli/run.h"
 #include "model/files.h"
+#include "session/commands.h"
+#include "session/files_beside.h"
+#include "support/boards.h"
 #include "support/directories.h"
 
 #include <gtest/gtest.h>
@@ -105,6 +108,18 @@ TEST(ExampleReports, ShowEveryResultWord) {
         " ]  centre not empty1\n", " unordered; hold  \n", " !  retreat HEL\n", " !  disband\n",
         " failed disband\n"}) {
     EXPECT_NE(reports.find(text), std::string::npos) << text;
+  }
+}
+
+/// The names of the example's files follow the order of time.
+TEST(ExampleFiles, BesideAGameAreThoseOfUntilThen) {
+  std::size_t earlier = 0;
+  for (const std::string& name : FileNames(Examples())) {
+    if (!name.ends_with(".orb")) continue;
+    session::Situation situation{model::EmptyGame(RealMap())};
+    model::Consent messages;
+    ASSERT_TRUE(session::ReadGame(situation, Examples() / name, messages));
+    EXPECT_EQ(session::FilesBeside(situation).size(), earlier++) << name;
   }
 }
 
