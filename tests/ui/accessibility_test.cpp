@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
@@ -112,6 +113,16 @@ class AccessibilityTest : public WindowTest {
     Trigger(entry);
   }
 };
+
+TEST_F(AccessibilityTest, APartThatHasGoneIsNone) {
+  const QList<QScrollArea*> areas = window_->findChildren<QScrollArea*>();
+  ASSERT_FALSE(areas.isEmpty());
+  for (QScrollArea* area : areas) {
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(area);
+    ASSERT_TRUE(spoken->childCount() > 0);
+    EXPECT_EQ(spoken->child(spoken->childCount()), nullptr) << area->metaObject()->className();
+  }
+}
 
 TEST_F(AccessibilityTest, EveryControlHasANameAndALetterOfItsOwn) {
   QApplication::clipboard()->setText(QStringLiteral("FRA A Par - Bur"));

@@ -30,6 +30,7 @@
 #include "ui/widgets/icons.h"
 #include "ui/widgets/place_text.h"
 #include "ui/widgets/plain_text.h"
+#include "ui/widgets/scroll_accessibility.h"
 #include "ui/window/edit_menu.h"
 #include "ui/window/file_menu.h"
 #include "ui/window/game_menu.h"
@@ -79,6 +80,7 @@ MainWindow::MainWindow(Start start, const Places& places)
       m_places(places),
       m_memory(places.config) {
   setWindowIcon(programIcon());
+  makeScrollAreasAccessible();
   createPanels();
   m_status = new StatusLine(m_desk, this);
   setStatusBar(m_status);
