@@ -25,18 +25,23 @@ export DISPLAY=":$number"
 
 # await COMMAND...: waits until the command succeeds. xdotool's own waiting can miss an event.
 await() {
-  for _ in $(seq 300); do
+  for _ in $(seq 600); do
     if "$@"; then return; fi
-    sleep 0.2
+    sleep 0.1
   done
   fail "waited in vain: $*"
 }
 
 desktop_is_there() { xdotool get_desktop > /dev/null 2>> "$work/log"; }
 
+# The program's boxes are called as it is, and may be there before its window.
 window_is_there() {
-  window=$(xdotool search --onlyvisible --name '^ORB v' 2>> "$work/log" | head -n 1)
-  [[ -n "$window" ]]
+  for window in $(xdotool search --onlyvisible --name '^ORB v' 2>> "$work/log"); do
+    local height
+    height=$(xdotool getwindowgeometry --shell "$window" 2>> "$work/log" | sed -n 's/^HEIGHT=//p')
+    if ((${height:-0} > 400)); then return; fi
+  done
+  return 1
 }
 
 window_takes_keys() { [[ $(xdotool getactivewindow 2>> "$work/log") == "$window" ]]; }

@@ -22,7 +22,7 @@ def waited(find, what):
             found = None
         if found:
             return found
-        time.sleep(0.2)
+        time.sleep(0.05)
     sys.exit(f"waited in vain: {what}")
 
 
@@ -101,7 +101,7 @@ def resolve(stage):
     def resolved():
         if status_has(f"{stage} resolved: "):
             return True
-        for agreement in ("Yes to All", "Yes"):
+        for agreement in ("Yes to all", "Yes"):
             button = find(program, agreement, *BUTTON)
             if button is not None:
                 act(button)
@@ -130,11 +130,12 @@ move("HEL", "Kie")
 resolve("Moves")
 resolve("Adjustments")
 # The autumn has no file yet. Whoever opens a dialog is answered when it is closed: nobody waits.
-Atspi.set_timeout(2000, 10000)
+Atspi.set_timeout(300, 300)
 try:
     act(find(program, "Save", "menu item"))
 except GLib.GError:
     pass
+Atspi.set_timeout(2000, 10000)
 name = waited(lambda: find(program, "File name:", "text"), "the name of the file")
 name.queryEditableText().setTextContents(sys.argv[1])
 press("Save")

@@ -2,6 +2,7 @@
 
 import pathlib
 import sys
+import time
 
 SKIPPED = 77
 
@@ -54,6 +55,13 @@ class Browser:
 
     def script(self, text, *arguments):
         return self.driver.execute_script(text, *arguments)
+
+    def wait(self, text, what):
+        """Waits until an expression of the page is true."""
+        until = time.time() + 20
+        while not self.script("return " + text):
+            check(time.time() < until, what)
+            time.sleep(0.05)
 
     def complaints(self):
         """What the browser had to say: errors, and what the page's policy forbade."""

@@ -8,7 +8,6 @@ import shutil
 import subprocess
 import sys
 import tempfile
-import time
 
 from browser import Browser, check, check_tree
 
@@ -79,11 +78,11 @@ def check_season_page_at(browser, page, width):
     for motion in (True, False):
         browser.open(page, width, motion=motion)
         browser.script("document.getElementById('play').click()")
+        result = "document.querySelector('.season:not([hidden]) .view.result').checked"
         if motion:
-            time.sleep(1.2)
-            check(browser.script("return document.querySelectorAll('.season:not([hidden]) .unit[transform]').length") > 5, "nothing moves")
-            time.sleep(4)
-        check(browser.script("return document.querySelector('.season:not([hidden]) .view.result').checked"), "no result after playing")
+            browser.wait("document.querySelectorAll('.season:not([hidden]) .unit[transform]').length > 5", "nothing moves")
+            browser.wait(result, "playing does not end")
+        check(browser.script("return " + result), "no result after playing")
         check(browser.script("return document.querySelectorAll('.unit[transform]').length") == 0, "units stay where they were played to")
     check(browser.complaints() == [], f"the browser complains: {browser.complaints()}")
 
@@ -131,11 +130,13 @@ def check_sheet(browser, folder, width, stage):
     # A sheet for all has a chooser; one for a single power has none.
     own = () if width < 600 else ("--power", power)
     orbctl("sheet", *own, "--mail", "gm@example.org", "-o", sheet, EXAMPLES / game)
-    browser.open(sheet, width)
-    browser.script("localStorage.clear(); location.reload()")
-    time.sleep(0.5)
-    if not own:
-        browser.script("const p = document.getElementById('power'); p.value = arguments[0]; p.dispatchEvent(new Event('change'))", power)
+
+    def open_sheet():
+        browser.open(sheet, width)
+        if not own:
+            browser.script("const p = document.getElementById('power'); p.value = arguments[0]; p.dispatchEvent(new Event('change'))", power)
+
+    open_sheet()
     check(browser.script(f"return document.documentElement.scrollWidth <= {width}"), f"the sheet scrolls sideways at {width}")
     for tap in taps:
         if tap.startswith(":"):
@@ -153,12 +154,10 @@ def check_sheet(browser, folder, width, stage):
     check(mail.startswith("mailto:gm@example.org?subject=") and lines[0] in mail, f"the mail is {mail}")
 
     # What was entered is still there when the page is opened again.
-    browser.script("location.reload()")
-    time.sleep(0.5)
-    if not own:
-        browser.script("const p = document.getElementById('power'); p.value = arguments[0]; p.dispatchEvent(new Event('change'))", power)
+    open_sheet()
     check(browser.script("return document.getElementById('result').value") == text, "the sheet forgets")
     check(browser.complaints() == [], f"the browser complains: {browser.complaints()}")
+    browser.script("localStorage.clear()")
 
     # The program reads just these orders, without a word.
     (folder / "pasted.txt").write_text(text)
