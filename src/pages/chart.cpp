@@ -64,6 +64,22 @@ std::string Line(const Chart& chart, const model::Country& country, const std::v
          Text(country.Abbreviation) + "</text></g>\n";
 }
 
+/// The heights of the names at the ends of the lines, with their powers, from the bottom upwards.
+std::vector<std::pair<long, int>> NamePlaces(const Chart& chart, const Rows& rows) {
+  constexpr long distance = 15, highest = Top + 4;
+  std::vector<std::pair<long, int>> names;
+  for (int power = 1; power <= model::CountryCount; ++power)
+    names.emplace_back(chart.Y(CountsOf(rows, power).back()) + 4, power);
+  std::ranges::sort(names, std::greater<>());
+  // They give way upwards, and where the chart ends there, down again.
+  for (std::size_t i = 1; i < names.size(); ++i)
+    names[i].first = std::min(names[i].first, names[i - 1].first - distance);
+  long least = highest;
+  for (std::size_t i = names.size(); i-- > 0; least = names[i].first + distance)
+    names[i].first = std::max(names[i].first, least);
+  return names;
+}
+
 std::string Axes(const Chart& chart, const Rows& rows, int most) {
   std::string axes;
   for (int centres = 0; centres <= most; centres += most > 12 ? 4 : 2) {
@@ -117,17 +133,9 @@ std::string CentresChart(const std::vector<Season>& seasons) {
   for (const history::SeasonCentres& row : rows)
     most = std::max(most, *std::ranges::max_element(row.Centres) + 1);
   const Chart chart(rows.size(), most);
-  // Names at the ends of the lines keep a distance from each other.
-  std::vector<std::pair<long, int>> names;
-  for (int power = 1; power <= model::CountryCount; ++power)
-    names.emplace_back(chart.Y(CountsOf(rows, power).back()) + 4, power);
-  std::ranges::sort(names, std::greater<>());
-  long next = Height;
   std::string lines;
-  for (const auto& [y, power] : names) {
-    next = std::min(y, next - 15);
-    lines.append(Line(chart, countries[power], CountsOf(rows, power), next));
-  }
+  for (const auto& [y, power] : NamePlaces(chart, rows))
+    lines.append(Line(chart, countries[power], CountsOf(rows, power), y));
   return "<section class=\"chart\" aria-labelledby=\"centres\"><h2 id=\"centres\">Centres over the "
          "years</h2>\n<svg class=\"lines\" viewBox=\"0 0 " +
          Number(Width) + " " + Number(Height) +

@@ -1,5 +1,6 @@
 #include "pages/season_page.h"
 
+#include "pages/chart.h"
 #include "pages/markup.h"
 
 #include "adjudication/possible_orders.h"
@@ -18,6 +19,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <random>
+#include <regex>
 #include <string>
 #include <vector>
 
@@ -154,6 +156,26 @@ TEST(SeasonPage, TakesNoTextForMarkupOrScript) {
                           HasSubstr("&lt;img src=x onerror=alert(3)&gt;"),
                           HasSubstr("&#39;&quot;&lt;b&gt;&amp;amp;"),
                           HasSubstr("alert(1)&lt;/script&gt;?\?\u20AC")));
+}
+
+TEST(CentresChart, KeepsTheNamesOfEqualPowersApartAndInside) {
+  Season season;
+  season.End = Board("Autumn", "finished", {});
+  for (const char* centres :
+       {"ENG Lon Edi Lvp Nwy", "FRA Par Bre Mar Spa", "GER Ber Kie Mun Den", "RUS Mos Sev Stp War",
+        "TUR Ank Con Smy Bul", "AUS Vie Bud Tri Ser", "ITA Rom Nap Ven Tun"})
+    Own(season.End, centres);
+  Season next = season;
+  ++next.End.Year;
+  const std::string chart = pages::CentresChart({season, next});
+  std::vector<int> heights;
+  const std::regex name("y=\"(-?\\d+)\">[A-Z]{3}<");
+  for (std::sregex_iterator found(chart.begin(), chart.end(), name), end; found != end; ++found)
+    heights.push_back(std::stoi((*found)[1]));
+  ASSERT_EQ(heights.size(), 7U);
+  EXPECT_GE(heights.back(), 12);
+  for (std::size_t i = 1; i < heights.size(); ++i)
+    EXPECT_GE(heights[i - 1] - heights[i], 15);
 }
 
 TEST(PageMarkup, TextsInJsonCannotEndTheirElement) {
