@@ -1,6 +1,7 @@
 #include "letters/received.h"
 
 #include "model/appending.h"
+#include "model/country.h"
 #include "model/files.h"
 #include "session/commands.h"
 #include "text/encoding.h"
@@ -61,6 +62,17 @@ void TakeLine(std::string_view line, Receipt& receipt) {
   static_cast<void>(isKnown);
 }
 
+/// The power that all of these orders are of; empty: several, or none.
+std::string_view PowerOfAll(const std::vector<std::string>& orders) {
+  if (orders.empty()) return {};
+  const std::string_view power = std::string_view(orders.front()).substr(0, 3);
+  const bool isOfAll =
+      model::FindCountry(power) != 0 && std::ranges::all_of(orders, [&](const std::string& order) {
+        return order.starts_with(power);
+      });
+  return isOfAll ? power : std::string_view();
+}
+
 /// The clock's time where the program runs.
 std::string TimeNow() {
   const std::time_t now = std::time(nullptr);
@@ -111,7 +123,7 @@ std::string FormatReceipt(const Receipt& receipt) {
   std::string entry(Beginning);
   entry.append(OnOneLine(receipt.Time)).append("\n");
   AddField("Stage", receipt.Stage, entry);
-  AddField("Power", receipt.Power, entry);
+  AddField("Power", receipt.Power.empty() ? PowerOfAll(receipt.Filed) : receipt.Power, entry);
   AddField("Source", receipt.Source, entry);
   for (const std::string& order : receipt.Filed)
     AddField("Filed", order, entry);

@@ -26,9 +26,10 @@ namespace orb::letters {
 
 /// A text that came in. All texts are in UTF-8 or Windows-1252.
 struct Receipt {
-  std::string Time;    ///< "2026-11-22 18:03:07"
-  std::string Stage;   ///< "Autumn 1903, moves"
-  std::string Power;   ///< as it was chosen or is named by the text; empty: several, or unknown
+  std::string Time;   ///< "2026-11-22 18:03:07"
+  std::string Stage;  ///< "Autumn 1903, moves"
+  std::string
+      Power;  ///< as it was chosen, else that of all orders filed; empty: several, or unknown
   std::string Source;  ///< who sent it, or which file or clipboard it came from
   std::vector<std::string> Filed;
   std::vector<std::string> NotFiled;  ///< each with the reason

@@ -45,6 +45,24 @@ TEST(Received, TextsOfEitherEncodingStandThereInOne) {
             "== t\nSource: J\xC3\xB6rg == 2\n| z\xC3\xBCge\n| A B\n\n");
 }
 
+TEST(Received, ThePowerOfAllThatWasFiledIsTold) {
+  struct PowerCase {
+    std::string Chosen;
+    std::vector<std::string> Filed;
+    std::string Told;
+  };
+  for (const auto& [chosen, filed, told] :
+       {PowerCase{"", {"FRA A(Par) - Bur", "FRA F(Bre) hold"}, "Power: FRA\n"},
+        PowerCase{"GER", {"FRA A(Par) - Bur"}, "Power: GER\n"},
+        PowerCase{"", {"FRA A(Par) - Bur", "GER A(Mun) hold"}, ""},
+        PowerCase{"", {"syntax"}, ""}}) {
+    std::string entry = "== t\n" + told;
+    for (const std::string& order : filed)
+      entry.append("Filed: ").append(order).append("\n");
+    EXPECT_EQ(letters::FormatReceipt({"t", "", chosen, "", filed, {}, ""}), entry + "\n");
+  }
+}
+
 TEST(Received, WhatBecameOfEachLineIsTold) {
   const model::GameState game =
       Board("Spring", "moves", {"FRA A(Par)", "FRA A(Mar)", "FRA F(Bre)"});
