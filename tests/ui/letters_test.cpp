@@ -78,6 +78,9 @@ TEST_F(LettersTest, AreCopiedMailedAndSavedWithTheirMaps) {
          // The next dialog comes up over this one.
          QTimer::singleShot(0, &dialog, [&dialog] {
            Press(dialog, "butLetterSave");
+           EXPECT_THAT(
+               dialog.findChild<QLabel*>(QStringLiteral("lblLetterNote"))->text().toStdString(),
+               HasSubstr("The letters are in "));
            dialog.reject();
          });
        },

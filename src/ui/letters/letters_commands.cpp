@@ -77,13 +77,14 @@ void LettersCommands::showLetters() {
         all, names,
         [this](const letters::Letter& letter, int width) { return mapOf(letter, width); },
         m_window);
-    connect(&dialog, &LettersDialog::savingWanted, this, [&] { saveLetters(all, &dialog); });
+    connect(&dialog, &LettersDialog::savingWanted, this, [&] { saveLetters(all, dialog); });
     dialog.exec();
   });
 }
 
-void LettersCommands::saveLetters(const std::vector<letters::Letter>& letters, QWidget* over) {
-  const auto folder = askFolder(over, tr(" Letters"), m_desk);
+void LettersCommands::saveLetters(const std::vector<letters::Letter>& letters,
+                                  LettersDialog& dialog) {
+  const auto folder = askFolder(&dialog, tr(" Letters"), m_desk);
   if (!folder) return;
   attempt(m_messages, [&] {
     const auto fileOf = [&](const letters::Letter& letter, std::string_view extension) {
@@ -107,7 +108,9 @@ void LettersCommands::saveLetters(const std::vector<letters::Letter>& letters, Q
           render::MapBytes(m_desk.game(), options, m_desk.dataDirectory(), SavedMapWidth,
                            m_pictures, render::MapFormat::Png, letter.Orders));
     }
-    emit noted(tr("The letters are in %1.").arg(displayPath(folder->string())));
+    const QString note = tr("The letters are in %1.").arg(displayPath(folder->string()));
+    dialog.setNote(note);
+    emit noted(note);
   });
 }
 

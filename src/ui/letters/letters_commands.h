@@ -12,6 +12,8 @@
 
 namespace orb::ui {
 
+class LettersDialog;
+
 /// The commands on what goes out to the players and has come in from them.
 class LettersCommands : public QObject {
   Q_OBJECT
@@ -33,7 +35,7 @@ class LettersCommands : public QObject {
 
  private:
   QImage mapOf(const letters::Letter& letter, int width);
-  void saveLetters(const std::vector<letters::Letter>& letters, QWidget* over);
+  void saveLetters(const std::vector<letters::Letter>& letters, LettersDialog& dialog);
 
   Desk& m_desk;
   model::Messages& m_messages;

@@ -30,6 +30,9 @@ class LettersDialog : public QDialog {
   /// What opens a link, the system's mail program unless set; false when it cannot.
   void setOpener(std::function<bool(const QUrl&)> open) { m_open = std::move(open); }
 
+  /// Says what came of something, below the letters.
+  void setNote(const QString& note) { m_note->setText(note); }
+
  signals:
   /// All letters are to be saved.
   void savingWanted();
