@@ -95,6 +95,9 @@ TEST_F(WindowTest, PastedOrdersOfAnotherPowerAreFiledOnlyWhenTicked) {
   const auto accept = [](QDialog& /*dialog*/) { Press(Qt::Key_Return); };
   const auto tick = [](QDialog& dialog) {
     const Preview preview(dialog);
+    preview.Choose("All powers");
+    EXPECT_TRUE(preview.IsTaken(3));
+    preview.Choose("France");
     preview.Select(3);
     Press(Qt::Key_Space);
     EXPECT_TRUE(preview.IsTaken(3));

@@ -125,6 +125,7 @@ QLayout* ExchangeDialog::newPowerRow(const model::GameState& game,
     m_power->addItem(powerIcon(game.Countries, row), powerName(game.Countries, row),
                      QByteArray::fromStdString(game.Countries[row].Abbreviation));
   }
+  m_power->addItem(tr("All powers"), QByteArray());
   // The mail itself mostly says whose orders it has.
   const QByteArray named = QByteArray::fromStdString(m_model.powerOfText());
   m_power->setCurrentIndex(named.isEmpty() ? -1 : m_power->findData(named));
@@ -150,7 +151,8 @@ void ExchangeDialog::offerSender(const std::vector<session::MailHead>& mails) {
     m_sender = address;
   }
   if (m_sender.isEmpty()) return;
-  const int remembered = m_power->findData(m_senders.power(m_sender));
+  const QByteArray power = m_senders.power(m_sender);
+  const int remembered = power.isEmpty() ? -1 : m_power->findData(power);
   // An ampersand would mark a key.
   QString shown = m_sender;
   shown.replace(QLatin1Char('&'), QStringLiteral("&&"));
