@@ -18,7 +18,7 @@ namespace {
 using model::GameState;
 
 constexpr double HaloWidth = 1.3;
-constexpr double HaloOnBox = 0.7;  ///< there is little room between the letters and the box
+constexpr double HaloOnBox = 1.1;  ///< there is little room between the letters and the box
 constexpr double BlotMargin = 10;  ///< beside a label that is hidden, in twips
 constexpr double BoxWidth = 2;
 constexpr double BoxEdge = 0.5;    ///< to either side of a box's outline
@@ -126,14 +126,13 @@ void DrawLabel(Surface& surface, const GameState& game, const settings::MapOptio
   const std::string_view label = LabelText(game.Map->Provinces[row]);
   const Point corner = LabelCorner(surface, game.Map->Provinces[row]);
   PrintAt(surface, corner, label);
-  if (HasBox(game, options, row)) {
-    DrawOwnerBox(surface, game, options, row);
-    // The box runs through the lower parts of letters such as y.
-    surface.HaloWidth = HaloOnBox;
-    PrintAt(surface, corner, label);
-    surface.HaloWidth = HaloWidth;
-  }
+  if (!HasBox(game, options, row)) return DrawDot(surface, game, row);
+  DrawOwnerBox(surface, game, options, row);
   DrawDot(surface, game, row);
+  // The box and the dot run through the lower parts of letters such as p and y.
+  surface.HaloWidth = HaloOnBox;
+  PrintAt(surface, corner, label);
+  surface.HaloWidth = HaloWidth;
 }
 
 void DrawLabelAgain(Surface& surface, const GameState& game, const settings::MapOptions& options,

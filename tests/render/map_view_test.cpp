@@ -104,7 +104,8 @@ TEST(MapView, OnlyOwnedCentresHaveABoxOrAShield) {
   Own(game, "FRA Par Bur Spa.n");
   Own(game, "fra Tun");
   for (const MapMode mode : AllModes) {
-    const auto boxes = Drawn(game, {mode, false, true, false}).All("box");
+    const Drawn surface(game, {mode, false, true, false});
+    const auto boxes = surface.All("box");
     ASSERT_EQ(boxes.size(), 2U) << "the box and its edge";
     const bool inColour = settings::InColour(mode);
     const Stroke& box = boxes[inColour ? 1 : 0];
@@ -117,6 +118,10 @@ TEST(MapView, OnlyOwnedCentresHaveABoxOrAShield) {
     const Stroke& edge = boxes[inColour ? 0 : 1];
     EXPECT_EQ(edge.Fore, render::Black);
     EXPECT_GT(edge.Pen, box.Pen) << "seen beside the box, or all over it";
+    auto last = surface.Strokes.rbegin();
+    while (last->Kind != "text" || last->Text != "Par")
+      ++last;
+    EXPECT_TRUE((last + 1)->Kind == "circle" && last->Halo > 1) << "over the box and the dot";
   }
   const auto shields = Drawn(game, {MapMode::Colour, false, false, true}).All("polygon");
   ASSERT_EQ(shields.size(), 1U);
