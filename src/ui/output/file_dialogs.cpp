@@ -13,8 +13,10 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QMimeData>
 #include <QPushButton>
+#include <QTreeView>
 #include <QUrl>
 
 #include <algorithm>
@@ -32,6 +34,11 @@ void setUp(QFileDialog& dialog, const QString& title, const QStringList& filters
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setWindowTitle(text::ToQString(model::ProgramName) + title);
   dialog.setNameFilters(filters);
+  if (auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"))) {
+    // All are of one type; when they were written tells them apart.
+    files->header()->hideSection(2);
+    files->header()->setStretchLastSection(true);
+  }
   if (!desk.folder().empty()) dialog.setDirectory(displayPath(desk.folder().string()));
   offerHelp(dialog, QObject::tr("Files"));
 }
