@@ -122,7 +122,7 @@ bool BearsAt(Tokens words, std::size_t at, const PlaceNames& names) {
     return IsDoubtfulSign(token) || IsA(token, TokenKind::Dash) || IsA(token, TokenKind::Colon) ||
            IsA(token, TokenKind::Slash);
   }
-  constexpr unsigned hints = static_cast<unsigned>(Signal::Hints);
+  constexpr auto hints = static_cast<unsigned>(Signal::Hints);
   if ((token.Means.Signals & ~hints) != 0) return true;
   if (HasUse(token, WordUse::Condition, WordUse::SetsAside, WordUse::Aside, WordUse::Report))
     return true;

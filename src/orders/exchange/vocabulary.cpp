@@ -242,7 +242,7 @@ WordMeaning FindMeaning(std::string_view word) {
   meaning.Signals = SignalsOf(word);
   meaning.Sayings = SayingsBeginningWith(word);
   meaning.BeginsPower = MayBeginPower(word);
-  constexpr unsigned hints = static_cast<unsigned>(Signal::Hints);
+  constexpr auto hints = static_cast<unsigned>(Signal::Hints);
   const bool says = meaning.Has(WordUse::Condition) || meaning.Has(WordUse::Aside) ||
                     meaning.Has(WordUse::SetsAside) || meaning.Has(WordUse::Elsewhere) ||
                     meaning.Has(WordUse::Reservation) || meaning.Has(WordUse::Report) ||
