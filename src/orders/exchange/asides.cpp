@@ -250,8 +250,11 @@ std::optional<TokenRange> ReadReservation(Tokens line, bool isBehindOrders) {
     return TokenRange{0, line.size()};
   if (word == line.end()) return std::nullopt;
   if (!HasUse(*word, WordUse::Reservation)) return std::nullopt;
-  // "But" begins many a new paragraph.
-  if (!isBehindOrders && !HasUse(*word, WordUse::Condition)) return std::nullopt;
+  // "But" begins many a new paragraph; "or Pic" does not.
+  constexpr std::ptrdiff_t few = 3;
+  const bool isBrief =
+      std::ranges::count(line, TokenKind::Word, &Token::Kind) <= few && !IsColon(line.back());
+  if (!isBehindOrders && !isBrief && !HasUse(*word, WordUse::Condition)) return std::nullopt;
   const auto at = static_cast<std::size_t>(word - line.begin());
   return TokenRange{at, line.size()};
 }

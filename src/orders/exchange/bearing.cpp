@@ -129,6 +129,19 @@ bool IsOfSome(Tokens words) {
          std::ranges::none_of(words, IsNumber);
 }
 
+/// "Old", "gammel", "was": of another season, where it is nearly all that is said.
+bool AreOld(Tokens words, std::ptrdiff_t count) {
+  constexpr std::array<std::string_view, 30> old{
+      "old",      "alt",      "alte",    "ancien",    "anciens",  "ancienne", "antiguo", "antigua",
+      "antiguos", "antiguas", "viejo",   "vecchio",   "vecchi",   "vecchia",  "antigo",  "antigos",
+      "antigas",  "velho",    "oud",     "oude",      "gammel",   "gamle",    "gammal",  "gamla",
+      "stare",    "stary",    "gestern", "yesterday", "gisteren", "wczoraj"};
+  constexpr std::ptrdiff_t few = 3;
+  return count <= few &&
+         (std::ranges::any_of(words, [&](const auto& token) { return IsOneOf(token, old); }) ||
+          (count == 1 && IsWord(words[0], "was")));
+}
+
 /// "My brother's orders".
 bool AreSomebodys(Tokens words) {
   constexpr std::array<std::string_view, 13> contracted{"it",    "that",  "here", "he",  "she",
@@ -198,7 +211,7 @@ bool BearsOnOrders(Tokens sentence, Unplaced unit) {
   if (signals.Has(Signal::Says) && (signals.Has(Signal::Denies) || count < few)) return true;
   if (signals.Has(Signal::Plans) && signals.Has(Signal::Hints, Signal::Points)) return true;
   if (CountsLines(sentence) || NamesLine(sentence)) return true;
-  if (count < brief && AreSomebodys(sentence)) return true;
+  if ((count < brief && AreSomebodys(sentence)) || AreOld(sentence, count)) return true;
   const bool isOfUnit =
       unit == Unplaced::Bears && std::ranges::any_of(sentence, [](const Token& token) {
         return UnitTypeOf(token) != 0 && token.Text.size() > 1;

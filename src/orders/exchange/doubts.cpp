@@ -2,6 +2,7 @@
 
 #include "orders/exchange/harmless_words.h"
 #include "orders/exchange/power_names.h"
+#include "orders/exchange/sayings.h"
 #include "orders/exchange/second_thoughts.h"
 #include "text/utf8.h"
 
@@ -71,7 +72,8 @@ class OwnWords {
 
 /// Whether "(not Bur)" excludes a place that the order does not speak of.
 bool ExcludesOther(Tokens remark, const OwnWords& own, const PlaceNames& names) {
-  if (ExcludedPlace(remark, names) == 0) return false;
+  if (ExcludedPlace(remark, names) == 0 || std::ranges::any_of(remark, IsDoubtfulSign))
+    return false;
   for (std::size_t at = 1; at < remark.size(); ++at) {
     if (!names.At(remark, at).empty()) return own.Repeated(remark, at) == 0;
   }
@@ -127,6 +129,10 @@ bool IsDoubtfulSign(const Token& token) {
 std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceNames& names, int power,
                                     EverydayWords everyday) {
   if (IsOutcome(remark)) return TokenRange{0, remark.size()};
+  // "For now", "will confirm": words that are harmless each.
+  if (!FindSaying(remark, Saying::Chats)) {
+    if (const auto said = FindSaying(remark, Saying::Postpones)) return said;
+  }
   if (IsReason(remark, names)) return std::nullopt;
   const auto has = [&](WordUse use) {
     return std::ranges::any_of(remark, [&](const Token& token) { return HasUse(token, use); });

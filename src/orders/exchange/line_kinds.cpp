@@ -377,21 +377,19 @@ bool IsNoOrder(Tokens tokens, const PlaceNames& names, bool inSignature) {
   return orders + places < Strong || (inSignature && orders == 0);
 }
 
-bool EndsLetter(std::string_view line) {
-  constexpr std::size_t shortest = 3;
-  return line == "--" ||
-         (line.size() >= shortest && line.find_first_not_of('_') == std::string_view::npos);
-}
-
-bool IsInQuotes(std::string_view line) {
-  return line.size() > 2 && line.front() == '"' && line.back() == '"';
-}
-
 bool IsPlaceAlone(Tokens line, const PlaceNames& names) {
   if (line.empty()) return false;
   const auto places = names.At(line, 0);
   // Several places have the name that some people have as well: "Noa".
   return !places.empty() && places[0].Next == line.size() && places[0].Rows.size() == 1;
+}
+
+bool IsOtherPlace(Tokens line, const PlaceNames& names) {
+  constexpr std::array<std::string_view, 10> either{"or",  "oder",  "ou",  "o",    "of",
+                                                    "czy", "eller", "lub", "albo", "tai"};
+  while (!line.empty() && !IsWordToken(line.back()) && !IsColonToken(line.back()))
+    line = line.first(line.size() - 1);
+  return line.size() > 1 && IsOneOf(line[0], either) && IsPlaceAlone(line.subspan(1), names);
 }
 
 }  // namespace orb::exchange

@@ -53,13 +53,10 @@ bool HoldsOrderWords(Tokens tokens, const PlaceNames& names);
 /// hardly any, that orders are made of. `inSignature`: places alone make no order there.
 bool IsNoOrder(Tokens tokens, const PlaceNames& names, bool inSignature);
 
-/// Whether a line parts a letter from its writer's signature: "--", in forums "_____".
-bool EndsLetter(std::string_view line);
-
-/// Whether a line is a saying in quotation marks.
-bool IsInQuotes(std::string_view line);
-
 /// Whether a line is the name of one place, which puts the order above right: "*nwg".
 bool IsPlaceAlone(Tokens line, const PlaceNames& names);
+
+/// Whether a line offers one other place, and no more: "or Picardy".
+bool IsOtherPlace(Tokens line, const PlaceNames& names);
 
 }  // namespace orb::exchange

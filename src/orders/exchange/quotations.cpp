@@ -160,4 +160,14 @@ void Quotations::FollowHeads(std::string_view line, Tokens tokens) {
   if (labels_ == 0 && !isHead && !tokens.empty()) hasText_ = true;
 }
 
+bool EndsLetter(std::string_view line) {
+  constexpr std::size_t shortest = 3;
+  return line == "--" ||
+         (line.size() >= shortest && line.find_first_not_of('_') == std::string_view::npos);
+}
+
+bool IsInQuotes(std::string_view line) {
+  return line.size() > 2 && line.front() == '"' && line.back() == '"';
+}
+
 }  // namespace orb::exchange

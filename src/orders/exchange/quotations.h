@@ -47,4 +47,10 @@ class Quotations {
   int depth_ = 0;            ///< of blocks
 };
 
+/// Whether a line parts a letter from its writer's signature: "--", in forums "_____".
+bool EndsLetter(std::string_view line);
+
+/// Whether a line is a saying in quotation marks.
+bool IsInQuotes(std::string_view line);
+
 }  // namespace orb::exchange

@@ -219,7 +219,8 @@ class TextReader {
       return rows_.Around.SetAbout({});
     }
     if (!isBehindOrders && SpeaksOfElse(line.All, known_.Names)) return rows_.Around.SetAbout({});
-    if (const auto aside = ReadAside(line.All, known_.Names)) return SetAside(line, *aside, first);
+    const auto aside = ReadAside(line.All, known_.Names);
+    if (aside) return SetAside(line, *aside, first, isBehindOrders);
     if (const auto at = FindBearing(line.All, known_.Names)) {
       const Concern concern = ConcernOf(line.All, known_.Names, *known_.Game.Map);
       rows_.Around.DoubtAbove(Quoted(line.Part(*at)) + " may change it", line.Span(*at), concern,
@@ -235,7 +236,7 @@ class TextReader {
       rows_.Around.DoubtBlock(Quoted(said) + " may change it", {line.Offset, line.Bytes.size()});
     } else if (const auto at = ReadReservation(line.All, isBehindOrders)) {
       rows_.Around.DoubtBlock(Quoted(line.Part(*at)) + " may change it", line.Span(*at));
-    } else if (IsSignOfDoubt(line.Plain.Text) ||
+    } else if (IsSignOfDoubt(line.Plain.Text) || IsOtherPlace(said, known_.Names) ||
                (isBehindOrders && !IsA(line.All[0], TokenKind::Dash) &&
                 IsPlaceAlone(said, known_.Names))) {
       rows_.Around.DoubtBlock(Quoted(line.All) + " may change it",
@@ -265,13 +266,15 @@ class TextReader {
     const auto order =
         std::find_if(rows_.Lines.begin() + static_cast<std::ptrdiff_t>(first), rows_.Lines.end(),
                      [](const ReadLine& row) { return exchange::IsUnderstood(row); });
-    if (holdsOrders && order != rows_.Lines.end()) {
+    if (holdsOrders && isHeading_) {
+      isHeading_ = false;
+    } else if (holdsOrders && order != rows_.Lines.end()) {
       rows_.Around.SetAmends(static_cast<std::size_t>(order - rows_.Lines.begin()),
                              thoughts_->Reason, thoughts_->At);
     } else if (!isApology_) {
       rows_.Around.DoubtBlock(thoughts_->Reason, thoughts_->At);
     }
-    isApology_ = false;
+    isApology_ = isHeading_ = false;
     thoughts_.reset();
   }
 
@@ -288,28 +291,27 @@ class TextReader {
 
   void LookAtSubject(const SourceLine& line, std::size_t first) {
     const auto at = IsSubject(line.All) ? ReadDraftSubject(line.All) : std::nullopt;
-    if (at) SetAside(line, {AsideScope::Below, *at}, first);
+    if (at) SetAside(line, {AsideScope::Below, *at}, first, false);
   }
 
-  void SetAside(const SourceLine& line, const Aside& aside, std::size_t first) {
+  void SetAside(const SourceLine& line, const Aside& aside, std::size_t first,
+                bool isBehindOrders) {
     const std::string power = context_.Power != 0 ? PowerText(context_.Power) : known_.OnlyPower();
     const std::size_t start = speakers_.Past(line.All, PastLineStart(line.All), known_.Names);
     if (IsUnclear(rows_.Lines.back()) &&
         BeginsWithUnit(Tokens(line.All).subspan(start), power, known_)) {
       return;
     }
-    // Its words alone are no reason to show it: the orders that it sets aside are shown.
-    std::vector<Token> rest(line.All.begin(), line.All.end());
-    rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(aside.At.Begin),
-               rest.begin() + static_cast<std::ptrdiff_t>(aside.At.End));
-    std::erase_if(rest, [](const Token& token) { return HasUse(token, WordUse::Condition); });
-    const bool isTitle = IsA(line.All.back(), TokenKind::Colon) &&
-                         std::ranges::find(rest, TokenKind::Dash, &Token::Kind) == rest.end();
-    if (isTitle || IsNoOrder(rest, known_.Names, inSignature_)) rows_.PassOver(first);
+    rows_.PassOverAside(line, aside.At, first, inSignature_);
     const Concern concern = ConcernOf(line.All, known_.Names, *known_.Game.Map);
     rows_.Around.SetAside(aside.Scope, Quoted(line.Part(aside.At)) + " sets it aside",
                           line.Span(aside.At), context_.Power, concern, rows_.Lines, first);
     if (aside.Scope == AsideScope::Above) LeadToIfAsked(line);
+    // "Next turn" right below orders may be of them, where it is no heading of others.
+    const bool isOpen = aside.Scope == AsideScope::Below && !IsA(line.All.back(), TokenKind::Colon);
+    if (!isOpen || !isBehindOrders) return;
+    thoughts_ = Misgiving{Quoted(line.Part(aside.At)) + " may change it", line.Span(aside.At)};
+    isHeading_ = true;
   }
 
   /// "What do you think of this?" above the first orders asks about those below it.
@@ -361,6 +363,7 @@ class TextReader {
   bool isMailHead_ = false;
   std::optional<Misgiving> thoughts_;  ///< second thoughts right above
   bool isApology_ = false;             ///< they may be no more than one for being late
+  bool isHeading_ = false;             ///< they may be a heading as well
   bool isTitle_ = false;               ///< of words known to be those of headings
   Quotations quotations_;
   StruckLines struck_;

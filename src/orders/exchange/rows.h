@@ -72,6 +72,10 @@ class Rows {
   /// The rows from one on surely are no orders.
   void PassOver(std::size_t first);
 
+  /// So are those of a line that says nothing but what it sets aside by the words `at`: it is the
+  /// orders set aside that are shown.
+  void PassOverAside(const SourceLine& line, TokenRange at, std::size_t first, bool inSignature);
+
   std::vector<ReadLine> Lines;
   SurroundingsOfLines Around;
 

@@ -92,6 +92,17 @@ bool SignsOff(Tokens line, TokenRange at, const PlaceNames& names) {
 
 }  // namespace
 
+void Rows::PassOverAside(const SourceLine& line, TokenRange at, std::size_t first,
+                         bool inSignature) {
+  std::vector<Token> rest(line.All.begin(), line.All.end());
+  rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(at.Begin),
+             rest.begin() + static_cast<std::ptrdiff_t>(at.End));
+  std::erase_if(rest, [](const Token& token) { return HasUse(token, WordUse::Condition); });
+  const bool isTitle = IsA(line.All.back(), TokenKind::Colon) &&
+                       std::ranges::find(rest, TokenKind::Dash, &Token::Kind) == rest.end();
+  if (isTitle || IsNoOrder(rest, known_.Names, inSignature)) PassOver(first);
+}
+
 bool Rows::ApologizesApart(const SourceLine& line, std::size_t first) const {
   const bool isApart = first > 0 && Lines[first - 1].Place.Length == 0;
   return isApart && std::ranges::all_of(line.All, [](const Token& token) {
@@ -102,6 +113,9 @@ bool Rows::ApologizesApart(const SourceLine& line, std::size_t first) const {
 bool Rows::MayBeOfAbove(const SourceLine& line, std::size_t first, bool isBehindOrders) const {
   constexpr std::size_t few = 4;
   const bool isBrief = line.All.size() <= few && !ApologizesApart(line, first);
+  // "Rather Pic", in a paragraph of its own as well.
+  const bool isTitle = IsA(line.All.back(), TokenKind::Colon);
+  if (isBrief && !isTitle && NamesPlace(line.All, known_.Names)) return true;
   // Units name themselves in other stages.
   const bool isBuild = known_.Stage == model::Stage::Adjustments;
   return (isBuild && (isBrief || IsUnclear(Lines.back()))) ||

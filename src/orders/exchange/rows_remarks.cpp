@@ -39,6 +39,7 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
     const Tokens remark = line.Part(said.At);
     const bool isGreeting = remark.size() <= LongestGreeting &&
                             HasUse(remark[0], WordUse::Greeting) && remark.back().Text != "?" &&
+                            !NamesPlace(remark, known_.Names) &&
                             !ReadAside(remark, known_.Names).has_value();
     if (FindSaying(remark, Saying::Excludes) && Exclude(line, said)) continue;
     if (const int place = ExcludedPlace(remark, known_.Names); place != 0) AmendBefore(said, place);

@@ -63,7 +63,7 @@ constexpr std::array SayingTable{
                   "esquece|esquecam|esqueca|esquecer|a brincar|brincadeira|brincando|ignorem|"
                   "nao vale|nao valem|ja nao|vergeet|negeer|grapje|geintje|trek in|ingetrokken|"
                   "geldt niet|gelden niet|vervalt|vervallen|annuleer|glem|glom|for sjov|"
-                  "for spog|for moro|bare tull|tuller|tulla|tullet|skojar|skojade|skamtar|"
+                  "for spog|for moro|bare tull|tuller|tulla|tullet|skojar|skojade|skamt|skamtar|"
                   "skamtade|pa skamt|se bort fra|bortse fran|bortse fra|annuller*|annullera*|"
                   "strunta i|galler inte|gjelder ikke|gaelder ikke|galder ikke|ignorera|ignorer|"
                   "zapomnij*|zignoruj*|ignoruj*|anuluj*|zartowalem|zartowalam|zartuje|to zart|"
@@ -72,7 +72,16 @@ constexpr std::array SayingTable{
                   "otmen*|xechna|ksechna|plaka kano|astei*"},
     SayingPhrases{
         Saying::Postpones,
-        "ideal world|perfect world|50 / 50|fifty fifty|in theory|ideally|one day|some "
+        "ideal world|perfect world|50 / 50|50:50|50 : 50|hold on this|hold on these|=his idea|=her "
+        "idea|"
+        "=their idea|if possible|if still possible|wenn moglich|falls moglich|si possible|"
+        "si es posible|se possibile|se possivel|indien mogelijk|hvis muligt|hvis mulig|om mojligt|"
+        "jesli sie da|wird noch bestatigt|frag mich|om inte jag|contre ordre|contrordre|"
+        "tegenbericht|gegenbefehl|contre - ordre|ya veremos|veremos|=vediamo|poi vediamo|on "
+        "verra|=a voir|mal "
+        "sehen|"
+        "we zien wel|vi far se|zobaczymy|vamos ver|logo se ve|we shall see|fifty fifty|in "
+        "theory|ideally|one day|some "
         "day|eventually|"
         "in my dreams|well see|who knows|in this order|in order of|as far "
         "as|preference|preferences|kann sich noch andern|konnte sich noch andern|andert sich "
@@ -254,7 +263,8 @@ constexpr std::array SayingTable{
         "ejemplo|resultados|borrador|turno precedente|turno scorso|prossimo turno|"
         "proposta|esempio|risultati|bozza|turno passado|exemplo|rascunho|vorige beurt|"
         "volgende beurt|voorstel|oude orders|voorbeeld|uitslag|sidste tur|forrige tur|"
-        "naste tur|neste runde|nasta runda|forra rundan|forslag|udkast|utkast|eksempel|"
+        "naste tur|nasta tur|nasta drag|neste runde|nasta runda|forra "
+        "rundan|forslag|udkast|utkast|eksempel|"
         "exempel|gamle ordrer|gamle ordre|gamla order|resultater|resultat|propozycja|"
         "szkic|przyklad|wyniki|poprzednia tura|nastepna tura|stare rozkazy|luonnos|"
         "ehdotus|esimerkki|javaslat|tervezet|pelda|navrh|priklad|chernovik|primer"},

@@ -68,8 +68,11 @@ bool IsOfOthers(Tokens sentence, const PlaceNames& names, int power) {
 bool Speaks(Tokens sentence, const PlaceNames& names, int power) {
   // More words than these are a thought of their own: "sorry, I was at football".
   constexpr std::size_t few = 4;
-  const bool reconsiders =
-      sentence.size() <= few && Reconsiders(sentence) && !HoldsOrderWords(sentence, names);
+  const bool isBrief = sentence.size() <= few;
+  const bool reconsiders = isBrief && Reconsiders(sentence) && !HoldsOrderWords(sentence, names);
+  // "Rather Picardy", "or Picardy".
+  const bool namesOther = Reconsiders(sentence) && NamesPlace(sentence, names);
+  if (isBrief && (namesOther || IsOtherPlace(sentence, names))) return true;
   if (TellsOfNothing(sentence) && !BearsOnOrders(sentence)) return false;
   if (IsOfOthers(sentence, names, power) || SpeaksOfElse(sentence, names)) return false;
   const bool isOfUnit = HoldsOrderWords(sentence, names) && NamesPlace(sentence, names);
@@ -77,7 +80,6 @@ bool Speaks(Tokens sentence, const PlaceNames& names, int power) {
   if (IsOffer(sentence) && !HoldsOrderWords(sentence, names) && !ReadAside(sentence, names))
     return false;
   // "Yesterday." alone speaks of the order, among others of something else.
-  const bool isBrief = sentence.size() <= few;
   return ReadAside(sentence, names) || reconsiders ||
          std::ranges::any_of(sentence, [&](const Token& token) {
            return IsDoubtfulSign(token) ||

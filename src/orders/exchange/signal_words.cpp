@@ -88,6 +88,10 @@ constexpr std::array SignalRows{
         "snart jutro potem najpierw"},
     SignalRow{
         Signal::Rejects,
+        "decoy ignorar* anulad* contraorden annullat* contrordine cancelad* provisori* contraordem "
+        "geannuleerd annuleer* negeer* negeren voorlopig annuller* bekraftes bekreftes medmindre "
+        "forelobig* installt bekraftas preliminar* niepewn* tymczasow* anulowan* zart zarty zartem "
+        "blague blagues scherz scherze provisoire* "
         "wrong care mistaken error typo typos void invalid outdated obsolete nonsense rubbish "
         "garbage "
         "bogus fake doubt doubts doubtful hardly scarcely opposite contrary inverse forbid* "
