@@ -26,6 +26,7 @@
 #include <string>
 #include <string_view>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -109,6 +110,10 @@ TEST_F(WindowTest, OpenBeginsWithTheFilterOfTheLastFileAndMayBeForReadingOnly) {
   open("Data files: *.dat", "game.txt", false);
   open("All files: *.*", "a.dat.ORB", true);
   open("Concordat files: *.orb", "game", false);
+  const auto kept = directory_.Write("kept.orb", game);
+  std::filesystem::permissions(kept, std::filesystem::perms::owner_read);
+  Open(kept);
+  EXPECT_EQ(Find<QLabel>("lblReadOnly").isVisible(), ::geteuid() != 0) << "root writes everywhere";
 }
 
 TEST_F(WindowTest, SaveAsksProposesAndLowersTheName) {

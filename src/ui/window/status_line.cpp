@@ -3,6 +3,8 @@
 #include "ui/output/file_dialogs.h"
 #include "ui/widgets/controls.h"
 
+#include <QFileInfo>
+
 namespace orb::ui {
 
 StatusLine::StatusLine(const Desk& desk, QWidget* parent)
@@ -16,7 +18,6 @@ StatusLine::StatusLine(const Desk& desk, QWidget* parent)
   m_text->setObjectName(QStringLiteral("lblStatus"));
   m_rules->setObjectName(QStringLiteral("lblRules"));
   m_readOnly->setObjectName(QStringLiteral("lblReadOnly"));
-  m_readOnly->setToolTip(tr("The game was opened for reading only: Save as keeps it elsewhere."));
   m_file->setObjectName(QStringLiteral("lblFileName"));
   m_file->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   for (QLabel* label :
@@ -41,7 +42,13 @@ void StatusLine::showGame() {
   const bool usual = m_desk.now().Rules == session::Rules::Usual;
   m_rules->setText(usual ? tr("By the usual rules") : QString());
   m_rules->setVisible(usual);
-  m_readOnly->setVisible(!session::CanSave(m_desk.now()));
+  const QFileInfo written(file);
+  const bool canSave = session::CanSave(m_desk.now());
+  const bool canWrite = !written.exists() || written.isWritable();
+  m_readOnly->setToolTip(
+      canSave ? tr("The file is protected from being written: Save as keeps the game elsewhere.")
+              : tr("The game was opened for reading only: Save as keeps it elsewhere."));
+  m_readOnly->setVisible(!canSave || !canWrite);
 }
 
 }  // namespace orb::ui
