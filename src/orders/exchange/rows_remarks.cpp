@@ -41,7 +41,13 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
                             HasUse(remark[0], WordUse::Greeting) && remark.back().Text != "?" &&
                             !NamesPlace(remark, known_.Names) &&
                             !ReadAside(remark, known_.Names).has_value();
-    if (FindSaying(remark, Saying::Excludes) && Exclude(line, said)) continue;
+    // "No A Par - Bur", but not "No, A Par - Bur".
+    constexpr std::array<std::string_view, 8> answers{"no",  "non", "nao",  "nej",
+                                                      "nei", "nie", "nein", "nee"};
+    const bool isAnswer =
+        !IsA(remark.back(), TokenKind::Word) &&
+        std::ranges::any_of(remark, [&](const Token& token) { return IsOneOf(token, answers); });
+    if (!isAnswer && FindSaying(remark, Saying::Excludes) && Exclude(line, said)) continue;
     if (const int place = ExcludedPlace(remark, known_.Names); place != 0) AmendBefore(said, place);
     const auto next = std::ranges::find_if(
         understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });

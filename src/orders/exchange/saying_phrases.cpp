@@ -345,7 +345,8 @@ constexpr std::array SayingTable{
         "ingen spog|ikke for sjov|inget skamt|bez zartow"},
     SayingPhrases{
         Saying::Excludes,
-        "=not|=nicht|=pas|=niet|=ikke|=inte|=instead of|=rather than|=statt|=anstatt|=anstelle von|"
+        "=no|=non|=nao|=nej|=nei|=nie|=nein|=nee|=not|=nicht|=pas|=niet|=ikke|=inte|=instead "
+        "of|=rather than|=statt|=anstatt|=anstelle von|"
         "=au lieu de|=plutot que|=en lugar de|=en vez de|=invece di|=invece che|=em vez de|"
         "=em lugar de|=in plaats van|=i stedet for|=istallet for|=i stallet for|=zamiast|=a nie|"
         "=misto|=helyett|=eika"},
