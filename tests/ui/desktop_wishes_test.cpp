@@ -1,10 +1,13 @@
 #include "ui/widgets/desktop_wishes.h"
 
 #include "ui/widgets/edged_style.h"
+#include "ui/widgets/notice_banner.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QImage>
 #include <QRadioButton>
+#include <QWidget>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -77,6 +80,20 @@ TEST(DesktopWishes, LeaveEveryTextReadableInThePaletteThatTheyMake) {
   for (const auto& [text, ground] : pairs)
     EXPECT_GT(Contrast(made.color(text), made.color(ground)), 4.5) << text << " " << ground;
   EXPECT_EQ(ui::wishedPalette(dark, {true, false, false}), dark) << "dark as it was chosen";
+}
+
+TEST(DesktopWishes, NoticesAreReadableWhenTheyHaveChanged) {
+  QWidget window;
+  auto* banner = new ui::NoticeBanner({}, {}, {}, &window);
+  window.show();
+  for (const bool dark : {true, false}) {
+    banner->hide();
+    ui::setDesktopWishes({dark, false, false});
+    banner->show();
+    ASSERT_EQ(QApplication::palette().color(QPalette::Window).lightness() < 128, dark);
+    const QColor text = QApplication::palette().color(QPalette::WindowText);
+    EXPECT_GT(Contrast(text, banner->palette().color(QPalette::Window)), 4.5) << dark;
+  }
 }
 
 TEST(DesktopWishes, WhatCanBeTickedStandsOutFromADarkGround) {

@@ -1,5 +1,6 @@
 #include "ui/widgets/notice_banner.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QPalette>
@@ -40,7 +41,7 @@ QPushButton* NoticeBanner::addButton(const QString& name, const QString& caption
 
 void NoticeBanner::colour() {
   // Its own palette would hide a change of the theme.
-  QPalette palette = parentWidget()->palette();
+  QPalette palette = QApplication::palette();
   palette.setColor(QPalette::Window, noticeColour(palette.color(QPalette::Window)));
   setPalette(palette);
 }
@@ -48,6 +49,12 @@ void NoticeBanner::colour() {
 void NoticeBanner::changeEvent(QEvent* event) {
   QFrame::changeEvent(event);
   if (event->type() == QEvent::ApplicationPaletteChange) colour();
+}
+
+void NoticeBanner::showEvent(QShowEvent* event) {
+  QFrame::showEvent(event);
+  // Before it is shown for the first time it does not hear of changes.
+  colour();
 }
 
 /// What has the keyboard has had its chance before the key comes to the window.

@@ -28,6 +28,7 @@ class NoticeBanner : public QFrame {
   QPushButton* addButton(const QString& name, const QString& caption, const QString& tip);
 
   void changeEvent(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
