@@ -68,6 +68,27 @@ void DrawMap(benchmark::State& state, settings::MapMode mode, const model::GameS
   }
 }
 
+/// The same in the tints of the owners, after every centre has changed hands.
+void DrawTinted(benchmark::State& state, settings::MapMode mode) {
+  model::GameState game = FullBoard();
+  settings::MapOptions options{mode, true, true, true};
+  options.TintByOwner = state.range(0) != 0;
+  render::PictureCache pictures;
+  QImage image = render::MapImage(game, options, DataDirectory, 1000, pictures);
+  const QSizeF twips =
+      render::NaturalSize(pictures.Picture(render::BackgroundFile(DataDirectory, mode)));
+  int round = 0;
+  while (state.KeepRunning()) {
+    ++round;
+    for (int row = 1; row <= game.Provinces.Count(); ++row)
+      game.Provinces[row].Owner =
+          game.Countries[(row + round) % model::CountryCount + 1].Abbreviation;
+    QPainter painter(&image);
+    render::PainterSurface surface(painter, QRectF(image.rect()), twips, pictures);
+    render::RenderMap(game, options, DataDirectory, surface, {});
+  }
+}
+
 /// A moment of a season in which every unit of the board moves, the still map painted from memory
 /// as the window does it. The range is the width in pixels.
 void DrawFrame(benchmark::State& state) {
@@ -103,6 +124,19 @@ BENCHMARK_CAPTURE(DrawMap, Orders, settings::MapMode::Colour3D, OrderedBoard())
 BENCHMARK_CAPTURE(DrawMap, BlackWhite, settings::MapMode::BlackWhite, FullBoard())
     ->Arg(1000)
     ->Arg(2000)
+    ->Unit(benchmark::kMillisecond);
+// 1000 pixels wide, without the tints and with them.
+BENCHMARK_CAPTURE(DrawTinted, Colour3D, settings::MapMode::Colour3D)
+    ->Arg(0)
+    ->Arg(1)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(DrawTinted, Grey, settings::MapMode::Grey)
+    ->Arg(0)
+    ->Arg(1)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(DrawTinted, BlackWhite, settings::MapMode::BlackWhite)
+    ->Arg(0)
+    ->Arg(1)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(DrawFrame)->Arg(1000)->Arg(2000)->Unit(benchmark::kMillisecond);
 
