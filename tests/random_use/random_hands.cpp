@@ -137,12 +137,16 @@ void RandomHands::drag(QWidget& target) {
   QWindow* window = windowOf(widget);
   if (window == nullptr || isOutOfBounds(widget)) return;
   m_note("drag " + nameOf(widget));
-  const auto point = [&] { return widget.mapTo(widget.window(), somePoint(widget)); };
-  QTest::mousePress(window, Qt::LeftButton, {}, point());
-  QPointer<QWindow> alive(window);
-  for (int i = below(5); i >= 0 && alive; --i)
-    QTest::mouseMove(alive, point());
-  if (alive) QTest::mouseRelease(alive, Qt::LeftButton, {}, point());
+  // The press may take the window away, or the widget in it.
+  const QPointer<QWindow> alive(window);
+  const QPointer<QWidget> from(&widget);
+  QPoint point = widget.mapTo(widget.window(), somePoint(widget));
+  QTest::mousePress(window, Qt::LeftButton, {}, point);
+  for (int i = below(5); i >= 0 && alive && from; --i) {
+    point = from->mapTo(from->window(), somePoint(*from));
+    QTest::mouseMove(alive, point);
+  }
+  if (alive) QTest::mouseRelease(alive, Qt::LeftButton, {}, point);
 }
 
 void RandomHands::wheel(QWidget& target) {
