@@ -21,6 +21,7 @@ namespace orb::tests {
 namespace {
 
 using testing::Each;
+using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
@@ -43,6 +44,9 @@ class ColumnTest : public WindowTest {
 
 TEST_F(ColumnTest, ThePowersTellWhereTheyStandAndShowTheirLinesAlone) {
   EXPECT_EQ(Told("butPowerENG"), "England: 0 of 3 orders");
+  Enter("lon - nth");
+  EXPECT_THAT(Find<QLabel>("lblStatus").text().toStdString(), HasSubstr("Alt+1"));
+  Press(Qt::Key_Escape);
   Enter("ENG F(Lon) - NTH");
   Enter("ENG A(Lvp) - Par");
   Enter("FRA A(Par) - Bur");

@@ -296,7 +296,9 @@ QString OrderEntryPanel::whyNotFiled() const {
     return tr("Nothing to file: a power waives a build by leaving it open.");
   const std::string fault = naturalFault(game(), line(), m_power);
   if (!fault.empty()) return tr("Not filed: %1.").arg(text::ToQString(fault));
-  return tr("Not filed: no unit with its place in brackets, as in %1.").arg(m_example);
+  const QString why = tr("Not filed: no unit with its place in brackets, as in %1.").arg(m_example);
+  // Then lines may be written as people write.
+  return m_power != 0 ? why : why + tr(" Or choose the power first, with Alt+1 to 7.");
 }
 
 void OrderEntryPanel::mapClicked(const MapSpot& at) {
