@@ -77,6 +77,7 @@ TEST_F(AnimationTest, TheSeasonIsPlayedInTheMapsPlaceAndTheGameIsBackAfterIt) {
 
   Trigger("mnuFileAnimateMove");
   ASSERT_TRUE(IsOn());
+  EXPECT_LE(window_->minimumSizeHint().width(), 640) << "half a screen, for letters twice as large";
   EXPECT_EQ(Find<QWidget>("picAnimate").size(), Find<QWidget>("picMap").size());
   EXPECT_EQ(Season(), "Spring 1901, before moves") << "as the map says";
   EXPECT_EQ(Find<QWidget>("butAnimatePlay").accessibleName(), "Stop");

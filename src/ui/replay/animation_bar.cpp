@@ -12,6 +12,7 @@ namespace {
 constexpr int Gap = 4;
 constexpr int SliderSteps = 1000;  ///< in a season
 constexpr int SliderWidth = 60;
+constexpr int SeasonStretch = 8;  ///< the slider gets the rest
 
 QString tipWithKey(const QString& tip, int key) {
   return QStringLiteral("%1 (%2)").arg(tip, QKeySequence(key).toString(QKeySequence::NativeText));
@@ -96,12 +97,15 @@ void AnimationBar::addSlider() {
   m_season = new ElidedLabel;
   m_season->setObjectName(QStringLiteral("lblAnimateSeason"));
   m_season->setTextFormat(Qt::PlainText);
-  m_season->setMinimumWidth(
+  // As wide for every text, so that the slider stands still, but where there is no room for that
+  // the window must not grow beyond its screen.
+  m_season->setMinimumWidth(fontMetrics().horizontalAdvance(tr("Autumn 1901")));
+  m_season->setMaximumWidth(
       fontMetrics().horizontalAdvance(tr("Autumn 1901, before adjustments ")));
   m_row->addSpacing(Gap);
-  m_row->addWidget(m_slider, 3);
+  m_row->addWidget(m_slider, 1);
   m_row->addSpacing(Gap);
-  m_row->addWidget(m_season);
+  m_row->addWidget(m_season, SeasonStretch);
 }
 
 void AnimationBar::addSpeeds() {
