@@ -7,6 +7,7 @@
 #include "text/utf8.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <string_view>
 #include <unordered_set>
@@ -181,7 +182,11 @@ std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceName
     const auto isEveryday = [&](std::size_t place) {
       return everyday == EverydayWords::Harmless && IsEveryday(remark, place) && !says();
     };
-    const bool leadsOn = token.Text == "to" && (isPurpose || isEveryday(at + 1));
+    // "To cover Marseilles", "para cubrir Marsella".
+    constexpr std::array<std::string_view, 13> leads{"to",  "pour", "para", "per", "om", "te", "at",
+                                                     "att", "zeby", "zum",  "zur", "um", "zu"};
+    const bool leadsOn =
+        (isPurpose && IsOneOf(token, leads)) || (token.Text == "to" && isEveryday(at + 1));
     const bool isHarmless = IsHarmless(token) || leadsOn || isEveryday(at);
     if (length == 0 && !isHarmless) return TokenRange{at, at + 1};
     at += std::max<std::size_t>(length, 1);

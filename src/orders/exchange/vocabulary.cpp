@@ -189,10 +189,13 @@ constexpr std::array Uses{
              "sorry apologies excuse forgive pardon desole desolee undskyld unnskyld "
              "beklager ursakta entschuldigung entschuldige perdon scusate scusa desculpa "
              "przepraszam"},
-    UseWords{WordUse::Purpose,
-             "bounce bounces bouncing standoff selfbounce cover covers covering guard guards "
-             "protect protects block blocks blocking defend defends defence defense defensive "
-             "guarding defending protecting supported selfstandoff against"},
+    UseWords{
+        WordUse::Purpose,
+        "bounce bounces bouncing standoff selfbounce cover covers covering guard guards "
+        "protect protects block blocks blocking defend defends defence defense defensive "
+        "decken deckung schutzen schutz couvrir proteger cubrir coprire proteggere cobrir dekken "
+        "beschermen dakke daekke dekke beskytte tacka skydda oslonic oslaniam chronic "
+        "guarding defending protecting supported selfstandoff against"},
     UseWords{WordUse::Plain,
              "votes vote stimmen voix votos voti stemmen stemmer roster glosy "
              "both want better fine ok okay yes yep yeah you we us i am all hope hopefully it "
