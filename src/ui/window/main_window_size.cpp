@@ -28,7 +28,9 @@ void MainWindow::restoreSize() {
   if (restoreGeometry(m_memory.geometry())) return;
   const QSize available = screen()->availableSize();
   // The window's frame needs room too, also when it is no longer maximized.
-  const QSize roomy = available * 0.9;
+  // Of its width little can go: a window that grows to its least width while it is shown is not
+  // maximized any more.
+  const QSize roomy(qRound(available.width() * 0.97), qRound(available.height() * 0.9));
   resize(PreferredSize.boundedTo(roomy));
   if (size() != PreferredSize) setWindowState(Qt::WindowMaximized);
 }
