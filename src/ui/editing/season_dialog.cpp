@@ -7,6 +7,7 @@
 
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -140,7 +141,9 @@ QLayout* SeasonDialog::newTextColumn() {
   heading->setBuddy(m_text);
   // In a font of equal widths, as the report shows it, so that tables line up.
   m_text->setFont(fixedFont());
-  m_text->setMinimumWidth(TextColumns * QFontMetrics(m_text->font()).averageCharWidth());
+  // With large letters a small screen has no room for whole lines.
+  m_text->setMinimumWidth(std::min(TextColumns * QFontMetrics(m_text->font()).averageCharWidth(),
+                                   screen()->availableSize().width() / 2));
   auto* head = new QHBoxLayout;
   head->addWidget(heading);
   head->addStretch();

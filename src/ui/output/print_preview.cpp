@@ -7,6 +7,7 @@
 
 #include <QHBoxLayout>
 #include <QRadioButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -56,7 +57,7 @@ PrintPreview::PrintPreview(QPrinter& printer, Print print, QWidget* parent)
   connect(m_bothSides, &QCheckBox::toggled, m_pages, &QPrintPreviewWidget::updatePreview);
   connect(m_pages, &QPrintPreviewWidget::paintRequested, this,
           [this](QPrinter* target) { m_print(*target, bothSides()); });
-  resize(820, 640);
+  resize(QSize(820, 640).boundedTo(screen()->availableSize() * 0.9));
 }
 
 void PrintPreview::showEvent(QShowEvent* event) {
