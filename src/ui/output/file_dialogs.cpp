@@ -16,6 +16,7 @@
 #include <QHeaderView>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScreen>
 #include <QTreeView>
 #include <QUrl>
 
@@ -41,6 +42,8 @@ void setUp(QFileDialog& dialog, const QString& title, const QStringList& filters
   }
   if (!desk.folder().empty()) dialog.setDirectory(displayPath(desk.folder().string()));
   offerHelp(dialog, QObject::tr("Files"));
+  // With large letters it would reach beyond a small screen.
+  dialog.resize(dialog.size().boundedTo(dialog.screen()->availableSize() * 0.9));
 }
 
 QString allFiles() {
