@@ -19,6 +19,12 @@ namespace {
 /// How many words and signs a greeting before an order has at most: "Hi Tom, A Par - Bur".
 constexpr std::size_t LongestGreeting = 6;
 
+/// Whether words, perhaps in brackets, begin with a greeting.
+bool GreetsAt(Tokens words) {
+  const std::size_t first = IsA(words[0], TokenKind::Open) ? 1 : 0;
+  return first < words.size() && HasUse(words[first], WordUse::Greeting);
+}
+
 }  // namespace
 
 void Rows::SetAsideExample(const SourceLine& line, TokenRange saying, std::size_t first) {
@@ -37,9 +43,8 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
   }
   for (const Said& said : remarks_) {
     const Tokens remark = line.Part(said.At);
-    const bool isGreeting = remark.size() <= LongestGreeting &&
-                            HasUse(remark[0], WordUse::Greeting) && remark.back().Text != "?" &&
-                            !NamesPlace(remark, known_.Names) &&
+    const bool isGreeting = remark.size() <= LongestGreeting && GreetsAt(remark) &&
+                            remark.back().Text != "?" && !NamesPlace(remark, known_.Names) &&
                             !ReadAside(remark, known_.Names).has_value();
     // "No A Par - Bur", but not "No, A Par - Bur".
     constexpr std::array<std::string_view, 8> answers{"no",  "non", "nao",  "nej",
