@@ -7,10 +7,13 @@
 
 #include <algorithm>
 #include <array>
-#include <iostream>
-#include <istream>
+#include <cerrno>
+#include <fcntl.h>
 #include <optional>
+#include <poll.h>
 #include <string>
+#include <sys/types.h>
+#include <unistd.h>
 
 namespace orb::cli {
 namespace {
@@ -50,11 +53,11 @@ class AnswerQueue {
   std::string waiting_;
 };
 
-/// Cuts a stream into lines. Whoever waits for answers to what was read so far gets them before
-/// this waits for more.
+/// Cuts what a descriptor brings into lines. Whoever waits for answers to what was read so far gets
+/// them before this waits for more.
 class LineReader {
  public:
-  LineReader(std::istream& in, AnswerQueue& answers) : in_(*in.rdbuf()), answers_(answers) {}
+  LineReader(int in, AnswerQueue& answers) : in_(in), answers_(answers) {}
 
   /// The next line, without its end, until the next call; nothing at the end of input. Of a line
   /// that is too long only the beginning is kept.
@@ -78,27 +81,42 @@ class LineReader {
  private:
   /// Takes over what has arrived; waits for it if nothing has. False at the end of input.
   bool Fill() {
-    using Traits = std::char_traits<char>;
-    if (in_.in_avail() <= 0) answers_.Deliver();
-    if (Traits::eq_int_type(in_.sgetc(), Traits::eof())) return false;
-    const auto count = std::max<std::streamsize>(in_.in_avail(), 1);
+    // As much as a pipe holds: by less at a time, reading takes a tenth of all time.
+    constexpr std::size_t most = 65'536;
+    pollfd wanted{in_, POLLIN, 0};
+    if (::poll(&wanted, 1, 0) != 1) answers_.Deliver();
     const std::size_t size = bytes_.size();
-    bytes_.resize(size + static_cast<std::size_t>(count));
-    bytes_.resize(size + static_cast<std::size_t>(in_.sgetn(bytes_.data() + size, count)));
-    return true;
+    bytes_.resize(size + most);
+    ssize_t count = -1;
+    do {
+      count = ::read(in_, bytes_.data() + size, most);
+    } while (count < 0 && errno == EINTR);
+    bytes_.resize(size + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+    return count > 0;
   }
 
-  std::streambuf& in_;
+  int in_;
   AnswerQueue& answers_;
   std::string bytes_;
   std::size_t next_ = 0;  ///< where the next line begins
   std::size_t seen_ = 0;  ///< up to here there is no line end
 };
 
+/// Lets pipes on both sides hold more, so that nobody waits for the others so often. Where they are
+/// none, or may not grow, nothing is lost.
+void WidenPipes() {
+#ifdef F_SETPIPE_SZ
+  constexpr int bytes = 1'048'576;
+  ::fcntl(STDIN_FILENO, F_SETPIPE_SZ, bytes);
+  ::fcntl(STDOUT_FILENO, F_SETPIPE_SZ, bytes);
+#endif
+}
+
 int Execute(const CommandLine& line, Console& console) {
+  WidenPipes();
   serve::Server server(DataDirectory(line), model::ProgramDirectory());
   AnswerQueue answers(console);
-  LineReader lines(std::cin, answers);
+  LineReader lines(STDIN_FILENO, answers);
   while (const auto request = lines.Next()) {
     answers.Add(request->size() > LongestLine ? serve::Server::TooLong(LongestLine)
                                               : server.Answer(*request));
