@@ -53,6 +53,15 @@ bool IsOneSlipAway(std::string_view a, std::string_view b) {
          a.substr(at + 2) == b.substr(at + 2);
 }
 
+/// Whether a word of three letters or more begins a name, or is made of the first letters of the
+/// name's three words.
+bool StandsShortFor(std::string_view word, const std::vector<std::string>& words,
+                    std::string_view joined) {
+  if (joined.size() > NameLength + 1 && joined.starts_with(word)) return true;
+  return words.size() == word.size() && words.size() == NameLength &&
+         std::ranges::equal(word, words, {}, {}, [](const std::string& w) { return w.front(); });
+}
+
 void AddRow(std::vector<int>& rows, int row) {
   const auto place = std::ranges::lower_bound(rows, row);
   if (place == rows.end() || *place != row) rows.insert(place, row);
@@ -203,6 +212,14 @@ const std::vector<int>& PlaceNames::Locations(int province) const {
 std::vector<PlaceNames::NearPlace> PlaceNames::FindNear(std::string_view word) const {
   std::vector<NearPlace> near;
   if (word.size() < NameLength) return near;
+  if (const auto sameFirst = spellings_.find(word[0]); sameFirst != spellings_.end()) {
+    for (const Spelling& spelling : sameFirst->second) {
+      const bool isKnown =
+          std::ranges::find(near, spelling.Row, &NearPlace::Province) != near.end();
+      if (isKnown || !StandsShortFor(word, spelling.Words, spelling.Joined)) continue;
+      near.push_back({spelling.Joined, spelling.Row, true});
+    }
+  }
   for (const auto& entry : spellings_) {
     for (const Spelling& spelling : entry.second) {
       const bool isWhole = IsOneSlipAway(spelling.Joined, word);

@@ -37,14 +37,16 @@ class PlaceNames {
   /// The province and its coasts.
   const std::vector<int>& Locations(int province) const;
 
-  /// A place that a word is one slip of the pen away from.
+  /// A place that a word is one slip of the pen away from, or whose usual name it begins.
   struct NearPlace {
-    std::string Word;  ///< to be read in its stead
-    int Province = 0;  ///< row of the province
+    std::string Word;      ///< to be read in its stead
+    int Province = 0;      ///< row of the province
+    bool IsShort = false;  ///< "Bou" for Bourgogne, "MDN" for Mer du Nord: no slip
   };
 
-  /// The places whose name, or the name's first word, is one letter away from a word of three
-  /// letters or more: one missing, surplus or wrong, or two changed places. Each province once.
+  /// The places whose usual name a word of three letters or more stands short for, and behind them
+  /// those whose name, or the name's first word, is one letter away from it: one missing, surplus
+  /// or wrong, or two changed places. Each province once.
   const std::vector<NearPlace>& Near(std::string_view word) const;
 
   /// Whether so many words were looked up that it is time to begin anew.

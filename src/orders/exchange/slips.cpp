@@ -25,7 +25,7 @@ class SlipReader {
     if (!failed.Problem.IsNoPlace || slipsLeft == 0 || at >= tokens.size()) return found;
     const auto& near = known_.Names.Near(tokens[at].Text);
     const Context before = context;
-    int possible = 0;
+    const PlaceNames::NearPlace* first = nullptr;  // that can be meant
     for (const PlaceNames::NearPlace& place : near) {
       Context tried = before;
       const std::vector<Token> changed = WithWord(tokens, at, place.Word);
@@ -36,9 +36,17 @@ class SlipReader {
         read = Read(changed, read, tried, slipsLeft - 1);
       }
       if (read.Kind != LineKind::Order || !IsPossible(read.Meant.All[0], known_)) continue;
-      if (++possible > 1) return {};
+      const bool isSame = first != nullptr && read.Meant.All[0].Line == found.Meant.All[0].Line;
+      if (isSame) continue;
+      if (first != nullptr) {
+        if (first->IsShort == place.IsShort) return {};
+        // A slip might be meant as well, but the short form is no slip.
+        found.Doubt = Quoted({&tokens[at], 1}) + " might be " + NameOf(place.Province);
+        continue;
+      }
+      first = &place;
       if (read.IsGuess) read.Doubt = "it is not said what the unit does";
-      Note(tokens[at], place.Province, near, read);
+      Note(tokens[at], place, near, read);
       found = std::move(read);
       context = tried;
     }
@@ -46,13 +54,16 @@ class SlipReader {
   }
 
  private:
-  void Note(const Token& word, int province, const std::vector<PlaceNames::NearPlace>& near,
-            PartRead& read) const {
-    const auto nameOf = [&](int row) { return known_.Game.Map->Provinces[row].FullName; };
-    std::string note = Quoted({&word, 1}).append(" is read as ").append(nameOf(province));
+  const std::string& NameOf(int province) const {
+    return known_.Game.Map->Provinces[province].FullName;
+  }
+
+  void Note(const Token& word, const PlaceNames::NearPlace& place,
+            const std::vector<PlaceNames::NearPlace>& near, PartRead& read) const {
+    std::string note = Quoted({&word, 1}).append(" is read as ").append(NameOf(place.Province));
     for (const PlaceNames::NearPlace& other : near) {
-      if (other.Province == province || !read.Doubt.empty()) continue;
-      read.Doubt = note + ", and might be " + nameOf(other.Province);
+      if (place.IsShort || other.Province == place.Province || !read.Doubt.empty()) continue;
+      read.Doubt = note + ", and might be " + NameOf(other.Province);
     }
     read.ReadAs = read.ReadAs.empty() ? std::move(note) : note.append("; ").append(read.ReadAs);
   }

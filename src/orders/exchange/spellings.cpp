@@ -184,7 +184,7 @@ constexpr std::array Spellings{
         "mar da noruega|norwegensee|europaisches nordmeer|norska sjon|morze norweskie|"
         "mer norvegienne|mar noruego"},
     UsualSpellings{"TYS",
-                   "tyrreense zee|det tyrrhenske hav|morza "
+                   "tir|tyrreense zee|det tyrrhenske hav|morza "
                    "tyrrenskiego|tyn|tyh|trs|tyrh|tyrrh|tyrrhenisches meer|tyrrhenische "
                    "meer|mer tyrrhenienne|"
                    "mar tirreno|mare tirreno|tirreno|tyrrheense zee|tyrrhenienne|tyrrenska havet|"
