@@ -1,6 +1,7 @@
 #include "orders/exchange/asides.h"
 
 #include "orders/exchange/harmless_words.h"
+#include "orders/exchange/open_matters.h"
 #include "orders/exchange/other_matters.h"
 #include "orders/exchange/sayings.h"
 #include "orders/exchange/second_thoughts.h"
@@ -155,6 +156,7 @@ std::optional<Aside> ReadAside(Tokens line, const PlaceNames& names) {
     const Tokens sentence = line.subspan(begin, end - begin);
     const auto aside = SpeaksOfElse(sentence, names) ? std::nullopt : ReadSentence(sentence);
     if (aside) return Aside{aside->Scope, {begin + aside->At.Begin, begin + aside->At.End}};
+    if (LeavesOpen(sentence)) return Aside{AsideScope::AboveElseBelow, {begin, end}};
   }
   return std::nullopt;
 }

@@ -2,6 +2,7 @@
 
 #include "orders/exchange/asides.h"
 #include "orders/exchange/line_kinds.h"
+#include "orders/exchange/open_matters.h"
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/sayings.h"
 
@@ -69,6 +70,7 @@ bool TellsMaster(Tokens words) {
 bool SpeaksOfElse(Tokens line, const PlaceNames& names) {
   constexpr std::ptrdiff_t few = 5;
   const auto words = std::ranges::count(line, TokenKind::Word, &Token::Kind);
+  if (LeavesOpen(line)) return false;
   if (IsOfFeeling(line)) return !RefersToOrders(line) && !NamesPlace(line, names);
   if (words < 2 || IsA(line.back(), TokenKind::Colon) || !HasUse(line[0], WordUse::Condition)) {
     const bool asks = words >= few && line.back().Text == "?";

@@ -208,6 +208,12 @@ constexpr std::array SayingTable{
         "should i instead"},
     SayingPhrases{
         Saying::Postpones,
+        "dont believe a|dont believe him|dont believe her|dont believe it|dont believe them|"
+        "glaub ihm|glaubt ihm|glaube ihm|nen crois pas|nen croyez pas|no le creas|no le creais|"
+        "non credergli|nao acredites|nao acreditem|geloof er niets|geloof hem|tro ham ikke|"
+        "tro honom inte|nie wierz|reserve the right|behalte mir vor|me reserve le|me reservo el|"
+        "mi riservo|reservo me|me reservo o|behoud me het|forbeholder mig|forbeholder meg|"
+        "forbehaller mig|zastrzegam|which of them|which of these|which ones stand|"
         "wants me to|got this from|sent me the|toying with|thinks ill|thinks i will|to show|lie to|"
         "rumour has|rumor has|i dreamt|i dreamed|ce que veut|lo que quiere|quello che vuole|o que "
         "quer|no definitivo|"

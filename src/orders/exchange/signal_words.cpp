@@ -1,10 +1,8 @@
 #include "orders/exchange/signal_words.h"
 
-#include "orders/exchange/vocabulary.h"
+#include "orders/exchange/stem_table.h"
 
 #include <array>
-#include <unordered_map>
-#include <vector>
 
 namespace orb::exchange {
 namespace {
@@ -39,13 +37,14 @@ constexpr std::array SignalRows{
               "das dies es alles was beides ce cela ca tout tous eso esto todo todos cio "
               "questo tutto tutti quello isto isso aquilo tudo dit dat wat det dette alt hva "
               "hvad detta allt vad tego wszystko tak tym"},
-    SignalRow{
-        Signal::Denies,
-        "not no never dont doesnt didnt cant cannot wont wouldnt isnt arent wasnt werent "
-        "shouldnt mustnt neednt couldnt havent hasnt nobody nothing without neither nor "
-        "nicht kein keine keinen nie niemals ohne ne pas jamais rien aucun aucune sans nunca nada "
-        "ningun sin non mai niente nessun senza nao nem sem niet geen nooit zonder ikke aldri "
-        "aldrig ingen uten uden inte ej utan nie nigdy bez zadn*"},
+    SignalRow{Signal::Denies,
+              "not no never dont doesnt didnt cant cannot wont wouldnt isnt arent wasnt werent "
+              "shouldnt mustnt neednt couldnt havent hasnt nobody nothing without neither nor "
+              "nicht nichts kein keine keinen nie niemals ohne ne pas jamais rien aucun aucune "
+              "sans nunca nada "
+              "ningun sin non mai niente nessun senza nao nem sem niet niets geen nooit zonder "
+              "ikke aldri "
+              "aldrig ingen intet inget uten uden inte ej utan nie nic nigdy bez zadn*"},
     SignalRow{
         Signal::Leaves,
         "should shouldnt might may could would must supposed ought shall "
@@ -136,37 +135,18 @@ constexpr std::array SignalRows{
         "vorschlag idee proposition propuesta proposta voorstel forslag pomysl"},
 };
 
-struct SignalTable {
-  std::unordered_map<std::string_view, unsigned> Words;
-  std::vector<std::pair<std::string_view, unsigned>> Stems;
-};
-
-SignalTable MakeSignalTable() {
-  SignalTable table;
-  for (const SignalRow& row : SignalRows) {
-    for (std::string_view word : Parts(row.Words, ' ')) {
-      const auto bit = static_cast<unsigned>(row.Means);
-      if (word.ends_with('*')) {
-        word.remove_suffix(1);
-        table.Stems.emplace_back(word, bit);
-      } else {
-        table.Words[word] |= bit;
-      }
-    }
-  }
+StemTable MakeSignalTable() {
+  StemTable table;
+  for (const SignalRow& row : SignalRows)
+    table.Add(row.Words, static_cast<unsigned>(row.Means));
   return table;
 }
 
 }  // namespace
 
 unsigned SignalsOf(std::string_view word) {
-  static const SignalTable table = MakeSignalTable();
-  const auto found = table.Words.find(word);
-  unsigned signals = found == table.Words.end() ? 0 : found->second;
-  for (const auto& [stem, bit] : table.Stems) {
-    if (word.starts_with(stem)) signals |= bit;
-  }
-  return signals;
+  static const StemTable table = MakeSignalTable();
+  return table.BitsOf(word);
 }
 
 }  // namespace orb::exchange

@@ -1,6 +1,7 @@
 #include "orders/exchange/vocabulary.h"
 
 #include "orders/exchange/everyday_words.h"
+#include "orders/exchange/open_matters.h"
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/saying_kinds.h"
 #include "orders/exchange/verb_words.h"
@@ -244,6 +245,7 @@ WordMeaning FindMeaning(std::string_view word) {
   WordMeaning meaning = found == meanings.end() ? WordMeaning() : found->second;
   meaning.Prose = ProseUsesOf(word);
   meaning.Signals = SignalsOf(word);
+  meaning.Topics = TopicsOf(word);
   meaning.Sayings = SayingsBeginningWith(word);
   meaning.BeginsPower = MayBeginPower(word);
   constexpr auto hints = static_cast<unsigned>(Signal::Hints);

@@ -57,6 +57,7 @@ struct WordMeaning {
   bool BeginsPower = false;  ///< whether it may begin the name of a power
   unsigned Prose = 0;        ///< bits of ProseUse
   unsigned Signals = 0;      ///< bits of Signal
+  unsigned Topics = 0;       ///< TopicsOf
   unsigned Sayings = 0;      ///< which phrases it may begin: SayingsBeginningWith
 
   bool Has(WordUse use) const { return (Uses & static_cast<unsigned>(use)) != 0; }
