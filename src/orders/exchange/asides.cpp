@@ -248,7 +248,7 @@ std::optional<TokenRange> ReadReservation(Tokens line, bool isBehindOrders) {
   const auto word = std::ranges::find(line, TokenKind::Word, &Token::Kind);
   const bool asks = std::ranges::find(line, "?", &Token::Text) != line.end();
   if (asks && isBehindOrders && !IsOfEverydayLife(line) && !AsksMaster(line) &&
-      !AsksAfterHealth(line))
+      !AsksAfterHealth(line) && !AsksOfLife(line))
     return TokenRange{0, line.size()};
   if (word == line.end()) return std::nullopt;
   if (!HasUse(*word, WordUse::Reservation)) return std::nullopt;

@@ -2,6 +2,7 @@
 
 #include "orders/exchange/asides.h"
 #include "orders/exchange/harmless_words.h"
+#include "orders/exchange/open_matters.h"
 #include "orders/exchange/other_matters.h"
 #include "orders/exchange/rest_holds.h"
 #include "orders/exchange/sayings.h"
@@ -189,7 +190,7 @@ bool BearsOnOrders(Tokens sentence, Unplaced unit) {
   if (count == 0 || IsSecondThought(sentence) || TellsOfOthers(sentence)) return false;
   const Signals signals(sentence);
   const bool asks = sentence.back().Text == "?";
-  if (asks && AsksAfterHealth(sentence)) return false;
+  if (asks && (AsksAfterHealth(sentence) || AsksOfLife(sentence))) return false;
   if (Apologizes(sentence) && !signals.Has(Signal::Points, Signal::Takes)) return false;
   // "Okay?", "Right?"
   if (asks && (count < 3 || signals.Has(Signal::Points, Signal::Hints, Signal::Says))) return true;

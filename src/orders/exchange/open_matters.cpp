@@ -41,6 +41,7 @@ enum Topic : unsigned {
   Write = 1U << 26U,
   Use = 1U << 27U,
   Suppose = 1U << 28U,
+  Life = 1U << 29U,  ///< what people ask each other about
 };
 
 struct TopicRow {
@@ -173,6 +174,35 @@ constexpr std::array TopicRows{
              "coge prendi usate usem gebruik neem brug bruk tag ta anvand wez uzyj"},
     TopicRow{Suppose,
              "if unless wenn falls sollte si se als indien mocht hvis om jesli jezeli gdyby"},
+    TopicRow{
+        Life,
+        "monday tuesday wednesday thursday friday saturday sunday weekend* holiday* vacation* "
+        "pub bar baby kids wife husband dog cat party beer dinner lunch birthday wedding exam* "
+        "trip hike match concert film book books car train garden school umbrella photo* "
+        "picture* deadline mail mails heard bbq barbecue coffee "
+        "montag dienstag mittwoch donnerstag freitag samstag sonntag wochenende urlaub ferien "
+        "kneipe kind kinder frau hund katze feier bier geburtstag hochzeit prufung reise "
+        "wanderung konzert buch auto zug garten schule foto* bilder frist grillen kaffee "
+        "lundi mardi mercredi jeudi vendredi samedi dimanche vacances bebe enfants femme mari "
+        "chien chat fete biere anniversaire mariage examen voyage randonnee concert livre "
+        "voiture jardin ecole cafe apero "
+        "lunes martes miercoles jueves viernes sabado domingo finde vacaciones bebe ninos "
+        "mujer marido perro gato fiesta cerveza cumpleanos boda examen viaje excursion libro "
+        "coche tren jardin escuela "
+        "lunedi martedi mercoledi giovedi venerdi domenica vacanza vacanze bambini bimbo moglie "
+        "marito cane gatto festa birra compleanno matrimonio esame viaggio gita libro "
+        "macchina treno giardino scuola "
+        "segunda terca quarta quinta sexta domingo ferias filhos mulher cao festa cerveja "
+        "aniversario casamento exame viagem passeio livro carro comboio jardim "
+        "maandag dinsdag woensdag donderdag vrijdag zaterdag zondag vakantie kroeg kinderen "
+        "vrouw hond kat feest verjaardag bruiloft examen reis wandeling boek trein tuin "
+        "mandag tirsdag onsdag torsdag fredag lordag sondag ferie helg pubben barn kone hund "
+        "fest fodselsdag bursdag bryllup eksamen tur billeder* bilder* bog bok bil tog have "
+        "mandag tisdag torsdag lordag semester puben fru fodelsedag brollop resa vandring* bok "
+        "tag tradgard "
+        "poniedzialek wtorek srode czwartek piatek sobote niedziele wakacje urlop pubie dzieci "
+        "zona maz pies kot impreza piwo urodziny wesele egzamin podroz wycieczk* zdjecia "
+        "ksiazk* samochod pociag ogrod szkola"},
 };
 
 /// Topics that leave orders open where one sentence has all of them.
@@ -218,6 +248,26 @@ bool LeavesOpen(Tokens sentence) {
   return std::ranges::any_of(OpenMatters, [&](const OpenMatter& matter) {
     return (topics & matter.Topics) == matter.Topics && (denies || !matter.Denied);
   });
+}
+
+bool AsksOfLife(Tokens sentence) {
+  constexpr auto bearing =
+      static_cast<unsigned>(Signal::Points) | static_cast<unsigned>(Signal::Says) |
+      static_cast<unsigned>(Signal::Leaves) | static_cast<unsigned>(Signal::Takes) |
+      static_cast<unsigned>(Signal::Rejects) | static_cast<unsigned>(Signal::Chooses) |
+      static_cast<unsigned>(Signal::Plans);
+  bool isOfLife = false;
+  for (const Token& token : sentence) {
+    const Verb verb = token.Means.Does;
+    const bool orders = verb != Verb::None && verb != Verb::Move && token.Text.size() > 2;
+    const bool isUnit = token.Means.UnitType != 0 && token.Text.size() > 1;
+    if ((token.Means.Signals & bearing) != 0 || orders || isUnit ||
+        HasUse(token, WordUse::Orders, WordUse::Reservation, WordUse::Correction)) {
+      return false;
+    }
+    isOfLife = isOfLife || (token.Means.Topics & Life) != 0;
+  }
+  return isOfLife;
 }
 
 }  // namespace orb::exchange

@@ -14,4 +14,7 @@ unsigned TopicsOf(std::string_view word);
 /// "the true list comes tonight", "Nichts davon ist entschieden".
 bool LeavesOpen(Tokens sentence);
 
+/// Whether a question is about what people ask each other beside orders: "Did you get the photos?"
+bool AsksOfLife(Tokens sentence);
+
 }  // namespace orb::exchange

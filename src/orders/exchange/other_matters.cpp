@@ -76,7 +76,9 @@ bool SpeaksOfElse(Tokens line, const PlaceNames& names) {
     const bool asks = words >= few && line.back().Text == "?";
     const bool isOfWriter = FindSaying(line, Saying::Asks) || FindSaying(line, Saying::Corrects);
     const bool hints = std::ranges::any_of(line, [](const Token& token) {
-      return (token.Means.Signals & static_cast<unsigned>(Signal::Hints)) != 0;
+      constexpr auto hinting =
+          static_cast<unsigned>(Signal::Hints) | static_cast<unsigned>(Signal::Leaves);
+      return (token.Means.Signals & hinting) != 0;
     });
     return asks && !isOfWriter && !hints && !RefersToOrders(line) && !NamesPlace(line, names);
   }

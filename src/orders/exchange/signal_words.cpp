@@ -21,20 +21,20 @@ constexpr std::array SignalRows{
         "order orders list lists version two half some none "
         "diese dieser dieses denen ihnen oben zeile zeilen anderen gleichen selben letzte letzten "
         "vorigen erste ersten zweite zweiten befehl befehle zug zuge "
-        "ceux celles ceci dernier derniere derniers precedents premier premiere memes autres ligne "
+        "pareil ceux celles ceci dernier derniere derniers precedents premier premiere memes autres ligne "
         "ordres coups "
-        "estos estas esos esas ultimo ultimos ultima pasado pasada anteriores primero primera "
+        "mismo estos estas esos esas ultimo ultimos ultima pasado pasada anteriores primero primera "
         "mismos otros linea ordenes "
-        "questi queste quelli ultimi ultime scorso scorsa scorsi precedenti primo prima "
+        "stesso questi queste quelli ultimi ultime scorso scorsa scorsi precedenti primo prima "
         "stessi altri riga ordini "
-        "estes essas esses passado primeira mesmos outros linha ordens "
+        "mesmo estes essas esses passado primeira mesmos outros linha ordens "
         "deze laatste vorige eerste tweede dezelfde anderen regel bevelen orders "
         "disse sidste siste forrige forste samme andre linje ordrer "
-        "dessa sista forra forsta samma andra rad order "
+        "likadant dessa sista forra forsta samma andra rad order "
         "tych ostatnie ostatni ostatniej poprzedniej poprzednie pierwszy pierwsza rozkazy"},
     SignalRow{Signal::Hints,
               "it this that thats they all everything anything what whatever one both "
-              "das dies es alles was beides ce cela ca tout tous eso esto todo todos cio "
+              "das dies es alles was beides ce cest cela ca tout tous eso esto todo todos cio "
               "questo tutto tutti quello isto isso aquilo tudo dit dat wat det dette alt hva "
               "hvad detta allt vad tego wszystko tak tym"},
     SignalRow{Signal::Denies,
@@ -82,8 +82,8 @@ constexpr std::array SignalRows{
         Signal::Later,
         "later tomorrow soon come comes coming follow follows following first before after once "
         "until till when yet wait await awaits morgen spater zuerst erst bevor sobald warte "
-        "demain bientot avant apres attends manana luego antes cuando espera domani dopo prima "
-        "quando aspetta amanha depois straks eerst zodra wacht senere forst vent imorgon "
+        "demain attendre bientot avant apres attends esperar aspettare manana luego antes cuando espera domani dopo prima "
+        "quando aspetta amanha depois straks eerst zodra wacht wachten senere forst vent vente vanta imorgon "
         "snart jutro potem najpierw"},
     SignalRow{
         Signal::Rejects,
