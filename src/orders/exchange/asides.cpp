@@ -37,6 +37,8 @@ bool IsOfSomethingElse(Tokens title, std::size_t at) {
     if (IsOneOf(title[before], replacing)) return true;
   }
   // "Het volgende".
+  // "The grand tour at last".
+  if (at > 0 && IsWord(title[at], "last") && IsWord(title[at - 1], "at")) return true;
   if (at > 0 && IsWord(title[at], "volgende") && IsWord(title[at - 1], "het")) return true;
   constexpr std::array<std::string_view, 5> greets{"guten", "goede", "goeie", "schonen", "god"};
   if (at > 0 && IsWord(title[at], "morgen") && IsOneOf(title[at - 1], greets)) return true;
@@ -190,10 +192,10 @@ bool IsReport(Tokens words) {
 }
 
 bool IsUnreal(Tokens words) {
-  constexpr std::array<std::string_view, 20> past{
-      "was",      "were",    "had",    "tempted", "wish",     "wished",    "wanted",
-      "intended", "planned", "would",  "wouldnt", "almost",   "nearly",    "wollte",
-      "voulais",  "volevo",  "queria", "wilde",   "chcialem", "originally"};
+  constexpr std::array<std::string_view, 24> past{
+      "played", "tried",  "spielte", "jouais",   "was",     "were",  "had",      "tempted",
+      "wish",   "wished", "wanted",  "intended", "planned", "would", "wouldnt",  "almost",
+      "nearly", "wollte", "voulais", "volevo",   "queria",  "wilde", "chcialem", "originally"};
   constexpr std::array<std::string_view, 4> polite{"like", "please", "you", "grateful"};
   const auto has = [&](const auto& list) {
     return std::ranges::any_of(words, [&](const Token& token) {

@@ -52,19 +52,28 @@ void WeighOlder(std::vector<ReadLine>& lines, const std::vector<Surroundings>& a
   }
 }
 
-/// A line that is not understood may change the orders that it is about.
+/// Whether a row is a line without an order of its own that puts right what stands above it.
+bool IsCorrection(const ReadLine& line, const Surroundings& around) {
+  return around.Corrects && !IsUnderstood(line) && !IsUnclear(line);
+}
+
+/// A line that is not understood may change the orders that it is about, but none below a
+/// correction of all.
 void WeighUnclear(std::vector<ReadLine>& lines, const std::vector<Surroundings>& around) {
   const auto isOrder = [&](std::size_t row) {
     return !around[row].IsOlder && IsUnderstood(lines[row]);
   };
   std::multimap<std::string, std::size_t> ofUnits;
   std::multimap<std::string, std::size_t> ofTargets;
+  std::vector<std::size_t> corrections(lines.size());  // up to each row
   for (std::size_t row = 0; row < lines.size(); ++row) {
+    corrections[row] =
+        (row == 0 ? 0 : corrections[row - 1]) + (IsCorrection(lines[row], around[row]) ? 1U : 0U);
     if (!isOrder(row)) continue;
     ofUnits.emplace(lines[row].Power + ProvinceOf(lines[row].Order), row);
     ofTargets.emplace(lines[row].Power + TargetOf(lines[row].Order), row);
   }
-  bool areAllDoubted = false;
+  std::size_t allDoubted = 0;  // up to this row
   for (std::size_t i = 0; i < lines.size(); ++i) {
     const ReadLine& line = lines[i];
     const Concern& about = around[i].About;
@@ -80,20 +89,20 @@ void WeighUnclear(std::vector<ReadLine>& lines, const std::vector<Surroundings>&
         if (!line.Power.empty() && line.Power != owner) continue;
         const auto [first, last] = orders.equal_range(owner + province);
         isOfSome = isOfSome || first != last;
-        for (auto at = first; at != last; ++at)
+        auto at = first;
+        for (; at != last && corrections[at->second] <= corrections[i]; ++at)
           MakeDoubtful(lines[at->second], reason, line.Place);
         // What is doubted once stays so, and need not be looked at again.
-        orders.erase(first, last);
+        orders.erase(first, at);
       }
     };
     for (const std::string& province : about.Provinces) {
       doubt(ofUnits, province);
       if (about.OfTargets) doubt(ofTargets, province);
     }
-    if (isOfSome || areAllDoubted || !about.MayBeAll) continue;
-    areAllDoubted = true;
-    for (std::size_t row = 0; row < lines.size(); ++row) {
-      if (isOrder(row)) MakeDoubtful(lines[row], reason, line.Place);
+    if (isOfSome || !about.MayBeAll) continue;
+    for (; allDoubted < lines.size() && corrections[allDoubted] <= corrections[i]; ++allDoubted) {
+      if (isOrder(allDoubted)) MakeDoubtful(lines[allDoubted], reason, line.Place);
     }
   }
 }
@@ -158,8 +167,7 @@ class Contradictions {
       : lines_(lines), around_(around), corrections_(lines.size() + 1) {
     for (std::size_t i = 0; i < lines.size(); ++i) {
       // What is said next to an order is said of that order.
-      const bool isOrder = IsUnderstood(lines[i]) || IsUnclear(lines[i]);
-      corrections_[i + 1] = corrections_[i] + (around[i].Corrects && !isOrder ? 1U : 0U);
+      corrections_[i + 1] = corrections_[i] + (IsCorrection(lines[i], around[i]) ? 1U : 0U);
       if (around[i].IsOlder) continue;
       if (IsUnderstood(lines[i])) orders_[SubjectOf(lines[i].Order, stage)].push_back(i);
       // What an ambiguous line means may be another order of the unit.
@@ -168,6 +176,7 @@ class Contradictions {
         if (rows.empty() || rows.back() != i) rows.push_back(i);
       }
     }
+    SetAsideTakenBack();
   }
 
   void Weigh() {
@@ -179,6 +188,17 @@ class Contradictions {
   }
 
  private:
+  /// "Scrap Mun - Bur" is said of the same order above it.
+  void SetAsideTakenBack() {
+    isTakenBack_.resize(lines_.size());
+    std::set<std::string_view> takenBack;
+    for (std::size_t row = lines_.size(); row-- > 0;) {
+      if (!IsUnderstood(lines_[row])) continue;
+      isTakenBack_[row] = takenBack.contains(lines_[row].Order);
+      if (around_[row].IsRevoked && around_[row].IsSetAside) takenBack.insert(lines_[row].Order);
+    }
+  }
+
   /// Takes out the orders that a later one surely replaces.
   void SetAsideReplaced(std::vector<std::size_t>& rows) {
     std::vector<std::size_t> left;
@@ -225,12 +245,13 @@ class Contradictions {
   }
 
   /// What stands under "Example:" and the like says nothing against an order elsewhere.
-  bool IsSetAside(std::size_t row) const { return around_[row].IsSetAside; }
+  bool IsSetAside(std::size_t row) const { return around_[row].IsSetAside || isTakenBack_[row]; }
 
   std::vector<ReadLine>& lines_;
   const std::vector<Surroundings>& around_;
   /// How many lines without an order correct, of those before each.
   std::vector<std::size_t> corrections_;
+  std::vector<bool> isTakenBack_;  ///< by row: a line below takes the order back
   OrdersOfSubject orders_;
 };
 

@@ -18,7 +18,13 @@ namespace {
 /// PlainPhrases, parted by "|"; "@" is a name, "~" one or two of them. In the languages of the
 /// verbs.
 constexpr std::string_view PlainPhrases =
-    "wish me luck|here we go|watch out|lets dance|couldnt resist|could not resist|a bit boring|i "
+    "rest stays|the rest stays|rest unchanged|rest is unchanged|rest the same|everything else "
+    "stays|"
+    "rest bleibt|der rest bleibt|alles andere bleibt|le reste ne change pas|le reste inchange|el "
+    "resto igual|resto igual|il resto uguale|o resto igual|rest blijft|resten uandret|resten "
+    "ofrandrat|reszta bez zmian|"
+    "make it|wish me luck|here we go|watch out|lets dance|couldnt resist|could not resist|a bit "
+    "boring|i "
     "know|"
     "textbook|the crowd goes wild|you saw nothing|as if you didnt know|long live the king|"
     "long live the queen|long live|keep it secret|its a secret|oh la la|easy peasy|cant go wrong|"

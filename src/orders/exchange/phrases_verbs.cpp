@@ -45,6 +45,10 @@ const std::vector<VerbPhrase>& AllVerbPhrases() {
                                                {Verb::Move, {"sale", "hacia"}},
                                                {Verb::Move, {"sale", "para"}},
                                                {Verb::Retreat, {"bat", "en", "retraite"}},
+                                               {Verb::Retreat, {"en", "retraite"}},
+                                               {Verb::Retreat, {"in", "ritirata"}},
+                                               {Verb::Retreat, {"en", "retirada"}},
+                                               {Verb::Retreat, {"em", "retirada"}},
                                                {Verb::Retreat, {"wijkt", "uit"}},
                                                {Verb::Disband, {"zostaje", "rozwiazana"}},
                                                {Verb::Disband, {"goes", "home"}},
@@ -134,9 +138,9 @@ bool Phrases::IsReflexive(std::size_t at) const {
 /// "To" before a place, in languages whose word for it is short or a verb elsewhere: "retraite à
 /// Paris".
 bool Phrases::IsDirection(std::size_t at) const {
-  constexpr std::array words{"a"sv,  "do"sv, "na"sv,   "au"sv,   "en"sv,    "al"sv,
-                             "ad"sv, "to"sv, "para"sv, "pour"sv, "upon"sv,  "into"sv,
-                             "on"sv, "su"sv, "sur"sv,  "vers"sv, "verso"sv, "hacia"sv};
+  constexpr std::array words{"a"sv,  "in"sv, "em"sv,  "do"sv,   "na"sv,    "au"sv,   "en"sv,
+                             "al"sv, "ad"sv, "to"sv,  "para"sv, "pour"sv,  "upon"sv, "into"sv,
+                             "on"sv, "su"sv, "sur"sv, "vers"sv, "verso"sv, "hacia"sv};
   return at + 1 < tokens_.size() && !tokens_[at].Capital && IsOneOf(tokens_[at], words) &&
          !names_.At(tokens_, Skip(at + 1)).empty();
 }

@@ -103,6 +103,8 @@ class Rows {
   void AddAlternative(const SourceLine& line, const Said& said);
   void AmendBefore(const Said& said, int place);
   bool Exclude(const SourceLine& line, const Said& said);
+  bool TakesBackNext(const SourceLine& line, const Said& said);
+  bool EndsExclusion(const SourceLine& line, const Said& said) const;
   bool IsAddress(Tokens words, bool isFirst, int power) const;
   bool IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const;
 

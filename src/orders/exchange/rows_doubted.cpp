@@ -59,7 +59,8 @@ bool IsTitleOfAdjustments(Tokens words, const PlaceNames& names) {
 /// Whether words before an order are a title of it: "Orders of Turkey, with love: the".
 bool IsTitle(Tokens words, const PlaceNames& names, int power) {
   const auto last = std::find_if_not(words.rbegin(), words.rend(), [](const Token& token) {
-    return HasUse(token, WordUse::Filler) || IsWord(token, "het") || IsWord(token, "o");
+    return HasUse(token, WordUse::Filler, WordUse::Plea) || IsA(token, TokenKind::Comma) ||
+           IsWord(token, "het") || IsWord(token, "o");
   });
   if (last == words.rend() || !IsA(*last, TokenKind::Colon)) return false;
   const Tokens title = words.first(static_cast<std::size_t>(words.rend() - last));

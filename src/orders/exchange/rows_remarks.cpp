@@ -77,6 +77,8 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
     }
     const bool revokes = FindSaying(remark, Saying::Revokes).has_value();
     if (revokes && next != understood_.end()) Around.SetRevoked(next->Row);
+    if (revokes && TakesBackNext(line, said)) continue;
+    if (EndsExclusion(line, said)) continue;
     if (!isDoubted) continue;
     // "(was Pic)" says what is no more, but not that this is.
     const bool isUnreal = isOwn && !IsA(remark[0], TokenKind::Open) && IsUnreal(remark) &&
@@ -245,6 +247,34 @@ bool Rows::SpeaksOf(const SourceLine& line, const Said& said, const Understood& 
                          IsA(line.All[said.At.End - 1], TokenKind::Close);
   const bool isParted = IsA(line.All[said.At.End], TokenKind::Comma);
   return order.Row == before->Row || (order.Row == behind->Row && !isBracket && !isParted);
+}
+
+/// "Scrap Mun - Bur, make it A Mun - Ruh": whether words take back the order right behind them,
+/// whose unit is ordered again in the line.
+bool Rows::TakesBackNext(const SourceLine& line, const Said& said) {
+  const auto next = std::ranges::find(understood_, said.At.End,
+                                      [](const Understood& order) { return order.At.Begin; });
+  if (next == understood_.end() || NamesPlace(line.Part(said.At), known_.Names)) return false;
+  const std::string_view unit = orders::UnitPart(Lines[next->Row].Order);
+  const bool isAgain = std::any_of(next + 1, understood_.end(), [&](const Understood& order) {
+    return orders::UnitPart(Lines[order.Row].Order) == unit &&
+           Lines[order.Row].Order != Lines[next->Row].Order;
+  });
+  if (!isAgain) return false;
+  Around.SetDoubt(next->Row, Quoted(line.Part(said.At)) + " excludes it", line.Span(said.At), true);
+  return true;
+}
+
+/// "(not A Vie - Gal, I promised Russia)": whether words end a bracket in which an order is
+/// excluded right before them.
+bool Rows::EndsExclusion(const SourceLine& line, const Said& said) const {
+  const Tokens remark = line.Part(said.At);
+  const auto before = std::ranges::find(understood_, said.At.Begin,
+                                        [](const Understood& order) { return order.At.End; });
+  return before != understood_.end() && Around.Rows()[before->Row].IsRevoked &&
+         IsA(remark.back(), TokenKind::Close) &&
+         std::ranges::none_of(remark,
+                              [](const Token& token) { return IsA(token, TokenKind::Open); });
 }
 
 /// The orders behind the words, up to other words, are those that are not meant: "(not F Kie -

@@ -109,6 +109,7 @@ constexpr std::array Spellings{
         "zwarte zee|morze czarne|svarta havet|sortehavet|schwarzmeer|svartehavet"},
     UsualSpellings{"BOT",
                    "zatoki botnickiej|gob|gbo|bothnia|gulf bothnia|g of bothnia|gulf of "
+                   "botnia|gulf of bottnia|gulf of "
                    "both|bottnischer meerbusen|"
                    "bottnischen meerbusen|golfe de botnie|golfo di botnia|golfo de botnia|"
                    "botnische golf|bottenviken|botnia|bottenhavet|bottniska viken|bottniske "
