@@ -38,10 +38,11 @@ enum Topic : unsigned {
   Know = 1U << 23U,
   Want = 1U << 24U,
   May = 1U << 25U,
-  Write = 1U << 26U,
   Use = 1U << 27U,
   Suppose = 1U << 28U,
-  Life = 1U << 29U,  ///< what people ask each other about
+  Send = 1U << 29U,
+  Mail = 1U << 30U,
+  Life = 1U << 31U,  ///< what people ask each other about
 };
 
 struct TopicRow {
@@ -54,34 +55,40 @@ struct TopicRow {
 constexpr std::array TopicRows{
     TopicRow{
         Sketch,
-        "sketch* bluff* comparison copied unchecked proofread vorlage skizze* bluffe* "
-        "vergleich* kopiert abgeschrieben wurf esquisse* comparer comparaison copie copies "
-        "jet esbozo* farol faroles comparar comparacion copie copiado copiados abbozz* "
-        "confronto copiati copiato esboco* comparacao copiei copiadas opzet bluf bluft "
-        "vergelijking vergelijken gekopieerd overgenomen sammenligning kopieret kopiert skitse* "
-        "skisse* skiss* jamforelse jamfora kopierade kopierat szkic* blef* porownani* "
-        "skopiowa* przepisane"},
+        "sketch* bluff* comparison unchecked proofread vorlage skizze* bluffe* vergleich* "
+        "abgeschrieben wurf esquisse* comparer comparaison jet esbozo* farol faroles comparar "
+        "comparacion abbozz* confronto esboco* comparacao opzet bluf bluft vergelijking "
+        "vergelijken overgenomen sammenligning skitse* skisse* skiss* jamforelse jamfora szkic* "
+        "blef* porownani* przepisane memory gedachtnis memoire memoria hukommelse* minnet pamieci "
+        "dictes dicto dictado dettati ditou podyktowal* probelauf testlauf lessai ensayo ensaio "
+        "proef provet proby hergerissen indecis dudas indeciso indecisa watpliwosci vorschlag* "
+        "proposition propuesta proposta proposal voorstel forslag propozycj* confuse verwirren "
+        "brouiller despistar confonder* confundir verwarren forvirre forvirra zmylic archive "
+        "archiv archives archivo archivio arquivo archief arkiv archiwum"},
     TopicRow{Decide,
              "decided settled agreed fixed certain chosen checked verified finished "
              "entschieden entschlossen fest festgelegt beschlossen gepruft sicher fertig "
              "decide decides choisi fixe arrete verifie certain "
              "decidido decidida decidid* elegido comprobado segur* "
-             "deciso decisa decisi scelto controllat* sicuro "
-             "definido escolhi verificad* certeza "
+             "deciso decisa decisi scelto controll* sicuro "
+             "definido escolhi verific* certeza "
              "besloten beslist vast gekozen nagekeken zeker "
              "afgjort avgjort besluttet bestemt valgt tjekket sjekket sikkert "
              "bestamt beslutat valt kollat sakert "
-             "zdecydowa* postanowi* wybral* sprawdz* pewne"},
+             "zdecydowa* postanowi* wybral* sprawdz* pewne convinced uberzeugt convaincu "
+             "convaincue convencido convencida convinto convinta overtuigd overbevist overbevisad "
+             "overtygad przekonan* verifier comprob* tjekke sjekke kolla"},
     TopicRow{Enter,
              "enter entered file record submit process book trag trage tragt eintragen saisis "
              "saisissez saisir enregistre apuntes apuntar introduzcas anotes registres registes "
              "registre registar inserire inserisci inserirl* registrare voer voert invoeren invul* "
-             "skriv indtast wpisuj* wpisywac wprowadza*"},
+             "skriv indtast wpisuj* wpisywac wprowadza* program programm programme programa "
+             "programma programmet programu eingeben"},
     TopicRow{Until,
              "until till before unless once erst bevor ehe sobald solange avant jusqua jusque tant "
              "des hasta antes mientras cuanto prima finche appena quando ate antes enquanto assim "
-             "pas totdat voordat zodra zolang for indtil saa snart lange forran innan tills sa "
-             "fort dopoki zanim poki"},
+             "pas totdat voordat zodra zolang indtil saa snart lange forran innan tills sa "
+             "fort dopoki zanim poki bis az"},
     TopicRow{Talk,
              "talk talked spoken spoke gesprochen geredet parle hablado hablar hable parlato parli "
              "parlare falado falar falei fale gesproken spreek talt snakket pratat talat "
@@ -93,7 +100,8 @@ constexpr std::array TopicRows{
              "wait waits waiting await awaiting warte warten attends attend attendant jattends "
              "nattends espero "
              "esperando esperar aspetto aspettando attendo espero wacht wachten wachtend venter "
-             "vente avventer vantar vanta czekam czekajac"},
+             "vente avventer vantar vanta czekam czekajac poczekaj poczekajcie aspetta aspettate "
+             "attendez espera esperad warte wartet vent"},
     TopicRow{Tell,
              "tell sage sag sagt dis dirai redis digo dime dire decir dico diro dimmi dirti "
              "diz digo direi zeg zegt siger sig sier sager sag powiem powiedz"},
@@ -141,7 +149,7 @@ constexpr std::array TopicRows{
              "komt komen volgt volgen kommer folger foljer bedzie beda przyjdzie przysle"},
     TopicRow{Other,
              "other another anderen andere andern autre otra otro altra altro outro outra andet "
-             "anden annet annen andra annat innej innego drugiej"},
+             "anden annet annen andra annat innej innego drugiej else anderes anders"},
     TopicRow{Game,
              "game board partie spiel runde brett partie jeu partida juego tablero partita gioco "
              "partida jogo tabuleiro spel partij bord spil parti spillet spelet spill partiet "
@@ -165,15 +173,18 @@ constexpr std::array TopicRows{
     TopicRow{May,
              "can may might could kann konnte durfte peut pourrait puede podria puo potrebbe pode "
              "poderia kan kunne kunde moze moglby"},
-    TopicRow{Write,
-             "write hear melde schreibe hore recris ecris reponds escribo escriba contesto scrivo "
-             "rispondo escrever escrevo responder schrijf meld horen hoor skriver svarer svarar "
-             "napisze odezwe"},
     TopicRow{Use,
-             "use take run play nimm nehmt benutze prends prenez utilise usa use usad toma "
+             "use take run nimm nehmt benutze prends prenez utilise usa use usad toma "
              "coge prendi usate usem gebruik neem brug bruk tag ta anvand wez uzyj"},
     TopicRow{Suppose,
              "if unless wenn falls sollte si se als indien mocht hvis om jesli jezeli gdyby"},
+    TopicRow{
+        Send,
+        "send sends sending schicke sende envoie envoyer mande mando envio enviar mandare mandi "
+        "invio enviar sturen stuur sender skickar wysle przesle"},
+    TopicRow{Mail,
+             "mail mails email message nachricht courriel correo mensaje messaggio "
+             "mensagem bericht mejl mejlet besked melding wiadomosc"},
     TopicRow{
         Life,
         "monday tuesday wednesday thursday friday saturday sunday weekend* holiday* vacation* "
@@ -218,11 +229,13 @@ constexpr std::array OpenMatters{
     OpenMatter{Await | Answer, false},  OpenMatter{Tell | Which, false},
     OpenMatter{Throw | Listing, false}, OpenMatter{Valid | Only, false},
     OpenMatter{Valid | Until, false},   OpenMatter{Valid, true},
-    OpenMatter{Look | Tell, false},     OpenMatter{Change | Still, false},
+    OpenMatter{Look | Tell, false},     OpenMatter{Await | Until, false},
+    OpenMatter{Await | Mail, false},    OpenMatter{Other | Send, false},
+    OpenMatter{Suppose | Use, false},   OpenMatter{Change | Still, false},
     OpenMatter{Change | May, false},    OpenMatter{Change | Tell, false},
     OpenMatter{Real | Come, false},     OpenMatter{Other | Game, false},
     OpenMatter{Serious, true},          OpenMatter{Ask | Play, false},
-    OpenMatter{Know | Want, true},      OpenMatter{Suppose | Write | Use, false},
+    OpenMatter{Know | Want, true},
 };
 
 }  // namespace

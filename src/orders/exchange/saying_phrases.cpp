@@ -208,6 +208,13 @@ constexpr std::array SayingTable{
         "should i instead"},
     SayingPhrases{
         Saying::Postpones,
+        "vent til|wacht tot|espera a que|espera que o|espera que a|aspetta che|attends "
+        "que|attendez que|he dictated|she dictated|han dikterede|hun dikterede|han dikterade|hon "
+        "dikterade|heeft ze door|er hat sie mir|sie hat sie mir|mir diktiert|"
+        "last word|letzte wort|dernier mot|ultima palabra|ultima parola|ultima palavra|laatste "
+        "woord|sidste ord|siste ord|sista ord|ostatnie slowo|two minds|up to me|nach mir ginge|qua "
+        "moi|de mi dependiera|dependesse de mim|dipendesse da me|aan mij lag|stod til mig|upp till "
+        "mig|ode mnie zalezalo|"
         "dont believe a|dont believe him|dont believe her|dont believe it|dont believe them|"
         "glaub ihm|glaubt ihm|glaube ihm|nen crois pas|nen croyez pas|no le creas|no le creais|"
         "non credergli|nao acredites|nao acreditem|geloof er niets|geloof hem|tro ham ikke|"
