@@ -101,9 +101,10 @@ class Rows {
   bool PutsRight(const SourceLine& line, const Said& said, const Understood& next) const;
   bool DoubtUnreal(const SourceLine& line, const Said& said);
   void AddAlternative(const SourceLine& line, const Said& said);
-  void AmendBefore(const Said& said, int place);
+  void Amend(const SourceLine& line, const Said& said, int place);
   bool Exclude(const SourceLine& line, const Said& said);
   bool TakesBackNext(const SourceLine& line, const Said& said);
+  bool LeadsFromExcluded(const SourceLine& line, const Said& said) const;
   bool EndsExclusion(const SourceLine& line, const Said& said) const;
   bool IsAddress(Tokens words, bool isFirst, int power) const;
   bool IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const;

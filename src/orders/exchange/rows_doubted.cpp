@@ -8,6 +8,7 @@
 #include "orders/exchange/second_thoughts.h"
 
 #include <algorithm>
+#include <array>
 #include <string_view>
 
 // Whether the words beside the orders of a line leave them as they are.
@@ -68,6 +69,8 @@ bool IsTitle(Tokens words, const PlaceNames& names, int power) {
     return HasUse(token, WordUse::Condition) || IsDoubtfulSign(token);
   });
   const int named = PowerIn(title);
+  constexpr std::array<std::string_view, 4> postscripts{"ps", "pps", "pd", "p"};
+  if (IsOneOf(title[0], postscripts) && std::ranges::count_if(title, IsWordToken) == 1) return true;
   // "One change to what I sent:".
   if (Corrects(title) && !NamesPlace(title, names)) return true;
   if (isOpen || ReadAside(title, names) || IsReport(title) || Reconsiders(title)) return false;

@@ -1,6 +1,7 @@
 #include "orders/exchange/doubts.h"
 #include "orders/exchange/harmless_words.h"
 #include "orders/exchange/line_kinds.h"
+#include "orders/exchange/replacements.h"
 #include "orders/exchange/rows.h"
 #include "orders/exchange/sayings.h"
 #include "orders/exchange/second_thoughts.h"
@@ -23,6 +24,13 @@ constexpr std::size_t LongestGreeting = 6;
 bool GreetsAt(Tokens words) {
   const std::size_t first = IsA(words[0], TokenKind::Open) ? 1 : 0;
   return first < words.size() && HasUse(words[first], WordUse::Greeting);
+}
+
+/// Whether no more than commas stand between two places of a line.
+bool IsNextTo(Tokens line, std::size_t end, std::size_t begin) {
+  return end <= begin &&
+         std::ranges::all_of(line.subspan(end, begin - end),
+                             [](const Token& token) { return IsA(token, TokenKind::Comma); });
 }
 
 }  // namespace
@@ -53,7 +61,7 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
         !IsA(remark.back(), TokenKind::Word) &&
         std::ranges::any_of(remark, [&](const Token& token) { return IsOneOf(token, answers); });
     if (!isAnswer && FindSaying(remark, Saying::Excludes) && Exclude(line, said)) continue;
-    if (const int place = ExcludedPlace(remark, known_.Names); place != 0) AmendBefore(said, place);
+    if (const int place = ExcludedPlace(remark, known_.Names); place != 0) Amend(line, said, place);
     const auto next = std::ranges::find_if(
         understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
     const bool excuses =
@@ -77,8 +85,8 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
     }
     const bool revokes = FindSaying(remark, Saying::Revokes).has_value();
     if (revokes && next != understood_.end()) Around.SetRevoked(next->Row);
-    if (revokes && TakesBackNext(line, said)) continue;
-    if (EndsExclusion(line, said)) continue;
+    if ((revokes || Replaces(remark)) && TakesBackNext(line, said)) continue;
+    if (EndsExclusion(line, said) || LeadsFromExcluded(line, said)) continue;
     if (!isDoubted) continue;
     // "(was Pic)" says what is no more, but not that this is.
     const bool isUnreal = isOwn && !IsA(remark[0], TokenKind::Open) && IsUnreal(remark) &&
@@ -139,10 +147,13 @@ bool Rows::PutsRight(const SourceLine& line, const Said& said, const Understood&
 }
 
 /// "A Par - Bur, not Pic" holds rather than an order to Picardy above.
-void Rows::AmendBefore(const Said& said, int place) {
+void Rows::Amend(const SourceLine& line, const Said& said, int place) {
   constexpr std::size_t nameLength = 3;
   for (const Understood& order : understood_) {
-    if (order.At.End != said.At.Begin) continue;
+    // "Instead of Burgundy, Paris goes to Picardy".
+    const bool isNext = IsNextTo(line.All, order.At.End, said.At.Begin) ||
+                        IsNextTo(line.All, said.At.End, order.At.Begin);
+    if (!isNext) continue;
     Around.SetInstead(order.Row, text::UpperCase(known_.NameOf(place).substr(0, nameLength)));
   }
 }
@@ -254,14 +265,18 @@ bool Rows::SpeaksOf(const SourceLine& line, const Said& said, const Understood& 
 bool Rows::TakesBackNext(const SourceLine& line, const Said& said) {
   const auto next = std::ranges::find(understood_, said.At.End,
                                       [](const Understood& order) { return order.At.Begin; });
-  if (next == understood_.end() || NamesPlace(line.Part(said.At), known_.Names)) return false;
+  const Tokens remark = line.Part(said.At);
+  const bool asks = std::ranges::any_of(
+      remark, [](const Token& token) { return IsWord(token, "favor"); });  // no place: "por favor"
+  if (next == understood_.end() || (!asks && NamesPlace(remark, known_.Names))) return false;
   const std::string_view unit = orders::UnitPart(Lines[next->Row].Order);
   const bool isAgain = std::any_of(next + 1, understood_.end(), [&](const Understood& order) {
     return orders::UnitPart(Lines[order.Row].Order) == unit &&
            Lines[order.Row].Order != Lines[next->Row].Order;
   });
   if (!isAgain) return false;
-  Around.SetDoubt(next->Row, Quoted(line.Part(said.At)) + " excludes it", line.Span(said.At), true);
+  Around.SetDoubt(next->Row, Quoted(remark) + " excludes it", line.Span(said.At), true);
+  Around.SetTakenBack(next->Row);
   return true;
 }
 
@@ -275,6 +290,25 @@ bool Rows::EndsExclusion(const SourceLine& line, const Said& said) const {
          IsA(remark.back(), TokenKind::Close) &&
          std::ranges::none_of(remark,
                               [](const Token& token) { return IsA(token, TokenKind::Open); });
+}
+
+/// "Change A Par - Bur into A Par - Pic", "strike Par - Bur, it is A Par - Pic": whether a few
+/// words stand between an order that is taken back and another of its unit.
+bool Rows::LeadsFromExcluded(const SourceLine& line, const Said& said) const {
+  constexpr std::size_t few = 4;
+  const auto before = std::ranges::find_if(understood_, [&](const Understood& order) {
+    return IsNextTo(line.All, order.At.End, said.At.Begin);
+  });
+  const auto behind = std::ranges::find_if(understood_, [&](const Understood& order) {
+    return IsNextTo(line.All, said.At.End, order.At.Begin);
+  });
+  if (before == understood_.end() || behind == understood_.end()) return false;
+  const Tokens remark = line.Part(said.At);
+  const bool isOpen = std::ranges::any_of(remark, [](const Token& token) {
+    return HasUse(token, WordUse::Condition, WordUse::Reservation) || IsDoubtfulSign(token);
+  });
+  return Around.Rows()[before->Row].IsTakenBack && remark.size() <= few && !isOpen &&
+         orders::UnitPart(Lines[before->Row].Order) == orders::UnitPart(Lines[behind->Row].Order);
 }
 
 /// The orders behind the words, up to other words, are those that are not meant: "(not F Kie -

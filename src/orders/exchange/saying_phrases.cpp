@@ -385,11 +385,14 @@ constexpr std::array SayingTable{
         Saying::Excludes,
         "=no|=non|=nao|=nej|=nei|=nie|=nein|=nee|=not|=nicht|=pas|=niet|=ikke|=inte|=instead "
         "of|=rather than|=statt|=anstatt|=anstelle von|"
-        "=au lieu de|=plutot que|=en lugar de|=en vez de|=invece di|=invece che|=em vez de|"
+        "=au lieu de|=au lieu du|=au lieu de la|=en lugar de la|=en lugar del|=en vez de la|=en "
+        "vez del|=invece della|=invece del|=invece dell|=em vez da|=em vez do|=em lugar da|=em "
+        "lugar do|=anstelle|=plutot que|=en lugar de|=en vez de|=invece di|=invece che|=em vez de|"
         "=em lugar de|=in plaats van|=i stedet for|=istallet for|=i stallet for|=zamiast|=a nie|"
         "=misto|=helyett|=eika"},
     SayingPhrases{Saying::Reconsiders,
-                  "no|nope|nah|nay|wait|hang on|actually|rather|hmm|hm|oops|whoops|ooops|"
+                  "oups|ups|uy|huy|ops|oeps|oj|hoppsan|hov|ojej|no|nope|nah|nay|wait|hang "
+                  "on|actually|rather|hmm|hm|oops|whoops|ooops|"
                   "sorry|apologies|better|on reflection|second thought|second thoughts|not that|"
                   "i mean|i meant|make that|scratch that|strike that|scrap that|correction|"
                   "my mistake|my bad|instead|nein|nee|doch|lieber|besser|quatsch|moment|stopp|"
@@ -399,6 +402,20 @@ constexpr std::array SayingTable{
                   "liever|toch|eigenlijk|foutje|nej|nei|vent|hellere|heller|alligevel|"
                   "egentlig|egentligen|vanta|hellre|snarare|undskyld|unnskyld|forlat|nie|"
                   "czekaj|raczej|jednak|wlasciwie|przepraszam"},
+    SayingPhrases{
+        Saying::Corrects,
+        "ich meinte|ich meine|gemeint war|gemeint ist|je voulais dire|je veux dire|queria "
+        "decir|quise decir|quiero decir|volevo dire|intendevo|voglio dire|queria dizer|quis "
+        "dizer|quero dizer|ik bedoelde|ik bedoel|bedoelde ik|jeg mente|jeg mener|jag menade|jag "
+        "menar|mialem na mysli|mialam na mysli|chodzilo mi o|planwijziging|plananderung|changement "
+        "de plan|changement de programme|cambio de planes|cambio de plan|cambio di "
+        "programma|cambio di piano|mudanca de planos|mudanca de plano|planandring|andrad "
+        "plan|andrede planer|endret plan|zmiana planu|zmiana planow|un changement|une "
+        "modification|une correction|petit changement|petite correction|un cambio|una "
+        "correccion|pequeno cambio|una modifica|una correzione|piccola modifica|uma alteracao|uma "
+        "correcao|pequena alteracao|een wijziging|kleine wijziging|een correctie|en andring|lille "
+        "andring|liten andring|en endring|en rettelse|en rattelse|jedna zmiana|mala zmiana|jedna "
+        "poprawka|eine anderung|kleine anderung|eine korrektur|kleine korrektur"},
 };
 
 }  // namespace

@@ -32,7 +32,8 @@ bool Supposes(Tokens words) {
 std::size_t LengthOfInstead(Tokens words, std::size_t at) {
   constexpr std::array<std::string_view, 4> single{"instead", "stattdessen", "istallet", "invece"};
   constexpr std::array<std::string_view, 2> afterI{"stallet", "stedet"};
-  constexpr std::array<std::string_view, 4> of{"of", "for", "av", "di"};
+  constexpr std::array<std::string_view, 10> of{"of",   "for", "av",  "di", "della",
+                                                "dell", "del", "dei", "de", "da"};
   const auto isOneOf = [&](const auto& list, std::size_t place) {
     return place < words.size() && std::ranges::find(list, words[place].Text) != list.end();
   };
@@ -83,7 +84,9 @@ int ExcludedPlace(Tokens words, const PlaceNames& names) {
   constexpr std::size_t longestPhrase = 3;
   while (!words.empty() && (IsA(words[0], TokenKind::Open) || IsA(words[0], TokenKind::Comma)))
     words = words.subspan(1);
-  while (!words.empty() && !IsA(words.back(), TokenKind::Word))
+  // "Statt Burgund geht Paris nach Pic".
+  while (!words.empty() && (!IsA(words.back(), TokenKind::Word) ||
+                            (VerbOf(words.back()) == Verb::Move && words.back().Text.size() > 2)))
     words = words.first(words.size() - 1);
   for (std::size_t length = 1; length <= std::min(longestPhrase, words.size()); ++length) {
     const auto said = FindSaying(words.first(length), Saying::Excludes);

@@ -9,6 +9,7 @@
 #include "orders/exchange/other_matters.h"
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/prose.h"
+#include "orders/exchange/replacements.h"
 #include "orders/exchange/rest_holds.h"
 #include "orders/exchange/sayings.h"
 #include "orders/exchange/second_thoughts.h"
@@ -124,6 +125,8 @@ class SegmentReader {
     PartRead read = ReadPart(tokens, known_, whole);
     const bool isWhole = IsUnderstood(read) && !TellsHelpers(tokens);
     if (isWhole) return Take(range, std::move(read), whole);
+    whole = context_;
+    if (TakeAll(ReadReplacement(tokens, known_, whole), range.Begin, whole)) return;
     if (ReadClauses(range)) return;
     whole = context_;
     if (TakeAll(ReadRunOn(tokens, known_, whole), range.Begin, whole)) return;
@@ -285,8 +288,9 @@ class SegmentReader {
     // A heading before what was not understood holds all the same.
     context_ = behind;
     // What does not begin as an order of its own may concern the orders beside it.
-    if (Speaks(tokens, known_.Names, context_.Power) && !BeginsAsOrder(tokens, known_.Names))
-      part = Remark();
+    const bool speaks =
+        Speaks(tokens, known_.Names, context_.Power) && !BeginsAsOrder(tokens, known_.Names);
+    if (speaks || ExcludedPlace(tokens, known_.Names) != 0) part = Remark();
   }
 
   /// "Ion s ... no just ion hold": what was begun gives way to the order of the same unit.

@@ -21,9 +21,11 @@ constexpr std::array SignalRows{
         "order orders list lists version two half some none "
         "diese dieser dieses denen ihnen oben zeile zeilen anderen gleichen selben letzte letzten "
         "vorigen erste ersten zweite zweiten befehl befehle zug zuge "
-        "pareil ceux celles ceci dernier derniere derniers precedents premier premiere memes autres ligne "
+        "pareil ceux celles ceci dernier derniere derniers precedents premier premiere memes "
+        "autres ligne "
         "ordres coups "
-        "mismo estos estas esos esas ultimo ultimos ultima pasado pasada anteriores primero primera "
+        "mismo estos estas esos esas ultimo ultimos ultima pasado pasada anteriores primero "
+        "primera "
         "mismos otros linea ordenes "
         "stesso questi queste quelli ultimi ultime scorso scorsa scorsi precedenti primo prima "
         "stessi altri riga ordini "
@@ -82,8 +84,10 @@ constexpr std::array SignalRows{
         Signal::Later,
         "later tomorrow soon come comes coming follow follows following first before after once "
         "until till when yet wait await awaits morgen spater zuerst erst bevor sobald warte "
-        "demain attendre bientot avant apres attends esperar aspettare manana luego antes cuando espera domani dopo prima "
-        "quando aspetta amanha depois straks eerst zodra wacht wachten senere forst vent vente vanta imorgon "
+        "demain attendre bientot avant apres attends esperar aspettare manana luego antes cuando "
+        "espera domani dopo prima "
+        "quando aspetta amanha depois straks eerst zodra wacht wachten senere forst vent vente "
+        "vanta imorgon "
         "snart jutro potem najpierw"},
     SignalRow{
         Signal::Rejects,

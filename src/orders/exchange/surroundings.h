@@ -21,12 +21,13 @@ struct Misgiving {
 
 /// What stands around a line that was read.
 struct Surroundings {
-  bool IsOlder = false;     ///< in a part of the text that is quoted from an earlier one
-  bool Corrects = false;    ///< its words say that it holds rather than what stands above
-  bool Amends = false;      ///< second thoughts before it put it in the place of another order
-  std::string Instead;      ///< the province that it says to be no longer the destination
-  bool IsRevoked = false;   ///< words before the order take it back, wherever it stands
-  bool IsSetAside = false;  ///< a heading or line says that it is not for now
+  bool IsOlder = false;      ///< in a part of the text that is quoted from an earlier one
+  bool Corrects = false;     ///< its words say that it holds rather than what stands above
+  bool Amends = false;       ///< second thoughts before it put it in the place of another order
+  std::string Instead;       ///< the province that it says to be no longer the destination
+  bool IsRevoked = false;    ///< words before the order take it back, wherever it stands
+  bool IsTakenBack = false;  ///< and for another one of its unit in the same line
+  bool IsSetAside = false;   ///< a heading or line says that it is not for now
   std::shared_ptr<const Misgiving> Doubt;           ///< about the orders here, or none
   std::shared_ptr<const Misgiving> SecondThoughts;  ///< right before the order, about those above
   Concern About;                                    ///< what is not understood in the line
@@ -90,6 +91,12 @@ class SurroundingsOfLines {
 
   /// The order of a row is taken back.
   void SetRevoked(std::size_t row) { rows_[row].IsRevoked = true; }
+
+  /// The order of a row is taken back for another one in its line.
+  void SetTakenBack(std::size_t row) {
+    rows_[row].IsRevoked = true;
+    rows_[row].IsTakenBack = true;
+  }
 
   /// Something speaks against the orders from a row on; what was found first counts.
   void SetDoubtFrom(std::size_t first, const std::string& reason, Span at);

@@ -98,7 +98,8 @@ constexpr std::array Uses{
         WordUse::Correction,
         "correction corrections korrektur correzione correccion correctie correcao rectification "
         "rectificatif rattelse rettelse andring endring aendring anderung wijziging alteracao "
-        "korekta poprawka errata erratum update updates revision "
+        "rettifica rectifico retificacao retifico sprostowanie anderung korekta poprawka errata "
+        "erratum update updates revision "
         "amendment amendments edit instead"},
     UseWords{
         WordUse::Reservation,
