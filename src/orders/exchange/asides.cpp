@@ -56,6 +56,27 @@ bool IsPolite(const Token& token) {
          IsWord(token, "not") || IsWord(token, "may");
 }
 
+/// A word of a title by which what stands below is no orders, or not yet: "What France will
+/// probably do", "not these".
+std::optional<std::size_t> FindOpenWord(Tokens title) {
+  constexpr auto rejects = static_cast<unsigned>(Signal::Rejects);
+  constexpr auto points = static_cast<unsigned>(Signal::Points);
+  constexpr auto denies = static_cast<unsigned>(Signal::Denies);
+  constexpr std::ptrdiff_t few = 3;
+  constexpr std::ptrdiff_t most = 6;  // longer ones hold thoughts of their own
+  const auto words = std::ranges::count(title, TokenKind::Word, &Token::Kind);
+  const bool isBrief = words <= few;
+  unsigned signals = 0;
+  for (std::size_t at = 0; at < title.size(); ++at) {
+    // "For the avoidance of doubt".
+    if ((title[at].Means.Signals & rejects) != 0 && !IsWord(title[at], "doubt")) return at;
+    signals |= title[at].Means.Signals;
+  }
+  const bool deniesAll = isBrief && (signals & points) != 0 && (signals & denies) != 0;
+  return deniesAll || (words <= most && LeavesOpen(title)) ? std::optional<std::size_t>(0)
+                                                           : std::nullopt;
+}
+
 /// What a line that ends in a colon sets aside: "Draft:", "If Germany agrees:".
 std::optional<Aside> ReadTitle(Tokens line) {
   const Tokens last = LastSentence(line);
@@ -77,6 +98,7 @@ std::optional<Aside> ReadTitle(Tokens line) {
   for (const Saying saying : {Saying::Postpones, Saying::Titles}) {
     if (const auto at = FindSaying(last, saying)) return below(at->Begin, at->End);
   }
+  if (const auto at = FindOpenWord(last)) return below(*at, *at + 1);
   // Behind its first words "if" is one of another thought: "here you go, hope you see if it fits:".
   constexpr std::size_t few = 5;
   const bool isShort = std::ranges::count(last, TokenKind::Word, &Token::Kind) <= 6;
@@ -214,7 +236,13 @@ bool IsOwnTitle(Tokens line) {
       "zegt",      "siger",    "sager",   "mowi",     "ally",        "allies",
       "neighbour", "neighbor", "friend",  "opponent", "predecessor", "brother",
       "vorganger", "allie",    "aliado",  "alleato",  "verbundeter", "bondgenoot"};
-  const bool isOthers = std::ranges::any_of(line, [&](const Token& token) {
+  // "Agreed with my ally:".
+  constexpr std::array<std::string_view, 12> agreed{
+      "agreed",     "confirmed", "discussed",   "abgesprochen", "besprochen",    "acordado",
+      "concordato", "combinado", "afgesproken", "aftalt",       "overenskommet", "uzgodnione"};
+  const bool isAgreed =
+      std::ranges::any_of(line, [&](const Token& token) { return IsOneOf(token, agreed); });
+  const bool isOthers = !isAgreed && std::ranges::any_of(line, [&](const Token& token) {
     return std::ranges::find(others, token.Text) != others.end();
   });
   return !isOthers && std::ranges::any_of(line, [](const Token& token) {

@@ -282,8 +282,8 @@ class TextReader {
   void TakeOwnTitle(Tokens title) {
     const bool isOfOrders = std::ranges::any_of(
         title, [](const Token& token) { return HasUse(token, WordUse::Orders); });
-    const bool isOwn =
-        std::ranges::any_of(title, [](const Token& token) { return HasUse(token, WordUse::Own); });
+    const bool isOwn = std::ranges::any_of(
+        title, [](const Token& token) { return HasUse(token, WordUse::Own, WordUse::Season); });
     if (!Corrects(title) && !(isOfOrders && isOwn)) return;
     quotations_.BeginOwn();
     rows_.Around.TakeHeading(PowerIn(title), Corrects(title), true, rows_.Lines);

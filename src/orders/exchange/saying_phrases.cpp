@@ -416,6 +416,22 @@ constexpr std::array SayingTable{
         "correcao|pequena alteracao|een wijziging|kleine wijziging|een correctie|en andring|lille "
         "andring|liten andring|en endring|en rettelse|en rattelse|jedna zmiana|mala zmiana|jedna "
         "poprawka|eine anderung|kleine anderung|eine korrektur|kleine korrektur"},
+    SayingPhrases{
+        Saying::Corrects,
+        "replacing everything|replaces everything|replace everything|ersetzt alles|ersetzen "
+        "alles|remplace tout|remplacent tout|sustituye todo|sustituyen todo|sostituisce "
+        "tutto|sostituiscono tutto|substitui tudo|substituem tudo|vervangt alles|vervangen "
+        "alles|erstatter alt|erstatter allt|ersatter allt|zastepuje wszystko|zastepuja "
+        "wszystko|prends ceux - ci|prends ceux ci a la place|prenez ceux - ci|gebruik deze|wez "
+        "te|prosze wziac te"},
+    SayingPhrases{Saying::Titles,
+                  "in mind|en mente|em mente|in mente|in gedachten|i tankerne|i tankarna|en "
+                  "tete|im kopf|im sinn|il veut que|vuole che|quiere que|ele quer que|vill han "
+                  "att|vil han have|ode mnie chce|mochte er von|wil hij dat"},
+    SayingPhrases{Saying::Postpones,
+                  "details follow|details to follow|details folgen|details a suivre|detalles mas "
+                  "tarde|dettagli a seguire|detalhes depois|details volgen|detaljer "
+                  "folger|szczegoly pozniej"},
 };
 
 }  // namespace

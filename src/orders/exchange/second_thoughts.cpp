@@ -61,6 +61,15 @@ bool IsTitleOfCorrection(Tokens line) {
     const auto isPair = [&](WordUse first, WordUse second) {
       return at + 1 < title.size() && HasUse(title[at], first) && HasUse(title[at + 1], second);
     };
+    // "Version 2 (final):".
+    const bool isVersion =
+        hasColon && HasUse(title[at], WordUse::Orders) &&
+        std::ranges::any_of(title.subspan(at + 1),
+                            [](const Token& token) {
+                              return HasUse(token, WordUse::Definite) && token.Text.size() > 3;
+                            }) &&
+        std::ranges::any_of(title.subspan(at + 1), IsNumber);
+    if (isVersion) return true;
     const bool isOrders = isPair(WordUse::Definite, WordUse::Orders) ||
                           (hasColon && isPair(WordUse::Orders, WordUse::Definite));
     const bool isOwn = at > 0 && (IsWord(title[at - 1], "my") || IsWord(title[at - 1], "our") ||

@@ -50,6 +50,8 @@ constexpr std::array Uses{
              "whether arent isnt wasnt doesnt"},
     UseWords{WordUse::Aside, "previously formerly last next later tomorrow example eg previous"},
     UseWords{WordUse::SetsAside,
+             "rejected discarded abandoned verworfene verworfenen abandonnes descartadas "
+             "descartados scartati verworpen forkastede forkastade odrzucone antiguas antiguos "
              "draft drafts example examples sample samples tentative provisional preliminary "
              "result results outcome outcomes report adjudication history idea ideas "
              "thoughts thinking hypothetical version previously yesterday yesterdays earlier "
@@ -126,7 +128,11 @@ constexpr std::array Uses{
              "outono verao herfst lente zomer najaar voorjaar host hosten var varen forar "
              "efterar jesien wiosna zima now jetzt maintenant ahora adesso nu"},
     UseWords{WordUse::Own,
-             "locked done my mine our ours final real actual true these those here hereby "
+             "also donc pues dunque entao dus altsa alltsa wiec eccoli alsjeblieft varsgo varsagod "
+             "announced angekundigt annonce anuncie anunciado annunciato aangekondigd annonceret "
+             "aviserat zapowiedzialem abgesprochen acordado concordato combinado afgesproken "
+             "aftalt avtalt overenskommet uzgodnione confirmed bardzo locked done my mine our ours "
+             "final real actual true these those here hereby "
              "herewith "
              "now today "
              "following follows below submit submitted submitting sending proper official current "
@@ -146,13 +152,15 @@ constexpr std::array Uses{
              "claimed thinks expects believes promised promises offered offers lied pretended "
              "sagte meinte dit disait dice zei"},
     UseWords{WordUse::Definite,
-             "final new revised updated corrected changed amended actual real definitive latest "
+             "definitiva definitivo definitivas definitieve endelig slutgiltig ostateczna final "
+             "new revised updated corrected changed amended actual real definitive latest "
              "definitif definitifs definitives definitivos definitivas definitivi definitivo "
              "endgultige endgultigen definitieve endelige slutgiltiga slutliga ostateczne "
              "ostateczny lopulliset vegleges konecne finale finaux"},
     UseWords{
         WordUse::Orders,
-        "order orders move moves version set list plan befehl befehle zuge zug ordre ordres coups "
+        "fassung versione versao versie wersja mouvements movimentos order orders move moves "
+        "version set list plan befehl befehle zuge zug ordre ordres coups "
         "ordenes orden movimientos jugadas ordini ordine mosse ordens ordem jogadas bevel "
         "bevelen zetten ordrer trekk traek trak drag rozkazy rozkaz ruchy kaskyt kasky siirrot "
         "parancsok parancs lepesek rozkazy prikazy prikaz tahy emirler emirleri prikaz "
