@@ -198,6 +198,24 @@ bool MakesCondition(Tokens line) {
   });
 }
 
+bool NamesUnits(Tokens words, const PlaceNames& names) {
+  constexpr auto mails = std::to_array<std::string_view>(
+      {"mail", "mails", "email", "message", "nachricht", "courriel", "correo", "mensaje",
+       "messaggio", "mensagem", "bericht", "mejl", "besked", "post", "letter"});
+  bool any = false;
+  for (std::size_t at = 0; at < words.size(); ++at) {
+    if (IsOneOf(words[at], mails) || HasUse(words[at], WordUse::Orders, WordUse::SetsAside,
+                                            WordUse::Elsewhere, WordUse::Correction)) {
+      return false;
+    }
+    const bool isUnit = UnitTypeOf(words[at]) != 0 && words[at].Text.size() > 1;
+    const bool isPlace =
+        words[at].Capital && words[at].Text.size() > 3 && !names.At(words, at).empty();
+    any = any || isUnit || isPlace;
+  }
+  return any;
+}
+
 bool IsReport(Tokens words) {
   constexpr std::array<std::string_view, 8> own{"i", "we", "my", "im", "ive", "id", "ill", "our"};
   bool tells = false;

@@ -28,6 +28,9 @@ std::optional<Aside> ReadAside(Tokens line, const PlaceNames& names);
 /// Where the subject of a mail says that its orders are not for now: "Entwurf", "not final".
 std::optional<TokenRange> ReadDraftSubject(Tokens line);
 
+/// Whether words name units or places, and no older orders or letters.
+bool NamesUnits(Tokens words, const PlaceNames& names);
+
 /// Whether a line has a word by which something depends on something else, "if", "unless", or is
 /// taken back; not where "not" or "should" are all.
 bool MakesCondition(Tokens line);

@@ -64,7 +64,7 @@ constexpr std::array TopicRows{
         "proef provet proby hergerissen indecis dudas indeciso indecisa watpliwosci vorschlag* "
         "proposition propuesta proposta proposal voorstel forslag propozycj* confuse verwirren "
         "brouiller despistar confonder* confundir verwarren forvirre forvirra zmylic archive "
-        "archiv archives archivo archivio arquivo archief arkiv archiwum"},
+        "archiv archives archivo archivio arquivo archief arkiv archiwum duvidas tvekar wstrzymaj"},
     TopicRow{Decide,
              "decided settled agreed fixed certain chosen checked verified finished "
              "entschieden entschlossen fest festgelegt beschlossen gepruft sicher fertig "
@@ -77,7 +77,8 @@ constexpr std::array TopicRows{
              "bestamt beslutat valt kollat sakert "
              "zdecydowa* postanowi* wybral* sprawdz* pewne convinced uberzeugt convaincu "
              "convaincue convencido convencida convinto convinta overtuigd overbevist overbevisad "
-             "overtygad przekonan* verifier comprob* tjekke sjekke kolla"},
+             "overtygad przekonan* verifier comprob* tjekke sjekke kolla open offen ouvert ouverte "
+             "abierta abierto aperto aperta aberto aben oppen oppet otwarty"},
     TopicRow{Enter,
              "enter entered file record submit process book trag trage tragt eintragen saisis "
              "saisissez saisir enregistre apuntes apuntar introduzcas anotes registres registes "
@@ -88,7 +89,7 @@ constexpr std::array TopicRows{
              "until till before unless once erst bevor ehe sobald solange avant jusqua jusque tant "
              "des hasta antes mientras cuanto prima finche appena quando ate antes enquanto assim "
              "pas totdat voordat zodra zolang indtil saa snart lange forran innan tills sa "
-             "fort dopoki zanim poki bis az"},
+             "fort dopoki zanim poki bis az fino vanavond tonight"},
     TopicRow{Talk,
              "talk talked spoken spoke gesprochen geredet parle hablado hablar hable parlato parli "
              "parlare falado falar falei fale gesproken spreek talt snakket pratat talat "
@@ -101,7 +102,8 @@ constexpr std::array TopicRows{
              "nattends espero "
              "esperando esperar aspetto aspettando attendo espero wacht wachten wachtend venter "
              "vente avventer vantar vanta czekam czekajac poczekaj poczekajcie aspetta aspettate "
-             "attendez espera esperad warte wartet vent"},
+             "attendez espera esperad warte wartet vent zuruckhalten guarda "
+             ""},
     TopicRow{Tell,
              "tell sage sag sagt dis dirai redis digo dime dire decir dico diro dimmi dirti "
              "diz digo direi zeg zegt siger sig sier sager sag powiem powiedz"},
@@ -121,10 +123,12 @@ constexpr std::array TopicRows{
              "valid void stand apply applies counts count gilt gelten gultig valable valables "
              "valent vaut valide valides vale valen valida validas valer vale valgono valido "
              "validi valem valido validas geldt gelden geldig gaelder galder gjelder gyldig* "
-             "galler giltig* wazne wazny obowiazuj* obowiazywa*"},
+             "galler giltig* wazne wazny obowiazuj* obowiazywa* comptent tellen telt licza liczy "
+             "cuentan contano contam teller raknas"},
     TopicRow{Only,
              "only provided should nur ausschlieslich solange seulement uniquement solo solamente "
-             "soltanto apenas somente so alleen slechts kun bare bara endast tylko dopoki"},
+             "soltanto apenas somente so alleen slechts kun bare bara endast tylko dopoki seuls "
+             "seules seul seule"},
     TopicRow{Look,
              "look glance peek schau schaut guck regarde regardez jette oeil vistazo mira mirad "
              "occhiata guarda guardate olhadela olhada olha kijk kijkje kig kik titta kolla okiem "
@@ -137,7 +141,7 @@ constexpr std::array TopicRows{
              "andra andras andrar annorlunda zmienic zmieni zmienil* inaczej"},
     TopicRow{Still,
              "still yet noch encore todavia aun ancora ainda nog stadig fortsatt fortfarande "
-             "annu jeszcze wciaz"},
+             "annu jeszcze wciaz sigue siguen"},
     TopicRow{Real,
              "real true proper right genuine echten echte richtigen richtige wahren endgultige* "
              "vraie vrais vraies vrai bonne bons bonnes verdadera verdaderas verdaderos buena "

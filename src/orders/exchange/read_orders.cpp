@@ -226,6 +226,11 @@ class TextReader {
       rows_.Around.DoubtAbove(Quoted(line.Part(*at)) + " may change it", line.Span(*at), concern,
                               rows_.Lines, first);
       if (LeadToIfAsked(line)) return;
+      // "I have doubts about Brest" above the first orders.
+      if (!rows_.HoldsOrders(0) && PowerIn(line.All) == 0 && NamesUnits(line.All, known_.Names)) {
+        rows_.Around.SetAside(AsideScope::Below, Quoted(line.Part(*at)) + " may change it",
+                              line.Span(*at), context_.Power, concern, rows_.Lines, first);
+      }
     }
     const Tokens said =
         Tokens(line.All).subspan(speakers_.Past(line.All, PastLineStart(line.All), known_.Names));
@@ -304,7 +309,11 @@ class TextReader {
     }
     rows_.PassOverAside(line, aside.At, first, inSignature_);
     const Concern concern = ConcernOf(line.All, known_.Names, *known_.Game.Map);
-    rows_.Around.SetAside(aside.Scope, Quoted(line.Part(aside.At)) + " sets it aside",
+    // "Ignore the fleet" above the first orders is said of those below it.
+    const bool isAhead = aside.Scope == AsideScope::Above && !rows_.HoldsOrders(0) &&
+                         NamesUnits(line.All, known_.Names);
+    const AsideScope scope = isAhead ? AsideScope::Below : aside.Scope;
+    rows_.Around.SetAside(scope, Quoted(line.Part(aside.At)) + " sets it aside",
                           line.Span(aside.At), context_.Power, concern, rows_.Lines, first);
     if (aside.Scope == AsideScope::Above) LeadToIfAsked(line);
     // "Next turn" right below orders may be of them, where it is no heading of others.

@@ -432,6 +432,15 @@ constexpr std::array SayingTable{
                   "details follow|details to follow|details folgen|details a suivre|detalles mas "
                   "tarde|dettagli a seguire|detalhes depois|details volgen|detaljer "
                   "folger|szczegoly pozniej"},
+    SayingPhrases{Saying::Postpones,
+                  "de cote|deja fuera|dejad fuera|lascia fuori|lasciate fuori|de fora|vaere "
+                  "ude|vare ude|vara utanfor|lamna utanfor|hangt von|hangt ab|abhangig von|depend "
+                  "de|dependent de|depende de|dependen de|dipende da|dipende dall|dipende "
+                  "dal|dipende dalla|depende da|depende do|hangt van|hangt af|afhankelijk "
+                  "van|afhanger|avhenger|beror pa|zalezy od|zaleza od|bis auf|hold back|hall inne"},
+    SayingPhrases{Saying::Postpones,
+                  "garde lordre|gardez lordre|garde l'ordre|guarda la orden|guarda a ordem|tieni "
+                  "fermo|hold fladens|hou het"},
 };
 
 }  // namespace
