@@ -62,6 +62,11 @@ std::optional<std::size_t> FindOpenWord(Tokens title) {
   constexpr auto rejects = static_cast<unsigned>(Signal::Rejects);
   constexpr auto points = static_cast<unsigned>(Signal::Points);
   constexpr auto denies = static_cast<unsigned>(Signal::Denies);
+  // "What I expect Germany to do".
+  constexpr auto guesses = std::to_array<std::string_view>(
+      {"expect", "expects",  "think",  "believe", "guess",  "erwarte",   "glaube", "denke",
+       "crois",  "pense",    "creo",   "pienso",  "espero", "aspetto",   "penso",  "credo",
+       "acho",   "verwacht", "geloof", "tror",    "mysle",  "spodziewam"});
   constexpr std::ptrdiff_t few = 3;
   constexpr std::ptrdiff_t most = 6;  // longer ones hold thoughts of their own
   const auto words = std::ranges::count(title, TokenKind::Word, &Token::Kind);
@@ -70,6 +75,7 @@ std::optional<std::size_t> FindOpenWord(Tokens title) {
   for (std::size_t at = 0; at < title.size(); ++at) {
     // "For the avoidance of doubt".
     if ((title[at].Means.Signals & rejects) != 0 && !IsWord(title[at], "doubt")) return at;
+    if (IsOneOf(title[at], guesses)) return at;
     signals |= title[at].Means.Signals;
   }
   const bool deniesAll = isBrief && (signals & points) != 0 && (signals & denies) != 0;
@@ -95,7 +101,7 @@ std::optional<Aside> ReadTitle(Tokens line) {
       return below(at, at + 1);
     }
   }
-  for (const Saying saying : {Saying::Postpones, Saying::Titles}) {
+  for (const Saying saying : {Saying::Postpones, Saying::Titles, Saying::Gives, Saying::Leaves}) {
     if (const auto at = FindSaying(last, saying)) return below(at->Begin, at->End);
   }
   if (const auto at = FindOpenWord(last)) return below(*at, *at + 1);

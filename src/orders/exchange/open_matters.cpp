@@ -78,7 +78,8 @@ constexpr std::array TopicRows{
              "zdecydowa* postanowi* wybral* sprawdz* pewne convinced uberzeugt convaincu "
              "convaincue convencido convencida convinto convinta overtuigd overbevist overbevisad "
              "overtygad przekonan* verifier comprob* tjekke sjekke kolla open offen ouvert ouverte "
-             "abierta abierto aperto aperta aberto aben oppen oppet otwarty"},
+             "abierta abierto aperto aperta aberto aben oppen oppet otwarty final definitiv* "
+             "definitif* endgultig* endelig* slutgiltig* ostateczn* pewn*"},
     TopicRow{Enter,
              "enter entered file record submit process book trag trage tragt eintragen saisis "
              "saisissez saisir enregistre apuntes apuntar introduzcas anotes registres registes "
@@ -138,7 +139,8 @@ constexpr std::array TopicRows{
              "changerais modifier autrement cambiar cambie cambiarias cambia cambiare cambieresti "
              "cambi cambiando diversamente mudar mude mudavas mudaria diferente veranderen "
              "verandert wijzigen aendre andre endre aendres aendrer andrer annerledes anderledes "
-             "andra andras andrar annorlunda zmienic zmieni zmienil* inaczej"},
+             "andra andras andrar annorlunda zmienic zmieni zmienil* inaczej umwerfe umwerfen "
+             "endrer zmienie"},
     TopicRow{Still,
              "still yet noch encore todavia aun ancora ainda nog stadig fortsatt fortfarande "
              "annu jeszcze wciaz sigue siguen"},
@@ -146,11 +148,14 @@ constexpr std::array TopicRows{
              "real true proper right genuine echten echte richtigen richtige wahren endgultige* "
              "vraie vrais vraies vrai bonne bons bonnes verdadera verdaderas verdaderos buena "
              "buenas vera vere veri vero giusta giuste giusti verdadeira verdadeiras verdadeiros "
-             "certas echte juiste goede rigtige riktige riktiga ratta prawdziw* wlasciw*"},
+             "certas echte juiste goede rigtige riktige riktiga ratta prawdziw* wlasciw* verdad "
+             "serio ordentlige ordentliga"},
     TopicRow{Come,
              "comes come coming follow follows arrive arrives tonight kommt kommen folgt folgen "
              "arrive arrivent viendra vient llega llegan vendra arriva arrivano chega chegam vem "
-             "komt komen volgt volgen kommer folger foljer bedzie beda przyjdzie przysle"},
+             "komt komen volgt volgen kommer folger foljer bedzie beda przyjdzie przysle get "
+             "kriegst kriegt bekommst bekommt recevras recevrez recibiras recibes krijg krijgt far "
+             "dostaniesz dostaniecie mando mandare schicke send"},
     TopicRow{Other,
              "other another anderen andere andern autre otra otro altra altro outro outra andet "
              "anden annet annen andra annat innej innego drugiej else anderes anders"},
@@ -176,10 +181,11 @@ constexpr std::array TopicRows{
              "queria pretendia wilde bedoelde ville mente menade chcial* zamierza*"},
     TopicRow{May,
              "can may might could kann konnte durfte peut pourrait puede podria puo potrebbe pode "
-             "poderia kan kunne kunde moze moglby"},
+             "poderia kan kunne kunde moze moglby mozliwe"},
     TopicRow{Use,
-             "use take run nimm nehmt benutze prends prenez utilise usa use usad toma "
-             "coge prendi usate usem gebruik neem brug bruk tag ta anvand wez uzyj"},
+             "use nimm nehmt benutze prends prenez utilise usa use usad toma "
+             "coge prendi usate usem gebruik neem brug bruk anvand wez uzyj usarli usarle usare "
+             "uses usar uzywaj uzywajcie utiliser utilisez verwenden gebruiken bruge anvanda"},
     TopicRow{Suppose,
              "if unless wenn falls sollte si se als indien mocht hvis om jesli jezeli gdyby"},
     TopicRow{
@@ -235,11 +241,11 @@ constexpr std::array OpenMatters{
     OpenMatter{Valid | Until, false},   OpenMatter{Valid, true},
     OpenMatter{Look | Tell, false},     OpenMatter{Await | Until, false},
     OpenMatter{Await | Mail, false},    OpenMatter{Other | Send, false},
-    OpenMatter{Suppose | Use, false},   OpenMatter{Change | Still, false},
-    OpenMatter{Change | May, false},    OpenMatter{Change | Tell, false},
-    OpenMatter{Real | Come, false},     OpenMatter{Other | Game, false},
-    OpenMatter{Serious, true},          OpenMatter{Ask | Play, false},
-    OpenMatter{Know | Want, true},
+    OpenMatter{Suppose | Use, false},   OpenMatter{Use, true},
+    OpenMatter{Change | Still, false},  OpenMatter{Change | May, false},
+    OpenMatter{Change | Tell, false},   OpenMatter{Real | Come, false},
+    OpenMatter{Other | Game, false},    OpenMatter{Serious, true},
+    OpenMatter{Ask | Play, false},      OpenMatter{Know | Want, true},
 };
 
 }  // namespace

@@ -113,14 +113,14 @@ constexpr std::array SayingTable{
         "check with|ask him|ask her|call him|call her|to follow|will send my|"
         "will send the|more later|more tomorrow|double check|let me check|"
         "dont have time to decide|might still|may still|could still|look like this|"
-        "looks like this|looks like|look like|would look|said something|ill confirm|"
+        "looks like this|would look|said something|ill confirm|"
         "confirm tomorrow|to be continued|final orders tomorrow|final orders follow|"
         "finals tomorrow|orders tomorrow|please wait|just wait|im torn|"
         "still have to talk|still need to|have to talk|have to ask|need to check|"
         "need to ask|need to talk|want to check|still open|still unsure|unsure|"
         "not convinced|on the fence|havent heard|wait to hear|waiting to hear|waiting on|"
         "until i|until you|until we|until he|until she|in the drawer|bis ich|bis er mir|"
-        "in der schublade|jusqua ce que|tant que je|dans le tiroir|finche non|nel cassetto|"
+        "in der schublade|jusqua ce que|tant que je|dans le tiroir|nel cassetto|"
         "hasta que yo|hasta que te|hasta que no|en el cajon|ate que eu|totdat ik|indtil jeg|tills "
         "jag|"
         "dopoki nie|w szufladzie|"
@@ -441,6 +441,21 @@ constexpr std::array SayingTable{
     SayingPhrases{Saying::Postpones,
                   "garde lordre|gardez lordre|garde l'ordre|guarda la orden|guarda a ordem|tieni "
                   "fermo|hold fladens|hou het"},
+    SayingPhrases{
+        Saying::Leaves,
+        "a lo mejor|kan ook oud|kan vara gammal|kan vare gammel|kann auch alt|moze byc stare"},
+    SayingPhrases{
+        Saying::Postpones,
+        "algo asi|nagot sant har|noget sadant|cos takiego|no idea if|no idea whether|aning om "
+        "det|pojecia czy|keine ahnung ob|aucune idee si|ni idea de si|idea se|geen idee of|aner "
+        "ikke om|would want|would have wanted|ville have folgende|skulle vilja ha|chcialby "
+        "tak|aurait voulu|hubiera querido|avrebbe voluto|couldnt reach him|couldnt reach her|nicht "
+        "erreichen|pas pu le joindre|fatt tag pa|faet fat i|fa fat i|quelque chose comme|so etwas "
+        "wie|algo como|qualcosa come|iets als|nagot i stil|noget i stil|cos w stylu"},
+    SayingPhrases{Saying::Corrects,
+                  "bitte diese|diese verwenden|diese nehmen|prendre ceux - ci|prendre ceux ci|deze "
+                  "gebruiken|brug venligst disse|anvand de har|uzyc tych|usar estas|usare "
+                  "questi|verwende diese"},
 };
 
 }  // namespace

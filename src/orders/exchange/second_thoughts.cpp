@@ -43,6 +43,30 @@ std::size_t LengthOfInstead(Tokens words, std::size_t at) {
   return isOneOf(of, at + length) ? 0 : length;
 }
 
+/// "Final:", "now my orders:", "the real moves:": these hold rather than what stands above.
+bool IsTitleOfRealOnes(Tokens title) {
+  constexpr auto now = std::to_array<std::string_view>(
+      {"now", "jetzt", "nun", "maintenant", "ahora", "ora", "adesso", "agora", "nu", "teraz"});
+  constexpr auto real = std::to_array<std::string_view>(
+      {"real", "true", "actual", "echten", "echte", "wahren", "richtigen", "vrais", "veri",
+       "verdad", "verdaderas", "verdadeiras", "serio", "rigtige", "riktiga", "riktige",
+       "ordentlige", "prawdziwe"});
+  bool isNow = false;
+  bool isReal = false;
+  bool isOfOrders = false;
+  bool isOwn = false;
+  bool isFinal = true;
+  for (const Token& token : title) {
+    if (!IsA(token, TokenKind::Word)) continue;
+    isNow = isNow || IsOneOf(token, now);
+    isReal = isReal || IsOneOf(token, real);
+    isOfOrders = isOfOrders || HasUse(token, WordUse::Orders);
+    isOwn = isOwn || (HasUse(token, WordUse::Own) && !IsOneOf(token, now));
+    isFinal = isFinal && HasUse(token, WordUse::Definite);
+  }
+  return isFinal || (isOfOrders && (isReal || (isNow && isOwn)));
+}
+
 /// Whether words before a colon, or at the beginning of a line, name a correction: "My final
 /// moves:".
 bool IsTitleOfCorrection(Tokens line) {
@@ -54,6 +78,7 @@ bool IsTitleOfCorrection(Tokens line) {
   if (std::ranges::count(title, TokenKind::Word, &Token::Kind) > longest || IsOpen(title)) {
     return false;
   }
+  if (hasColon && IsTitleOfRealOnes(title)) return true;
   for (std::size_t at = 0; at < title.size(); ++at) {
     // "Correction - A Par - Pic" does without a colon.
     const bool isOf = at + 1 < title.size() && IsWord(title[at + 1], "of");

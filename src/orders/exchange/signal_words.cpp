@@ -39,14 +39,15 @@ constexpr std::array SignalRows{
               "das dies es alles was beides ce cest cela ca tout tous eso esto todo todos cio "
               "questo tutto tutti quello isto isso aquilo tudo dit dat wat det dette alt hva "
               "hvad detta allt vad tego wszystko tak tym"},
-    SignalRow{Signal::Denies,
-              "not no never dont doesnt didnt cant cannot wont wouldnt isnt arent wasnt werent "
-              "shouldnt mustnt neednt couldnt havent hasnt nobody nothing without neither nor "
-              "nicht nichts kein keine keinen nie niemals ohne ne pas jamais rien aucun aucune "
-              "sans nunca nada "
-              "ningun sin non mai niente nessun senza nao nem sem niet niets geen nooit zonder "
-              "ikke aldri "
-              "aldrig ingen intet inget uten uden inte ej utan nie nic nigdy bez zadn*"},
+    SignalRow{
+        Signal::Denies,
+        "not none no never dont doesnt didnt cant cannot wont wouldnt isnt arent wasnt werent "
+        "shouldnt mustnt neednt couldnt havent hasnt nobody nothing without neither nor "
+        "nicht nichts kein keine keinen nie niemals ohne ne pas jamais rien aucun aucune "
+        "sans nunca nada "
+        "ningun sin non mai niente nessun senza nao nem sem niet niets geen nooit zonder "
+        "ikke aldri "
+        "aldrig ingen intet inget uten uden inte ej utan nie nic nigdy bez zadn*"},
     SignalRow{
         Signal::Leaves,
         "should shouldnt might may could would must supposed ought shall "

@@ -50,7 +50,8 @@ constexpr std::array Uses{
              "whether arent isnt wasnt doesnt"},
     UseWords{WordUse::Aside, "previously formerly last next later tomorrow example eg previous"},
     UseWords{WordUse::SetsAside,
-             "rejected discarded abandoned verworfene verworfenen abandonnes descartadas "
+             "stary stara comptais gammel gammal rejected discarded abandoned verworfene "
+             "verworfenen abandonnes descartadas "
              "descartados scartati verworpen forkastede forkastade odrzucone antiguas antiguos "
              "draft drafts example examples sample samples tentative provisional preliminary "
              "result results outcome outcomes report adjudication history idea ideas "
@@ -128,7 +129,8 @@ constexpr std::array Uses{
              "outono verao herfst lente zomer najaar voorjaar host hosten var varen forar "
              "efterar jesien wiosna zima now jetzt maintenant ahora adesso nu"},
     UseWords{WordUse::Own,
-             "also donc pues dunque entao dus altsa alltsa wiec eccoli alsjeblieft varsgo varsagod "
+             "promis promesso beloofd lovet utlovat versprochen also donc pues dunque entao dus "
+             "altsa alltsa wiec eccoli alsjeblieft varsgo varsagod "
              "announced angekundigt annonce anuncie anunciado annunciato aangekondigd annonceret "
              "aviserat zapowiedzialem abgesprochen acordado concordato combinado afgesproken "
              "aftalt avtalt overenskommet uzgodnione confirmed bardzo locked done my mine our ours "
@@ -152,14 +154,18 @@ constexpr std::array Uses{
              "claimed thinks expects believes promised promises offered offers lied pretended "
              "sagte meinte dit disait dice zei"},
     UseWords{WordUse::Definite,
-             "definitiva definitivo definitivas definitieve endelig slutgiltig ostateczna final "
+             "korrigierte corrigee corregida corretta corrigida gecorrigeerde verbeterde rettet "
+             "rettede rattad poprawiona aktualisierte endgultig definitief slutgiltigt endeligt "
+             "ostatecznie definitivamente definitiva definitivo definitivas definitieve endelig "
+             "slutgiltig ostateczna final "
              "new revised updated corrected changed amended actual real definitive latest "
              "definitif definitifs definitives definitivos definitivas definitivi definitivo "
              "endgultige endgultigen definitieve endelige slutgiltiga slutliga ostateczne "
              "ostateczny lopulliset vegleges konecne finale finaux"},
     UseWords{
         WordUse::Orders,
-        "fassung versione versao versie wersja mouvements movimentos order orders move moves "
+        "udgave versjon fassung versione versao versie wersja mouvements movimentos order orders "
+        "move moves "
         "version set list plan befehl befehle zuge zug ordre ordres coups "
         "ordenes orden movimientos jugadas ordini ordine mosse ordens ordem jogadas bevel "
         "bevelen zetten ordrer trekk traek trak drag rozkazy rozkaz ruchy kaskyt kasky siirrot "
