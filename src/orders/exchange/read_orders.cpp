@@ -396,6 +396,10 @@ std::vector<ReadLine> ReadOrders(const model::GameState& game, std::string_view 
   // What a support means may depend on moves that are written below it.
   known.IsLearnt = true;
   if (known.IsAsked) lines = TextReader(known, options).Read(cut);
+  if (orders == text) return lines;
+  // A check line in the midst of a line is blanked there, and yet written.
+  for (ReadLine& line : lines)
+    line.Written = text.substr(line.Place.Offset, line.Place.Length);
   return lines;
 }
 

@@ -39,6 +39,13 @@ bool Replaces(Tokens words) {
       words, [&](const Token& token) { return IsOneOf(token, verbs) || IsWord(token, polish); });
 }
 
+bool ReplacesNext(Tokens words) {
+  constexpr auto verbs = std::to_array<std::string_view>(
+      {"replaces", "ersetzt", "remplace", "sostituisce", "sustituye", "substitui", "vervangt",
+       "erstatter", "ersatter", "zastepuje"});
+  return std::ranges::any_of(words, [&](const Token& token) { return IsOneOf(token, verbs); });
+}
+
 PartsRead ReadReplacement(Tokens sentence, const KnownGame& known, Context& context) {
   constexpr std::size_t few = 5;
   std::size_t first = 0;

@@ -105,6 +105,7 @@ class Rows {
   bool Exclude(const SourceLine& line, const Said& said);
   bool TakesBackNext(const SourceLine& line, const Said& said);
   bool LeadsFromExcluded(const SourceLine& line, const Said& said) const;
+  bool TakesBackBehind(const SourceLine& line, const Said& said);
   bool EndsExclusion(const SourceLine& line, const Said& said) const;
   bool IsAddress(Tokens words, bool isFirst, int power) const;
   bool IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const;

@@ -116,7 +116,9 @@ bool Rows::ApologizesApart(const SourceLine& line, std::size_t first) const {
 
 bool Rows::MayBeOfAbove(const SourceLine& line, std::size_t first, bool isBehindOrders) const {
   constexpr std::size_t few = 4;
-  const bool isBrief = line.All.size() <= few && !ApologizesApart(line, first);
+  constexpr std::size_t more = 8;  // "sorry, I meant Pic."
+  const bool corrects = FindSaying(line.All, Saying::Corrects).has_value();
+  const bool isBrief = line.All.size() <= (corrects ? more : few) && !ApologizesApart(line, first);
   // "Rather Pic", in a paragraph of its own as well.
   const bool isTitle = IsA(line.All.back(), TokenKind::Colon);
   if (isBrief && !isTitle && NamesPlace(line.All, known_.Names)) return true;
@@ -189,6 +191,8 @@ bool Rows::IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const
   const bool excuses =
       ExcusesSlip(remark) || ExcusesSlip(line.Part({said.At.Begin, line.All.size()}));
   if (excuses && Corrects(line.All)) return false;
+  // "Edit: F Bre - ENG (was MAO)".
+  if (Corrects(line.All) && FormerPlace(remark, known_.Names) != 0) return false;
   const bool isFirst = std::ranges::all_of(
       understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
   if (isFirst && IsOpening(remark, known_.Names, power)) return false;

@@ -61,7 +61,9 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
         !IsA(remark.back(), TokenKind::Word) &&
         std::ranges::any_of(remark, [&](const Token& token) { return IsOneOf(token, answers); });
     if (!isAnswer && FindSaying(remark, Saying::Excludes) && Exclude(line, said)) continue;
-    if (const int place = ExcludedPlace(remark, known_.Names); place != 0) Amend(line, said, place);
+    int notTo = ExcludedPlace(remark, known_.Names);
+    if (notTo == 0 && Corrects(line.All)) notTo = FormerPlace(remark, known_.Names);
+    if (notTo != 0) Amend(line, said, notTo);
     const auto next = std::ranges::find_if(
         understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
     const bool excuses =
@@ -86,6 +88,7 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
     const bool revokes = FindSaying(remark, Saying::Revokes).has_value();
     if (revokes && next != understood_.end()) Around.SetRevoked(next->Row);
     if ((revokes || Replaces(remark)) && TakesBackNext(line, said)) continue;
+    if (ReplacesNext(remark) && TakesBackBehind(line, said)) continue;
     if (EndsExclusion(line, said) || LeadsFromExcluded(line, said)) continue;
     if (!isDoubted) continue;
     // "(was Pic)" says what is no more, but not that this is.
@@ -277,6 +280,23 @@ bool Rows::TakesBackNext(const SourceLine& line, const Said& said) {
   if (!isAgain) return false;
   Around.SetDoubt(next->Row, Quoted(remark) + " excludes it", line.Span(said.At), true);
   Around.SetTakenBack(next->Row);
+  return true;
+}
+
+/// "A Par - Pic replaces A Par - Bur": whether words between two orders of one unit take back the
+/// second.
+bool Rows::TakesBackBehind(const SourceLine& line, const Said& said) {
+  const auto before = std::ranges::find(understood_, said.At.Begin,
+                                        [](const Understood& order) { return order.At.End; });
+  const auto behind = std::ranges::find(understood_, said.At.End,
+                                        [](const Understood& order) { return order.At.Begin; });
+  if (before == understood_.end() || behind == understood_.end() ||
+      orders::UnitPart(Lines[before->Row].Order) != orders::UnitPart(Lines[behind->Row].Order)) {
+    return false;
+  }
+  Around.SetDoubt(behind->Row, Quoted(line.Part(said.At)) + " excludes it", line.Span(said.At),
+                  true);
+  Around.SetTakenBack(behind->Row);
   return true;
 }
 

@@ -385,7 +385,9 @@ constexpr std::array SayingTable{
         Saying::Excludes,
         "=no|=non|=nao|=nej|=nei|=nie|=nein|=nee|=not|=nicht|=pas|=niet|=ikke|=inte|=instead "
         "of|=rather than|=statt|=anstatt|=anstelle von|"
-        "=au lieu de|=au lieu du|=au lieu de la|=en lugar de la|=en lugar del|=en vez de la|=en "
+        ""
+        "=au lieu de|=au lieu du|=au lieu de la|=en lugar "
+        "de la|=en lugar del|=en vez de la|=en "
         "vez del|=invece della|=invece del|=invece dell|=em vez da|=em vez do|=em lugar da|=em "
         "lugar do|=anstelle|=plutot que|=en lugar de|=en vez de|=invece di|=invece che|=em vez de|"
         "=em lugar de|=in plaats van|=i stedet for|=istallet for|=i stallet for|=zamiast|=a nie|"
@@ -456,6 +458,21 @@ constexpr std::array SayingTable{
                   "bitte diese|diese verwenden|diese nehmen|prendre ceux - ci|prendre ceux ci|deze "
                   "gebruiken|brug venligst disse|anvand de har|uzyc tych|usar estas|usare "
                   "questi|verwende diese"},
+    SayingPhrases{Saying::Corrects,
+                  "il faut lire|faut lire|doveva essere|deve essere|tiene que ser|deberia ser|deve "
+                  "ser|devia ser|dat moet|skal sta|ska sta|powinno byc|muss heisen|soll "
+                  "heisen|sollte heisen|muss es heisen|muss"},
+    SayingPhrases{
+        Saying::Reconsiders,
+        "reiflicher uberlegung|tout bien reflechi|apres reflexion|reflexion "
+        "faite|ripensandoci|pensandoci meglio|pensandolo mejor|pensandolo bien|pensando melhor|bij "
+        "nader inzien|nader inzien|ved narmere eftertanke|ved nermere ettertanke|vid narmare "
+        "eftertanke|po namysle|po przemysleniu|al final|alla fine|trots allt"},
+    SayingPhrases{Saying::Revokes, "stryk|slet ordren|schrap|skresl|wykresl"},
+    SayingPhrases{
+        Saying::Chats,
+        "no corrections|keine korrekturen|pas de correction|nessuna correzione|ninguna "
+        "correccion|nenhuma correcao|geen correcties|ingen rettelser|inga rattelser|bez poprawek"},
 };
 
 }  // namespace

@@ -104,6 +104,35 @@ bool IsTitleOfCorrection(Tokens line) {
   return false;
 }
 
+/// Without signs around the words, and without a verb of moves behind them: "Statt Burgund geht
+/// Paris nach Pic".
+Tokens Trimmed(Tokens words) {
+  while (!words.empty() && !IsA(words[0], TokenKind::Word))
+    words = words.subspan(1);
+  while (!words.empty() && (!IsA(words.back(), TokenKind::Word) ||
+                            (VerbOf(words.back()) == Verb::Move && words.back().Text.size() > 2)))
+    words = words.first(words.size() - 1);
+  return words;
+}
+
+bool IsConjunction(const Token& token) {
+  constexpr auto conjunctions =
+      std::to_array<std::string_view>({"and", "und", "et", "y", "e", "en", "og", "och", "i"});
+  return IsOneOf(token, conjunctions);
+}
+
+/// The place that is all that words name, or 0: "to Spain".
+int OnlyPlace(Tokens words, const PlaceNames& names) {
+  constexpr auto to =
+      std::to_array<std::string_view>({"to", "in", "nach", "en", "a", "al", "ad", "para", "naar",
+                                       "til", "till", "do", "sur", "vers", "zu", "na"});
+  std::size_t at = 0;
+  while (at < words.size() && (HasUse(words[at], WordUse::Filler) || IsOneOf(words[at], to)))
+    ++at;
+  const auto places = names.At(words, at);
+  return !places.empty() && places[0].Next == words.size() ? places[0].Rows[0] : 0;
+}
+
 }  // namespace
 
 bool Reconsiders(Tokens words) {
@@ -115,24 +144,31 @@ bool Reconsiders(Tokens words) {
 }
 
 int ExcludedPlace(Tokens words, const PlaceNames& names) {
-  constexpr std::size_t longestPhrase = 3;
-  while (!words.empty() && (IsA(words[0], TokenKind::Open) || IsA(words[0], TokenKind::Comma)))
-    words = words.subspan(1);
-  // "Statt Burgund geht Paris nach Pic".
-  while (!words.empty() && (!IsA(words.back(), TokenKind::Word) ||
-                            (VerbOf(words.back()) == Verb::Move && words.back().Text.size() > 2)))
-    words = words.first(words.size() - 1);
-  for (std::size_t length = 1; length <= std::min(longestPhrase, words.size()); ++length) {
-    const auto said = FindSaying(words.first(length), Saying::Excludes);
-    if (!said || said->Begin != 0 || said->End != length) continue;
-    std::size_t at = length;
-    while (at < words.size() && (HasUse(words[at], WordUse::Filler) || IsWord(words[at], "to") ||
-                                 IsWord(words[at], "in")))
-      ++at;
-    const auto places = names.At(words, at);
-    if (!places.empty() && places[0].Next == words.size()) return places[0].Rows[0];
+  constexpr std::size_t longestPhrase = 4;
+  words = Trimmed(words);
+  for (std::size_t first = 0; first < std::min<std::size_t>(2, words.size()); ++first) {
+    if (first == 1 && !IsConjunction(words[0])) break;
+    const Tokens rest = words.subspan(first);
+    for (std::size_t length = 1; length <= std::min(longestPhrase, rest.size()); ++length) {
+      const auto said = FindSaying(rest.first(length), Saying::Excludes);
+      if (!said || said->Begin != 0 || said->End != length) continue;
+      if (const int place = OnlyPlace(rest.subspan(length), names); place != 0) return place;
+    }
   }
   return 0;
+}
+
+int FormerPlace(Tokens words, const PlaceNames& names) {
+  constexpr auto before = std::to_array<std::string_view>(
+      {"was", "vorher", "zuvor", "fruher", "prima", "antes", "avant", "plus", "tidligere", "for",
+       "tidigare", "bylo", "eerst", "before", "formerly"});
+  words = Trimmed(words);
+  std::size_t at = 0;
+  // "Et plus", "prima era".
+  while (at < words.size() && at < 2 &&
+         (IsOneOf(words[at], before) || IsConjunction(words[at]) || IsWord(words[at], "era")))
+    ++at;
+  return at == 0 ? 0 : OnlyPlace(words.subspan(at), names);
 }
 
 std::size_t PastThoughts(Tokens words) {

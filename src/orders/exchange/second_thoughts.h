@@ -18,6 +18,10 @@ bool Reconsiders(Tokens words);
 /// map, or 0.
 int ExcludedPlace(Tokens words, const PlaceNames& names);
 
+/// The place that an order went to before, where words say no more, "was MAO": a row of the map, or
+/// 0.
+int FormerPlace(Tokens words, const PlaceNames& names);
+
 /// How many of the first words are second thoughts and nothing else: of "no wait, I mean A Par" all
 /// before the unit; 0: none.
 std::size_t PastThoughts(Tokens words);

@@ -154,7 +154,9 @@ constexpr std::array Uses{
              "claimed thinks expects believes promised promises offered offers lied pretended "
              "sagte meinte dit disait dice zei"},
     UseWords{WordUse::Definite,
-             "korrigierte corrigee corregida corretta corrigida gecorrigeerde verbeterde rettet "
+             "neu neue neuer nouveau nouvelle nueva nuevo nuova nuovo nova novo nieuw nieuwe ny "
+             "nytt nowa nowy korrigierte corrigee corregida corretta corrigida gecorrigeerde "
+             "verbeterde rettet "
              "rettede rattad poprawiona aktualisierte endgultig definitief slutgiltigt endeligt "
              "ostatecznie definitivamente definitiva definitivo definitivas definitieve endelig "
              "slutgiltig ostateczna final "
