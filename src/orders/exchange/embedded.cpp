@@ -57,7 +57,7 @@ bool MayGoOn(Tokens rest, const PlaceNames& names) {
       "bounced",  "bounce",    "bounces", "fails", "failed",    "failure",
       "succeeds", "succeeded", "success", "cut",   "dislodged", "void"};
   const bool isDash = IsA(rest[0], TokenKind::Dash) && rest.size() > 1 && names.At(rest, 1).empty();
-  const bool isThought = isDash && (rest[0].Text == "--" ||
+  const bool isThought = isDash && (rest[0].Text == "--" || HasUse(rest[1], WordUse::Reservation) ||
                                     std::ranges::find(outcomes, rest[1].Text) != outcomes.end());
   // "to bounce him" tells a purpose.
   const bool isPurpose =

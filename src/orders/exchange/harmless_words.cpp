@@ -15,15 +15,40 @@
 namespace orb::exchange {
 namespace {
 
-/// PlainPhrases, parted by "|"; "@" is a name, "~" one or two of them. In the languages of the
-/// verbs.
+/// PlainPhrases, parted by "|"; "~" is one name or two, "^" any word in capitals that is no place,
+/// "@" a place. In the languages of the verbs.
 constexpr std::string_view PlainPhrases =
     "rest stays|the rest stays|rest unchanged|rest is unchanged|rest the same|everything else "
     "stays|"
     "rest bleibt|der rest bleibt|alles andere bleibt|le reste ne change pas|le reste inchange|el "
     "resto igual|resto igual|il resto uguale|o resto igual|rest blijft|resten uandret|resten "
     "ofrandrat|reszta bez zmian|"
-    "heisen|lauten|de rest blijft staan|resten star kvar|resten er uandret|el resto se queda "
+    "sorry ^|desole ^|desolee ^|scusa ^|perdona ^|desculpa ^|beklager ^|forlat ^|wybacz ^|wybacz|"
+    "undskyld ^|unnskyld ^|pardon ^|przepraszam ^|hello @|hi @|hallo @|grus gott @|servus @|coucou "
+    "@|bonjour @|salut @|ciao @|hola @|ola @|hej @|hei @|witaj @|witaj|czesc @|as we agreed ^|as "
+    "agreed ^|wie besprochen ^|wie abgemacht ^|comme convenu ^|come d'accordo ^|come daccordo "
+    "^|come "
+    "concordato ^|como quedamos ^|como acordamos ^|como combinado ^|zoals afgesproken ^|som aftalt "
+    "^|som avtalt ^|som overenskommet ^|tak jak sie umowilismy ^|tak jak sie umowilismy|no comment|"
+    "kein kommentar|sans commentaire|senza commenti|sin comentarios|sem comentarios|geen "
+    "commentaar|ingen kommentar|inga kommentarer|bez komentarza|s'il te plait|s'il vous plait|sil "
+    "te "
+    "plait|sil vous plait|svp|per favore|per piacere|por favor|se faz favor|se fazes favor|faz "
+    "favor|"
+    "alsjeblieft|alstublieft|prosze|er du sod|er du snill|my favourite opening|my favorite opening|"
+    "meine lieblingseroffnung|mon ouverture preferee|la mia apertura preferita|mi apertura "
+    "favorita|"
+    "mi apertura preferida|a minha abertura preferida|a minha abertura favorita|mijn "
+    "lievelingsopening|min yndlingsabning|min favoritoppning|min favorittapning|moje ulubione "
+    "otwarcie|yes really|ja wirklich|wirklich|oui oui|oui vraiment|vraiment|si davvero|davvero|si "
+    "de "
+    "verdad|de verdad|sim a serio|a serio|ja echt waar|echt waar|ja virkelig|virkelig|ja faktiskt|"
+    "faktiskt|tak naprawde|naprawde|i hate this|ich konnte heulen|je deteste ca|che schifo|que "
+    "asco "
+    "me da|que asco|detesto isto|ik baal hiervan|jeg hader det her|jeg hater dette|jag hatar det "
+    "har|"
+    "nienawidze tego|heisen|lauten|de rest blijft staan|resten star kvar|resten er uandret|el "
+    "resto se queda "
     "igual|lo demas se queda igual|o resto mantem - se|il resto rimane|after all|make it|wish me "
     "luck|here we go|watch out|lets dance|couldnt resist|could not "
     "resist|a bit "
@@ -117,7 +142,8 @@ constexpr std::string_view SlipWords =
     "vertippt verlesen verschrieben falsche ups erreur faute trompe coquille sbagliato "
     "errore equivoque equivocado error errata engano enganei erro foutje vergist verkeerde "
     "tikfout fejl feil forkert tastefejl skrivefeil fel skrivfel pomylka pomylilem "
-    "pomylilam literowka blad autocorrect";
+    "pomylilam literowka blad autocorrect slafejl skrivfel typefoutje typefout frappe battitura "
+    "enganei trompee fallo";
 
 /// What may stand beside them: excuses, pronouns, the lines and maps that were misread.
 constexpr std::string_view BesideSlips =
@@ -125,11 +151,25 @@ constexpr std::string_view BesideSlips =
     "undskyld unnskyld forlat beklager ursakta przepraszam verzeihung pardon "
     "entschuldigung my mine mein mea culpa a i ich je me mi ho sono ik jeg jag im ive was "
     "is it its that thats in the on of de di e line row zeile riga ligne linea linha regel "
-    "linje rad map karte carte mappa mapa kaart frappe read made wrote bad en";
+    "third second first last one two three line dritten zweiten ersten letzten der die das zur "
+    "troisieme deuxieme premiere derniere la le tercera segunda primera ultima en terza seconda "
+    "prima ultima nella terceira ultima na derde tweede eerste laatste het tredje anden andra "
+    "forste "
+    "forsta siste sista pa raden linjen linii trzeciej drugiej pierwszej ostatniej w regeln linje "
+    "rad "
+    "map karte carte mappa mapa kaart frappe read made wrote bad en";
 
 std::unordered_set<std::string_view> SetOf(std::string_view words) {
   const auto parts = Parts(words, ' ');
   return {parts.begin(), parts.end()};
+}
+
+/// Whether a word in capitals stands here that is neither a place nor any word of orders.
+bool IsCapitalAt(Tokens tokens, std::size_t at, const PlaceNames& names) {
+  const Token& token = tokens[at];
+  return IsA(token, TokenKind::Word) && token.Capital && token.Text.size() > 1 &&
+         VerbOf(token) == Verb::None && UnitTypeOf(token) == 0 && token.Means.Uses == 0 &&
+         PowerAt(tokens, at).Power == 0 && names.At(tokens, at).empty();
 }
 
 /// The tokens that a phrase takes from here, or 0.
@@ -137,13 +177,16 @@ std::size_t LengthOfOne(Tokens tokens, std::size_t at, const std::vector<std::st
                         const PlaceNames& names) {
   std::size_t next = at;
   for (const std::string_view word : phrase) {
+    if (next > at && next < tokens.size() && IsA(tokens[next], TokenKind::Comma)) ++next;
+    if (next == tokens.size()) return 0;
     const bool isName = word == "~";
-    const bool isHere = isName                  ? IsPersonAt(tokens, next, names)
-                        : next == tokens.size() ? false
-                        : word == "."           ? IsA(tokens[next], TokenKind::Dot)
-                                                : IsWord(tokens[next], word);
+    const bool isHere = isName        ? IsPersonAt(tokens, next, names)
+                        : word == "^" ? IsCapitalAt(tokens, next, names)
+                        : word == "." ? IsA(tokens[next], TokenKind::Dot)
+                        : word == "@" ? !names.At(tokens, next).empty()
+                                      : IsWord(tokens[next], word);
     if (!isHere) return 0;
-    ++next;
+    next = word == "@" ? names.At(tokens, next)[0].Next : next + 1;
     if (isName && IsPersonAt(tokens, next, names)) ++next;
   }
   return next - at;
@@ -200,9 +243,7 @@ bool SaysOfOrders(Tokens words) {
 bool IsPersonAt(Tokens tokens, std::size_t at, const PlaceNames& names) {
   if (at >= tokens.size() || !IsA(tokens[at], TokenKind::Word)) return false;
   const Token& token = tokens[at];
-  return token.Capital && token.Text.size() > 1 && VerbOf(token) == Verb::None &&
-         UnitTypeOf(token) == 0 && token.Means.Uses == 0 && token.Means.Signals == 0 &&
-         PowerAt(tokens, at).Power == 0 && names.At(tokens, at).empty() &&
+  return IsCapitalAt(tokens, at, names) && token.Means.Signals == 0 &&
          names.Near(token.Text).empty();
 }
 

@@ -1,9 +1,11 @@
 #include "orders/exchange/rows.h"
 
 #include "orders/exchange/doubts.h"
+#include "orders/exchange/harmless_words.h"
 #include "orders/exchange/line_kinds.h"
 #include "orders/exchange/power_names.h"
 #include "orders/exchange/sayings.h"
+#include "orders/exchange/second_thoughts.h"
 #include "text/strings.h"
 
 #include <algorithm>
@@ -70,8 +72,9 @@ void Rows::AddPart(const SourceLine& line, TokenRange range, const PartRead& par
   if (part.IsRemark) return AddRemark(range, part.Sentence);
   const bool isNone = part.Kind == LineKind::NotUnderstood &&
                       IsNoOrder(line.Part(range), known_.Names, inSignature_);
-  const bool isLoose =
-      part.Kind == LineKind::NotUnderstood && IsLoose(line.Part(range), known_.Names);
+  const Tokens words = line.Part(range);
+  const bool isLoose = part.Kind == LineKind::NotUnderstood &&
+                       (IsLoose(words, known_.Names) || Reconsiders(words) || SaysOfOrders(words));
   if (isLoose && !understood_.empty()) {
     remarks_.push_back({range, understood_.back().Sentence, understood_.back().Row});
   }

@@ -190,11 +190,16 @@ bool Rows::IsDoubted(const SourceLine& line, const Said& said, bool isOwn) const
   // "Correction: A Lvp - Yor, sorry, wrong line".
   const bool excuses =
       ExcusesSlip(remark) || ExcusesSlip(line.Part({said.At.Begin, line.All.size()}));
-  if (excuses && Corrects(line.All)) return false;
+  const bool isPutRight = std::ranges::any_of(understood_, [&](const Understood& order) {
+    return !Around.Rows()[order.Row].Instead.empty();
+  });
+  if (excuses && (isPutRight || Corrects(line.All))) return false;
   // "Edit: F Bre - ENG (was MAO)".
   if (Corrects(line.All) && FormerPlace(remark, known_.Names) != 0) return false;
   const bool isFirst = std::ranges::all_of(
       understood_, [&](const Understood& order) { return order.At.Begin >= said.At.End; });
+  // "Forget the first line. New: A Par - Pic".
+  if (isFirst && !isOwn && Corrects(line.All) && FindSaying(remark, Saying::Revokes)) return false;
   if (isFirst && IsOpening(remark, known_.Names, power)) return false;
   // "Nothing surprising from Turkey: A Con - Bul".
   if (isFirst && !understood_.empty() && understood_.front().At.Begin == said.At.End) {

@@ -86,7 +86,8 @@ void Rows::DoubtRemarks(const SourceLine& line, std::size_t first) {
       Around.SetReconsiders(next->Row, Quoted(remark) + " may change it", line.Span(said.At));
     }
     const bool revokes = FindSaying(remark, Saying::Revokes).has_value();
-    if (revokes && next != understood_.end()) Around.SetRevoked(next->Row);
+    const bool isOfNext = next != understood_.end() && next->Sentence == said.Sentence;
+    if (revokes && isOfNext) Around.SetRevoked(next->Row);
     if ((revokes || Replaces(remark)) && TakesBackNext(line, said)) continue;
     if (ReplacesNext(remark) && TakesBackBehind(line, said)) continue;
     if (EndsExclusion(line, said) || LeadsFromExcluded(line, said)) continue;

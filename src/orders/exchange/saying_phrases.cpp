@@ -464,7 +464,8 @@ constexpr std::array SayingTable{
                   "heisen|sollte heisen|muss es heisen|muss"},
     SayingPhrases{
         Saying::Reconsiders,
-        "reiflicher uberlegung|tout bien reflechi|apres reflexion|reflexion "
+        "nach reiflicher uberlegung|reiflicher uberlegung|tout bien reflechi|apres "
+        "reflexion|reflexion "
         "faite|ripensandoci|pensandoci meglio|pensandolo mejor|pensandolo bien|pensando melhor|bij "
         "nader inzien|nader inzien|ved narmere eftertanke|ved nermere ettertanke|vid narmare "
         "eftertanke|po namysle|po przemysleniu|al final|alla fine|trots allt"},

@@ -99,7 +99,8 @@ constexpr std::array Uses{
              "jetzt maintenant ahora adesso nu do"},
     UseWords{
         WordUse::Correction,
-        "correction corrections korrektur correzione correccion correctie correcao rectification "
+        "korrektion korrigering rectificatie correction corrections korrektur correzione "
+        "correccion correctie correcao rectification "
         "rectificatif rattelse rettelse andring endring aendring anderung wijziging alteracao "
         "rettifica rectifico retificacao retifico sprostowanie anderung korekta poprawka errata "
         "erratum update updates revision "
