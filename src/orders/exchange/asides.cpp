@@ -269,8 +269,12 @@ bool IsOwnTitle(Tokens line) {
   const bool isOthers = !isAgreed && std::ranges::any_of(line, [&](const Token& token) {
     return std::ranges::find(others, token.Text) != others.end();
   });
-  return !isOthers && std::ranges::any_of(line, [](const Token& token) {
-    return HasUse(token, WordUse::Own, WordUse::Orders, WordUse::Season);
+  // In many words "here", "now" and the like say nothing.
+  constexpr std::ptrdiff_t few = 8;
+  const bool isBrief = std::ranges::count(line, TokenKind::Word, &Token::Kind) <= few;
+  return !isOthers && std::ranges::any_of(line, [&](const Token& token) {
+    return HasUse(token, WordUse::Orders, WordUse::Season) ||
+           (HasUse(token, WordUse::Own) && (isBrief || token.Text.size() > 3));
   });
 }
 

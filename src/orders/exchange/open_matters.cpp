@@ -64,7 +64,9 @@ constexpr std::array TopicRows{
         "proef provet proby hergerissen indecis dudas indeciso indecisa watpliwosci vorschlag* "
         "proposition propuesta proposta proposal voorstel forslag propozycj* confuse verwirren "
         "brouiller despistar confonder* confundir verwarren forvirre forvirra zmylic archive "
-        "archiv archives archivo archivio arquivo archief arkiv archiwum duvidas tvekar wstrzymaj"},
+        "archiv archives archivo archivio arquivo archief arkiv archiwum duvidas tvekar wstrzymaj "
+        "schwanke waham wavering vacilo hesito esito cajon schublade tiroir cassetto gaveta skuffe "
+        "byralada szuflad*"},
     TopicRow{Decide,
              "decided settled agreed fixed certain chosen checked verified finished "
              "entschieden entschlossen fest festgelegt beschlossen gepruft sicher fertig "
@@ -85,7 +87,8 @@ constexpr std::array TopicRows{
              "saisissez saisir enregistre apuntes apuntar introduzcas anotes registres registes "
              "registre registar inserire inserisci inserirl* registrare voer voert invoeren invul* "
              "skriv indtast wpisuj* wpisywac wprowadza* program programm programme programa "
-             "programma programmet programu eingeben"},
+             "programma programmet programu eingeben lances lancar ror beruhr* touche toques "
+             "toccare toccarli"},
     TopicRow{Until,
              "until till before unless once erst bevor ehe sobald solange avant jusqua jusque tant "
              "des hasta antes mientras cuanto prima finche appena quando ate antes enquanto assim "
@@ -104,7 +107,7 @@ constexpr std::array TopicRows{
              "esperando esperar aspetto aspettando attendo espero wacht wachten wachtend venter "
              "vente avventer vantar vanta czekam czekajac poczekaj poczekajcie aspetta aspettate "
              "attendez espera esperad warte wartet vent zuruckhalten guarda "
-             ""},
+             " segura"},
     TopicRow{Tell,
              "tell sage sag sagt dis dirai redis digo dime dire decir dico diro dimmi dirti "
              "diz digo direi zeg zegt siger sig sier sager sag powiem powiedz"},
@@ -140,7 +143,7 @@ constexpr std::array TopicRows{
              "cambi cambiando diversamente mudar mude mudavas mudaria diferente veranderen "
              "verandert wijzigen aendre andre endre aendres aendrer andrer annerledes anderledes "
              "andra andras andrar annorlunda zmienic zmieni zmienil* inaczej umwerfe umwerfen "
-             "endrer zmienie"},
+             "endrer zmienie redo rework"},
     TopicRow{Still,
              "still yet noch encore todavia aun ancora ainda nog stadig fortsatt fortfarande "
              "annu jeszcze wciaz sigue siguen"},

@@ -22,6 +22,7 @@
 #include "orders/exchange/sayings.h"
 #include "orders/exchange/second_thoughts.h"
 #include "orders/exchange/segments.h"
+#include "orders/exchange/sentences.h"
 #include "orders/exchange/shared_words.h"
 #include "orders/exchange/slips.h"
 #include "orders/exchange/source_line.h"
@@ -40,6 +41,15 @@ namespace {
 /// Reads a text line by line; what headings say is kept for the lines below. A line goes through
 /// these steps: the exact form, then signs that it belongs to a mail, then headings, then comments
 /// cut off its end, then its orders, separated by semicolons, commas, full stops or nothing at all.
+/// The power that a title begins or ends with, or that its last sentence is about, or 0.
+int HeadsPower(Tokens title) {
+  constexpr std::size_t few = 8;
+  if (const int first = PowerAt(title, 0).Power; first != 0) return first;
+  const Tokens last = LastSentence(title);
+  if (last.size() <= few) return PowerIn(last);
+  return PowerIn(title.last(std::min(few, title.size())));
+}
+
 class TextReader {
  public:
   TextReader(const KnownGame& known, const ReadingOptions& options)
@@ -252,7 +262,7 @@ class TextReader {
     } else if (!said.empty() && IsA(said.back(), TokenKind::Colon) && !isTitle_) {
       if (IsOwnTitle(said) || Corrects(said)) return TakeOwnTitle(said);
       rows_.Around.EntitleBlock(Quoted(said) + " is not understood",
-                                {line.Offset, line.Bytes.size()}, PowerIn(said));
+                                {line.Offset, line.Bytes.size()}, HeadsPower(said));
     }
   }
 

@@ -474,6 +474,24 @@ constexpr std::array SayingTable{
         Saying::Chats,
         "no corrections|keine korrekturen|pas de correction|nessuna correzione|ninguna "
         "correccion|nenhuma correcao|geen correcties|ingen rettelser|inga rattelser|bez poprawek"},
+    SayingPhrases{
+        Saying::Postpones,
+        "signed off|up in the air|en el aire|in der schwebe|en suspens|in sospeso|in de lucht|i "
+        "luften|set in stone|in stein|dans le marbre|en piedra|em pedra|nella pietra|i sten|te "
+        "dirai|vous dirai|te dire|ti diro|ti dico|te digo|sag ich dir|sage ich dir|zeg ik je|siger "
+        "jeg dig|sager jag dig|powiem ci|doy vueltas|em discussao|en discusion|in discussione|in "
+        "overleg|on ice|auf eis|in de ijskast|au frigo|stand by|vent lige|vent med|vanta med|warte "
+        "damit|drubers schlafen|schlafe druber|dormir dessus|almohada|dormo sopra|sove pa|sova "
+        "pa|przespac|aterkommer|melder meg|melder mig|czekaj na|czekac na|warte auf mein|attends "
+        "mon|aspetta il mio|espera a mi"},
+    SayingPhrases{Saying::Titles,
+                  "pongamos por caso|supongamos|faz de conta|fais comme si|om jag vore|hvis jeg "
+                  "var|gesetzt den fall|angenommen|supposons|mettons que|mettiamo che|facciamo "
+                  "finta|stel dat|gdybym byl*|lets say i|lets pretend"},
+    SayingPhrases{Saying::Postpones, "em discussao|da limare"},
+    SayingPhrases{Saying::Revokes,
+                  "raye|tacha lo|tacha la|risca a|risca "
+                  "o|anulalas|anulalos|annullali|annullale|anula - as|nie bierz pod"},
 };
 
 }  // namespace

@@ -67,7 +67,8 @@ constexpr std::array SignalRows{
         "chodzilo mysli"},
     SignalRow{
         Signal::Takes,
-        "use uses used take takes took play plays played repeat reuse redo copy keep enter run "
+        "park use uses used take takes took play plays played repeat reuse redo copy keep enter "
+        "run "
         "process resubmit file do does did make call ring contact check wait await choose pick "
         "drop skip "
         "strike leave remove replace replaced swap reverse revert undo change changed switch "
