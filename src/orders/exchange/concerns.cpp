@@ -114,6 +114,16 @@ bool Concerns(const Concern& concern, std::string_view order) {
   return std::ranges::find(concern.Provinces, ProvinceOf(order)) != concern.Provinces.end();
 }
 
+std::vector<std::string> PlacesIn(Tokens tokens, const PlaceNames& names, const model::Map& map) {
+  constexpr std::size_t nameLength = 3;
+  std::vector<std::string> places;
+  for (std::size_t at = 0; at < tokens.size(); ++at) {
+    const int row = PlaceAt(tokens, at, names);
+    if (row != 0) places.push_back(text::UpperCase(map.Provinces[row].Name.substr(0, nameLength)));
+  }
+  return places;
+}
+
 Concern ConcernOf(Tokens tokens, const PlaceNames& names, const model::Map& map) {
   Concern concern;
   if (FindSaying(tokens, Saying::Chats)) return concern;

@@ -14,6 +14,7 @@ namespace orb::exchange {
 struct Concern {
   std::vector<std::string> Provinces;  ///< of their units, in capitals: "PAR"
   bool OfTargets = false;              ///< and of those that are to go or to help there
+  bool OnlyAbove = false;              ///< it may be about no orders below
   bool IsOwn = false;     ///< the line begins as an order of its unit, and is about no other
   bool MayBeAll = false;  ///< all, if none of them is for a unit in one of the provinces
 };
@@ -26,6 +27,9 @@ std::string TargetOf(std::string_view order);
 
 /// Whether an order is for a unit in one of the provinces.
 bool Concerns(const Concern& concern, std::string_view order);
+
+/// The provinces that words name, "BUR".
+std::vector<std::string> PlacesIn(Tokens tokens, const PlaceNames& names, const model::Map& map);
 
 /// What a line that is not understood may be about: one that begins as an order about its own unit,
 /// prose about every place that it names, and where it makes a condition about all.

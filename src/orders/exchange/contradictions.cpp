@@ -90,7 +90,10 @@ void WeighUnclear(std::vector<ReadLine>& lines, const std::vector<Surroundings>&
         const auto [first, last] = orders.equal_range(owner + province);
         isOfSome = isOfSome || first != last;
         auto at = first;
-        for (; at != last && corrections[at->second] <= corrections[i]; ++at)
+        const auto mayBe = [&](std::size_t row) {
+          return corrections[row] <= corrections[i] && (row < i || !about.OnlyAbove);
+        };
+        for (; at != last && mayBe(at->second); ++at)
           MakeDoubtful(lines[at->second], reason, line.Place);
         // What is doubted once stays so, and need not be looked at again.
         orders.erase(first, at);

@@ -127,6 +127,19 @@ bool IsDoubtfulSign(const Token& token) {
   return token.Text == "?" || token.Text == "<" || token.Text == "~" || token.Text == "%";
 }
 
+bool BeginsCondition(Tokens remark, const PlaceNames& names) {
+  constexpr auto conjunctions = std::to_array<std::string_view>(
+      {"if", "unless", "si", "se", "om", "als", "hvis", "ob", "wenn", "falls", "sofern", "caso"});
+  constexpr std::ptrdiff_t few = 3;
+  const auto first = std::ranges::find_if(remark, IsWordToken);
+  const bool isParted = first != remark.end() && first + 1 != remark.end() &&
+                        !IsA(*(first + 1), TokenKind::Word);  // "si, de verdad"
+  const auto at = static_cast<std::size_t>(first - remark.begin());
+  return first != remark.end() && IsOneOf(*first, conjunctions) && !isParted &&
+         LengthOfPlainPhrase(remark, at, names) == 0 && !FindSaying(remark, Saying::Shrugs) &&
+         std::ranges::count_if(remark, IsWordToken) > few - 1;
+}
+
 std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceNames& names, int power,
                                     EverydayWords everyday) {
   if (IsOutcome(remark)) return TokenRange{0, remark.size()};
@@ -139,6 +152,7 @@ std::optional<TokenRange> FindDoubt(Tokens remark, Tokens order, const PlaceName
     return std::ranges::any_of(remark, [&](const Token& token) { return HasUse(token, use); });
   };
   const bool isPurpose = has(WordUse::Purpose);
+  if (!isPurpose && BeginsCondition(remark, names)) return TokenRange{0, remark.size()};
   const bool maySpeakToPowers = isPurpose || has(WordUse::Mood);
   std::optional<OwnWords> own;
   // "Over my dead body" and "my brother's orders" are of no everyday life.

@@ -15,6 +15,9 @@ namespace orb::exchange {
 /// What words of players' everyday life do in a remark.
 enum class EverydayWords : std::uint8_t { Harmless, Doubted };
 
+/// Whether words begin as a condition does: "si es que se puede", "om fransosen vill".
+bool BeginsCondition(Tokens words, const PlaceNames& names);
+
 /// The first words of a remark that may change the order beside it. Thanks and the like never do,
 /// nor does what repeats a place, power or verb of the order itself.
 /// `power`: whose order it is, 0: not known.

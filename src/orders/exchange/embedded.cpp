@@ -57,8 +57,12 @@ bool MayGoOn(Tokens rest, const PlaceNames& names) {
       "bounced",  "bounce",    "bounces", "fails", "failed",    "failure",
       "succeeds", "succeeded", "success", "cut",   "dislodged", "void"};
   const bool isDash = IsA(rest[0], TokenKind::Dash) && rest.size() > 1 && names.At(rest, 1).empty();
-  const bool isThought = isDash && (rest[0].Text == "--" || HasUse(rest[1], WordUse::Reservation) ||
-                                    std::ranges::find(outcomes, rest[1].Text) != outcomes.end());
+  const bool isApart = isDash && !rest[0].Glued && !rest[1].Glued && IsWordToken(rest[1]) &&
+                       VerbOf(rest[1]) == Verb::None &&
+                       (!rest[1].Capital || std::ranges::count_if(rest, IsWordToken) > 1);
+  const bool isThought =
+      isDash && (isApart || rest[0].Text == "--" || HasUse(rest[1], WordUse::Reservation) ||
+                 std::ranges::find(outcomes, rest[1].Text) != outcomes.end());
   // "to bounce him" tells a purpose.
   const bool isPurpose =
       IsWord(rest[0], "to") && rest.size() > 1 && HasUse(rest[1], WordUse::Purpose);

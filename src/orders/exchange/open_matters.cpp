@@ -282,7 +282,9 @@ bool AsksOfLife(Tokens sentence) {
       static_cast<unsigned>(Signal::Leaves) | static_cast<unsigned>(Signal::Takes) |
       static_cast<unsigned>(Signal::Rejects) | static_cast<unsigned>(Signal::Chooses) |
       static_cast<unsigned>(Signal::Plans);
+  constexpr auto auxiliaries = std::to_array<std::string_view>({"did", "do", "does", "can"});
   bool isOfLife = false;
+  if (!sentence.empty() && IsOneOf(sentence[0], auxiliaries)) sentence = sentence.subspan(1);
   for (const Token& token : sentence) {
     const Verb verb = token.Means.Does;
     const bool orders = verb != Verb::None && verb != Verb::Move && token.Text.size() > 2;

@@ -44,7 +44,11 @@ namespace {
 /// The power that a title begins or ends with, or that its last sentence is about, or 0.
 int HeadsPower(Tokens title) {
   constexpr std::size_t few = 8;
-  if (const int first = PowerAt(title, 0).Power; first != 0) return first;
+  const PowerName first = PowerAt(title, 0);
+  const bool heads = first.Power != 0 && first.Next < title.size() &&
+                     (title.size() <= few || !IsA(title[first.Next], TokenKind::Word) ||
+                      HasUse(title[first.Next], WordUse::Orders, WordUse::Season));
+  if (heads) return first.Power;
   const Tokens last = LastSentence(title);
   if (last.size() <= few) return PowerIn(last);
   return PowerIn(title.last(std::min(few, title.size())));

@@ -137,7 +137,14 @@ void Rows::AddProblem(const SourceLine& line, TokenRange range, const Fault& pro
   read.Reason = problem.Reason;
   // A line that names its own power counts for that.
   if (const int power = PowerAt(tokens, 0).Power; power != 0) read.Power = PowerText(power);
-  Around.SetAbout(ConcernOf(tokens, known_.Names, *known_.Game.Map));
+  Concern about = ConcernOf(tokens, known_.Names, *known_.Game.Map);
+  // Whatever place such words name, as a unit's or as where one goes to, they may be about it.
+  if (about.Provinces.empty() && !FindSaying(tokens, Saying::Chats) && PowerIn(tokens) == 0) {
+    const Tokens said = understood_.empty() ? Tokens(line.All) : tokens;
+    about.Provinces = PlacesIn(said, known_.Names, *known_.Game.Map);
+    about.OfTargets = about.OnlyAbove = true;
+  }
+  Around.SetAbout(std::move(about));
   const std::size_t begin = range.Begin + problem.At.Begin;
   const std::size_t end = std::min(range.Begin + problem.At.End, range.End);
   read.ReasonPlace =

@@ -161,9 +161,9 @@ bool Rows::IsOfAnotherMatter(const SourceLine& line, const Said& said) const {
   });
   // "Looking forward to the results."
   const bool chats = FindSaying(sentence, Saying::Chats).has_value();
-  return isBehind && !speaksOfUnits && !NamesPlace(sentence, known_.Names) &&
-         PowerIn(sentence) == 0 && (chats || !SaysOfOrders(sentence)) &&
-         (Apologizes(sentence) || !Reconsiders(sentence)) &&
+  return isBehind && !speaksOfUnits && !BeginsCondition(sentence, known_.Names) &&
+         !NamesPlace(sentence, known_.Names) && PowerIn(sentence) == 0 &&
+         (chats || !SaysOfOrders(sentence)) && (Apologizes(sentence) || !Reconsiders(sentence)) &&
          (chats || !ReadAside(sentence, known_.Names)) && !ReadReservation(sentence, true) &&
          !FindBearing(sentence, known_.Names);
 }
