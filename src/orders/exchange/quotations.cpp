@@ -1,6 +1,7 @@
 #include "orders/exchange/quotations.h"
 
 #include "orders/exchange/line_kinds.h"
+#include "orders/exchange/sentences.h"
 #include "text/strings.h"
 
 #include <algorithm>
@@ -63,15 +64,6 @@ bool IsLabelled(Tokens tokens) {
          IsA(tokens[at + 1], TokenKind::Colon);
 }
 
-/// What is behind the last full stop.
-Tokens LastSentence(Tokens line) {
-  for (std::size_t at = line.size(); at > 1; --at) {
-    if (at < line.size() && IsA(line[at - 1], TokenKind::Dot) && !line[at].Glued)
-      return line.subspan(at);
-  }
-  return line;
-}
-
 /// Whether words say that somebody wrote to the writer: "he wrote me yesterday:".
 bool IsToWriter(Tokens line) {
   constexpr std::array<std::string_view, 9> writer{"me",  "mir", "moi",  "mig", "meg",
@@ -112,7 +104,7 @@ bool IsSubject(Tokens tokens) {
 
 bool IsQuotationHead(std::string_view line, Tokens tokens) {
   // "Forget what I wrote. My orders:" quotes nothing.
-  const Tokens last = LastSentence(tokens);
+  const Tokens last = tokens.empty() ? tokens : LastSentence(tokens);
   const bool isQuoting =
       !tokens.empty() && IsA(tokens.back(), TokenKind::Colon) &&
       std::ranges::any_of(last, [](const Token& token) {
