@@ -62,10 +62,13 @@ const std::array<PhraseTable, 2>& Tables() {
 /// Calls with each phrase that may begin with a word.
 template <class Use>
 void ForPhrasesAt(std::string_view word, const Use& use) {
+  static const auto& tables = Tables();
   const std::array keys{word, word.substr(0, StemLength)};
   for (std::size_t i = 0; i < keys.size(); ++i) {
-    const auto found = Tables()[i].find(keys[i]);
-    if (found == Tables()[i].end()) continue;
+    // No stem is shorter than its key.
+    if (i > 0 && word.size() < StemLength) break;
+    const auto found = tables[i].find(keys[i]);
+    if (found == tables[i].end()) continue;
     for (const Phrase& phrase : found->second)
       use(phrase);
   }
@@ -80,11 +83,12 @@ std::size_t LengthAt(Tokens tokens, std::size_t at, Saying saying) {
   std::size_t length = 0;
   ForPhrasesAt(tokens[at].Text, [&](const Phrase& phrase) {
     if (length > 0 || phrase.Says != saying || phrase.Words.size() > tokens.size() - at) return;
-    if (phrase.IsAll && CountWords(tokens) != phrase.Words.size()) return;
     const bool isHere = std::equal(
         phrase.Words.begin(), phrase.Words.end(), tokens.begin() + static_cast<std::ptrdiff_t>(at),
         [](std::string_view expected, const Token& token) { return Matches(token, expected); });
-    if (isHere) length = phrase.Words.size();
+    // The words of a long line are counted last: that takes longest.
+    if (isHere && (!phrase.IsAll || CountWords(tokens) == phrase.Words.size()))
+      length = phrase.Words.size();
   });
   return length;
 }
